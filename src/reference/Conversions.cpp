@@ -1,0 +1,240 @@
+#include "reference/Conversions.h"
+
+#include "reference/Numbers.h"
+#include "reference/ReferenceDatabases.h"
+#include "reference/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace vexora {
+
+namespace {
+
+enum class Kind { Multiply, Divide, PerMass, PerMassKilo, Kilo, Celsius, Fahrenheit };
+
+/// How a built-in code leads to the system unit; PerMass kinds take the molar mass M [g/mol],
+/// Kilo kinds divide by 1000.
+struct BuiltIn {
+    std::string_view code;
+    Kind kind;
+    double constant;
+};
+
+// Constants: defined calories (4.184 and 4.1868 J), the gas constant of CODATA 1986, standard
+// atmosphere and pound definitions, rounded as the stored data were entered with.
+constexpr std::array<BuiltIn, 49> kBuiltIn{{
+    {"C", Kind::Celsius, 273.15},
+    {"F", Kind::Fahrenheit, 255.372},
+    {"R", Kind::Divide, 1.8},
+    {"T", Kind::Multiply, 0.133322},
+    {"I", Kind::Multiply, 3.386739},
+    {"A", Kind::Multiply, 101.325},
+    {"a", Kind::Divide, 101.325},
+    {"L", Kind::Multiply, 6.894757},
+    {"K", Kind::Multiply, 98.0665},
+    {"k", Kind::Divide, 98.0665},
+    {"V", Kind::Divide, 16.01847},
+    {"v", Kind::Multiply, 16.01847},
+    {"U", Kind::Divide, 16018.47},
+    {"u", Kind::Multiply, 16018.47},
+    {"Z", Kind::PerMassKilo, 1},
+    {"G", Kind::PerMassKilo, 4.184},
+    {"J", Kind::Multiply, 4.184},
+    {"P", Kind::PerMassKilo, 4.1868},
+    {"Q", Kind::Multiply, 4.1868},
+    {"B", Kind::PerMassKilo, 2.326},
+    {"M", Kind::Kilo, 2.326},
+    {"z", Kind::PerMass, 1},
+    {"Y", Kind::PerMass, 4.184},
+    {"E", Kind::Multiply, 4.184},
+    {"N", Kind::PerMass, 4.1868},
+    {"H", Kind::Multiply, 4.1868},
+    {"W", Kind::Multiply, 418.4},
+    {"x", Kind::Multiply, 418.68},
+    {"y", Kind::Multiply, 1.163},
+    {"w", Kind::Multiply, 1.73073},
+    {"X", Kind::Multiply, 8.31451},
+    {"mPa", Kind::Multiply, 0.000001},
+    {"Pa", Kind::Multiply, 0.001},
+    {"MegaPa", Kind::Multiply, 1000},
+    {"bar", Kind::Multiply, 100},
+    {"mbar", Kind::Multiply, 0.1},
+    {"J/mol", Kind::Multiply, 0.001},
+    {"dm3/mol", Kind::Multiply, 0.001},
+    {"cm3/mol", Kind::Multiply, 0.000001},
+    {"mm3/mol", Kind::Multiply, 0.000000001},
+    {"g/cm3", Kind::Multiply, 1000},
+    {"mW/m/K", Kind::Multiply, 0.001},
+    {"Poise", Kind::Multiply, 0.1},
+    {"mPa*s", Kind::Multiply, 0.001},
+    {"centiStoke", Kind::Multiply, 0.000001},
+    {"J/K/cm3", Kind::Multiply, 1000000},
+    {"Hz", Kind::Multiply, 0.000001},
+    {"kHz", Kind::Multiply, 0.001},
+    {"GHz", Kind::Multiply, 1000},
+}};
+
+const BuiltIn* FindBuiltIn(std::string_view code) {
+    const auto* found = std::ranges::find(kBuiltIn, code, &BuiltIn::code);
+    return found == kBuiltIn.end() ? nullptr : found;
+}
+
+double Forward(const BuiltIn& unit, double value, double molarMass) {
+    switch (unit.kind) {
+    case Kind::Multiply:
+        return value * unit.constant;
+    case Kind::Divide:
+        return value / unit.constant;
+    case Kind::PerMass:
+        return value * unit.constant * molarMass;
+    case Kind::PerMassKilo:
+        return value * unit.constant * molarMass / 1000;
+    case Kind::Kilo:
+        return value * unit.constant / 1000;
+    case Kind::Celsius:
+        return value + unit.constant;
+    case Kind::Fahrenheit:
+        return value / 1.8 + unit.constant;
+    }
+    return 0;
+}
+
+double Backward(const BuiltIn& unit, double value, double molarMass) {
+    if (IsMassBased(unit.code) && molarMass <= 0) return 0;
+    switch (unit.kind) {
+    case Kind::Multiply:
+        return value / unit.constant;
+    case Kind::Divide:
+        return value * unit.constant;
+    case Kind::PerMass:
+        return value / unit.constant / molarMass;
+    case Kind::PerMassKilo:
+        return value / unit.constant / molarMass * 1000;
+    case Kind::Kilo:
+        return value / unit.constant * 1000;
+    case Kind::Celsius:
+        return value - unit.constant;
+    case Kind::Fahrenheit:
+        return (value - unit.constant) * 1.8;
+    }
+    return 0;
+}
+
+/// FACTOR of the row with exactly this code (and unit, when named).
+double RowFactor(std::string_view code, std::string_view unit) {
+    const ReferenceDatabases* databases = CurrentDatabases();
+    if (!databases) return 0;
+    const Recordset rows = databases->LocalDb.Query(
+        "select FACTOR from Conversions where ConversionCode=? collate binary"
+        " and (?='' or Unit=? collate binary) order by rowid",
+        {code, unit, unit});
+    return rows.Number("FACTOR");
+}
+
+double OuterFactor(std::string_view code) {
+    return IsNumeric(code) ? Val(code) : RowFactor(code, {});
+}
+
+bool IsIdentity(std::string_view code) {
+    return code == "*" || IsSystemUnit(code);
+}
+
+} // namespace
+
+double ToSystem(std::string_view code, double value, double factor, double molarMass) {
+    if (factor > 0) return value * factor;
+    if (const BuiltIn* unit = FindBuiltIn(code)) return Forward(*unit, value, molarMass);
+    return IsIdentity(code) ? value : value * OuterFactor(code);
+}
+
+double FromSystem(std::string_view code, double value, double factor, double molarMass) {
+    if (factor > 0) return value / factor;
+    if (const BuiltIn* unit = FindBuiltIn(code)) return Backward(*unit, value, molarMass);
+    if (IsIdentity(code)) return value;
+    const double outer = OuterFactor(code);
+    return outer == 0 ? 0 : value / outer;
+}
+
+double ConversionFactor(std::string_view code, std::string_view unit) {
+    if (IsIdentity(code)) return 1;
+    if (const BuiltIn* builtIn = FindBuiltIn(code)) {
+        if (IsTemperatureOffset(code)) return code == "C" ? 1 : 1 / 1.8;
+        return Forward(*builtIn, 1, 1);
+    }
+    return IsNumeric(code) ? Val(code) : RowFactor(code, unit);
+}
+
+bool IsMassBased(std::string_view code) {
+    const BuiltIn* unit = FindBuiltIn(code);
+    return unit && (unit->kind == Kind::PerMass || unit->kind == Kind::PerMassKilo);
+}
+
+bool IsSystemUnit(std::string_view code) {
+    return code == "S" || code == "D" || IsBlankField(code);
+}
+
+bool IsTemperatureOffset(std::string_view code) {
+    return code == "C" || code == "F";
+}
+
+bool IsUnitLetter(std::string_view code) {
+    return CodePointCount(code) == 1 && !IsNumeric(code) && code != "*" && code != "&";
+}
+
+bool IsUnitLong(std::string_view code) {
+    return !IsBlankField(code) && code != "*" && !IsUnitLetter(code);
+}
+
+bool IsKnownConversion(std::string_view code) {
+    return IsIdentity(code) || ConversionFactor(code) != 0;
+}
+
+std::string ConversionText(std::string& code, std::string_view unit, std::string_view context) {
+    if (code == "X") return "*8.31451";
+    const ReferenceDatabases* databases = CurrentDatabases();
+    if (!databases) return {};
+    Recordset rows = databases->LocalDb.Query(
+        "select * from Conversions where ConversionCode=? and (?='' or Unit=? collate binary)"
+        " order by rowid",
+        {code, unit, unit});
+    const bool none = rows.IsEnd();
+    std::string text;
+    for (; !rows.IsEnd(); rows.MoveNext())
+        if (rows.Text("ConversionCode") == code) text = rows.Text("Conversion");
+    if (none && context == "React" && code.find(' ') != std::string::npos) {
+        if (code.front() == 'Z')
+            code.front() = 'S';
+        else if (code.front() == 'G')
+            code.front() = 'J';
+    }
+    return text;
+}
+
+std::string ConversionCodeOf(std::string_view text, std::string_view unit) {
+    const ReferenceDatabases* databases = CurrentDatabases();
+    if (!databases || text.find('\'') != std::string_view::npos) return "S";
+    const Recordset rows = databases->LocalDb.Query(
+        "select ConversionCode from Conversions where Conversion=? collate binary"
+        " and (?='' or Unit=? collate binary) order by rowid",
+        {text, unit, unit});
+    return rows.IsEnd() ? "S" : rows.Text("ConversionCode");
+}
+
+std::vector<std::string> UnitList(std::string_view unit) {
+    std::vector<std::string> list = FixedUnitList(unit);
+    const ReferenceDatabases* databases = CurrentDatabases();
+    if (unit == "1" || !databases) return list;
+    Recordset rows = databases->LocalDb.Query(
+        "select Conversion from Conversions where Unit=? collate binary order by rowid", {unit});
+    for (; !rows.IsEnd(); rows.MoveNext())
+        list.push_back(rows.Text("Conversion"));
+    return list;
+}
+
+std::vector<std::string> FixedUnitList(std::string_view unit) {
+    return {unit == "1" ? "Dimensionless" : std::string(unit)};
+}
+
+} // namespace vexora

@@ -1,0 +1,51 @@
+// Values between the unit that a paper used and the system unit of their quantity. A conversion is
+// named by a code: a built-in letter or unit word, a number (the factor itself), or a row of the
+// table `Conversions`. Codes are compared with exact case: "K" and "k" are different units.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+/// The value in the system unit. `factor` > 0 (the operator's own factor, 0 = none) replaces the
+/// code. `molarMass` [g/mol] serves the mass-based codes; 0 makes them 0. "S", "D", "", "&" and "*"
+/// leave the value as it is; an unknown code gives 0.
+double ToSystem(std::string_view code, double value, double factor, double molarMass);
+/// The inverse. A mass-based code with no positive molar mass, an unknown code or one with factor 0
+/// gives 0.
+double FromSystem(std::string_view code, double value, double factor, double molarMass);
+
+/// What one entered unit is in system units: the built-in constant (per 1 g/mol where the code is
+/// mass-based), the number that the code itself is, or the row's FACTOR (of this system unit, when
+/// one is named); 0 if there is none, 1 for a code that means the system unit.
+double ConversionFactor(std::string_view code, std::string_view unit = {});
+
+/// True for the codes that need the molar mass: Z G P B z Y N.
+bool IsMassBased(std::string_view code);
+/// True for the codes that stand for the system unit: "S", "D", "", "&".
+bool IsSystemUnit(std::string_view code);
+/// True for the codes whose value carries an offset against the system unit: "C" and "F".
+bool IsTemperatureOffset(std::string_view code);
+/// True for a single letter: a code that record lines keep as it is.
+bool IsUnitLetter(std::string_view code);
+/// True for every other code but "*": numbers and unit words, which record lines replace by "S"
+/// and a factor.
+bool IsUnitLong(std::string_view code);
+/// True when ToSystem knows the code, by heart or by a row.
+bool IsKnownConversion(std::string_view code);
+
+/// The unit text of a code, of this system unit when one is named; "" if there is none. "X" is
+/// always "*8.31451". In the context "React" a code with a blank that has no row gets its old first
+/// letter replaced ("Z" by "S", "G" by "J") for the caller's next call.
+std::string ConversionText(std::string& code, std::string_view unit, std::string_view context = {});
+/// The code of a unit text (of this system unit when one is named); "S" when there is none, and for
+/// every text with an apostrophe.
+std::string ConversionCodeOf(std::string_view text, std::string_view unit = {});
+/// The units offered for a system unit, itself first; "Dimensionless" alone for "1".
+std::vector<std::string> UnitList(std::string_view unit);
+/// Only the system unit, or "Dimensionless" for "1".
+std::vector<std::string> FixedUnitList(std::string_view unit);
+
+} // namespace vexora

@@ -1,0 +1,228 @@
+#include "reference/Database.h"
+
+#include "reference/Text.h"
+
+#include <sqlite3.h>
+
+namespace vexora {
+
+namespace {
+
+std::string_view Argument(sqlite3_value* value) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)))
+                : std::string_view();
+}
+
+/// like(pattern, text) behind the operator LIKE; the user data says whether case counts.
+void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+    const bool caseSensitive = sqlite3_user_data(context) != nullptr;
+    sqlite3_result_int(context,
+                       Like(Argument(arguments[0]), Argument(arguments[1]), caseSensitive));
+}
+
+void Configure(sqlite3* handle) {
+    constexpr int kBusyMilliseconds = 3000;
+    sqlite3_busy_timeout(handle, kBusyMilliseconds);
+    // A text that equals no column name must stay an error, not turn into a text constant.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    const int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+    static int caseCounts = 1;
+    sqlite3_create_function(handle, "like", 2, flags, nullptr, LikeFunction, nullptr, nullptr);
+    sqlite3_create_function(handle, "like_case", 2, flags, &caseCounts, LikeFunction, nullptr,
+                            nullptr);
+}
+
+[[noreturn]] void Fail(sqlite3* handle, const std::string& where) {
+    throw DatabaseError(where + ": " + (handle ? sqlite3_errmsg(handle) : "out of memory"));
+}
+
+void Bind(sqlite3_stmt* statement, int index, const SqlValue& value) {
+    int code = SQLITE_OK;
+    if (const auto* integer = std::get_if<std::int64_t>(&value.Get()))
+        code = sqlite3_bind_int64(statement, index, *integer);
+    else if (const auto* number = std::get_if<double>(&value.Get()))
+        code = sqlite3_bind_double(statement, index, *number);
+    else if (const auto* text = std::get_if<std::string>(&value.Get()))
+        code = sqlite3_bind_text64(statement, index, text->data(), text->size(), SQLITE_TRANSIENT,
+                                   SQLITE_UTF8);
+    if (code != SQLITE_OK) Fail(sqlite3_db_handle(statement), "Wrong statement");
+}
+
+std::string Quoted(std::string_view name) {
+    return '"' + Replace(name, "\"", "\"\"") + '"';
+}
+
+} // namespace
+
+void Recordset::Finalizer::operator()(sqlite3_stmt* statement) const {
+    sqlite3_finalize(statement);
+}
+
+Recordset::Recordset(Statement statement) : statement_(std::move(statement)) {
+    MoveNext();
+}
+
+void Recordset::MoveNext() {
+    if (!statement_) return;
+    const int code = sqlite3_step(statement_.get());
+    if (code == SQLITE_ROW) return;
+    if (code != SQLITE_DONE) {
+        sqlite3* handle = sqlite3_db_handle(statement_.get());
+        const char* file = sqlite3_db_filename(handle, "main");
+        Fail(handle, file ? file : "");
+    }
+    statement_.reset();
+}
+
+int Recordset::Column(std::string_view field) const {
+    if (!statement_) return -1;
+    const int count = sqlite3_column_count(statement_.get());
+    for (int i = 0; i < count; ++i)
+        if (EqualNoCase(sqlite3_column_name(statement_.get(), i), field)) return i;
+    return -1;
+}
+
+std::string Recordset::Text(std::string_view field) const {
+    const int column = Column(field);
+    if (column < 0) return {};
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
+    if (!text) return {};
+    return {text, static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column))};
+}
+
+double Recordset::Number(std::string_view field) const {
+    const int column = Column(field);
+    return column < 0 ? 0.0 : sqlite3_column_double(statement_.get(), column);
+}
+
+std::int64_t Recordset::Integer(std::string_view field) const {
+    const int column = Column(field);
+    return column < 0 ? 0 : sqlite3_column_int64(statement_.get(), column);
+}
+
+void Database::Closer::operator()(sqlite3* handle) const {
+    sqlite3_close_v2(handle);
+}
+
+Database::Handle Database::OpenHandle(const std::string& path, int flags) {
+    sqlite3* raw = nullptr;
+    const int code = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
+    Handle handle(raw);
+    if (code != SQLITE_OK) Fail(raw, path);
+    Configure(raw);
+    if (sqlite3_exec(raw, "select count(*) from sqlite_master", nullptr, nullptr, nullptr))
+        Fail(raw, path);
+    return handle;
+}
+
+void Database::Open(const std::string& path, bool readOnly) {
+    handle_ = OpenHandle(path, readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+    path_ = path;
+}
+
+void Database::Create(const std::string& path) {
+    Close();
+    std::remove(path.c_str());
+    handle_ = OpenHandle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    path_ = path;
+}
+
+Recordset::Statement Database::Prepare(std::string_view sql, const SqlValues& values) const {
+    if (!handle_) throw DatabaseError("The database is not open");
+    sqlite3_stmt* raw = nullptr;
+    const int code =
+        sqlite3_prepare_v2(handle_.get(), sql.data(), static_cast<int>(sql.size()), &raw, nullptr);
+    Recordset::Statement statement(raw);
+    if (code != SQLITE_OK || !raw) Fail(handle_.get(), path_);
+    int index = 0;
+    for (const SqlValue& value : values)
+        Bind(raw, ++index, value);
+    return statement;
+}
+
+void Database::Execute(std::string_view sql, const SqlValues& values) {
+    Query(sql, values);
+}
+
+Recordset Database::Query(std::string_view sql, const SqlValues& values) const {
+    return Recordset(Prepare(sql, values));
+}
+
+std::int64_t Database::Insert(std::string_view table, const SqlAssignments& fields) {
+    std::string columns;
+    std::string marks;
+    SqlValues values;
+    for (const auto& [name, value] : fields) {
+        columns += (values.empty() ? "" : ",") + Quoted(name);
+        marks += values.empty() ? "?" : ",?";
+        values.push_back(value);
+    }
+    Execute("insert into " + Quoted(table) + " (" + columns + ") values (" + marks + ")", values);
+    return sqlite3_last_insert_rowid(handle_.get());
+}
+
+void Database::Update(std::string_view table, std::int64_t rowid, const SqlAssignments& fields) {
+    std::string columns;
+    SqlValues values;
+    for (const auto& [name, value] : fields) {
+        columns += (values.empty() ? "" : ",") + Quoted(name) + "=?";
+        values.push_back(value);
+    }
+    values.emplace_back(rowid);
+    Execute("update " + Quoted(table) + " set " + columns + " where rowid=?", values);
+}
+
+bool Database::HasTable(std::string_view table) const {
+    try {
+        Query("select * from " + Quoted(table) + " limit 1");
+        return true;
+    } catch (const DatabaseError&) {
+        return false;
+    }
+}
+
+Transaction::Transaction(Database& database) : database_(&database) {
+    database_->Execute("begin immediate");
+}
+
+Transaction::~Transaction() {
+    if (!database_) return;
+    try {
+        database_->Execute("rollback");
+    } catch (const DatabaseError&) {
+        // SQLite may have rolled back by itself (full disk); nothing is left to undo then.
+        database_ = nullptr;
+    }
+}
+
+void Transaction::Commit() {
+    if (!database_) return;
+    database_->Execute("commit");
+    database_ = nullptr;
+}
+
+BulkInsert::BulkInsert(Database& database, std::string_view table,
+                       const std::vector<std::string>& columns)
+    : database_(database) {
+    std::string names;
+    std::string marks;
+    for (const std::string& column : columns) {
+        names += (names.empty() ? "" : ",") + Quoted(column);
+        marks += marks.empty() ? "?" : ",?";
+    }
+    statement_ = database.Prepare(
+        "insert into " + Quoted(table) + " (" + names + ") values (" + marks + ")", {});
+}
+
+void BulkInsert::Add(const SqlValues& values) {
+    sqlite3_reset(statement_.get());
+    int index = 0;
+    for (const SqlValue& value : values)
+        Bind(statement_.get(), ++index, value);
+    if (sqlite3_step(statement_.get()) != SQLITE_DONE)
+        Fail(database_.handle_.get(), database_.Path());
+}
+
+} // namespace vexora

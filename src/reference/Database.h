@@ -1,0 +1,131 @@
+// The table store: SQLite files behind a small face. Values are always bound, never pasted into a
+// statement. Text columns compare without regard to case; whoever needs exact case says so in the
+// statement. Every statement that wants table order says "order by rowid". The two databases of a
+// run belong to ReferenceDatabases.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace vexora {
+
+/// What went wrong with a database file or a statement, in words for the user.
+class DatabaseError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One value of a statement or a row.
+class SqlValue {
+public:
+    SqlValue(std::string_view text) : value_(std::string(text)) {}
+    SqlValue(const std::string& text) : value_(text) {}
+    SqlValue(const char* text) : value_(std::string(text)) {}
+    SqlValue(std::int64_t number) : value_(number) {}
+    SqlValue(int number) : value_(std::int64_t{number}) {}
+    SqlValue(double number) : value_(number) {}
+    SqlValue(bool flag) : value_(std::int64_t{flag ? 1 : 0}) {}
+    const std::variant<std::int64_t, double, std::string>& Get() const { return value_; }
+
+private:
+    std::variant<std::int64_t, double, std::string> value_;
+};
+using SqlValues = std::vector<SqlValue>;
+using SqlAssignments = std::vector<std::pair<std::string, SqlValue>>;
+
+/// The rows of one query, stepped from the first to the last. Must not outlive its Database.
+/// Columns are found without regard to case; an absent column or a null reads as "" or 0.
+class Recordset {
+public:
+    /// True behind the last row (at once when there is none).
+    bool IsEnd() const { return !statement_; }
+    void MoveNext();
+    std::string Text(std::string_view field) const;
+    double Number(std::string_view field) const;
+    std::int64_t Integer(std::string_view field) const;
+    bool Flag(std::string_view field) const { return Integer(field) != 0; }
+
+private:
+    friend class Database;
+    friend class BulkInsert;
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
+    explicit Recordset(Statement statement);
+    int Column(std::string_view field) const;
+
+    Statement statement_;
+};
+
+/// One open database file. Every operation throws DatabaseError on failure, also on a closed one.
+class Database {
+public:
+    /// Opens an existing file; never creates one. A file that is no database is refused here.
+    /// Waits up to 3 s for a lock. On failure the object stays as it was.
+    void Open(const std::string& path, bool readOnly);
+    /// Makes an empty database file in place of whatever stands there.
+    void Create(const std::string& path);
+    void Close() { handle_.reset(); }
+    bool IsOpen() const { return handle_ != nullptr; }
+    const std::string& Path() const { return path_; }
+
+    /// Runs one statement that returns no rows.
+    void Execute(std::string_view sql, const SqlValues& values = {});
+    /// Runs a query; "?" in the text take the values in order. `a like b` there is the match of
+    /// Text.h, and like_case(pattern, text) the case-sensitive one.
+    Recordset Query(std::string_view sql, const SqlValues& values = {}) const;
+    /// Adds a row; returns its rowid.
+    std::int64_t Insert(std::string_view table, const SqlAssignments& fields);
+    /// Changes the row with this rowid.
+    void Update(std::string_view table, std::int64_t rowid, const SqlAssignments& fields);
+    /// True when the table exists and its rows can be read.
+    bool HasTable(std::string_view table) const;
+
+private:
+    friend class BulkInsert;
+    struct Closer {
+        void operator()(sqlite3* handle) const;
+    };
+    using Handle = std::unique_ptr<sqlite3, Closer>;
+    static Handle OpenHandle(const std::string& path, int flags);
+    Recordset::Statement Prepare(std::string_view sql, const SqlValues& values) const;
+
+    Handle handle_;
+    std::string path_;
+};
+
+/// All or nothing: rolls back at the end of the scope unless committed.
+class Transaction {
+public:
+    explicit Transaction(Database& database);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    void Commit();
+
+private:
+    Database* database_;
+};
+
+/// One insert statement run many times, for loads of whole tables.
+class BulkInsert {
+public:
+    BulkInsert(Database& database, std::string_view table, const std::vector<std::string>& columns);
+    void Add(const SqlValues& values);
+
+private:
+    Database& database_;
+    Recordset::Statement statement_;
+};
+
+} // namespace vexora

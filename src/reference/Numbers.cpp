@@ -1,0 +1,255 @@
+#include "reference/Numbers.h"
+
+#include "reference/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+namespace vexora {
+
+namespace {
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::size_t DigitsFrom(std::string_view text, std::size_t at) {
+    std::size_t end = at;
+    while (end < text.size() && IsDigit(text[end]))
+        ++end;
+    return end - at;
+}
+
+/// Length of the longest beginning of the number grammar, 0 if none.
+std::size_t NumberLength(std::string_view text) {
+    std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
+    const std::size_t whole = DigitsFrom(text, at);
+    at += whole;
+    if (at < text.size() && text[at] == '.') {
+        const std::size_t fraction = DigitsFrom(text, at + 1);
+        if (whole + fraction == 0) return 0;
+        at += 1 + fraction;
+    } else if (whole == 0) {
+        return 0;
+    }
+    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+        std::size_t exponent = at + 1;
+        if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+        const std::size_t digits = DigitsFrom(text, exponent);
+        if (digits > 0) at = exponent + digits;
+    }
+    return at;
+}
+
+/// True when a number of the grammar that is out of the range of doubles is too small, not too big.
+bool IsTiny(std::string_view number) {
+    const std::size_t e = number.find_first_of("eE");
+    if (e != std::string_view::npos && e + 1 < number.size()) return number[e + 1] == '-';
+    return number.find_first_of("123456789") > number.find('.');
+}
+
+/// Value of a text that matches the grammar whole; nothing when it is not finite.
+std::optional<double> Parse(std::string_view number) {
+    const std::string_view bare = number[0] == '+' ? number.substr(1) : number;
+    double value = 0;
+    const auto [end, error] = std::from_chars(bare.data(), bare.data() + bare.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        if (IsTiny(bare)) return 0.0;
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// The 15 significant decimal digits of |v| and the power of ten of the first one.
+struct Decimal {
+    std::string digits;
+    int exponent = 0;
+};
+
+Decimal ToDecimal(double v) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                            std::fabs(v), std::chars_format::scientific, 14);
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const std::size_t e = text.find('e');
+    Decimal result;
+    result.digits = std::string(1, text[0]) + std::string(text.substr(2, e - 2));
+    result.exponent = static_cast<int>(ToInteger(Val(text.substr(e + 1))));
+    return result;
+}
+
+/// Adds one to the last digit; true when the number became one digit longer.
+bool Increment(std::string& digits) {
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
+        if (*digit != '9') {
+            ++*digit;
+            return false;
+        }
+        *digit = '0';
+    }
+    digits.insert(digits.begin(), '1');
+    return true;
+}
+
+/// "000123" with 2 places is "1.23"; at least one digit stands before the point.
+std::string PlacePoint(std::string digits, std::size_t places) {
+    if (digits.size() <= places) digits.insert(0, places + 1 - digits.size(), '0');
+    const std::size_t extra = digits.size() - places - 1;
+    digits.erase(0, std::min(digits.find_first_not_of('0'), extra));
+    if (places > 0) digits.insert(digits.size() - places, ".");
+    return digits;
+}
+
+int IntegerDigits(double v) {
+    if (v == 0 || !std::isfinite(v)) return 0;
+    return static_cast<int>(std::floor(std::log10(std::fabs(v)) + 0.000001)) + 1;
+}
+
+bool HasOffset(std::string_view unitCode) {
+    return unitCode == "C" || unitCode == "F";
+}
+
+} // namespace
+
+bool IsNumeric(std::string_view text) {
+    text = TrimBlanks(text);
+    return !text.empty() && NumberLength(text) == text.size() && Parse(text).has_value();
+}
+
+double Val(std::string_view text) {
+    std::string packed;
+    if (text.find(' ') != std::string_view::npos) {
+        packed = Replace(text, " ", "");
+        text = packed;
+    }
+    const std::size_t length = NumberLength(text);
+    return length == 0 ? 0.0 : Parse(text.substr(0, length)).value_or(0.0);
+}
+
+std::string NumberText(double v) {
+    if (!std::isfinite(v) || v == 0) return "0";
+    Decimal decimal = ToDecimal(v);
+    std::string& digits = decimal.digits;
+    digits.erase(digits.find_last_not_of('0') + 1);
+    const std::string sign = v < 0 ? "-" : "";
+    const int e = decimal.exponent;
+    if (e >= -15 && e < 15) {
+        const int places = std::max(0, static_cast<int>(digits.size()) - 1 - e);
+        const auto width = static_cast<std::size_t>(e + 1 + places);
+        if (e >= 0 && digits.size() < width) digits.append(width - digits.size(), '0');
+        return sign + PlacePoint(digits, static_cast<std::size_t>(places));
+    }
+    if (digits.size() > 1) digits.insert(1, ".");
+    return sign + digits + (e < 0 ? "E-" : "E+") + std::to_string(std::abs(e));
+}
+
+std::string FormatFixed(double v, int decimals) {
+    if (!std::isfinite(v)) return "0";
+    decimals = std::max(decimals, 0);
+    Decimal decimal = v == 0 ? Decimal{"0", 0} : ToDecimal(v);
+    std::string& digits = decimal.digits;
+    const int keep = decimal.exponent + 1 + decimals; // digits that stay before the cut
+    if (keep < 0) {
+        digits = "0";
+    } else if (static_cast<std::size_t>(keep) < digits.size()) {
+        const bool up = digits[static_cast<std::size_t>(keep)] >= '5';
+        digits.resize(static_cast<std::size_t>(keep));
+        if (up) Increment(digits);
+    } else {
+        digits.append(static_cast<std::size_t>(keep) - digits.size(), '0');
+    }
+    const bool negative = v < 0 && digits.find_first_not_of('0') != std::string::npos;
+    return (negative ? "-" : "") + PlacePoint(digits, static_cast<std::size_t>(decimals));
+}
+
+std::optional<std::int64_t> ParseInteger(std::string_view text) {
+    text = TrimBlanks(text);
+    if (!text.empty() && text[0] == '+') {
+        text.remove_prefix(1);
+        if (text.empty() || !IsDigit(text[0])) return std::nullopt;
+    }
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return value;
+}
+
+std::int64_t ToInteger(double v) {
+    if (std::isnan(v)) return 0;
+    constexpr double kBound = 9223372036854775808.0; // 2^63
+    if (v >= kBound) return std::numeric_limits<std::int64_t>::max();
+    if (v <= -kBound) return std::numeric_limits<std::int64_t>::min();
+    const double floor = std::floor(v);
+    const double rest = v - floor;
+    const auto low = static_cast<std::int64_t>(floor);
+    if (rest > 0.5 || (rest == 0.5 && low % 2 != 0)) return low + 1;
+    return low;
+}
+
+std::string NormalizeNumber(std::string_view text) {
+    std::string result(TrimBlanks(text));
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        if (result[i] == ',')
+            result[i] = '.';
+        else if (result[i] == ' ')
+            result.erase(i, 1);
+    }
+    if (!result.empty() && result[0] == '.') result.insert(0, "0");
+    return result;
+}
+
+int DecimalPlaces(std::string_view text) {
+    text = TrimBlanks(text);
+    const auto d = static_cast<std::int64_t>(Find(text, "."));
+    auto e = static_cast<std::int64_t>(Find(text, "e"));
+    if (e == 0) e = static_cast<std::int64_t>(Find(text, "E"));
+    std::int64_t places = d > 0 ? static_cast<std::int64_t>(CodePointCount(text)) - d : 0;
+    if (e != 0) {
+        const double x = Val(Substring(text, static_cast<std::size_t>(e) + 1));
+        places = e - 1 - d - ToInteger(std::clamp(x, -1e6, 1e6));
+    }
+    return static_cast<int>(std::clamp<std::int64_t>(places, 0, 255));
+}
+
+int SignificantDigits(std::string_view text) {
+    text = TrimBlanks(text);
+    const std::size_t e = std::min(text.find('e'), text.find('E'));
+    const std::size_t small = text.find('e');
+    text = text.substr(0, small != std::string_view::npos ? small : e);
+    text.remove_prefix(std::min(text.find_first_not_of("-.0"), text.size()));
+    const std::size_t length = CodePointCount(text);
+    return static_cast<int>(text.find('.') == std::string_view::npos ? length : length - 1);
+}
+
+int TemperatureDigits(std::string_view text, std::string_view unitCode) {
+    const int digits = SignificantDigits(text);
+    if (!HasOffset(unitCode)) return digits;
+    const double v = std::fabs(Val(text));
+    return digits + (v < 1 ? 3 : v < 10 ? 2 : v < 100 ? 1 : 0);
+}
+
+int ConvertedDigits(std::string_view typed, std::string_view unitCode, double converted) {
+    const int digits = TemperatureDigits(typed, unitCode);
+    if (!HasOffset(unitCode)) return digits;
+    return std::max(digits, IntegerDigits(converted) + DecimalPlaces(typed));
+}
+
+std::string FormatDigits(std::string_view text, int digits) {
+    return FormatValue(Val(text), digits == 0 ? SignificantDigits(text) : digits);
+}
+
+std::string FormatValue(double v, int digits) {
+    if (digits == 0) digits = SignificantDigits(NumberText(v));
+    return FormatFixed(v, std::max(0, digits - IntegerDigits(v)));
+}
+
+std::string FormatConverted(std::string_view typed, std::string_view unitCode, double converted) {
+    if (converted == 0) return std::string(typed);
+    return FormatValue(converted, ConvertedDigits(typed, unitCode, converted));
+}
+
+} // namespace vexora

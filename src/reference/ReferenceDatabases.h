@@ -1,0 +1,27 @@
+// The two databases of a run: the vocabulary (read only) and the compounds and sources known here.
+// The globals own one and install it; the look-ups of this room find it through CurrentDatabases.
+#pragma once
+
+#include "reference/Database.h"
+
+#include <optional>
+#include <string>
+
+namespace vexora {
+
+struct ReferenceDatabases {
+    Database LocalDb;    // vocabulary, VXRLocal.mdb
+    Database CompoundDb; // compounds, sources, authors, VXR.mdb
+
+    /// Opens both files and reads their test tables (`Conversions`, `ALLNAME`). The text tells what
+    /// is wrong; the present databases change only when nothing is.
+    std::optional<std::string> OpenBoth(const std::string& localPath,
+                                        const std::string& compoundPath);
+};
+
+/// The installed databases, or null: every look-up is then empty.
+ReferenceDatabases* CurrentDatabases();
+/// Installs databases that the caller keeps owning; null takes them out.
+void UseDatabases(ReferenceDatabases* databases);
+
+} // namespace vexora

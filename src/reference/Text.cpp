@@ -1,0 +1,224 @@
+#include "reference/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vexora {
+
+namespace {
+
+constexpr std::string_view kWhite = " \t\r\n";
+
+std::string_view Strip(std::string_view text, std::string_view characters) {
+    const std::size_t first = text.find_first_not_of(characters);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+}
+
+char Upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+char Lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool IsContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+} // namespace
+
+std::string_view WordReader::NextWord() {
+    rest_ = Strip(rest_, kWhite);
+    const std::size_t end = std::min(rest_.find_first_of(kWhite), rest_.size());
+    const std::string_view word = rest_.substr(0, end);
+    rest_.remove_prefix(std::min(end + 1, rest_.size()));
+    return word;
+}
+
+bool WordReader::AtEnd() const {
+    return Strip(rest_, kWhite).empty();
+}
+
+std::string FirstWord(std::string& text) {
+    WordReader reader(text);
+    std::string word(reader.NextWord());
+    text = std::string(reader.Rest());
+    return word;
+}
+
+std::string NextHashField(std::string& text) {
+    if (text.empty()) return {};
+    const std::size_t start = text[0] == '#' && text.size() > 1 ? 1 : 0;
+    if (start + 1 == text.size() && text[start] == '#') {
+        text.clear();
+        return {};
+    }
+    const std::size_t end = std::min(text.find('#', start), text.size());
+    std::string field = text.substr(start, end - start);
+    text.erase(0, end);
+    return field;
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    return Strip(text, " ");
+}
+std::string_view Trim(std::string_view text) {
+    return Strip(text, kWhite);
+}
+
+std::string UpperAscii(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), Upper);
+    return result;
+}
+
+std::string LowerAscii(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), Lower);
+    return result;
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+std::string Replace(std::string_view text, std::string_view what, std::string_view with) {
+    if (what.empty()) return std::string(text);
+    std::string result;
+    std::size_t from = 0;
+    for (std::size_t at = text.find(what); at != std::string_view::npos;
+         at = text.find(what, from)) {
+        result.append(text.substr(from, at - from)).append(with);
+        from = at + what.size();
+    }
+    return result.append(text.substr(from));
+}
+
+std::vector<std::string> Split(std::string_view text, char separator) {
+    std::vector<std::string> parts;
+    std::size_t from = 0;
+    for (std::size_t at = text.find(separator); at != std::string_view::npos;
+         at = text.find(separator, from)) {
+        parts.emplace_back(text.substr(from, at - from));
+        from = at + 1;
+    }
+    parts.emplace_back(text.substr(from));
+    return parts;
+}
+
+std::size_t CodePointCount(std::string_view text) {
+    std::size_t count = 0;
+    for (std::size_t offset = 0; offset < text.size(); ++count)
+        NextCodePoint(text, offset);
+    return count;
+}
+
+std::size_t ByteOffset(std::string_view text, std::size_t position) {
+    std::size_t offset = 0;
+    for (std::size_t i = 1; i < position && offset < text.size(); ++i)
+        NextCodePoint(text, offset);
+    return offset;
+}
+
+std::size_t Find(std::string_view text, std::string_view what, std::size_t from) {
+    if (what.empty()) return 0;
+    const std::size_t at = text.find(what, ByteOffset(text, from));
+    return at == std::string_view::npos ? 0 : CodePointCount(text.substr(0, at)) + 1;
+}
+
+std::string Substring(std::string_view text, std::size_t from, std::size_t count) {
+    if (from == 0) return {};
+    text.remove_prefix(ByteOffset(text, from));
+    if (count >= text.size()) return std::string(text);
+    return std::string(text.substr(0, ByteOffset(text, count + 1)));
+}
+
+std::string CharacterAt(std::string_view text, std::size_t position) {
+    return Substring(text, position, 1);
+}
+
+std::string SingleLine(std::string_view text) {
+    std::string result = Replace(text, "\r\n", "\n");
+    std::ranges::replace(result, '\r', ' ');
+    std::ranges::replace(result, '\n', ' ');
+    return result;
+}
+
+std::string StripUnitOne(std::string_view code) {
+    if (code == "1") return {};
+    if (code.size() > 1 && code.front() == '*' && code.back() == '1') code.remove_suffix(1);
+    return std::string(code);
+}
+
+bool IsBlankField(std::string_view field) {
+    return field.empty() || field == "&";
+}
+
+char32_t NextCodePoint(std::string_view text, std::size_t& offset) {
+    const auto lead = static_cast<unsigned char>(text[offset]);
+    const std::size_t length = lead >= 0xC2 && lead < 0xE0   ? 2
+                               : lead >= 0xE0 && lead < 0xF0 ? 3
+                               : lead >= 0xF0 && lead < 0xF5 ? 4
+                                                             : 1;
+    ++offset;
+    if (length == 1 || offset + length - 1 > text.size()) return lead;
+    constexpr std::array<char32_t, 5> kSmallest{0, 0, 0x80, 0x800, 0x10000};
+    char32_t value = lead & (0x7FU >> length);
+    for (std::size_t i = 0; i + 1 < length; ++i) {
+        if (!IsContinuation(text[offset + i])) return lead;
+        value = (value << 6U) | (static_cast<unsigned char>(text[offset + i]) & 0x3FU);
+    }
+    const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (value < kSmallest[length] || value > 0x10FFFF || surrogate) return lead;
+    offset += length - 1;
+    return value;
+}
+
+void AppendCodePoint(std::string& text, char32_t codePoint) {
+    const auto tail = [&](unsigned shift) {
+        text += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
+    };
+    if (codePoint < 0x80) {
+        text += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        text += static_cast<char>(0xC0U | (codePoint >> 6U));
+        tail(0);
+    } else if (codePoint < 0x10000) {
+        text += static_cast<char>(0xE0U | (codePoint >> 12U));
+        tail(6), tail(0);
+    } else {
+        text += static_cast<char>(0xF0U | (codePoint >> 18U));
+        tail(12), tail(6), tail(0);
+    }
+}
+
+bool IsValidUtf8(std::string_view text) {
+    for (std::size_t offset = 0; offset < text.size();) {
+        const bool ascii = static_cast<unsigned char>(text[offset]) < 0x80;
+        const std::size_t start = offset;
+        NextCodePoint(text, offset);
+        if (!ascii && offset == start + 1) return false;
+    }
+    return true;
+}
+
+std::string FromWindows1252(std::string_view bytes) {
+    // The code page differs from Latin-1 in 128 to 159 only (Unicode mapping table CP1252).
+    static constexpr std::array<char16_t, 32> kHigh{
+        0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
+    std::string result;
+    for (const char c : bytes) {
+        const auto code = static_cast<unsigned char>(c);
+        AppendCodePoint(result, code >= 128 && code < 160 ? char32_t{kHigh[code - 128U]} : code);
+    }
+    return result;
+}
+
+std::string ToUtf8(std::string_view bytes) {
+    return IsValidUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+}
+
+} // namespace vexora
