@@ -1,0 +1,86 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "ui/FileSystem.h"
+
+namespace vexora::ui {
+
+class Form;
+
+enum class MessageButtons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+
+struct Message {
+    std::string text;
+    std::string title;
+    MessageButtons buttons = MessageButtons::Ok;
+    Answer safe = Answer::Ok; // what Enter gives: the answer that loses nothing
+};
+
+struct Input {
+    std::string prompt;
+    std::string title;
+    std::string text; // what stands in the box at first
+};
+
+struct FileChoice {
+    bool save = false;
+    std::string folder;   // where the chooser starts
+    std::string proposed; // file name or path
+    std::string filter;   // "Record files (*.txt)" and the like, empty for all
+};
+
+struct Date {
+    int year = 0;
+    int month = 0; // 1 to 12
+    int day = 0;   // 1 to 31
+};
+
+/// What the workbench asks of the world. The fronts and the tests bring their own; nothing else
+/// touches the screen, the clock, the disk or the user.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+
+    /// Shows a message box and waits for the button.
+    virtual Answer Show(const Message& message) = 0;
+    /// Asks for a line of text; nothing on Cancel.
+    virtual std::optional<std::string> Ask(const Input& input) = 0;
+    /// Asks for a path; nothing on Cancel. It does not ask about overwriting.
+    virtual std::optional<std::string> Choose(const FileChoice& choice) = 0;
+
+    virtual std::string ClipboardText() = 0;
+    virtual void ClipboardText(const std::string& text) = 0;
+    virtual void Hourglass(bool on) = 0;
+    /// Shows the page of help with this context number.
+    virtual void ShowHelp(int context) = 0;
+    virtual void Print(const std::string& title, const std::string& text) = 0;
+    virtual Date Today() = 0;
+    virtual FileSystem& Files() = 0;
+
+    /// Lets the person work on a modal form until it has closed or hidden itself.
+    virtual void RunModal(Form& form) = 0;
+    /// Ends the whole program in an orderly way once the present action is over.
+    virtual void EndProgram() = 0;
+};
+
+/// Shorthands for the desktop in force.
+Desktop& TheDesktop();
+void Say(const std::string& text, const std::string& title = {});
+/// True on Yes. No is the answer that Enter gives.
+bool AskYesNo(const std::string& text, const std::string& title = {});
+/// Cancel is the answer that Enter gives.
+Answer AskYesNoCancel(const std::string& text, const std::string& title = {});
+
+/// Shows the hourglass while it lives.
+class HourglassScope {
+public:
+    HourglassScope();
+    ~HourglassScope();
+    HourglassScope(const HourglassScope&) = delete;
+    HourglassScope& operator=(const HourglassScope&) = delete;
+};
+
+} // namespace vexora::ui

@@ -1,0 +1,145 @@
+#include "ui/Form.h"
+
+#include <algorithm>
+
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora::ui {
+
+Form::Form(std::string name, std::string caption)
+    : name_(std::move(name)), caption_(std::move(caption)) {}
+
+Form::~Form() = default;
+
+void Form::Caption(std::string text) {
+    if (caption_ == text) return;
+    caption_ = std::move(text);
+    CaptionChanged.Emit();
+}
+
+void Form::Adopt(Control& control) {
+    controls_.push_back(&control);
+    byName_.emplace(control.Name(), &control);
+}
+
+void Form::Disown(Control& control) {
+    std::erase(controls_, &control);
+    byName_.erase(control.Name());
+    if (active_ == &control) active_ = nullptr;
+}
+
+Control* Form::Find(std::string_view name) const {
+    const auto found = byName_.find(std::string(name));
+    return found == byName_.end() ? nullptr : found->second;
+}
+
+bool Form::IsReachable() const {
+    const Form* top = Forms::Current().TopModal();
+    return IsVisible() && (top == nullptr || top == this);
+}
+
+void Form::Open(bool modal) {
+    Forms& forms = Forms::Current();
+    modal_ = modal;
+    shown_ = true;
+    if (open_) {
+        forms.Raise(*this);
+    } else {
+        open_ = true;
+        Load();
+        if (!open_) return;
+        forms.NoteOpened(*this);
+        if (active_ == nullptr) FocusTo(NextInTabOrder(false));
+    }
+    ShownChanged.Emit();
+    forms.Shown.Emit(*this);
+    Activate();
+}
+
+void Form::Show() {
+    Open(false);
+}
+
+void Form::ShowModal() {
+    Open(true);
+    if (IsVisible()) Forms::Current().TheDesktop().RunModal(*this);
+}
+
+void Form::Hide() {
+    if (!shown_) return;
+    shown_ = false;
+    std::erase(Forms::Current().modal_, this);
+    ShownChanged.Emit();
+    Forms::Current().Hidden.Emit(*this);
+}
+
+bool Form::Close() {
+    if (!open_ || closing_) return true;
+    closing_ = true;
+    const bool mayClose = QueryUnload();
+    if (mayClose) {
+        open_ = false;
+        shown_ = false;
+        std::erase(Forms::Current().modal_, this);
+        ShownChanged.Emit();
+        Forms::Current().NoteClosed(*this);
+        Unload();
+    }
+    closing_ = false;
+    return mayClose;
+}
+
+void Form::UserClose() {
+    if (IsReachable()) Close();
+}
+
+void Form::FocusTo(Control* control) {
+    if (control == active_) return;
+    if (control && (!control->TakesFocus() || !control->IsUsable())) return;
+    Control* before = active_;
+    active_ = control;
+    if (before) Control::Fire(before->OnLostFocus);
+    if (active_ != control) return; // the handler moved the focus elsewhere
+    FocusChanged.Emit();
+    if (control) Control::Fire(control->OnGotFocus);
+}
+
+Control* Form::NextInTabOrder(bool backwards) const {
+    const auto count = static_cast<int>(controls_.size());
+    const auto place = std::find(controls_.begin(), controls_.end(), active_);
+    int at = place == controls_.end() ? (backwards ? count : -1)
+                                      : static_cast<int>(place - controls_.begin());
+    for (int step = 0; step < count; ++step) {
+        at = (at + (backwards ? count - 1 : 1)) % count;
+        Control* candidate = controls_[static_cast<std::size_t>(at)];
+        if (candidate->TakesFocus() && candidate->IsUsable()) return candidate;
+    }
+    return nullptr;
+}
+
+bool Form::UseShortcut(const Key& key) {
+    const std::string name = key.FullName();
+    for (Control* control : controls_) {
+        if (control->Kind() != ControlKind::MenuItem) continue;
+        auto& item = static_cast<MenuItem&>(*control);
+        if (item.Shortcut() != name || !item.IsReachable()) continue;
+        item.UserClick();
+        return true;
+    }
+    return false;
+}
+
+void Form::UserKey(Key key) {
+    if (!IsReachable()) return;
+    if (active_ && active_->UserKey(key)) return;
+    if (UseShortcut(key)) return;
+    if (key.name == "Enter" && DefaultButton)
+        DefaultButton->UserClick();
+    else if (key.name == "Escape" && CancelButton)
+        CancelButton->UserClick();
+    else if (key.name == "Tab")
+        FocusTo(NextInTabOrder(key.shift));
+}
+
+} // namespace vexora::ui

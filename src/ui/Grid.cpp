@@ -1,0 +1,115 @@
+#include "ui/Grid.h"
+
+#include <algorithm>
+
+namespace vexora::ui {
+
+namespace {
+
+std::vector<std::string_view> Pieces(std::string_view text, char separator) {
+    std::vector<std::string_view> pieces;
+    for (std::size_t at = 0; at <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, at), text.size());
+        pieces.push_back(text.substr(at, end - at));
+        at = end + 1;
+    }
+    return pieces;
+}
+
+} // namespace
+
+Grid::Grid(Form& form, std::string name, int rows, int columns, int fixedRows, int fixedColumns)
+    : Control(form, ControlKind::Grid, std::move(name)), columns_(columns), fixedRows_(fixedRows),
+      fixedColumns_(fixedColumns) {
+    Resize(rows, columns);
+}
+
+void Grid::Resize(int rows, int columns) {
+    columns_ = std::max(columns, 0);
+    cells_.resize(static_cast<std::size_t>(std::max(rows, 0)));
+    for (auto& row : cells_)
+        row.resize(static_cast<std::size_t>(columns_));
+    Changed();
+    CellChanged.Emit(-1, -1);
+}
+
+bool Grid::IsInside(int row, int column) const {
+    return row >= 0 && row < Rows() && column >= 0 && column < columns_;
+}
+
+const std::string& Grid::Cell(int row, int column) const {
+    static const std::string none;
+    if (!IsInside(row, column)) return none;
+    return cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+}
+
+void Grid::Cell(int row, int column, std::string text) {
+    if (!IsInside(row, column) || Cell(row, column) == text) return;
+    cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = std::move(text);
+    CellChanged.Emit(row, column);
+}
+
+void Grid::Editable(bool value) {
+    if (editable_ == value) return;
+    editable_ = value;
+    Changed();
+}
+
+void Grid::Select(Block block) {
+    if (selection_ == block) return;
+    selection_ = block;
+    Changed();
+}
+
+std::string Grid::SelectionText() const {
+    std::string text;
+    for (int row = selection_.top; row <= selection_.bottom; ++row) {
+        if (row > selection_.top) text += '\n';
+        for (int column = selection_.left; column <= selection_.right; ++column) {
+            if (column > selection_.left) text += '\t';
+            text += Cell(row, column);
+        }
+    }
+    return text;
+}
+
+void Grid::UserCell(int row, int column, const std::string& text) {
+    if (!IsUsable() || !editable_ || !IsInside(row, column)) return;
+    if (row < fixedRows_ || column < fixedColumns_) return;
+    SetFocus();
+    UserSelect({row, column, row, column});
+    if (Cell(row, column) == text) return;
+    Cell(row, column, text);
+    if (OnCellChanged) OnCellChanged(row, column);
+}
+
+void Grid::UserPaste(const std::string& text) {
+    if (!IsUsable() || !editable_) return;
+    if (OnPaste) {
+        OnPaste(text);
+        return;
+    }
+    const int top = selection_.top;
+    const int left = selection_.left;
+    std::string_view all(text);
+    while (all.ends_with('\n') || all.ends_with('\r'))
+        all.remove_suffix(1);
+    int row = top;
+    for (std::string_view line : Pieces(all, '\n')) {
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        int column = left;
+        for (const std::string_view cell : Pieces(line, '\t')) {
+            UserCell(row, column++, std::string(cell));
+        }
+        ++row;
+    }
+    UserSelect({top, left, top, left});
+}
+
+void Grid::UserSelect(Block block) {
+    if (IsUsable() && IsInside(block.top, block.left) && IsInside(block.bottom, block.right)) {
+        Select(block);
+    }
+}
+
+} // namespace vexora::ui

@@ -1,0 +1,188 @@
+#include "ui/Lists.h"
+
+#include <algorithm>
+
+#include "ui/Utf8.h"
+
+namespace vexora::ui {
+
+ItemList::ItemList(Form& form, ControlKind kind, std::string name)
+    : Control(form, kind, std::move(name)) {}
+
+const std::string& ItemList::Item(int index) const {
+    static const std::string none;
+    return index >= 0 && index < Count() ? items_[static_cast<std::size_t>(index)] : none;
+}
+
+int ItemList::Find(std::string_view text) const {
+    const auto found = std::find(items_.begin(), items_.end(), text);
+    return found == items_.end() ? -1 : static_cast<int>(found - items_.begin());
+}
+
+void ItemList::Add(std::string text) {
+    Insert(Count(), std::move(text));
+}
+
+void ItemList::Insert(int index, std::string text) {
+    index = std::clamp(index, 0, Count());
+    items_.insert(items_.begin() + index, std::move(text));
+    if (index_ >= index) ++index_;
+    EntryInserted(index);
+    Changed();
+}
+
+void ItemList::Remove(int index) {
+    if (index < 0 || index >= Count()) return;
+    items_.erase(items_.begin() + index);
+    if (index_ == index) index_ = -1;
+    if (index_ > index) --index_;
+    EntryRemoved(index);
+    Changed();
+}
+
+void ItemList::Clear() {
+    while (Count() > 0) {
+        items_.pop_back();
+        EntryRemoved(Count());
+    }
+    index_ = -1;
+    Changed();
+}
+
+void ItemList::Assign(std::vector<std::string> items) {
+    Clear();
+    for (std::string& item : items) {
+        items_.push_back(std::move(item));
+        EntryInserted(Count() - 1);
+    }
+    Changed();
+}
+
+void ItemList::Index(int index) {
+    if (index < 0 || index >= Count()) index = -1;
+    if (index_ == index) return;
+    index_ = index;
+    Changed();
+    Fire(OnClick);
+}
+
+bool ItemList::Choose(std::string_view text) {
+    const int index = Find(text);
+    Index(index);
+    return index >= 0;
+}
+
+void ItemList::UserChoose(int index) {
+    if (!IsUsable() || index < 0 || index >= Count()) return;
+    SetFocus();
+    if (index_ != index)
+        Index(index);
+    else
+        Fire(OnClick);
+}
+
+bool ItemList::UserKey(Key& key) {
+    if (Control::UserKey(key)) return true;
+    if (!IsUsable()) return false;
+    const int step = key.name == "Down" ? 1 : key.name == "Up" ? -1 : 0;
+    if (step == 0) return false;
+    const int next = std::clamp(index_ + step, 0, Count() - 1);
+    if (next != index_ && Count() > 0) Index(next);
+    return true;
+}
+
+void ItemList::EntryRemoved(int) {}
+void ItemList::EntryInserted(int) {}
+
+ComboBox::ComboBox(Form& form, std::string name, Style style)
+    : ItemList(form, ControlKind::ComboBox, std::move(name)), style_(style) {}
+
+std::string ComboBox::Text() const {
+    return IsEditable() && Index() < 0 ? typed_ : Chosen();
+}
+
+void ComboBox::Text(std::string text) {
+    if (!IsEditable()) {
+        Choose(text);
+        return;
+    }
+    if (Text() == text) return;
+    typed_ = std::move(text);
+    SetIndexQuietly(Find(typed_));
+    Changed();
+    Fire(OnChange);
+}
+
+void ComboBox::UserDropDown() {
+    if (IsUsable()) Fire(OnDropDown);
+}
+
+void ComboBox::UserChoose(int index) {
+    if (index < 0 || index >= Count()) return;
+    typed_ = Item(index);
+    ItemList::UserChoose(index);
+}
+
+bool ComboBox::UserKey(Key& key) {
+    if (ItemList::UserKey(key)) return true;
+    if (!IsUsable() || !IsEditable() || key.control || key.alt) return false;
+    std::u32string points = ToPoints(Text());
+    if (key.name == "Backspace") {
+        if (!points.empty()) points.pop_back();
+    } else if (key.character >= U' ') {
+        points.push_back(key.character);
+    } else {
+        return false;
+    }
+    UserEdited(FromPoints(points));
+    return true;
+}
+
+ListBox::ListBox(Form& form, std::string name, Mode mode)
+    : ItemList(form, ControlKind::ListBox, std::move(name)), mode_(mode) {}
+
+bool ListBox::Selected(int index) const {
+    if (mode_ == Mode::Single) return index >= 0 && index == Index();
+    return index >= 0 && index < Count() && selected_[static_cast<std::size_t>(index)];
+}
+
+void ListBox::Selected(int index, bool on) {
+    if (index < 0 || index >= Count() || Selected(index) == on) return;
+    if (mode_ == Mode::Single) {
+        Index(on ? index : -1);
+        return;
+    }
+    selected_[static_cast<std::size_t>(index)] = on;
+    Changed();
+    Fire(OnClick);
+}
+
+int ListBox::SelectedCount() const {
+    if (mode_ == Mode::Single) return Index() >= 0 ? 1 : 0;
+    return static_cast<int>(std::count(selected_.begin(), selected_.end(), true));
+}
+
+void ListBox::UserSelect(int index, bool on) {
+    if (!IsUsable()) return;
+    SetFocus();
+    Selected(index, on);
+}
+
+void ListBox::UserChoose(int index) {
+    if (mode_ == Mode::Single)
+        ItemList::UserChoose(index);
+    else
+        UserSelect(index, true);
+}
+
+void ListBox::EntryRemoved(int index) {
+    selected_.erase(selected_.begin() + index);
+}
+void ListBox::EntryInserted(int index) {
+    selected_.insert(selected_.begin() + index, false);
+}
+
+TabStrip::TabStrip(Form& form, std::string name)
+    : ItemList(form, ControlKind::TabStrip, std::move(name)) {}
+
+} // namespace vexora::ui

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/Control.h"
+
+namespace vexora::ui {
+
+/// Entries by position from 0, one of them chosen; the common part of combo and list boxes. OnClick
+/// follows every change of the chosen entry, by a person or by the code.
+class ItemList : public Control {
+public:
+    const std::vector<std::string>& Items() const { return items_; }
+    int Count() const { return static_cast<int>(items_.size()); }
+    /// The entry at a position, empty outside the range.
+    const std::string& Item(int index) const;
+    /// Position of an exact text, -1 when it is not there.
+    int Find(std::string_view text) const;
+
+    void Add(std::string text);
+    void Insert(int index, std::string text);
+    void Remove(int index);
+    /// Empties the list; no entry is chosen then.
+    void Clear();
+    void Assign(std::vector<std::string> items);
+
+    /// The chosen entry, -1 for none.
+    int Index() const { return index_; }
+    void Index(int index);
+    /// Text of the chosen entry, empty for none.
+    const std::string& Chosen() const { return Item(index_); }
+    /// Chooses the entry with this exact text, or none; false when it is not there.
+    bool Choose(std::string_view text);
+
+    std::string Display() const override { return Chosen(); }
+
+    /// A person picks an entry: fires OnClick even if it was the chosen one.
+    virtual void UserChoose(int index);
+    bool UserKey(Key& key) override;
+
+protected:
+    ItemList(Form& form, ControlKind kind, std::string name);
+    virtual void EntryRemoved(int index);
+    virtual void EntryInserted(int index);
+    void SetIndexQuietly(int index) { index_ = index; }
+
+private:
+    std::vector<std::string> items_;
+    int index_ = -1;
+};
+
+/// A drop-down list; an editable one takes typed text as well, and then OnChange follows the
+/// typing.
+class ComboBox : public ItemList {
+public:
+    enum class Style { DropList, Editable };
+
+    ComboBox(Form& form, std::string name, Style style = Style::DropList);
+    bool IsEditable() const { return style_ == Style::Editable; }
+
+    /// What the field shows: the typed text of an editable one, else the chosen entry.
+    std::string Text() const;
+    /// Of an editable one: sets the typed text, and the entry that has it, if any.
+    void Text(std::string text);
+    std::string Display() const override { return Text(); }
+
+    std::function<void()> OnChange;
+    std::function<void()> OnDropDown;
+
+    void UserDropDown();
+    void UserChoose(int index) override;
+    void UserEdited(const std::string& text) { Text(text); }
+    bool UserKey(Key& key) override;
+
+private:
+    Style style_;
+    std::string typed_;
+};
+
+/// A list in the open. Multi and Check let several entries be on at a time.
+class ListBox : public ItemList {
+public:
+    enum class Mode { Single, Multi, Check };
+
+    ListBox(Form& form, std::string name, Mode mode = Mode::Single);
+    ui::ListBox::Mode SelectionMode() const { return mode_; }
+    bool Selected(int index) const;
+    void Selected(int index, bool on);
+    int SelectedCount() const;
+
+    void UserSelect(int index, bool on);
+    void UserChoose(int index) override;
+
+protected:
+    void EntryRemoved(int index) override;
+    void EntryInserted(int index) override;
+
+private:
+    Mode mode_;
+    std::vector<bool> selected_;
+};
+
+/// Pages reached by tabs; the layout says which group belongs to which page. OnClick follows every
+/// change of page.
+class TabStrip : public ItemList {
+public:
+    TabStrip(Form& form, std::string name);
+};
+
+} // namespace vexora::ui

@@ -1,0 +1,24 @@
+#include "ui/Picture.h"
+
+namespace vexora::ui {
+
+Picture::Picture(Form& form, std::string name, double width, double height)
+    : Control(form, ControlKind::Picture, std::move(name)), width_(width), height_(height) {}
+
+void Picture::Strokes(std::vector<Stroke> strokes) {
+    strokes_ = std::move(strokes);
+    Changed();
+}
+
+void Picture::UserDrag(double x, double y, double x2, double y2) {
+    if (!IsUsable()) return;
+    if (OnPress) OnPress(x, y);
+    if (OnMove) OnMove(x2, y2);
+    if (OnRelease) OnRelease(x2, y2);
+}
+
+void Picture::UserHover(double x, double y) {
+    if (IsUsable() && OnMove) OnMove(x, y);
+}
+
+} // namespace vexora::ui

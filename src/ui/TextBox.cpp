@@ -1,0 +1,141 @@
+#include "ui/TextBox.h"
+
+#include <algorithm>
+
+#include "ui/Form.h"
+#include "ui/Utf8.h"
+
+namespace vexora::ui {
+
+TextBox::TextBox(Form& form, std::string name, Lines lines)
+    : Control(form, ControlKind::TextBox, std::move(name)), lines_(lines) {}
+
+void TextBox::Text(std::string text) {
+    if (text == text_) return;
+    const std::size_t end = ToPoints(text).size();
+    Put(std::move(text), end);
+}
+
+void TextBox::TextAndCaret(std::string text, std::size_t caret) {
+    Put(std::move(text), caret);
+}
+
+void TextBox::Put(std::string text, std::size_t caret) {
+    const bool changed = text != text_;
+    const std::size_t place = std::min(caret, ToPoints(text).size());
+    if (!changed && start_ == place && length_ == 0) return;
+    text_ = std::move(text);
+    start_ = place;
+    length_ = 0;
+    Changed();
+    if (changed) Fire(OnChange);
+}
+
+void TextBox::Locked(bool value) {
+    if (locked_ == value) return;
+    locked_ = value;
+    Changed();
+}
+
+void TextBox::Select(std::size_t start, std::size_t length) {
+    const std::size_t size = ToPoints(text_).size();
+    start_ = std::min(start, size);
+    length_ = std::min(length, size - start_);
+    Changed();
+}
+
+void TextBox::SelectAll() {
+    Select(0, ToPoints(text_).size());
+}
+
+void TextBox::UserReplaceAll(const std::string& text) {
+    if (!IsUsable() || locked_) return;
+    Put(text, ToPoints(text).size());
+}
+
+void TextBox::UserEdited(std::string text, std::size_t caret) {
+    if (IsUsable() && !locked_) Put(std::move(text), caret);
+}
+
+void TextBox::UserPaste(const std::string& text) {
+    if (IsUsable() && !locked_) ReplaceSelection(ToPoints(text));
+}
+
+void TextBox::ReplaceSelection(std::u32string_view with) {
+    std::u32string points = ToPoints(text_);
+    std::u32string text(with);
+    if (!IsMultiLine()) std::replace(text.begin(), text.end(), U'\n', U' ');
+    points.replace(start_, length_, text);
+    Put(FromPoints(points), start_ + text.size());
+}
+
+void TextBox::Erase(bool backwards) {
+    if (length_ == 0) {
+        if (backwards && start_ > 0) --start_;
+        const std::size_t size = ToPoints(text_).size();
+        if (start_ >= size) return;
+        length_ = 1;
+    }
+    ReplaceSelection({});
+}
+
+bool TextBox::Move(const Key& key) {
+    const std::size_t size = ToPoints(text_).size();
+    if (key.name == "Left")
+        Select(start_ == 0 || length_ > 0 ? start_ : start_ - 1, 0);
+    else if (key.name == "Right")
+        Select(length_ > 0 ? Caret() : start_ + 1, 0);
+    else if (key.name == "Home")
+        Select(0, 0);
+    else if (key.name == "End")
+        Select(size, 0);
+    else if (key.FullName() == "Ctrl+A")
+        SelectAll();
+    else
+        return false;
+    return true;
+}
+
+bool TextBox::Edit(const Key& key) {
+    const bool newLine = key.name == "Enter" && IsMultiLine();
+    if (key.name == "Backspace") {
+        if (length_ > 0 || start_ > 0) Erase(true);
+    } else if (key.name == "Delete") {
+        Erase(false);
+    } else if (key.character >= U' ' || newLine) {
+        const char32_t character = newLine ? U'\n' : key.character;
+        ReplaceSelection(std::u32string_view(&character, 1));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool TextBox::UserKey(Key& key) {
+    if (Control::UserKey(key)) return true;
+    if (!IsUsable()) return false;
+    if (Move(key)) return true;
+    return !locked_ && !key.control && !key.alt && Edit(key);
+}
+
+RichText::RichText(Form& form, std::string name)
+    : Control(form, ControlKind::RichText, std::move(name)) {}
+
+void RichText::Html(std::string html) {
+    if (html_ == html) return;
+    html_ = std::move(html);
+    Changed();
+}
+
+std::string RichText::Display() const {
+    std::string text;
+    bool inTag = false;
+    for (const char c : html_) {
+        if (c == '<') inTag = true;
+        if (!inTag) text += c;
+        if (c == '>') inTag = false;
+    }
+    return text;
+}
+
+} // namespace vexora::ui

@@ -1,0 +1,110 @@
+#include "ui/TreeView.h"
+
+#include <algorithm>
+
+namespace vexora::ui {
+
+TreeNode::TreeNode(TreeView& tree, TreeNode* parent, std::string key, std::string text)
+    : tree_(tree), parent_(parent), key_(std::move(key)), text_(std::move(text)) {}
+
+void TreeNode::Text(std::string text) {
+    if (text_ == text) return;
+    text_ = std::move(text);
+    tree_.NodeChanged.Emit(this);
+}
+
+void TreeNode::Bold(bool value) {
+    if (bold_ == value) return;
+    bold_ = value;
+    tree_.NodeChanged.Emit(this);
+}
+
+void TreeNode::Expanded(bool value) {
+    if (expanded_ == value) return;
+    expanded_ = value;
+    tree_.NodeChanged.Emit(this);
+}
+
+void TreeNode::EnsureVisible() {
+    for (TreeNode* node = parent_; node != nullptr; node = node->parent_)
+        node->Expanded(true);
+}
+
+TreeView::TreeView(Form& form, std::string name)
+    : Control(form, ControlKind::TreeView, std::move(name)) {}
+
+TreeView::~TreeView() = default;
+
+TreeNode& TreeView::Add(TreeNode* parent, std::string_view key, std::string text) {
+    std::string unique(key);
+    for (int n = 2; byKey_.contains(unique); ++n) {
+        unique = std::string(key) + "~" + std::to_string(n);
+    }
+    auto& siblings = parent ? parent->children_ : roots_;
+    siblings.push_back(std::make_unique<TreeNode>(*this, parent, unique, std::move(text)));
+    TreeNode& node = *siblings.back();
+    byKey_[unique] = &node;
+    NodeAdded.Emit(&node);
+    return node;
+}
+
+void TreeView::Forget(TreeNode& node) {
+    for (const auto& child : node.children_)
+        Forget(*child);
+    byKey_.erase(node.key_);
+    if (selected_ == &node) selected_ = nullptr;
+}
+
+void TreeView::Remove(TreeNode& node) {
+    NodeRemoved.Emit(&node);
+    Forget(node);
+    auto& siblings = node.parent_ ? node.parent_->children_ : roots_;
+    std::erase_if(siblings, [&node](const auto& entry) { return entry.get() == &node; });
+    Changed();
+}
+
+void TreeView::Clear() {
+    while (!roots_.empty())
+        Remove(*roots_.back());
+}
+
+TreeNode* TreeView::Find(std::string_view key) const {
+    const auto found = byKey_.find(std::string(key));
+    return found == byKey_.end() ? nullptr : found->second;
+}
+
+void TreeView::Select(TreeNode* node) {
+    if (selected_ == node) return;
+    selected_ = node;
+    if (node) node->EnsureVisible();
+    Changed();
+}
+
+void TreeView::UserNodeClick(TreeNode& node) {
+    if (!IsUsable()) return;
+    SetFocus();
+    Fire(OnMouseDown);
+    Select(&node);
+    if (OnNodeClick) OnNodeClick(node);
+}
+
+void TreeView::UserNodeDoubleClick(TreeNode& node) {
+    UserNodeClick(node);
+    if (IsUsable() && OnNodeDoubleClick) OnNodeDoubleClick(node);
+}
+
+void TreeView::UserNodeReached(TreeNode& node) {
+    if (!IsUsable()) return;
+    SetFocus();
+    Select(&node);
+}
+
+void TreeView::UserDrop(const std::string& path) {
+    if (IsUsable() && OnDrop) OnDrop(path);
+}
+
+bool TreeView::UserKey(ui::Key& key) {
+    return Control::UserKey(key);
+}
+
+} // namespace vexora::ui
