@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace vexora {
+
+/// One quantity of a row, from the text that was typed to the value in system units with its
+/// uncertainty. The items of a row form a chain: the head is the property, behind it stands one
+/// item for each variable; the last has isLast true. Values and levels that are not given are empty
+/// texts or 0; a text ending in "%" is per cent of the value.
+class clsProperty {
+public:
+    std::string PropertyCode;
+    std::string ConversionCode;
+    std::string Text;           // value as typed
+    double Value = 0;           // numeric value of Text [entered unit]
+    double Factor = 0;          // factor of a non-standard unit, 0 when none
+    std::string Relation;       // "A" absolute, "D" difference, other: taken without conversion
+    double SystemValue = 0;     // [system unit]
+    double PRECISION = 0;       // expanded uncertainty [entered unit]
+    std::string PrecisionText;  // precision as typed
+    double SystemPrecision = 0; // expanded uncertainty [system unit]
+    double Der = 0;             // derivative of the property by this quantity, 0 for none
+    int LastDigit = 0;          // decimal places of Text
+    std::string DS;             // device specification
+    std::string Rep;            // repeatability
+    std::string Unc;            // uncertainty stated by the author
+    std::string CD;             // curve deviation
+    std::string masterds, masterrep, masterunc; // the same for the whole set
+    std::string nRep;                           // number of repetitions
+    int masternrep = 0;
+    double DSLevel = 0;  // level of confidence [per cent], 0 when not given
+    int replevel = 0;    // kind of repeatability: 0 of the mean, 1 of a single measurement
+    double unclevel = 0; // level of confidence [per cent], 0 when not given
+    std::string Name;    // name and unit as messages show them
+    bool isLast = true;
+    std::shared_ptr<clsProperty> NextItem;
+
+    /// Converts Text to SystemValue and merges the stated uncertainties into PRECISION and
+    /// SystemPrecision. ok is false when the value is not valid, or suspicious and not confirmed;
+    /// both are told in a message box. molarMass in g/mol, 0 when not known.
+    void Convert(bool& ok, double molarMass);
+    /// Derivatives of the items behind this one, brought to system units of this property.
+    void ConvertDer(double molarMass);
+    /// Hard limits on SystemValue; only an absolute value is tested.
+    void Validate(bool& ok) const;
+    /// Limits of plausibility on SystemValue; only an absolute value is tested.
+    void Check(bool& ok) const;
+    /// Takes over all fields of the source and of the chain behind it.
+    void Copy(const clsProperty& source);
+};
+
+/// Evaluates the chain from its head: the empty text on success, "Error" on failure; the figures
+/// are in PRECISION and SystemPrecision of each item. molarMass in g/mol.
+std::string EvaluateUncertainty(clsProperty& head, double molarMass);
+
+} // namespace vexora

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+/// Writes XML in memory: one element or tag a line, indented by tabs. Texts are escaped here and
+/// nowhere else: "&", "<", ">" (and quotes in attributes) as entities, control characters dropped,
+/// all that is not plain ASCII as a character reference, so that every file is well formed, pure
+/// ASCII, and loses nothing.
+class XmlWriter {
+public:
+    /// The declaration; the first line of a file.
+    void Declaration();
+    /// A comment; "--" inside is broken up.
+    void Comment(std::string_view text);
+    /// Opens an element. Attributes come as name, value, name, value, ...
+    void Open(std::string_view name, const std::vector<std::string>& attributes = {});
+    /// Closes the element opened last.
+    void Close();
+    /// A whole element with a text; nothing is left out when the text is empty.
+    void Element(std::string_view name, std::string_view text);
+    /// The same, but only when the text is not empty.
+    void ElementIfAny(std::string_view name, std::string_view text);
+
+    const std::string& Text() const { return text_; }
+
+private:
+    void Indent();
+
+    std::string text_;
+    std::vector<std::string> open_;
+};
+
+/// True for a text that can be the name of an element.
+bool IsXmlName(std::string_view text);
+
+} // namespace vexora

@@ -1,0 +1,39 @@
+#include "globals/FormChain.h"
+
+#include <string>
+
+#include "globals/KVOGlobal.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+void OpenInChain(std::string_view opener, std::string_view dialog) {
+    Globals().OpenForms.emplace_back(opener);
+    Globals().DialogAccepted = false;
+    ui::Forms::Current().Get(dialog).Show();
+}
+
+void LeadOn(std::string_view opener, std::string_view next) {
+    OpenInChain(opener, next);
+    ui::Form* form = ui::Forms::Current().Find(opener);
+    if (form == nullptr) return;
+    if (Globals().AdvancedMode)
+        form->Hide();
+    else
+        form->Close();
+}
+
+void CloseForm() {
+    KVOGlobal& globals = Globals();
+    if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;
+    const std::string opener = globals.OpenForms.back();
+    globals.OpenForms.pop_back();
+    const bool editing = globals.EditReaction || globals.EditChanged || globals.EditEquilibrium;
+    if (opener != "frmMain" && globals.AdvancedMode && !editing) {
+        if (ui::Form* form = ui::Forms::Current().Find(opener)) form->Show();
+    }
+    if (!globals.OpenForms.empty()) return;
+    if (ui::Form* shell = ui::Forms::Current().Find("frmMain")) shell->Activate();
+}
+
+} // namespace vexora

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace vexora {
+
+/// The chain of dialogs opened from the shell. Each dialog in the chain has one entry in OpenForms,
+/// the name of the form that opened it; helper dialogs (a list of authors, the details of a
+/// journal, a question) have none and do not call CloseForm.
+
+/// Opens a dialog without blocking and notes the opener.
+void OpenInChain(std::string_view opener, std::string_view dialog);
+
+/// A dialog leads on to the next: the next opens, and the opener hides (advanced mode) or closes.
+void LeadOn(std::string_view opener, std::string_view next);
+
+/// The closing step of a dialog in the chain; called from its Unload. It does nothing while a
+/// record is edited in place. When the chain becomes empty the main form runs its activation step.
+void CloseForm();
+
+} // namespace vexora

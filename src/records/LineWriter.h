@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+/// Collects the lines of a record file in memory. The framing is one for all classes: fields parted
+/// by blanks, "&" for an empty field, "\n" at the line's end.
+class LineWriter {
+public:
+    /// Writes one line as it stands; line breaks inside become blanks.
+    void Line(std::string_view line);
+    /// Writes the fields parted by one blank, "&" for each empty one.
+    void Fields(const std::vector<std::string>& fields);
+    /// The same, and behind them the rest of the line as it stands ("&" when empty).
+    void Fields(const std::vector<std::string>& fields, std::string_view rest);
+    void Blank();
+
+    const std::string& Text() const { return text_; }
+
+private:
+    std::string text_;
+};
+
+/// "&" for an empty field, else the field.
+std::string OrPlaceholder(std::string_view field);
+/// A field as it was before OrPlaceholder: "&" is empty.
+std::string WithoutPlaceholder(std::string_view field);
+/// Blanks of a field that is one word in the file, and back.
+std::string BlanksToUnderscores(std::string_view field);
+std::string UnderscoresToBlanks(std::string_view field);
+
+} // namespace vexora

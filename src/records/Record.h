@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ui/TreeView.h"
+
+namespace vexora {
+
+/// What every record class of the document has: an identity among its siblings, a label in the
+/// tree, and the step that makes it the current one. A parent's collection owns its records; the
+/// tree node refers back to the record by its tag.
+class Record : public ui::TreeTag, public std::enable_shared_from_this<Record> {
+public:
+    /// The node in the tree, null for a record that shows none or is not attached. The tree owns
+    /// it.
+    ui::TreeNode* tNode = nullptr;
+
+    /// Short identity text, unique among siblings.
+    virtual std::string Key() const = 0;
+    /// The text of the node.
+    virtual std::string ShowKey() const = 0;
+    /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
+    virtual void SetMe() = 0;
+
+    template <class T>
+    std::shared_ptr<T> As() {
+        return std::static_pointer_cast<T>(shared_from_this());
+    }
+
+protected:
+    /// Makes the node below another (null for a root) and makes it visible. Does nothing without a
+    /// tree, as when a document is read without a main form.
+    void MakeNode(ui::TreeNode* above, const std::string& text);
+    /// Writes ShowKey, or another text, on the node.
+    void Label(const std::string& text);
+};
+
+} // namespace vexora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "records/Record.h"
+
+namespace vexora {
+
+class LineWriter;
+class clsR;
+
+/// One author of a source.
+///
+///   ^I#AUTHSEQNO#LASTNM#INITNM#[FULLNM]
+///
+/// FULLNM stands in the line only when the author is new; else it is looked up in SOURCE_AUTHOR.
+class clsAuthor : public Record {
+public:
+    std::string AUTHSEQNO; // place in the list, from "1"
+    std::string LASTNM;    // six letters of the last name, padded with blanks
+    std::string INITNM;    // two initials and a mark that keeps namesakes apart
+    std::string FULLNM;    // name as printed
+    std::string LastName, FirstName, Extension; // as typed
+    bool isNew = false;                         // not in SOURCE_AUTHOR yet
+
+    /// Derives LASTNM, INITNM (two characters) and FULLNM from the typed parts.
+    void CreateAbbr();
+    /// Whether a full name has the same letters.
+    bool CompareName(std::string_view fullName) const;
+    void Load(std::string_view line);
+    void Print(LineWriter& out) const;
+
+    std::string Key() const override { return AUTHSEQNO; }
+    std::string ShowKey() const override { return FULLNM; }
+    void SetMe() override {}
+};
+
+} // namespace vexora

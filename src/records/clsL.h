@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/Record.h"
+#include "ui/Collection.h"
+
+namespace vexora {
+
+class clsR;
+class clsS;
+class LineWriter;
+class XmlWriter;
+
+/// One compound of the source, known by its registry number.
+///
+///   ^L RN SYSTYPES REFPROP
+///   ^N RN Formula Name                  (behind it, for a compound new to the reference database)
+///   BL RN EC PDB Formula Charge Name    (instead of both, for a bio compound)
+class clsL : public Record {
+public:
+    std::string RN, NewRn, SYSTYPES = "NNNNN", REFPROP = "&", Name;
+    double MMass = 0; // molar mass [g/mol]
+    std::string Formula;
+    bool isNew = false;
+    bool isBio = false;
+    std::string EC, PDB;
+    std::int32_t Charge = 0;
+    ui::Collection<clsS> recS;
+    clsR* Parent = nullptr;
+
+    std::string Key() const override { return RN; }
+    /// The name, or the RN of a compound without one.
+    std::string ShowKey() const override;
+    void SetMe() override;
+    void AttachTo(clsR& source);
+
+    /// Reads a ^L or BL line and mends a wrong check digit with a notice. False with the program
+    /// set to end for a number that is not numeric.
+    bool Load(std::string_view line);
+    void PrintL(LineWriter& out);
+    void PrintAll(LineWriter& out);
+    /// The sample whose SMPNM has this value, or null; its place from 1 goes into index.
+    std::shared_ptr<clsS> FindS(int number, std::size_t* index = nullptr) const;
+    /// Brings the first letter of SYSTYPES and REFPROP in line with the data.
+    void UpdateInfo();
+    /// Number for the next sample: one above the count, or the next free one.
+    int NextSampleNumber() const;
+
+    void ExportL(XmlWriter& xml) const;
+    void ExportAll(XmlWriter& xml) const;
+};
+
+/// Check digit of a registry number without its last digit: the digits from the right weigh 1, 2,
+/// 3,
+/// ... and the sum counts modulo 10 (the rule of the CAS Registry). Nothing for a text that is not
+/// all digits.
+std::optional<char> CheckDigit(std::string_view digits);
+
+/// Name, formula and molar mass [g/mol] of a compound of the current source; empty or 0 for "", for
+/// "999999994", for a text that is not numeric and for 0. Water is known without being entered.
+std::string NameOfRN(std::string_view rn);
+std::string FormulaOfRN(std::string_view rn);
+double MolarMassOfRN(std::string_view rn, const clsR* source = nullptr);
+/// A fresh number for a compound that the reference database does not know, with its check digit.
+std::string NewSubstanceRN();
+/// Names of all compounds of the current source.
+std::vector<std::string> CompoundNames();
+
+} // namespace vexora

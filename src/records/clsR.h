@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "records/Record.h"
+#include "ui/Collection.h"
+
+namespace vexora {
+
+class clsAuthor;
+class clsBP;
+class clsBR;
+class clsComplex;
+class clsL;
+class clsM;
+class clsQ;
+class LineWriter;
+class XmlWriter;
+
+/// The literature source: root of the document, owner of compounds, mixtures, reactions, bio
+/// records and authors.
+///
+///   (a blank line)
+///   ^R YEARPUB AUTHOR1 AUTHOR2 AUTHORN
+///   ^J#TYPDOC#SOURCEDOC#SSOURCE#TTITLE#KEYWORDS#ABSTRACT#NOTE#PRPCLASS#authors#CASCIT#CODEN#ISSN#BULCT
+///   ^I... one for each author
+///
+/// ^J and ^I stand only for a source that is new to the reference database.
+class clsR : public Record {
+public:
+    std::string YEARPUB, AUTHOR1, AUTHOR2 = "&", AUTHORN;
+    ui::Collection<clsL> recL;
+    ui::Collection<clsComplex> recComplex;
+    ui::Collection<clsM> recM;
+    ui::Collection<clsQ> recQ;
+    ui::Collection<clsBR> recBR;
+    ui::Collection<clsBP> recBP;
+    ui::Collection<clsAuthor> recAuthor;
+    bool isNew = false;
+    std::string TYPDOC, SOURCEDOC = "&", SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
+                        CASCIT, CODEN, ISSN, BULCT;
+    std::string ManuscriptID; // of a submitted manuscript: the part of SSOURCE behind its last ", "
+
+    /// The four identifying fields parted by blanks.
+    std::string Source() const;
+    std::string Key() const override { return Source(); }
+    std::string ShowKey() const override { return Source(); }
+    void SetMe() override;
+    /// Joins the document as its source and makes the root node.
+    void AttachTo();
+    /// Brings the node's text back in line with the record.
+    void Synchronize();
+
+    /// Reads a ^R line; on a bad one tells so, leaves AUTHORN empty and answers false.
+    bool Load(std::string_view line);
+    /// Reads a ^J line and compares the source with the reference database: an unknown source is
+    /// added there; one of the same identity but another text is asked about.
+    void LoadJ(std::string_view line);
+    void PrintR(LineWriter& out);
+    void PrintAll(LineWriter& out);
+    /// Composes PRPCLASS and the letters of every compound from what the document holds.
+    void UpdateRefInfo();
+    /// Every compound that a mixture or a reaction names exists; missing ones are made.
+    void CheckPresence();
+
+    /// The compound with this RN, or null; its place from 1 goes into index.
+    std::shared_ptr<clsL> FindL(std::string_view rn, std::size_t* index = nullptr) const;
+
+    /// File name for a document that has none, without its ending: the manuscript's identifier, or
+    /// year, author codes and number in one.
+    std::string ProposedName() const;
+
+    void ExportR(XmlWriter& xml) const;
+    void ExportAll(XmlWriter& xml);
+
+private:
+    void AskSourceOfDocument();
+};
+
+/// The next free AUTHORN for the identity in SOURCE_REFINFO: one above the greatest, 1 for none.
+/// A second author "&" or "" counts as none.
+int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2);
+/// Adds the source to SOURCE_REFINFO with NEW set.
+void RegisterSource(const clsR& source);
+
+} // namespace vexora

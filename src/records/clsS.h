@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "records/Record.h"
+#include "ui/Collection.h"
+
+namespace vexora {
+
+class clsL;
+class clsTwo;
+class clsZ;
+class LineWriter;
+class XmlWriter;
+
+/// A sample of a compound: its number and the coded line that says where it came from, how it was
+/// purified and how pure it was.
+///
+///   ^S SMPNM SMPDESC
+class clsS : public Record {
+public:
+    std::string SMPNM, SMPDESC;
+    double Purity = 0; // best purity [per cent], 0 if none can be derived
+    ui::Collection<clsZ> recZ;
+    ui::Collection<clsTwo> recTwo;
+    clsL* Parent = nullptr;
+
+    /// "Sample n (description)".
+    std::string Key() const override;
+    std::string ShowKey() const override { return Key(); }
+    void SetMe() override;
+    void AttachTo(clsL& compound);
+
+    void Load(std::string_view line);
+    void PrintS(LineWriter& out) const;
+    void PrintAll(LineWriter& out);
+    /// Derives Purity from SMPDESC: the statement of the best rated method counts.
+    void AssessPurity();
+    std::string Formula() const;
+    /// The single value with this property, number of variables and set number, or null.
+    std::shared_ptr<clsZ> FindZ(std::string_view code, int nVar, std::string_view setNumber) const;
+    /// The next free set number for a property with so many variables.
+    int NextSetNumber(std::string_view code, int nVar) const;
+
+    void ExportS(XmlWriter& xml) const;
+};
+
+} // namespace vexora

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+class LineWriter;
+class XmlWriter;
+
+/// The uncertainty statements of one quantity of a data set: of the property (N = 0) or of a
+/// variable. The line and the meaning of a trailing "%" (per cent of the value) are those of the
+/// record file:
+///
+///   ^X N PRPCODE PHASE iDS DSEvaluator DSLevel DSValue iRep RType RValue Repetitions
+///      iUnc ULevel UValue iCU CType CLevel iCD CDRms CDSpec CValue
+class clsX {
+public:
+    int N = -1; // 0 the property, 1 to 4 variables, -1 not known
+    std::string PRPCODE, PHASE, Name, Unit;
+    bool Constr = false;
+    bool iDS = false;
+    std::string DSEvaluator, DSLevel, DSValue;
+    bool iRep = false;
+    int RType = -1; // 0 of the mean, 1 of a single measurement, -1 not chosen
+    std::string Repetitions, RValue;
+    bool iUnc = false;
+    std::string ULevel, UValue;
+    bool iCU = false;
+    std::string CLevel, CValue, KVOUValue, CType;
+    bool iCD = false;
+    std::string CDSpec, CDRms;
+    /// Values stand in system units: true after Load, false when a dialog wrote them.
+    bool inSystemUnits = false;
+    /// A line that names no quantity of its set; it is written back as it came.
+    std::string Verbatim;
+
+    void Load(std::string_view line);
+    /// Whether there is a statement that would be written.
+    bool IsStated() const;
+    /// Writes the line when something is stated. A code other than "" or "S" converts the values of
+    /// a dialog to system units, as differences; values read from a file are never converted again.
+    /// factor and molarMass [g/mol] are those of the conversion.
+    void SaveX(LineWriter& out, std::string_view code, double factor = 0,
+               double molarMass = 0) const;
+    /// The heads of the statements in the export; role is "Prop", "Var" or "Constr".
+    void ExportX(XmlWriter& xml, std::string_view role) const;
+};
+
+} // namespace vexora
