@@ -1,0 +1,361 @@
+#include "reference/KVODefinitions.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vexora {
+
+namespace {
+
+constexpr std::array<CodeText, 3> kDataTypes{{
+    {"Experimental values", "Y"},
+    {"Smoothed values", "S"},
+    {"Calculated from the authors' equation", "C"},
+}};
+
+constexpr std::array<CodeText, 5> kConstraintKinds{{
+    {"Phase boundary", "PB"},
+    {"Single phase at fixed pressure", "FP"},
+    {"Single phase at fixed temperature", "FT"},
+    {"Single phase at fixed volume", "FV"},
+    {"Derived property", "DP"},
+}};
+
+constexpr std::array<CodeText, 2> kSingleConstraintKinds{{
+    {"Single phase", "SP"},
+    {"Phase boundary", "PB"},
+}};
+
+constexpr std::array<CodeText, 5> kSingleReferenceStates{{
+    {"Direct value", "DIR"},
+    {"Rel. to ref. phase at fixed T and P", "FR"},
+    {"Rel. to ref. phase at same T and fixed P", "FX"},
+    {"Rel. to ref. phase in equil. with Phase 1", "PH"},
+    {"The reference state described in a comment", "RX"},
+}};
+
+constexpr std::array<CodeText, 10> kPureReferenceStates{{
+    {"Direct value", "DIR"},
+    {"Rel. to ref. phase at fixed T and P", "FR"},
+    {"Rel. to ref. phase at fixed T and same P", "PF"},
+    {"Rel. to ref. phase at same T and fixed P", "TF"},
+    {"Rel. to ref. phase at same T and P", "TP"},
+    {"Rel. to ref. phase in equil. with Phase 1", "PH"},
+    {"The reference state described in a comment", "RX"},
+    {"Difference between Upper and Lower T", "DT"},
+    {"Difference between Upper and Lower P", "DX"},
+    {"Mean between Upper and Lower T", "MN"},
+}};
+
+constexpr std::array<CodeText, 13> kMixtureReferenceStates{{
+    {"Direct value", "DIR"},
+    {"Rel. to ref. phase with same composition at FIXED T and P", "FR"},
+    {"Rel. to ref. phase at fixed T and same P", "PF"},
+    {"Rel. to ref. phase at same T and fixed P", "TF"},
+    {"Rel. to ref. phase with SAME composition, T and P", "PH"},
+    {"Rel. to mixture in EQUIL. with primary phase at same T and P", "EQ"},
+    {"Rel. to pure COMPONENTS in same proportion at same T and P", "PC"},
+    {"Rel. to pure SOLVENT at T of same phase EQUILIBRIUM", "PR"},
+    {"Rel. to pure SOLVENT at same T and P", "PS"},
+    {"Rel. to pure SOLUTE at same T and P", "PT"},
+    {"Difference at TU and TL in eq. with PHASE2", "DT"},
+    {"Mean between TU and TL in eq. with PHASE2", "MN"},
+    {"The reference state described in a comment", "RX"},
+}};
+
+constexpr std::array<CodeText, 3> kReferenceRelations{{
+    {"Difference X-Xref", "D"},
+    {"Ratio X/Xref", "R"},
+    {"Ratio of the difference (X-Xref)/Xref", "K"},
+}};
+
+constexpr std::array<CodeText, 6> kSourceKinds{{
+    {"", ""},
+    {"Original document", "O"},
+    {"Chemical Abstracts", "A"},
+    {"KVO file card", "C"},
+    {"Extracted from another database", "Z"},
+    {"Other document", "X"},
+}};
+
+constexpr std::array<CodeText, 4> kExperimentPurposes{{
+    {"", ""},
+    {"Principal objective of the work", "B"},
+    {"Secondary purpose (by-product of other objective)", "C"},
+    {"Determined for identification of a synthesized compound", "D"},
+}};
+
+constexpr std::array<CodeText, 5> kStandardStates{{
+    {"Pure compound", "P"},
+    {"Pure liquid solute", "L"},
+    {"Standard molality (1 mol/kg) solute", "M"},
+    {"Standard concentration (1 mol/dm3) solute", "J"},
+    {"Infinite-dilution solute", "I"},
+}};
+
+constexpr std::array<CodeText, 4> kValueStatements{{
+    {"The property value was reported as a range", ""},
+    {"A correction of some kind was applied to the value", ""},
+    {"The compiler recommends rejection of this data", ""},
+    {"The same measurement published in a different article by the author", ""},
+}};
+
+constexpr std::array<CodeText, 9> kLetteredStatements{{
+    {"It is not clear whether the reported data value was a new measurement by the author", "m"},
+    {"The enthalpy change data was obtained by a second law calculation", "H"},
+    {"The value of Cp or adiabatic compressibility was calculated from the speed of sound", "S"},
+    {"The vapor composition in equilibrium with the liquid was calculated by integration of the "
+     "Gibbs-Duhem equation",
+     "Y"},
+    {"Heat of combustion based on sample mass", "M"},
+    {"Heat of combustion based on mass of carbon dioxide produced", "C"},
+    {"Heat of combustion based on mass of water produced", "W"},
+    {"Heat of combustion based on volume of gas burned", "V"},
+    {"Equilibrium constant reported as log(K)", "L"},
+}};
+
+constexpr std::array<CodeText, 3> kSampleAvailabilities{{
+    {"The sample description is available", ""},
+    {"The sample was not described in the document", "ns"},
+    {"No sample used", "xx"},
+}};
+
+constexpr std::array<CodeText, 6> kSampleSources{{
+    {"Commercial source", "cm"},
+    {"Synthesized by the authors", "sa"},
+    {"Synthesized by others", "sx"},
+    {"Standard Reference Material (SRM)", "rs"},
+    {"Isolated from a natural product", "np"},
+    {"Not stated in the document", "ns"},
+}};
+
+constexpr std::array<CodeText, 8> kParticipantCompositions{{
+    {"Amount ratio of solvent to participant", "P"},
+    {"Molality - amount of participant per mass of solvent, mol/kg", "M"},
+    {"Amount of participant per mass of solution, mol/kg", "N"},
+    {"Amount concentration - amount of participant per volume of solution, mol/dm3", "J"},
+    {"Amount ratio of participant to solvent", "O"},
+    {"Mass ratio of participant to solvent", "Q"},
+    {"Volume ratio of participant to solvent", "B"},
+    {"Mass of participant per volume of solution, kg/m3", "E"},
+}};
+
+constexpr std::array<CodeText, 2> kContentCompositions{{
+    {"Mole fraction", "X"},
+    {"Moles", "n"},
+}};
+
+constexpr std::array<CodeText, 2> kBioPhases{{
+    {"Native", "N"},
+    {"Denaturated", "D"},
+}};
+
+constexpr std::array<std::string_view, 5> kCriticalCurves{"CUL", "CLL", "CLG", "AZ", "MCL"};
+
+constexpr std::array<QuantityText, 13> kStateVariables{{
+    {"T", "Temperature", "K"},
+    {"TU", "Upper temperature", "K"},
+    {"TL", "Lower temperature", "K"},
+    {"P", "Pressure", "kPa"},
+    {"PU", "Upper pressure", "kPa"},
+    {"PL", "Lower pressure", "kPa"},
+    {"VM", "Molar volume", "m3/mol"},
+    {"VS", "Specific volume", "m3/kg"},
+    {"VDN", "Density", "kg/m3"},
+    {"VDM", "Molar density", "mol/m3"},
+    {"S", "Entropy", "J/K/mol"},
+    {"WL", "Wavelength", "A"},
+    {"WF", "Frequency", "MHz"},
+}};
+
+constexpr std::array<QuantityText, 24> kBioVariables{{
+    {"T", "Temperature", "K"},
+    {"P", "Pressure", "kPa"},
+    {"pH", "pH", "1"},
+    {"pHs", "pH of solvent", "1"},
+    {"Ic", "Ionic strength (molaRity basis)", "mol/dm3"},
+    {"Im", "Ionic strength (molaLity basis)", "mol/kg"},
+    {"X", "Mole fraction", "1"},
+    {"W", "Mass fraction", "1"},
+    {"M", "MolaLity", "mol/kg"},
+    {"J", "MolaRity", "mol/dm3"},
+    {"E", "Mass concentration", "kg/m3"},
+    {"Xs", "Solvent: mole fraction", "1"},
+    {"Ws", "Solvent: mass fraction", "1"},
+    {"Vs", "Solvent: volume fraction", "1"},
+    {"Js", "Solvent: MolaRity", "mol/dm3"},
+    {"pC", "pC (molaRity basis)", "1"},
+    {"pCs", "pC of solvent", "1"},
+    {"KT", "Thermodynamic equilibrium constant", "1"},
+    {"KX", "Apparent equilibrium constant (mole fraction)", "1"},
+    {"KM", "Apparent equilibrium constant (molaLity)", "1"},
+    {"KJ", "Apparent equilibrium constant (molaRity)", "1"},
+    {"H", "Enthalpy", "kJ/mol"},
+    {"S", "Entropy", "J/K/mol"},
+    {"G", "Gibbs Energy", "kJ/mol"},
+}};
+
+constexpr std::array<QuantityText, 16> kBioProperties{{
+    {"T12", "Temperature of 1/2 conversion", "K"},
+    {"Tp", "Peak temperature", "K"},
+    {"T0", "Zero-Gibbs energy temperature", "K"},
+    {"Cp", "Heat capacity change at transition", "J/K/mol"},
+    {"Cpm", "Heat capacity change at transition (mass basis)", "J/K/kg"},
+    {"H", "Enthalpy of transition", "kJ/mol"},
+    {"Hm", "Enthalpy of transition (mass basis)", "kJ/kg"},
+    {"HvH", "van't Hoff enthalpy of transition", "kJ/mol"},
+    {"Hvm", "van't Hoff enthalpy of transition (mass basis)", "kJ/kg"},
+    {"C0", "Partial heat capacity", "J/K/mol"},
+    {"C0m", "Partial heat capacity (mass basis)", "J/K/kg"},
+    {"X", "Mole fraction", "1"},
+    {"W", "Mass fraction", "1"},
+    {"M", "MolaLity", "mol/kg"},
+    {"J", "MolaRity", "mol/dm3"},
+    {"E", "Mass concentration", "kg/dm3"},
+}};
+
+constexpr std::array<PurityUnit, 8> kPurityUnits{{
+    {"mol %", "m%", "nPurityMol"},
+    {"mass %", "w%", "nPurityMass"},
+    {"vol %", "v%", "nPurityVol"},
+    {"not specified %", "x%", "nUnknownPerCent"},
+    {"water mass %", "h%", "nWaterMassPerCent"},
+    {"water mol %", "g%", "nWaterMolPerCent"},
+    {"halide impurity mass %", "i%", "nHalideMassPerCent"},
+    {"halide impurity mol %", "j%", "nHalideMolPerCent"},
+}};
+
+constexpr std::array<CodeText, 6> kPureReferenceTexts{{
+    {"Reference phase with the same composition at fixed temperature and pressure", "FR"},
+    {"Reference phase with the same composition, temperature and pressure", "TP"},
+    {"Reference phase at fixed temperature and the same pressure", "PF"},
+    {"Reference phase at the same temperature and fixed pressure", "FX"},
+    {"Reference phase at the same temperature and fixed pressure", "TF"},
+    {"Phase in equilibrium with primary phase at the same temperature and pressure", "PH"},
+}};
+
+constexpr std::array<CodeText, 9> kMixtureReferenceTexts{{
+    {"Reference phase with the same composition at fixed temperature and pressure", "FR"},
+    {"Reference phase at fixed temperature and the same pressure", "PF"},
+    {"Reference phase at the same temperature and fixed pressure", "TF"},
+    {"Reference phase with the same composition, temperature and pressure", "PH"},
+    {"Phase in equilibrium with primary phase at the same temperature and pressure", "EQ"},
+    {"Pure components in the same proportion at the same temperature and pressure", "PC"},
+    {"Pure solvent at the temperature of the same phase equilibrium", "PR"},
+    {"Pure solvent at the same temperature and pressure", "PS"},
+    {"Pure solute at the same temperature and pressure", "PT"},
+}};
+
+template <class Table, class Member>
+auto FindIn(const Table& table, Member member, std::string_view wanted) {
+    const auto found = std::ranges::find(table, wanted, member);
+    return found == table.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+CodeTexts DataTypes() {
+    return kDataTypes;
+}
+CodeTexts ConstraintKinds() {
+    return kConstraintKinds;
+}
+CodeTexts SingleConstraintKinds() {
+    return kSingleConstraintKinds;
+}
+CodeTexts SingleReferenceStates() {
+    return kSingleReferenceStates;
+}
+CodeTexts PureReferenceStates() {
+    return kPureReferenceStates;
+}
+CodeTexts MixtureReferenceStates() {
+    return kMixtureReferenceStates;
+}
+CodeTexts ReferenceRelations() {
+    return kReferenceRelations;
+}
+CodeTexts SourceKinds() {
+    return kSourceKinds;
+}
+CodeTexts ExperimentPurposes() {
+    return kExperimentPurposes;
+}
+CodeTexts StandardStates() {
+    return kStandardStates;
+}
+CodeTexts ValueStatements() {
+    return kValueStatements;
+}
+CodeTexts LetteredStatements() {
+    return kLetteredStatements;
+}
+CodeTexts SampleAvailabilities() {
+    return kSampleAvailabilities;
+}
+CodeTexts SampleSources() {
+    return kSampleSources;
+}
+CodeTexts ParticipantCompositions() {
+    return kParticipantCompositions;
+}
+CodeTexts ContentCompositions() {
+    return kContentCompositions;
+}
+CodeTexts BioPhases() {
+    return kBioPhases;
+}
+std::span<const std::string_view> CriticalCurves() {
+    return kCriticalCurves;
+}
+QuantityTexts StateVariables() {
+    return kStateVariables;
+}
+QuantityTexts BioVariables() {
+    return kBioVariables;
+}
+QuantityTexts BioProperties() {
+    return kBioProperties;
+}
+std::span<const PurityUnit> PurityUnits() {
+    return kPurityUnits;
+}
+CodeTexts PureReferenceTexts() {
+    return kPureReferenceTexts;
+}
+CodeTexts MixtureReferenceTexts() {
+    return kMixtureReferenceTexts;
+}
+
+std::string CodeAt(CodeTexts table, std::size_t index) {
+    return index < table.size() ? std::string(table[index].code) : std::string();
+}
+
+int IndexOfCode(CodeTexts table, std::string_view code) {
+    const CodeText* found = FindIn(table, &CodeText::code, code);
+    return found ? static_cast<int>(found - table.data()) : -1;
+}
+
+std::string TextOfCode(CodeTexts table, std::string_view code) {
+    const CodeText* found = FindIn(table, &CodeText::code, code);
+    return found ? std::string(found->text) : std::string();
+}
+
+std::string CodeOfText(CodeTexts table, std::string_view text) {
+    const CodeText* found = FindIn(table, &CodeText::text, text);
+    return found ? std::string(found->code) : std::string();
+}
+
+const QuantityText* QuantityByCode(QuantityTexts table, std::string_view code) {
+    return FindIn(table, &QuantityText::code, code);
+}
+
+const QuantityText* QuantityByText(QuantityTexts table, std::string_view text) {
+    return FindIn(table, &QuantityText::text, text);
+}
+
+const PurityUnit* PurityUnitByCode(std::string_view code) {
+    return FindIn(PurityUnits(), &PurityUnit::code, code);
+}
+
+} // namespace vexora

@@ -1,0 +1,120 @@
+#include "reference/Transliteration.h"
+
+#include "reference/Text.h"
+
+#include <array>
+
+namespace vexora {
+
+namespace {
+
+// Base letters of the canonical decompositions (Unicode character database), one a code point, with
+// the stroked and dotless letters besides; a blank where there is none.
+constexpr std::string_view kLatinExtended = // U+0100 to U+024F
+    "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIi  JjKk LlLlLl "
+    " LlNnNnNn   OoOoOo  RrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZz "
+    "                                Oo             Uu               "
+    "             AaIiOoUuUuUuUuUu AaAa    GgKkOoOo  j   Gg  NnAa  Oo"
+    "AaAaEeEeIiIiOoOoRrRrUuUuSsTt  Hh      AaEeOoOoOoOoYy            "
+    "                ";
+constexpr std::string_view kLatinAdditional = // U+1E00 to U+1EFF
+    "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMm"
+    "MmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRrSsSsSsSsSsTtTtTtTtUuUuUuUuUuVvVv"
+    "WwWwWwWwWwXxXxYyZzZzZzhtwy      AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
+    "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy      ";
+
+using Table = std::array<std::string, 256>;
+
+void Fill(Table& table, std::size_t first, std::size_t last, std::string_view text) {
+    for (std::size_t code = first; code <= last; ++code)
+        table[code] = text;
+}
+
+void FillSigns(Table& table) {
+    static constexpr std::array<std::string_view, 31> kSigns{
+        // 161 to 191
+        "!", "cents", "pounds", "$", "yen",  "|",   "",    "",    "(C)", "a",     "<<",
+        "",  "-",     "(R)",    "-", "deg ", "+-",  "^2",  "^3",  "'",   "micro", "",
+        "*", ",",     "^1",     "o", ">>",   "1/4", "1/2", "3/4", "?"};
+    for (std::size_t i = 0; i < kSigns.size(); ++i)
+        table[161 + i] = kSigns[i];
+    table[60] = "less than";
+    table[62] = "greater than";
+}
+
+void FillLetters(Table& table) {
+    static constexpr std::array<std::string_view, 64> kLetters{
+        // 192 to 255
+        "A", "A", "A", "A", "A", "A", "Ae", "C", "E", "E", "E", "E", "I", "I", "I", "I",
+        "D", "N", "O", "O", "O", "O", "O",  "*", "O", "U", "U", "U", "U", "Y", "P", "ss",
+        "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i", "i",
+        "o", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "p", "y"};
+    for (std::size_t i = 0; i < kLetters.size(); ++i)
+        table[192 + i] = kLetters[i];
+}
+
+Table MakeTable() {
+    Table table;
+    Fill(table, 0, 31, "0");
+    for (std::size_t code = 32; code < 256; ++code) {
+        table[code].clear();
+        AppendCodePoint(table[code], static_cast<char32_t>(code));
+    }
+    FillSigns(table);
+    FillLetters(table);
+    return table;
+}
+
+const Table& TheTable() {
+    static const Table table = MakeTable();
+    return table;
+}
+
+char32_t BaseLetter(char32_t c) {
+    if (c >= 0x100 && c <= 0x24F) return static_cast<unsigned char>(kLatinExtended[c - 0x100]);
+    if (c >= 0x1E00 && c <= 0x1EFF) return static_cast<unsigned char>(kLatinAdditional[c - 0x1E00]);
+    return c;
+}
+
+bool PassesAsItIs(char32_t c) {
+    return c >= 32 && c < 128 && c != U'<' && c != U'>';
+}
+
+} // namespace
+
+void InitTransliteration() {
+    TheTable();
+}
+
+std::string Transliterate(std::string_view text) {
+    return TransliterateAt(text, 0).text;
+}
+
+TextAndCaret TransliterateAt(std::string_view text, std::size_t caret) {
+    TextAndCaret result;
+    std::size_t read = 0;
+    std::size_t written = 0;
+    bool skip = false;
+    for (std::size_t offset = 0; offset < text.size(); ++read) {
+        if (read == caret) result.caret = written;
+        const char32_t c = BaseLetter(NextCodePoint(text, offset));
+        const bool untouched = skip || PassesAsItIs(c);
+        skip = false;
+        if (untouched) {
+            AppendCodePoint(result.text, c);
+            ++written;
+        } else if (c > 255 || (c < 161 && c != U'<' && c != U'>')) {
+            result.text += ' ';
+            ++written;
+        } else {
+            const std::string& plain = TheTable()[c];
+            result.text += plain;
+            written += plain.size();
+            skip = plain.empty();
+        }
+    }
+    if (caret >= read) result.caret = written;
+    return result;
+}
+
+} // namespace vexora

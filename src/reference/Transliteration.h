@@ -1,0 +1,27 @@
+// Plain ASCII for texts that reach the export. Letters with marks become their base letter, signs
+// of Latin-1 become words, everything else becomes a blank. The ampersand passes: escaping is the
+// emitter's work.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+/// Fills the table; called once at start. Transliterate fills it by itself if that was forgotten.
+void InitTransliteration();
+
+/// The text in plain ASCII. A sign whose replacement is empty takes the character behind it out of
+/// the treatment, so that one stays as it is.
+std::string Transliterate(std::string_view text);
+
+/// A text and the number of characters in front of the caret.
+struct TextAndCaret {
+    std::string text;
+    std::size_t caret = 0;
+};
+/// Transliterate for a field being typed in: the caret stays behind the same character.
+TextAndCaret TransliterateAt(std::string_view text, std::size_t caret);
+
+} // namespace vexora

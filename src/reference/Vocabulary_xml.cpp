@@ -1,0 +1,75 @@
+#include "reference/KVODefinitions.h"
+#include "reference/Vocabulary.h"
+#include "reference/VocabularyQuery.h"
+
+namespace vexora {
+
+namespace {
+
+std::string WithUnit(const std::string& name, const std::string& unit) {
+    return unit.empty() || unit == "1" || name.empty() ? name : name + ", " + unit;
+}
+
+} // namespace
+
+std::string XMLPropertyGroup(std::string_view code, std::string_view context,
+                             std::string_view propertyContext) {
+    const auto property = FindProperty(code, context, propertyContext);
+    if (!property) return {};
+    return LocalText("select XMLGroup from PropertyGroups where \"GROUP\"=? order by rowid",
+                     {property->GROUP}, "XMLGroup");
+}
+
+std::string XMLPropertyName(std::string_view code, std::string_view context,
+                            std::string_view propertyContext) {
+    const auto property = FindProperty(code, context, propertyContext);
+    if (!property) return {};
+    return property->XMLNAME.empty() ? WithUnit(property->Property, property->Unit)
+                                     : property->XMLNAME;
+}
+
+std::string XMLMethod(std::string_view methodCode, std::string_view propertyCode) {
+    return LocalText("select Method from Methods where MethodCode=? collate binary"
+                     " and Code=? collate binary order by rowid",
+                     {methodCode, propertyCode}, "Method");
+}
+
+std::string XMLVariableGroup(std::string_view code) {
+    const auto variable = FindVariable(code);
+    if (variable && !variable->XMLGroup.empty()) return variable->XMLGroup;
+    if (code.empty()) return {};
+    const bool solvent = code.size() > 1 && (code.back() == 's' || (code.size() > 2 && code.back() == 'S'));
+    if (solvent && std::string_view("XWVMOQB").find(code.front()) != std::string_view::npos)
+        return "eSolventComposition";
+    const bool composition = code.size() == 1 || (code[1] >= '0' && code[1] <= '9');
+    if (composition && std::string_view("MXJEWVBNOQ").find(code.front()) != std::string_view::npos)
+        return "eComponentComposition";
+    return "eMiscellaneous";
+}
+
+std::string XMLVariableName(std::string_view code) {
+    const auto variable = FindVariable(code);
+    if (!variable) return {};
+    return variable->XMLNAME.empty() ? WithUnit(variable->IndVariable, variable->Unit)
+                                     : variable->XMLNAME;
+}
+
+std::string ReferenceStateText(std::string_view code) {
+    return TextOfCode(PureReferenceTexts(), code);
+}
+
+std::string MixtureReferenceText(std::string_view code) {
+    return TextOfCode(MixtureReferenceTexts(), code);
+}
+
+std::string BioPhaseWord(std::string_view code) {
+    return TextOfCode(BioPhases(), code);
+}
+std::string CompositionWord(std::string_view code) {
+    return TextOfCode(ContentCompositions(), code);
+}
+std::string CompositionCode(std::string_view word) {
+    return CodeOfText(ContentCompositions(), word);
+}
+
+} // namespace vexora
