@@ -1,3 +1,19 @@
-int main() {
-    return 0;
+#include "cli/ExitCodes.h"
+#include "cli/Refdb.h"
+
+#include <CLI/CLI.hpp>
+
+int main(int argc, char** argv) {
+    CLI::App app("Vexora without a screen: data on standard output, diagnostics on standard error",
+                 "vexora-cli");
+    app.set_version_flag("--version", "vexora-cli " VEXORA_VERSION);
+    app.require_subcommand(1);
+    int exitCode = vexora::kExitClean;
+    vexora::AddRefdbCommands(app, exitCode);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? vexora::kExitClean : vexora::kExitUsage;
+    }
+    return exitCode;
 }

@@ -38,7 +38,8 @@ std::string XMLVariableGroup(std::string_view code) {
     const auto variable = FindVariable(code);
     if (variable && !variable->XMLGroup.empty()) return variable->XMLGroup;
     if (code.empty()) return {};
-    const bool solvent = code.size() > 1 && (code.back() == 's' || (code.size() > 2 && code.back() == 'S'));
+    const bool solvent =
+        code.size() > 1 && (code.back() == 's' || (code.size() > 2 && code.back() == 'S'));
     if (solvent && std::string_view("XWVMOQB").find(code.front()) != std::string_view::npos)
         return "eSolventComposition";
     const bool composition = code.size() == 1 || (code[1] >= '0' && code[1] <= '9');

@@ -1,0 +1,39 @@
+// Turns the tables kept as text (one .tsv a table, UTF-8, first line the column names, a last
+// column SOURCE_OF_ROW that says where a figure comes from and is not stored) into the two
+// databases. Also the import of compounds into an existing one.
+#pragma once
+
+#include "reference/TableText.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vexora {
+
+/// Writes VXRLocal.mdb and VXR.mdb into `outFolder` (made if need be) from `dataFolder`. A table
+/// without a file is empty. With findings nothing is written. Throws DatabaseError when a file
+/// cannot be written; the files that stand there are replaced only by whole ones.
+std::vector<TableFinding> BuildReferenceDatabases(const std::string& dataFolder,
+                                                  const std::string& outFolder);
+
+struct ImportResult {
+    bool readable = true;    // the text could be read
+    std::size_t added = 0;   // rows that are new
+    std::size_t present = 0; // rows that stood there already, kept as they are
+    std::vector<TableFinding> skipped;
+};
+
+/// Adds rows of registry number ("7732185" or "7732-18-5"), name and formula to `ALLNAME`, in one
+/// transaction. A heading line that begins with "RN" is passed over, bad rows are told and skipped.
+/// `progress` hears the count of lines now and then. Throws DatabaseError on a bad database.
+ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
+                             const std::function<void(std::size_t)>& progress = {});
+
+/// True for a registry number of two to seven, two and one digits whose last digit is the check
+/// digit: the sum of the others, each times its place from the right, modulo ten.
+bool IsRegistryNumber(std::int64_t rn);
+
+} // namespace vexora

@@ -1,0 +1,89 @@
+#include "reference/Database.h"
+#include "reference/Numbers.h"
+#include "reference/RefdbBuild.h"
+#include "reference/Text.h"
+
+#include <optional>
+#include <unordered_set>
+
+namespace vexora {
+
+namespace {
+
+std::string RowKey(std::int64_t rn, std::string_view name) {
+    return std::to_string(rn) + " " + LowerAscii(name);
+}
+
+std::unordered_set<std::string> PresentRows(const Database& database) {
+    std::unordered_set<std::string> keys;
+    for (Recordset rows = database.Query("select RN, NAME from ALLNAME order by rowid");
+         !rows.IsEnd(); rows.MoveNext())
+        keys.insert(RowKey(rows.Integer("RN"), rows.Text("NAME")));
+    return keys;
+}
+
+/// "7732185" or "7732-18-5"; nothing when it is neither or its check digit is wrong.
+std::optional<std::int64_t> ReadRegistryNumber(std::string_view cell) {
+    const std::vector<std::string> parts = Split(Trim(cell), '-');
+    const bool hyphens = parts.size() == 3 && parts[1].size() == 2 && parts[2].size() == 1;
+    if (parts.size() != 1 && !hyphens) return std::nullopt;
+    const auto rn = ParseInteger(hyphens ? parts[0] + parts[1] + parts[2] : parts[0]);
+    if (!rn || !IsRegistryNumber(*rn)) return std::nullopt;
+    return rn;
+}
+
+/// What is wrong with a row, "" if nothing; the registry number goes into `rn`.
+std::string RowFault(const std::vector<std::string>& cells, std::int64_t& rn) {
+    if (cells.size() < 3) return "three cells expected: RN, name, formula";
+    const auto number = ReadRegistryNumber(cells[0]);
+    if (!number) return "\"" + cells[0] + "\" is no valid registry number";
+    if (Trim(cells[1]).empty()) return "the name is missing";
+    if (Trim(cells[2]).empty()) return "the formula is missing";
+    rn = *number;
+    return {};
+}
+
+} // namespace
+
+bool IsRegistryNumber(std::int64_t rn) {
+    if (rn < 10000 || rn > 9999999999) return false;
+    const std::int64_t check = rn % 10;
+    std::int64_t sum = 0;
+    int place = 1;
+    for (std::int64_t rest = rn / 10; rest > 0; rest /= 10)
+        sum += rest % 10 * place++;
+    return sum % 10 == check;
+}
+
+ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
+                             const std::function<void(std::size_t)>& progress) {
+    ImportResult result;
+    TableReader reader(path);
+    result.readable = reader.IsOpen();
+    if (!result.readable) return result;
+    Database database;
+    database.Open(databasePath, false);
+    Transaction transaction(database);
+    std::unordered_set<std::string> keys = PresentRows(database);
+    BulkInsert insert(database, "ALLNAME", {"RN", "NAME", "FORMULA"});
+    constexpr std::size_t kProgressStep = 10000;
+    for (std::size_t count = 1; const auto cells = reader.NextRow(); ++count) {
+        if (count == 1 && EqualNoCase(Trim(cells->front()), "RN")) continue;
+        if (progress && count % kProgressStep == 0) progress(count);
+        std::int64_t rn = 0;
+        const std::string fault = RowFault(*cells, rn);
+        if (!fault.empty()) {
+            result.skipped.push_back({path, reader.Line(), fault});
+        } else if (const std::string name(Trim((*cells)[1]));
+                   keys.insert(RowKey(rn, name)).second) {
+            insert.Add({rn, name, Trim((*cells)[2])});
+            ++result.added;
+        } else {
+            ++result.present;
+        }
+    }
+    transaction.Commit();
+    return result;
+}
+
+} // namespace vexora

@@ -1,0 +1,123 @@
+#include "reference/Schema.h"
+
+#include "reference/Text.h"
+
+#include <array>
+
+namespace vexora {
+
+namespace {
+
+using enum ColumnType;
+
+constexpr ColumnSchema kProperties[] = {
+    {"Code", Text},    {"Property", Text},    {"Unit", Text},      {"GROUP", Text},
+    {"CONTEXT", Text}, {"IndVarFixed", Text}, {"PureAvail", Text}, {"MixtAvail", Text},
+    {"MixZ", Flag},    {"MixV", Flag},        {"Single", Flag},    {"Fixed", Flag},
+    {"One", Flag},     {"Two", Flag},         {"Bin", Flag},       {"Tern", Flag},
+    {"REACT", Flag},   {"XMLNAME", Text}};
+constexpr ColumnSchema kPropertyGroups[] = {
+    {"GROUP", Text}, {"GroupName", Text}, {"XMLGroup", Text}, {"Pure", Flag},
+    {"Bin", Flag},   {"Tern", Flag},      {"React", Flag}};
+constexpr ColumnSchema kIndVariables[] = {
+    {"IndVarCode", Text}, {"IndVariable", Text}, {"Unit", Text}, {"Constr", Flag},
+    {"Pure", Flag},       {"Bin", Flag},         {"Tern", Flag}, {"XMLGroup", Text},
+    {"XMLNAME", Text},    {"NeedSolvent", Flag}};
+constexpr ColumnSchema kConversions[] = {
+    {"ConversionCode", Text}, {"Conversion", Text}, {"Unit", Text}, {"FACTOR", Real}};
+constexpr ColumnSchema kPhases[] = {{"Code", Text}, {"Phase", Text}, {"Pure", Flag}, {"Bin", Flag},
+                                    {"Tern", Flag}, {"React", Flag}, {"GH", Flag}};
+constexpr ColumnSchema kMethods[] = {{"Code", Text}, {"MethodCode", Text}, {"Method", Text}};
+constexpr ColumnSchema kQuestions[] = {
+    {"Question", Text}, {"Method", Text}, {"Context", Text}, {"Key", Text}};
+constexpr ColumnSchema kReactions[] = {{"RCode", Text}, {"RType", Text}};
+constexpr ColumnSchema kJournals[] = {{"ShortTitle", Text}};
+constexpr ColumnSchema kPublishers[] = {{"Publisher", Text}};
+constexpr ColumnSchema kPurification[] = {{"Code", Text}, {"Method", Text}};
+constexpr ColumnSchema kPurityDetermination[] = {
+    {"Code", Text}, {"Method", Text}, {"Rating", Integer}};
+constexpr ColumnSchema kAmass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
+
+constexpr ColumnSchema kAllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
+constexpr ColumnSchema kSourceRefInfo[] = {
+    {"YEARPUB", Integer}, {"AUTHOR1", Text}, {"AUTHOR2", Text}, {"AUTHORN", Integer},
+    {"SOURCE", Text},     {"TITLE", Text},   {"NEW", Flag}};
+constexpr ColumnSchema kSourceAuthor[] = {
+    {"LASTNM", Text}, {"INITNM", Text}, {"FULLNM", Text}, {"NEW", Flag}};
+
+constexpr TableSchema kLocalTables[] = {
+    {"Properties", kProperties,
+     "create index PropertiesCode on Properties(Code);"
+     "create index PropertiesGroup on Properties(\"GROUP\")"},
+    {"PropertyGroups", kPropertyGroups, ""},
+    {"IndVariables", kIndVariables, ""},
+    {"Conversions", kConversions,
+     "create index ConversionsCode on Conversions(ConversionCode);"
+     "create index ConversionsUnit on Conversions(Unit);"
+     "create index ConversionsText on Conversions(Conversion)"},
+    {"Phases", kPhases, ""},
+    {"Methods", kMethods, "create index MethodsCode on Methods(Code)"},
+    {"Questions", kQuestions, ""},
+    {"Reactions", kReactions, ""},
+    {"Journals", kJournals, ""},
+    {"Publishers", kPublishers, ""},
+    {"Purification", kPurification, ""},
+    {"PurityDetermination", kPurityDetermination, ""},
+    {"AMASS", kAmass, ""}};
+
+constexpr TableSchema kCompoundTables[] = {
+    {"ALLNAME", kAllName,
+     "create index AllNameRN on ALLNAME(RN);"
+     "create index AllNameName on ALLNAME(NAME)"},
+    {"SOURCE_REFINFO", kSourceRefInfo,
+     "create index SourceYear on SOURCE_REFINFO(YEARPUB, AUTHOR1)"},
+    {"SOURCE_AUTHOR", kSourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}};
+
+std::string_view SqlType(ColumnType type) {
+    switch (type) {
+    case Text:
+        return "text collate nocase";
+    case Integer:
+        return "integer";
+    case Flag:
+        return "integer not null default 0";
+    case Real:
+        return "real";
+    }
+    return "";
+}
+
+} // namespace
+
+std::span<const TableSchema> LocalTables() {
+    return kLocalTables;
+}
+std::span<const TableSchema> CompoundTables() {
+    return kCompoundTables;
+}
+
+std::optional<ColumnSchema> FindColumn(const TableSchema& table, std::string_view name) {
+    for (const ColumnSchema& column : table.columns)
+        if (EqualNoCase(column.name, name)) return column;
+    return std::nullopt;
+}
+
+void CreateTables(Database& database, std::span<const TableSchema> tables) {
+    for (const TableSchema& table : tables) {
+        std::string columns;
+        for (const ColumnSchema& column : table.columns) {
+            if (!columns.empty()) columns += ", ";
+            columns += '"' + std::string(column.name) + "\" ";
+            columns += SqlType(column.type);
+        }
+        database.Execute("create table " + std::string(table.name) + " (" + columns + ")");
+    }
+}
+
+void CreateIndexes(Database& database, std::span<const TableSchema> tables) {
+    for (const TableSchema& table : tables)
+        for (const std::string& statement : Split(table.indexes, ';'))
+            if (!statement.empty()) database.Execute(statement);
+}
+
+} // namespace vexora

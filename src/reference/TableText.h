@@ -1,0 +1,46 @@
+// A table kept as text: lines of cells with a tab (or, in .csv files, a comma) between them, the
+// first line naming the columns. Cells are kept as they stand, blanks included.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+/// A finding about a line of a text file, ready to print.
+struct TableFinding {
+    std::string file;
+    int line = 0; // from 1
+    std::string text;
+    /// "file:line: error: text", or with "warning".
+    std::string Line(std::string_view severity = "error") const;
+};
+
+/// Reads a table text line by line. Line ends of any platform, a byte-order mark and Windows-1252
+/// bytes are understood; empty lines are passed over.
+class TableReader {
+public:
+    /// A path ending in ".csv" is read with commas and double quotes.
+    explicit TableReader(const std::string& path);
+    bool IsOpen() const { return isOpen_; }
+    /// Cells of the next line; nothing at the end of the text.
+    std::optional<std::vector<std::string>> NextRow();
+    /// Number of the line that the last row began on.
+    int Line() const { return rowLine_; }
+
+private:
+    bool NextLine(std::string_view& line);
+    std::vector<std::string> QuotedCells(std::string_view line);
+
+    std::string text_;
+    std::size_t at_ = 0;
+    int line_ = 0;
+    int rowLine_ = 0;
+    bool isOpen_ = false;
+    bool quoted_ = false;
+};
+
+} // namespace vexora
