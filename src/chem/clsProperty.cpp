@@ -1,0 +1,188 @@
+#include "chem/clsProperty.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+
+#include "chem/PropertyLimits.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+// One-sided 95 % factors of Student's distribution for 1 to 10 degrees of freedom.
+constexpr std::array<double, 10> StudentFactor = {
+    6.313751515, 2.91998558,  2.353363435, 2.131846786, 2.015048373,
+    1.943180281, 1.894578605, 1.859548038, 1.833112933, 1.812461123};
+
+// Below this level of confidence [per cent] a figure is a standard deviation.
+constexpr double ExpandedLevel = 70;
+
+// The figure of a statement; per cent is of the value. Nothing for an empty text or a bare "%".
+double Figure(std::string_view statement, double value) {
+    const std::string_view text = Trim(statement);
+    if (!text.ends_with('%')) return Val(text);
+    return Val(text.substr(0, text.size() - 1)) * value / 100;
+}
+
+bool IsStated(std::string_view statement) {
+    const std::string_view text = Trim(statement);
+    return !text.empty() && text != "%";
+}
+
+double Expanded(double figure, double level) {
+    return level < ExpandedLevel ? 2 * figure : figure;
+}
+
+// A repeatability becomes an expanded figure. The index runs one ahead of the degrees of freedom:
+// two repetitions read the second factor.
+double ExpandedRepeatability(double figure, int kind, double repetitions) {
+    if (kind > 0 && repetitions > 1) figure /= std::sqrt(repetitions * (repetitions - 1));
+    if (repetitions > 10) return figure * 1.8;
+    if (repetitions < 2) return figure * 2;
+    return figure * StudentFactor[static_cast<std::size_t>(repetitions) - 1];
+}
+
+// Sum of squares of the statements; the author's figure is a floor and is not added.
+double SumOfSquares(const clsProperty& item) {
+    double sum = 0;
+    const auto add = [&sum](double u) { sum += u * u; };
+    if (IsStated(item.DS)) add(Expanded(Figure(item.DS, item.Value), item.DSLevel));
+    if (IsStated(item.Rep)) {
+        const double n = Val(item.nRep);
+        add(ExpandedRepeatability(Figure(item.Rep, item.Value), item.replevel, n));
+    }
+    if (IsStated(item.CD)) add(Figure(item.CD, item.Value));
+    if (IsStated(item.Unc)) {
+        const double u = Expanded(Figure(item.Unc, item.Value), item.unclevel);
+        sum = std::max(sum, u * u);
+    }
+    return sum;
+}
+
+bool IsConverted(const clsProperty& item) {
+    return item.Relation == "A" || item.Relation == "D";
+}
+
+double Difference(const clsProperty& unit, double value, double molarMass) {
+    return ToSystem(unit.ConversionCode, value, unit.Factor, molarMass) -
+           ToSystem(unit.ConversionCode, 0, unit.Factor, molarMass);
+}
+
+bool IsFractionOfComponent(std::string_view code) {
+    if (code.empty() || std::string_view("XWV").find(code.front()) == std::string_view::npos) {
+        return false;
+    }
+    return code.back() >= '1' && code.back() <= '3';
+}
+
+bool IsCappedFraction(std::string_view code) {
+    if (code.empty() || (code.front() != 'X' && code.front() != 'W')) return false;
+    return code.size() == 1 || std::isdigit(static_cast<unsigned char>(code[1])) != 0;
+}
+
+// A fraction cannot be less certain than its distance to the nearer end allows.
+void CapFraction(clsProperty& item) {
+    if (item.Relation != "A") return;
+    const double distance = 0.5 - std::abs(0.5 - item.SystemValue);
+    if (IsFractionOfComponent(item.PropertyCode) && item.PrecisionText.ends_with('%')) {
+        item.SystemPrecision = std::abs(Val(item.PrecisionText) * distance) / 100;
+    }
+    if (IsCappedFraction(item.PropertyCode)) {
+        item.SystemPrecision = std::min(item.SystemPrecision, distance);
+    }
+}
+
+void TakeSetDefaults(clsProperty& item) {
+    if (!IsStated(item.DS)) item.DS = item.masterds;
+    if (!IsStated(item.Rep)) item.Rep = item.masterrep;
+    if (!IsStated(item.Unc)) item.Unc = item.masterunc;
+    if (item.nRep.empty() && item.masternrep > 0) item.nRep = std::to_string(item.masternrep);
+}
+
+std::string ValueInWords(const clsProperty& item) {
+    return "Value " + NumberText(item.SystemValue) + " " + item.Name;
+}
+
+bool PassesLimits(clsProperty& item) {
+    bool ok = true;
+    item.Validate(ok);
+    if (!ok) {
+        ui::Say(ValueInWords(item) + " is not valid");
+        item.SystemValue = 0;
+        return false;
+    }
+    item.Check(ok);
+    return ok || ui::AskYesNo(ValueInWords(item) + " is suspicious\nIs that all right?");
+}
+
+} // namespace
+
+void clsProperty::Validate(bool& ok) const {
+    ok = Relation != "A" || IsValidValue(PropertyCode, SystemValue);
+}
+
+void clsProperty::Check(bool& ok) const {
+    ok = Relation != "A" || IsPlausibleValue(PropertyCode, SystemValue);
+}
+
+void clsProperty::Convert(bool& ok, double molarMass) {
+    ok = true;
+    Text = std::string(Trim(Text));
+    if (!Text.empty()) Value = Val(Text);
+    if (Relation.empty()) ui::Say("No relation");
+    SystemValue = Value;
+    if (Relation == "A") SystemValue = ToSystem(ConversionCode, Value, Factor, molarMass);
+    if (Relation == "D") SystemValue = Difference(*this, Value, molarMass);
+    if (Relation == "A" && !PassesLimits(*this)) {
+        ok = false;
+        if (SystemValue == 0) return;
+    }
+    PRECISION = IsStated(PrecisionText) ? std::abs(Figure(PrecisionText, Value)) : 0;
+    TakeSetDefaults(*this);
+    const double sum = SumOfSquares(*this);
+    if (sum > 0) PRECISION = std::sqrt(sum);
+    SystemPrecision = PRECISION;
+    if (IsConverted(*this)) SystemPrecision = std::abs(Difference(*this, PRECISION, molarMass));
+    CapFraction(*this);
+    const double one = IsConverted(*this) ? Difference(*this, 1, molarMass) : 1;
+    if (Der != 0 && one != 0) Der /= one;
+}
+
+void clsProperty::ConvertDer(double molarMass) {
+    if (!IsConverted(*this)) return;
+    for (clsProperty* item = this; !item->isLast && item->NextItem; item = item->NextItem.get()) {
+        item->NextItem->Der = Difference(*this, item->NextItem->Der, molarMass);
+    }
+}
+
+void clsProperty::Copy(const clsProperty& source) {
+    std::shared_ptr<clsProperty> next;
+    if (!source.isLast && source.NextItem) {
+        next = std::make_shared<clsProperty>();
+        next->Copy(*source.NextItem);
+    }
+    *this = source;
+    NextItem = next;
+}
+
+std::string EvaluateUncertainty(clsProperty& head, double molarMass) {
+    head.LastDigit = DecimalPlaces(head.Text);
+    bool ok = true;
+    head.Convert(ok, molarMass);
+    if (!ok) return "Error";
+    head.ConvertDer(molarMass);
+    for (clsProperty* item = &head; !item->isLast && item->NextItem;) {
+        item = item->NextItem.get();
+        item->Convert(ok, molarMass);
+        if (!ok) return "Error";
+    }
+    return {};
+}
+
+} // namespace vexora
