@@ -1,0 +1,129 @@
+#include "reference/Database.h"
+#include "reference/ReferenceDatabases.h"
+#include "reference/ReferenceFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace vexora {
+namespace {
+
+class DatabaseTest : public testing::Test {
+protected:
+    void SetUp() override {
+        database.Create(folder.File("t.db"));
+        database.Execute("create table T (Name text collate nocase, Number integer, Factor real)");
+    }
+    std::string Names(std::string_view condition, const SqlValues& values) {
+        std::string names;
+        const std::string sql = "select Name from T where " + std::string(condition);
+        for (Recordset rows = database.Query(sql + " order by rowid", values); !rows.IsEnd();
+             rows.MoveNext())
+            names += rows.Text("NAME") + ";";
+        return names;
+    }
+
+    test::TemporaryFolder folder;
+    Database database;
+};
+
+TEST_F(DatabaseTest, FieldsReadByNameWhateverTheirCaseAndNeverFail) {
+    database.Insert("T", {{"name", "Water"}, {"NUMBER", 7732185}, {"Factor", 0.5}});
+    database.Execute("insert into T default values");
+    Recordset rows = database.Query("select * from T order by rowid");
+    EXPECT_EQ(rows.Text("NAME"), "Water");
+    EXPECT_EQ(rows.Integer("number"), 7732185);
+    EXPECT_EQ(rows.Number("factor"), 0.5);
+    EXPECT_EQ(rows.Text("absent"), "");
+    EXPECT_EQ(rows.Number("absent"), 0);
+    rows.MoveNext();
+    EXPECT_EQ(rows.Text("Name"), "");
+    EXPECT_EQ(rows.Integer("Number"), 0);
+    rows.MoveNext();
+    EXPECT_TRUE(rows.IsEnd());
+    EXPECT_EQ(rows.Text("Name"), "");
+    rows.MoveNext();
+    EXPECT_TRUE(rows.IsEnd());
+}
+
+TEST_F(DatabaseTest, BoundTextNeverBecomesPartOfTheStatement) {
+    for (const char* name :
+         {"Name", "a\"b", "a'b", "x'; drop table T; --", "\" or 1=1 --", "WATER"})
+        database.Insert("T", {{"Name", name}});
+    EXPECT_EQ(Names("Name=?", {"a\"b"}), "a\"b;");
+    EXPECT_EQ(Names("Name=?", {"a'b"}), "a'b;");
+    EXPECT_EQ(Names("Name=?", {"Name"}), "Name;");
+    EXPECT_EQ(Names("Name=?", {"\" or 1=1 --"}), "\" or 1=1 --;");
+    EXPECT_EQ(Names("Name=?", {"x'; drop table T; --"}), "x'; drop table T; --;");
+    EXPECT_EQ(Names("Name=?", {"water"}), "WATER;");
+    EXPECT_THROW(Names("Name=\"no such column\"", {}), DatabaseError);
+}
+
+TEST_F(DatabaseTest, LikeUsesOurPatternsInTableOrder) {
+    for (const char* name : {"CO", "Co", "C6H6", "ethanol"})
+        database.Insert("T", {{"Name", name}});
+    EXPECT_EQ(Names("Name like ?", {"c*"}), "CO;Co;C6H6;");
+    EXPECT_EQ(Names("like_case(?, Name)", {"CO"}), "CO;");
+    EXPECT_EQ(Names("Name like ?", {"C#H#"}), "C6H6;");
+    EXPECT_EQ(Names("Name like ?", {"%ol"}), "ethanol;");
+    EXPECT_EQ(Names("Name like ?", {"_o"}), "");
+}
+
+TEST_F(DatabaseTest, AnUnfinishedTransactionLeavesNothing) {
+    {
+        Transaction transaction(database);
+        database.Insert("T", {{"Name", "lost"}});
+    }
+    {
+        Transaction transaction(database);
+        const auto rowid = database.Insert("T", {{"Name", "kept"}});
+        database.Update("T", rowid, {{"Number", 3}, {"Name", "changed"}});
+        transaction.Commit();
+    }
+    EXPECT_EQ(Names("1", {}), "changed;");
+}
+
+TEST_F(DatabaseTest, AReadOnlyDatabaseRefusesWritesWithAMessage) {
+    Database reader;
+    reader.Open(folder.File("t.db"), true);
+    EXPECT_THROW(reader.Insert("T", {{"Name", "x"}}), DatabaseError);
+    EXPECT_THROW(Database().Query("select 1"), DatabaseError);
+}
+
+/// Two small good files and the bad ones beside them.
+class OpenBothTest : public testing::Test {
+protected:
+    void SetUp() override {
+        BuildReferenceDatabases(folder.Path(), folder.Path());
+        local = folder.File("VXRLocal.mdb");
+        compounds = folder.File("VXR.mdb");
+        folder.Write("foreign.mdb", std::string(4096, 'x'));
+        folder.Write("empty.mdb", "");
+    }
+    test::TemporaryFolder folder;
+    std::string local;
+    std::string compounds;
+};
+
+TEST_F(OpenBothTest, MissingForeignEmptyAndSwappedFilesAreMessages) {
+    ReferenceDatabases databases;
+    ASSERT_EQ(databases.OpenBoth(local, compounds), std::nullopt);
+    for (const std::string& bad : {folder.File("absent.mdb"), folder.File("foreign.mdb"),
+                                   folder.File("empty.mdb"), folder.Path(), std::string()}) {
+        EXPECT_NE(databases.OpenBoth(bad, compounds).value_or(""), "") << bad;
+        EXPECT_NE(databases.OpenBoth(local, bad).value_or(""), "") << bad;
+    }
+    EXPECT_TRUE(databases.OpenBoth(compounds, local).has_value());
+    EXPECT_FALSE(std::filesystem::exists(folder.File("absent.mdb")));
+    EXPECT_EQ(databases.LocalDb.Path(), local);
+    EXPECT_TRUE(databases.CompoundDb.HasTable("ALLNAME"));
+}
+
+TEST_F(OpenBothTest, ATruncatedFileIsAMessageNotACrash) {
+    std::filesystem::resize_file(local, 5000);
+    ReferenceDatabases databases;
+    EXPECT_NE(databases.OpenBoth(local, compounds).value_or(""), "");
+    EXPECT_FALSE(databases.LocalDb.IsOpen());
+}
+
+} // namespace
+} // namespace vexora

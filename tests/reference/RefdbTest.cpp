@@ -1,0 +1,111 @@
+#include "reference/KVODefinitions.h"
+#include "reference/ReferenceFixture.h"
+#include "reference/Vocabulary.h"
+
+#include <gtest/gtest.h>
+
+namespace vexora {
+namespace {
+
+std::string Lines(const std::vector<TableFinding>& findings) {
+    std::string text;
+    for (const TableFinding& finding : findings)
+        text += std::filesystem::path(finding.Line()).filename().string() + "\n";
+    return text;
+}
+
+TEST(RefdbBuild, BadLinesAreToldWithTheirPlaceAndNothingIsWritten) {
+    const test::TemporaryFolder folder;
+    folder.Write("AMASS.tsv", "SYMBOL\tAMASS\tSOURCE_OF_ROW\nH\t1.008\t-\n\nD\ttwo\t-\nT\t3\n");
+    folder.Write("Phases.tsv", "Code\tPhase\tPure\tSOURCE_OF_ROW\nL\tLiquid\t2\t-\n");
+    folder.Write("Reactions.tsv", "RCode\tKind\tSOURCE_OF_ROW\n");
+    folder.Write("Journals.tsv", "");
+    EXPECT_EQ(Lines(BuildReferenceDatabases(folder.Path(), folder.Path())),
+              "Phases.tsv:2: error: Pure cannot be \"2\"\n"
+              "Reactions.tsv:1: error: unknown column Kind\n"
+              "Journals.tsv:1: error: the line of column names is missing\n"
+              "AMASS.tsv:4: error: AMASS cannot be \"two\"\n"
+              "AMASS.tsv:5: error: 2 cells where the heading has 3\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.File("VXR.mdb")));
+    EXPECT_FALSE(std::filesystem::exists(folder.File("VXR.mdb.tmp")));
+}
+
+TEST(RefdbBuild, AFolderThatCannotBeMadeIsAMessage) {
+    const test::TemporaryFolder folder;
+    folder.Write("file", "x");
+    EXPECT_THROW(BuildReferenceDatabases(folder.Path(), folder.File("file/out")), DatabaseError);
+}
+
+class Refdb : public test::ReferenceFixture {
+protected:
+    static std::string Names(std::int64_t rn) {
+        std::string text;
+        for (const CompoundRow& row : CompoundsOf(rn))
+            text += row.NAME + "=" + row.FORMULA + ";";
+        return text;
+    }
+};
+
+TEST_F(Refdb, CellsKeepTheirBlanksAndForeignBytesAreUnderstood) {
+    folder.Write("SOURCE_AUTHOR.tsv", "\xEF\xBB\xBFLASTNM\tINITNM\tFULLNM\tNEW\tSOURCE_OF_ROW\r\n"
+                                      "pruss \ta  \tPru\xDF, A.\t\t-\r\n");
+    Build();
+    const Recordset row = databases.CompoundDb.Query("select * from SOURCE_AUTHOR order by rowid");
+    EXPECT_EQ(row.Text("LASTNM"), "pruss ");
+    EXPECT_EQ(row.Text("INITNM"), "a  ");
+    EXPECT_EQ(row.Text("FULLNM"), "Pru\u00DF, A.");
+    EXPECT_FALSE(row.Flag("NEW"));
+}
+
+TEST_F(Refdb, ImportAddsNewNamesKeepsOldRowsAndTellsBadOnes) {
+    folder.Write("ALLNAME.tsv", "RN\tNAME\tFORMULA\tSOURCE_OF_ROW\n7732185\twater\tH2O\t-\n");
+    Build();
+    folder.Write("new.csv", "RN,name,formula\n"
+                            "7732-18-5,Water,HOH\n"
+                            "64175,\"ethanol, absolute\",C2H6O\n"
+                            "64176,wrong check digit,C2H6O\n"
+                            "7732185,\"the \"\"universal\"\" solvent\",H2O\n"
+                            "67561,,CH4O\n"
+                            "71432,benzene\n"
+                            "12-34,no number,X\n");
+    const ImportResult result = ImportCompounds(folder.File("new.csv"), folder.File("VXR.mdb"));
+    EXPECT_EQ(result.added, 2U);
+    EXPECT_EQ(result.present, 1U);
+    EXPECT_EQ(Lines(result.skipped), "new.csv:4: error: \"64176\" is no valid registry number\n"
+                                     "new.csv:6: error: the name is missing\n"
+                                     "new.csv:7: error: three cells expected: RN, name, formula\n"
+                                     "new.csv:8: error: \"12-34\" is no valid registry number\n");
+    EXPECT_EQ(Names(7732185), "water=H2O;the \"universal\" solvent=H2O;");
+    EXPECT_EQ(Names(64175), "ethanol, absolute=C2H6O;");
+}
+
+TEST_F(Refdb, ImportIntoAForeignFileIsAMessage) {
+    folder.Write("new.tsv", "64175\tethanol\tC2H6O\n");
+    folder.Write("foreign.mdb", std::string(4096, 'x'));
+    EXPECT_THROW(ImportCompounds(folder.File("new.tsv"), folder.File("foreign.mdb")),
+                 DatabaseError);
+    EXPECT_FALSE(ImportCompounds(folder.File("absent.tsv"), folder.File("foreign.mdb")).readable);
+}
+
+TEST(RegistryNumber, TheLastDigitChecksTheOthers) {
+    for (const std::int64_t rn : {7732185LL, 64175LL, 124389LL, 1333740LL, 7647010LL})
+        EXPECT_TRUE(IsRegistryNumber(rn)) << rn;
+    for (const std::int64_t rn : {7732186LL, 64176LL, 1003LL, 0LL, -7732185LL, 99999999940LL})
+        EXPECT_FALSE(IsRegistryNumber(rn)) << rn;
+}
+
+TEST(Definitions, ListsAndCodesGoBothWays) {
+    EXPECT_EQ(CodeAt(SourceKinds(), 0), "");
+    EXPECT_EQ(CodeAt(SourceKinds(), 1), "O");
+    EXPECT_EQ(CodeAt(SourceKinds(), 6), "");
+    EXPECT_EQ(IndexOfCode(PureReferenceStates(), "RX"), 6);
+    EXPECT_EQ(IndexOfCode(MixtureReferenceStates(), "TP"), -1);
+    EXPECT_EQ(TextOfCode(LetteredStatements(), "M"), "Heat of combustion based on sample mass");
+    EXPECT_EQ(QuantityByCode(BioVariables(), "pCs")->text, "pC of solvent");
+    EXPECT_EQ(QuantityByText(StateVariables(), "Wavelength")->unit, "A");
+    EXPECT_EQ(PurityUnitByCode("g%")->element, "nWaterMolPerCent");
+    EXPECT_EQ(PurityUnitByCode("q%"), nullptr);
+}
+
+} // namespace
+} // namespace vexora

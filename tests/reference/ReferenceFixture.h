@@ -1,0 +1,57 @@
+// Small databases made from the text tables of a test, installed for its duration.
+#pragma once
+
+#include "reference/RefdbBuild.h"
+#include "reference/ReferenceDatabases.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+namespace vexora::test {
+
+/// A folder of its own that goes with the object.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "vexora-XXXXXX").string();
+        if (mkdtemp(pattern.data())) path_ = pattern;
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    std::string File(std::string_view name) const { return (path_ / name).string(); }
+    std::string Path() const { return path_.string(); }
+    void Write(std::string_view name, std::string_view text) const {
+        std::ofstream(File(name), std::ios::binary) << text;
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+class ReferenceFixture : public testing::Test {
+protected:
+    ~ReferenceFixture() override { UseDatabases(nullptr); }
+
+    /// Builds both databases from the tables written so far and installs them.
+    void Build() {
+        for (const TableFinding& finding : BuildReferenceDatabases(folder.Path(), folder.Path()))
+            ADD_FAILURE() << finding.Line();
+        const auto error = databases.OpenBoth(folder.File("VXRLocal.mdb"), folder.File("VXR.mdb"));
+        ASSERT_EQ(error.value_or(""), "");
+        UseDatabases(&databases);
+    }
+
+    TemporaryFolder folder;
+    ReferenceDatabases databases;
+};
+
+} // namespace vexora::test
