@@ -25,7 +25,7 @@ int Build(const std::string& data, const std::string& out) {
             std::cerr << finding.Line() << '\n';
         return findings.empty() ? kExitClean : kExitFindings;
     } catch (const DatabaseError& error) {
-        std::cerr << error.what() << '\n';
+        std::cerr << "error: " << error.what() << '\n';
         return kExitCannotWrite;
     }
 }
@@ -44,8 +44,8 @@ int Import(const std::string& file, const std::string& database) {
                   << result.skipped.size() << " skipped\n";
         return result.skipped.empty() ? kExitClean : kExitFindings;
     } catch (const DatabaseError& error) {
-        std::cerr << error.what() << '\n';
-        return kExitUnreadable;
+        std::cerr << "error: " << error.what() << '\n';
+        return error.CannotWrite() ? kExitCannotWrite : kExitUnreadable;
     }
 }
 

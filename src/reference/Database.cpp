@@ -34,8 +34,14 @@ void Configure(sqlite3* handle) {
                             nullptr);
 }
 
+bool IsWriteFailure(int code) {
+    return code == SQLITE_READONLY || code == SQLITE_FULL || code == SQLITE_IOERR;
+}
+
 [[noreturn]] void Fail(sqlite3* handle, const std::string& where) {
-    throw DatabaseError(where + ": " + (handle ? sqlite3_errmsg(handle) : "out of memory"));
+    if (!handle) throw DatabaseError(where + ": out of memory");
+    throw DatabaseError(where + ": " + sqlite3_errmsg(handle),
+                        IsWriteFailure(sqlite3_errcode(handle)));
 }
 
 void Bind(sqlite3_stmt* statement, int index, const SqlValue& value) {

@@ -21,7 +21,13 @@ namespace vexora {
 /// What went wrong with a database file or a statement, in words for the user.
 class DatabaseError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit DatabaseError(const std::string& text, bool cannotWrite = false)
+        : std::runtime_error(text), cannotWrite_(cannotWrite) {}
+    /// True when the file can be read but not written (read-only, disk full).
+    bool CannotWrite() const { return cannotWrite_; }
+
+private:
+    bool cannotWrite_;
 };
 
 /// One value of a statement or a row.

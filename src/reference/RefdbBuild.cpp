@@ -116,7 +116,7 @@ public:
     void Keep() const {
         std::error_code error;
         fs::rename(path_, target_, error);
-        if (error) throw DatabaseError(target_.string() + ": " + error.message());
+        if (error) throw DatabaseError(target_.string() + ": " + error.message(), true);
     }
 
 private:
@@ -130,7 +130,7 @@ std::vector<TableFinding> BuildReferenceDatabases(const std::string& dataFolder,
                                                   const std::string& outFolder) {
     std::error_code error;
     fs::create_directories(outFolder, error);
-    if (error) throw DatabaseError(outFolder + ": " + error.message());
+    if (error) throw DatabaseError(outFolder + ": " + error.message(), true);
     const PendingFile local(fs::path(outFolder) / "VXRLocal.mdb");
     const PendingFile compounds(fs::path(outFolder) / "VXR.mdb");
     std::vector<TableFinding> findings;

@@ -85,7 +85,14 @@ TEST_F(DatabaseTest, AnUnfinishedTransactionLeavesNothing) {
 TEST_F(DatabaseTest, AReadOnlyDatabaseRefusesWritesWithAMessage) {
     Database reader;
     reader.Open(folder.File("t.db"), true);
-    EXPECT_THROW(reader.Insert("T", {{"Name", "x"}}), DatabaseError);
+    try {
+        reader.Insert("T", {{"Name", "x"}});
+        FAIL() << "written";
+    } catch (const DatabaseError& error) {
+        EXPECT_TRUE(error.CannotWrite());
+        EXPECT_EQ(std::string(error.what()),
+                  folder.File("t.db") + ": attempt to write a readonly database");
+    }
     EXPECT_THROW(Database().Query("select 1"), DatabaseError);
 }
 
