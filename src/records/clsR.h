@@ -7,6 +7,7 @@
 
 #include "records/Record.h"
 #include "ui/Collection.h"
+#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -73,8 +74,12 @@ public:
     /// year, author codes and number in one.
     std::string ProposedName() const;
 
-    void ExportR(XmlWriter& xml) const;
-    void ExportAll(XmlWriter& xml);
+    /// What stands before both saving and exporting: asks for SOURCEDOC when it is not known, and
+    /// brings SYSTYPES and the property letters up to date.
+    void PrepareOutput();
+
+    void ExportR(XmlWriter& xml, const ui::Date& today) const;
+    void ExportAll(XmlWriter& xml, const ui::Date& today);
 
 private:
     void AskSourceOfDocument();

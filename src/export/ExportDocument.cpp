@@ -1,0 +1,59 @@
+#include "export/ExportDocument.h"
+
+#include "export/XmlWriter.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsR.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+bool HoldsBioData() {
+    for (const auto& source : Globals().recR) {
+        if (!source->recBR.IsEmpty() || !source->recBP.IsEmpty()) return true;
+    }
+    return false;
+}
+
+std::string Padded(std::int64_t number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+} // namespace
+
+std::string IsoDate(const ui::Date& date) {
+    return std::to_string(date.year) + "-" + Padded(date.month) + "-" + Padded(date.day);
+}
+
+std::string IsoDate(std::string_view recordDate) {
+    const std::vector<std::string> parts = Split(recordDate, '/');
+    if (parts.size() != 3) return {};
+    const auto month = ParseInteger(parts[0]);
+    const auto day = ParseInteger(parts[1]);
+    const auto year = ParseInteger(parts[2]);
+    if (!month || !day || !year || *month < 1 || *month > 12 || *day < 1 || *day > 31) return {};
+    if (*year < 1000 || *year > 9999) return {};
+    return std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day);
+}
+
+std::string ExportDocument(const ui::Date& today) {
+    XmlWriter xml;
+    xml.Declaration();
+    xml.Comment("Created by Vexora " VEXORA_VERSION);
+    const bool bio = HoldsBioData();
+    xml.Open("DataReport", {"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance",
+                            bio ? "xsi:noNamespaceSchemaLocation" : "xsi:SchemaLocation",
+                            bio ? "ThermoML.Bio.xsd" : "ThermoML.xsd"});
+    xml.Open("Version");
+    xml.Element("nVersionMajor", "2");
+    xml.Element("nVersionMinor", "0");
+    xml.Close();
+    for (const auto& source : Globals().recR)
+        source->ExportAll(xml, today);
+    xml.Close();
+    return xml.Text();
+}
+
+} // namespace vexora

@@ -1,0 +1,173 @@
+#include "export/Statements.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "export/XmlWriter.h"
+#include "records/clsX.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+// From this level of confidence on [per cent] a figure is an expanded uncertainty.
+constexpr double ExpandedLevel = 70;
+
+bool IsExpanded(std::string_view level) {
+    return IsNumeric(level) && Val(level) >= ExpandedLevel;
+}
+
+bool ChangesValues(const ExportUnit& unit) {
+    if (!unit.converts) return false;
+    return unit.factor > 0 || (!IsSystemUnit(unit.code) && unit.code != "*");
+}
+
+double ConvertedDifference(double figure, const ExportUnit& unit) {
+    if (!unit.converts) return figure;
+    return ToSystem(unit.code, figure, unit.factor, unit.molarMass) -
+           ToSystem(unit.code, 0, unit.factor, unit.molarMass);
+}
+
+// A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
+// are of the entered value.
+std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& unit,
+                   bool inSystemUnits) {
+    const std::string text = NormalizeNumber(statement);
+    if (IsBlankField(text) || text == "%") return {};
+    if (text.ends_with('%')) {
+        const double percent = Val(std::string_view(text).substr(0, text.size() - 1));
+        return NumberText(std::abs(ConvertedDifference(percent * Val(value) / 100, unit)));
+    }
+    if (!IsNumeric(text)) return {};
+    if (inSystemUnits || !ChangesValues(unit)) return text;
+    return FormatValue(std::abs(ConvertedDifference(Val(text), unit)), SignificantDigits(text));
+}
+
+void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view level) {
+    if (IsNumeric(level) && Val(level) > 0) xml.Element(element, NumberText(Val(level)));
+}
+
+void CombinedHead(XmlWriter& xml, const clsX& item) {
+    if (!item.iCU || (item.CType != "A" && item.CType != "B")) return;
+    xml.Open("CombinedUncertainty");
+    xml.Element("nCombUncertAssessNum", "1");
+    xml.Element("sCombUncertEvaluator", "Data file complier");
+    xml.Element("eCombUncertEvalMethod", item.CType == "A"
+                                             ? "Propagation of evaluated standard uncertainties"
+                                             : "Comparison with reference property values");
+    ExportLevel(xml, "nCombUncertLevOfConfid", item.CLevel);
+    xml.Close();
+}
+
+void AuthorsHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+    if (!item.iUnc) return;
+    xml.Open(role + "Uncertainty");
+    if (role != "Constr") xml.Element("nUncertAssessNum", "1");
+    xml.Element("sUncertEvaluator", "Author");
+    ExportLevel(xml, "nUncertLevOfConfid", item.ULevel);
+    xml.Close();
+}
+
+void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+    if (!item.iRep) return;
+    xml.Open(role + "Repeatability");
+    xml.Element("sRepeatEvaluator", "Author");
+    if (item.RType == 0) xml.Element("eRepeatMethod", "Standard deviation of the mean");
+    if (item.RType == 1) {
+        xml.Element("eRepeatMethod", "Standard deviation of a single value (unbiased)");
+    }
+    xml.Close();
+}
+
+void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+    if (!item.iDS) return;
+    xml.Open(role + "DeviceSpec");
+    if (item.DSEvaluator == "0") {
+        xml.Element("eDeviceSpecMethod", "Specified by the manufacturer");
+    } else if (item.DSEvaluator == "1") {
+        xml.Element("eDeviceSpecMethod", "Certified or calibrated by a third party");
+    } else if (item.DSEvaluator == "2") {
+        xml.Element("eDeviceSpecMethod", "Calibrated by the experimentalist");
+    } else {
+        xml.ElementIfAny("sDeviceSpecEvaluator", item.DSEvaluator);
+    }
+    ExportLevel(xml, "nDeviceSpecLevOfConfid", item.DSLevel);
+    xml.Close();
+}
+
+void WithNumber(XmlWriter& xml, const std::string& group, std::string_view number,
+                std::string_view element, const std::string& figure) {
+    if (figure.empty()) return;
+    xml.Open(group);
+    xml.ElementIfAny(number, number.empty() ? "" : "1");
+    xml.Element(element, figure);
+    xml.Close();
+}
+
+} // namespace
+
+bool IsConvertible(const ExportUnit& unit) {
+    return !unit.converts || unit.factor > 0 || !IsMassBased(unit.code) || unit.molarMass > 0;
+}
+
+ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit) {
+    const std::string text = NormalizeNumber(typed);
+    if (unit.wavelength) {
+        const bool nanometres = unit.converts && unit.code == "nm";
+        const int digits = std::max(1, SignificantDigits(text));
+        if (nanometres) return {text, digits};
+        const double angstroms =
+            unit.converts ? ToSystem(unit.code, Val(text), unit.factor, 0) : Val(text);
+        return {FormatValue(angstroms / 10, digits), digits};
+    }
+    if (!ChangesValues(unit)) return {text, std::max(1, SignificantDigits(text))};
+    const double value = ToSystem(unit.code, Val(text), unit.factor, unit.molarMass);
+    return {FormatConverted(text, unit.code, value),
+            std::max(1, ConvertedDigits(text, unit.code, value))};
+}
+
+void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
+    const std::string name(role);
+    if (name == "Prop") CombinedHead(xml, *this);
+    AuthorsHead(xml, *this, name);
+    RepeatabilityHead(xml, *this, name);
+    DeviceHead(xml, *this, name);
+}
+
+bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
+                      std::string_view value, const ExportUnit& unit) {
+    const std::string name(role);
+    const auto figure = [&](const std::string& statement) {
+        return Figure(statement, value, unit, item.N != 0 && item.inSystemUnits);
+    };
+    if (item.iCU && (item.CType == "A" || item.CType == "B")) {
+        WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",
+                   IsExpanded(item.CLevel) ? "nCombExpandUncertValue" : "nCombStdUncertValue",
+                   figure(item.CValue));
+    }
+    if (item.iUnc) {
+        WithNumber(xml, name + "Uncertainty", "nUncertAssessNum",
+                   IsExpanded(item.ULevel) ? "nExpandUncertValue" : "nStdUncertValue",
+                   figure(item.UValue));
+    }
+    const std::string repeatability = item.iRep ? figure(item.RValue) : std::string();
+    if (!repeatability.empty()) {
+        xml.Open(name + "Repeatability");
+        xml.Element("n" + name + "RepeatValue", repeatability);
+        xml.ElementIfAny("nRepetitions", item.Repetitions);
+        xml.Close();
+    }
+    if (item.iDS) {
+        WithNumber(xml, name + "DeviceSpec", "", "n" + name + "DeviceSpecValue",
+                   figure(item.DSValue));
+    }
+    if (item.iCD) {
+        WithNumber(xml, "CurveDev", "nCurveDevAssessNum", "nCurveDevValue", figure(item.CDRms));
+    }
+    return item.iRep && repeatability.empty();
+}
+
+} // namespace vexora

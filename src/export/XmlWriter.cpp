@@ -1,0 +1,101 @@
+#include "export/XmlWriter.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+void AppendEscaped(std::string& out, char32_t point, bool attribute) {
+    if (point == U'&')
+        out += "&amp;";
+    else if (point == U'<')
+        out += "&lt;";
+    else if (point == U'>')
+        out += "&gt;";
+    else if (point == U'"' && attribute)
+        out += "&quot;";
+    else if (point > 126)
+        out += "&#" + std::to_string(static_cast<unsigned long>(point)) + ";";
+    else if (point >= U' ')
+        out += static_cast<char>(point);
+}
+
+// DEL, the C1 controls and the two non-characters at the end of the plane are no XML text.
+bool IsXmlText(char32_t point) {
+    return (point >= U' ' && point < 0x7F) || (point > 0x9F && point != 0xFFFE && point != 0xFFFF);
+}
+
+std::string Escaped(std::string_view text, bool attribute = false) {
+    std::string out;
+    for (std::size_t at = 0; at < text.size();) {
+        char32_t point = NextCodePoint(text, at);
+        if (point == U'\t' || point == U'\n' || point == U'\r') point = U' ';
+        if (IsXmlText(point)) AppendEscaped(out, point, attribute);
+    }
+    return out;
+}
+
+} // namespace
+
+void XmlWriter::Declaration() {
+    text_ += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+}
+
+void XmlWriter::Comment(std::string_view text) {
+    std::string inside = Escaped(text);
+    while (inside.find("--") != std::string::npos)
+        inside = Replace(inside, "--", "- -");
+    Indent();
+    text_ += "<!-- " + inside + " -->\n";
+}
+
+void XmlWriter::Indent() {
+    text_.append(open_.size(), '\t');
+}
+
+void XmlWriter::Open(std::string_view name, const std::vector<std::string>& attributes) {
+    Indent();
+    text_ += "<";
+    text_ += name;
+    for (std::size_t i = 0; i + 1 < attributes.size(); i += 2) {
+        text_ += " " + attributes[i] + "=\"" + Escaped(attributes[i + 1], true) + "\"";
+    }
+    text_ += ">\n";
+    open_.emplace_back(name);
+}
+
+void XmlWriter::Close() {
+    const std::string name = open_.back();
+    open_.pop_back();
+    Indent();
+    text_ += "</" + name + ">\n";
+}
+
+void XmlWriter::Element(std::string_view name, std::string_view text) {
+    Indent();
+    text_ += "<";
+    text_ += name;
+    text_ += ">" + Escaped(text) + "</";
+    text_ += name;
+    text_ += ">\n";
+}
+
+void XmlWriter::ElementIfAny(std::string_view name, std::string_view text) {
+    if (!text.empty()) Element(name, text);
+}
+
+bool IsXmlName(std::string_view text) {
+    const auto letter = [](char c) {
+        return std::isalpha(static_cast<unsigned char>(c)) || c == '_';
+    };
+    const auto follows = [&](char c) {
+        return letter(c) || std::isdigit(static_cast<unsigned char>(c)) || c == '-' || c == '.';
+    };
+    return !text.empty() && letter(text.front()) && std::all_of(text.begin(), text.end(), follows);
+}
+
+} // namespace vexora

@@ -1,0 +1,36 @@
+#include "records/clsL.h"
+
+#include "export/RegNum.h"
+#include "export/XmlWriter.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+
+namespace vexora {
+
+void ExportRegNum(XmlWriter& xml, const clsL& compound) {
+    const std::size_t position = compound.Parent ? compound.Parent->recL.Position(&compound) : 0;
+    xml.Open("RegNum");
+    xml.Element("nOrgNum", std::to_string(position));
+    xml.Close();
+}
+
+void clsL::ExportL(XmlWriter& xml) const {
+    ExportRegNum(xml, *this);
+    xml.ElementIfAny("sCommonName", Name);
+    xml.ElementIfAny("sFormulaMolec", Formula);
+    if (!isBio) return;
+    xml.Open("bio");
+    xml.ElementIfAny("sECNumber", EC);
+    xml.ElementIfAny("sPDBNumber", PDB);
+    xml.Close();
+}
+
+void clsL::ExportAll(XmlWriter& xml) const {
+    xml.Open("Compound");
+    ExportL(xml);
+    for (const auto& sample : recS)
+        sample->ExportS(xml);
+    xml.Close();
+}
+
+} // namespace vexora

@@ -1,0 +1,118 @@
+#include "records/clsR.h"
+
+#include "export/ExportDocument.h"
+#include "export/XmlWriter.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsAuthor.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Text.h"
+#include "reference/Transliteration.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr CodeText DocumentTypes[] = {
+    {"book", "B"},
+    {"journal", "J"},
+    {"report", "R"},
+    {"patent", "P"},
+    {"thesis", "T"},
+    {"conferenceProceedings", "M"},
+    {"personalCorrespondence", "C"},
+    {"archivedDocument", "D"},
+    {"journal", "S"},
+};
+
+constexpr CodeText SourceTypes[] = {
+    {"Original", "O"},          {"BiblioBulChemThermo", "B"}, {"KVOGeneral", "&"},
+    {"KVOGeneralChecked", "S"}, {"KVODataCard", "C"},         {"ChemicalAbstracts", "A"},
+};
+
+std::string TextOr(CodeTexts table, std::string_view code, std::string_view otherwise) {
+    const std::string text = TextOfCode(table, code);
+    return text.empty() ? std::string(otherwise) : text;
+}
+
+// The part of a source text between two marks, empty when they are not both there.
+std::string Between(std::string_view text, char mark) {
+    const std::size_t first = text.find(mark);
+    if (first == std::string_view::npos) return {};
+    const std::size_t second = text.find(mark, first + 1);
+    if (second == std::string_view::npos) return {};
+    return std::string(Trim(text.substr(first + 1, second - first - 1)));
+}
+
+std::string PublicationName(std::string_view source) {
+    const std::string name = Between(source, '@');
+    return name.empty() ? std::string(Trim(source.substr(0, source.find(',')))) : name;
+}
+
+// Behind the volume the issue stands before the comma; the pages follow it.
+std::string Pages(std::string_view source) {
+    std::size_t from = source.find('$');
+    if (from != std::string_view::npos) from = source.find('$', from + 1);
+    const std::size_t comma =
+        from != std::string_view::npos ? source.find(',', from) : source.rfind(',');
+    return comma == std::string_view::npos ? std::string()
+                                           : std::string(Trim(source.substr(comma + 1)));
+}
+
+std::string AbstractText(std::string_view text) {
+    return Replace(Replace(Replace(text, "<", " less than "), ">", " greater than "), "|", "");
+}
+
+void ExportKeywords(XmlWriter& xml, std::string_view keywords) {
+    for (const std::string& keyword : Split(Replace(keywords, ";", ","), ',')) {
+        xml.ElementIfAny("sKeyword", Transliterate(Trim(keyword)));
+    }
+}
+
+void ExportIdentity(XmlWriter& xml, const clsR& source) {
+    xml.Open("KVORefID");
+    xml.Element("yrYrPub", source.YEARPUB);
+    xml.Element("sAuthor1", source.AUTHOR1);
+    xml.Element("sAuthor2", source.AUTHOR2);
+    xml.Element("nAuthorn", source.AUTHORN);
+    xml.Close();
+}
+
+} // namespace
+
+void clsR::ExportR(XmlWriter& xml, const ui::Date& today) const {
+    xml.Open("Citation");
+    ExportIdentity(xml, *this);
+    xml.Element("eType", TextOr(DocumentTypes, TYPDOC, "unspecified"));
+    xml.Element("eSourceType", TextOr(SourceTypes, SOURCEDOC.empty() ? "&" : SOURCEDOC, "Other"));
+    for (const auto& author : recAuthor)
+        xml.ElementIfAny("sAuthor", Transliterate(author->FULLNM));
+    xml.ElementIfAny("sPubName", Transliterate(PublicationName(SSOURCE)));
+    xml.Element("yrPubYr", Trim(YEARPUB));
+    xml.Element("dateCit", IsoDate(today));
+    xml.ElementIfAny("sTitle", Transliterate(Trim(TTITLE)));
+    xml.ElementIfAny("sAbstract", AbstractText(ABSTRACT));
+    ExportKeywords(xml, KEYWORDS);
+    xml.ElementIfAny("sVol", Transliterate(Between(SSOURCE, '$')));
+    xml.ElementIfAny("sPage", Transliterate(Pages(SSOURCE)));
+    xml.Close();
+}
+
+void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
+    PrepareOutput();
+    CheckPresence();
+    ExportR(xml, today);
+    for (const auto& compound : recL)
+        compound->ExportAll(xml);
+    Globals().DataContext = "Pure";
+    for (const auto& compound : recL) {
+        for (const auto& sample : compound->recS) {
+            for (const auto& value : sample->recZ)
+                value->ExportZ(xml);
+        }
+    }
+}
+
+} // namespace vexora
