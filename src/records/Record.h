@@ -15,6 +15,8 @@ public:
     /// The node in the tree, null for a record that shows none or is not attached. The tree owns
     /// it.
     ui::TreeNode* tNode = nullptr;
+    /// Line of the file that the record was read from, 0 for one made since.
+    int Line = 0;
 
     /// Short identity text, unique among siblings.
     virtual std::string Key() const = 0;
