@@ -32,6 +32,9 @@ void SyncSampleFlags(std::string_view sampleDescription);
 std::string CommentText(std::string_view comment);
 /// The tags of a comment from the first "::" on, or empty.
 std::string CommentTagPart(std::string_view comment);
+/// Takes the tag ":PB:" or ":FP:" out of a comment; the answer is "PB", "FP" or empty. It is to run
+/// before TakeSMethod, which would cut the colon that both tags share.
+std::string TakeState(std::string& comment);
 /// Builds the comment of a data set from the operator's text, the globals and the chain. state is
 /// "FP", "PB" or empty. The operator's text is cut at "::".
 std::string BuildComment(std::string_view text, const clsProperty& head, std::string_view state);
