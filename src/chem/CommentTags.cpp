@@ -40,7 +40,8 @@ std::size_t ColonOrEnd(std::string_view text, std::size_t from) {
     return colon ? colon : CodePointCount(text) + 1;
 }
 
-/// Takes the tag with this opening (":Name:") out of the text; its closing colon stays unless asked.
+/// Takes the tag with this opening (":Name:") out of the text; its closing colon stays unless
+/// asked.
 std::optional<std::string> TakeTag(std::string& text, std::string_view opening, bool withColon) {
     const std::size_t p = Find(text, opening);
     if (p == 0) return std::nullopt;
@@ -131,6 +132,8 @@ void EncodeTags(const clsProperty& head) {
     if (!method.Method.empty()) method.KeySaved += ":Method:" + method.Method;
     if (keyRest.empty() || keyRest == "::") keyRest = ":";
     DropStaleFactor(keyRest);
+    // Taking a free-text method off the end takes the colon of the tag in front of it as well.
+    if (!keyRest.ends_with(':')) keyRest += ':';
     method.KeySaved += keyRest;
     if (method.f > 0 && method.f != 1)
         method.KeySaved += "UFactor:" + NumberText(Val(NumberText(method.f))) + ":";

@@ -1,0 +1,116 @@
+#include "chem/CommentTags.h"
+
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "support/DocumentFixture.h"
+
+namespace vexora {
+namespace {
+
+class Tags : public test::DocumentFixture {
+protected:
+    Tags() { globals.CurrentMethod = std::make_shared<clsMethod>(); }
+
+    static clsProperty Item(const char* code, const char* precision = "") {
+        clsProperty item;
+        item.PropertyCode = code;
+        item.PrecisionText = precision;
+        return item;
+    }
+    /// Reads a comment as a dialog does and writes it back.
+    std::string ReadAndWrite(std::string comment, clsProperty head) {
+        const std::string state = TakeState(comment);
+        comment = TakeSMethod(comment);
+        globals.CurrentMethod->KeySaved = CommentTagPart(comment);
+        SplitCommentTags();
+        DecodePrecisionTags(head);
+        return BuildComment(CommentText(comment), head, state);
+    }
+};
+
+TEST_F(Tags, CommentsComeBackAsTheyWereWritten) {
+    for (const std::string comment : {
+             "abc ::Method:X:",
+             "sealed cell ::Method:PYC:UFactor:1000:",
+             "::Method::",
+             "two words ::Method:PYC:gasfree:P = 101.325:UFactor:2.5:dTC:0.01:",
+             "::Method:OTHER:dTC:1%:sMethod:weighing by hand:PB:",
+             "::Method::sMethod:own way:FP:",
+             "::Method:PYC:later:d2:FP:",
+             "::Method:OTHER:later:sMethod:x:",
+             "caf\xC3\xA9 \xC2\xB1 ::Method:OTHER:UFactor:2:dTC:0.5:sMethod:\xC3\xA9tuve:PB:",
+         })
+        for (int round = 0; round < 3; ++round)
+            EXPECT_EQ(ReadAndWrite(comment, Item("TC")), comment);
+}
+
+TEST_F(Tags, OldAndMixedFormsAreReadAndWrittenInOneForm) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"abc::Method:X", "abc ::Method:X:"},
+        {"& ::Method:X:", "::Method:X:"},
+        {"abc", "abc ::Method::"},
+        {"a ::", "a ::Method::"},
+        {"a :: b ::Method:X:", "a ::Method:X: b ::"},
+        {"::UFactor:0:Method:X:", "::Method:X:"},
+        {"::Method:X:sMethod:stale:", "::Method:X:"},
+    };
+    for (const auto& [stored, written] : cases)
+        EXPECT_EQ(ReadAndWrite(stored, Item("TC")), written) << stored;
+}
+
+TEST_F(Tags, PrecisionOfEachItemIsFoundAndPerCentIsOfTheValue) {
+    globals.CurrentMethod->KeySaved = "::x:dTC:-2%:dT:0.01:y:";
+    clsProperty head = Item("TC");
+    head.Value = -50;
+    head.isLast = false;
+    head.NextItem = std::make_shared<clsProperty>(Item("T"));
+    DecodePrecisionTags(head);
+    EXPECT_EQ(head.PrecisionText, "-2%");
+    EXPECT_EQ(head.PRECISION, 1);
+    EXPECT_EQ(head.NextItem->PRECISION, 0.01);
+    EXPECT_EQ(globals.KeyRest, ":x:y:");
+    EncodeTags(head);
+    EXPECT_EQ(globals.CurrentMethod->KeySaved, "::x:y:dTC:-2%:dT:0.01:");
+}
+
+TEST_F(Tags, WhatWouldTearTheTagsApartNeverBecomesOne) {
+    clsMethod& method = *globals.CurrentMethod;
+    method.Method = "OTHER";
+    method.sMethod = "a:b";
+    method.f = -3;
+    globals.KeyRest = ":UFactor:7:k:UFactor:8:";
+    EXPECT_EQ(BuildComment("text::more", Item("TC", "1:2"), "FP"),
+              "text ::Method:OTHER:k:sMethod:a b:FP:");
+    EXPECT_EQ(BuildComment("line\r\nbreak", Item("TC", " 5 "), ""),
+              "line break ::Method:OTHER:k:dTC:5:sMethod:a b:");
+}
+
+TEST_F(Tags, UnterminatedFreeMethodLosesItsLastLetter) {
+    EXPECT_EQ(TakeSMethod("::Method:OTHER:sMethod:foo"), "::Method:OTHER");
+    EXPECT_EQ(globals.CurrentMethod->sMethod, "fo");
+    EXPECT_EQ(TakeSMethod("a:sMethod:"), "a");
+    EXPECT_EQ(globals.CurrentMethod->sMethod, "");
+    EXPECT_EQ(TakeSMethod("::Method:OTHER:sMethod:foo:k:"), "::Method:OTHER:k:");
+    EXPECT_EQ(globals.CurrentMethod->sMethod, "foo");
+}
+
+TEST_F(Tags, DisplayTextIsReadable) {
+    EXPECT_EQ(CommentDisplayText("sealed cell ::Method:PYC:dTF:0.01:"),
+              "sealed cell   Method PYC dTF=0.01=");
+    EXPECT_EQ(CommentDisplayText("::Method:PYC:sMethod:x:"), "::Method PYC");
+    EXPECT_EQ(CommentDisplayText("\xC3\xA9t\xC3\xA9::a:b:"), "\xC3\xA9t\xC3\xA9::a:b ");
+    EXPECT_EQ(CommentDisplayText("plain"), "plain");
+}
+
+TEST_F(Tags, SampleFlagsFollowTheWordsOfTheDescription) {
+    const auto flags = [&](const char* description) {
+        SyncSampleFlags(description);
+        return globals.CurrentMethod->KeyVolatile;
+    };
+    EXPECT_EQ(flags("cm;fd,db;99m%,gc"), ":fd:db:cm:");
+    EXPECT_EQ(flags("sa;dist;"), ":");
+    EXPECT_EQ(flags("sa;\xC3\xA9 av;"), ":av:");
+}
+
+} // namespace
+} // namespace vexora

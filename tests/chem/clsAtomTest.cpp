@@ -1,0 +1,54 @@
+#include "chem/clsAtom.h"
+
+#include "support/DocumentFixture.h"
+
+namespace vexora {
+namespace {
+
+using Formulas = test::DocumentFixture;
+
+TEST_F(Formulas, TypedTextBecomesTheCanonicalOne) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"H2O", "H2O"},           {"OH2", "H2O"},
+        {"C2H5OH", "C2H6O"},      {"D2O", "D2O"},
+        {"CH3(CH2)2OH", "C3H8O"}, {"(CH3)2", "C2H6"},
+        {"(CH3)", "CH3"},         {"CaCO3", "CCaO3"},
+        {"NaCl", "ClNa"},         {"HDO", "HDO"},
+        {"CHDTBr", "CHDTBr"},     {"C0.5H2", "C0.5H2"},
+        {"{R}2O", "O{R}2"},       {"H1.2.3O", "H1.2O"},
+        {"Ca(OH)2", "CaH2O2"},    {"K4(Fe(CN)6)", "C6FeK4N6"},
+        {"CH3)2", "CH3"},         {" CHBr3 ", "CHBr3"}};
+    for (const auto& [typed, canonical] : cases)
+        EXPECT_EQ(CanonicalFormula(typed), canonical) << typed;
+}
+
+TEST_F(Formulas, WhatIsNoFormulaGivesNoText) {
+    for (const char* text : {"", "H2O0", "H0O", "Xx2", "ch4", "(CH3", "C()H4", "H2O!", "H2(Xx)3O",
+                             "(CH2)0", "H.O", "CO2\xC2\xB7H2O", "Chbr3"}) {
+        EXPECT_EQ(CanonicalFormula(text), "") << text;
+        EXPECT_EQ(MolarMassOfFormula(text), 0) << text;
+    }
+    EXPECT_EQ(CanonicalFormula(std::string(100000, '(') + "C" + std::string(100000, ')')), "");
+}
+
+TEST_F(Formulas, MolarMassSumsTheAtomsAndPassesOverPseudoSymbols) {
+    EXPECT_NEAR(MolarMassOfFormula("H2O"), 2 * 1.008 + 15.999, 1e-9);
+    EXPECT_NEAR(MolarMassOfFormula("CH3(CH2)2OH"), 3 * 12.011 + 8 * 1.008 + 15.999, 1e-9);
+    EXPECT_NEAR(MolarMassOfFormula("C0.5H2"), 0.5 * 12.011 + 2 * 1.008, 1e-9);
+    EXPECT_NEAR(MolarMassOfFormula("{R}2O"), 15.999, 1e-9);
+}
+
+TEST_F(Formulas, ListsAreMergedInOrderOfFirstAppearance) {
+    clsAtom sum, other;
+    sum.Build("CH4");
+    other.Build("H2O");
+    other.Multiply(2);
+    sum.AddB(other);
+    EXPECT_EQ(sum.Formula(), "CH8O2");
+    EXPECT_EQ(sum.Symbol, "C");
+    EXPECT_EQ(sum.nextAtom->Symbol, "H");
+    EXPECT_TRUE(sum.nextAtom->nextAtom->isLast);
+}
+
+} // namespace
+} // namespace vexora
