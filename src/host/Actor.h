@@ -17,6 +17,15 @@ class Actor {
 public:
     virtual ~Actor() = default;
 
+    /// A program has been made, nothing of it is open yet: a front with windows listens from here
+    /// on.
+    virtual void Attach(ui::Forms&) {}
+    /// The program is about to go.
+    virtual void Detach(ui::Forms&) {}
+    /// Whether an exception may pass through the event handling of the front; it is how a script
+    /// that ends below a modal form leaves the handlers that are still waiting.
+    virtual bool LetsExceptionsThrough() const { return true; }
+
     virtual void Click(ui::Control& control) = 0;
     virtual void DoubleClick(ui::Control& control) = 0;
     /// Enters the control, replaces its content at once, leaves it.
@@ -24,7 +33,9 @@ public:
     /// Enters the control and types; characters go where the focus is when they are typed.
     virtual void Type(ui::Control& control, const std::string& text) = 0;
     virtual void PressKey(ui::Control& control, const ui::Key& key) = 0;
-    /// Picks an entry of a combo box (dropping it down first), a list box or a tab strip.
+    /// Opens the list of a combo box, which may fill it only now; Choose follows.
+    virtual void DropDown(ui::ComboBox& combo) { combo.UserDropDown(); }
+    /// Picks an entry of a combo box that has been dropped down, of a list box or a tab strip.
     virtual void Choose(ui::ItemList& list, int index) = 0;
     virtual void Select(ui::ListBox& list, int index, bool on) = 0;
     virtual void Check(ui::CheckBox& box, bool on) = 0;

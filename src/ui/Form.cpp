@@ -140,6 +140,8 @@ void Form::UserKey(Key key) {
         CancelButton->UserClick();
     else if (key.name == "Tab")
         FocusTo(NextInTabOrder(key.shift));
+    else if (key.name == "F1" && HelpContext != 0)
+        TheDesktop().ShowHelp(HelpContext);
 }
 
 } // namespace vexora::ui

@@ -70,7 +70,7 @@ public:
     /// is not usable or takes no focus is passed over.
     void FocusTo(Control* control);
     /// A key on the control that has the focus: the control first, then Enter for the default
-    /// button, Escape for the cancel button, Tab to the next field.
+    /// button, Escape for the cancel button, Tab to the next field, F1 for the help of the form.
     void UserKey(Key key);
     /// The usable control behind (or before) the active one in tab order, or null.
     Control* NextInTabOrder(bool backwards) const;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/Desktop.h"
+
 namespace vexora::ui {
 
 namespace {
@@ -104,6 +106,19 @@ void Grid::UserPaste(const std::string& text) {
         ++row;
     }
     UserSelect({top, left, top, left});
+}
+
+bool Grid::UserKey(Key& key) {
+    if (Control::UserKey(key)) return true;
+    if (!IsUsable()) return false;
+    const std::string name = key.FullName();
+    if (name == "Ctrl+V")
+        UserPaste(TheDesktop().ClipboardText());
+    else if (name == "Ctrl+C")
+        TheDesktop().ClipboardText(SelectionText());
+    else
+        return false;
+    return true;
 }
 
 void Grid::UserSelect(Block block) {

@@ -47,6 +47,8 @@ public:
     void UserCell(int row, int column, const std::string& text);
     void UserPaste(const std::string& text);
     void UserSelect(Block block);
+    /// Ctrl+V pastes at the selection, Ctrl+C copies it.
+    bool UserKey(Key& key) override;
 
     /// Which cell changed; rows and columns of -1 when it was the whole table.
     Signal<int, int> CellChanged;

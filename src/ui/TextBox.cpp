@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ui/Desktop.h"
 #include "ui/Form.h"
 #include "ui/Utf8.h"
 
@@ -96,6 +97,19 @@ bool TextBox::Move(const Key& key) {
     return true;
 }
 
+bool TextBox::UseClipboard(const Key& key) {
+    const std::string name = key.FullName();
+    if (name == "Ctrl+V") {
+        UserPaste(TheDesktop().ClipboardText());
+        return true;
+    }
+    if (name != "Ctrl+C" && name != "Ctrl+X") return false;
+    if (length_ == 0) return true;
+    TheDesktop().ClipboardText(FromPoints(ToPoints(text_).substr(start_, length_)));
+    if (name == "Ctrl+X" && !locked_) ReplaceSelection({});
+    return true;
+}
+
 bool TextBox::Edit(const Key& key) {
     const bool newLine = key.name == "Enter" && IsMultiLine();
     if (key.name == "Backspace") {
@@ -114,7 +128,7 @@ bool TextBox::Edit(const Key& key) {
 bool TextBox::UserKey(Key& key) {
     if (Control::UserKey(key)) return true;
     if (!IsUsable()) return false;
-    if (Move(key)) return true;
+    if (Move(key) || UseClipboard(key)) return true;
     return !locked_ && !key.control && !key.alt && Edit(key);
 }
 

@@ -49,6 +49,7 @@ private:
     void ReplaceSelection(std::u32string_view with);
     void Erase(bool backwards);
     bool Move(const Key& key);
+    bool UseClipboard(const Key& key);
     bool Edit(const Key& key);
 
     std::string text_;

@@ -1,0 +1,116 @@
+#include "host/Reach.h"
+
+#include <algorithm>
+
+#include "reference/Numbers.h"
+#include "ui/Forms.h"
+
+namespace vexora::host {
+
+namespace {
+
+constexpr std::string_view pathSeparator = " / ";
+
+bool Holds(const ui::Layout& layout, const ui::Control& control) {
+    if (layout.control == &control || layout.label == &control) return true;
+    return std::any_of(layout.parts.begin(), layout.parts.end(),
+                       [&control](const ui::Layout& part) { return Holds(part, control); });
+}
+
+/// False when the control stands on a page that is not turned up.
+bool IsOnTurnedPage(const ui::Layout& layout, const ui::Control& control) {
+    const bool pages = layout.kind == ui::Layout::Kind::Pages && layout.control != nullptr;
+    for (std::size_t i = 0; i < layout.parts.size(); ++i) {
+        if (!Holds(layout.parts[i], control)) continue;
+        if (pages) {
+            const auto& tabs = static_cast<const ui::TabStrip&>(*layout.control);
+            if (std::max(tabs.Index(), 0) != static_cast<int>(i)) return false;
+        }
+        return IsOnTurnedPage(layout.parts[i], control);
+    }
+    return true;
+}
+
+const ui::MenuItem* MenuAbove(const ui::Control& control) {
+    if (control.Kind() != ui::ControlKind::MenuItem) return nullptr;
+    return static_cast<const ui::MenuItem&>(control).Parent();
+}
+
+using Nodes = std::vector<std::unique_ptr<ui::TreeNode>>;
+
+bool MatchesLabel(const std::string& text, std::string_view label) {
+    if (text == label) return true;
+    return label.ends_with('*') && text.starts_with(label.substr(0, label.size() - 1));
+}
+
+void Collect(const Nodes& nodes, std::string_view path, std::vector<ui::TreeNode*>& found) {
+    for (std::size_t end = 0; end != path.npos;) {
+        const std::size_t next = path.find(pathSeparator, end);
+        const std::string_view label = path.substr(0, next);
+        for (const auto& node : nodes) {
+            if (!MatchesLabel(node->Text(), label)) continue;
+            if (next == path.npos)
+                found.push_back(node.get());
+            else
+                Collect(node->Children(), path.substr(next + pathSeparator.size()), found);
+        }
+        end = next == path.npos ? next : next + pathSeparator.size();
+    }
+}
+
+} // namespace
+
+bool IsSeen(const ui::Control& control) {
+    const ui::MenuItem* menu = MenuAbove(control);
+    return control.IsShown() && (menu == nullptr || IsSeen(*menu)) &&
+           IsOnTurnedPage(control.Owner().Arrangement, control);
+}
+
+bool IsEnabledThrough(const ui::Control& control) {
+    const ui::MenuItem* menu = MenuAbove(control);
+    if (!control.Enabled() || (menu && !IsEnabledThrough(*menu))) return false;
+    return control.Container() == nullptr || IsEnabledThrough(*control.Container());
+}
+
+std::string WhyNotReachable(const ui::Form& form) {
+    const std::string& name = form.Name();
+    if (!form.IsOpen()) return name + " is not open";
+    if (!form.IsVisible()) return name + " is hidden";
+    if (form.IsReachable()) return {};
+    const ui::Form* top = ui::Forms::Current().TopModal();
+    return name + " stands behind " + (top ? top->Name() : "another form");
+}
+
+std::string WhyNotUsable(const ui::Control& control) {
+    if (std::string why = WhyNotReachable(control.Owner()); !why.empty()) return why;
+    if (!IsSeen(control)) return control.Name() + " is hidden";
+    if (!IsEnabledThrough(control)) return control.Name() + " is disabled";
+    return {};
+}
+
+std::string ShownText(const ui::Control& control) {
+    if (control.Kind() != ui::ControlKind::ListBox) return control.Display();
+    const auto& list = static_cast<const ui::ListBox&>(control);
+    if (list.SelectionMode() == ui::ListBox::Mode::Single) return list.Chosen();
+    std::string text;
+    for (int i = 0; i < list.Count(); ++i) {
+        if (!list.Selected(i)) continue;
+        if (!text.empty()) text += "; ";
+        text += list.Item(i);
+    }
+    return text;
+}
+
+int EntryIndex(const ui::ItemList& list, const std::string& word, bool quoted) {
+    if (quoted) return list.Find(word);
+    const auto index = ParseInteger(std::string_view(word).substr(1));
+    return index && *index < list.Count() ? static_cast<int>(*index) : -1;
+}
+
+std::vector<ui::TreeNode*> NodesAt(const ui::TreeView& tree, const std::string& path) {
+    std::vector<ui::TreeNode*> found;
+    Collect(tree.Roots(), path, found);
+    return found;
+}
+
+} // namespace vexora::host

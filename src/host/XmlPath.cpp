@@ -1,0 +1,305 @@
+#include "host/XmlPath.h"
+
+#include <algorithm>
+#include <memory>
+#include <set>
+
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+namespace vexora::host {
+
+namespace {
+
+struct Element {
+    std::string name;
+    std::string text; // all character data below
+    std::vector<std::unique_ptr<Element>> children;
+};
+
+bool IsNameCharacter(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+           (c >= '0' && c <= '9') || c == '_' || c == ':' || c == '-' || c == '.';
+}
+
+/// Reads a document of elements, attributes, character data, comments, CDATA and instructions. A
+/// document type is refused: nothing written here has one.
+class XmlReader {
+public:
+    explicit XmlReader(std::string_view text) : text_(text) {}
+
+    std::unique_ptr<Element> Document() {
+        if (!IsValidUtf8(text_)) Fail("no valid UTF-8");
+        Take("\xEF\xBB\xBF");
+        SkipOutside();
+        if (AtEnd() || text_[at_] != '<') Fail("no root element");
+        auto root = ReadElement(0);
+        SkipOutside();
+        if (!AtEnd()) Fail("text behind the root element");
+        return root;
+    }
+
+private:
+    [[noreturn]] void Fail(const std::string& what) const {
+        const auto line = std::count(
+            text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(std::min(at_, text_.size())),
+            '\n');
+        throw XmlError("line " + std::to_string(line + 1) + ": " + what);
+    }
+
+    bool AtEnd() const { return at_ >= text_.size(); }
+
+    bool Take(std::string_view what) {
+        if (text_.substr(std::min(at_, text_.size()), what.size()) != what) return false;
+        at_ += what.size();
+        return true;
+    }
+
+    bool SkipBlanks() {
+        const std::size_t before = at_;
+        at_ = std::min(text_.find_first_not_of(" \t\r\n", at_), text_.size());
+        return at_ > before;
+    }
+
+    std::string_view Until(std::string_view end) {
+        const std::size_t found = text_.find(end, at_);
+        if (found == text_.npos) Fail("missing " + std::string(end));
+        const std::string_view part = text_.substr(at_, found - at_);
+        at_ = found + end.size();
+        return part;
+    }
+
+    bool SkipAside() {
+        if (Take("<!--")) {
+            Until("--");
+            if (!Take(">")) Fail("-- in a comment");
+            return true;
+        }
+        if (!Take("<?")) return false;
+        Until("?>");
+        return true;
+    }
+
+    void SkipOutside() {
+        while (SkipBlanks() || SkipAside()) {
+        }
+    }
+
+    std::string Name() {
+        const std::size_t first = at_;
+        while (!AtEnd() && IsNameCharacter(text_[at_]))
+            ++at_;
+        const std::string name(text_.substr(first, at_ - first));
+        if (name.empty() || name[0] == '-' || name[0] == '.' || (name[0] >= '0' && name[0] <= '9'))
+            Fail("a name is missing");
+        return name;
+    }
+
+    std::string Reference() {
+        const std::string name(Until(";"));
+        if (name == "lt") return "<";
+        if (name == "gt") return ">";
+        if (name == "amp") return "&";
+        if (name == "quot") return "\"";
+        if (name == "apos") return "'";
+        if (!name.starts_with('#')) Fail("unknown reference &" + name + ";");
+        return CharacterReference(name);
+    }
+
+    std::string CharacterReference(const std::string& name) {
+        const bool hex = name.starts_with("#x");
+        char32_t point = 0;
+        const std::string digits = name.substr(hex ? 2 : 1);
+        for (const char c : digits) {
+            const auto digit = std::string_view("0123456789abcdef").find(LowerAscii({&c, 1}));
+            if (digit == std::string::npos || (!hex && digit > 9) || point > 0x10FFFF)
+                Fail("no character &" + name + ";");
+            point = point * (hex ? 16 : 10) + static_cast<char32_t>(digit);
+        }
+        if (digits.empty() || point == 0) Fail("no character &" + name + ";");
+        std::string text;
+        AppendCodePoint(text, point);
+        return text;
+    }
+
+    void ReadAttributes() {
+        std::set<std::string> names;
+        while (SkipBlanks() && !AtEnd() && IsNameCharacter(text_[at_])) {
+            if (!names.insert(Name()).second) Fail("an attribute stands twice");
+            SkipBlanks();
+            if (!Take("=")) Fail("= is missing behind an attribute");
+            SkipBlanks();
+            const char quote = AtEnd() ? '\0' : text_[at_++];
+            if (quote != '"' && quote != '\'') Fail("an attribute without quotes");
+            while (!AtEnd() && text_[at_] != quote) {
+                if (text_[at_] == '<') Fail("< in an attribute");
+                if (text_[at_++] == '&') Reference();
+            }
+            if (AtEnd()) Fail("an attribute is not closed");
+            ++at_;
+        }
+    }
+
+    std::unique_ptr<Element> ReadElement(int depth) {
+        if (depth > 200) Fail("nested too deep");
+        auto element = std::make_unique<Element>();
+        if (!Take("<")) Fail("< is missing");
+        element->name = Name();
+        ReadAttributes();
+        if (Take("/>")) return element;
+        if (!Take(">")) Fail("> is missing behind " + element->name);
+        while (!Take("</"))
+            ReadContent(*element, depth);
+        if (Name() != element->name) Fail(element->name + " is closed by another name");
+        SkipBlanks();
+        if (!Take(">")) Fail("> is missing behind " + element->name);
+        return element;
+    }
+
+    void ReadContent(Element& element, int depth) {
+        if (AtEnd()) Fail(element.name + " is not closed");
+        if (SkipAside()) return;
+        if (Take("<![CDATA[")) {
+            element.text += Until("]]>");
+        } else if (text_[at_] == '<') {
+            element.children.push_back(ReadElement(depth + 1));
+            element.text += element.children.back()->text;
+        } else {
+            const char c = text_[at_++];
+            if (static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r')
+                Fail("a control character");
+            if (c == '>' && at_ >= 3 && text_.substr(at_ - 3, 3) == "]]>") Fail("]]> in a text");
+            if (c == '&')
+                element.text += Reference();
+            else if (c != '\r')
+                element.text += c;
+        }
+    }
+
+    std::string_view text_;
+    std::size_t at_ = 0;
+};
+
+/// One step of a path.
+struct Step {
+    bool anyDepth = false;
+    std::string name;
+    std::int64_t position = 0;                                 // 0 for all
+    std::vector<std::pair<std::string, std::string>> children; // name and text asked for
+};
+
+[[noreturn]] void BadPath(std::string_view path) {
+    throw XmlError("no path: " + std::string(path));
+}
+
+/// Where a step that begins at `from` ends: at the next "/" outside brackets.
+std::size_t EndOfStep(std::string_view path, std::size_t from) {
+    bool inText = false;
+    bool inBrackets = false;
+    for (std::size_t at = from; at < path.size(); ++at) {
+        if (path[at] == '\'') inText = !inText;
+        if (inText) continue;
+        if (path[at] == '[' || path[at] == ']') inBrackets = path[at] == '[';
+        if (path[at] == '/' && !inBrackets) return at;
+    }
+    return path.size();
+}
+
+void ReadCondition(Step& step, std::string_view condition, std::string_view path) {
+    if (const auto number = ParseInteger(condition)) {
+        if (*number < 1) BadPath(path);
+        step.position = *number;
+        return;
+    }
+    const std::size_t sign = condition.find("='");
+    if (sign == condition.npos || sign == 0 || sign + 3 > condition.size() ||
+        !condition.ends_with('\''))
+        BadPath(path);
+    step.children.emplace_back(condition.substr(0, sign),
+                               condition.substr(sign + 2, condition.size() - sign - 3));
+}
+
+Step ReadStep(std::string_view text, std::string_view path) {
+    Step step;
+    std::size_t at = std::min(text.find('['), text.size());
+    step.name = std::string(text.substr(0, at));
+    if (step.name.empty()) BadPath(path);
+    while (at < text.size()) {
+        bool inText = false;
+        std::size_t end = at + 1;
+        while (end < text.size() && (inText || text[end] != ']')) {
+            if (text[end++] == '\'') inText = !inText;
+        }
+        if (text[at] != '[' || end >= text.size()) BadPath(path);
+        ReadCondition(step, text.substr(at + 1, end - at - 1), path);
+        at = end + 1;
+    }
+    return step;
+}
+
+std::vector<Step> ReadPath(std::string_view path) {
+    std::vector<Step> steps;
+    for (std::size_t at = 0; at < path.size();) {
+        bool anyDepth = false;
+        if (path.substr(at, 2) == "//") {
+            anyDepth = true;
+            at += 2;
+        } else if (path[at] == '/') {
+            ++at;
+        }
+        const std::size_t end = EndOfStep(path, at);
+        steps.push_back(ReadStep(path.substr(at, end - at), path));
+        steps.back().anyDepth = anyDepth;
+        at = end;
+    }
+    if (steps.empty()) BadPath(path);
+    return steps;
+}
+
+bool HasChild(const Element& element, const std::string& name, const std::string& text) {
+    return std::any_of(element.children.begin(), element.children.end(), [&](const auto& child) {
+        return child->name == name && Trim(child->text) == text;
+    });
+}
+
+using Found = std::vector<const Element*>;
+
+void AddUnique(Found& found, const Element* element) {
+    if (std::find(found.begin(), found.end(), element) == found.end()) found.push_back(element);
+}
+
+void TakeStep(const Element& parent, const Step& step, Found& found) {
+    std::int64_t position = 0;
+    for (const auto& child : parent.children) {
+        const bool named = step.name == "*" || child->name == step.name;
+        const bool fits =
+            named &&
+            std::all_of(step.children.begin(), step.children.end(), [&child](const auto& wanted) {
+                return HasChild(*child, wanted.first, wanted.second);
+            });
+        if (fits && (++position == step.position || step.position == 0))
+            AddUnique(found, child.get());
+        if (step.anyDepth) TakeStep(*child, step, found);
+    }
+}
+
+} // namespace
+
+std::vector<std::string> XmlTexts(std::string_view document, std::string_view path) {
+    Element above;
+    above.children.push_back(XmlReader(document).Document());
+    Found found{&above};
+    for (const Step& step : ReadPath(path)) {
+        Found next;
+        for (const Element* element : found)
+            TakeStep(*element, step, next);
+        found = std::move(next);
+    }
+    std::vector<std::string> texts;
+    for (const Element* element : found)
+        texts.emplace_back(Trim(element->text));
+    return texts;
+}
+
+} // namespace vexora::host
