@@ -1,6 +1,8 @@
 #include "ui/TextBox.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "ui/Desktop.h"
 #include "ui/Form.h"
@@ -142,12 +144,24 @@ void RichText::Html(std::string html) {
 }
 
 std::string RichText::Display() const {
+    static constexpr std::pair<std::string_view, char> kEntities[] = {
+        {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&amp;", '&'}};
     std::string text;
     bool inTag = false;
-    for (const char c : html_) {
+    for (std::size_t i = 0; i < html_.size(); ++i) {
+        char c = html_[i];
         if (c == '<') inTag = true;
-        if (!inTag) text += c;
-        if (c == '>') inTag = false;
+        if (!inTag) {
+            for (const auto& [entity, sign] : kEntities) {
+                if (html_.compare(i, entity.size(), entity) != 0) continue;
+                i += entity.size() - 1;
+                c = sign;
+                break;
+            }
+            text += c;
+        } else if (c == '>') {
+            inTag = false;
+        }
     }
     return text;
 }

@@ -97,6 +97,7 @@ void TreeView::UserNodeReached(TreeNode& node) {
     if (!IsUsable()) return;
     SetFocus();
     Select(&node);
+    if (OnNodeReached) OnNodeReached(node);
 }
 
 void TreeView::UserDrop(const std::string& path) {

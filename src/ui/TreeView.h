@@ -68,6 +68,8 @@ public:
     std::function<void()> OnMouseDown;
     std::function<void(TreeNode&)> OnNodeClick;
     std::function<void(TreeNode&)> OnNodeDoubleClick;
+    /// The keyboard brought the selection to the node.
+    std::function<void(TreeNode&)> OnNodeReached;
     std::function<void(const std::string& path)> OnDrop;
 
     void UserNodeClick(TreeNode& node);
