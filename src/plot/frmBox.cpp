@@ -1,0 +1,75 @@
+#include "plot/frmBox.h"
+
+#include "plot/RtfText.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+/// What stands between two marks of an HTML page, or the whole.
+std::string Between(const std::string& html, std::string_view open, std::string_view close) {
+    const std::size_t from = html.find(open);
+    if (from == std::string::npos) return {};
+    const std::size_t start = from + open.size();
+    const std::size_t end = html.find(close, start);
+    return end == std::string::npos ? std::string() : html.substr(start, end - start);
+}
+
+} // namespace
+
+std::string HtmlOfText(std::string_view text) {
+    std::string html;
+    for (const char c : text) {
+        if (c == '&')
+            html += "&amp;";
+        else if (c == '<')
+            html += "&lt;";
+        else if (c == '>')
+            html += "&gt;";
+        else if (c == '\n')
+            html += "<br>\n";
+        else if (c != '\r')
+            html += c;
+    }
+    return html;
+}
+
+frmBox::frmBox() : Form("frmBox", "Vexora") {
+    Arrangement = ui::Column({rtfBox, ui::ButtonRow({cmdPrint, cmdClose})});
+    DefaultButton = &cmdClose;
+    CancelButton = &cmdClose;
+    PreferredColumns = 80;
+    PreferredRows = 28;
+    cmdPrint.OnClick = [this] { cmdPrint_Click(); };
+    cmdClose.OnClick = [this] { Close(); };
+}
+
+std::string frmBox::LoadFile(const std::string& path) {
+    std::string error;
+    const auto bytes = ui::TheDesktop().Files().Read(path, error);
+    if (!bytes) return error.empty() ? path + " cannot be read" : error;
+    const std::string text = ToUtf8(*bytes);
+    const std::string name = LowerAscii(path);
+    if (name.ends_with(".html") || name.ends_with(".htm")) {
+        const std::string title = Between(text, "<title>", "</title>");
+        const std::string body = Between(text, "<body>", "</body>");
+        Caption(title.empty() ? "Vexora" : title);
+        rtfBox.Html(body.empty() ? text : body);
+    } else {
+        ShowText("Vexora", name.ends_with(".rtf") ? TextOfRtf(text) : text);
+    }
+    return {};
+}
+
+void frmBox::ShowText(const std::string& title, std::string_view text) {
+    Caption(title);
+    rtfBox.Html(HtmlOfText(text));
+}
+
+void frmBox::cmdPrint_Click() {
+    ui::TheDesktop().Print(Caption(), rtfBox.Display());
+}
+
+} // namespace vexora

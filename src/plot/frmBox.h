@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ui/Buttons.h"
+#include "ui/Form.h"
+#include "ui/TextBox.h"
+
+namespace vexora {
+
+/// The viewer of a text that is only read: the introduction, the scope of the data, a page of help.
+/// Whoever shows it fills it first. It is a helper: it takes no part in the chain of dialogs.
+class frmBox : public ui::Form {
+public:
+    frmBox();
+
+    ui::RichText rtfBox{*this, "rtfBox"};
+    ui::CommandButton cmdPrint{*this, "cmdPrint", "&Print"};
+    ui::CommandButton cmdClose{*this, "cmdClose", "&Close"};
+
+    /// Takes a file; the ending of its name tells rich text (.rtf), HTML (.html, .htm) and plain
+    /// text apart. The answer is empty, or why it cannot be read.
+    std::string LoadFile(const std::string& path);
+    /// Takes a plain text.
+    void ShowText(const std::string& title, std::string_view text);
+
+private:
+    void cmdPrint_Click();
+};
+
+/// A plain text as HTML, line by line.
+std::string HtmlOfText(std::string_view text);
+
+} // namespace vexora
