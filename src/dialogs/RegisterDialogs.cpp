@@ -1,30 +1,7 @@
 #include "dialogs/RegisterDialogs.h"
 
-#include "dialogs/frmAuthor.h"
-#include "dialogs/frmDocument.h"
-#include "dialogs/frmMakeBook.h"
-#include "dialogs/frmMakeConf.h"
-#include "dialogs/frmMakeDeposited.h"
-#include "dialogs/frmMakeJournal.h"
-#include "dialogs/frmMakePatent.h"
-#include "dialogs/frmMakeReport.h"
-#include "dialogs/frmMakeThesis.h"
-#include "dialogs/frmRef.h"
-#include "ui/Forms.h"
-
 namespace vexora {
 
-void RegisterDialogs(ui::Forms& forms) {
-    forms.Register<frmDocument>("frmDocument");
-    forms.Register<frmAuthor>("frmAuthor");
-    forms.Register<frmMakeBook>("frmMakeBook");
-    forms.Register<frmMakeJournal>("frmMakeJournal");
-    forms.Register<frmMakeReport>("frmMakeReport");
-    forms.Register<frmMakePatent>("frmMakePatent");
-    forms.Register<frmMakeThesis>("frmMakeThesis");
-    forms.Register<frmMakeConf>("frmMakeConf");
-    forms.Register<frmMakeDeposited>("frmMakeDeposited");
-    forms.Register<frmRef>("frmRef");
-}
+void RegisterDialogs([[maybe_unused]] ui::Forms& forms) {}
 
 } // namespace vexora

@@ -68,6 +68,7 @@ struct KVOGlobal {
     bool ShellLocked = false;
     bool DialogAccepted = false;
     bool FirstRun = false;
+    bool ProgramEnds = false; // the user chose to leave; whoever opened the dialog acts on it
 
     // True while that dialog runs on an existing record; set by the caller around the modal call.
     bool EditSource = false;

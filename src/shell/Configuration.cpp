@@ -1,0 +1,114 @@
+#include "shell/Configuration.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/SafeFile.h"
+#include "reference/Text.h"
+#include "shell/Paths.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+struct ValueSetting {
+    std::string_view key;
+    std::string KVOGlobal::*value;
+};
+
+struct FlagSetting {
+    std::string_view key;
+    bool KVOGlobal::*value;
+};
+
+// In the order of the file.
+constexpr ValueSetting kValues[] = {
+    {"COMPILER", &KVOGlobal::CompilerCode},  {"CONTRIBUTOR", &KVOGlobal::ContributorCode},
+    {"XMLCOMPILER", &KVOGlobal::UserName},   {"ORGANIZATION", &KVOGlobal::Organization},
+    {"VXRLocalDB", &KVOGlobal::LocalDbPath}, {"VXRCompoundDB", &KVOGlobal::CompoundDbPath},
+    {"OutDir", &KVOGlobal::OutDir},
+};
+
+constexpr FlagSetting kFlags[] = {
+    {"Advanced", &KVOGlobal::AdvancedMode},
+    {"Bio", &KVOGlobal::BioEnabled},
+    {"GH", &KVOGlobal::GHEnabled},
+};
+
+void TakeLine(std::string line) {
+    const std::string key = FirstWord(line);
+    for (const auto& setting : kValues) {
+        if (key == setting.key) Globals().*setting.value = std::string(Trim(line));
+    }
+    for (const auto& setting : kFlags) {
+        if (key == setting.key) Globals().*setting.value = true;
+    }
+}
+
+} // namespace
+
+std::string ConfigurationPath() {
+    return JoinPath(Globals().HomeFolder, "VXR.ini");
+}
+
+std::string DefaultLocalDbPath() {
+    return JoinPath(Globals().HomeFolder, "VXRLocal.mdb");
+}
+
+std::string DefaultCompoundDbPath() {
+    return JoinPath(Globals().HomeFolder, "VXR.mdb");
+}
+
+void SetConfigurationDefaults() {
+    KVOGlobal& globals = Globals();
+    for (const auto& setting : kValues)
+        (globals.*setting.value).clear();
+    for (const auto& setting : kFlags)
+        globals.*setting.value = false;
+    globals.LocalDbPath = DefaultLocalDbPath();
+    globals.CompoundDbPath = DefaultCompoundDbPath();
+}
+
+void TakeConfiguration(std::string_view text) {
+    for (const std::string& line : Split(ToUtf8(text), '\n'))
+        TakeLine(line);
+    KVOGlobal& globals = Globals();
+    globals.LocalDbPath = WithSlashes(globals.LocalDbPath);
+    globals.CompoundDbPath = WithSlashes(globals.CompoundDbPath);
+    globals.OutDir = WithSlashes(globals.OutDir);
+    if (!FileOrFolderExists(globals.LocalDbPath)) globals.LocalDbPath = DefaultLocalDbPath();
+    if (!FileOrFolderExists(globals.CompoundDbPath))
+        globals.CompoundDbPath = DefaultCompoundDbPath();
+}
+
+std::string ConfigurationText() {
+    std::string text;
+    for (const auto& setting : kValues) {
+        text.append(setting.key).append(" ");
+        text += SingleLine(Globals().*setting.value) + "\n";
+    }
+    for (const auto& setting : kFlags) {
+        if (Globals().*setting.value) text.append(setting.key).append("\n");
+    }
+    return text;
+}
+
+void ReadConfiguration() {
+    const std::string path = ConfigurationPath();
+    if (!FileOrFolderExists(path)) return;
+    std::string error;
+    if (const auto text = ui::TheDesktop().Files().Read(path, error))
+        TakeConfiguration(*text);
+    else
+        ui::Say("The configuration " + path + " cannot be read.\n" + error);
+}
+
+bool WriteConfiguration() {
+    const std::string path = ConfigurationPath();
+    const std::string error =
+        WriteSafely(ui::TheDesktop().Files(), path, ConfigurationText(), false);
+    if (error.empty()) return true;
+    ui::Say("The configuration " + path + " cannot be written.\n" + error);
+    return false;
+}
+
+} // namespace vexora

@@ -1,0 +1,9 @@
+#include "shell/DocumentXml.h"
+
+namespace vexora {
+
+XmlMaker DocumentXml() {
+    return nullptr;
+}
+
+} // namespace vexora

@@ -1,0 +1,70 @@
+#include "shell/Paths.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+PathParts SplitPath(std::string_view path) {
+    const std::string text = WithSlashes(path);
+    const std::size_t slash = text.rfind('/');
+    if (slash == std::string::npos) return {{}, text};
+    return {slash == 0 ? "/" : text.substr(0, slash), text.substr(slash + 1)};
+}
+
+std::string WithSlashes(std::string_view path) {
+    return Replace(path, "\\", "/");
+}
+
+bool IsFullPath(std::string_view path) {
+    return path.starts_with('/') || path.find(':') == 1;
+}
+
+std::string AbsolutePath(std::string_view path) {
+    const std::string text = WithSlashes(path);
+    if (text.empty() || IsFullPath(text)) return text;
+    std::error_code failed;
+    const std::filesystem::path whole = std::filesystem::absolute(text, failed);
+    return failed ? text : whole.lexically_normal().string();
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    if (!path.empty() && path.back() != '/') path += '/';
+    return path.append(name);
+}
+
+std::string UserHomeFolder() {
+    const char* home = std::getenv("HOME");
+    return home != nullptr && *home != '\0' ? home : "/";
+}
+
+std::string AsFileName(std::string_view text) {
+    std::string name(text);
+    std::replace_if(
+        name.begin(), name.end(),
+        [](char c) { return c == '/' || (c >= 0 && c < ' ') || c == '\x7f'; }, '_');
+    return name;
+}
+
+std::string DocumentOfCommandLine(std::string_view commandLine) {
+    std::string_view rest = Trim(commandLine);
+    const std::size_t first = rest.find('"');
+    if (first == std::string_view::npos) return std::string(rest);
+    rest.remove_prefix(first + 1);
+    return std::string(rest.substr(0, rest.find('"')));
+}
+
+bool FileOrFolderExists(const std::string& path) {
+    return !path.empty() && ui::TheDesktop().Files().Exists(path);
+}
+
+bool MakeFolder(const std::string& path) {
+    return ui::TheDesktop().Files().MakeFolder(path).empty();
+}
+
+} // namespace vexora

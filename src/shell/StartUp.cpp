@@ -1,0 +1,98 @@
+#include "shell/StartUp.h"
+
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "plot/frmBox.h"
+#include "reference/Text.h"
+#include "reference/Transliteration.h"
+#include "shell/Configuration.h"
+#include "shell/OpenDatabases.h"
+#include "shell/Paths.h"
+#include "shell/frmConfigure.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+void ShowIfPresent(const std::string& name) {
+    const std::string path = JoinPath(Globals().HomeFolder, name);
+    if (!FileOrFolderExists(path)) return;
+    auto& box = ui::Forms::Current().Get<frmBox>("frmBox");
+    const std::string error = box.LoadFile(path);
+    if (error.empty())
+        box.ShowModal();
+    else
+        ui::Say(error);
+}
+
+void RunFirstSteps() {
+    KVOGlobal& globals = Globals();
+    globals.FirstRun = globals.CompilerCode.empty();
+    if (!globals.FirstRun) return;
+    ShowAbout();
+    ShowIfPresent("intro.rtf");
+    ShowIfPresent("scope.rtf");
+    globals.CompilerCode = globals.ContributorCode;
+    WriteConfiguration();
+}
+
+/// The box comes up at every start; a name that is already known is not changed by the answer.
+bool AskUserName() {
+    KVOGlobal& globals = Globals();
+    do {
+        const auto typed = ui::TheDesktop().Ask({"Enter your name:", "Vexora", globals.UserName});
+        const std::string answer(TrimBlanks(Transliterate(typed.value_or(""))));
+        if (!globals.UserName.empty()) return true;
+        if (!answer.empty()) {
+            globals.UserName = answer;
+            WriteConfiguration();
+            return true;
+        }
+    } while (!AskExitWithoutUser());
+    return false;
+}
+
+bool KnowUser() {
+    if (!Globals().Organization.empty()) return AskUserName();
+    ui::Forms::Current().Get("frmConfigure").ShowModal();
+    return !Globals().ProgramEnds;
+}
+
+} // namespace
+
+void InitGlobals(const Places& places) {
+    KVOGlobal& globals = Globals();
+    globals.HomeFolder = places.Home;
+    globals.InstalledFolder = places.Installed;
+    globals.CurrentMethod = std::make_shared<clsMethod>();
+    globals.CurrentProperty = std::make_shared<clsProperty>();
+    InitTransliteration();
+    SetConfigurationDefaults();
+    ReadConfiguration();
+    if (globals.ContributorCode.empty()) globals.ContributorCode = "XXX";
+}
+
+bool RunStartUp() {
+    RunFirstSteps();
+    if (!KnowUser()) return false;
+    while (!OpenDatabases()) {
+        if (Globals().ProgramEnds) return false;
+    }
+    return true;
+}
+
+void ShowAbout() {
+    const std::string version = VEXORA_VERSION;
+    ui::Say("Vexora\n"
+            "Version " +
+            version.substr(0, version.rfind('.')) +
+            "\n"
+            "Workbench for thermophysical and thermochemical data\n"
+            "Written by the Vexora developers\n"
+            "Help and contact: see the Help menu");
+}
+
+} // namespace vexora

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/Buttons.h"
+#include "ui/Form.h"
+#include "ui/Frame.h"
+#include "ui/TextBox.h"
+
+namespace vexora {
+
+/// The configuration of the workplace: who compiles, where the databases are, what is offered. It
+/// is always modal. A user who gives up without a usable configuration may end the program; then
+/// ProgramEnds of the globals is set, and whoever opened the form acts on it.
+class frmConfigure : public ui::Form {
+public:
+    frmConfigure();
+
+    ui::TextBox txtContributor{*this, "txtContributor"};
+    ui::TextBox txtCompiler{*this, "txtCompiler"};
+    ui::TextBox txtUserName{*this, "txtUserName"};
+    ui::TextBox txtOrg{*this, "txtOrg"};
+    ui::TextBox txtLocalDB{*this, "txtLocalDB"};
+    ui::TextBox txtCompoundDB{*this, "txtCompoundDB"};
+    ui::TextBox txtOutDir{*this, "txtOutDir"};
+    ui::Frame fraMode{*this, "fraMode", "Mode"};
+    ui::OptionButton optSimple{*this, "optSimple", "Standard"};
+    ui::OptionButton optAdvanced{*this, "optAdvanced", "Advanced"};
+    ui::CheckBox chkBio{*this, "chkBio", "Support Bio properties"};
+    ui::CheckBox chkGH{*this, "chkGH", "Support Gas hydrate data"};
+    ui::CommandButton cmdHelp{*this, "cmdHelp", "&Help"};
+    ui::CommandButton cmdAccept{*this, "cmdAccept", "&Accept"};
+    ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
+
+    void Load() override;
+    bool QueryUnload() override;
+
+private:
+    void LettersOnly(ui::TextBox& box);
+    void PlainText(ui::TextBox& box);
+
+    void cmdAccept_Click();
+    bool CheckDatabases();
+    bool CheckOutputFolder();
+    bool OpenBothDatabases();
+    bool CheckUser();
+    void Store();
+    bool Refuse(const std::string& text, ui::TextBox& box);
+
+    bool accepted_ = false;
+};
+
+/// The words by which a user without a usable configuration is asked whether to leave; true on Yes.
+bool AskExitWithoutUser();
+
+} // namespace vexora

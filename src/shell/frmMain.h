@@ -1,0 +1,140 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ui/Buttons.h"
+#include "ui/Form.h"
+#include "ui/Menus.h"
+#include "ui/TextBox.h"
+#include "ui/TreeView.h"
+
+namespace vexora {
+
+/// The main form: the open document as a tree, the toolbar that offers what the selected node
+/// allows, the selected record in plain words, and a line that says how things stand. It opens and
+/// saves the document and opens every dialog. It is open as long as the program runs.
+class frmMain : public ui::Form {
+public:
+    frmMain();
+
+    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
+    ui::MenuItem New{*this, "New", "&New", &mnuFile, "Ctrl+N"};
+    ui::MenuItem mnuFindRef{*this, "mnuFindRef", "&Find reference...", &mnuFile, "Ctrl+F"};
+    ui::MenuItem Open{*this, "Open", "&Open", &mnuFile, "Ctrl+O"};
+    ui::MenuItem SaveEntry{*this, "Save", "&Save", &mnuFile, "Ctrl+S"};
+    ui::MenuItem SaveAsEntry{*this, "SaveAs", "Save &as...", &mnuFile, "Ctrl+Shift+S"};
+    ui::MenuItem mnuExportXML{*this, "mnuExportXML", "&Export as ThermoML", &mnuFile, "Ctrl+E"};
+    ui::MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit", &mnuFile, "Ctrl+Q"};
+    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    ui::MenuItem mnuExpandNode{*this, "mnuExpandNode", "Expand Node", &mnuEdit};
+    ui::MenuItem mnuEditNode{*this, "mnuEditNode", "Edit Node (Double Click)", &mnuEdit, "F2"};
+    ui::MenuItem mnuDelete{*this, "mnuDelete", "Delete Node", &mnuEdit, "Delete"};
+    ui::MenuItem mnuTools{*this, "mnuTools", "T&ools"};
+    ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
+    ui::MenuItem mnuDetect{*this, "mnuDetect", "Detect Hidden Properties", &mnuTools};
+    ui::MenuItem mnuMerge{*this, "mnuMerge", "Merge/Rearrange sets", &mnuTools};
+    ui::MenuItem mnuInvert{*this, "mnuInvert", "Invert binary LLE", &mnuTools};
+    ui::MenuItem mnuBio{*this, "mnuBio", "Compact Bio sets", &mnuTools};
+    ui::MenuItem mnuPreLoad{*this, "mnuPreLoad", "Pre-load test", &mnuTools};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuIntro{*this, "mnuIntro", "Introduction", &mnuHelp};
+    ui::MenuItem mnuScope{*this, "mnuScope", "Scope of the Data to be Captured", &mnuHelp};
+    ui::MenuItem mnuList{*this, "mnuList", "Property List", &mnuHelp};
+    ui::MenuItem mnuWhats{*this, "mnuWhats", "What's new in this version", &mnuHelp};
+    ui::MenuItem mnuHelpPurpose{*this, "mnuHelpPurpose", "Purpose of this form", &mnuHelp, "F1"};
+    ui::MenuItem mnuHelpSequence{*this, "mnuHelpSequence",
+                                 "Sequence of Operations for Data Capture", &mnuHelp};
+    ui::MenuItem mnuHelpActions{*this, "mnuHelpActions", "Editing && Deletion Procedures",
+                                &mnuHelp};
+    ui::MenuItem mnuHelpDisplay{*this, "mnuHelpDisplay", "Compound Name Display Options", &mnuHelp};
+    ui::MenuItem mnuHelpBio{*this, "mnuHelpBio", "Biothermodynamic Data Capture", &mnuHelp};
+    ui::MenuItem mnuAbout{*this, "mnuAbout", "About", &mnuHelp};
+
+    ui::Toolbar Toolbar1{*this, "Toolbar1"};
+    ui::ToolButton AddRef{*this, "AddRef", "Start", "New reference"};
+    ui::ToolButton AddComp{*this, "AddComp", "Compound", "New compound"};
+    ui::ToolButton AddComplex{*this, "AddComplex", "Complex", "Define Gas Hydrate, etc"};
+    ui::ToolButton AddSample{*this, "AddSample", "Sample", "New sample"};
+    ui::ToolButton AddMixt{*this, "AddMixt", "Mixture", "New mixture"};
+    ui::ToolButton AddReact{*this, "AddReact", "Reaction", "Reaction"};
+    ui::ToolButton AddProp{*this, "AddProp", "Property", ""};
+    ui::ToolButton AddTable{*this, "AddTable", "Data Tables", "Process a table of data"};
+    ui::ToolButton AddBio{*this, "AddBio", "Bio", "Biothermodynamic properties"};
+
+    ui::TreeView tvwTree{*this, "tvwTree"};
+    ui::RichText rtfReading{*this, "rtfReading"};
+    ui::Label lblStatus{*this, "lblStatus"};
+
+    std::string FileTitle;      // file name with its ending, empty for a document without a file
+    std::string FileName;       // full path
+    bool MouseSelected = false; // the last selection came from a mouse click on a node
+
+    void Load() override;
+    /// The activation step, run after everything that may have changed the document or the
+    /// selection; it does nothing while a chain of dialogs is open.
+    void Activate() override;
+    bool QueryUnload() override;
+    void Unload() override;
+
+    /// Makes toolbar and menus match the selection; the shell is live then.
+    void Enable();
+    /// Locks the shell for a chain of dialogs.
+    void DisableShell();
+
+    /// Offers to save, then clears the document; false when the user would rather keep it.
+    bool NewProc();
+    /// Clears the document without asking, its names included.
+    void EmptyDocument();
+    void OpenDocument();
+    /// Opens the document of the command line; an empty path only shows the empty workbench.
+    void OpenFromCommandLine(const std::string& path);
+    void Save();
+    void SaveAs();
+    void ExportDocument();
+
+private:
+    // frmMain.cpp
+    void WireMenus();
+    void WireTree();
+    void ShowHelpOn(ui::MenuItem& entry, int context);
+    void SelectNode();
+    void ClickNode();
+    void KeyboardSelection();
+    void SelectRoot();
+    void mnuExpandNode_Click();
+    void mnuToolsConfigure_Click();
+    void ShowOptionalButtons();
+    void RefreshTexts();
+    std::string NextSteps() const;
+
+    // frmMain_document.cpp
+    void NewDocument();
+    bool MayDiscard();
+    void DropFile(const std::string& path);
+    void OpenFile(const std::string& path, bool moveOutDir);
+    bool TakeFile(const std::string& path);
+    void TellReadOnly(int linesNotKept);
+    bool RefuseReadOnly();
+    bool WriteDocument();
+    std::string ProposedTitle(const std::string& ending) const;
+    std::string StartFolder() const;
+    std::string ChooseTarget(const std::string& proposed, const std::string& filter);
+
+    // frmMain_toolbar.cpp
+    void WireToolbar();
+    void ToolbarClick(const ui::ToolButton& button);
+    bool OpenFromToolbar(std::string_view key);
+    bool OpenReaction();
+    bool OpenProperty();
+    bool OpenTable();
+    bool OpenDialog(std::string_view dialog);
+    bool IsOffered(const ui::ToolButton& button) const;
+
+    // frmMain_edit.cpp
+    void mnuEditNode_Click();
+    void EditNode();
+    bool HasMouseSelection();
+};
+
+} // namespace vexora

@@ -1,0 +1,220 @@
+// Opening, saving and emptying the document.
+
+#include "globals/KVOGlobal.h"
+#include "records/RecordReader.h"
+#include "records/SafeFile.h"
+#include "records/clsR.h"
+#include "shell/DocumentChecks.h"
+#include "shell/DocumentXml.h"
+#include "shell/Paths.h"
+#include "shell/frmMain.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* kRecordFiles = "Record files (*.txt)";
+constexpr const char* kXmlFiles = "ThermoML files (*.xml)";
+
+} // namespace
+
+bool frmMain::MayDiscard() {
+    const KVOGlobal& globals = Globals();
+    if (globals.recR.IsEmpty() || globals.Saved) return true;
+    const ui::Answer answer = ui::AskYesNoCancel("Do you want to save your work?");
+    if (answer == ui::Answer::Yes) Save();
+    return answer == ui::Answer::No || (answer == ui::Answer::Yes && globals.Saved);
+}
+
+bool frmMain::NewProc() {
+    if (!MayDiscard()) return false;
+    EmptyDocument();
+    return true;
+}
+
+void frmMain::EmptyDocument() {
+    KVOGlobal& globals = Globals();
+    globals.Saved = true;
+    globals.ReadOnly = false;
+    {
+        const ui::HourglassScope hourglass;
+        globals.ForgetCurrent();
+        globals.recR.Clear();
+        tvwTree.Clear();
+    }
+    globals.DialogAccepted = false;
+    MouseSelected = false;
+    FileTitle.clear();
+    FileName.clear();
+    if (!globals.ShellLocked) Enable();
+}
+
+void frmMain::NewDocument() {
+    if (NewProc()) OpenDialog("frmDocument");
+}
+
+std::string frmMain::StartFolder() const {
+    return Globals().OutDir.empty() ? UserHomeFolder() : Globals().OutDir;
+}
+
+void frmMain::OpenDocument() {
+    const std::string present = FileName;
+    if (!NewProc()) return;
+    const auto path = ui::TheDesktop().Choose({false, StartFolder(), present, kRecordFiles});
+    if (path && !path->empty()) OpenFile(*path, false);
+    Activate();
+}
+
+void frmMain::OpenFromCommandLine(const std::string& path) {
+    if (!path.empty()) OpenFile(path, true);
+    Activate();
+}
+
+/// While a dialog is open a dropped file would take the document from under it.
+void frmMain::DropFile(const std::string& path) {
+    const KVOGlobal& globals = Globals();
+    if (globals.ShellLocked || !globals.OpenForms.empty() || !IsReachable()) return;
+    if (!NewProc()) return;
+    OpenFile(path, true);
+    Activate();
+}
+
+/// Opens a document in place of the empty one. The names are set only when the read left a source.
+void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
+    const std::string whole = AbsolutePath(path);
+    const PathParts parts = SplitPath(whole);
+    if (!TakeFile(whole)) return;
+    FileName = whole;
+    FileTitle = parts.Title;
+    if (moveOutDir) Globals().OutDir = parts.Folder;
+    SelectRoot();
+    ClickNode();
+}
+
+bool frmMain::TakeFile(const std::string& path) {
+    KVOGlobal& globals = Globals();
+    std::string error;
+    const auto text = ui::TheDesktop().Files().Read(path, error);
+    if (!text) {
+        ui::Say("The file " + path + " cannot be read.\n" + error);
+        return false;
+    }
+    ReadResult result;
+    {
+        const ui::HourglassScope hourglass;
+        result = ReadRecords(*text);
+    }
+    globals.DialogAccepted = false;
+    if (!result.whole || globals.recR.IsEmpty()) {
+        if (result.whole) ui::Say("The file " + path + " holds no source record.");
+        EmptyDocument();
+        return false;
+    }
+    if (result.linesNotKept > 0) TellReadOnly(result.linesNotKept);
+    return true;
+}
+
+void frmMain::TellReadOnly(int linesNotKept) {
+    KVOGlobal& globals = Globals();
+    globals.ReadOnly = true;
+    globals.Saved = true;
+    const std::string lines =
+        linesNotKept == 1 ? "1 line" : std::to_string(linesNotKept) + " lines";
+    ui::Say("This document holds " + lines +
+                " of data that this edition does not keep.\n"
+                "It is opened for reading only, so that nothing of it is lost.",
+            "Read only");
+}
+
+bool frmMain::RefuseReadOnly() {
+    if (!Globals().ReadOnly) return false;
+    ui::Say("This document is open for reading only: it can be neither changed nor saved.",
+            "Read only");
+    return true;
+}
+
+/// File name for a document that has none yet.
+std::string frmMain::ProposedTitle(const std::string& ending) const {
+    return AsFileName(Globals().recR.Item(std::size_t{1})->ProposedName()) + ending;
+}
+
+void frmMain::Save() {
+    if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
+    if (FileName.empty())
+        SaveAs();
+    else
+        WriteDocument();
+}
+
+bool frmMain::WriteDocument() {
+    KVOGlobal& globals = Globals();
+    for (const auto& source : globals.recR) {
+        if (LosesCompounds(*source))
+            ui::Say("Some compounds do not have samples.\nThey will not be saved!");
+    }
+    std::string error;
+    {
+        const ui::HourglassScope hourglass;
+        error = WriteSafely(ui::TheDesktop().Files(), FileName, PrintDocument(), true);
+    }
+    if (error.empty()) {
+        globals.Saved = true;
+        globals.DialogAccepted = false;
+    } else {
+        ui::Say("The file " + FileName + " cannot be written.\n" + error);
+    }
+    RefreshTexts();
+    return error.empty();
+}
+
+/// The full path of a file to be written, after the question about an existing one; empty on
+/// Cancel.
+std::string frmMain::ChooseTarget(const std::string& proposed, const std::string& filter) {
+    for (;;) {
+        const auto path = ui::TheDesktop().Choose({true, StartFolder(), proposed, filter});
+        if (!path || path->empty()) return {};
+        std::string whole = AbsolutePath(*path);
+        const std::string title = SplitPath(whole).Title;
+        if (!FileOrFolderExists(whole) ||
+            ui::AskYesNo("File " + title + " exists\nDo you want to re-write " + title + "?"))
+            return whole;
+    }
+}
+
+/// The document keeps its present name when it cannot be written under the new one.
+void frmMain::SaveAs() {
+    if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
+    const std::string target =
+        ChooseTarget(FileTitle.empty() ? ProposedTitle(".txt") : FileTitle, kRecordFiles);
+    if (target.empty()) return;
+    const std::string presentName = FileName;
+    const std::string presentTitle = FileTitle;
+    const PathParts parts = SplitPath(target);
+    FileName = target;
+    FileTitle = parts.Title;
+    Globals().OutDir = parts.Folder;
+    if (WriteDocument()) return;
+    FileName = presentName;
+    FileTitle = presentTitle;
+    RefreshTexts();
+}
+
+void frmMain::ExportDocument() {
+    const XmlMaker makeXml = DocumentXml();
+    if (makeXml == nullptr || Globals().recR.IsEmpty()) return;
+    DisableShell();
+    const std::string target = ChooseTarget(ProposedTitle(".xml"), kXmlFiles);
+    if (!target.empty()) {
+        std::string error;
+        {
+            const ui::HourglassScope hourglass;
+            error = WriteSafely(ui::TheDesktop().Files(), target, makeXml(), false);
+        }
+        if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
+    }
+    Enable();
+}
+
+} // namespace vexora

@@ -1,0 +1,85 @@
+// Which dialog edits the record of the selected node.
+
+#include <algorithm>
+#include <iterator>
+
+#include "globals/KVOGlobal.h"
+#include "records/Record.h"
+#include "records/clsR.h"
+#include "shell/WorkingMethod.h"
+#include "shell/frmMain.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+struct EditRule {
+    std::string_view nodeKey;
+    std::string_view dialog;
+    bool KVOGlobal::*flag;
+};
+
+constexpr EditRule kEditRules[] = {
+    {"R", "frmDocument", &KVOGlobal::EditSource},
+    {"RL", "frmSubst", &KVOGlobal::EditCompound},
+    {"RLS", "frmSample", &KVOGlobal::EditSample},
+    {"RLSZ", "frmSingle", &KVOGlobal::EditSingle},
+    {"RLS1", "frmTwo", &KVOGlobal::EditTwo},
+    {"RLS2", "frmTwo", &KVOGlobal::EditTwo},
+    {"RXS1", "frmTwo", &KVOGlobal::EditTwo},
+    {"RQ", "frmReact", &KVOGlobal::EditReaction},
+    {"RX", "frmComplex", &KVOGlobal::EditComplex},
+    {"RXS", "frmComplexSample", &KVOGlobal::EditComplexSample},
+    {"RXSX", "frmCrStruct", &KVOGlobal::EditCrystal},
+    {"RBR", "frmBioReact", &KVOGlobal::EditBioReact},
+    {"RBP", "frmBioProp", &KVOGlobal::EditBioProp},
+    {"RXSP", "frmGH", &KVOGlobal::EditBioProp},
+};
+
+const EditRule* RuleOf(std::string_view nodeKey) {
+    const auto* rule = std::find_if(std::begin(kEditRules), std::end(kEditRules),
+                                    [nodeKey](const auto& r) { return r.nodeKey == nodeKey; });
+    return rule == std::end(kEditRules) ? nullptr : rule;
+}
+
+/// A source that stands in the reference database is not edited here.
+bool MayBeEdited(const EditRule& rule) {
+    const KVOGlobal& globals = Globals();
+    if (!ui::Forms::Current().Knows(rule.dialog)) return false;
+    return rule.nodeKey != "R" || (globals.CurrentR && globals.CurrentR->isNew);
+}
+
+} // namespace
+
+bool frmMain::HasMouseSelection() {
+    tvwTree.SetFocus();
+    if (!Globals().CurrentKey.empty() && tvwTree.SelectedNode() != nullptr) return true;
+    ui::Say("Please select the node with a mouse before editing");
+    return false;
+}
+
+void frmMain::mnuEditNode_Click() {
+    if (HasMouseSelection()) EditNode();
+}
+
+void frmMain::EditNode() {
+    KVOGlobal& globals = Globals();
+    if (globals.ShellLocked) return;
+    const EditRule* rule = RuleOf(globals.CurrentKey);
+    if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
+    RenewCurrentMethod();
+    globals.DialogAccepted = false;
+    globals.*rule->flag = true;
+    ui::Forms::Current().Get(rule->dialog).ShowModal();
+    globals.*rule->flag = false;
+    ui::TreeNode* node = tvwTree.SelectedNode();
+    if (globals.DialogAccepted && node != nullptr) {
+        if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock()))
+            node->Text(record->ShowKey());
+    }
+    Activate();
+}
+
+} // namespace vexora
