@@ -1,7 +1,13 @@
 #include "dialogs/RegisterDialogs.h"
 
+#include "dialogs/frmSample.h"
+#include "dialogs/frmSubst.h"
+
 namespace vexora {
 
-void RegisterDialogs([[maybe_unused]] ui::Forms& forms) {}
+void RegisterDialogs(ui::Forms& forms) {
+    forms.Register<frmSample>("frmSample");
+    forms.Register<frmSubst>("frmSubst");
+}
 
 } // namespace vexora

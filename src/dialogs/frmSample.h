@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "records/SampleDescription.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsL;
+class clsS;
+
+/// Builds the coded description of a sample from lists and boxes and takes it apart again. Opened
+/// from the shell it stays open for further samples; opened by another dialog, or on a sample that
+/// exists, it closes after one.
+class frmSample : public ui::Form {
+public:
+    frmSample();
+
+    static constexpr int finalRows = 4;
+    static constexpr const char* otherEntry = "Other"; // asks for a method that a list lacks
+
+    ui::ComboBox cboSubst{*this, "cboSubst"};
+    ui::TextBox txtSampleNo{*this, "txtSampleNo"};
+    ui::ListBox lstDescAvail{*this, "lstDescAvail"};
+    ui::TextBox txtSmplDescription{*this, "txtSmplDescription"};
+    ui::Frame fraInitial{*this, "fraInitial", "Initial sample (before purification)"};
+    ui::ListBox lstSmpSrc{*this, "lstSmpSrc"};
+    ui::TextBox txtSrcPurity{*this, "txtSrcPurity"};
+    ui::ComboBox lstSrcPurity{*this, "lstSrcPurity"};
+    ui::ComboBox lstSrsDetBy{*this, "lstSrsDetBy"};
+    ui::Frame fraFinal{*this, "fraFinal", "Sample after purification"};
+    ui::ListBox lstPurify{*this, "lstPurify", ui::ListBox::Mode::Check};
+    ui::ControlArray<ui::TextBox> txtFinalPurity{*this, "txtFinalPurity", finalRows};
+    ui::ControlArray<ui::ComboBox> lstFinalPurity{*this, "lstFinalPurity", finalRows};
+    ui::ControlArray<ui::ComboBox> lstFinalDetBy{*this, "lstFinalDetBy", finalRows};
+    ui::CommandButton cmdNext{*this, "cmdNext", "Next sample"};
+    ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
+    ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpSample{*this, "mnuHelpSample", "How to describe a sample", &mnuHelp};
+
+    void Load() override;
+    void Unload() override;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+    void WirePurity(ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method);
+    void FillLists();
+    void FillCompounds();
+    void NewSample();
+
+    void SubstClick();
+    void NewCompound();
+    void AvailabilityClick();
+    void PurifyClick();
+    void MethodClick(ui::ComboBox& method);
+    void Compose();
+
+    // Between the controls and the description (frmSample_fill.cpp).
+    SampleDescription Read() const;
+    void Fill();
+    bool Show(const SampleDescription& description);
+    bool ShowPurity(const PurityStatement& statement, ui::TextBox& value, ui::ComboBox& unit,
+                    ui::ComboBox& method);
+    void ClearDescription();
+    void FollowAvailability();
+    static int PlaceOfMethod(ui::ItemList& list, const std::string& text);
+
+    std::shared_ptr<clsL> ChosenCompound() const;
+    bool IsDescribed() const { return lstDescAvail.Index() == 0; }
+
+    // Accepting (frmSample_accept.cpp).
+    void Accept();
+    void Next();
+    void NormalizeNumbers();
+    bool Check();
+    bool CheckChoices();
+    bool CheckAnyPurity();
+    bool CheckInitial();
+    bool CheckPurification();
+    bool CheckFinal(int i);
+    bool CheckValue(ui::TextBox& box);
+    bool CheckUnitAndMethod(ui::TextBox& box, ui::ComboBox& unit, ui::ComboBox& method);
+    bool Store();
+
+    bool editing_ = false;
+    bool changed_ = true;          // anything changed since the last store
+    int chosen_ = -1;              // the compound in force while "New" is being made
+    std::shared_ptr<clsS> stored_; // the sample on the form, once it is in the document
+};
+
+} // namespace vexora
