@@ -32,6 +32,7 @@ public:
     std::unique_ptr<Element> Document() {
         if (!IsValidUtf8(text_)) Fail("no valid UTF-8");
         Take("\xEF\xBB\xBF");
+        start_ = at_;
         SkipOutside();
         if (AtEnd() || text_[at_] != '<') Fail("no root element");
         auto root = ReadElement(0);
@@ -76,8 +77,10 @@ private:
             if (!Take(">")) Fail("-- in a comment");
             return true;
         }
+        const bool atStart = at_ == start_;
         if (!Take("<?")) return false;
-        Until("?>");
+        const std::string_view instruction = Until("?>");
+        if (instruction.substr(0, 4) == "xml " && !atStart) Fail("the declaration comes too late");
         return true;
     }
 
@@ -117,7 +120,9 @@ private:
                 Fail("no character &" + name + ";");
             point = point * (hex ? 16 : 10) + static_cast<char32_t>(digit);
         }
-        if (digits.empty() || point == 0) Fail("no character &" + name + ";");
+        const bool isControl = point < U' ' && point != U'\t' && point != U'\n' && point != U'\r';
+        if (digits.empty() || isControl || (point >= 0xD800 && point <= 0xDFFF))
+            Fail("no character &" + name + ";");
         std::string text;
         AppendCodePoint(text, point);
         return text;
@@ -178,6 +183,7 @@ private:
     }
 
     std::string_view text_;
+    std::size_t start_ = 0; // behind the byte-order mark
     std::size_t at_ = 0;
 };
 

@@ -4,7 +4,7 @@
 
 #include "support/SmallProgram.h"
 
-namespace vexora::tests {
+namespace vexora::test {
 namespace {
 
 /// The script holds; what it says on standard error is shown when it does not.
@@ -250,4 +250,4 @@ TEST(Player, PrintShowsTheStateOfControls) {
 }
 
 } // namespace
-} // namespace vexora::tests
+} // namespace vexora::test

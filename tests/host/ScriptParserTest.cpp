@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "support/TemporaryFolder.h"
+#include "support/ScratchFolder.h"
 
-namespace vexora::tests {
+namespace vexora::test {
 namespace {
 
 using host::ParseScript;
@@ -129,7 +129,7 @@ TEST(ScriptParser, CommandsOfAnotherFormAreMalformed) {
 }
 
 TEST(ScriptParser, IncludesPlayFromTheirOwnFolder) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     std::filesystem::create_directory(folder.Path("sub"));
     std::ofstream(folder.Path("main.vxs")) << "include \"sub/part.vxs\"\nquit\n";
     std::ofstream(folder.Path("sub/part.vxs")) << "note \"${SCRIPT_DIR}\"\n";
@@ -145,4 +145,4 @@ TEST(ScriptParser, IncludesPlayFromTheirOwnFolder) {
 }
 
 } // namespace
-} // namespace vexora::tests
+} // namespace vexora::test

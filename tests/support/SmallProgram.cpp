@@ -2,7 +2,7 @@
 
 #include "ui/Forms.h"
 
-namespace vexora::tests {
+namespace vexora::test {
 
 namespace {
 
@@ -99,15 +99,18 @@ frmSmallModal::frmSmallModal() : Form("frmSmallModal", "Modal") {
     cmdAgain.OnClick = [this] { Hide(); };
 }
 
+std::unique_ptr<host::Program> MakeSmallProgram(ui::Desktop& desktop) {
+    return std::make_unique<SmallProgram>(desktop);
+}
+
 SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options) {
     std::ostringstream out;
     std::ostringstream err;
     host::ModelActor actor;
     host::PosixFileSystem files;
-    const auto make = [](ui::Desktop& desktop) { return std::make_unique<SmallProgram>(desktop); };
-    host::Player player(actor, files, make, std::move(options), out, err);
+    host::Player player(actor, files, MakeSmallProgram, std::move(options), out, err);
     const bool held = player.Play(host::ParseScript("start\n" + lines, "small.vxs", {}));
     return {held, out.str(), err.str()};
 }
 
-} // namespace vexora::tests
+} // namespace vexora::test

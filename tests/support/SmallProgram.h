@@ -8,7 +8,7 @@
 #include "host/Player.h"
 #include "host/PosixFileSystem.h"
 
-namespace vexora::tests {
+namespace vexora::test {
 
 /// A form with a control of each kind, for tests of the models and of the player.
 class frmSmall : public ui::Form {
@@ -56,6 +56,8 @@ public:
     ui::CommandButton cmdAgain{*this, "cmdAgain", "Again"};
 };
 
+std::unique_ptr<host::Program> MakeSmallProgram(ui::Desktop& desktop);
+
 /// What a play of a script on the small form left behind.
 struct SmallPlay {
     bool held = false;
@@ -66,4 +68,4 @@ struct SmallPlay {
 /// Plays the lines behind `start` on a fresh small form.
 SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options = {});
 
-} // namespace vexora::tests
+} // namespace vexora::test

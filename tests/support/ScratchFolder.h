@@ -6,22 +6,22 @@
 #include <stdexcept>
 #include <string>
 
-namespace vexora::tests {
+namespace vexora::test {
 
 /// A fresh folder that goes with everything in it at the end of the test.
-class TemporaryFolder {
+class ScratchFolder {
 public:
-    TemporaryFolder() {
+    ScratchFolder() {
         std::string pattern = (std::filesystem::temp_directory_path() / "vexora-XXXXXX").string();
         if (!::mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
         path_ = pattern;
     }
-    ~TemporaryFolder() {
+    ~ScratchFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
     }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
 
     const std::string& Path() const { return path_; }
     std::string Path(const std::string& name) const { return path_ + "/" + name; }
@@ -30,4 +30,4 @@ private:
     std::string path_;
 };
 
-} // namespace vexora::tests
+} // namespace vexora::test

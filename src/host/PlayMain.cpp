@@ -1,0 +1,124 @@
+#include "host/PlayMain.h"
+
+#include <filesystem>
+#include <optional>
+
+#include "host/FindPlaces.h"
+#include "host/HostClock.h"
+#include "host/Player.h"
+#include "host/PosixFileSystem.h"
+#include "shell/Places.h"
+
+namespace vexora::host {
+
+namespace {
+
+enum Status { allHeld = 0, notHeld = 1, malformed = 2 };
+
+constexpr const char* usage = "play [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
+                              "[--keep-going] [--shots DIR] FILE...";
+
+struct Request {
+    std::optional<std::string> home;
+    ScriptVariables variables{{"OUT", "."}};
+    PlayOptions options;
+    std::vector<std::string> files;
+};
+
+/// Takes the command line apart; throws ScriptError with what is wrong.
+class RequestReader {
+public:
+    explicit RequestReader(const std::vector<std::string>& arguments) : arguments_(arguments) {}
+
+    Request Read() {
+        while (at_ < arguments_.size())
+            TakeArgument(arguments_[at_++]);
+        if (request_.files.empty()) throw ScriptError("no script is named");
+        return request_;
+    }
+
+private:
+    void TakeArgument(const std::string& argument) {
+        if (!argument.starts_with("--")) {
+            request_.files.push_back(argument);
+            return;
+        }
+        const std::string name = argument.substr(0, argument.find('='));
+        if (argument == "--keep-going")
+            request_.options.keepGoing = true;
+        else if (name == "--home")
+            request_.home = Value(argument);
+        else if (name == "--shots")
+            request_.options.shots = Value(argument);
+        else if (name == "--date")
+            TakeDate(Value(argument));
+        else if (name == "--var")
+            TakeVariable(Value(argument));
+        else
+            throw ScriptError("unknown option " + argument);
+    }
+
+    std::string Value(const std::string& argument) {
+        const std::size_t sign = argument.find('=');
+        if (sign != argument.npos) return argument.substr(sign + 1);
+        if (at_ >= arguments_.size()) throw ScriptError(argument + " needs a value");
+        return arguments_[at_++];
+    }
+
+    void TakeDate(const std::string& text) {
+        request_.options.today = ParseDate(text);
+        if (!request_.options.today) throw ScriptError("no date yyyy-mm-dd: " + text);
+    }
+
+    void TakeVariable(const std::string& text) {
+        const std::size_t sign = text.find('=');
+        if (sign == text.npos || sign == 0) throw ScriptError("no NAME=TEXT: " + text);
+        request_.variables[text.substr(0, sign)] = text.substr(sign + 1);
+    }
+
+    const std::vector<std::string>& arguments_;
+    std::size_t at_ = 0;
+    Request request_;
+};
+
+bool MakeShotsFolder(const std::string& folder) {
+    std::error_code error;
+    if (!folder.empty()) std::filesystem::create_directories(folder, error);
+    return !error;
+}
+
+} // namespace
+
+int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) {
+    Request request;
+    Places places;
+    std::vector<Script> scripts;
+    try {
+        request = RequestReader(arguments).Read();
+        places = FindPlaces(request.home, front.argv0);
+        request.variables["HOME_DIR"] = places.Home;
+        request.variables["TODAY"] = DateText(request.options.today.value_or(ClockToday()));
+        for (const std::string& file : request.files)
+            scripts.push_back(ReadScript(file, request.variables));
+    } catch (const ScriptError& error) {
+        front.err << error.what() << '\n';
+        if (scripts.empty() && request.files.empty()) front.err << "usage: " << usage << '\n';
+        return malformed;
+    }
+    PosixFileSystem files;
+    std::string error = PrepareHome(places, files);
+    if (error.empty() && !MakeShotsFolder(request.options.shots)) error = "no folder for pictures";
+    if (!error.empty()) {
+        front.err << error << '\n';
+        return notHeld;
+    }
+    bool held = true;
+    for (const Script& script : scripts) {
+        Player player(front.actor, files, front.program(places), request.options, front.out,
+                      front.err);
+        held = player.Play(script) && held;
+    }
+    return held ? allHeld : notHeld;
+}
+
+} // namespace vexora::host

@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include "ui/Collection.h"
+#include "ui/Form.h"
+#include "ui/Utf8.h"
+
+namespace vexora::test {
+namespace {
+
+struct Entry {
+    std::string name;
+};
+
+TEST(Collection, KeysAndPositionsStayRightWhenEntriesGo) {
+    ui::Collection<Entry> entries;
+    const auto a = std::make_shared<Entry>(Entry{"a"});
+    const auto b = std::make_shared<Entry>(Entry{"b"});
+    EXPECT_EQ(entries.Add(a, "K"), "K");
+    EXPECT_EQ(entries.Add(b, "K"), "K~2");
+    EXPECT_EQ(entries.Add(std::make_shared<Entry>(Entry{"c"})), "");
+    EXPECT_EQ(entries.Item("K~2"), b);
+    EXPECT_EQ(entries.Item(0), nullptr);
+    EXPECT_EQ(entries.Item("k"), nullptr);
+    EXPECT_TRUE(entries.Remove(a.get()));
+    EXPECT_FALSE(entries.Remove(a.get()));
+    EXPECT_EQ(entries.Position(b.get()), 1U);
+    EXPECT_EQ(entries.Item("K"), nullptr);
+    EXPECT_EQ(entries.Item("K~2"), b);
+}
+
+TEST(TreeView, RemovingANodeForgetsWhatStandsBelowIt) {
+    ui::Form form("frmTree", "Tree");
+    ui::TreeView tree(form, "tvwTree");
+    ui::TreeNode& root = tree.Add(nullptr, "R", "Root");
+    ui::TreeNode& child = tree.Add(&root, "K", "one");
+    EXPECT_EQ(tree.Add(&child, "K", "two").Key(), "K~2");
+    tree.Select(tree.Find("K~2"));
+    tree.Remove(child);
+    EXPECT_EQ(tree.SelectedNode(), nullptr);
+    EXPECT_EQ(tree.Find("K~2"), nullptr);
+    EXPECT_EQ(tree.Find("R"), &root);
+    tree.Clear();
+    EXPECT_TRUE(tree.IsEmpty());
+}
+
+TEST(TreeView, TheMouseClicksWhereTheKeyboardOnlySelects) {
+    ui::Form form("frmTree", "Tree");
+    ui::TreeView tree(form, "tvwTree");
+    ui::TreeNode& node = tree.Add(nullptr, "R", "Root");
+    std::string told;
+    tree.OnMouseDown = [&told] { told += "down "; };
+    tree.OnNodeClick = [&told](ui::TreeNode& clicked) { told += "click " + clicked.Key() + " "; };
+    tree.OnNodeDoubleClick = [&told](ui::TreeNode&) { told += "double "; };
+    tree.UserNodeReached(node);
+    EXPECT_EQ(told, "");
+    EXPECT_EQ(tree.SelectedNode(), &node);
+    tree.UserNodeDoubleClick(node);
+    EXPECT_EQ(told, "down click R double ");
+    tree.Enabled(false);
+    tree.UserNodeDoubleClick(node);
+    EXPECT_EQ(told, "down click R double ");
+}
+
+TEST(Grid, APersonReachesOnlyTheCellsBehindTheFixedOnes) {
+    ui::Form form("frmGrid", "Grid");
+    ui::Grid grid(form, "grdData", 3, 3, 1, 1);
+    std::string told;
+    grid.OnCellChanged = [&](int row, int column) {
+        told += std::to_string(row) + std::to_string(column) + "=" + grid.Cell(row, column) + " ";
+    };
+    grid.UserCell(0, 1, "x");
+    grid.UserCell(1, 0, "x");
+    grid.UserCell(9, 9, "x");
+    grid.UserCell(1, 1, "5");
+    grid.UserCell(1, 1, "5");
+    grid.UserSelect({1, 1, 1, 1});
+    grid.UserPaste("6\t7\t8\r\n9\r\n\r\n");
+    EXPECT_EQ(told, "11=5 11=6 12=7 21=9 ");
+    grid.Editable(false);
+    grid.UserCell(2, 2, "x");
+    EXPECT_EQ(grid.Cell(2, 2), "");
+    grid.Resize(2, 2);
+    EXPECT_EQ(grid.Cell(2, 1), "");
+    EXPECT_EQ(grid.Cell(1, 1), "6");
+}
+
+TEST(OptionButton, OneOfItsGroupIsOn) {
+    ui::Form form("frmOptions", "Options");
+    ui::OptionButton a(form, "optA", "A"), b(form, "optB", "B");
+    ui::OptionButton other(form, "optC", "C", 1);
+    other.Value(true);
+    a.UserClick();
+    b.UserClick();
+    EXPECT_FALSE(a.Value());
+    EXPECT_TRUE(b.Value());
+    EXPECT_TRUE(other.Value());
+    b.UserClick();
+    EXPECT_TRUE(b.Value());
+}
+
+TEST(Captions, MnemonicMarksAreLeftOut) {
+    EXPECT_EQ(ui::WithoutMnemonic("&Save && go&"), "Save & go&");
+}
+
+TEST(Key, NamesAreReadAndWrittenAlike) {
+    for (const char* name : {"Enter", "Ctrl+V", "Ctrl+Shift+Z", "a", "+", "Num*", "Alt+F4"})
+        EXPECT_EQ(ui::ParseKey(name).FullName(), name);
+    EXPECT_EQ(ui::ParseKey("Num*").character, U'*');
+    EXPECT_EQ(ui::ParseKey("Ctrl+V").character, U'\0');
+    EXPECT_EQ(ui::ParseKey("Space").character, U' ');
+}
+
+TEST(Utf8, WhatIsNoTextBecomesTheReplacementCharacter) {
+    EXPECT_EQ(ui::ToPoints("a\xC3\xA9\xF0\x9F\x98\x80"), U"a\u00E9\U0001F600");
+    for (const char* bad : {"\xC3", "\xA9", "\xC0\x80", "\xED\xA0\x80", "\xF5\x80\x80\x80"})
+        EXPECT_EQ(ui::ToPoints(bad).substr(0, 1), U"\uFFFD") << bad;
+    const char32_t surrogate = 0xD800;
+    EXPECT_EQ(ui::FromPoints({&surrogate, 1}), "\xEF\xBF\xBD");
+}
+
+TEST(Signal, AListenerMayLeaveWhileItIsTold) {
+    ui::Signal<int> signal;
+    std::string told;
+    int ticket = 0;
+    ticket = signal.Connect([&](int number) {
+        told += "a" + std::to_string(number);
+        signal.Disconnect(ticket);
+    });
+    signal.Connect([&](int number) { told += "b" + std::to_string(number); });
+    signal.Emit(1);
+    signal.Emit(2);
+    EXPECT_EQ(told, "a1b1b2");
+}
+
+} // namespace
+} // namespace vexora::test
