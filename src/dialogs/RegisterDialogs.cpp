@@ -1,5 +1,15 @@
 #include "dialogs/RegisterDialogs.h"
 
+#include "dialogs/frmAuthor.h"
+#include "dialogs/frmDocument.h"
+#include "dialogs/frmMakeBook.h"
+#include "dialogs/frmMakeConf.h"
+#include "dialogs/frmMakeDeposited.h"
+#include "dialogs/frmMakeJournal.h"
+#include "dialogs/frmMakePatent.h"
+#include "dialogs/frmMakeReport.h"
+#include "dialogs/frmMakeThesis.h"
+#include "dialogs/frmRef.h"
 #include "dialogs/frmSample.h"
 #include "dialogs/frmSubst.h"
 
@@ -8,6 +18,16 @@ namespace vexora {
 void RegisterDialogs(ui::Forms& forms) {
     forms.Register<frmSample>("frmSample");
     forms.Register<frmSubst>("frmSubst");
+    forms.Register<frmDocument>("frmDocument");
+    forms.Register<frmAuthor>("frmAuthor");
+    forms.Register<frmMakeBook>("frmMakeBook");
+    forms.Register<frmMakeJournal>("frmMakeJournal");
+    forms.Register<frmMakeReport>("frmMakeReport");
+    forms.Register<frmMakePatent>("frmMakePatent");
+    forms.Register<frmMakeThesis>("frmMakeThesis");
+    forms.Register<frmMakeConf>("frmMakeConf");
+    forms.Register<frmMakeDeposited>("frmMakeDeposited");
+    forms.Register<frmRef>("frmRef");
 }
 
 } // namespace vexora

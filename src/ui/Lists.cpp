@@ -108,9 +108,25 @@ void ComboBox::Text(std::string text) {
     }
     if (Text() == text) return;
     typed_ = std::move(text);
+    selectedFrom_.reset();
     SetIndexQuietly(Find(typed_));
     Changed();
     Fire(OnChange);
+}
+
+void ComboBox::SelectFrom(std::size_t start) {
+    if (!IsEditable() || start >= ToPoints(Text()).size()) return;
+    selectedFrom_ = start;
+    Changed();
+}
+
+void ComboBox::UserEdited(const std::string& text) {
+    const bool same = Text() == text;
+    selectedFrom_.reset();
+    if (same)
+        Changed();
+    else
+        Text(text);
 }
 
 void ComboBox::UserDropDown() {
@@ -120,6 +136,7 @@ void ComboBox::UserDropDown() {
 void ComboBox::UserChoose(int index) {
     if (index < 0 || index >= Count()) return;
     typed_ = Item(index);
+    selectedFrom_.reset();
     ItemList::UserChoose(index);
 }
 
@@ -127,8 +144,10 @@ bool ComboBox::UserKey(Key& key) {
     if (ItemList::UserKey(key)) return true;
     if (!IsUsable() || !IsEditable() || key.control || key.alt) return false;
     std::u32string points = ToPoints(Text());
-    if (key.name == "Backspace") {
-        if (!points.empty()) points.pop_back();
+    const bool selected = selectedFrom_ && *selectedFrom_ < points.size();
+    if (selected) points.resize(*selectedFrom_);
+    if (key.name == "Backspace" || (selected && key.name == "Delete")) {
+        if (!selected && !points.empty()) points.pop_back();
     } else if (key.character >= U' ') {
         points.push_back(key.character);
     } else {

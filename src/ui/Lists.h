@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,17 +68,24 @@ public:
     void Text(std::string text);
     std::string Display() const override { return Text(); }
 
+    /// Of an editable one: selects from this character (from 0) to the end, so that what a person
+    /// types next replaces it; a proposed completion is shown so. Any change of the text undoes it.
+    void SelectFrom(std::size_t start);
+    /// Where that selection begins, nothing when there is none.
+    std::optional<std::size_t> SelectedFrom() const { return selectedFrom_; }
+
     std::function<void()> OnChange;
     std::function<void()> OnDropDown;
 
     void UserDropDown();
     void UserChoose(int index) override;
-    void UserEdited(const std::string& text) { Text(text); }
+    void UserEdited(const std::string& text);
     bool UserKey(Key& key) override;
 
 private:
     Style style_;
     std::string typed_;
+    std::optional<std::size_t> selectedFrom_;
 };
 
 /// A list in the open. Multi and Check let several entries be on at a time.

@@ -1,0 +1,102 @@
+#include "dialogs/EntryFields.h"
+
+#include <utility>
+
+#include "globals/KVOGlobal.h"
+#include "reference/Text.h"
+#include "reference/Transliteration.h"
+
+namespace vexora {
+
+namespace {
+
+std::string Without(std::string_view text, std::string_view dropped) {
+    std::string kept;
+    for (const char c : text) {
+        if (dropped.find(c) == std::string_view::npos) kept += c;
+    }
+    return kept;
+}
+
+} // namespace
+
+PlainTextBox::PlainTextBox(ui::Form& form, std::string name, Lines lines, std::string_view dropped)
+    : TextBox(form, std::move(name), lines), dropped_(dropped) {
+    OnChange = [this] { MakePlain(); };
+}
+
+std::string PlainTextBox::Entered() const {
+    return std::string(TrimBlanks(Text()));
+}
+
+void PlainTextBox::MakePlain() {
+    const std::string before = SingleLine(Without(Substring(Text(), 1, Caret()), dropped_));
+    const std::string behind = SingleLine(Without(Substring(Text(), Caret() + 1), dropped_));
+    const auto plain = TransliterateAt(before + behind, CodePointCount(before));
+    if (plain.text != Text())
+        TextAndCaret(plain.text, plain.caret); // comes back here with the plain text
+    else if (AfterChange)
+        AfterChange();
+}
+
+PromptedTextBox::PromptedTextBox(ui::Form& form, std::string name, std::string prompt, Lines lines)
+    : PlainTextBox(form, std::move(name), lines), prompt_(std::move(prompt)) {
+    Text(prompt_);
+    OnGotFocus = [this] {
+        if (Text() == prompt_) Text("");
+    };
+    OnLostFocus = [this] { Enter(Text()); };
+}
+
+std::string PromptedTextBox::Entered() const {
+    return Text() == prompt_ ? std::string() : PlainTextBox::Entered();
+}
+
+void PromptedTextBox::Enter(std::string_view text) {
+    Text(TrimBlanks(text).empty() ? prompt_ : std::string(text));
+}
+
+CompletingCombo::CompletingCombo(ui::Form& form, std::string name, std::string prompt,
+                                 std::string table, std::string column)
+    : ComboBox(form, std::move(name), Style::Editable), prompt_(std::move(prompt)),
+      table_(std::move(table)), column_(std::move(column)) {
+    OnChange = [this] { Complete(); };
+    OnGotFocus = [this] {
+        if (Text() == prompt_) SelectFrom(0);
+    };
+    OnLostFocus = [this] { Enter(Text()); };
+}
+
+void CompletingCombo::Fill() {
+    if (Globals().LocalDb().IsOpen()) {
+        auto rows = Globals().LocalDb().Query("select * from " + table_ + " order by rowid");
+        for (; !rows.IsEnd(); rows.MoveNext())
+            Add(rows.Text(column_));
+    }
+    Enter("");
+}
+
+std::string CompletingCombo::Entered() const {
+    return Text() == prompt_ ? std::string() : std::string(TrimBlanks(Text()));
+}
+
+void CompletingCombo::Enter(std::string_view text) {
+    completing_ = true;
+    Text(TrimBlanks(text).empty() ? prompt_ : std::string(text));
+    completing_ = false;
+}
+
+void CompletingCombo::Complete() {
+    if (completing_) return;
+    const std::string typed = Text();
+    const bool erased = std::exchange(typed_, typed).starts_with(typed);
+    if (erased || typed.empty() || !Globals().LocalDb().IsOpen()) return;
+    const auto rows = Globals().LocalDb().Query("select " + column_ + " from " + table_ +
+                                                    " where " + column_ + " like ? order by rowid",
+                                                {typed + "*"});
+    if (rows.IsEnd()) return;
+    Enter(rows.Text(column_));
+    SelectFrom(CodePointCount(typed));
+}
+
+} // namespace vexora
