@@ -62,7 +62,8 @@ CompletingCombo::CompletingCombo(ui::Form& form, std::string name, std::string p
       table_(std::move(table)), column_(std::move(column)) {
     OnChange = [this] { Complete(); };
     OnGotFocus = [this] {
-        if (Text() == prompt_) SelectFrom(0);
+        typed_ = Entered();
+        if (typed_.empty()) SelectFrom(0);
     };
     OnLostFocus = [this] { Enter(Text()); };
 }
@@ -89,14 +90,17 @@ void CompletingCombo::Enter(std::string_view text) {
 void CompletingCombo::Complete() {
     if (completing_) return;
     const std::string typed = Text();
-    const bool erased = std::exchange(typed_, typed).starts_with(typed);
-    if (erased || typed.empty() || !Globals().LocalDb().IsOpen()) return;
-    const auto rows = Globals().LocalDb().Query("select " + column_ + " from " + table_ +
-                                                    " where " + column_ + " like ? order by rowid",
-                                                {typed + "*"});
+    const std::string before = std::exchange(typed_, typed);
+    const std::size_t length = CodePointCount(typed);
+    const bool oneMore = length > 0 && Substring(typed, 1, length - 1) == before;
+    if (!oneMore || !Globals().LocalDb().IsOpen()) return; // erased, pasted or put in between
+    const auto rows =
+        Globals().LocalDb().Query("select " + column_ + " from " + table_ + " where " + column_ +
+                                      " like ? order by " + column_ + "=? desc, rowid",
+                                  {typed + "*", typed});
     if (rows.IsEnd()) return;
     Enter(rows.Text(column_));
-    SelectFrom(CodePointCount(typed));
+    SelectFrom(length);
 }
 
 } // namespace vexora

@@ -43,8 +43,9 @@ private:
     std::string prompt_;
 };
 
-/// An editable list of one column of the local database. What is typed is completed by the first
-/// row that begins with it, the completion standing selected; an empty field shows a prompt.
+/// An editable list of one column of the local database. Every character typed at the end is
+/// completed by the first row that begins with the text, the completion standing selected; an empty
+/// field shows a prompt.
 class CompletingCombo : public ui::ComboBox {
 public:
     CompletingCombo(ui::Form& form, std::string name, std::string prompt, std::string table,
