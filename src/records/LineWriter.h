@@ -1,5 +1,6 @@
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,13 @@ public:
 
 private:
     std::string text_;
+};
+
+/// A record that cannot be written without falsifying it; the text names it for the user. Saving
+/// stops before the file is touched.
+class SaveRefused : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
 };
 
 /// "&" for an empty field, else the field.

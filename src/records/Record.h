@@ -25,6 +25,9 @@ public:
     /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
     virtual void SetMe() = 0;
 
+    /// Brings the node's text back in line with the record.
+    void Refresh() { Label(ShowKey()); }
+
     template <class T>
     std::shared_ptr<T> As() {
         return std::static_pointer_cast<T>(shared_from_this());

@@ -20,6 +20,8 @@ struct ReadResult {
 ReadResult ReadRecords(std::string_view text);
 
 /// The document as a record file. It may ask for the source of the document (see clsR::PrintR).
+/// Throws SaveRefused (LineWriter.h), whose text is for the user, for a record that cannot be
+/// written truly.
 std::string PrintDocument();
 
 /// Rewrites the text of every node from its record.

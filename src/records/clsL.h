@@ -16,6 +16,7 @@ namespace vexora {
 class clsR;
 class clsS;
 class LineWriter;
+class WordReader;
 class XmlWriter;
 
 /// One compound of the source, known by its registry number.
@@ -41,8 +42,9 @@ public:
     void SetMe() override;
     void AttachTo(clsR& source);
 
-    /// Reads a ^L or BL line and mends a wrong check digit with a notice. False with the program
-    /// set to end for a number that is not numeric.
+    /// Reads a ^L or BL line and mends a wrong check digit with a notice; NewRn then holds the
+    /// mended number. False for a line without a number, and with a notice for one that is not
+    /// numeric.
     bool Load(std::string_view line);
     void PrintL(LineWriter& out);
     void PrintAll(LineWriter& out);
@@ -55,6 +57,11 @@ public:
 
     void ExportL(XmlWriter& xml) const;
     void ExportAll(XmlWriter& xml) const;
+
+private:
+    void MendCheckDigit();
+    void LoadPlain(WordReader& words);
+    void LoadBio(WordReader& words);
 };
 
 /// Check digit of a registry number without its last digit: the digits from the right weigh 1, 2,

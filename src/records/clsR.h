@@ -43,6 +43,7 @@ public:
     bool isNew = false;
     std::string TYPDOC, SOURCEDOC = "&", SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
                         CASCIT, CODEN, ISSN, BULCT;
+    bool toRegister = false;  // read from a file and not in the reference database yet
     std::string ManuscriptID; // of a submitted manuscript: the part of SSOURCE behind its last ", "
 
     /// The four identifying fields parted by blanks.
@@ -57,8 +58,9 @@ public:
 
     /// Reads a ^R line; on a bad one tells so, leaves AUTHORN empty and answers false.
     bool Load(std::string_view line);
-    /// Reads a ^J line and compares the source with the reference database: an unknown source is
-    /// added there; one of the same identity but another text is asked about.
+    /// Reads a ^J line and compares the source with the reference database: an unknown source is to
+    /// be added there (toRegister) once the whole file is read; one of the same identity but
+    /// another text is asked about, and gets the next free number when it is another source.
     void LoadJ(std::string_view line);
     void PrintR(LineWriter& out);
     void PrintAll(LineWriter& out);
@@ -83,6 +85,9 @@ public:
 
 private:
     void AskSourceOfDocument();
+    void CompareWithDatabase();
+    void TakeNextNumber();
+    void PrintDescription(LineWriter& out) const;
 };
 
 /// The next free AUTHORN for the identity in SOURCE_REFINFO: one above the greatest, 1 for none.

@@ -1,0 +1,125 @@
+#include "records/RecordReader.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/ReaderState.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+/// Takes the next line off the text; CR LF, LF and CR end a line.
+std::string_view TakeLine(std::string_view& text) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    const std::string_view line = text.substr(0, end);
+    text.remove_prefix(end);
+    if (text.starts_with("\r\n"))
+        text.remove_prefix(2);
+    else if (!text.empty())
+        text.remove_prefix(1);
+    return line;
+}
+
+void EmptyDocument() {
+    KVOGlobal& globals = Globals();
+    globals.Saved = true;
+    globals.recR.Clear();
+    if (globals.tvwTree) globals.tvwTree->Clear();
+    globals.ForgetCurrent();
+}
+
+/// Sources that the reference database lacks are added there all at once, the read being whole.
+void RegisterNewSources() {
+    Database& known = Globals().CompoundDb();
+    try {
+        std::optional<Transaction> transaction;
+        for (const auto& source : Globals().recR) {
+            if (!source->toRegister) continue;
+            if (!transaction) transaction.emplace(known);
+            RegisterSource(*source);
+            source->toRegister = false;
+        }
+        if (transaction) transaction->Commit();
+    } catch (const DatabaseError& error) {
+        ui::Say(error.what());
+    }
+}
+
+void Finish() {
+    RegisterNewSources();
+    for (const auto& source : Globals().recR) {
+        source->Synchronize();
+        source->CheckPresence();
+    }
+    RefreshLabels();
+    Globals().CurrentKey.clear();
+}
+
+void ReadLines(std::string_view text, ReaderState& state) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    std::string decoded;
+    while (!text.empty() && !state.isAbandoned) {
+        std::string_view line = TakeLine(text);
+        ++state.lineNumber;
+        if (Trim(line).empty()) continue;
+        if (!IsValidUtf8(line)) {
+            decoded = ToUtf8(line);
+            line = decoded;
+        }
+        ReadRecord(state, line);
+    }
+}
+
+} // namespace
+
+ReadResult ReadRecords(std::string_view text) {
+    const ui::HourglassScope hourglass;
+    KVOGlobal& globals = Globals();
+    globals.DataContext.clear();
+    ReaderState state;
+    ReadLines(text, state);
+    ReadResult result;
+    result.whole = !state.isAbandoned;
+    if (result.whole) {
+        result.linesNotKept = state.linesNotKept + state.pendingLines;
+        Finish();
+        return result;
+    }
+    EmptyDocument();
+    result.fault = state.fault;
+    result.faultLine = state.lineNumber;
+    if (state.endsProgram) ui::TheDesktop().EndProgram();
+    return result;
+}
+
+std::string PrintDocument() {
+    LineWriter out;
+    for (const auto& source : Globals().recR)
+        source->PrintAll(out);
+    return out.Text();
+}
+
+void RefreshLabels() {
+    if (!Globals().tvwTree) return;
+    const ui::HourglassScope hourglass;
+    for (const auto& source : Globals().recR) {
+        source->Synchronize();
+        for (const auto& compound : source->recL) {
+            compound->Refresh();
+            for (const auto& sample : compound->recS) {
+                sample->Refresh();
+                for (const auto& value : sample->recZ)
+                    value->Refresh();
+            }
+        }
+    }
+}
+
+} // namespace vexora

@@ -1,0 +1,82 @@
+#include "records/RegistryNumbers.h"
+
+#include "chem/clsAtom.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr std::string_view kEmptySlot = "999999994";
+constexpr std::string_view kWater = "7732185";
+
+std::shared_ptr<clsL> CompoundOfRN(std::string_view rn, const clsR* source) {
+    if (!source) source = Globals().CurrentR.get();
+    return source && !NamesNoCompound(rn) ? source->FindL(rn) : nullptr;
+}
+
+} // namespace
+
+std::optional<char> CheckDigit(std::string_view digits) {
+    if (digits.empty()) return std::nullopt;
+    std::size_t sum = 0;
+    for (std::size_t weight = 1; weight <= digits.size(); ++weight) {
+        const char digit = digits[digits.size() - weight];
+        if (digit < '0' || digit > '9') return std::nullopt;
+        sum += weight * static_cast<std::size_t>(digit - '0');
+    }
+    return static_cast<char>('0' + sum % 10);
+}
+
+std::string WithCheckDigit(std::string_view rn) {
+    std::string mended(rn);
+    if (rn.empty() || rn.back() < '0' || rn.back() > '9') return mended;
+    if (const auto digit = CheckDigit(rn.substr(0, rn.size() - 1))) mended.back() = *digit;
+    return mended;
+}
+
+bool NamesNoCompound(std::string_view rn) {
+    return rn.empty() || rn == kEmptySlot || !IsNumeric(rn) || Val(rn) == 0;
+}
+
+std::string NameOfRN(std::string_view rn) {
+    const auto compound = CompoundOfRN(rn, nullptr);
+    const std::string name = compound ? compound->Name : std::string();
+    return name.empty() && rn == kWater ? "water" : name;
+}
+
+std::string FormulaOfRN(std::string_view rn) {
+    const auto compound = CompoundOfRN(rn, nullptr);
+    return compound ? compound->Formula : std::string();
+}
+
+double MolarMassOfRN(std::string_view rn, const clsR* source) {
+    const auto compound = CompoundOfRN(rn, source);
+    if (!compound) return 0;
+    return compound->MMass > 0 ? compound->MMass : MolarMassOfFormula(compound->Formula);
+}
+
+std::string NewSubstanceRN() {
+    std::int64_t n = 100;
+    for (const auto& source : Globals().recR) {
+        for (const auto& compound : source->recL) {
+            if (ToInteger(Val(compound->RN)) / 10 == n) ++n;
+        }
+    }
+    const std::string digits = std::to_string(n);
+    return digits + CheckDigit(digits).value_or('0');
+}
+
+std::vector<std::string> CompoundNames() {
+    std::vector<std::string> names;
+    const auto source = Globals().CurrentR;
+    if (!source) return names;
+    for (const auto& compound : source->recL)
+        names.push_back(compound->ShowKey());
+    return names;
+}
+
+} // namespace vexora

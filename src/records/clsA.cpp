@@ -1,0 +1,95 @@
+#include "records/clsA.h"
+
+#include "records/LineWriter.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace vexora {
+
+namespace {
+
+// Bit 2, the recommendation to reject the value, is not taken over from a file.
+constexpr std::uint64_t kFlagMask = 0x7FFB;
+
+std::uint64_t HexFlag(std::string_view word, std::string_view lineSoFar) {
+    std::uint64_t value = 0;
+    for (const char c : word) {
+        const bool isDigit = c >= '0' && c <= '9';
+        if (!isDigit && (c < 'A' || c > 'F')) {
+            ui::Say(std::string(lineSoFar), "Invalid PRPFLAG");
+            break;
+        }
+        value = value * 16 + static_cast<std::uint64_t>(isDigit ? c - '0' : c - 'A' + 10);
+    }
+    return value;
+}
+
+std::uint64_t WholePart(std::string_view word) {
+    const double value = Val(word);
+    constexpr double bound = 9.0e18;
+    if (value >= bound || value <= -bound) return 0;
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(value));
+}
+
+std::string FlagOf(std::string_view word, std::string_view lineSoFar) {
+    if (word.empty() || word == "&") return "0";
+    const std::uint64_t flag = IsNumeric(word) ? WholePart(word) : HexFlag(word, lineSoFar);
+    return std::to_string(flag & kFlagMask);
+}
+
+bool AllDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
+}
+
+/// A dotted date, day or month first, as month/day/year; every other text as it stands.
+std::string SlashedDate(std::string_view text) {
+    if (text.find('.') == text.npos) return std::string(text);
+    const std::vector<std::string> parts = Split(text, '.');
+    if (parts.size() != 3) return std::string(text);
+    for (const std::string& part : parts)
+        if (!AllDigits(part)) return std::string(text);
+    const std::string year = (parts[2].size() == 2 ? "20" : "") + parts[2];
+    return Val(parts[1]) <= 12 ? parts[1] + "/" + parts[0] + "/" + year
+                               : parts[0] + "/" + parts[1] + "/" + year;
+}
+
+std::string ClosedComment(std::string_view rest) {
+    std::string comment = WithoutPlaceholder(Trim(rest));
+    if (comment.find("::") != std::string::npos && !comment.ends_with(':')) comment += ':';
+    return comment;
+}
+
+} // namespace
+
+void clsA::Load(std::string_view line) {
+    WordReader words(line);
+    if (words.NextWord() == "^A") {
+        NOTE = UnderscoresToBlanks(WithoutPlaceholder(words.NextWord()));
+        SOURCEDOC = WithoutPlaceholder(words.NextWord());
+        EXPPURPOSE = WithoutPlaceholder(words.NextWord());
+        const std::string_view flag = words.NextWord();
+        PRPFLAG = FlagOf(flag, line.substr(0, line.size() - words.Rest().size()));
+        COMPILER = WithoutPlaceholder(words.NextWord());
+        CONTRIBUTOR = WithoutPlaceholder(words.NextWord());
+        DATEADDED = SlashedDate(WithoutPlaceholder(words.NextWord()));
+    }
+    DATACOMMENT = ClosedComment(words.Rest());
+}
+
+void clsA::TakeHeader(const clsA& other) {
+    const double factor = Factor;
+    *this = other;
+    Factor = factor;
+}
+
+void clsA::PrintHeader(LineWriter& out, std::string_view comment) const {
+    out.Fields({"^A", BlanksToUnderscores(NOTE), SOURCEDOC, EXPPURPOSE,
+                Val(PRPFLAG) == 0 ? "" : PRPFLAG, COMPILER, CONTRIBUTOR, DATEADDED},
+               comment);
+}
+
+} // namespace vexora

@@ -1,0 +1,120 @@
+#include "records/clsAuthor.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+#include <array>
+#include <vector>
+
+namespace vexora {
+
+namespace {
+
+constexpr std::size_t kCodeLength = 6;
+
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+std::string LettersOf(std::string_view text) {
+    std::string letters;
+    for (const char c : LowerAscii(text))
+        if (IsLetter(c)) letters += c;
+    return letters;
+}
+
+std::string WithoutTrailingBlanks(std::string_view text) {
+    return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
+}
+
+/// The first names as initials in print: "Ann Mary" is "A.M.", "Jean-Paul" is "J. - P.".
+struct Initials {
+    std::string printed;
+    std::vector<std::string> letters;
+    std::string remainder; // the first word's rest behind its initial
+};
+
+Initials InitialsOf(std::string_view firstName) {
+    Initials result;
+    bool atWordStart = true;
+    bool afterHyphen = false;
+    for (std::size_t at = 0; at < firstName.size();) {
+        const std::size_t start = at;
+        NextCodePoint(firstName, at);
+        const std::string_view character = firstName.substr(start, at - start);
+        if (character == " " || character == "." || character == "-") {
+            atWordStart = true;
+            afterHyphen = afterHyphen || character == "-";
+            continue;
+        }
+        if (!atWordStart) {
+            if (result.letters.size() == 1) result.remainder += character;
+            continue;
+        }
+        if (afterHyphen && !result.letters.empty()) result.printed += " - ";
+        result.printed += std::string(character) + ".";
+        result.letters.push_back(LowerAscii(character));
+        atWordStart = afterHyphen = false;
+    }
+    return result;
+}
+
+/// What stands behind "]" in the first names, set apart from them.
+std::string TakeBracketed(std::string& firstName) {
+    const std::size_t bracket = firstName.find(']');
+    if (bracket == std::string::npos) return {};
+    const std::string extension(TrimBlanks(std::string_view(firstName).substr(bracket + 1)));
+    firstName.resize(bracket);
+    return extension;
+}
+
+} // namespace
+
+void clsAuthor::CreateAbbr() {
+    LASTNM = LettersOf(TrimBlanks(LastName)).substr(0, kCodeLength);
+    LASTNM.resize(kCodeLength, ' ');
+    std::string firstName(TrimBlanks(FirstName));
+    const std::string bracketed = TakeBracketed(firstName);
+    const Initials initials = InitialsOf(firstName);
+    Extension = bracketed.empty() ? initials.remainder : bracketed;
+    INITNM = "zz";
+    if (!initials.letters.empty())
+        INITNM = initials.letters[0] + (initials.letters.size() > 1 ? initials.letters[1] : " ");
+    FULLNM = std::string(TrimBlanks(LastName)) + "," + initials.printed;
+    if (!bracketed.empty()) FULLNM += " " + bracketed;
+}
+
+bool clsAuthor::CompareName(std::string_view fullName) const {
+    return LettersOf(FULLNM) == LettersOf(fullName);
+}
+
+void clsAuthor::Load(std::string_view line) {
+    std::string text(line);
+    NextHashField(text);
+    AUTHSEQNO = NextHashField(text);
+    LASTNM = NextHashField(text);
+    INITNM = NextHashField(text);
+    FULLNM = Trim(NextHashField(text));
+    isNew = !FULLNM.empty();
+    if (isNew) return;
+    const Database& known = Globals().CompoundDb();
+    if (known.IsOpen()) {
+        const Recordset row =
+            known.Query("select FULLNM from SOURCE_AUTHOR where rtrim(LASTNM) = ? and "
+                        "rtrim(INITNM) = ? order by rowid",
+                        {WithoutTrailingBlanks(LASTNM), WithoutTrailingBlanks(INITNM)});
+        if (!row.IsEnd()) FULLNM = row.Text("FULLNM");
+    }
+    if (FULLNM.empty()) ui::Say("Undefined author " + LASTNM + INITNM + ":");
+}
+
+void clsAuthor::Print(LineWriter& out) const {
+    std::string line = "^I";
+    for (const std::string& field : {AUTHSEQNO, LASTNM, INITNM})
+        line += "#" + Replace(SingleLine(field), "#", " ");
+    out.Line(line + "#" + (isNew ? Replace(SingleLine(Trim(FULLNM)), "#", " ") : ""));
+}
+
+} // namespace vexora

@@ -1,0 +1,166 @@
+#include "records/clsL.h"
+
+#include "chem/clsAtom.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/RegistryNumbers.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+
+#include <map>
+#include <tuple>
+
+namespace vexora {
+
+namespace {
+
+/// Letters of the reference properties. A document holds few kinds of data in many sets, so each
+/// kind is looked up once.
+class LetterFinder {
+public:
+    std::string LetterOf(const clsZ& value) {
+        const auto kind = std::make_tuple(value.PRPCODE, value.nVar, value.PHASE1);
+        const auto known = letters_.find(kind);
+        if (known != letters_.end()) return known->second;
+        const std::string mode = value.nVar == 0 ? "Single" : "Fixed";
+        const std::string kindOfProperty = PureAvailable(value.PRPCODE, mode);
+        const bool onBoundary = kindOfProperty == "DD" && value.nVar == 0;
+        return letters_[kind] = PureLetter(kindOfProperty, onBoundary, value.PHASE1).value_or("");
+    }
+
+private:
+    std::map<std::tuple<std::string, int, std::string>, std::string> letters_;
+};
+
+std::string Field(WordReader& words) {
+    return WithoutPlaceholder(words.NextWord());
+}
+
+} // namespace
+
+std::string clsL::ShowKey() const {
+    return Name.empty() ? RN : Name;
+}
+
+void clsL::SetMe() {
+    KVOGlobal& globals = Globals();
+    globals.CurrentL = As<clsL>();
+    if (globals.CurrentKey.empty()) globals.CurrentKey = "RL";
+    globals.DataContext = "Pure";
+    if (Parent) Parent->SetMe();
+}
+
+void clsL::AttachTo(clsR& source) {
+    Parent = &source;
+    source.recL.Add(As<clsL>(), RN);
+    if (source.tNode) MakeNode(source.tNode, ShowKey());
+}
+
+bool clsL::Load(std::string_view line) {
+    WordReader words(line);
+    const bool bioLine = words.NextWord() == "BL";
+    RN = words.NextWord();
+    if (RN.empty()) return false;
+    if (!IsNumeric(RN)) {
+        ui::Say("RN = " + RN, "Invalid RN");
+        return false;
+    }
+    MendCheckDigit();
+    if (bioLine)
+        LoadBio(words);
+    else
+        LoadPlain(words);
+    return true;
+}
+
+void clsL::MendCheckDigit() {
+    const std::string mended = WithCheckDigit(RN);
+    if (mended == RN) return;
+    ui::Say("Old RN = " + RN + "\nNew RN = " + mended,
+            "Control digit in RN will be corrected\nPlease review the data!");
+    RN = NewRn = mended;
+}
+
+void clsL::LoadPlain(WordReader& words) {
+    SYSTYPES = words.NextWord();
+    REFPROP = Trim(words.Rest());
+    Name = NameOfRN(RN);
+    Formula = FormulaOfRN(RN);
+    if (Name.empty() || Formula.empty()) {
+        // The file keeps name and formula only of compounds that the database does not know.
+        const auto rows = CompoundsOf(ToInteger(Val(RN)));
+        if (!rows.empty() && Name.empty()) Name = rows.front().NAME;
+        if (!rows.empty() && Formula.empty()) Formula = rows.front().FORMULA;
+    }
+    MMass = MolarMassOfFormula(Formula);
+}
+
+void clsL::LoadBio(WordReader& words) {
+    isBio = isNew = true;
+    SYSTYPES = "NNNNN";
+    REFPROP = "&";
+    EC = UnderscoresToBlanks(Field(words));
+    PDB = UnderscoresToBlanks(Field(words));
+    Formula = Field(words);
+    Charge = static_cast<std::int32_t>(ToInteger(Val(words.NextWord())));
+    Name = WithoutPlaceholder(Trim(words.Rest()));
+    MMass = MolarMassOfFormula(Formula);
+}
+
+void clsL::PrintL(LineWriter& out) {
+    if (isNew && isBio) {
+        out.Fields({"BL", RN, BlanksToUnderscores(EC), BlanksToUnderscores(PDB), Formula,
+                    std::to_string(Charge)},
+                   Name);
+        return;
+    }
+    if (REFPROP.empty()) REFPROP = "&";
+    if (!SYSTYPES.starts_with('N') && REFPROP == "&") ui::Say("REFPROP internal error");
+    out.Fields({"^L", RN, SYSTYPES, REFPROP});
+    if (isNew) out.Fields({"^N", RN, Formula}, Name);
+}
+
+void clsL::PrintAll(LineWriter& out) {
+    PrintL(out);
+    for (const auto& sample : recS)
+        sample->PrintAll(out);
+}
+
+std::shared_ptr<clsS> clsL::FindS(int number, std::size_t* index) const {
+    if (index) *index = 0;
+    for (std::size_t i = 1; i <= recS.Count(); ++i) {
+        if (ToInteger(Val(recS.Item(i)->SMPNM)) != number) continue;
+        if (index) *index = i;
+        return recS.Item(i);
+    }
+    return nullptr;
+}
+
+void clsL::UpdateInfo() {
+    LetterFinder letters;
+    if (SYSTYPES.empty()) SYSTYPES = "N";
+    SYSTYPES[0] = 'N';
+    REFPROP.clear();
+    for (const auto& sample : recS) {
+        if (!sample->recZ.IsEmpty() || !sample->recTwo.IsEmpty()) SYSTYPES[0] = 'D';
+        for (const auto& value : sample->recZ) {
+            const std::string letter = letters.LetterOf(*value);
+            if (REFPROP.find(letter) == std::string::npos) REFPROP += letter;
+        }
+    }
+    if (REFPROP.empty()) REFPROP = "&";
+}
+
+int clsL::NextSampleNumber() const {
+    int number = static_cast<int>(recS.Count()) + 1;
+    while (FindS(number))
+        ++number;
+    return number;
+}
+
+} // namespace vexora

@@ -1,0 +1,157 @@
+#include "records/clsR.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/clsAuthor.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+#include <array>
+
+namespace vexora {
+
+namespace {
+
+constexpr std::string_view kSourceLetters = "AOXCLZ";
+
+bool IsSequenceNumber(std::string_view text) {
+    constexpr std::size_t mostDigits = 4;
+    return !text.empty() && text.size() <= mostDigits &&
+           text.find_first_not_of("0123456789") == text.npos &&
+           text.find_first_not_of('0') != text.npos;
+}
+
+/// A field of a "#" line: the separator and line breaks cannot stand inside.
+std::string HashField(std::string_view text) {
+    return Replace(SingleLine(text), "#", " ");
+}
+
+void Stamp(clsR& source) {
+    for (const auto& compound : source.recL) {
+        for (const auto& sample : compound->recS) {
+            for (const auto& value : sample->recZ)
+                value->Header.SOURCEDOC = source.SOURCEDOC;
+        }
+    }
+}
+
+} // namespace
+
+std::string clsR::Source() const {
+    return YEARPUB + " " + AUTHOR1 + " " + AUTHOR2 + " " + AUTHORN;
+}
+
+void clsR::SetMe() {
+    KVOGlobal& globals = Globals();
+    globals.CurrentR = As<clsR>();
+    if (globals.CurrentKey.empty()) globals.CurrentKey = "R";
+}
+
+void clsR::AttachTo() {
+    Globals().recR.Add(As<clsR>(), Source());
+    MakeNode(nullptr, Source());
+}
+
+void clsR::Synchronize() {
+    Label(Source());
+}
+
+bool clsR::Load(std::string_view line) {
+    WordReader words(line);
+    words.NextWord();
+    YEARPUB = words.NextWord();
+    AUTHOR1 = words.NextWord();
+    AUTHOR2 = OrPlaceholder(words.NextWord());
+    AUTHORN = Trim(words.Rest());
+    SOURCEDOC = "&";
+    if (IsSequenceNumber(AUTHORN)) return true;
+    ui::Say("Invalid reference identification\n" + Source());
+    if (AUTHORN.empty()) ui::Say("Incomplete record: " + std::string(Trim(line)));
+    AUTHORN.clear();
+    return false;
+}
+
+void clsR::PrintR(LineWriter& out) {
+    AskSourceOfDocument();
+    for (const auto& compound : recL) {
+        // Letters 2 to 5 tell of mixtures and reactions, which this edition does not keep.
+        compound->SYSTYPES = compound->SYSTYPES.substr(0, 1) + "NNNN";
+    }
+    UpdateRefInfo();
+    out.Blank();
+    out.Fields({"^R", YEARPUB, AUTHOR1, AUTHOR2}, AUTHORN);
+    if (isNew) PrintDescription(out);
+}
+
+void clsR::PrintDescription(LineWriter& out) const {
+    std::string line = "^J";
+    for (const std::string& field :
+         {TYPDOC, OrPlaceholder(SOURCEDOC), SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
+          std::to_string(recAuthor.Count()), CASCIT, CODEN, ISSN, BULCT})
+        line += "#" + HashField(field);
+    out.Line(line);
+    for (const auto& author : recAuthor)
+        author->Print(out);
+}
+
+void clsR::AskSourceOfDocument() {
+    const auto isKnown = [](const std::string& code) {
+        return code.size() == 1 && kSourceLetters.find(code) != std::string_view::npos;
+    };
+    if (isKnown(SOURCEDOC)) return;
+    const auto answer = ui::TheDesktop().Ask({"Enter the source of document " + Source() +
+                                                  "\nO - original"
+                                                  "\nA - Chemical Abstracts"
+                                                  "\nL - Beilstein, on-line"
+                                                  "\nZ - extracted from another data base"
+                                                  "\nX - other document",
+                                              "", "O"});
+    const std::string letter = UpperAscii(Trim(answer.value_or(""))).substr(0, 1);
+    SOURCEDOC = isKnown(letter) ? letter : "&";
+    if (isKnown(letter)) Stamp(*this);
+}
+
+void clsR::PrintAll(LineWriter& out) {
+    PrintR(out);
+    for (const auto& compound : recL) {
+        // Of compounds without samples only those stay that some record names.
+        if (compound->isNew || !compound->recS.IsEmpty()) compound->PrintAll(out);
+    }
+}
+
+void clsR::UpdateRefInfo() {
+    PRPCLASS.clear();
+    for (const auto& compound : recL) {
+        compound->UpdateInfo();
+        for (const char letter : compound->REFPROP) {
+            if (letter != '&' && PRPCLASS.find(letter) == std::string::npos) PRPCLASS += letter;
+        }
+    }
+    if (PRPCLASS.empty()) PRPCLASS = "&";
+}
+
+void clsR::CheckPresence() {
+    // Only mixtures and reactions name compounds by their number, and this edition keeps neither.
+}
+
+std::shared_ptr<clsL> clsR::FindL(std::string_view rn, std::size_t* index) const {
+    auto compound = recL.Item(rn);
+    if (index) *index = compound ? recL.Position(compound.get()) : 0;
+    return compound;
+}
+
+std::string clsR::ProposedName() const {
+    std::string name = ManuscriptID;
+    if (name.empty()) {
+        for (const std::string& part : {YEARPUB, AUTHOR1, AUTHOR2, AUTHORN})
+            name += WithoutPlaceholder(part);
+    }
+    for (char& c : name)
+        if (c == '/' || (c >= '\0' && c < ' ')) c = '_';
+    return name;
+}
+
+} // namespace vexora

@@ -1,0 +1,153 @@
+#include "records/clsZ.h"
+
+#include "chem/CommentTags.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+#include <cmath>
+
+namespace vexora {
+
+namespace {
+
+std::string Field(WordReader& words) {
+    return WithoutPlaceholder(words.NextWord());
+}
+
+/// A phase field, in which "&" is a value.
+std::string Phase(WordReader& words) {
+    return OrPlaceholder(words.NextWord());
+}
+
+std::string PhasesInBrief(const clsZ& value) {
+    std::string text;
+    for (const std::string& phase : {value.PHASE1, value.PHASE2, value.PHASE3}) {
+        if (IsBlankField(phase)) continue;
+        text += (text.empty() ? "" : "+") + phase;
+    }
+    return text;
+}
+
+std::string UnitInBrief(const clsZ& value) {
+    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
+    if (!value.isOriginalUnit) return unit;
+    if (value.Factor > 0) return "*" + NumberText(value.Factor) + " " + unit;
+    if (IsSystemUnit(value.PROPERTY_UNIT)) return unit;
+    std::string code = value.PROPERTY_UNIT;
+    const std::string text = ConversionText(code, unit);
+    return text.empty() ? value.PROPERTY_UNIT : text;
+}
+
+} // namespace
+
+void clsZ::AddX(const clsX& item) {
+    clsX added = item;
+    if (added.N < 0 && added.PRPCODE == PRPCODE)
+        added.N = 0;
+    else if (added.N < 0 && nVar == 1 && added.PRPCODE == Variable())
+        added.N = 1;
+    if (added.N < 0 || added.N > nVar) {
+        OtherX.push_back(added);
+        return;
+    }
+    clsX& place = UX[static_cast<std::size_t>(added.N)];
+    // The line of an item does not carry these; they came with the value line.
+    added.KVOUValue = place.KVOUValue;
+    if (!added.iRep && added.RValue.empty()) added.RValue = place.RValue;
+    if (!added.iRep && added.Repetitions.empty()) added.Repetitions = place.Repetitions;
+    place = added;
+}
+
+bool clsZ::Load(std::string_view line) {
+    WordReader words(line);
+    const std::string_view tag = words.NextWord();
+    nVar = tag == "^F" || tag == "^f" ? 1 : 0;
+    isOriginalUnit = tag == "^z" || tag == "^f";
+    SMPNM = words.NextWord();
+    PRPCODE = Field(words);
+    PROPERTY_UNIT = Field(words);
+    PRPSETNO = Field(words);
+    PHASE1 = Phase(words);
+    if (nVar == 0) {
+        PHASE2 = Phase(words);
+        PHASE3 = Phase(words);
+    } else {
+        INDVARIABLE = Field(words);
+        VARIABLE_UNIT = Field(words);
+    }
+    if (words.AtEnd()) return false;
+    PRPVALUE = Field(words);
+    PRPUNCERTY = Field(words);
+    PRECIS = Field(words);
+    DETERMNM = WithoutPlaceholder(Trim(words.Rest()));
+    Factor = 0;
+    commentInSystemUnits = true;
+    if (PRPCODE == "TBN") PHASE3 = "&";
+    if (PRPCODE == "TMN") PHASE3 = "air";
+    UX[0].N = 0;
+    UX[1].N = 1;
+    UX[0].KVOUValue = PRPUNCERTY;
+    UX[0].RValue = PRECIS;
+    UX[0].Repetitions = DETERMNM;
+    return true;
+}
+
+void clsZ::TakePending(const clsA& pending) {
+    Header.TakeHeader(pending);
+    if (pending.Factor <= 0 || !isOriginalUnit) return;
+    if (PROPERTY_UNIT == "S") Factor = pending.Factor;
+    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+}
+
+std::string clsZ::Key() const {
+    return (nVar == 0 ? "Z" : "F") + PRPCODE + PRPSETNO;
+}
+
+std::string clsZ::ShowKey() const {
+    std::string name = PropertyName(PRPCODE, "Pure");
+    if (name.empty()) name = PRPCODE;
+    std::string text = nVar == 0 ? "^0: " : "^F: ";
+    text += name + " (" + PhasesInBrief(*this) + "," + UnitInBrief(*this) + "), Set " + PRPSETNO;
+    if (!Header.DATACOMMENT.empty()) text += ", " + CommentDisplayText(Header.DATACOMMENT);
+    return text;
+}
+
+void clsZ::SetMe() {
+    KVOGlobal& globals = Globals();
+    globals.CurrentZ = As<clsZ>();
+    if (globals.CurrentKey.empty()) globals.CurrentKey = "RLSZ";
+    if (Parent) Parent->SetMe();
+}
+
+void clsZ::AttachTo(clsS& sample) {
+    Parent = &sample;
+    sample.recZ.Add(As<clsZ>(), Key());
+    if (sample.tNode) MakeNode(sample.tNode, ShowKey());
+}
+
+double clsZ::SystemValue() const {
+    if (!isOriginalUnit) return Val(PRPVALUE);
+    return ToSystem(PROPERTY_UNIT, Val(PRPVALUE), Factor, NeedsMolarMass() ? MolarMass() : 0);
+}
+
+double clsZ::MolarMass() const {
+    const double mass =
+        Parent && Parent->Parent ? MolarMassOfRN(Parent->Parent->RN, Parent->Parent->Parent) : 0;
+    return mass > 0 ? mass : FallbackMolarMass;
+}
+
+bool clsZ::NeedsMolarMass() const {
+    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
+}
+
+std::string clsZ::Variable() const {
+    return nVar == 1 ? IndVarFixed(PRPCODE) : std::string();
+}
+
+} // namespace vexora
