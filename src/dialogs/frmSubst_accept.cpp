@@ -37,12 +37,12 @@ void frmSubst::Accept() {
 }
 
 void frmSubst::AcceptNew() {
-    if (!RNCheck()) return;
+    if (!CheckCharge() || !RNCheck()) return;
     if (!rnEdited_ && (nameEdited_ || formulaEdited_)) FindSubstance();
     // Nobody typed a number, but one was made up for the row that was picked.
     const bool kept = !rnEdited_ && !typedRN_ && !TypedParts().IsEmpty();
     if (kept ? !CheckKept() : !IdentifySubstance()) return;
-    if (!CheckCharge() || !CheckFree()) return;
+    if (!CheckFree()) return;
     Store();
     Finish();
 }
