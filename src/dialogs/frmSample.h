@@ -63,7 +63,7 @@ private:
     // Between the controls and the description (frmSample_fill.cpp).
     SampleDescription Read() const;
     void Fill();
-    bool Show(const SampleDescription& description);
+    bool ShowDescription(const SampleDescription& description);
     bool ShowPurity(const PurityStatement& statement, ui::TextBox& value, ui::ComboBox& unit,
                     ui::ComboBox& method);
     void ClearDescription();

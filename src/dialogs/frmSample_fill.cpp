@@ -49,7 +49,7 @@ void frmSample::Fill() {
     while (true) {
         txtSmplDescription.Text(text);
         const auto description = ParseDescription(text);
-        if (description && Show(*description)) return;
+        if (description && ShowDescription(*description)) return;
         ClearDescription();
         const std::string title = "Please correct sample description";
         ui::Say("Error: Sample description cannot be interpreted", title);
@@ -61,7 +61,7 @@ void frmSample::Fill() {
 }
 
 /// False when a code is unknown or there are more statements than boxes.
-bool frmSample::Show(const SampleDescription& description) {
+bool frmSample::ShowDescription(const SampleDescription& description) {
     ClearDescription();
     lstDescAvail.Index(IndexOfCode(SampleAvailabilities(), description.Availability));
     FollowAvailability();
