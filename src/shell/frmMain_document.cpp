@@ -154,10 +154,11 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
+    const std::string text = PrintDocument(); // may ask the user, so without the hourglass
     std::string error;
     {
         const ui::HourglassScope hourglass;
-        error = WriteSafely(ui::TheDesktop().Files(), FileName, PrintDocument(), true);
+        error = WriteSafely(ui::TheDesktop().Files(), FileName, text, true);
     }
     if (error.empty()) {
         globals.Saved = true;
@@ -207,10 +208,11 @@ void frmMain::ExportDocument() {
     DisableShell();
     const std::string target = ChooseTarget(ProposedTitle(".xml"), kXmlFiles);
     if (!target.empty()) {
+        const std::string text = makeXml(); // may ask the user, so without the hourglass
         std::string error;
         {
             const ui::HourglassScope hourglass;
-            error = WriteSafely(ui::TheDesktop().Files(), target, makeXml(), false);
+            error = WriteSafely(ui::TheDesktop().Files(), target, text, false);
         }
         if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
     }
