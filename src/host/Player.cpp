@@ -63,8 +63,8 @@ const Player::Row Player::commands[] = {
 
 Player::Player(Actor& actor, ui::FileSystem& files, MakeProgram make, PlayOptions options,
                std::ostream& out, std::ostream& err)
-    : actor_(actor), files_(files), make_(std::move(make)), options_(std::move(options)), out_(out),
-      err_(err) {}
+    : actor_(actor), files_(files), goneFiles_(files), make_(std::move(make)),
+      options_(std::move(options)), out_(out), err_(err) {}
 
 Player::~Player() {
     DropProgram();
@@ -133,6 +133,11 @@ void Player::RunModal(ui::Form& form) {
     }
     --modalDepth_;
     if (form.IsVisible()) LeaveModal();
+}
+
+ui::FileSystem& Player::Files() {
+    if (quiet_) return goneFiles_;
+    return files_;
 }
 
 void Player::LeaveModal() {

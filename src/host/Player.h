@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "host/Actor.h"
+#include "host/GoneFileSystem.h"
 #include "host/Program.h"
 #include "host/ScriptParser.h"
 #include "ui/Desktop.h"
@@ -42,7 +43,8 @@ public:
     void ShowHelp(int context) override;
     void Print(const std::string& title, const std::string& text) override;
     ui::Date Today() override;
-    ui::FileSystem& Files() override { return files_; }
+    /// Refuses every change once the script has left the program below a modal form.
+    ui::FileSystem& Files() override;
     void RunModal(ui::Form& form) override;
     void EndProgram() override { ending_ = true; }
 
@@ -113,6 +115,7 @@ private:
 
     Actor& actor_;
     ui::FileSystem& files_;
+    GoneFileSystem goneFiles_;
     MakeProgram make_;
     PlayOptions options_;
     std::ostream& out_;

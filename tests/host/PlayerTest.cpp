@@ -228,6 +228,22 @@ TEST(Player, EndOfTheScriptBelowAModalFormEndsTheProgram) {
     EXPECT_FALSE(ui::Forms::IsPresent());
 }
 
+/// A front whose event handling no exception may pass, as that of windows.
+class WindowLikeActor : public host::ModelActor {
+public:
+    bool LetsExceptionsThrough() const override { return false; }
+};
+
+TEST(Player, HandlersThatReturnWhenTheProgramIsOverChangeNothingOnDisk) {
+    const std::string lines = "click frmSmall.cmdOpen\nset frmSmallModal.txtAnswer \"x\"\n";
+    WindowLikeActor windows;
+    const SmallPlay play = PlaySmall(lines, {}, windows);
+    EXPECT_EQ(AfterModal(), "the program is over");
+    EXPECT_EQ(play.transcript, PlaySmall(lines).transcript);
+    PlaySmall(lines + "click frmSmallModal.cmdAccept\n", {}, windows);
+    EXPECT_EQ(AfterModal(), "No such file or directory");
+}
+
 TEST(Player, AHiddenModalFormGoesOnWithItsCaller) {
     Holds("click frmSmall.cmdOpen\nset frmSmallModal.txtAnswer \"x\"\n"
           "click frmSmallModal.cmdAgain\n"

@@ -10,6 +10,7 @@ namespace {
 void OpenModal(frmSmall& small) {
     auto& modal = ui::Forms::Current().Get<frmSmallModal>("frmSmallModal");
     modal.ShowModal();
+    AfterModal() = ui::TheDesktop().Files().Link("/no/such/file", "/no/such/name");
     small.lblResult.Caption("modal said " + modal.txtAnswer.Text());
 }
 
@@ -33,6 +34,11 @@ private:
 };
 
 } // namespace
+
+std::string& AfterModal() {
+    static std::string error;
+    return error;
+}
 
 frmSmall::frmSmall() : Form("frmSmall", "Small") {
     Arrangement =
@@ -104,9 +110,13 @@ std::unique_ptr<host::Program> MakeSmallProgram(ui::Desktop& desktop) {
 }
 
 SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options) {
+    host::ModelActor actor;
+    return PlaySmall(lines, std::move(options), actor);
+}
+
+SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options, host::Actor& actor) {
     std::ostringstream out;
     std::ostringstream err;
-    host::ModelActor actor;
     host::PosixFileSystem files;
     host::Player player(actor, files, MakeSmallProgram, std::move(options), out, err);
     const bool held = player.Play(host::ParseScript("start\n" + lines, "small.vxs", {}));

@@ -56,6 +56,9 @@ public:
     ui::CommandButton cmdAgain{*this, "cmdAgain", "Again"};
 };
 
+/// What the disk said to a change that the small form tried when its modal form had gone.
+std::string& AfterModal();
+
 std::unique_ptr<host::Program> MakeSmallProgram(ui::Desktop& desktop);
 
 /// What a play of a script on the small form left behind.
@@ -67,5 +70,6 @@ struct SmallPlay {
 
 /// Plays the lines behind `start` on a fresh small form.
 SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options = {});
+SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options, host::Actor& actor);
 
 } // namespace vexora::test
