@@ -1,3 +1,4 @@
+#include "cli/Documents.h"
 #include "cli/ExitCodes.h"
 #include "cli/Refdb.h"
 
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "vexora-cli " VEXORA_VERSION);
     app.require_subcommand(1);
     int exitCode = vexora::kExitClean;
+    vexora::AddDocumentCommands(app, argv[0], exitCode);
     vexora::AddRefdbCommands(app, exitCode);
     try {
         app.parse(argc, argv);

@@ -1,0 +1,84 @@
+#include "cli/Documents.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+#include <optional>
+
+#include "cli/ExitCodes.h"
+#include "cli/OpenedDocument.h"
+#include "export/ExportDocument.h"
+#include "host/TreeText.h"
+#include "records/DocumentCheck.h"
+#include "records/SafeFile.h"
+
+namespace vexora {
+
+namespace {
+
+struct Arguments {
+    std::optional<std::string> home;
+    std::string document;
+    std::string xml;
+    std::string argv0;
+};
+
+void TellLinesNotKept(OpenedDocument& document) {
+    if (document.LinesNotKept() == 0) return;
+    document.Tell(0, false,
+                  std::to_string(document.LinesNotKept()) +
+                      " lines hold data of kinds that this edition does not keep");
+}
+
+int Check(const Arguments& arguments) {
+    OpenedDocument document(arguments.document);
+    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+    TellLinesNotKept(document);
+    for (const DocumentFinding& finding : CheckDocument()) {
+        document.Tell(finding.line, finding.isError, finding.text);
+    }
+    return document.Findings() == 0 ? kExitClean : kExitFindings;
+}
+
+int Tree(const Arguments& arguments) {
+    OpenedDocument document(arguments.document);
+    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+    std::cout << host::TreeText(document.Tree());
+    return kExitClean;
+}
+
+int Export(const Arguments& arguments) {
+    OpenedDocument document(arguments.document);
+    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+    TellLinesNotKept(document);
+    const std::string xml = ExportDocument(ui::TheDesktop().Today());
+    if (arguments.xml.empty()) {
+        std::cout << xml;
+    } else if (const std::string error = WriteSafely(document.Files(), arguments.xml, xml, false);
+               !error.empty()) {
+        std::cerr << arguments.xml << ": error: " << error << '\n';
+        return kExitCannotWrite;
+    }
+    return document.Findings() == 0 ? kExitClean : kExitFindings;
+}
+
+} // namespace
+
+void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
+    auto arguments = std::make_shared<Arguments>();
+    arguments->argv0 = argv0;
+    const auto add = [&](const char* name, const char* what, int (*run)(const Arguments&)) {
+        CLI::App* command = app.add_subcommand(name, what);
+        command->add_option("--home", arguments->home, "Application folder with the databases");
+        command->add_option("DOCUMENT", arguments->document, "A record file")->required();
+        command->callback([arguments, run, &exitCode] { exitCode = run(*arguments); });
+        return command;
+    };
+    add("export", "Write a document as ThermoML", Export)
+        ->add_option("XML", arguments->xml, "The file to write; standard output when left out");
+    add("check", "Tell what is wrong or doubtful in a document", Check);
+    add("tree", "Print the tree of a document", Tree);
+}
+
+} // namespace vexora

@@ -1,0 +1,63 @@
+#include "cli/OpenedDocument.h"
+
+#include <iostream>
+
+#include "cli/ExitCodes.h"
+#include "host/FindPlaces.h"
+#include "records/RecordReader.h"
+#include "records/clsR.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+OpenedDocument::OpenedDocument(std::string path)
+    : path_(std::move(path)), desktop_([this](const ui::Message& message) {
+          Tell(globals_.LineBeingRead, false, message.text);
+      }),
+      forms_(desktop_) {
+    globals_.tvwTree = &form_.tvwTree;
+}
+
+void OpenedDocument::Tell(int line, bool isError, const std::string& text) {
+    ++findings_;
+    std::cerr << path_;
+    if (line > 0) std::cerr << ':' << line;
+    std::cerr << (isError ? ": error: " : ": warning: ") << Replace(text, "\n", " ") << '\n';
+}
+
+std::string OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
+                                          const std::string& argv0) {
+    const Places places = host::FindPlaces(home, argv0);
+    globals_.HomeFolder = places.Home;
+    const auto find = [&](const std::string& name) {
+        const std::string own = places.Home + "/" + name;
+        return Files().Exists(own) ? own : places.Installed + "/" + name;
+    };
+    return globals_.Databases.OpenBoth(find("VXRLocal.mdb"), find("VXR.mdb")).value_or("");
+}
+
+int OpenedDocument::Open(const std::optional<std::string>& home, const std::string& argv0) {
+    if (const std::string fault = OpenDatabases(home, argv0); !fault.empty()) {
+        std::cerr << "error: " << fault << '\n';
+        return kExitUnreadable;
+    }
+    std::string error;
+    const std::optional<std::string> text = Files().Read(path_, error);
+    if (!text) {
+        std::cerr << path_ << ": error: " << error << '\n';
+        return kExitUnreadable;
+    }
+    const ReadResult result = ReadRecords(*text);
+    if (!result.whole) {
+        Tell(result.faultLine, true, "the document was not read: " + result.fault);
+        return kExitUnreadable;
+    }
+    if (globals_.recR.IsEmpty()) {
+        Tell(0, true, "this is no record file: it holds no source");
+        return kExitUnreadable;
+    }
+    linesNotKept_ = result.linesNotKept;
+    return kExitClean;
+}
+
+} // namespace vexora
