@@ -47,7 +47,7 @@ int OpenedDocument::Open(const std::optional<std::string>& home, const std::stri
         std::cerr << path_ << ": error: " << error << '\n';
         return kExitUnreadable;
     }
-    const ReadResult result = ReadRecords(*text);
+    const ReadResult result = ReadRecords(*text, ReadPurpose::Look);
     if (!result.whole) {
         Tell(result.faultLine, true, "the document was not read: " + result.fault);
         return kExitUnreadable;

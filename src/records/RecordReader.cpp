@@ -51,8 +51,8 @@ void RegisterNewSources() {
     }
 }
 
-void Finish() {
-    RegisterNewSources();
+void Finish(ReadPurpose purpose) {
+    if (purpose == ReadPurpose::Work) RegisterNewSources();
     for (const auto& source : Globals().recR) {
         source->Synchronize();
         source->CheckPresence();
@@ -67,7 +67,7 @@ void ReadLines(std::string_view text, ReaderState& state) {
     std::string decoded;
     while (!text.empty() && !state.isAbandoned) {
         std::string_view line = TakeLine(text);
-        ++state.lineNumber;
+        Globals().LineBeingRead = ++state.lineNumber;
         if (Trim(line).empty()) continue;
         if (!IsValidUtf8(line)) {
             decoded = ToUtf8(line);
@@ -79,17 +79,18 @@ void ReadLines(std::string_view text, ReaderState& state) {
 
 } // namespace
 
-ReadResult ReadRecords(std::string_view text) {
+ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
     const ui::HourglassScope hourglass;
     KVOGlobal& globals = Globals();
     globals.DataContext.clear();
     ReaderState state;
     ReadLines(text, state);
+    globals.LineBeingRead = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
     if (result.whole) {
         result.linesNotKept = state.linesNotKept + state.pendingLines;
-        Finish();
+        Finish(purpose);
         return result;
     }
     EmptyDocument();

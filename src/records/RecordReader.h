@@ -13,11 +13,14 @@ struct ReadResult {
     int faultLine = 0;    // line of the file, from 1
 };
 
+/// Work adds sources that the reference database lacks to it; Look leaves it as it is.
+enum class ReadPurpose { Work, Look };
+
 /// Reads the text of a record file into the globals: sources join recR, their nodes the tree. The
 /// text may be UTF-8 or, line by line, Windows-1252, with any line ends. A bad record is told and
 /// the whole read is dropped: the document is empty then, never half loaded. Lines with a tag that
 /// no edition knows are passed over.
-ReadResult ReadRecords(std::string_view text);
+ReadResult ReadRecords(std::string_view text, ReadPurpose purpose = ReadPurpose::Work);
 
 /// The document as a record file. It may ask for the source of the document (see clsR::PrintR).
 /// Throws SaveRefused (LineWriter.h), whose text is for the user, for a record that cannot be

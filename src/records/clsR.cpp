@@ -74,13 +74,17 @@ bool clsR::Load(std::string_view line) {
     return false;
 }
 
-void clsR::PrintR(LineWriter& out) {
+void clsR::PrepareOutput() {
     AskSourceOfDocument();
     for (const auto& compound : recL) {
         // Letters 2 to 5 tell of mixtures and reactions, which this edition does not keep.
         compound->SYSTYPES = compound->SYSTYPES.substr(0, 1) + "NNNN";
     }
     UpdateRefInfo();
+}
+
+void clsR::PrintR(LineWriter& out) {
+    PrepareOutput();
     out.Blank();
     out.Fields({"^R", YEARPUB, AUTHOR1, AUTHOR2}, AUTHORN);
     if (isNew) PrintDescription(out);
