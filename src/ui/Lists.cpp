@@ -130,7 +130,9 @@ void ComboBox::UserEdited(const std::string& text) {
 }
 
 void ComboBox::UserDropDown() {
-    if (IsUsable()) Fire(OnDropDown);
+    if (!IsUsable()) return;
+    SetFocus();
+    Fire(OnDropDown);
 }
 
 void ComboBox::UserChoose(int index) {

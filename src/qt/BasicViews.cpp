@@ -1,0 +1,121 @@
+#include "qt/BasicViews.h"
+
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOption>
+#include <QTextBrowser>
+
+#include "qt/FormWindow.h"
+#include "qt/Icons.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+LabelView::LabelView(FormWindow& window, ui::Label& label)
+    : ViewOf(window, label, new QLabel(&window)) {
+    own_->setTextFormat(Qt::PlainText);
+}
+
+void LabelView::Draw() {
+    constexpr std::size_t longText = 60;
+    own_->setWordWrap(model_.Caption().size() > longText);
+    own_->setText(ToQt(model_.Caption()));
+    const bool clicks = model_.OnClick || model_.OnDoubleClick;
+    own_->setCursor(clicks ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    own_->setForegroundRole(clicks ? QPalette::Link : QPalette::WindowText);
+}
+
+bool LabelView::MouseEvent(QEvent& event) {
+    if (event.type() == QEvent::MouseButtonRelease) Act([this] { model_.UserClick(); });
+    if (event.type() == QEvent::MouseButtonDblClick) Act([this] { model_.UserDoubleClick(); });
+    return static_cast<bool>(model_.OnClick);
+}
+
+ButtonView::ButtonView(FormWindow& window, ui::CommandButton& button)
+    : ViewOf(window, button, new QPushButton(&window)) {
+    own_->setFocusPolicy(Qt::TabFocus); // a press takes the focus through the model
+    own_->setAutoDefault(false);
+    QObject::connect(own_, &QPushButton::clicked, this,
+                     [this] { Act([this] { model_.UserClick(); }); });
+}
+
+void ButtonView::Draw() {
+    own_->setText(ToQt(model_.Caption()));
+    own_->setDefault(model_.Owner().DefaultButton == &model_);
+}
+
+bool ButtonView::MouseEvent(QEvent& event) {
+    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
+    Act([this] { model_.UserDoubleClick(); });
+    return true;
+}
+
+ToggleView::ToggleView(FormWindow& window, ui::CheckBox& box, QAbstractButton* button)
+    : ViewOf(window, box, button) {
+    own_->setParent(&window);
+    own_->setFocusPolicy(Qt::TabFocus);
+    own_->setAutoExclusive(false); // the model knows which belong together
+    QObject::connect(own_, &QAbstractButton::clicked, this, [this] {
+        QPointer<ToggleView> self(this);
+        Act([this] { model_.UserClick(); });
+        if (self) self->Refresh();
+    });
+}
+
+// The words may be shorter than the widget: aim at the mark itself.
+QPoint ToggleView::ClickPoint() const {
+    return {own_->style()->pixelMetric(QStyle::PM_IndicatorWidth) / 2, own_->height() / 2};
+}
+
+void ToggleView::Draw() {
+    own_->setText(ToQt(model_.Caption()));
+    own_->setChecked(model_.Value());
+}
+
+FrameView::FrameView(FormWindow& window, ui::Frame& frame)
+    : ViewOf(window, frame, new QGroupBox(&window)) {}
+
+void FrameView::Draw() {
+    own_->setTitle(Literal(model_.Caption()));
+}
+
+RichTextView::RichTextView(FormWindow& window, ui::RichText& text)
+    : ViewOf(window, text, new QTextBrowser(&window)) {
+    own_->setOpenLinks(false);
+}
+
+bool RichTextView::Wants(const ui::Key& key) const {
+    return key.name == "Up" || key.name == "Down" || key.name.starts_with("Page") ||
+           key.name == "Home" || key.name == "End" || key.FullName() == "Ctrl+C" ||
+           key.FullName() == "Ctrl+A";
+}
+
+// A text is set only when it is another, so that the place being read does not jump.
+void RichTextView::Draw() {
+    if (shown_ == model_.Html()) return;
+    shown_ = model_.Html();
+    own_->setHtml(ToQt(shown_));
+}
+
+ToolButtonView::ToolButtonView(FormWindow& window, ui::ToolButton& button)
+    : ViewOf(window, button, new QToolButton(&window)) {
+    own_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    own_->setAutoRaise(true);
+    own_->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(own_, &QToolButton::clicked, this,
+                     [this] { Act([this] { model_.UserClick(); }); });
+}
+
+void ToolButtonView::Draw() {
+    const std::string& caption = model_.Caption();
+    own_->setText(Literal(caption.empty() ? model_.Name() : caption));
+    own_->setIcon(IconFor(model_.Name(), own_->palette()));
+}
+
+ToolbarView::ToolbarView(FormWindow& window, ui::Toolbar& toolbar)
+    : ViewOf(window, toolbar, new QToolBar(&window)) {
+    own_->setMovable(false);
+    own_->setIconSize({28, 28});
+}
+
+} // namespace vexora::qt

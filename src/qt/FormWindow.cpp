@@ -1,0 +1,173 @@
+#include "qt/FormWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTimer>
+
+#include "qt/Keys.h"
+#include "qt/Text.h"
+#include "qt/Windows.h"
+
+namespace vexora::qt {
+
+FormWindow::FormWindow(Windows& windows, ui::Form& form, QWidget* parent)
+    : QMainWindow(parent, parent ? Qt::Dialog : Qt::Window), windows_(windows), form_(form),
+      builder_(*this) {
+    setObjectName(ToQt(form.Name()));
+    setWindowTitle(ToQt(form.Caption()));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    MakeViews();
+    MakeMenus();
+    MakeToolbars();
+    Arrange();
+    for (const auto& view : views_)
+        view->Refresh();
+    builder_.Follow();
+    TakeFirstSize();
+    Listen();
+}
+
+FormWindow::~FormWindow() {
+    detached_ = true; // the widgets go now and must not report losing the focus
+}
+
+void FormWindow::MakeViews() {
+    for (ui::Control* control : form_.Controls()) {
+        auto view = MakeView(*this, *control);
+        if (!view) continue;
+        byControl_[control] = view.get();
+        views_.push_back(std::move(view));
+    }
+}
+
+void FormWindow::Arrange() {
+    QWidget* content = builder_.Build(form_);
+    const QSize room = screen()->availableSize();
+    const QSize needed = content->minimumSizeHint();
+    const bool tooBig = needed.width() > room.width() || needed.height() > room.height() - 60;
+    if (!tooBig || QGuiApplication::platformName() == "offscreen") {
+        setCentralWidget(content);
+        return;
+    }
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(content);
+    setCentralWidget(scroll);
+}
+
+void FormWindow::TakeFirstSize() {
+    const QFontMetrics metrics(font());
+    QSize size = sizeHint().expandedTo(minimumSizeHint());
+    if (form_.PreferredColumns > 0) {
+        size.setWidth(std::max(size.width(), metrics.averageCharWidth() * form_.PreferredColumns));
+    }
+    if (form_.PreferredRows > 0) {
+        size.setHeight(std::max(size.height(), metrics.lineSpacing() * form_.PreferredRows));
+    }
+    if (QGuiApplication::platformName() != "offscreen") {
+        size = size.boundedTo(screen()->availableSize() - QSize(20, 60));
+    }
+    resize(size);
+}
+
+// Only weak references: the form may outlive the window and the other way round.
+void FormWindow::Listen() {
+    const QPointer<FormWindow> self(this);
+    form_.CaptionChanged.Connect([self] {
+        if (self && !self->detached_) self->setWindowTitle(ToQt(self->form_.Caption()));
+    });
+    form_.FocusChanged.Connect([self] {
+        if (self && !self->detached_) self->FollowFocus();
+    });
+}
+
+View* FormWindow::ViewFor(const ui::Control& control) const {
+    const auto found = byControl_.find(&control);
+    return found == byControl_.end() ? nullptr : found->second;
+}
+
+void FormWindow::FollowFocus() {
+    const ui::Control* active = form_.ActiveControl();
+    View* view = active ? ViewFor(*active) : nullptr;
+    if (!view || !view->Widget()) return;
+    if (!view->Widget()->hasFocus()) {
+        Flush();
+        view->Widget()->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void FormWindow::MarkDirty(View& view) {
+    if (detached_) return;
+    dirty_.emplace_back(&view);
+    Schedule();
+}
+
+void FormWindow::Schedule() {
+    if (scheduled_) return;
+    scheduled_ = true;
+    QTimer::singleShot(0, this, [this] { Flush(); });
+}
+
+void FormWindow::Flush() {
+    scheduled_ = false;
+    if (detached_ || dirty_.empty()) return;
+    auto dirty = std::move(dirty_);
+    dirty_.clear();
+    bool framesChanged = false;
+    std::unordered_set<View*> done;
+    for (const auto& view : dirty) {
+        if (!view || !done.insert(view.data()).second) continue;
+        view->Refresh();
+        framesChanged = framesChanged || view->Model().Kind() == ui::ControlKind::Frame;
+    }
+    if (framesChanged) {
+        for (const auto& view : views_) {
+            if (view->Model().Container()) view->Refresh();
+        }
+    }
+    builder_.Follow();
+}
+
+void FormWindow::Detach() {
+    detached_ = true;
+    dirty_.clear();
+}
+
+void FormWindow::Perform(const std::function<void()>& action) {
+    if (detached_) return;
+    try {
+        action();
+    } catch (...) {
+        if (!windows_.OnFault) throw;
+        windows_.OnFault(std::current_exception());
+    }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    if (detached_) return;
+    event->ignore();
+    Perform([this] { form_.UserClose(); });
+}
+
+// Keys that no control has: of an empty form, or while nothing has the focus.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    for (const auto& view : views_) {
+        if (detached_ || (view->Widget() && view->Widget()->hasFocus())) return;
+    }
+    const ui::Key key = KeyOf(*event);
+    if (!key.name.empty()) Perform([this, &key] { form_.UserKey(key); });
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || detached_) return;
+    for (const auto& view : views_)
+        MarkDirty(*view);
+}
+
+} // namespace vexora::qt

@@ -1,0 +1,216 @@
+#include "qt/GridView.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+#include "qt/FormWindow.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+namespace {
+
+/// The editor of a cell keeps Enter, which else would go on to the default button of the form.
+class CellEditor : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QLineEdit::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
+    }
+};
+
+class CellDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                          const QModelIndex&) const override {
+        auto* editor = new CellEditor(parent);
+        editor->setFrame(false);
+        return editor;
+    }
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        static_cast<CellEditor*>(editor)->setText(index.data(Qt::EditRole).toString());
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override {
+        model->setData(index, static_cast<CellEditor*>(editor)->text(), Qt::EditRole);
+    }
+};
+
+} // namespace
+
+GridModel::GridModel(GridView& view, ui::Grid& grid) : view_(view), grid_(grid) {
+    rows_ = grid.Rows();
+    columns_ = grid.Columns();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(rows_ - grid_.FixedRows(), 0);
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(columns_ - grid_.FixedColumns(), 0);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+    return ToQt(grid_.Cell(index.row() + grid_.FixedRows(), index.column() + grid_.FixedColumns()));
+}
+
+// Several fixed rows stand as several lines in the header, several fixed columns side by side.
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    QStringList texts;
+    if (orientation == Qt::Horizontal) {
+        for (int row = 0; row < grid_.FixedRows(); ++row)
+            texts << ToQt(grid_.Cell(row, section + grid_.FixedColumns()));
+        return texts.join('\n');
+    }
+    for (int column = 0; column < grid_.FixedColumns(); ++column)
+        texts << ToQt(grid_.Cell(section + grid_.FixedRows(), column));
+    return texts.join(QStringLiteral("  "));
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return grid_.IsEditable() ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole) return false;
+    view_.Edit(index.row() + grid_.FixedRows(), index.column() + grid_.FixedColumns(),
+               FromQt(value.toString()));
+    return true;
+}
+
+bool GridModel::SizeChanged() const {
+    return rows_ != grid_.Rows() || columns_ != grid_.Columns();
+}
+
+void GridModel::CellChanged(int row, int column) {
+    if (row < 0 || SizeChanged()) {
+        beginResetModel();
+        rows_ = grid_.Rows();
+        columns_ = grid_.Columns();
+        endResetModel();
+    } else if (row < grid_.FixedRows()) {
+        const int section = column - grid_.FixedColumns();
+        if (section >= 0) emit headerDataChanged(Qt::Horizontal, section, section);
+    } else if (column < grid_.FixedColumns()) {
+        const int section = row - grid_.FixedRows();
+        emit headerDataChanged(Qt::Vertical, section, section);
+    } else {
+        const QModelIndex at = index(row - grid_.FixedRows(), column - grid_.FixedColumns());
+        emit dataChanged(at, at);
+    }
+}
+
+GridView::GridView(FormWindow& window, ui::Grid& grid)
+    : ViewOf(window, grid, new QTableView(&window)), cells_(*this, grid) {
+    Watch(own_->viewport());
+    own_->setModel(&cells_);
+    own_->setItemDelegate(new CellDelegate(own_));
+    own_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    own_->setTabKeyNavigation(false);
+    own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
+    own_->verticalHeader()->setVisible(grid.FixedColumns() > 0);
+    own_->horizontalHeader()->setResizeContentsPrecision(50);
+    own_->horizontalHeader()->setDefaultSectionSize(own_->fontMetrics().averageCharWidth() * 14);
+    own_->verticalHeader()->setDefaultSectionSize(own_->fontMetrics().height() + 8);
+    own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 8);
+    own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 40);
+    grid.CellChanged.Connect([self = QPointer<GridView>(this)](int row, int column) {
+        if (!self || self->Window().IsDetached()) return;
+        self->cells_.CellChanged(row, column);
+        if (row < 0 || row < self->model_.FixedRows()) self->fitted_ = false;
+        self->Window().MarkDirty(*self);
+    });
+    QObject::connect(own_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                     [this] { HandOverSelection(); });
+}
+
+bool GridView::Wants(const ui::Key& key) const {
+    const std::string name = key.FullName();
+    return key.name == "Left" || key.name == "Right" || key.name == "Up" || key.name == "Down" ||
+           key.name == "Home" || key.name == "End" || key.name.starts_with("Page") ||
+           name == "F2" || name == "Ctrl+A" || key.character >= U' ';
+}
+
+QModelIndex GridView::IndexOf(int row, int column) const {
+    return cells_.index(row - model_.FixedRows(), column - model_.FixedColumns());
+}
+
+void GridView::Edit(int row, int column, const std::string& text) {
+    Act([&] { model_.UserCell(row, column, text); });
+}
+
+bool GridView::SelectAsDragged(const ui::Grid::Block& block) {
+    const QModelIndex first = IndexOf(block.top, block.left);
+    const QModelIndex last = IndexOf(block.bottom, block.right);
+    if (!first.isValid() || !last.isValid()) return false;
+    own_->setCurrentIndex(first);
+    own_->selectionModel()->select({first, last}, QItemSelectionModel::ClearAndSelect);
+    return true;
+}
+
+void GridView::HandOverSelection() {
+    if (IsDrawing()) return;
+    const QItemSelection selection = own_->selectionModel()->selection();
+    if (selection.isEmpty()) return;
+    QRect all;
+    for (const QItemSelectionRange& range : selection) {
+        all |= QRect(QPoint(range.left(), range.top()), QPoint(range.right(), range.bottom()));
+    }
+    const int rows = model_.FixedRows();
+    const int columns = model_.FixedColumns();
+    Act([&] {
+        model_.UserSelect(
+            {all.top() + rows, all.left() + columns, all.bottom() + rows, all.right() + columns});
+    });
+}
+
+void GridView::Draw() {
+    if (!fitted_) FitColumns();
+    const ui::Grid::Block& block = model_.Selection();
+    const QModelIndex first = IndexOf(std::max(block.top, model_.FixedRows()),
+                                      std::max(block.left, model_.FixedColumns()));
+    const QModelIndex last = IndexOf(block.bottom, block.right);
+    if (!first.isValid() || !last.isValid()) return;
+    const QItemSelection wanted(first, last);
+    auto* selection = own_->selectionModel();
+    if (selection->selection().size() == 1 && selection->selection().front() == wanted.front()) {
+        return;
+    }
+    selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selection->select(wanted, QItemSelectionModel::ClearAndSelect);
+}
+
+// Never narrower than a number, never wider than a third of a page.
+void GridView::FitColumns() {
+    fitted_ = true;
+    own_->resizeColumnsToContents();
+    const int character = own_->fontMetrics().averageCharWidth();
+    for (int i = 0; i < cells_.columnCount(); ++i) {
+        own_->setColumnWidth(i, std::clamp(own_->columnWidth(i), character * 12, character * 40));
+    }
+}
+
+bool GridView::MouseEvent(QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) Act([this] { model_.SetFocus(); });
+    if (event.type() == QEvent::MouseButtonRelease && model_.OnClick) {
+        Act([this] { model_.UserClick(); });
+    }
+    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
+    Act([this] { model_.UserDoubleClick(); });
+    return true;
+}
+
+} // namespace vexora::qt

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+#include <QIcon>
+#include <QPalette>
+
+namespace vexora::qt {
+
+/// A picture for a tool button, drawn from simple shapes in the colours of the palette: the key of
+/// the button picks the shape, a key without one gets a tile with its first letter.
+QIcon IconFor(std::string_view key, const QPalette& palette);
+
+} // namespace vexora::qt

@@ -1,0 +1,301 @@
+#include "qt/LayoutBuilder.h"
+
+#include <algorithm>
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QSplitter>
+#include <QStackedWidget>
+
+#include "qt/FormWindow.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+using ui::ControlKind;
+using Kind = ui::Layout::Kind;
+
+namespace {
+
+void Gather(const ui::Layout& layout, std::vector<const ui::Control*>& controls) {
+    if (layout.control) controls.push_back(layout.control);
+    for (const ui::Layout& part : layout.parts)
+        Gather(part, controls);
+}
+
+bool IsToggle(const ui::Layout& layout) {
+    return layout.kind == Kind::Item && (layout.control->Kind() == ControlKind::CheckBox ||
+                                         layout.control->Kind() == ControlKind::OptionButton);
+}
+
+bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
+    return std::any_of(layout.parts.begin(), layout.parts.end(), test);
+}
+
+bool ItemGrowsDown(const ui::Control& control) {
+    switch (control.Kind()) {
+    case ControlKind::ListBox:
+    case ControlKind::Grid:
+    case ControlKind::TreeView:
+    case ControlKind::Picture:
+    case ControlKind::RichText:
+        return true;
+    case ControlKind::TextBox:
+        return static_cast<const ui::TextBox&>(control).IsMultiLine();
+    default:
+        return false;
+    }
+}
+
+bool ItemGrowsAcross(const ui::Control& control) {
+    return ItemGrowsDown(control) || control.Kind() == ControlKind::TextBox ||
+           control.Kind() == ControlKind::ComboBox;
+}
+
+template <class TLayout>
+TLayout* Bare(QWidget* owner) {
+    auto* layout = new TLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return layout;
+}
+
+} // namespace
+
+bool GrowsDown(const ui::Layout& layout) {
+    if (layout.kind == Kind::Item) return ItemGrowsDown(*layout.control);
+    return layout.kind == Kind::Stretch || layout.kind == Kind::Split || AnyPart(layout, GrowsDown);
+}
+
+bool GrowsAcross(const ui::Layout& layout) {
+    if (layout.kind == Kind::Item) return ItemGrowsAcross(*layout.control);
+    return layout.kind == Kind::Stretch || layout.kind == Kind::Split ||
+           layout.kind == Kind::Pages || layout.kind == Kind::Note || AnyPart(layout, GrowsAcross);
+}
+
+QWidget* LayoutBuilder::Build(const ui::Form& form) {
+    const ui::Layout& wanted = form.Arrangement;
+    QWidget* made = nullptr;
+    const bool empty = wanted.kind == Kind::Column && wanted.parts.empty();
+    if (!empty) made = Make(wanted);
+    std::vector<ui::Layout> rest;
+    Leftovers(form, rest);
+    auto* content = new QWidget(&window_);
+    auto* column = new QVBoxLayout(content);
+    if (made) column->addWidget(made, 1);
+    if (!rest.empty()) column->addWidget(MakeColumn(rest), empty ? 1 : 0);
+    return content;
+}
+
+// A control that the layout forgot still has to be within reach.
+void LayoutBuilder::Leftovers(const ui::Form& form, std::vector<ui::Layout>& parts) const {
+    std::vector<ui::Layout> buttons;
+    for (ui::Control* control : form.Controls()) {
+        const ControlKind kind = control->Kind();
+        const bool inBars = kind == ControlKind::MenuItem || kind == ControlKind::Toolbar ||
+                            kind == ControlKind::ToolButton;
+        if (inBars || placed_.contains(control)) continue;
+        (kind == ControlKind::CommandButton ? buttons : parts).emplace_back(*control);
+    }
+    if (!buttons.empty()) parts.push_back(ui::ButtonRow(std::move(buttons)));
+}
+
+QWidget* LayoutBuilder::Make(const ui::Layout& layout) {
+    switch (layout.kind) {
+    case Kind::Column:
+        return MakeColumn(layout.parts);
+    case Kind::Row:
+        return MakeRow(layout.parts);
+    case Kind::Group:
+        return MakeGroup(layout);
+    case Kind::Field:
+        return MakeLoneField(layout);
+    case Kind::Item:
+        return MakeItem(*layout.control);
+    case Kind::Pages:
+        return MakePages(layout);
+    case Kind::Split:
+        return MakeSplit(layout);
+    case Kind::Buttons:
+        return MakeButtons(layout);
+    case Kind::Note:
+        return MakeNote(layout);
+    case Kind::Stretch:
+        break;
+    }
+    auto* room = new QWidget(&window_);
+    room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    return room;
+}
+
+QWidget* LayoutBuilder::MakeItem(ui::Control& control) {
+    View* view = window_.ViewFor(control);
+    const bool isBar = control.Kind() == ControlKind::Toolbar;
+    if (!view || isBar || !placed_.insert(&control).second) return new QWidget(&window_);
+    return view->Widget();
+}
+
+QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
+    auto* owner = new QWidget(&window_);
+    auto* grid = Bare<QGridLayout>(owner);
+    grid->setColumnStretch(1, 1);
+    const bool hasFields = std::any_of(parts.begin(), parts.end(), [](const ui::Layout& part) {
+        return part.kind == Kind::Field;
+    });
+    int row = 0;
+    bool grows = false;
+    bool loose = false; // the room left over stands above a closing button row
+    for (const ui::Layout& part : parts) {
+        const bool last = &part == &parts.back();
+        if (last && !grows && part.kind == Kind::Buttons) {
+            grid->setRowStretch(row++, 1);
+            loose = true;
+        }
+        AddToColumn(*grid, row, part, hasFields);
+        if (GrowsDown(part)) grid->setRowStretch(row, 1);
+        grows = grows || GrowsDown(part);
+        ++row;
+    }
+    if (!grows && !loose) grid->setRowStretch(row, 1);
+    return owner;
+}
+
+void LayoutBuilder::AddToColumn(QGridLayout& grid, int row, const ui::Layout& part,
+                                bool hasFields) {
+    if (part.kind == Kind::Field) return AddField(grid, row, part);
+    const bool indented = hasFields && IsToggle(part);
+    QWidget* widget = Make(part);
+    const bool narrow = part.kind == Kind::Item && !GrowsAcross(part) &&
+                        part.control->Kind() != ControlKind::Label &&
+                        part.control->Kind() != ControlKind::TabStrip;
+    const Qt::Alignment side = narrow ? Qt::AlignLeft : Qt::Alignment();
+    grid.addWidget(widget, row, indented ? 1 : 0, 1, indented ? 1 : 2, side);
+}
+
+void LayoutBuilder::AddField(QGridLayout& grid, int row, const ui::Layout& part) {
+    QWidget* widget = Make(part.parts.front());
+    QWidget* label = LabelOf(part, widget);
+    const bool tall = GrowsDown(part);
+    grid.addWidget(label, row, 0, Qt::AlignRight | (tall ? Qt::AlignTop : Qt::AlignVCenter));
+    grid.addWidget(widget, row, 1, GrowsAcross(part) ? Qt::Alignment() : Qt::AlignLeft);
+}
+
+QWidget* LayoutBuilder::LabelOf(const ui::Layout& field, QWidget* part) {
+    QWidget* label = nullptr;
+    if (field.label) {
+        label = MakeItem(*field.label);
+    } else {
+        auto* plain = new QLabel(ToQt(field.text), &window_);
+        plain->setTextFormat(Qt::PlainText);
+        const auto mark = field.text.find('&');
+        const bool mnemonic = mark != std::string::npos && mark + 1 < field.text.size() &&
+                              field.text[mark + 1] != ' ';
+        if (mnemonic) plain->setBuddy(part);
+        label = plain;
+    }
+    Companion companion{label, field.label, {}};
+    Gather(field.parts.front(), companion.controls);
+    companions_.push_back(std::move(companion));
+    return label;
+}
+
+QWidget* LayoutBuilder::MakeLoneField(const ui::Layout& layout) {
+    auto* owner = new QWidget(&window_);
+    auto* row = Bare<QHBoxLayout>(owner);
+    QWidget* widget = Make(layout.parts.front());
+    const bool tall = GrowsDown(layout);
+    row->addWidget(LabelOf(layout, widget), 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+    row->addWidget(widget, 1, GrowsAcross(layout) ? Qt::Alignment() : Qt::AlignLeft);
+    return owner;
+}
+
+QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
+    auto* owner = new QWidget(&window_);
+    auto* row = Bare<QHBoxLayout>(owner);
+    bool grows = false;
+    for (const ui::Layout& part : parts) {
+        const bool wide = GrowsAcross(part);
+        const bool block = part.kind == Kind::Column || part.kind == Kind::Group || GrowsDown(part);
+        row->addWidget(Make(part), wide ? 1 : 0, block ? Qt::Alignment() : Qt::AlignVCenter);
+        grows = grows || wide;
+    }
+    if (!grows) row->addStretch(1);
+    return owner;
+}
+
+QWidget* LayoutBuilder::MakeGroup(const ui::Layout& layout) {
+    QGroupBox* box = nullptr;
+    if (layout.control) {
+        box = qobject_cast<QGroupBox*>(MakeItem(*layout.control));
+    } else {
+        box = new QGroupBox(Literal(layout.text), &window_);
+        Companion companion{box, nullptr, {}};
+        Gather(layout, companion.controls);
+        companions_.push_back(std::move(companion));
+    }
+    if (!box) return MakeColumn(layout.parts);
+    auto* inside = new QVBoxLayout(box);
+    inside->addWidget(MakeColumn(layout.parts));
+    return box;
+}
+
+QWidget* LayoutBuilder::MakePages(const ui::Layout& layout) {
+    auto* owner = new QWidget(&window_);
+    auto* column = Bare<QVBoxLayout>(owner);
+    column->setSpacing(0);
+    column->addWidget(MakeItem(*layout.control));
+    auto* frame = new QFrame(owner);
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* inside = new QVBoxLayout(frame);
+    auto* stack = new QStackedWidget(frame);
+    for (const ui::Layout& page : layout.parts)
+        stack->addWidget(Make(page));
+    inside->addWidget(stack);
+    column->addWidget(frame, 1);
+    books_.push_back({static_cast<const ui::TabStrip*>(layout.control), stack});
+    return owner;
+}
+
+QWidget* LayoutBuilder::MakeSplit(const ui::Layout& layout) {
+    auto* splitter = new QSplitter(Qt::Horizontal, &window_);
+    splitter->setChildrenCollapsible(false);
+    for (const ui::Layout& part : layout.parts)
+        splitter->addWidget(Make(part));
+    splitter->setStretchFactor(0, 2);
+    splitter->setStretchFactor(1, 3);
+    return splitter;
+}
+
+QWidget* LayoutBuilder::MakeButtons(const ui::Layout& layout) {
+    auto* owner = new QWidget(&window_);
+    auto* row = Bare<QHBoxLayout>(owner);
+    row->setContentsMargins(0, 6, 0, 0);
+    row->addStretch(1);
+    for (const ui::Layout& part : layout.parts)
+        row->addWidget(Make(part));
+    return owner;
+}
+
+QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
+    auto* note = new QLabel(ToQt(layout.text), &window_);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    return note;
+}
+
+void LayoutBuilder::Follow() {
+    for (const Companion& companion : companions_) {
+        const auto& of = companion.controls;
+        const bool any = of.empty() || std::any_of(of.begin(), of.end(), [](const auto* control) {
+                             return control->Visible();
+                         });
+        const bool shown = any && (companion.own == nullptr || companion.own->Visible());
+        if (companion.widget->isHidden() == shown) companion.widget->setVisible(shown);
+    }
+    for (const Book& book : books_)
+        book.stack->setCurrentIndex(std::max(book.tabs->Index(), 0));
+}
+
+} // namespace vexora::qt

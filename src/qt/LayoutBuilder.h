@@ -1,0 +1,66 @@
+#pragma once
+
+#include <unordered_set>
+#include <vector>
+
+#include <QWidget>
+
+#include "ui/Form.h"
+#include "ui/Layout.h"
+
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+class QStackedWidget;
+
+namespace vexora::qt {
+
+class FormWindow;
+
+/// Turns the layout tree of a form into widgets: fields with a common label edge, groups, pages,
+/// the button row at the lower right. Labels and plain groups show while something in them shows.
+class LayoutBuilder {
+public:
+    explicit LayoutBuilder(FormWindow& window) : window_(window) {}
+
+    QWidget* Build(const ui::Form& form);
+    /// Hides labels, notes and groups that have lost all they stood for, and turns the pages.
+    void Follow();
+
+private:
+    struct Companion {
+        QWidget* widget;
+        const ui::Control* own; // its own control, which must be visible too, or null
+        std::vector<const ui::Control*> controls;
+    };
+    struct Book {
+        const ui::TabStrip* tabs;
+        QStackedWidget* stack;
+    };
+
+    QWidget* Make(const ui::Layout& layout);
+    QWidget* MakeColumn(const std::vector<ui::Layout>& parts);
+    void AddToColumn(QGridLayout& grid, int row, const ui::Layout& part, bool hasFields);
+    void AddField(QGridLayout& grid, int row, const ui::Layout& part);
+    QWidget* MakeRow(const std::vector<ui::Layout>& parts);
+    QWidget* MakeGroup(const ui::Layout& layout);
+    QWidget* MakeLoneField(const ui::Layout& layout);
+    QWidget* MakePages(const ui::Layout& layout);
+    QWidget* MakeSplit(const ui::Layout& layout);
+    QWidget* MakeButtons(const ui::Layout& layout);
+    QWidget* MakeNote(const ui::Layout& layout);
+    QWidget* MakeItem(ui::Control& control);
+    QWidget* LabelOf(const ui::Layout& field, QWidget* part);
+    void Leftovers(const ui::Form& form, std::vector<ui::Layout>& parts) const;
+
+    FormWindow& window_;
+    std::unordered_set<const ui::Control*> placed_;
+    std::vector<Companion> companions_;
+    std::vector<Book> books_;
+};
+
+/// True when the part can use more height (or width) than its content asks for.
+bool GrowsDown(const ui::Layout& layout);
+bool GrowsAcross(const ui::Layout& layout);
+
+} // namespace vexora::qt

@@ -1,0 +1,227 @@
+#include "qt/ListViews.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionViewItem>
+
+#include "qt/FormWindow.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+void DropBox::showPopup() {
+    QPointer<DropBox> self(this);
+    if (OnPopup) OnPopup();
+    if (self && self->isEnabled() && self->isVisible()) QComboBox::showPopup();
+}
+
+ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
+    : ViewOf(window, combo, new DropBox(&window)) {
+    own_->setEditable(combo.IsEditable());
+    own_->setInsertPolicy(QComboBox::NoInsert);
+    own_->setMaxVisibleItems(20);
+    own_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    own_->setMinimumContentsLength(12);
+    own_->setFocusPolicy(Qt::StrongFocus); // the wheel must not change a value in passing
+    own_->OnPopup = [this] {
+        Act([this] { model_.UserDropDown(); });
+        Refresh();
+    };
+    QObject::connect(own_, &QComboBox::activated, this, [this](int index) {
+        QPointer<ComboView> self(this);
+        Act([this, index] { model_.UserChoose(index); });
+        if (self) self->Refresh();
+    });
+    if (!combo.IsEditable()) return;
+    own_->setCompleter(nullptr);
+    QObject::connect(own_, &QComboBox::editTextChanged, this, [this](const QString& text) {
+        if (IsDrawing() || text == ToQt(model_.Text())) return;
+        // Picked from the list: that comes by another signal.
+        const int row = own_->currentIndex();
+        if (row >= 0 && row != model_.Index() && own_->itemText(row) == text) return;
+        QPointer<ComboView> self(this);
+        Act([this, &text] { model_.UserEdited(FromQt(text)); });
+        if (self) self->Refresh();
+    });
+}
+
+bool ComboView::Wants(const ui::Key& key) const {
+    const std::string name = key.FullName();
+    if (name == "F4" || name == "Alt+Down" || name == "Alt+Up") return true;
+    if (key.character >= U' ') return true;
+    return model_.IsEditable() &&
+           (key.name == "Backspace" || key.name == "Delete" || key.name == "Left" ||
+            key.name == "Right" || key.name == "Home" || key.name == "End" || name == "Ctrl+A" ||
+            name == "Ctrl+C" || name == "Ctrl+V" || name == "Ctrl+X" || name == "Ctrl+Z");
+}
+
+void ComboView::Draw() {
+    if (shown_ != model_.Items()) {
+        shown_ = model_.Items();
+        QStringList texts;
+        for (const std::string& item : shown_)
+            texts << ToQt(item);
+        own_->clear();
+        own_->addItems(texts);
+    }
+    if (own_->currentIndex() != model_.Index()) own_->setCurrentIndex(model_.Index());
+    const QString text = ToQt(model_.Text());
+    if (model_.IsEditable() && own_->currentText() != text) own_->setEditText(text);
+}
+
+QSize KeyedList::sizeHint() const {
+    const QFontMetrics metrics = fontMetrics();
+    const int wide = std::clamp(sizeHintForColumn(0) + 30, metrics.averageCharWidth() * 24,
+                                metrics.averageCharWidth() * 60);
+    return {wide, metrics.lineSpacing() * 8};
+}
+
+void KeyedList::keyPressEvent(QKeyEvent* event) {
+    QPointer<KeyedList> self(this);
+    QListWidget::keyPressEvent(event);
+    if (self && OnKeyDone) OnKeyDone();
+}
+
+ListView::ListView(FormWindow& window, ui::ListBox& list)
+    : ViewOf(window, list, new KeyedList(&window)) {
+    Watch(own_->viewport());
+    own_->setUniformItemSizes(true);
+    own_->setSelectionMode(list.SelectionMode() == ui::ListBox::Mode::Multi
+                               ? QAbstractItemView::MultiSelection
+                               : QAbstractItemView::SingleSelection);
+    own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 4);
+    if (HasChecks()) {
+        QObject::connect(own_, &QListWidget::itemChanged, this, [this] { HandOver(); });
+    } else if (!IsSingle()) {
+        QObject::connect(own_, &QListWidget::itemSelectionChanged, this, [this] { HandOver(); });
+    } else {
+        QObject::connect(own_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+            const int row = own_->row(item);
+            Act([this, row] { model_.UserChoose(row); });
+        });
+        own_->OnKeyDone = [this] {
+            const int row = own_->currentRow();
+            if (row >= 0 && row != model_.Index()) Act([this, row] { model_.UserChoose(row); });
+        };
+    }
+}
+
+bool ListView::Wants(const ui::Key& key) const {
+    return key.name.starts_with("Page") || key.name == "Home" || key.name == "End" ||
+           key.character >= U' ' || (!IsSingle() && (key.name == "Up" || key.name == "Down"));
+}
+
+QRect ListView::EntryRect(int index) const {
+    QListWidgetItem* item = own_->item(index);
+    if (!item) return {};
+    own_->scrollToItem(item);
+    return own_->visualItemRect(item);
+}
+
+QPoint ListView::CheckPoint(int index) const {
+    const QRect entry = EntryRect(index);
+    QStyleOptionViewItem option;
+    option.initFrom(own_);
+    option.rect = entry;
+    option.features = QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDisplay;
+    option.widget = own_;
+    return own_->style()
+        ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, own_)
+        .center();
+}
+
+bool ListView::IsOn(int index) const {
+    const QListWidgetItem* item = own_->item(index);
+    return HasChecks() ? item->checkState() == Qt::Checked : item->isSelected();
+}
+
+void ListView::HandOver() {
+    if (IsDrawing()) return;
+    QPointer<ListView> self(this);
+    Act([this] {
+        for (int i = 0; i < model_.Count() && i < own_->count(); ++i) {
+            const bool on = IsOn(i);
+            if (on != model_.Selected(i)) return model_.UserSelect(i, on);
+        }
+    });
+    if (self) self->Refresh();
+}
+
+void ListView::Fill() {
+    shown_ = model_.Items();
+    own_->clear();
+    for (const std::string& text : shown_) {
+        auto* item = new QListWidgetItem(ToQt(text), own_);
+        if (!HasChecks()) continue;
+        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        item->setCheckState(Qt::Unchecked);
+    }
+    own_->updateGeometry();
+}
+
+void ListView::Draw() {
+    if (shown_ != model_.Items()) Fill();
+    if (IsSingle()) {
+        if (own_->currentRow() != model_.Index()) own_->setCurrentRow(model_.Index());
+        return;
+    }
+    for (int i = 0; i < own_->count(); ++i) {
+        const bool on = model_.Selected(i);
+        if (IsOn(i) == on) continue;
+        if (HasChecks())
+            own_->item(i)->setCheckState(on ? Qt::Checked : Qt::Unchecked);
+        else
+            own_->item(i)->setSelected(on);
+    }
+}
+
+bool ListView::MouseEvent(QEvent& event) {
+    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
+    Act([this] { model_.UserDoubleClick(); });
+    return true;
+}
+
+void PageBar::keyPressEvent(QKeyEvent* event) {
+    QPointer<PageBar> self(this);
+    QTabBar::keyPressEvent(event);
+    if (self && OnKeyDone) OnKeyDone();
+}
+
+TabView::TabView(FormWindow& window, ui::TabStrip& tabs)
+    : ViewOf(window, tabs, new PageBar(&window)) {
+    own_->setExpanding(false);
+    own_->setDrawBase(false);
+    own_->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(own_, &QTabBar::tabBarClicked, this,
+                     [this](int index) { Act([this, index] { model_.UserChoose(index); }); });
+    QObject::connect(own_, &QTabBar::currentChanged, this, [this] {
+        if (!IsDrawing())
+            QMetaObject::invokeMethod(
+                this, [this] { Refresh(); }, Qt::QueuedConnection);
+    });
+    own_->OnKeyDone = [this] {
+        const int index = own_->currentIndex();
+        if (index != model_.Index()) Act([this, index] { model_.UserChoose(index); });
+    };
+}
+
+bool TabView::Wants(const ui::Key& key) const {
+    return key.name == "Left" || key.name == "Right" || key.name == "Home" || key.name == "End";
+}
+
+void TabView::Draw() {
+    while (own_->count() > model_.Count())
+        own_->removeTab(own_->count() - 1);
+    for (int i = 0; i < model_.Count(); ++i) {
+        const QString text = Literal(model_.Item(i));
+        if (i >= own_->count())
+            own_->addTab(text);
+        else if (own_->tabText(i) != text)
+            own_->setTabText(i, text);
+    }
+    const int page = std::max(model_.Index(), 0);
+    if (own_->currentIndex() != page) own_->setCurrentIndex(page);
+}
+
+} // namespace vexora::qt

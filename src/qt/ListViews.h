@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QTabBar>
+
+#include "qt/View.h"
+
+namespace vexora::qt {
+
+/// A combo box that tells its view before it drops down, so that the form can fill it.
+class DropBox : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+    std::function<void()> OnPopup;
+    void showPopup() override;
+};
+
+class ComboView : public ViewOf<ui::ComboBox, DropBox> {
+public:
+    ComboView(FormWindow& window, ui::ComboBox& combo);
+    bool Wants(const ui::Key& key) const override;
+
+protected:
+    void Draw() override;
+
+private:
+    std::vector<std::string> shown_;
+};
+
+/// A list that knows whether its current entry moves by the keyboard.
+class KeyedList : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+    std::function<void()> OnKeyDone;
+    QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+class ListView : public ViewOf<ui::ListBox, KeyedList> {
+public:
+    ListView(FormWindow& window, ui::ListBox& list);
+    QWidget* ClickTarget() const override { return own_->viewport(); }
+    bool Wants(const ui::Key& key) const override;
+    /// Where the entry stands, scrolled into sight, and the middle of its check mark.
+    QRect EntryRect(int index) const;
+    QPoint CheckPoint(int index) const;
+
+protected:
+    void Draw() override;
+    bool MouseEvent(QEvent& event) override;
+
+private:
+    bool IsSingle() const { return model_.SelectionMode() == ui::ListBox::Mode::Single; }
+    bool HasChecks() const { return model_.SelectionMode() == ui::ListBox::Mode::Check; }
+    bool IsOn(int index) const;
+    void Fill();
+    void HandOver();
+
+    std::vector<std::string> shown_;
+};
+
+class PageBar : public QTabBar {
+public:
+    using QTabBar::QTabBar;
+    std::function<void()> OnKeyDone;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+class TabView : public ViewOf<ui::TabStrip, PageBar> {
+public:
+    TabView(FormWindow& window, ui::TabStrip& tabs);
+    bool Wants(const ui::Key& key) const override;
+
+protected:
+    void Draw() override;
+};
+
+} // namespace vexora::qt

@@ -1,0 +1,42 @@
+#include "qt/Look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+
+namespace vexora::qt {
+
+namespace {
+
+QPalette Palette(bool dark) {
+    const QColor window = dark ? QColor(0x2B, 0x2D, 0x30) : QColor(0xF3, 0xF3, 0xF3);
+    const QColor button = dark ? QColor(0x3A, 0x3D, 0x41) : QColor(0xF8, 0xF8, 0xF8);
+    const QColor base = dark ? QColor(0x1F, 0x20, 0x22) : QColor(0xFF, 0xFF, 0xFF);
+    const QColor text = dark ? QColor(0xE6, 0xE6, 0xE6) : QColor(0x1B, 0x1B, 0x1B);
+    const QColor faint = dark ? QColor(0x8C, 0x8C, 0x8C) : QColor(0x8A, 0x8A, 0x8A);
+    const QColor accent = dark ? QColor(0x3D, 0x7E, 0xC4) : QColor(0x2F, 0x6F, 0xB5);
+    QPalette palette(button, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, dark ? accent.lighter(150) : accent);
+    palette.setColor(QPalette::PlaceholderText, faint);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    return palette;
+}
+
+} // namespace
+
+void TakeLook(const std::string& look) {
+    if (look != "dark" && look != "light") return;
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(Palette(look == "dark"));
+}
+
+} // namespace vexora::qt

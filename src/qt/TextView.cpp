@@ -1,0 +1,162 @@
+#include "qt/TextView.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include <QEvent>
+
+#include "qt/FormWindow.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+namespace {
+
+bool IsMove(const ui::Key& key, bool manyLines) {
+    const std::string& name = key.name;
+    if (name == "Left" || name == "Right" || name == "Home" || name == "End") return true;
+    return manyLines && (name == "Up" || name == "Down" || name.starts_with("Page"));
+}
+
+bool IsClipboard(const ui::Key& key) {
+    constexpr std::array names{"Ctrl+A", "Ctrl+C",       "Ctrl+X",      "Ctrl+V",      "Ctrl+Z",
+                               "Ctrl+Y", "Ctrl+Shift+Z", "Ctrl+Insert", "Shift+Insert"};
+    const std::string name = key.FullName();
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace
+
+TextView::TextView(FormWindow& window, ui::TextBox& box, QWidget* widget)
+    : View(window, box, widget), model_(box) {
+    widget->setFocusPolicy(Qt::StrongFocus);
+}
+
+QWidget* TextView::ClickTarget() const {
+    return Widget();
+}
+
+bool TextView::Wants(const ui::Key& key) const {
+    if (IsMove(key, model_.IsMultiLine()) || IsClipboard(key)) return true;
+    if (model_.Locked()) return false;
+    if (key.name == "Backspace" || key.name == "Delete") return true;
+    if (key.name == "Enter") return model_.IsMultiLine() && !key.control && !key.alt;
+    return key.character >= U' ';
+}
+
+void TextView::Draw() {
+    const QString text = ToQt(model_.Text());
+    if (WidgetText() != text) PutText(text);
+    const int start = PositionAfter(text, model_.SelectionStart());
+    const int end = PositionAfter(text, model_.Caret());
+    const bool same =
+        end > start ? WidgetSelectionStart() == start && WidgetSelectionLength() == end - start
+                    : WidgetCaret() == start && WidgetSelectionLength() == 0;
+    if (!same) PutSelection(start, end - start);
+    Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
+                                                          : Qt::IBeamCursor);
+}
+
+void TextView::Edited() {
+    if (IsDrawing()) return;
+    QPointer<TextView> self(this);
+    Act([this] {
+        const QString text = WidgetText();
+        model_.UserEdited(FromQt(text), PointsBefore(text, WidgetCaret()));
+    });
+    if (self) self->Refresh(); // a handler may have corrected what was typed
+}
+
+void TextView::Moved() {
+    if (IsDrawing() || Window().IsDetached()) return;
+    const QString text = WidgetText();
+    if (text != ToQt(model_.Text())) return; // an edit under way tells the caret itself
+    const int length = WidgetSelectionLength();
+    const int start = length > 0 ? WidgetSelectionStart() : WidgetCaret();
+    const std::size_t from = PointsBefore(text, start);
+    model_.Select(from, PointsBefore(text, start + length) - from);
+}
+
+// A field that answers to clicks does so when the button comes up.
+bool TextView::MouseEvent(QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress && !model_.OnClick) {
+        Act([this] { model_.UserClick(); });
+    } else if (event.type() == QEvent::MouseButtonRelease && model_.OnClick) {
+        if (!std::exchange(afterDouble_, false)) Act([this] { model_.UserClick(); });
+    } else if (event.type() == QEvent::MouseButtonDblClick && model_.OnDoubleClick) {
+        afterDouble_ = true;
+        Act([this] { model_.UserDoubleClick(); });
+        return true;
+    }
+    return false;
+}
+
+LineView::LineView(FormWindow& window, ui::TextBox& box)
+    : TextView(window, box, new QLineEdit(&window)), own_(static_cast<QLineEdit*>(Widget())) {
+    own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 12);
+    QObject::connect(own_, &QLineEdit::textChanged, this, [this] { Edited(); });
+    QObject::connect(own_, &QLineEdit::cursorPositionChanged, this, [this] { Moved(); });
+    QObject::connect(own_, &QLineEdit::selectionChanged, this, [this] { Moved(); });
+}
+
+void LineView::Draw() {
+    own_->setReadOnly(model_.Locked());
+    TextView::Draw();
+}
+
+int LineView::WidgetSelectionStart() const {
+    return own_->selectionStart();
+}
+
+void LineView::PutSelection(int start, int length) {
+    if (length > 0) {
+        own_->setSelection(start, length);
+    } else {
+        own_->deselect();
+        own_->setCursorPosition(start);
+    }
+}
+
+void LineView::ReplaceAll(const QString& text) {
+    own_->selectAll();
+    own_->insert(text);
+}
+
+LinesView::LinesView(FormWindow& window, ui::TextBox& box)
+    : TextView(window, box, new QPlainTextEdit(&window)),
+      own_(static_cast<QPlainTextEdit*>(Widget())) {
+    Watch(own_->viewport());
+    own_->setTabChangesFocus(true);
+    own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 4);
+    own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 28);
+    QObject::connect(own_, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
+    QObject::connect(own_, &QPlainTextEdit::cursorPositionChanged, this, [this] { Moved(); });
+    QObject::connect(own_, &QPlainTextEdit::selectionChanged, this, [this] { Moved(); });
+}
+
+void LinesView::Draw() {
+    own_->setReadOnly(model_.Locked());
+    TextView::Draw();
+}
+
+int LinesView::WidgetSelectionLength() const {
+    const QTextCursor cursor = own_->textCursor();
+    return cursor.selectionEnd() - cursor.selectionStart();
+}
+
+void LinesView::PutSelection(int start, int length) {
+    QTextCursor cursor = own_->textCursor();
+    cursor.setPosition(start);
+    cursor.setPosition(start + length, QTextCursor::KeepAnchor);
+    own_->setTextCursor(cursor);
+}
+
+void LinesView::ReplaceAll(const QString& text) {
+    QTextCursor cursor = own_->textCursor();
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(text);
+    own_->setTextCursor(cursor);
+}
+
+} // namespace vexora::qt

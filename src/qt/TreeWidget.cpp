@@ -1,0 +1,207 @@
+#include "qt/TreeWidget.h"
+
+#include <QCoreApplication>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QUrl>
+
+#include "qt/FormWindow.h"
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+namespace {
+
+constexpr int nodeRole = Qt::UserRole;
+
+QString DroppedFile(const QDropEvent& event) {
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile()) return url.toLocalFile();
+    }
+    return {};
+}
+
+} // namespace
+
+void DropTree::keyPressEvent(QKeyEvent* event) {
+    QPointer<DropTree> self(this);
+    const QTreeWidgetItem* before = currentItem();
+    QTreeWidget::keyPressEvent(event);
+    if (self && currentItem() != before && OnKeyMoved) OnKeyMoved();
+}
+
+void DropTree::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void DropTree::dragMoveEvent(QDragMoveEvent* event) {
+    if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void DropTree::dropEvent(QDropEvent* event) {
+    const QString path = DroppedFile(*event);
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    if (OnFile) OnFile(path);
+}
+
+TreeWidgetView::TreeWidgetView(FormWindow& window, ui::TreeView& tree)
+    : ViewOf(window, tree, new DropTree(&window)) {
+    Watch(own_->viewport());
+    own_->setHeaderHidden(true);
+    own_->setExpandsOnDoubleClick(false); // a double click opens the record
+    own_->setAcceptDrops(true);
+    own_->setUniformRowHeights(true);
+    own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 32);
+    own_->header()->setStretchLastSection(false);
+    own_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    Rebuild();
+    Listen();
+}
+
+void TreeWidgetView::Listen() {
+    const QPointer<TreeWidgetView> self(this);
+    model_.NodeAdded.Connect([self](ui::TreeNode* node) {
+        if (self && !self->Window().IsDetached()) self->Add(*node);
+    });
+    model_.NodeRemoved.Connect([self](ui::TreeNode* node) {
+        if (!self || self->Window().IsDetached()) return;
+        QScopedValueRollback guard(self->following_, true);
+        self->pressed_ = nullptr;
+        delete self->ItemOf(*node);
+        self->Forget(*node);
+    });
+    model_.NodeChanged.Connect([self](ui::TreeNode* node) {
+        if (!self || self->Window().IsDetached()) return;
+        if (node)
+            self->DrawNode(*node);
+        else
+            self->Rebuild();
+    });
+    own_->OnFile = [this](const QString& path) {
+        Act([this, &path] { model_.UserDrop(FromQt(path)); });
+    };
+    own_->OnKeyMoved = [this] {
+        ui::TreeNode* node = NodeOf(own_->currentItem());
+        if (node && node != model_.SelectedNode()) {
+            Act([this, node] { model_.UserNodeReached(*node); });
+        }
+    };
+    QObject::connect(own_, &QTreeWidget::itemExpanded, this,
+                     [this](QTreeWidgetItem* item) { Expanded(item, true); });
+    QObject::connect(own_, &QTreeWidget::itemCollapsed, this,
+                     [this](QTreeWidgetItem* item) { Expanded(item, false); });
+}
+
+bool TreeWidgetView::Wants(const ui::Key& key) const {
+    if (key.control || key.alt) return false;
+    return key.name == "Up" || key.name == "Down" || key.name == "Left" || key.name == "Right" ||
+           key.name == "Home" || key.name == "End" || key.name.starts_with("Page") ||
+           key.character >= U' ';
+}
+
+QTreeWidgetItem* TreeWidgetView::ItemOf(const ui::TreeNode& node) const {
+    const auto found = items_.find(&node);
+    return found == items_.end() ? nullptr : found->second;
+}
+
+ui::TreeNode* TreeWidgetView::NodeOf(QTreeWidgetItem* item) const {
+    if (!item) return nullptr;
+    return static_cast<ui::TreeNode*>(item->data(0, nodeRole).value<void*>());
+}
+
+void TreeWidgetView::Rebuild() {
+    QScopedValueRollback guard(following_, true);
+    own_->clear();
+    items_.clear();
+    for (const auto& root : model_.Roots())
+        Add(*root);
+}
+
+void TreeWidgetView::Add(ui::TreeNode& node) {
+    QScopedValueRollback guard(following_, true);
+    QTreeWidgetItem* parent = node.Parent() ? ItemOf(*node.Parent()) : nullptr;
+    auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(own_);
+    item->setData(0, nodeRole, QVariant::fromValue(static_cast<void*>(&node)));
+    items_[&node] = item;
+    for (const auto& child : node.Children())
+        Add(*child);
+    DrawNode(node);
+    if (parent && parent->childCount() == 1) parent->setExpanded(node.Parent()->Expanded());
+}
+
+void TreeWidgetView::Forget(const ui::TreeNode& node) {
+    for (const auto& child : node.Children())
+        Forget(*child);
+    items_.erase(&node);
+}
+
+void TreeWidgetView::DrawNode(ui::TreeNode& node) {
+    QTreeWidgetItem* item = ItemOf(node);
+    if (!item) return;
+    QScopedValueRollback guard(following_, true);
+    item->setText(0, ToQt(node.Text()));
+    QFont font = own_->font();
+    font.setBold(node.Bold());
+    item->setFont(0, font);
+    item->setExpanded(node.Expanded());
+}
+
+QPointF TreeWidgetView::PlaceOf(const ui::TreeNode& node) const {
+    QTreeWidgetItem* item = ItemOf(node);
+    if (!item) return {};
+    own_->scrollToItem(item);
+    const QRect place = own_->visualItemRect(item);
+    return QPointF(place.left() + 4, place.center().y());
+}
+
+void TreeWidgetView::ReachByKey(ui::TreeNode& node) {
+    QTreeWidgetItem* item = ItemOf(node);
+    QTreeWidgetItem* above = own_->itemAbove(item);
+    QTreeWidgetItem* below = own_->itemBelow(item);
+    if (!above && !below) return Act([&] { model_.UserNodeReached(node); });
+    own_->setCurrentItem(above ? above : below);
+    const int key = above ? Qt::Key_Down : Qt::Key_Up;
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(own_, &press);
+}
+
+void TreeWidgetView::Expanded(QTreeWidgetItem* item, bool expanded) {
+    ui::TreeNode* node = NodeOf(item);
+    if (!following_ && !IsDrawing() && node) node->Expanded(expanded);
+}
+
+void TreeWidgetView::Draw() {
+    const ui::TreeNode* selected = model_.SelectedNode();
+    QTreeWidgetItem* item = selected ? ItemOf(*selected) : nullptr;
+    if (own_->currentItem() != item) own_->setCurrentItem(item);
+    if (item) own_->scrollToItem(item);
+}
+
+// The second press of a double click repeats no single click.
+bool TreeWidgetView::MouseEvent(QEvent& event) {
+    const auto& mouse = static_cast<QMouseEvent&>(event);
+    if (mouse.button() != Qt::LeftButton) return false;
+    QTreeWidgetItem* item = own_->itemAt(mouse.position().toPoint());
+    ui::TreeNode* node = NodeOf(item);
+    const bool onBranch = item && mouse.position().x() < own_->visualItemRect(item).left();
+    if (!node || onBranch) return false;
+    if (event.type() == QEvent::MouseButtonRelease) {
+        if (node == pressed_) Act([this, node] { model_.UserNodeClick(*node); });
+    } else if (event.type() == QEvent::MouseButtonPress) {
+        pressed_ = node;
+    } else {
+        pressed_ = nullptr;
+        Act([this, node] {
+            if (model_.IsUsable() && model_.OnNodeDoubleClick) model_.OnNodeDoubleClick(*node);
+        });
+        return true;
+    }
+    return false;
+}
+
+} // namespace vexora::qt

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <unordered_map>
+
+#include <QTreeWidget>
+
+#include "qt/View.h"
+
+namespace vexora::qt {
+
+/// The tree on the screen; files can be dropped on it.
+class DropTree : public QTreeWidget {
+public:
+    using QTreeWidget::QTreeWidget;
+    std::function<void(const QString& path)> OnFile;
+    std::function<void()> OnKeyMoved; // the keyboard has left the current line
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+};
+
+/// Shows a ui::TreeView: an item a node, kept in step by the signals of the tree.
+class TreeWidgetView : public ViewOf<ui::TreeView, DropTree> {
+public:
+    TreeWidgetView(FormWindow& window, ui::TreeView& tree);
+    QWidget* ClickTarget() const override { return own_->viewport(); }
+    bool Wants(const ui::Key& key) const override;
+    QTreeWidgetItem* ItemOf(const ui::TreeNode& node) const;
+    /// A point on the label of the node, scrolled into sight.
+    QPointF PlaceOf(const ui::TreeNode& node) const;
+    /// Goes to the node with an arrow key from the line above or below it.
+    void ReachByKey(ui::TreeNode& node);
+
+protected:
+    void Draw() override;
+    bool MouseEvent(QEvent& event) override;
+
+private:
+    void Listen();
+    void Rebuild();
+    void Add(ui::TreeNode& node);
+    void Forget(const ui::TreeNode& node);
+    void DrawNode(ui::TreeNode& node);
+    ui::TreeNode* NodeOf(QTreeWidgetItem* item) const;
+    void Expanded(QTreeWidgetItem* item, bool expanded);
+
+    std::unordered_map<const ui::TreeNode*, QTreeWidgetItem*> items_;
+    const ui::TreeNode* pressed_ = nullptr; // where the mouse button went down
+    bool following_ = false;                // the tree is being drawn node by node
+};
+
+} // namespace vexora::qt

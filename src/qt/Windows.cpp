@@ -1,0 +1,129 @@
+#include "qt/Windows.h"
+
+#include <QSettings>
+
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+struct Windows::Watch {
+    explicit Watch(Windows& of) : owner(&of) {}
+    ~Watch() {
+        if (owner) owner->DropAll();
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+    Windows* owner;
+};
+
+Windows::Windows() = default;
+
+Windows::~Windows() {
+    if (const auto watch = watch_.lock()) watch->owner = nullptr;
+    DropAll();
+}
+
+void Windows::Follow() {
+    if (!watch_.expired() || !ui::Forms::IsPresent()) return;
+    Attach(ui::Forms::Current());
+}
+
+// The listeners hold the watch: it ends with the signals of the registry.
+void Windows::Attach(ui::Forms& forms) {
+    const auto watch = std::make_shared<Watch>(*this);
+    watch_ = watch;
+    const auto when = [&watch](void (Windows::*action)(ui::Form&)) {
+        return [watch, action](ui::Form& form) {
+            if (watch->owner) (watch->owner->*action)(form);
+        };
+    };
+    forms.Shown.Connect(when(&Windows::Show));
+    forms.Hidden.Connect(when(&Windows::Hide));
+    forms.Closed.Connect(when(&Windows::Drop));
+    for (ui::Form* form : forms.OpenForms()) {
+        if (form->IsVisible()) Show(*form);
+    }
+}
+
+FormWindow* Windows::WindowOf(const ui::Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second.data();
+}
+
+FormWindow* Windows::Front() const {
+    const ui::Form* form = ui::Forms::IsPresent() ? ui::Forms::Current().Front() : nullptr;
+    return form ? WindowOf(*form) : nullptr;
+}
+
+void Windows::Flush() {
+    for (const auto& [form, window] : windows_) {
+        if (window) window->Flush();
+    }
+}
+
+QWidget* Windows::ParentFor(const ui::Form& form) const {
+    const ui::Forms& forms = ui::Forms::Current();
+    for (const ui::Form* open : forms.OpenForms()) {
+        if (open == &form) break;
+        FormWindow* window = WindowOf(*open);
+        if (window && (form.IsModal() ? open->IsVisible() : !window->parentWidget())) return window;
+    }
+    return nullptr;
+}
+
+void Windows::Show(ui::Form& form) {
+    FormWindow* window = WindowOf(form);
+    if (!window) {
+        window = new FormWindow(*this, form, ParentFor(form));
+        windows_[&form] = window;
+        Restore(*window);
+    }
+    const auto modality = form.IsModal() ? Qt::ApplicationModal : Qt::NonModal;
+    if (window->windowModality() != modality) {
+        window->hide();
+        window->setWindowModality(modality);
+    }
+    window->Flush();
+    window->show();
+    window->raise();
+    window->activateWindow();
+    window->FollowFocus();
+}
+
+void Windows::Hide(ui::Form& form) {
+    if (FormWindow* window = WindowOf(form)) window->hide();
+}
+
+void Windows::Drop(ui::Form& form) {
+    FormWindow* window = WindowOf(form);
+    windows_.erase(&form);
+    if (!window) return;
+    Remember(*window);
+    window->Detach();
+    window->hide();
+    window->deleteLater();
+}
+
+void Windows::DropAll() {
+    const auto all = std::move(windows_);
+    windows_.clear();
+    for (const auto& [form, window] : all) {
+        if (window) window->Detach();
+    }
+    for (const auto& [form, window] : all) {
+        if (window) window->hide();
+        if (window) window->deleteLater();
+    }
+}
+
+void Windows::Remember(const FormWindow& window) const {
+    if (!Settings || !window.isVisible()) return;
+    Settings->setValue("windows/" + window.objectName(), window.saveGeometry());
+}
+
+void Windows::Restore(FormWindow& window) const {
+    if (!Settings) return;
+    window.restoreGeometry(Settings->value("windows/" + window.objectName()).toByteArray());
+}
+
+} // namespace vexora::qt

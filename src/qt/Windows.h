@@ -1,0 +1,57 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include <QPointer>
+
+#include "qt/FormWindow.h"
+#include "ui/Forms.h"
+
+class QSettings;
+
+namespace vexora::qt {
+
+/// The windows of all open forms. It follows the registry of forms in force and shows, hides and
+/// drops windows as the forms come and go. A front makes one and keeps it.
+class Windows {
+public:
+    Windows();
+    ~Windows();
+    Windows(const Windows&) = delete;
+    Windows& operator=(const Windows&) = delete;
+
+    /// Attaches to the registry in force, if it is another than before. To be called after a
+    /// workbench was made, and harmless at any time.
+    void Follow();
+    /// The window of a form, or null.
+    FormWindow* WindowOf(const ui::Form& form) const;
+    /// The window a person works on, or null.
+    FormWindow* Front() const;
+    /// Draws all that has changed in any window.
+    void Flush();
+
+    /// Takes what a handler has thrown.
+    std::function<void(std::exception_ptr)> OnFault;
+    /// Where sizes and places of windows are kept, null for nowhere.
+    QSettings* Settings = nullptr;
+
+private:
+    struct Watch; // its end tells that the registry has gone
+    void Attach(ui::Forms& forms);
+    void Show(ui::Form& form);
+    void Hide(ui::Form& form);
+    void Drop(ui::Form& form);
+    void DropAll();
+    QWidget* ParentFor(const ui::Form& form) const;
+    void Remember(const FormWindow& window) const;
+    void Restore(FormWindow& window) const;
+
+    std::unordered_map<const ui::Form*, QPointer<FormWindow>> windows_;
+    std::weak_ptr<Watch> watch_;
+};
+
+} // namespace vexora::qt
