@@ -163,7 +163,7 @@ void frmSample::SubstClick() {
 void frmSample::NewCompound() {
     auto& compounds = Globals().CurrentR->recL;
     const std::size_t before = compounds.Count();
-    Globals().OpenForms.push_back(Name());
+    if (!Globals().IsEditingInPlace()) Globals().OpenForms.push_back(Name());
     ui::Forms::Current().Get("frmSubst").ShowModal();
     FillCompounds();
     const ui::FillingScope filling(*this);

@@ -86,6 +86,7 @@ private:
     bool CheckValue(ui::TextBox& box);
     bool CheckUnitAndMethod(ui::TextBox& box, ui::ComboBox& unit, ui::ComboBox& method);
     bool Store();
+    bool IsGuided() const;
 
     bool editing_ = false;
     bool changed_ = true;          // anything changed since the last store

@@ -26,12 +26,6 @@ bool Confirm(const std::string& question, const std::string& title, ui::Control&
     return false;
 }
 
-/// Waited for by another dialog than the shell.
-bool IsGuided() {
-    const auto& openers = Globals().OpenForms;
-    return !openers.empty() && openers.back() != "frmMain";
-}
-
 bool IsImpurity(const ui::ComboBox& unit) {
     for (const PurityUnit& row : PurityUnits())
         if (row.text == unit.Chosen()) return IsImpurityUnit(row.code);
@@ -51,6 +45,12 @@ void frmSample::Accept() {
         Close();
     else
         cmdAccept.Caption("Done");
+}
+
+/// Another dialog than the shell waits for one sample.
+bool frmSample::IsGuided() const {
+    const auto& openers = Globals().OpenForms;
+    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
 }
 
 void frmSample::Next() {

@@ -95,7 +95,8 @@ void frmSubst::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
     editing_ = globals.EditCompound && globals.CurrentL != nullptr;
-    fraBio.Visible(globals.BioEnabled || OpenedByBioDialog());
+    forBioData_ = !editing_ && OpenedByBioDialog();
+    fraBio.Visible(globals.BioEnabled || forBioData_);
     if (editing_) PrepareEdit();
 }
 

@@ -87,13 +87,16 @@ private:
     void CorrectBy(std::vector<CompoundRow> rows);
     void Store();
     void StoreBio(clsL& compound) const;
+    bool IsGuided() const;
     void Finish();
     void ClearBoxes();
 
     bool editing_ = false;
-    bool rnEdited_ = false;         // marks of the boxes since the last search or store
-    bool nameEdited_ = false;       //
-    bool formulaEdited_ = false;    //
+    bool forBioData_ = false; // opened by a dialog for bio data
+    // Marks of the boxes since the last search or store.
+    bool rnEdited_ = false;
+    bool nameEdited_ = false;
+    bool formulaEdited_ = false;
     bool typedRN_ = false;          // the number in the boxes is the operator's own
     bool isNew_ = false;            // the compound in the boxes is not in the reference database
     bool changed_ = true;           // anything changed since the last store

@@ -15,12 +15,6 @@ namespace vexora {
 
 namespace {
 
-/// Opened by another dialog that waits for one compound.
-bool IsGuided() {
-    const auto& openers = Globals().OpenForms;
-    return !openers.empty() && openers.back() != "frmMain";
-}
-
 std::string Trimmed(const ui::TextBox& box) {
     return std::string(TrimBlanks(box.Text()));
 }
@@ -174,10 +168,14 @@ void frmSubst::StoreBio(clsL& compound) const {
     compound.EC = Trimmed(txtEC);
     compound.PDB = Trimmed(txtPDB);
     compound.Charge = static_cast<std::int32_t>(ParseInteger(thtCharge.Text()).value_or(0));
-    const auto& openers = Globals().OpenForms;
-    const bool forBioData = !editing_ && !openers.empty() && openers.back().starts_with("frmBio");
-    if (forBioData || !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0)
+    if (forBioData_ || !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0)
         compound.isBio = compound.isNew = true;
+}
+
+/// Another dialog than the shell waits for one compound.
+bool frmSubst::IsGuided() const {
+    const auto& openers = Globals().OpenForms;
+    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
 }
 
 void frmSubst::Finish() {
