@@ -30,6 +30,7 @@ bool frmMain::MayDiscard() {
 
 bool frmMain::NewProc() {
     if (!MayDiscard()) return false;
+    const ui::HourglassScope hourglass;
     EmptyDocument();
     return true;
 }
@@ -38,12 +39,9 @@ void frmMain::EmptyDocument() {
     KVOGlobal& globals = Globals();
     globals.Saved = true;
     globals.ReadOnly = false;
-    {
-        const ui::HourglassScope hourglass;
-        globals.ForgetCurrent();
-        globals.recR.Clear();
-        tvwTree.Clear();
-    }
+    globals.ForgetCurrent();
+    globals.recR.Clear();
+    tvwTree.Clear();
     globals.DialogAccepted = false;
     MouseSelected = false;
     FileTitle.clear();

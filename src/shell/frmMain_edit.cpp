@@ -38,6 +38,18 @@ constexpr EditRule kEditRules[] = {
     {"RXSP", "frmGH", &KVOGlobal::EditBioProp},
 };
 
+/// Tells the dialog that it runs on an existing record, as long as it lasts.
+class EditScope {
+public:
+    explicit EditScope(bool& flag) : flag_(flag) { flag_ = true; }
+    ~EditScope() { flag_ = false; }
+    EditScope(const EditScope&) = delete;
+    EditScope& operator=(const EditScope&) = delete;
+
+private:
+    bool& flag_;
+};
+
 const EditRule* RuleOf(std::string_view nodeKey) {
     const auto* rule = std::find_if(std::begin(kEditRules), std::end(kEditRules),
                                     [nodeKey](const auto& r) { return r.nodeKey == nodeKey; });
@@ -71,9 +83,10 @@ void frmMain::EditNode() {
     if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
     RenewCurrentMethod();
     globals.DialogAccepted = false;
-    globals.*rule->flag = true;
-    ui::Forms::Current().Get(rule->dialog).ShowModal();
-    globals.*rule->flag = false;
+    {
+        const EditScope editing(globals.*rule->flag);
+        ui::Forms::Current().Get(rule->dialog).ShowModal();
+    }
     ui::TreeNode* node = tvwTree.SelectedNode();
     if (globals.DialogAccepted && node != nullptr) {
         if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock()))

@@ -157,7 +157,13 @@ bool frmMain::OpenTable() {
 /// True when the dialog is open afterwards, or has led on to another one.
 bool frmMain::OpenDialog(std::string_view dialog) {
     DisableShell();
-    OpenInChain("frmMain", dialog);
+    try {
+        OpenInChain("frmMain", dialog);
+    } catch (...) { // a dialog that cannot open must not leave the shell dead and unsaved
+        Globals().OpenForms.clear();
+        Activate();
+        throw;
+    }
     return !Globals().OpenForms.empty();
 }
 

@@ -64,6 +64,15 @@ expect open frmMain
 )");
 }
 
+TEST_F(StartUpTest, AnUnwritableConfigurationIsToldAndWorkGoesOn) {
+    Configure("ORGANIZATION Lab\n");
+    Files.FailAt("CreateBeside", 1, "Read-only file system");
+    const std::string transcript = Holds("start\ninput \"Ann\"\nexpect open frmMain\n");
+    EXPECT_NE(transcript.find("VXR.ini cannot be written.\\nRead-only file system"),
+              std::string::npos)
+        << transcript;
+}
+
 TEST_F(StartUpTest, WhoGivesNoNameMayLeave) {
     Configure("ORGANIZATION Lab\n");
     Holds("start\ninput \"\"\nanswer Yes\nexpect closed frmMain\n");
