@@ -3,10 +3,12 @@
 #pragma once
 
 #include "ui/Desktop.h"
+#include "ui/Form.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,6 +23,8 @@ public:
             ADD_FAILURE() << "never shown: " << expected.text;
         for (const auto& expected : inputs_)
             ADD_FAILURE() << "never asked: " << expected.first;
+        for (const auto& expected : modals_)
+            ADD_FAILURE() << "never opened: " << expected.first;
     }
 
     /// The next box shows this: the text, and behind " | " the title if there is one.
@@ -30,6 +34,10 @@ public:
     /// The next question for a text begins so.
     void ExpectInput(std::string prompt, std::optional<std::string> answer) {
         inputs_.emplace_back(std::move(prompt), std::move(answer));
+    }
+    /// The next modal form has this name; the user works on it until it has closed.
+    void ExpectModal(std::string name, std::function<void(ui::Form&)> user) {
+        modals_.emplace_back(std::move(name), std::move(user));
     }
     bool Ended() const { return ended_; }
 
@@ -67,7 +75,18 @@ public:
     void Print(const std::string&, const std::string&) override {}
     ui::Date Today() override { return {2026, 1, 15}; }
     ui::FileSystem& Files() override { return *files_; }
-    void RunModal(ui::Form&) override { ADD_FAILURE() << "unexpected modal form"; }
+    void RunModal(ui::Form& form) override {
+        if (modals_.empty()) {
+            ADD_FAILURE() << "unexpected modal form " << form.Name();
+            form.Close();
+            return;
+        }
+        const auto expected = std::move(modals_.front());
+        modals_.pop_front();
+        EXPECT_EQ(form.Name(), expected.first);
+        expected.second(form);
+        EXPECT_FALSE(form.IsOpen()) << "left open: " << form.Name();
+    }
     void EndProgram() override { ended_ = true; }
 
 private:
@@ -78,6 +97,7 @@ private:
     ui::FileSystem* files_;
     std::deque<Expected> messages_;
     std::deque<std::pair<std::string, std::optional<std::string>>> inputs_;
+    std::deque<std::pair<std::string, std::function<void(ui::Form&)>>> modals_;
     std::string clipboard_;
     int hourglass_ = 0;
     bool ended_ = false;
