@@ -2,6 +2,7 @@
 
 #include "dialogs/frmAuthor.h"
 #include "dialogs/frmDocument.h"
+#include "dialogs/frmKey.h"
 #include "dialogs/frmMakeBook.h"
 #include "dialogs/frmMakeConf.h"
 #include "dialogs/frmMakeDeposited.h"
@@ -9,6 +10,7 @@
 #include "dialogs/frmMakePatent.h"
 #include "dialogs/frmMakeReport.h"
 #include "dialogs/frmMakeThesis.h"
+#include "dialogs/frmProperty.h"
 #include "dialogs/frmRef.h"
 #include "dialogs/frmSample.h"
 #include "dialogs/frmSubst.h"
@@ -16,6 +18,8 @@
 namespace vexora {
 
 void RegisterDialogs(ui::Forms& forms) {
+    forms.Register<frmKey>("frmKey");
+    forms.Register<frmProperty>("frmProperty");
     forms.Register<frmSample>("frmSample");
     forms.Register<frmSubst>("frmSubst");
     forms.Register<frmDocument>("frmDocument");

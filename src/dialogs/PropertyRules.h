@@ -1,0 +1,42 @@
+// What frmProperty offers for a property: the ways to enter its data and the statements that can be
+// made about them. Functions of codes and table rows; no form is known here.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+/// The last entry of a list of units: asks for a factor.
+inline constexpr const char* allOtherUnits = "ALL OTHER UNITS";
+
+/// One statement about a value. It is a bit of PRPFLAG, or a tag in the comment when it has a key.
+struct Statement {
+    std::string text;
+    int flag = 0;    // bit of PRPFLAG, 0 for a lettered statement
+    std::string key; // letter of a lettered one
+};
+
+/// The statements that apply to a property. The recommendation to reject is not among them: its bit
+/// does not survive a reading.
+std::vector<Statement> StatementsFor(std::string_view propertyCode);
+
+/// Whether pure data of the property can be entered by a single-value form with so many fixed
+/// variables (0 or 1).
+bool AllowsSingleValue(const PropertyRow& row, int variableCount);
+
+/// The bits of a PRPFLAG field that a record keeps; a text that is no number is 0.
+int FlagBits(std::string_view flags);
+
+/// A conversion code with its factor as the user reads it: "2.5* kPa" for an own factor, else the
+/// name of the unit, the system unit where the code has none.
+std::string UnitText(const PropertyRow& row, std::string_view code, double factor);
+/// The code of a unit in the list of a property; "S" for one without a row.
+std::string UnitCode(const PropertyRow& row, std::string_view text);
+/// Name and system unit as messages show them.
+std::string PropertyInWords(const PropertyRow& row);
+
+} // namespace vexora
