@@ -1,5 +1,6 @@
 #include "cli/Documents.h"
 #include "cli/ExitCodes.h"
+#include "cli/Play.h"
 #include "cli/Refdb.h"
 
 #include <CLI/CLI.hpp>
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
     int exitCode = vexora::kExitClean;
     vexora::AddDocumentCommands(app, argv[0], exitCode);
     vexora::AddRefdbCommands(app, exitCode);
+    vexora::AddPlayCommand(app, exitCode);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -11,10 +11,10 @@ namespace vexora::host {
 namespace {
 
 std::string KindName(ui::ControlKind kind) {
-    static const char* const names[] = {"Label",    "TextBox",  "CommandButton", "CheckBox",
-                                        "Option",   "ComboBox", "ListBox",       "Frame",
-                                        "Grid",     "TreeView", "Toolbar",       "ToolButton",
-                                        "TabStrip", "MenuItem", "Picture",       "RichText"};
+    static const char* const names[] = {"Label",        "TextBox",  "CommandButton", "CheckBox",
+                                        "OptionButton", "ComboBox", "ListBox",       "Frame",
+                                        "Grid",         "TreeView", "Toolbar",       "ToolButton",
+                                        "TabStrip",     "MenuItem", "Picture",       "RichText"};
     return names[static_cast<std::size_t>(kind)];
 }
 

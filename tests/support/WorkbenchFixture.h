@@ -34,6 +34,12 @@ protected:
     std::string Home() const { return places_.Home; }
     std::string Out() const { return folder_.Path("out"); }
 
+    /// Brings the home past the steps of a first start; from then on `start` asks for the name of
+    /// the user, which `input cancel` leaves as it is.
+    void Configure() {
+        Holds("include \"" VEXORA_SOURCE_DIR "/tests/sessions/shell/known_user.inc\"\n");
+    }
+
     PlayResult Play(const std::string& lines) {
         const host::ScriptVariables variables{
             {"HOME_DIR", Home()}, {"OUT", Out()}, {"TODAY", "2026-01-15"}};

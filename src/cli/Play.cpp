@@ -1,0 +1,32 @@
+#include "cli/Play.h"
+
+#include "host/ModelActor.h"
+#include "host/PlayMain.h"
+#include "host/WorkbenchProgram.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iostream>
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* playHelp =
+    "Play session scripts: [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--keep-going] "
+    "FILE...";
+
+} // namespace
+
+void AddPlayCommand(CLI::App& app, int& exitCode) {
+    CLI::App* play = app.add_subcommand("play", playHelp);
+    play->prefix_command();
+    play->callback([play, &app, &exitCode] {
+        host::ModelActor actor;
+        exitCode = host::PlayMain(play->remaining(),
+                                  {actor, std::cout, std::cerr, app.get_name(), host::WorkbenchIn});
+    });
+}
+
+} // namespace vexora
