@@ -20,7 +20,7 @@ std::uint64_t HexFlag(std::string_view word, std::string_view lineSoFar) {
     for (const char c : word) {
         const bool isDigit = c >= '0' && c <= '9';
         if (!isDigit && (c < 'A' || c > 'F')) {
-            ui::Say(std::string(lineSoFar), "Invalid PRPFLAG");
+            ui::Say(std::string(Trim(lineSoFar)), "Invalid PRPFLAG");
             break;
         }
         value = value * 16 + static_cast<std::uint64_t>(isDigit ? c - '0' : c - 'A' + 10);

@@ -82,6 +82,7 @@ void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double m
     const auto system = [&](const std::string& typed) {
         return asItStands ? typed : SystemDifference(typed, code, factor, molarMass);
     };
+    const bool statesRep = iRep || !repOfValueLine;
     out.Fields({"^X",
                 std::to_string(N),
                 PRPCODE,
@@ -92,8 +93,8 @@ void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double m
                 system(DSValue),
                 Sign(iRep),
                 RType < 0 ? "" : std::to_string(RType),
-                system(RValue),
-                IsNumeric(Repetitions) ? Repetitions : "",
+                statesRep ? system(RValue) : "",
+                statesRep && IsNumeric(Repetitions) ? Repetitions : "",
                 Sign(iUnc),
                 ULevel,
                 system(UValue),

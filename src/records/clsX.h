@@ -32,6 +32,8 @@ public:
     std::string CDSpec, CDRms;
     /// Values stand in system units: true after Load, false when a dialog wrote them.
     bool inSystemUnits = false;
+    /// RValue and Repetitions came with the value line; a ^X line states them only with iRep.
+    bool repOfValueLine = false;
     /// A line that names no quantity of its set; it is written back as it came.
     std::string Verbatim;
 

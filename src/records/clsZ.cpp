@@ -59,8 +59,11 @@ void clsZ::AddX(const clsX& item) {
     clsX& place = UX[static_cast<std::size_t>(added.N)];
     // The line of an item does not carry these; they came with the value line.
     added.KVOUValue = place.KVOUValue;
-    if (!added.iRep && added.RValue.empty()) added.RValue = place.RValue;
-    if (!added.iRep && added.Repetitions.empty()) added.Repetitions = place.Repetitions;
+    if (!added.iRep && added.RValue.empty() && added.Repetitions.empty()) {
+        added.RValue = place.RValue;
+        added.Repetitions = place.Repetitions;
+        added.repOfValueLine = true;
+    }
     place = added;
 }
 
@@ -95,6 +98,7 @@ bool clsZ::Load(std::string_view line) {
     UX[0].KVOUValue = PRPUNCERTY;
     UX[0].RValue = PRECIS;
     UX[0].Repetitions = DETERMNM;
+    UX[0].repOfValueLine = true;
     return true;
 }
 

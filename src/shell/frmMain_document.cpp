@@ -1,6 +1,7 @@
 // Opening, saving and emptying the document.
 
 #include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
 #include "records/RecordReader.h"
 #include "records/SafeFile.h"
 #include "records/clsR.h"
@@ -152,11 +153,13 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
-    const std::string text = PrintDocument(); // may ask the user, so without the hourglass
     std::string error;
-    {
+    try {
+        const std::string text = PrintDocument(); // may ask the user, so without the hourglass
         const ui::HourglassScope hourglass;
         error = WriteSafely(ui::TheDesktop().Files(), FileName, text, true);
+    } catch (const SaveRefused& refused) {
+        error = refused.what();
     }
     if (error.empty()) {
         globals.Saved = true;

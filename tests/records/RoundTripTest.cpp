@@ -1,0 +1,197 @@
+#include "records/RecordReader.h"
+
+#include "records/LineWriter.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "support/DocumentFixture.h"
+
+namespace vexora {
+namespace {
+
+const std::string kHead = "\n^R 2002 wag pru 1\n"
+                          "^J#J#O#J. Phys. Chem. Ref. Data, 2002, 31, 387-535#T##A##S#0####\n"
+                          "^L 7732185 DNNNN S\n"
+                          "^S 1 cm;;99.9m%,gc\n";
+
+class RoundTrip : public test::DocumentFixture {
+protected:
+    void Read(const std::string& text) {
+        form.tvwTree.Clear();
+        globals.recR.Clear();
+        globals.ForgetCurrent();
+        const ReadResult result = ReadRecords(text);
+        ASSERT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
+        EXPECT_EQ(result.linesNotKept, 0);
+    }
+    std::string LoadAndSave(const std::string& text) {
+        Read(text);
+        return PrintDocument();
+    }
+    clsZ& Value(std::size_t position = 1) const {
+        return *globals.recR.Item(std::size_t{1})
+                    ->recL.Item(std::size_t{1})
+                    ->recS.Item(std::size_t{1})
+                    ->recZ.Item(position);
+    }
+    /// A document of one value, and what its lines look like after three loads and saves.
+    std::string Settled(const std::string& lines) {
+        std::string text = LoadAndSave(kHead + lines);
+        const std::string first = text;
+        for (int cycle = 0; cycle < 3; ++cycle)
+            text = LoadAndSave(text);
+        EXPECT_EQ(text, first);
+        return first.substr(first.find("^A "));
+    }
+};
+
+TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
+    const std::string text =
+        "\n^R 2031 mue & 12\n"
+        "^J#S#O#J. Nowhere, ab-123#A title#a, b;c#Abstract.#note#P#2#c1#CODEN#0021-9568#b\n"
+        "^I#1#muelle#ab1#Mueller,A.B.\n"
+        "^I#2#wagner#w  #\n"
+        "^L 7732185 DNNNN P\n"
+        "^S 1 cm,99m%,gc;(frozen twice, dried);99.95m%,gc,99.9w%,(by us)\n"
+        "^A read_twice O A 3 AB CD 12/25/2004 sealed  cell ::Method:X:later:UFactor:2.5:dTC:0.01:\n"
+        "^z 1 TC S 1 L G & 647.096 0.1 0.05 3\n"
+        "^X 0 TC L + 1 95 0.10 + 1 0.05 3 - & & - & & - & & &\n"
+        "^A & O & & & & & &\n"
+        "^M 1000\n"
+        "^z 1 PC S 1 L G & 22.0640 & & &\n"
+        "^M 0\n"
+        "^A & & & & & & & ::Method:OTHER:sMethod:own way:PB:\n"
+        "^Z 1 TMN S 1 C L air 273.150 & & &\n"
+        "^A & & & & & & & &\n"
+        "^F * VDN S 1 L 298.15 S 997.0 & & &\n"
+        "^S 2 ns\n"
+        "^L 1003 NNNNN &\n"
+        "^N 1003 C8H10N4O2 new compound, beta form\n"
+        "BL 1014 3.2.1.17_x 1LYZ & -3 lysozyme of hen\n";
+    std::string saved = LoadAndSave(text);
+    // The letters are found anew, all else is as it was.
+    const auto withoutLetters = [](std::string lines) {
+        const std::size_t at = lines.find("^L 7732185 DNNNN ") + 17;
+        lines.erase(at, lines.find('\n', at) - at);
+        const std::size_t letters = lines.find("#note#") + 6;
+        return lines.erase(letters, lines.find('#', letters) - letters);
+    };
+    EXPECT_EQ(withoutLetters(saved), withoutLetters(text));
+    for (int cycle = 0; cycle < 3; ++cycle) {
+        const std::string again = LoadAndSave(saved);
+        EXPECT_EQ(again, saved);
+        EXPECT_EQ(PrintDocument(), saved) << "saving changed the document";
+    }
+    EXPECT_EQ(globals.recR.Item(std::size_t{1})->ManuscriptID, "ab-123");
+}
+
+TEST_F(RoundTrip, UnitsWithoutALetterGoOutAsFactorAndSystemUnit) {
+    Read(kHead + "^A & O & & & & & &\n^z 1 PC S 1 L G & 220.640 & & &\n");
+    const std::string before = kHead + "^A & O & & & & & &\n";
+    const std::string value = "^z 1 PC S 1 L G & 220.640 & & &\n";
+    Value().PROPERTY_UNIT = "bar";
+    EXPECT_EQ(PrintDocument(), before + "^M 100\n" + value + "^M 0\n");
+    Value().PROPERTY_UNIT = "*";
+    Value().Factor = 1.1 * 1.1;
+    const std::string withFactor = before + "^M 1.21\n" + value + "^M 0\n";
+    EXPECT_EQ(PrintDocument(), withFactor);
+    EXPECT_EQ(LoadAndSave(withFactor), withFactor);
+    EXPECT_EQ(Value().Factor, 1.21);
+    EXPECT_NEAR(Value().SystemValue(), 220.64 * 1.21, 1e-9);
+
+    Value().isOriginalUnit = false;
+    EXPECT_EQ(PrintDocument(), before + "^Z 1 PC S 1 L G & 220.640 & & &\n");
+}
+
+TEST_F(RoundTrip, ASetWhoseUnitHasNoFactorIsNotSaved) {
+    Read(kHead + "^A & & & & & & & &\n^z 1 PC S 1 L G & 220.640 & & &\n");
+    Value().PROPERTY_UNIT = "nounit";
+    EXPECT_THROW(PrintDocument(), SaveRefused);
+    Value().isOriginalUnit = false;
+    EXPECT_NO_THROW(PrintDocument());
+}
+
+TEST_F(RoundTrip, MassBasedUnitsCarryTheMolarMass) {
+    const std::string lines = "^M 18.015\n^A & & & & & & & &\n^z 1 HVP Z 1 L G & 2256.5 & & &\n"
+                              "^M 0\n^A & & & & & & & &\n^z 1 TC S 1 L G & 647 & & &\n";
+    Read(kHead + lines);
+    EXPECT_EQ(Value().Factor, 0);
+    EXPECT_NEAR(Value().SystemValue(), ToSystem("Z", 2256.5, 0, 18.015), 1e-9);
+    EXPECT_EQ(Value(2).Factor, 0);
+    const std::string saved = PrintDocument();
+    EXPECT_NE(saved.find(lines), std::string::npos) << saved;
+    EXPECT_EQ(LoadAndSave(saved), saved);
+}
+
+TEST_F(RoundTrip, AFixedVariableInAUnitWithoutALetterIsConvertedOnce) {
+    const std::string head = "^A & & & & & & & &\n";
+    Read(kHead + head + "^f 1 TB S 1 L 25 S 300.1 & & &\n");
+    Value().VARIABLE_UNIT = "bar";
+    Value().UX[1].iUnc = true;
+    Value().UX[1].PRPCODE = "P";
+    Value().UX[1].UValue = "0.10";
+    Value().UX[1].inSystemUnits = false;
+    const std::string saved = PrintDocument();
+    EXPECT_EQ(saved.substr(saved.find(head)),
+              head + "^f 1 TB S 1 L 2500 S 300.1 & & &\n"
+                     "^X 1 P & - & & & - & & & + & 10 - & & - & & &\n");
+    EXPECT_EQ(Value().INDVARIABLE, "25");
+    EXPECT_EQ(LoadAndSave(saved), saved);
+}
+
+TEST_F(RoundTrip, PrecisionsOfADialogAreConvertedAsDifferencesAndOnlyOnce) {
+    Read(kHead + "^A & & & & & & & &\n^z 1 TB C 1 L G & 99.97 & & &\n");
+    clsZ& value = Value();
+    value.commentInSystemUnits = false;
+    value.Header.DATACOMMENT = "text dTB:9: ::Method:X:dTB:0.10:dTB:1%:";
+    value.PROPERTY_UNIT = "F";
+    const std::string expected = "^A & & & & & & & text dTB:9: ::Method:X:dTB:0.056:dTB:1%:\n";
+    const std::string saved = PrintDocument();
+    EXPECT_NE(saved.find(expected), std::string::npos) << saved;
+    EXPECT_EQ(LoadAndSave(saved), saved);
+}
+
+TEST_F(RoundTrip, OldFormsSettleAtTheFirstSave) {
+    EXPECT_EQ(Settled("^A & O & 7FFF & & 25.12.04 abc::Method:X\n"
+                      "^z 1 TC K 1 L & & 200.0 & 1% &\n"),
+              "^A & O & 32763 & & 12/25/2004 abc::Method:X:\n"
+              "^z 1 TC K 1 L & & 200.0 & 2 &\n");
+    EXPECT_EQ(Settled("^A n O A 12 & & 12.25.2004 &\n^M1000\n^z 1 PC S 1 L & & 22.064 & & 3 4\n"),
+              "^A n O A 8 & & 12/25/2004 &\n^M 1000\n^z 1 PC S 1 L & & 22.064 & & 3 4\n^M 0\n");
+    EXPECT_EQ(Settled("^A & O & -1 & & 1.x.04 &\n^Z 1 TBN S 1 L G G 373.1 & & &\n"),
+              "^A & O & 32763 & & 1.x.04 &\n^Z 1 TBN S 1 L G & 373.1 & & &\n");
+}
+
+TEST_F(RoundTrip, StatementsKeepTheirPlaceAndTheirText) {
+    const std::string value = "^A & & & & & & & &\n^f 1 VDN S 1 L 25 C 997 0.5 & 3\n";
+    const std::string statements = "^X 1 T L + the_authors 95 0.01 - & & & - & & - & & - & & &\n"
+                                   "^X 0 VDN L - & & & - & & & + & 0.1% - & & + 0.02 cubic_fit &\n"
+                                   "^X 3 X1 L + & & 1 - & & & - & & - & & - & & &\n";
+    const std::string saved = LoadAndSave(kHead + value + statements);
+    EXPECT_NE(saved.find(value + statements), std::string::npos) << saved;
+    EXPECT_EQ(Value().UX[1].DSEvaluator, "the authors");
+    EXPECT_EQ(Value().UX[0].KVOUValue, "0.5");
+    EXPECT_EQ(Value().UX[0].Repetitions, "3");
+    // A line that names its quantity by the code only finds its place.
+    Read(kHead + value + "^X & VDN L - & & & - 7 & few + & 0.1% - & & - & & &\n");
+    EXPECT_EQ(Value().UX[0].UValue, "0.1%");
+    EXPECT_EQ(Value().UX[0].RType, -1);
+}
+
+TEST_F(RoundTrip, SeparatorsAndLineBreaksInTextsDoNotShiftFields) {
+    Read(kHead);
+    clsR& source = *globals.recR.Item(std::size_t{1});
+    source.TTITLE = "The #1\r\nfluid";
+    source.ABSTRACT = "a\nb";
+    source.NOTE = "#";
+    Read(PrintDocument());
+    const clsR& again = *globals.recR.Item(std::size_t{1});
+    EXPECT_EQ(again.TTITLE, "The  1 fluid");
+    EXPECT_EQ(again.ABSTRACT, "a b");
+    EXPECT_EQ(again.SSOURCE, "J. Phys. Chem. Ref. Data, 2002, 31, 387-535");
+}
+
+} // namespace
+} // namespace vexora
