@@ -2,7 +2,6 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
-#include "shell/DocumentXml.h"
 #include "shell/ReadingPane.h"
 #include "shell/StartUp.h"
 #include "shell/StatusLine.h"
@@ -38,7 +37,6 @@ void frmMain::Load() {
     const ui::Forms& forms = ui::Forms::Current();
     New.Enabled(forms.Knows("frmDocument"));
     mnuFindRef.Enabled(forms.Knows("frmRef"));
-    mnuExportXML.Enabled(DocumentXml() != nullptr);
     EmptyDocument();
     ShowOptionalButtons();
 }

@@ -118,6 +118,8 @@ private:
     bool RefuseReadOnly();
     bool WriteDocument();
     std::string ProposedTitle(const std::string& ending) const;
+    bool MayExport();
+    void WriteExport(const std::string& target);
     std::string StartFolder() const;
     std::string ChooseTarget(const std::string& proposed, const std::string& filter);
 

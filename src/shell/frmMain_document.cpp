@@ -1,12 +1,12 @@
 // Opening, saving and emptying the document.
 
+#include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/RecordReader.h"
 #include "records/SafeFile.h"
 #include "records/clsR.h"
 #include "shell/DocumentChecks.h"
-#include "shell/DocumentXml.h"
 #include "shell/Paths.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -203,21 +203,32 @@ void frmMain::SaveAs() {
     RefreshTexts();
 }
 
+/// What a read-only document holds beyond this edition would be missing from the export.
+bool frmMain::MayExport() {
+    if (Globals().recR.IsEmpty()) return false;
+    return !Globals().ReadOnly ||
+           ui::AskYesNo("This document holds data that this edition does not keep.\n"
+                        "They would be missing from the export. Do you want to export the rest?",
+                        "Read only");
+}
+
 void frmMain::ExportDocument() {
-    const XmlMaker makeXml = DocumentXml();
-    if (makeXml == nullptr || Globals().recR.IsEmpty()) return;
+    if (!MayExport()) return;
     DisableShell();
     const std::string target = ChooseTarget(ProposedTitle(".xml"), kXmlFiles);
-    if (!target.empty()) {
-        const std::string text = makeXml(); // may ask the user, so without the hourglass
-        std::string error;
-        {
-            const ui::HourglassScope hourglass;
-            error = WriteSafely(ui::TheDesktop().Files(), target, text, false);
-        }
-        if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
-    }
+    if (!target.empty()) WriteExport(target);
     Enable();
+}
+
+void frmMain::WriteExport(const std::string& target) {
+    ui::Desktop& desktop = ui::TheDesktop();
+    const std::string text = vexora::ExportDocument(desktop.Today()); // may ask the user
+    std::string error;
+    {
+        const ui::HourglassScope hourglass;
+        error = WriteSafely(desktop.Files(), target, text, false);
+    }
+    if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
 }
 
 } // namespace vexora

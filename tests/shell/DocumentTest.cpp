@@ -163,6 +163,11 @@ TEST_F(DocumentTest, LinesThatAreNotKeptMakeTheDocumentReadOnly) {
     Shell().Save();
     desktop.Expect(refusal);
     Shell().SaveAs();
+    desktop.Expect("This document holds data that this edition does not keep.\n"
+                   "They would be missing from the export. Do you want to export the rest?"
+                   " | Read only",
+                   ui::Answer::No);
+    Shell().mnuExportXML.UserClick();
     EXPECT_EQ(FileText(path), before);
     EXPECT_TRUE(Shell().NewProc());
     EXPECT_FALSE(Globals().ReadOnly);
