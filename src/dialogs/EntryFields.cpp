@@ -1,5 +1,6 @@
 #include "dialogs/EntryFields.h"
 
+#include <optional>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
@@ -16,6 +17,18 @@ std::string Without(std::string_view text, std::string_view dropped) {
         if (dropped.find(c) == std::string_view::npos) kept += c;
     }
     return kept;
+}
+
+/// What stands more in a text than in another that it was made from by typing at one place; nothing
+/// when it was made otherwise.
+std::optional<std::string> Inserted(std::string_view text, std::string_view into) {
+    if (text.size() < into.size()) return std::nullopt;
+    std::size_t front = 0;
+    while (front < into.size() && text[front] == into[front])
+        ++front;
+    const std::size_t more = text.size() - into.size();
+    if (text.substr(front + more) != into.substr(front)) return std::nullopt;
+    return std::string(text.substr(front, more));
 }
 
 } // namespace
@@ -83,12 +96,26 @@ std::string CompletingCombo::Entered() const {
 
 void CompletingCombo::Enter(std::string_view text) {
     completing_ = true;
-    Text(TrimBlanks(text).empty() ? prompt_ : std::string(text));
+    prompting_ = TrimBlanks(text).empty() || text == prompt_;
+    Text(prompting_ ? prompt_ : std::string(text));
+    completing_ = false;
+}
+
+void CompletingCombo::DropPrompt() {
+    if (!std::exchange(prompting_, false)) return;
+    // With the mouse the caret may be put into the prompt, and typing goes on from there.
+    const auto typed = Inserted(Text(), prompt_);
+    const bool oneErased =
+        !typed && Text().size() + 1 == prompt_.size() && Inserted(prompt_, Text());
+    if (!typed && !oneErased) return;
+    completing_ = true;
+    Text(typed.value_or(""));
     completing_ = false;
 }
 
 void CompletingCombo::Complete() {
     if (completing_) return;
+    DropPrompt();
     const std::string typed = Text();
     const std::string before = std::exchange(typed_, typed);
     const std::size_t length = CodePointCount(typed);

@@ -58,13 +58,15 @@ public:
     void Enter(std::string_view text);
 
 private:
+    void DropPrompt();
     void Complete();
 
     std::string prompt_;
     std::string table_;
     std::string column_;
-    std::string typed_; // as typed last, without its completion
-    bool completing_ = false;
+    std::string typed_;       // as typed last, without its completion
+    bool prompting_ = false;  // the prompt stood before the change
+    bool completing_ = false; // the field itself changes its text
 };
 
 } // namespace vexora

@@ -7,6 +7,7 @@
 
 #include "qt/FormWindow.h"
 #include "qt/Text.h"
+#include "reference/Text.h"
 
 namespace vexora::qt {
 
@@ -67,7 +68,12 @@ void ComboView::Draw() {
     }
     if (own_->currentIndex() != model_.Index()) own_->setCurrentIndex(model_.Index());
     const QString text = ToQt(model_.Text());
-    if (model_.IsEditable() && own_->currentText() != text) own_->setEditText(text);
+    if (!model_.IsEditable()) return;
+    if (own_->currentText() != text) own_->setEditText(text);
+    if (const auto from = model_.SelectedFrom()) {
+        const auto start = static_cast<int>(ToQt(Substring(model_.Text(), 1, *from)).size());
+        own_->lineEdit()->setSelection(start, static_cast<int>(text.size()) - start);
+    }
 }
 
 QSize KeyedList::sizeHint() const {

@@ -147,6 +147,11 @@ bool ComboBox::UserKey(Key& key) {
     if (!IsUsable() || !IsEditable() || key.control || key.alt) return false;
     std::u32string points = ToPoints(Text());
     const bool selected = selectedFrom_ && *selectedFrom_ < points.size();
+    if (selected && (key.name == "End" || key.name == "Right")) {
+        selectedFrom_.reset(); // takes up what is proposed
+        Changed();
+        return true;
+    }
     if (selected) points.resize(*selectedFrom_);
     if (key.name == "Backspace" || (selected && key.name == "Delete")) {
         if (!selected && !points.empty()) points.pop_back();

@@ -227,6 +227,11 @@ TEST_F(MakeFormTest, TypingInTheListOfJournalsCompletesIt) {
         EXPECT_EQ(journal.Text(), "J. Ph") << "what is pasted stays as it is";
         Set(opened, "cboJournal", "");
         EXPECT_EQ(journal.Text(), "SELECT OR TYPE JOURNAL TITLE HERE");
+        journal.SetFocus();
+        journal.UserEdited("SELECT OR TYPE XJOURNAL TITLE HERE");
+        EXPECT_EQ(journal.Text(), "X") << "typed with the caret inside the prompt";
+        Type(journal, "y");
+        EXPECT_EQ(journal.Text(), "Xy");
         opened.UserKey(ui::ParseKey("Escape"));
     });
     document.txtSource.UserClick();
