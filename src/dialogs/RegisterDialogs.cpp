@@ -13,6 +13,7 @@
 #include "dialogs/frmProperty.h"
 #include "dialogs/frmRef.h"
 #include "dialogs/frmSample.h"
+#include "dialogs/frmSingle.h"
 #include "dialogs/frmSubst.h"
 
 namespace vexora {
@@ -21,6 +22,7 @@ void RegisterDialogs(ui::Forms& forms) {
     forms.Register<frmKey>("frmKey");
     forms.Register<frmProperty>("frmProperty");
     forms.Register<frmSample>("frmSample");
+    forms.Register<frmSingle>("frmSingle");
     forms.Register<frmSubst>("frmSubst");
     forms.Register<frmDocument>("frmDocument");
     forms.Register<frmAuthor>("frmAuthor");

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "chem/clsMethod.h"
-#include "dialogs/frmKey.h"
-#include "dialogs/frmProperty.h"
+#include "dialogs/RegisterDialogs.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "support/DocumentFixture.h"
@@ -48,8 +47,7 @@ protected:
         EXPECT_EQ(
             globals.Databases.OpenBoth(share + "/VXRLocal.mdb", share + "/VXR.mdb").value_or(""),
             "");
-        forms.Register<frmKey>("frmKey");
-        forms.Register<frmProperty>("frmProperty");
+        RegisterDialogs(forms);
         globals.DataContext = "Pure";
         globals.CurrentMethod = std::make_shared<clsMethod>();
     }

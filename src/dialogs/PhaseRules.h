@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+/// Phase codes that a single value may state, place by place; a place with an empty list is not
+/// used.
+struct PhaseOffer {
+    std::vector<std::string> Phase1, Phase2, Phase3;
+};
+
+/// The phases offered for a property: a saturation property stands between a condensed phase and
+/// gas, a transition between two condensed ones, a melting point under air between three; all else
+/// has any one phase of pure compounds. A value at a fixed variable (variableCount 1) states one
+/// phase only. phase1 is the one chosen, which cannot be the second as well.
+PhaseOffer OfferPhases(std::string_view propertyCode, int variableCount,
+                       std::string_view phase1 = {});
+
+} // namespace vexora

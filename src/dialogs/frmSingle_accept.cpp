@@ -1,0 +1,179 @@
+#include "dialogs/frmSingle.h"
+
+#include "chem/CommentTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+std::string DateText(const ui::Date& date) {
+    return std::to_string(date.month) + "/" + std::to_string(date.day) + "/" +
+           std::to_string(date.year);
+}
+
+} // namespace
+
+void frmSingle::Accept() {
+    if (stored_) {
+        Close();
+        return;
+    }
+    if (!Check()) return;
+    Store();
+    if (editing_) {
+        Close();
+        return;
+    }
+    const ui::FillingScope filling(*this);
+    txtValue.Text("");
+    ProposeSetNumber();
+    cmdAccept.Caption("Done");
+    stored_ = true;
+    txtValue.SetFocus();
+}
+
+bool frmSingle::Refuse(ui::Control& control, const std::string& text, const std::string& title) {
+    ui::Say(text, title);
+    control.SetFocus();
+    return false;
+}
+
+bool frmSingle::Check() {
+    const KVOGlobal& globals = Globals();
+    if (globals.PropertyCode.empty() || !globals.CurrentProperty)
+        return Refuse(cmdMethod, "Please review the property selection");
+    if (!Sample()) return Refuse(cboSample, "Select the sample");
+    return CheckPhases() && CheckVariable() && CheckValue();
+}
+
+bool frmSingle::CheckPhases() {
+    for (ui::ComboBox* list : {&lstPhase1, &lstPhase2, &lstPhase3}) {
+        if (list->Enabled() && list->Index() < 0)
+            return Refuse(*list, "Select the phase", "Phase of the substance");
+    }
+    return true;
+}
+
+bool frmSingle::CheckVariable() {
+    if (!IsFixed()) return true;
+    txtIndVariable.Text(NormalizeNumber(txtIndVariable.Text()));
+    if (!IsNumeric(txtIndVariable.Text()))
+        return Refuse(txtIndVariable, "Enter the value of independent variable");
+    if (lstVariable_Unit.Index() < 0)
+        return Refuse(lstVariable_Unit, "Select units for the independent variable");
+    clsProperty& item = *Globals().CurrentProperty->NextItem;
+    item.Text = txtIndVariable.Text();
+    item.ConversionCode =
+        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
+    bool ok = true;
+    item.Convert(ok, 0);
+    if (!ok) txtIndVariable.SetFocus();
+    return ok;
+}
+
+bool frmSingle::CheckValue() {
+    constexpr const char* illegal = "Illegal property value";
+    txtValue.Text(NormalizeNumber(txtValue.Text()));
+    if (!IsNumeric(txtValue.Text())) return Refuse(txtValue, "Enter the property value", illegal);
+    if (!CheckUnit()) return false;
+    clsProperty& head = *Globals().CurrentProperty;
+    head.Text = txtValue.Text();
+    bool ok = true;
+    head.Convert(ok, MolarMass());
+    return ok || Refuse(txtValue, "Invalid property value");
+}
+
+/// A value whose unit cannot be converted is never stored.
+bool frmSingle::CheckUnit() {
+    const clsProperty& head = *Globals().CurrentProperty;
+    if (head.Factor > 0) return true;
+    const std::string& code = head.ConversionCode;
+    if (code == "*" || !IsKnownConversion(code) || ConversionFactor(code) <= 0)
+        return Refuse(cmdMethod, "Invalid conversion factor");
+    if (IsMassBased(code) && MolarMass() <= 0)
+        return Refuse(txtValue, "Molar mass of the compound is not known");
+    return true;
+}
+
+void frmSingle::Store() {
+    KVOGlobal& globals = Globals();
+    const auto record = editing_ ? globals.CurrentZ : std::make_shared<clsZ>();
+    StoreValues(*record);
+    StoreHeader(*record);
+    if (!editing_) record->AttachTo(*Sample());
+    globals.CurrentZ = record;
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+/// Who added a record, and when, stays as it was when it is edited.
+void frmSingle::StoreHeader(clsZ& record) const {
+    const KVOGlobal& globals = Globals();
+    clsA& header = record.Header;
+    if (!editing_) {
+        header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
+        header.COMPILER = globals.CompilerCode;
+        header.CONTRIBUTOR = globals.ContributorCode;
+        header.DATEADDED = DateText(ui::TheDesktop().Today());
+    }
+    header.EXPPURPOSE = globals.ExpPurpose;
+    header.PRPFLAG = globals.PropertyFlags;
+    const bool asked = frmConstraint.Visible();
+    const std::string state = asked && optFP.Value() ? "FP" : asked && optPB.Value() ? "PB" : "";
+    header.DATACOMMENT = BuildComment(txtComment.Text(), *globals.CurrentProperty, state);
+}
+
+void frmSingle::StoreValues(clsZ& record) const {
+    const KVOGlobal& globals = Globals();
+    const bool original = globals.OriginalUnits;
+    record.nVar = globals.VariableCount;
+    record.SMPNM = Sample()->SMPNM;
+    record.PRPCODE = row_.Code;
+    record.PRPSETNO = txtPrpSetNo.Text();
+    record.isOriginalUnit = original;
+    record.Factor = original ? globals.CurrentMethod->Factor : 0;
+    record.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    record.PHASE1 = ChosenPhase(lstPhase1);
+    record.PHASE2 = IsFixed() ? "&" : ChosenPhase(lstPhase2);
+    record.PHASE3 = IsFixed() ? "&" : ChosenPhase(lstPhase3);
+    if (row_.Code == "TBN") record.PHASE3 = "&";
+    if (row_.Code == "TMN") record.PHASE3 = "air";
+    record.PRPVALUE = txtValue.Text();
+    record.UX[0].N = 0;
+    record.UX[0].PRPCODE = row_.Code;
+    record.UX[0].PHASE = record.PHASE1;
+    if (!IsFixed()) return;
+    record.INDVARIABLE = txtIndVariable.Text();
+    if (original || record.VARIABLE_UNIT.empty())
+        record.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
+    record.UX[1].N = 1;
+    record.UX[1].PRPCODE = variable_;
+    record.UX[1].PHASE = record.PHASE1;
+}
+
+/// Of the compound in hand [g/mol]; a record read from a file may bring its own where the formula
+/// gives none.
+double frmSingle::MolarMass() const {
+    const auto compound = Compound();
+    const double mass = compound ? MolarMassOfRN(compound->RN) : 0;
+    if (mass > 0 || !editing_) return mass;
+    return Globals().CurrentZ->FallbackMolarMass;
+}
+
+std::string frmSingle::ChosenPhase(const ui::ComboBox& list) const {
+    if (list.Index() < 0) return "&";
+    const std::string code = PhaseCode(list.Chosen());
+    return code.empty() ? list.Chosen() : code; // a code that no table knows was shown as it is
+}
+
+} // namespace vexora

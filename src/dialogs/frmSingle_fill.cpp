@@ -1,0 +1,259 @@
+#include "dialogs/frmSingle.h"
+
+#include <algorithm>
+
+#include "chem/CommentTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "dialogs/PhaseRules.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+/// Fills a list with the names of phases and keeps the one chosen where it is still offered; one
+/// phase alone is chosen by itself.
+void OfferPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
+    const std::string chosen = list.Chosen();
+    std::vector<std::string> names;
+    for (const std::string& code : codes)
+        names.push_back(PhaseName(code));
+    list.Enabled(!names.empty());
+    if (names != list.Items()) {
+        list.Assign(std::move(names));
+        list.Choose(chosen);
+    }
+    if (list.Count() == 1) list.Index(0);
+}
+
+/// A phase that a file has although it is not offered is shown all the same.
+void ChoosePhase(ui::ComboBox& list, std::string_view code) {
+    if (IsBlankField(code)) return;
+    std::string name = PhaseName(code);
+    if (name.empty()) name = code;
+    if (list.Find(name) < 0) list.Add(name);
+    list.Choose(name);
+}
+
+} // namespace
+
+void frmSingle::FillCompounds() {
+    const KVOGlobal& globals = Globals();
+    cboSubst.Clear();
+    if (!globals.CurrentR) return;
+    for (const auto& compound : globals.CurrentR->recL)
+        cboSubst.Add(compound->ShowKey());
+    cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
+    FillSamples();
+    if (globals.CurrentS) {
+        if (const auto compound = Compound())
+            cboSample.Index(static_cast<int>(compound->recS.Position(globals.CurrentS.get())) - 1);
+    }
+    UseSample(cboSample.Index());
+}
+
+void frmSingle::FillSamples() {
+    const ui::FillingScope filling(*this);
+    cboSample.Clear();
+    sample_ = -1;
+    const auto compound = Compound();
+    if (!compound) return;
+    for (const auto& sample : compound->recS)
+        cboSample.Add(sample->SMPNM);
+    if (ui::Forms::Current().Knows("frmSample")) cboSample.Add("New");
+    if (compound->recS.Count() == 1) cboSample.Index(0);
+    UseSample(cboSample.Index());
+}
+
+/// The sample dialog is a link of the chain behind this one.
+void frmSingle::NewSample() {
+    KVOGlobal& globals = Globals();
+    const auto compound = Compound();
+    const std::size_t before = compound->recS.Count();
+    const int chosen = sample_;
+    globals.CurrentL = compound;
+    globals.OpenForms.push_back(Name());
+    ui::Forms::Current().Get("frmSample").ShowModal();
+    FillSamples();
+    const ui::FillingScope filling(*this);
+    const std::size_t count = compound->recS.Count();
+    if (count > before) {
+        const auto made = compound->recS.Item(count);
+        const auto found = compound->FindS(static_cast<int>(Val(made->SMPNM)));
+        if (!found) ui::Say("Sample internal error");
+        cboSample.Index(found ? static_cast<int>(count) - 1 : -1);
+    } else {
+        cboSample.Index(chosen);
+    }
+    UseSample(cboSample.Index());
+}
+
+void frmSingle::UseSample(int index) {
+    KVOGlobal& globals = Globals();
+    sample_ = index;
+    const auto compound = Compound();
+    const auto sample = Sample();
+    globals.CurrentMethod->MMass = MolarMass();
+    globals.CurrentMethod->Purity = sample ? sample->Purity : 0;
+    if (editing_) return;
+    if (sample) {
+        globals.CurrentL = compound;
+        globals.CurrentS = sample;
+    }
+    ProposeSetNumber();
+}
+
+/// Brings the form in line with the property in force.
+void frmSingle::ShowProperty() {
+    const KVOGlobal& globals = Globals();
+    const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
+    row_ = row.value_or(PropertyRow());
+    if (!row) row_.Code = row_.Property = globals.PropertyCode;
+    Caption((editing_ ? "Edit: " : "") + row_.Property +
+            (IsFixed() ? " at fixed conditions" : " as single valued property"));
+    ShowVariable();
+    ShowPhases();
+    ShowUnit();
+    const std::string& code = row_.Code;
+    frmConstraint.Visible(code == "PV" || code == "TB" || code == "HVP");
+    ProposeSetNumber();
+}
+
+/// The variable is the last item of the property chain; it is the one that the property fixes.
+void frmSingle::ShowVariable() {
+    const KVOGlobal& globals = Globals();
+    frmIndVar.Visible(IsFixed());
+    variable_ = IsFixed() ? IndVarFixed(row_.Code) : std::string();
+    if (!IsFixed() || !globals.CurrentProperty) return;
+    const VariableRow row = FindVariable(variable_).value_or(VariableRow());
+    variableUnit_ = row.Unit;
+    frmIndVar.Caption("Independent variable: " + row.IndVariable);
+    const std::string chosen = lstVariable_Unit.Chosen();
+    lstVariable_Unit.Assign(globals.OriginalUnits ? UnitList(row.Unit) : FixedUnitList(row.Unit));
+    lstVariable_Unit.Index(lstVariable_Unit.Count() == 1 ? 0 : lstVariable_Unit.Find(chosen));
+    clsProperty& head = *globals.CurrentProperty;
+    if (!head.isLast && head.NextItem && head.NextItem->PropertyCode == variable_) return;
+    head.NextItem = std::make_shared<clsProperty>();
+    head.NextItem->PropertyCode = variable_;
+    head.NextItem->Relation = "A";
+    head.NextItem->Name = row.Unit == "1" ? row.IndVariable : row.IndVariable + ", " + row.Unit;
+    head.isLast = false;
+}
+
+void frmSingle::ShowPhases() {
+    const int count = Globals().VariableCount;
+    const ui::FillingScope filling(*this);
+    const auto phaseOf = [this](const ui::ComboBox& list) { return ChosenPhase(list); };
+    const std::string first = phaseOf(lstPhase1);
+    const PhaseOffer offer = OfferPhases(row_.Code, count, first);
+    OfferPhaseList(lstPhase1, OfferPhases(row_.Code, count).Phase1);
+    OfferPhaseList(lstPhase2, offer.Phase2);
+    OfferPhaseList(lstPhase3, offer.Phase3);
+}
+
+void frmSingle::ShowUnit() {
+    lblUnit.Caption(Globals().PropertyText);
+}
+
+/// The number of a record that keeps its property does not change.
+void frmSingle::ProposeSetNumber() {
+    const KVOGlobal& globals = Globals();
+    const auto sample = Sample();
+    if (!sample || row_.Code.empty()) {
+        txtPrpSetNo.Text("");
+    } else if (editing_ && globals.CurrentZ->PRPCODE == row_.Code) {
+        txtPrpSetNo.Text(globals.CurrentZ->PRPSETNO);
+    } else {
+        txtPrpSetNo.Text(std::to_string(sample->NextSetNumber(row_.Code, globals.VariableCount)));
+    }
+}
+
+/// Puts what a record holds into the context, as if the property had just been chosen.
+void frmSingle::TakeRecord(const clsZ& record) {
+    KVOGlobal& globals = Globals();
+    clsMethod& method = *globals.CurrentMethod;
+    const auto found = FindProperty(record.PRPCODE, globals.DataContext);
+    PropertyRow row = found.value_or(PropertyRow());
+    if (!found) row.Property = record.PRPCODE;
+    globals.PropertyCode = record.PRPCODE;
+    globals.PropertyUnit = record.PROPERTY_UNIT;
+    globals.OriginalUnits = record.isOriginalUnit;
+    globals.VariableCount = record.nVar;
+    globals.ExpPurpose = record.Header.EXPPURPOSE;
+    globals.PropertyFlags = record.Header.PRPFLAG;
+    method.Factor = record.Factor;
+    globals.PropertyText = record.isOriginalUnit
+                               ? UnitText(row, record.PROPERTY_UNIT, record.Factor)
+                               : UnitText(row, "S", 0);
+    globals.CurrentProperty = std::make_shared<clsProperty>();
+    clsProperty& head = *globals.CurrentProperty;
+    head.PropertyCode = record.PRPCODE;
+    head.ConversionCode = record.isOriginalUnit ? record.PROPERTY_UNIT : "S";
+    head.Factor = record.isOriginalUnit ? record.Factor : 0;
+    head.Relation = "A";
+    head.Name = PropertyInWords(row);
+    head.Text = record.PRPVALUE;
+    head.Value = Val(record.PRPVALUE);
+}
+
+/// Takes the comment apart: state, free-text method, tags, and the operator's text for the box.
+void frmSingle::TakeComment(const clsZ& record) {
+    KVOGlobal& globals = Globals();
+    clsMethod& method = *globals.CurrentMethod;
+    std::string comment = record.Header.DATACOMMENT;
+    const std::string state = TakeState(comment);
+    optPB.Value(state == "PB");
+    optFP.Value(state == "FP");
+    comment = TakeSMethod(comment);
+    method.Method.clear();
+    method.KeySaved = CommentTagPart(comment);
+    SplitCommentTags();
+    DecodePrecisionTags(*globals.CurrentProperty);
+    txtComment.Text(CommentText(comment));
+}
+
+void frmSingle::ShowRecord(const clsZ& record) {
+    TakeComment(record);
+    ChoosePhase(lstPhase1, record.PHASE1);
+    ShowPhases();
+    if (record.nVar == 0) {
+        ChoosePhase(lstPhase2, record.PHASE2);
+        ChoosePhase(lstPhase3, record.PHASE3);
+    }
+    txtIndVariable.Text(record.INDVARIABLE);
+    if (IsSystemUnit(record.VARIABLE_UNIT)) {
+        lstVariable_Unit.Index(0);
+    } else if (record.isOriginalUnit) {
+        std::string code = record.VARIABLE_UNIT;
+        lstVariable_Unit.Choose(ConversionText(code, variableUnit_));
+    }
+    txtValue.Text(record.PRPVALUE);
+}
+
+std::shared_ptr<clsL> frmSingle::Compound() const {
+    const KVOGlobal& globals = Globals();
+    if (!globals.CurrentR || cboSubst.Index() < 0) return nullptr;
+    return globals.CurrentR->recL.Item(static_cast<std::size_t>(cboSubst.Index() + 1));
+}
+
+std::shared_ptr<clsS> frmSingle::Sample() const {
+    const auto compound = Compound();
+    if (!compound || cboSample.Index() < 0) return nullptr;
+    return compound->recS.Item(static_cast<std::size_t>(cboSample.Index() + 1));
+}
+
+bool frmSingle::IsFixed() const {
+    return Globals().VariableCount == 1;
+}
+
+} // namespace vexora
