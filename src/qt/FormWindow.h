@@ -51,6 +51,7 @@ private:
     void MakeToolbars();
     void AddMenuItem(ui::MenuItem& item);
     void DrawMenuItem(ui::MenuItem& item);
+    void AddRecentMenu();
     void Arrange();
     void TakeFirstSize();
     void Listen();

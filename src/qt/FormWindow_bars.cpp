@@ -1,11 +1,15 @@
 #include "qt/FormWindow.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
 
+#include "qt/RecentFiles.h"
 #include "qt/Text.h"
+#include "qt/Windows.h"
 
 namespace vexora::qt {
 
@@ -14,6 +18,31 @@ void FormWindow::MakeMenus() {
         if (control->Kind() != ui::ControlKind::MenuItem) continue;
         AddMenuItem(static_cast<ui::MenuItem&>(*control));
     }
+    AddRecentMenu();
+}
+
+// A document picked here is opened as if its file had been dropped on the tree.
+void FormWindow::AddRecentMenu() {
+    const auto& controls = form_.Controls();
+    const auto tree = std::find_if(controls.begin(), controls.end(), [](const auto* control) {
+        return control->Kind() == ui::ControlKind::TreeView;
+    });
+    if (!windows_.Recent || tree == controls.end() || menuBar()->actions().isEmpty()) return;
+    QMenu* first = menuBar()->actions().constFirst()->menu();
+    auto& target = static_cast<ui::TreeView&>(**tree);
+    if (!first || !target.OnDrop) return;
+    auto* menu = new QMenu(tr("Open &recent"), this);
+    const QList<QAction*> entries = first->actions();
+    first->insertMenu(entries.isEmpty() ? nullptr : entries.constLast(), menu);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, &target] {
+        menu->clear();
+        for (const QString& file : windows_.Recent->Present()) {
+            menu->addAction(Literal(FromQt(file)), this, [this, file, &target] {
+                Perform([&] { target.UserDrop(FromQt(file)); });
+            });
+        }
+        if (menu->isEmpty()) menu->addAction(tr("None"))->setEnabled(false);
+    });
 }
 
 // A parent is declared before its entries, so its action stands already.

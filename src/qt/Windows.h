@@ -15,6 +15,8 @@ class QSettings;
 
 namespace vexora::qt {
 
+class RecentFiles;
+
 /// The windows of all open forms. It follows the registry of forms in force and shows, hides and
 /// drops windows as the forms come and go. A front makes one and keeps it.
 class Windows {
@@ -38,6 +40,8 @@ public:
     std::function<void(std::exception_ptr)> OnFault;
     /// Where sizes and places of windows are kept, null for nowhere.
     QSettings* Settings = nullptr;
+    /// The documents opened last, for a menu; null for none.
+    RecentFiles* Recent = nullptr;
 
 private:
     struct Watch; // its end tells that the registry has gone

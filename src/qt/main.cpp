@@ -1,3 +1,101 @@
-int main() {
-    return 0;
+#include <algorithm>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QTimer>
+
+#include "host/FindPlaces.h"
+#include "host/PlayMain.h"
+#include "host/WorkbenchProgram.h"
+#include "qt/Application.h"
+#include "qt/Look.h"
+#include "qt/QtActor.h"
+#include "qt/RunInteractive.h"
+
+namespace {
+
+constexpr const char* usage =
+    "vexora [--home DIR] [--look dark|light] [DOCUMENT]\n"
+    "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--shots DIR]\n"
+    "vexora --help | --version\n";
+
+struct Request {
+    std::optional<std::string> home;
+    std::string look;
+    std::string document;
+    std::vector<std::string> play; // what is meant for the player
+    bool plays = false;
+    bool malformed = false;
+};
+
+/// Takes "--name VALUE" or "--name=VALUE" off the list.
+std::optional<std::string> TakeOption(std::vector<std::string>& words, const std::string& name) {
+    for (auto word = words.begin(); word != words.end(); ++word) {
+        std::optional<std::string> value;
+        if (word->starts_with(name + "=")) {
+            value = word->substr(name.size() + 1);
+            words.erase(word);
+        } else if (*word == name && word + 1 != words.end()) {
+            value = *(word + 1);
+            words.erase(word, word + 2);
+        }
+        if (value) return value;
+    }
+    return {};
+}
+
+Request Read(std::vector<std::string> words) {
+    Request request;
+    const char* look = std::getenv("VEXORA_LOOK");
+    request.look = TakeOption(words, "--look").value_or(look ? look : "");
+    const auto play = std::find(words.begin(), words.end(), "--play");
+    if (play != words.end()) {
+        request.plays = true;
+        words.erase(play);
+        request.play = words;
+        return request;
+    }
+    request.home = TakeOption(words, "--home");
+    if (!words.empty()) request.document = words.front();
+    request.malformed = words.size() > 1 || request.document.starts_with("-");
+    return request;
+}
+
+int Play(const Request& request, const std::string& argv0) {
+    int status = 0;
+    QTimer::singleShot(0, qApp, [&] {
+        vexora::qt::QtActor actor;
+        status = vexora::host::PlayMain(
+            request.play, {actor, std::cout, std::cerr, argv0, vexora::host::WorkbenchIn});
+        QCoreApplication::exit(status);
+    });
+    QApplication::setQuitOnLastWindowClosed(false);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    const std::vector<std::string> first(arguments + 1, arguments + count);
+    if (std::find(first.begin(), first.end(), "--help") != first.end()) {
+        std::cout << usage;
+        return 0;
+    }
+    if (std::find(first.begin(), first.end(), "--version") != first.end()) {
+        std::cout << "vexora " VEXORA_VERSION "\n";
+        return 0;
+    }
+    vexora::qt::Application application(count, arguments);
+    // The toolkit has taken its own options off by now.
+    const Request request = Read({arguments + 1, arguments + count});
+    if (request.malformed) {
+        std::cerr << usage;
+        return 2;
+    }
+    vexora::qt::TakeLook(request.look);
+    if (request.plays) return Play(request, arguments[0]);
+    const auto places = vexora::host::FindPlaces(request.home, arguments[0]);
+    return vexora::qt::RunInteractive(application, places, request.document);
 }

@@ -1,0 +1,85 @@
+#include "qt/RunInteractive.h"
+
+#include <QMessageBox>
+#include <QSettings>
+#include <QThread>
+#include <QTimer>
+
+#include "host/PosixFileSystem.h"
+#include "qt/QtDesktop.h"
+#include "qt/RecentFiles.h"
+#include "qt/Text.h"
+#include "qt/Windows.h"
+#include "shell/Places.h"
+
+namespace vexora::qt {
+
+namespace {
+
+void Tell(const std::exception_ptr& fault) {
+    QMessageBox::critical(QApplication::activeWindow(), QStringLiteral("Vexora"),
+                          QStringLiteral("The program has made a mistake: ") + FaultText(fault) +
+                              QStringLiteral("\nThe document is still open and can be saved."));
+}
+
+/// The workbench with its windows, from the first event to the close of the main window.
+class Run {
+public:
+    Run(Application& application, const Places& places)
+        : settings_(ToQt(places.Home) + QStringLiteral("/windows.ini"), QSettings::IniFormat),
+          recent_(settings_), desktop_(windows_, files_, {places.Home, places.Installed}),
+          workbench_(desktop_, places), application_(application) {
+        windows_.Settings = &settings_;
+        windows_.Recent = &recent_;
+        windows_.OnFault = application.OnFault = Tell;
+        windows_.Follow();
+        desktop_.OnChosen = [this](const std::string& path) { recent_.Add(path); };
+        workbench_.Forms().Closed.Connect([this](ui::Form&) { TidyLater(); });
+    }
+
+    ~Run() { application_.OnFault = nullptr; }
+
+    void Start(const std::string& document) {
+        if (!workbench_.Start(document)) return QCoreApplication::quit();
+        if (!document.empty()) recent_.Add(document);
+    }
+
+private:
+    void TidyLater() {
+        QTimer::singleShot(0, &application_, [this] { Tidy(); });
+    }
+
+    // A handler of a closed form may still wait below a nested event loop.
+    void Tidy() {
+        if (QThread::currentThread()->loopLevel() > 1) {
+            QTimer::singleShot(200, &application_, [this] { Tidy(); });
+            return;
+        }
+        workbench_.Forms().DropClosed();
+        if (!workbench_.IsRunning()) QCoreApplication::quit();
+    }
+
+    host::PosixFileSystem files_;
+    QSettings settings_;
+    RecentFiles recent_;
+    Windows windows_;
+    QtDesktop desktop_;
+    Workbench workbench_;
+    Application& application_;
+};
+
+} // namespace
+
+int RunInteractive(Application& application, const Places& places, const std::string& document) {
+    host::PosixFileSystem files;
+    if (const std::string error = PrepareHome(places, files); !error.empty()) {
+        QMessageBox::critical(nullptr, QStringLiteral("Vexora"), ToQt(error));
+        return 1;
+    }
+    QApplication::setQuitOnLastWindowClosed(false);
+    Run run(application, places);
+    QTimer::singleShot(0, &application, [&] { run.Start(document); });
+    return QApplication::exec();
+}
+
+} // namespace vexora::qt
