@@ -63,6 +63,10 @@ void FormWindow::Arrange() {
 void FormWindow::TakeFirstSize() {
     const QFontMetrics metrics(font());
     QSize size = sizeHint().expandedTo(minimumSizeHint());
+    constexpr int leastColumns = 60; // fields for paths and names want room
+    if (GrowsAcross(form_.Arrangement)) {
+        size.setWidth(std::max(size.width(), metrics.averageCharWidth() * leastColumns));
+    }
     if (form_.PreferredColumns > 0) {
         size.setWidth(std::max(size.width(), metrics.averageCharWidth() * form_.PreferredColumns));
     }

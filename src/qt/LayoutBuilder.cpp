@@ -30,6 +30,10 @@ bool IsToggle(const ui::Layout& layout) {
                                          layout.control->Kind() == ControlKind::OptionButton);
 }
 
+bool IsBar(const ui::Layout& layout) {
+    return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Toolbar;
+}
+
 bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
     return std::any_of(layout.parts.begin(), layout.parts.end(), test);
 }
@@ -147,6 +151,7 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
     bool grows = false;
     bool loose = false; // the room left over stands above a closing button row
     for (const ui::Layout& part : parts) {
+        if (IsBar(part)) continue;
         const bool last = &part == &parts.back();
         if (last && !grows && part.kind == Kind::Buttons) {
             grid->setRowStretch(row++, 1);
@@ -186,7 +191,7 @@ QWidget* LayoutBuilder::LabelOf(const ui::Layout& field, QWidget* part) {
     if (field.label) {
         label = MakeItem(*field.label);
     } else {
-        auto* plain = new QLabel(ToQt(field.text), &window_);
+        auto* plain = new QLabel(ToQt(field.text).simplified(), &window_);
         plain->setTextFormat(Qt::PlainText);
         const auto mark = field.text.find('&');
         const bool mnemonic = mark != std::string::npos && mark + 1 < field.text.size() &&

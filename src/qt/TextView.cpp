@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include <QApplication>
 #include <QEvent>
 
 #include "qt/FormWindow.h"
@@ -12,6 +13,25 @@
 namespace vexora::qt {
 
 namespace {
+
+/// Asks for a few lines only; where there is room it grows.
+class LinesEdit : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+    QSize sizeHint() const override {
+        const QFontMetrics metrics = fontMetrics();
+        return {metrics.averageCharWidth() * 50, metrics.lineSpacing() * 5};
+    }
+};
+
+// What cannot be typed into looks like the window around it.
+void ShadeIfLocked(QWidget& widget, bool locked) {
+    QPalette palette;
+    if (locked) palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
+    if (widget.palette().color(QPalette::Base) != palette.color(QPalette::Base)) {
+        widget.setPalette(palette);
+    }
+}
 
 bool IsMove(const ui::Key& key, bool manyLines) {
     const std::string& name = key.name;
@@ -54,6 +74,7 @@ void TextView::Draw() {
         end > start ? WidgetSelectionStart() == start && WidgetSelectionLength() == end - start
                     : WidgetCaret() == start && WidgetSelectionLength() == 0;
     if (!same) PutSelection(start, end - start);
+    ShadeIfLocked(*Widget(), model_.Locked() && !model_.OnClick);
     Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
                                                           : Qt::IBeamCursor);
 }
@@ -124,8 +145,7 @@ void LineView::ReplaceAll(const QString& text) {
 }
 
 LinesView::LinesView(FormWindow& window, ui::TextBox& box)
-    : TextView(window, box, new QPlainTextEdit(&window)),
-      own_(static_cast<QPlainTextEdit*>(Widget())) {
+    : TextView(window, box, new LinesEdit(&window)), own_(static_cast<QPlainTextEdit*>(Widget())) {
     Watch(own_->viewport());
     own_->setTabChangesFocus(true);
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 4);
