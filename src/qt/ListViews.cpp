@@ -7,7 +7,6 @@
 
 #include "qt/FormWindow.h"
 #include "qt/Text.h"
-#include "reference/Text.h"
 
 namespace vexora::qt {
 
@@ -37,7 +36,7 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     if (!combo.IsEditable()) return;
     own_->setCompleter(nullptr);
     QObject::connect(own_, &QComboBox::editTextChanged, this, [this](const QString& text) {
-        if (IsDrawing() || text == ToQt(model_.Text())) return;
+        if (IsDrawing()) return;
         // Picked from the list: that comes by another signal.
         const int row = own_->currentIndex();
         if (row >= 0 && row != model_.Index() && own_->itemText(row) == text) return;
@@ -68,12 +67,17 @@ void ComboView::Draw() {
     }
     if (own_->currentIndex() != model_.Index()) own_->setCurrentIndex(model_.Index());
     const QString text = ToQt(model_.Text());
-    if (!model_.IsEditable()) return;
-    if (own_->currentText() != text) own_->setEditText(text);
-    if (const auto from = model_.SelectedFrom()) {
-        const auto start = static_cast<int>(ToQt(Substring(model_.Text(), 1, *from)).size());
-        own_->lineEdit()->setSelection(start, static_cast<int>(text.size()) - start);
-    }
+    if (model_.IsEditable() && own_->currentText() != text) own_->setEditText(text);
+    DrawSelection(text);
+}
+
+void ComboView::DrawSelection(const QString& text) {
+    if (!model_.IsEditable() || !model_.SelectedFrom()) return;
+    const int start = PositionAfter(text, *model_.SelectedFrom());
+    QLineEdit* line = own_->lineEdit();
+    const int length = static_cast<int>(text.size()) - start;
+    if (line->selectionStart() == start && line->selectionLength() == length) return;
+    line->setSelection(start, length);
 }
 
 QSize KeyedList::sizeHint() const {

@@ -25,6 +25,8 @@ protected:
     void Draw() override;
 
 private:
+    void DrawSelection(const QString& text);
+
     std::vector<std::string> shown_;
 };
 
