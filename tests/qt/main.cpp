@@ -8,6 +8,7 @@ int main(int count, char** arguments) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&count, arguments);
     QApplication application(count, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
     std::setlocale(LC_NUMERIC, "C");
     int status = 0;
