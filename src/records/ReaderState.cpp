@@ -197,19 +197,24 @@ bool IsNewSet(ReaderState& state, const clsS& sample, const clsZ& value) {
     return entry->second.insert(SetKey(value)).second;
 }
 
+/// Where the read stands, as messages name it: source and compound, one a line.
+std::string PlaceOfRead() {
+    const KVOGlobal& globals = Globals();
+    return (globals.CurrentR ? globals.CurrentR->Source() : std::string()) + "\n" +
+           (globals.CurrentL ? globals.CurrentL->RN : std::string()) + "\n";
+}
+
 void ReadValue(ReaderState& state, std::string_view line) {
     if (!state.inPure) return PassOver(state);
     KVOGlobal& globals = Globals();
     auto value = std::make_shared<clsZ>();
     value->Line = state.lineNumber;
     if (!value->Load(line)) return state.Abandon(Incomplete(line));
-    const std::string place = (globals.CurrentR ? globals.CurrentR->Source() : std::string()) +
-                              "\n" + (globals.CurrentL ? globals.CurrentL->RN : std::string()) +
-                              "\n";
     const auto sample = SampleOf(state, value->SMPNM);
-    if (!sample) return state.Abandon(place + std::string(Trim(line)), "Sample not specified");
+    if (!sample)
+        return state.Abandon(PlaceOfRead() + std::string(Trim(line)), "Sample not specified");
     if (!IsNewSet(state, *sample, *value))
-        return state.Abandon("This property set already exists\n" + place + "Sample # " +
+        return state.Abandon("This property set already exists\n" + PlaceOfRead() + "Sample # " +
                              value->SMPNM);
     value->TakePending(state.pending);
     value->AttachTo(*sample);

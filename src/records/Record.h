@@ -34,11 +34,21 @@ public:
     }
 
 protected:
-    /// Makes the node below another (null for a root) and makes it visible. Does nothing without a
-    /// tree, as when a document is read without a main form.
-    void MakeNode(ui::TreeNode* above, const std::string& text);
+    /// Makes the node below another (null for a root), labels it and makes it visible. Does nothing
+    /// without a tree, as when a document is read without a main form.
+    void MakeNode(ui::TreeNode* above);
     /// Writes ShowKey, or another text, on the node.
     void Label(const std::string& text);
+};
+
+/// While one lives, new nodes stay without a label: a read labels all of them at its end, when all
+/// that the labels tell is known.
+class LabelsLater {
+public:
+    LabelsLater();
+    ~LabelsLater();
+    LabelsLater(const LabelsLater&) = delete;
+    LabelsLater& operator=(const LabelsLater&) = delete;
 };
 
 } // namespace vexora

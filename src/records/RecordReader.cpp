@@ -2,6 +2,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/PropertyLabels.h"
 #include "records/ReaderState.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -84,7 +85,10 @@ ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
     KVOGlobal& globals = Globals();
     globals.DataContext.clear();
     ReaderState state;
-    ReadLines(text, state);
+    {
+        const LabelsLater unlabelled;
+        ReadLines(text, state);
+    }
     globals.LineBeingRead = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
@@ -110,6 +114,7 @@ std::string PrintDocument() {
 void RefreshLabels() {
     if (!Globals().tvwTree) return;
     const ui::HourglassScope hourglass;
+    const PropertyLabels labels;
     for (const auto& source : Globals().recR) {
         source->Synchronize();
         for (const auto& compound : source->recL) {

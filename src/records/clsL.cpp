@@ -58,7 +58,7 @@ void clsL::SetMe() {
 void clsL::AttachTo(clsR& source) {
     Parent = &source;
     source.recL.Add(As<clsL>(), RN);
-    if (source.tNode) MakeNode(source.tNode, ShowKey());
+    if (source.tNode) MakeNode(source.tNode);
 }
 
 bool clsL::Load(std::string_view line) {

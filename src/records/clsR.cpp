@@ -52,7 +52,7 @@ void clsR::SetMe() {
 
 void clsR::AttachTo() {
     Globals().recR.Add(As<clsR>(), Source());
-    MakeNode(nullptr, Source());
+    MakeNode(nullptr);
 }
 
 void clsR::Synchronize() {

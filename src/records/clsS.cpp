@@ -72,7 +72,7 @@ void clsS::SetMe() {
 void clsS::AttachTo(clsL& compound) {
     Parent = &compound;
     compound.recS.Add(As<clsS>(), Key());
-    if (compound.tNode) MakeNode(compound.tNode, ShowKey());
+    if (compound.tNode) MakeNode(compound.tNode);
 }
 
 void clsS::Load(std::string_view line) {

@@ -3,6 +3,7 @@
 #include "chem/CommentTags.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/PropertyLabels.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
@@ -32,16 +33,6 @@ std::string PhasesInBrief(const clsZ& value) {
         text += (text.empty() ? "" : "+") + phase;
     }
     return text;
-}
-
-std::string UnitInBrief(const clsZ& value) {
-    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
-    if (!value.isOriginalUnit) return unit;
-    if (value.Factor > 0) return "*" + NumberText(value.Factor) + " " + unit;
-    if (IsSystemUnit(value.PROPERTY_UNIT)) return unit;
-    std::string code = value.PROPERTY_UNIT;
-    const std::string text = ConversionText(code, unit);
-    return text.empty() ? value.PROPERTY_UNIT : text;
 }
 
 } // namespace
@@ -114,10 +105,9 @@ std::string clsZ::Key() const {
 }
 
 std::string clsZ::ShowKey() const {
-    std::string name = PropertyName(PRPCODE, "Pure");
-    if (name.empty()) name = PRPCODE;
-    std::string text = nVar == 0 ? "^0: " : "^F: ";
-    text += name + " (" + PhasesInBrief(*this) + "," + UnitInBrief(*this) + "), Set " + PRPSETNO;
+    const PropertyLabel label = PropertyLabels::Of(*this);
+    std::string text = (nVar == 0 ? "^0: " : "^F: ") + label.name + " (" + PhasesInBrief(*this) +
+                       "," + label.unit + "), Set " + PRPSETNO;
     if (!Header.DATACOMMENT.empty()) text += ", " + CommentDisplayText(Header.DATACOMMENT);
     return text;
 }
@@ -132,7 +122,7 @@ void clsZ::SetMe() {
 void clsZ::AttachTo(clsS& sample) {
     Parent = &sample;
     sample.recZ.Add(As<clsZ>(), Key());
-    if (sample.tNode) MakeNode(sample.tNode, ShowKey());
+    if (sample.tNode) MakeNode(sample.tNode);
 }
 
 double clsZ::SystemValue() const {

@@ -1,0 +1,51 @@
+#include "records/PropertyLabels.h"
+
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+PropertyLabels* present = nullptr;
+
+std::string UnitOf(const clsZ& value) {
+    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
+    if (!value.isOriginalUnit) return unit;
+    if (value.Factor > 0) return "*" + NumberText(value.Factor) + " " + unit;
+    if (IsSystemUnit(value.PROPERTY_UNIT)) return unit;
+    std::string code = value.PROPERTY_UNIT;
+    const std::string text = ConversionText(code, unit);
+    return text.empty() ? value.PROPERTY_UNIT : text;
+}
+
+PropertyLabel LookUp(const clsZ& value) {
+    const std::string name = PropertyName(value.PRPCODE, "Pure");
+    return {name.empty() ? value.PRPCODE : name, UnitOf(value)};
+}
+
+std::string KindOf(const clsZ& value) {
+    const std::string factor =
+        value.isOriginalUnit ? value.PROPERTY_UNIT + " " + NumberText(value.Factor) : "";
+    return value.PRPCODE + " " + factor;
+}
+
+} // namespace
+
+PropertyLabels::PropertyLabels() {
+    present = this;
+}
+PropertyLabels::~PropertyLabels() {
+    present = nullptr;
+}
+
+PropertyLabel PropertyLabels::Of(const clsZ& value) {
+    if (!present) return LookUp(value);
+    const auto [entry, isNew] = present->known_.try_emplace(KindOf(value));
+    if (isNew) entry->second = LookUp(value);
+    return entry->second;
+}
+
+} // namespace vexora

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+namespace vexora {
+
+class clsZ;
+
+/// How the property of a set and the unit of its values read in the tree.
+struct PropertyLabel {
+    std::string name;
+    std::string unit;
+};
+
+/// Looks labels up in the reference tables. While one lives, which is for a pass over all nodes,
+/// each label is looked up once; otherwise nothing is kept.
+class PropertyLabels {
+public:
+    PropertyLabels();
+    ~PropertyLabels();
+    PropertyLabels(const PropertyLabels&) = delete;
+    PropertyLabels& operator=(const PropertyLabels&) = delete;
+
+    static PropertyLabel Of(const clsZ& value);
+
+private:
+    std::unordered_map<std::string, PropertyLabel> known_;
+};
+
+} // namespace vexora
