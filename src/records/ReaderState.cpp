@@ -1,5 +1,6 @@
 #include "records/ReaderState.h"
 
+#include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/RegistryNumbers.h"
@@ -51,6 +52,8 @@ void ReadSource(ReaderState& state, std::string_view line) {
     else
         source->AttachTo();
     globals.CurrentR = source;
+    if (globals.CurrentMethod)
+        globals.CurrentMethod->Year = static_cast<std::int32_t>(ToInteger(Val(source->YEARPUB)));
     globals.CurrentL = nullptr;
     globals.CurrentS = nullptr;
 }
@@ -206,7 +209,6 @@ std::string PlaceOfRead() {
 
 void ReadValue(ReaderState& state, std::string_view line) {
     if (!state.inPure) return PassOver(state);
-    KVOGlobal& globals = Globals();
     auto value = std::make_shared<clsZ>();
     value->Line = state.lineNumber;
     if (!value->Load(line)) return state.Abandon(Incomplete(line));

@@ -62,8 +62,12 @@ void clsZ::PrintZ(LineWriter& out) {
     if (factorStands || NeedsMolarMass()) out.Line("^M 0");
     if (nVar == 1) UX[1].SaveX(out, isOriginalUnit ? VARIABLE_UNIT : "");
     UX[0].SaveX(out, "");
-    for (const clsX& other : OtherX)
-        out.Line(other.Verbatim);
+    for (const clsX& other : OtherX) {
+        if (other.Verbatim.empty())
+            other.SaveX(out, "");
+        else
+            out.Line(other.Verbatim);
+    }
 }
 
 /// Writes the factor of a unit without a letter; true when it did.
