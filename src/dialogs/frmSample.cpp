@@ -53,7 +53,7 @@ void frmSample::ArrangeControls() {
                        Field("Initial purity (if reported)", Row({txtSrcPurity, lstSrcPurity})),
                        Field("Determined by", lstSrsDetBy)}),
                 Group(fraFinal, after), ButtonRow({cmdNext, cmdAccept, cmdCancel})});
-    PreferredColumns = 90;
+    PreferredColumns = 116;
 }
 
 void frmSample::WireEvents() {

@@ -24,10 +24,10 @@ public:
 
     ui::ComboBox cboSubst{*this, "cboSubst"};
     ui::TextBox txtSampleNo{*this, "txtSampleNo"};
-    ui::ListBox lstDescAvail{*this, "lstDescAvail"};
+    ui::ComboBox lstDescAvail{*this, "lstDescAvail"};
     ui::TextBox txtSmplDescription{*this, "txtSmplDescription"};
     ui::Frame fraInitial{*this, "fraInitial", "Initial sample (before purification)"};
-    ui::ListBox lstSmpSrc{*this, "lstSmpSrc"};
+    ui::ComboBox lstSmpSrc{*this, "lstSmpSrc"};
     ui::TextBox txtSrcPurity{*this, "txtSrcPurity"};
     ui::ComboBox lstSrcPurity{*this, "lstSrcPurity"};
     ui::ComboBox lstSrsDetBy{*this, "lstSrsDetBy"};

@@ -59,11 +59,11 @@ void frmSubst::ArrangeControls() {
          Note("Use % or * symbols to indicate variable fragments of the name, for example: "
               "*qiunone"),
          Field("CAS Registry Number:", Row({txtRN2, lblDash1, txtRN1, lblDash2, txtCASD})),
-         Field("Empirical  formula (Case sensitive):", txtFormula),
+         Field("Empirical  formula (Case sensitive):", Row({txtFormula, cmdFind})),
          Note("Upper and lower case matter: type CHBr3, not Chbr3"), Field("Molar Mass:", txtMMass),
          Group(fraBio, {Field("Charge:", thtCharge), Field("EC Number:", txtEC),
                         Field("PDB Number:", txtPDB)}),
-         Row({cmdFind, Stretch()}), Field("Search results:", lstNames),
+         Field("Search results:", lstNames),
          Field("CAS Registry Number of the entry:", Row({lblRN, cmdUseRN})),
          ButtonRow({cmdAccept, cmdCancel})});
     PreferredColumns = 76;
