@@ -68,6 +68,12 @@ TLayout* Bare(QWidget* owner) {
 } // namespace
 
 bool GrowsDown(const ui::Layout& layout) {
+    // Empty room in a row keeps things apart; it makes the row no taller.
+    if (layout.kind == Kind::Row || layout.kind == Kind::Buttons) {
+        return AnyPart(layout, [](const ui::Layout& part) {
+            return part.kind != Kind::Stretch && GrowsDown(part);
+        });
+    }
     if (layout.kind == Kind::Item) return ItemGrowsDown(*layout.control);
     return layout.kind == Kind::Stretch || layout.kind == Kind::Split || AnyPart(layout, GrowsDown);
 }
@@ -221,9 +227,13 @@ QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
     bool grows = false;
     for (const ui::Layout& part : parts) {
         const bool wide = GrowsAcross(part);
-        const bool block = part.kind == Kind::Column || part.kind == Kind::Group || GrowsDown(part);
-        row->addWidget(Make(part), wide ? 1 : 0, block ? Qt::Alignment() : Qt::AlignVCenter);
         grows = grows || wide;
+        if (part.kind == Kind::Stretch) {
+            row->addStretch(1);
+            continue;
+        }
+        const bool block = part.kind == Kind::Column || part.kind == Kind::Group || GrowsDown(part);
+        row->addWidget(Make(part), 0, block ? Qt::Alignment() : Qt::AlignVCenter);
     }
     if (!grows) row->addStretch(1);
     return owner;
@@ -277,8 +287,12 @@ QWidget* LayoutBuilder::MakeButtons(const ui::Layout& layout) {
     auto* row = Bare<QHBoxLayout>(owner);
     row->setContentsMargins(0, 6, 0, 0);
     row->addStretch(1);
-    for (const ui::Layout& part : layout.parts)
-        row->addWidget(Make(part));
+    for (const ui::Layout& part : layout.parts) {
+        if (part.kind == Kind::Stretch)
+            row->addStretch(1);
+        else
+            row->addWidget(Make(part));
+    }
     return owner;
 }
 
@@ -286,7 +300,7 @@ QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
     auto* note = new QLabel(ToQt(layout.text), &window_);
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
-    note->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    note->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     return note;
 }
 

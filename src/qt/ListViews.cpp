@@ -23,6 +23,7 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     own_->setMaxVisibleItems(20);
     own_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     own_->setMinimumContentsLength(12);
+    own_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     own_->setFocusPolicy(Qt::StrongFocus); // the wheel must not change a value in passing
     own_->OnPopup = [this] {
         Act([this] { model_.UserDropDown(); });
@@ -100,7 +101,7 @@ ListView::ListView(FormWindow& window, ui::ListBox& list)
     own_->setSelectionMode(list.SelectionMode() == ui::ListBox::Mode::Multi
                                ? QAbstractItemView::MultiSelection
                                : QAbstractItemView::SingleSelection);
-    own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 4);
+    own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 3);
     if (HasChecks()) {
         QObject::connect(own_, &QListWidget::itemChanged, this, [this] { HandOver(); });
     } else if (!IsSingle()) {
@@ -167,6 +168,12 @@ void ListView::Fill() {
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
+    // A short list takes no room that others could use.
+    constexpr int shortList = 6;
+    const bool isShort = model_.Count() > 0 && model_.Count() <= shortList;
+    const int row = own_->sizeHintForRow(0);
+    const int rows = std::max(model_.Count(), 3);
+    own_->setMaximumHeight(isShort ? rows * row + 2 * own_->frameWidth() + 6 : QWIDGETSIZE_MAX);
     own_->updateGeometry();
 }
 
