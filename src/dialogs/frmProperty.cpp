@@ -27,11 +27,11 @@ void frmProperty::ArrangeControls() {
     using namespace ui;
     Arrangement = Column(
         {Field("Property group:", lstPropGroup), Field("Property:", lstProp),
-         Row({Field("Original units:", lstConv), Group(fraData, {optOriginal, optSystem})}),
-         Row({Field("Method of measurement:", lstMethod), cmdDetails}),
+         Field("Original units:", lstConv), Group(fraData, {Row({optOriginal, optSystem})}),
+         Field("Method of measurement:", Row({lstMethod, cmdDetails})),
          Field("Method description:", txtMethod), Field("Experimental purpose:", lstExpPurpose),
          Field("Uncertainty factor:", txtFactor),
-         Field("Select any applicable statements", lstNote),
+         Group("Select any applicable statements", {lstNote}),
          Field("Comment (optional)", txtComment),
          Row({Group(fraInvariant, {Row({cmdSingle, cmdFixed})}),
               Group(fraVariable, {Row({cmdOne, cmdTwo, cmdThree})})}),
