@@ -197,6 +197,15 @@ std::string CommentTagPart(std::string_view comment) {
     return at == std::string_view::npos ? std::string() : std::string(comment.substr(at));
 }
 
+std::string CommentTag(std::string_view comment, std::string_view name) {
+    const std::string tags = CommentTagPart(comment);
+    const std::string mark = ":" + std::string(name) + ":";
+    const std::size_t at = tags.find(mark);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + mark.size();
+    return std::string(Trim(std::string_view(tags).substr(from, tags.find(':', from) - from)));
+}
+
 std::string TakeState(std::string& comment) {
     for (const std::string_view tag : {":PB:", ":FP:"}) {
         const std::size_t at = comment.find(tag);

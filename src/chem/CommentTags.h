@@ -32,6 +32,8 @@ void SyncSampleFlags(std::string_view sampleDescription);
 std::string CommentText(std::string_view comment);
 /// The tags of a comment from the first "::" on, or empty.
 std::string CommentTagPart(std::string_view comment);
+/// The text of one tag of a comment, such as "Method" or "sMethod"; empty when it is not there.
+std::string CommentTag(std::string_view comment, std::string_view name);
 /// Takes the tag ":PB:" or ":FP:" out of a comment; the answer is "PB", "FP" or empty. It is to run
 /// before TakeSMethod, which would cut the colon that both tags share.
 std::string TakeState(std::string& comment);

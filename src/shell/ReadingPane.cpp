@@ -2,14 +2,18 @@
 
 #include <vector>
 
+#include "chem/CommentTags.h"
 #include "globals/KVOGlobal.h"
 #include "plot/frmBox.h"
+#include "records/PropertyLabels.h"
+#include "records/SampleDescription.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
@@ -53,19 +57,21 @@ std::string AuthorsOf(const clsR& source) {
     std::string text;
     for (const auto& author : source.recAuthor) {
         if (!text.empty()) text += "; ";
-        text += std::string(TrimBlanks(author->LASTNM)) + ", " +
-                std::string(TrimBlanks(author->INITNM));
+        const bool named = !IsBlankField(author->FULLNM);
+        text += named ? author->FULLNM : std::string(TrimBlanks(author->LASTNM));
     }
     return text;
 }
 
-/// The unit in which the record keeps its values.
-std::string UnitOf(const clsZ& value) {
-    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, "Pure"));
-    std::string code = value.PROPERTY_UNIT;
-    if (!value.isOriginalUnit || IsSystemUnit(code)) return unit == "1" ? std::string() : unit;
-    const std::string text = ConversionText(code, unit);
-    return text.empty() ? unit : text;
+/// "7732-18-5" of a registry number.
+std::string WithDashes(const std::string& rn) {
+    if (rn.size() < 4) return rn;
+    const std::size_t n = rn.size();
+    return rn.substr(0, n - 3) + "-" + rn.substr(n - 3, 2) + "-" + rn.substr(n - 1);
+}
+
+std::string WithUnit(const std::string& number, const std::string& unit) {
+    return unit.empty() || unit == "1" ? number : number + " " + unit;
 }
 
 /// What is stated about the uncertainty of a value, the most telling statement first.
@@ -81,20 +87,39 @@ std::string UncertaintyText(const clsZ& value) {
     return IsBlankField(value.PRECIS) ? std::string() : value.PRECIS;
 }
 
-/// Value and uncertainty, with the unit only where there is one.
 std::string ValueText(const clsZ& value) {
-    std::string text = value.PRPVALUE;
-    const std::string unit = UnitOf(value);
-    if (!unit.empty()) text += " " + unit;
+    const std::string text = WithUnit(value.PRPVALUE, PropertyLabels::Of(value).unit);
     const std::string uncertainty = UncertaintyText(value);
     return uncertainty.empty() ? text : text + " \xC2\xB1 " + uncertainty;
+}
+
+/// The value in the system unit, where it was entered in another one.
+std::string ConvertedText(const clsZ& value) {
+    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, "Pure"));
+    if (PropertyLabels::Of(value).unit == unit || !IsNumeric(value.PRPVALUE)) return {};
+    return WithUnit(FormatConverted(value.PRPVALUE, value.PROPERTY_UNIT, value.SystemValue()),
+                    unit);
 }
 
 std::string VariableText(const clsZ& value) {
     const std::string unit = DefaultUnit(VariableName(value.Variable(), "Pure"));
     std::string code = value.VARIABLE_UNIT;
     const std::string text = IsSystemUnit(code) ? unit : ConversionText(code, unit);
-    return value.INDVARIABLE + " " + (text.empty() ? unit : text);
+    return WithUnit(value.INDVARIABLE, text.empty() ? unit : text);
+}
+
+std::string MethodText(const clsZ& value) {
+    const std::string& comment = value.Header.DATACOMMENT;
+    const std::string code = CommentTag(comment, "Method");
+    if (code.empty() || code == "OTHER") return CommentTag(comment, "sMethod");
+    return code == "UNKNOWN" ? "not stated in the document" : XMLMethod(code, value.PRPCODE);
+}
+
+std::string PurityInWords(const PurityStatement& statement) {
+    const PurityUnit* unit = PurityUnitByCode(statement.Unit);
+    if (statement.Value.empty() || unit == nullptr) return {};
+    const std::string method = DeterminationName(statement.Method);
+    return statement.Value + " " + std::string(unit->text) + (method.empty() ? "" : ", " + method);
 }
 
 std::string PhaseText(std::string_view code) {
@@ -118,7 +143,7 @@ std::string ReadingOf(const clsL& compound) {
     Page page(compound.ShowKey());
     page.Line("Formula:", compound.Formula);
     if (compound.MMass > 0) page.Line("Molar mass:", NumberText(compound.MMass) + " g/mol");
-    page.Line("Registry number:", compound.RN);
+    page.Line("Registry number:", WithDashes(compound.RN));
     if (compound.isNew) page.Item("New to the reference database.");
     page.Line("Samples:", std::to_string(compound.recS.Count()));
     page.Need(compound.Formula.empty(), "The formula");
@@ -126,16 +151,32 @@ std::string ReadingOf(const clsL& compound) {
     return page.Html();
 }
 
+void DescribeSample(Page& page, const clsS& sample) {
+    const auto description = ParseDescription(sample.SMPDESC);
+    if (!description) {
+        page.Line("Description:", sample.SMPDESC);
+        return;
+    }
+    page.Line("Description:", TextOfCode(SampleAvailabilities(), description->Availability));
+    page.Line("Source:", TextOfCode(SampleSources(), description->Source));
+    page.Line("Initial purity:", PurityInWords(description->Initial));
+    for (const std::string& code : description->Purification)
+        page.Line("Purified by:", PurificationName(code));
+    for (const PurityStatement& statement : description->Final)
+        page.Line("Final purity:", PurityInWords(statement));
+    const bool used = description->Availability.empty();
+    page.Need(used && sample.Purity <= 0, "A statement of purity");
+}
+
 std::string ReadingOf(const clsS& sample) {
     Page page("Sample " + sample.SMPNM);
     if (sample.Parent != nullptr) page.Line("Compound:", sample.Parent->ShowKey());
-    page.Line("Description:", sample.SMPDESC);
-    if (sample.Purity > 0) page.Line("Purity:", NumberText(sample.Purity) + " %");
+    DescribeSample(page, sample);
+    if (sample.Purity > 0) page.Line("Purity that counts:", NumberText(sample.Purity) + " %");
     page.Line("Holds:", Counted(sample.recZ.Count(), "single value", "single values") + ", " +
                             Counted(sample.recTwo.Count(), "data set", "data sets"));
     for (const auto& value : sample.recZ)
         page.Line(PropertyName(value->PRPCODE, "Pure") + ":", ValueText(*value));
-    page.Need(sample.Purity <= 0, "A statement of purity");
     page.Need(sample.recZ.IsEmpty() && sample.recTwo.IsEmpty(), "Data");
     return page.Html();
 }
@@ -144,11 +185,18 @@ std::string ReadingOf(const clsZ& value) {
     const std::string name = PropertyName(value.PRPCODE, "Pure");
     Page page(name.empty() ? value.PRPCODE : name);
     page.Line("Value:", ValueText(value));
+    page.Line("In system units:", ConvertedText(value));
     if (value.nVar == 1)
-        page.Line("At " + VariableName(value.Variable(), "Pure") + ":", VariableText(value));
+        page.Line("At " + LowerAscii(VariableName(value.Variable(), "Pure")) + ":",
+                  VariableText(value));
     page.Line("Phase:", PhaseText(value.PHASE1));
     page.Line("In equilibrium with:", PhaseText(value.PHASE2));
+    page.Line("And with:", PhaseText(value.PHASE3));
+    page.Line("Method:", MethodText(value));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes(), value.Header.EXPPURPOSE));
+    page.Line("Comment:", CommentText(value.Header.DATACOMMENT));
     page.Line("Set:", value.PRPSETNO);
+    page.Line("Entered:", value.Header.DATEADDED);
     page.Need(UncertaintyText(value).empty(), "A statement of uncertainty");
     return page.Html();
 }
