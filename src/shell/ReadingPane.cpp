@@ -155,6 +155,7 @@ void DescribeSample(Page& page, const clsS& sample) {
     const auto description = ParseDescription(sample.SMPDESC);
     if (!description) {
         page.Line("Description:", sample.SMPDESC);
+        page.Need(true, "A description that can be interpreted");
         return;
     }
     page.Line("Description:", TextOfCode(SampleAvailabilities(), description->Availability));
