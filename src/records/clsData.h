@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+class LineWriter;
+
+/// The uncertainty statements of one quantity in one row, as typed; "%" at the end is per cent of
+/// the value.
+struct RowStatements {
+    std::string DS, Rep, Repetitions, Unc;
+    bool operator==(const RowStatements&) const = default;
+};
+
+/// What only few rows carry: statements of their own.
+struct RowExtras {
+    std::array<RowStatements, 4> items; // 0 the property, 1 to 3 the variables
+    std::string userCU;                 // combined uncertainty typed by the operator
+    std::string CD;                     // curve deviation
+};
+
+/// One row of a data set: values of up to three state variables and of the property, each as typed,
+/// with its count of digits. Rows are many: what few of them need sits behind one pointer.
+///
+///   ^D VARIABLE(1) ... VARIABLE(n) PRPVALUE PRPUNCERTY
+///   ^G VARIABLE(1) digits ... VARIABLE(n) digits PRPVALUE digits PRPUNCERTY
+///   ^Y DS Rep Repetitions Unc  (of each variable, then of the property)  userCU CD
+///
+/// ^d and ^g hold values in the units of the paper, ^D and ^G in system units; ^Y follows its row
+/// and stands only where something is stated.
+class clsData {
+public:
+    std::array<std::string, 4> Values; // 0 the property, 1 to 3 the variables, as typed
+    std::array<short, 4> Digits{};     // counts of significant digits
+    std::string PRPUNCERTY, TIELINE;
+    bool isDigit = false;         // counts of digits stand in the line
+    bool inOriginalUnits = false; // values stand in the units of the paper
+    signed char nVar = 1;
+    std::unique_ptr<RowExtras> Extras; // empty for nearly all rows
+
+    clsData() = default;
+    clsData(const clsData& other);
+    clsData& operator=(const clsData& other);
+
+    const std::string& PRPVALUE() const { return Values[0]; }
+    /// Value of variable n, 1 to 3; empty outside.
+    const std::string& VARIABLE(int n) const;
+    /// The statements of item n (0 the property), made on the first writing access.
+    RowStatements& Statements(int n);
+    const RowStatements& StatementsOf(int n) const;
+
+    /// Reads a row of so many variables; false when a word is missing.
+    bool Load(std::string_view line, int variables);
+    /// Reads the ^Y line that follows the row.
+    void LoadExtras(std::string_view line);
+    void PrintExtras(LineWriter& out) const;
+};
+
+} // namespace vexora

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/Record.h"
+#include "records/clsA.h"
+#include "records/clsData.h"
+#include "records/clsX.h"
+#include "ui/Collection.h"
+
+namespace vexora {
+
+class clsS;
+class LineWriter;
+class XmlWriter;
+
+/// A property of one sample measured against one or two state variables.
+///
+///   ^1 SMPNM PRPCODE unit PROPERTY_FUNCT PRPSETNO<tab>DATATYPE PHASE1 PHASE2 CONSTRAINT VAR1_UNIT
+///      REF_TEMP REF_PRESSURE REF_PHASE
+///   ^2 SMPNM PRPCODE unit PROPERTY_FUNCT PRPSETNO<tab>DATATYPE PHASE1 PHASE2 CONSTRAINT
+///      VARIABLE1 VAR1_UNIT VARIABLE2 VAR2_UNIT REF_TEMP REF_PRESSURE REF_PHASE
+///
+/// The ^A header and a ^M factor stand in front, ^X lines and the rows behind, ^M 0 closes. The
+/// variable of ^1 is not in the line: it follows from constraint and property, else a tag "V1:" of
+/// the comment names it. PV and HVP of a gas are written as P and HTR.
+class clsTwo : public Record {
+public:
+    int nVar = 1;
+    clsA Header;
+    std::string SMPNM, PRPCODE, PROPERTY_UNIT,
+        PROPERTY_FUNCT = "DIR", PRPSETNO, DATATYPE, PHASE1, PHASE2 = "&", CONSTRAINT, VARIABLE1,
+        VAR1_UNIT, VARIABLE2, VAR2_UNIT, REF_TEMP, REF_PRESSURE, REF_PHASE;
+    double Factor = 0; // factor of a non-standard unit to the system unit, 0 when none
+    bool isOriginalUnit = true;
+    bool commentInSystemUnits = false; // see clsZ
+    std::array<clsX, 5> UX;            // 0 the property, 1 to 4 variables and constraints
+    std::vector<clsX> OtherX;          // ^X lines with no place in the set, kept as read
+    ui::Collection<clsData> recData;
+    clsS* Parent = nullptr;
+
+    /// Code and conversion code of variable n, 1 or 2; empty outside.
+    const std::string& VARIABLE(int n) const;
+    const std::string& VAR_UNIT(int n) const;
+    /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
+    std::string Relation() const;
+
+    void AddX(const clsX& item);
+    bool Load(std::string_view line);
+    /// Header fields and a pending factor of the reader.
+    void TakePending(const clsA& pending);
+    void PrintTwo(LineWriter& out);
+    void PrintAll(LineWriter& out);
+
+    std::string Key() const override;
+    std::string ShowKey() const override;
+    void SetMe() override;
+    void AttachTo(clsS& sample);
+
+    /// Molar mass [g/mol] for units by mass, 0 when not known.
+    double MolarMass() const;
+    /// Brings all rows to system units; the unit codes stay as the memory of the paper's units.
+    void AdjustUnits();
+
+    void ExportAll(XmlWriter& xml) const;
+};
+
+} // namespace vexora
