@@ -2,8 +2,6 @@
 
 #include "reference/Text.h"
 
-#include <algorithm>
-
 namespace vexora {
 
 void LineWriter::Line(std::string_view line) {
@@ -13,15 +11,8 @@ void LineWriter::Line(std::string_view line) {
 
 void LineWriter::Fields(const std::vector<std::string>& fields) {
     std::string line;
-    for (const std::string& field : fields) {
-        if (!line.empty()) line += ' ';
-        std::string word = OrPlaceholder(Trim(field));
-        // A blank inside would shift all words behind it.
-        std::replace_if(
-            word.begin(), word.end(),
-            [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }, '_');
-        line += word;
-    }
+    for (const std::string& field : fields)
+        AppendField(line, field);
     Line(line);
 }
 
@@ -33,6 +24,14 @@ void LineWriter::Fields(const std::vector<std::string>& fields, std::string_view
 
 void LineWriter::Blank() {
     text_ += '\n';
+}
+
+void AppendField(std::string& line, std::string_view field) {
+    if (!line.empty()) line += ' ';
+    field = Trim(field);
+    if (field.empty()) field = "&";
+    for (const char c : field)
+        line += c == ' ' || c == '\t' || c == '\r' || c == '\n' ? '_' : c;
 }
 
 std::string OrPlaceholder(std::string_view field) {

@@ -32,6 +32,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Appends a field to a line that begins: a blank in front, "&" for an empty one, and "_" for each
+/// blank inside, which would shift all words behind it.
+void AppendField(std::string& line, std::string_view field);
 /// "&" for an empty field, else the field.
 std::string OrPlaceholder(std::string_view field);
 /// A field as it was before OrPlaceholder: "&" is empty.

@@ -1,5 +1,6 @@
 #include "records/PropertyLabels.h"
 
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -11,7 +12,8 @@ namespace {
 
 PropertyLabels* present = nullptr;
 
-std::string UnitOf(const clsZ& value) {
+template <class Set>
+std::string UnitOf(const Set& value) {
     const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
     if (!value.isOriginalUnit) return unit;
     if (value.Factor > 0) return "*" + NumberText(value.Factor) + " " + unit;
@@ -21,12 +23,14 @@ std::string UnitOf(const clsZ& value) {
     return text.empty() ? value.PROPERTY_UNIT : text;
 }
 
-PropertyLabel LookUp(const clsZ& value) {
+template <class Set>
+PropertyLabel LookUp(const Set& value) {
     const std::string name = PropertyName(value.PRPCODE, "Pure");
     return {name.empty() ? value.PRPCODE : name, UnitOf(value)};
 }
 
-std::string KindOf(const clsZ& value) {
+template <class Set>
+std::string KindOf(const Set& value) {
     const std::string factor =
         value.isOriginalUnit ? value.PROPERTY_UNIT + " " + NumberText(value.Factor) : "";
     return value.PRPCODE + " " + factor;
@@ -41,11 +45,20 @@ PropertyLabels::~PropertyLabels() {
     present = nullptr;
 }
 
-PropertyLabel PropertyLabels::Of(const clsZ& value) {
+template <class Set>
+PropertyLabel PropertyLabels::LabelOf(const Set& value) {
     if (!present) return LookUp(value);
     const auto [entry, isNew] = present->known_.try_emplace(KindOf(value));
     if (isNew) entry->second = LookUp(value);
     return entry->second;
+}
+
+PropertyLabel PropertyLabels::Of(const clsZ& value) {
+    return LabelOf(value);
+}
+
+PropertyLabel PropertyLabels::Of(const clsTwo& set) {
+    return LabelOf(set);
 }
 
 } // namespace vexora

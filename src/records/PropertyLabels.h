@@ -5,6 +5,7 @@
 
 namespace vexora {
 
+class clsTwo;
 class clsZ;
 
 /// How the property of a set and the unit of its values read in the tree.
@@ -23,8 +24,12 @@ public:
     PropertyLabels& operator=(const PropertyLabels&) = delete;
 
     static PropertyLabel Of(const clsZ& value);
+    static PropertyLabel Of(const clsTwo& set);
 
 private:
+    template <class Set>
+    static PropertyLabel LabelOf(const Set& set);
+
     std::unordered_map<std::string, PropertyLabel> known_;
 };
 

@@ -2,14 +2,13 @@
 
 #include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
+#include "records/DataReader.h"
 #include "records/LineWriter.h"
 #include "records/RegistryNumbers.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
-#include "records/clsX.h"
-#include "records/clsZ.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
@@ -20,23 +19,10 @@ namespace {
 
 using Handler = void (*)(ReaderState&, std::string_view);
 
-std::string Incomplete(std::string_view line) {
-    return "Incomplete record: " + std::string(Trim(line));
-}
-
 void ForgetPending(ReaderState& state) {
     state.pending.Factor = 0;
-    state.value = nullptr;
+    state.CloseRecord();
     state.lastNotKept = false;
-}
-
-/// The lines of a header that belong to a record which is passed over go with it.
-void PassOver(ReaderState& state) {
-    state.linesNotKept += state.pendingLines + 1;
-    state.pendingLines = 0;
-    state.pending = clsA();
-    state.value = nullptr;
-    state.lastNotKept = true;
 }
 
 void ReadSource(ReaderState& state, std::string_view line) {
@@ -60,14 +46,14 @@ void ReadSource(ReaderState& state, std::string_view line) {
 
 void ReadDescription(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
-    if (!source) return state.Abandon(Incomplete(line));
+    if (!source) return state.AbandonIncomplete(line);
     source->LoadJ(line);
     source->Synchronize();
 }
 
 void ReadAuthor(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
-    if (!source) return state.Abandon(Incomplete(line));
+    if (!source) return state.AbandonIncomplete(line);
     auto author = std::make_shared<clsAuthor>();
     author->Line = state.lineNumber;
     author->Load(line);
@@ -81,15 +67,15 @@ void ReadCompound(ReaderState& state, std::string_view line) {
     ForgetPending(state);
     state.inPure = true;
     globals.DataContext = "Pure";
-    if (!globals.CurrentR) return state.Abandon(Incomplete(line));
+    if (!globals.CurrentR) return state.AbandonIncomplete(line);
     auto compound = std::make_shared<clsL>();
     compound->Line = state.lineNumber;
     if (!compound->Load(line)) {
-        if (compound->RN.empty()) return state.Abandon(Incomplete(line));
+        if (compound->RN.empty()) return state.AbandonIncomplete(line);
         state.endsProgram = true;
         return state.AbandonSaid("Invalid RN: RN = " + compound->RN);
     }
-    if (compound->REFPROP.empty()) return state.Abandon(Incomplete(line));
+    if (compound->REFPROP.empty()) return state.AbandonIncomplete(line);
     if (!compound->NewRn.empty()) {
         WordReader words(line);
         words.NextWord();
@@ -138,26 +124,16 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
     if (!compound->NewRn.empty()) Globals().Saved = false;
 }
 
-std::unordered_map<int, std::shared_ptr<clsS>>& SamplesOf(ReaderState& state,
-                                                          const clsL& compound) {
-    const auto [entry, isFirst] = state.samples.try_emplace(&compound);
-    if (isFirst) {
-        for (const auto& sample : compound.recS)
-            entry->second.try_emplace(static_cast<int>(ToInteger(Val(sample->SMPNM))), sample);
-    }
-    return entry->second;
-}
-
 void ReadSample(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
     ForgetPending(state);
-    if (!globals.CurrentL) return state.Abandon(Incomplete(line));
+    if (!globals.CurrentL) return state.AbandonIncomplete(line);
     auto sample = std::make_shared<clsS>();
     sample->Line = state.lineNumber;
     sample->Load(line);
-    if (sample->SMPNM.empty()) return state.Abandon(Incomplete(line));
+    if (sample->SMPNM.empty()) return state.AbandonIncomplete(line);
     const int number = static_cast<int>(ToInteger(Val(sample->SMPNM)));
-    const auto [entry, isNew] = SamplesOf(state, *globals.CurrentL).try_emplace(number, sample);
+    const auto [entry, isNew] = state.SamplesOf(*globals.CurrentL).try_emplace(number, sample);
     if (isNew) sample->AttachTo(*globals.CurrentL);
     globals.CurrentS = entry->second;
 }
@@ -176,73 +152,14 @@ void ReadFactor(ReaderState& state, std::string_view line) {
         ++state.pendingLines;
 }
 
-/// "*" and "S1" mean the current sample; other texts are the number of one.
-std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
-    const KVOGlobal& globals = Globals();
-    const bool isCurrent = text == "*" || (text.starts_with('S') && IsNumeric(text.substr(1)));
-    if (isCurrent || !globals.CurrentL) return globals.CurrentS;
-    const auto& samples = SamplesOf(state, *globals.CurrentL);
-    const auto found = samples.find(static_cast<int>(ToInteger(Val(text))));
-    return found == samples.end() ? nullptr : found->second;
-}
-
-std::string SetKey(const clsZ& value) {
-    return std::to_string(value.nVar) + " " + value.PRPCODE + " " + value.PRPSETNO;
-}
-
-/// Notes the set among those of its sample; false when its like is there already.
-bool IsNewSet(ReaderState& state, const clsS& sample, const clsZ& value) {
-    const auto [entry, isFirst] = state.setKeys.try_emplace(&sample);
-    if (isFirst) {
-        for (const auto& known : sample.recZ)
-            entry->second.insert(SetKey(*known));
-    }
-    return entry->second.insert(SetKey(value)).second;
-}
-
-/// Where the read stands, as messages name it: source and compound, one a line.
-std::string PlaceOfRead() {
-    const KVOGlobal& globals = Globals();
-    return (globals.CurrentR ? globals.CurrentR->Source() : std::string()) + "\n" +
-           (globals.CurrentL ? globals.CurrentL->RN : std::string()) + "\n";
-}
-
-void ReadValue(ReaderState& state, std::string_view line) {
-    if (!state.inPure) return PassOver(state);
-    auto value = std::make_shared<clsZ>();
-    value->Line = state.lineNumber;
-    if (!value->Load(line)) return state.Abandon(Incomplete(line));
-    const auto sample = SampleOf(state, value->SMPNM);
-    if (!sample)
-        return state.Abandon(PlaceOfRead() + std::string(Trim(line)), "Sample not specified");
-    if (!IsNewSet(state, *sample, *value))
-        return state.Abandon("This property set already exists\n" + PlaceOfRead() + "Sample # " +
-                             value->SMPNM);
-    value->TakePending(state.pending);
-    value->AttachTo(*sample);
-    state.pendingLines = 0;
-    state.lastNotKept = false;
-    state.value = value;
-}
-
-void ReadStatement(ReaderState& state, std::string_view line) {
-    if (!state.value) {
-        ++state.linesNotKept;
-        return;
-    }
-    clsX item;
-    item.Load(line);
-    state.value->AddX(item);
-}
-
 void PassOverSystem(ReaderState& state, std::string_view) {
-    PassOver(state);
+    state.PassOver();
     state.pending.Factor = 0;
     state.inPure = false;
 }
 
 void PassOverLine(ReaderState& state, std::string_view) {
-    PassOver(state);
+    state.PassOver();
 }
 
 const std::unordered_map<std::string_view, Handler>& Handlers() {
@@ -251,15 +168,19 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
             {"^R", ReadSource},     {"^J", ReadDescription}, {"^I", ReadAuthor},
             {"^N", ReadCorrection}, {"^L", ReadCompound},    {"BL", ReadCompound},
             {"^S", ReadSample},     {"^A", ReadHeader},      {"^a", ReadHeader},
-            {"^M", ReadFactor},     {"^Z", ReadValue},       {"^z", ReadValue},
-            {"^F", ReadValue},      {"^f", ReadValue},       {"^X", ReadStatement}};
+            {"^M", ReadFactor},     {"^X", ReadStatement},   {"^Y", ReadRowStatements}};
+        for (const std::string_view tag : {"^Z", "^z", "^F", "^f"})
+            table[tag] = ReadValue;
+        for (const std::string_view tag : {"^1", "^2", "^3"})
+            table[tag] = ReadSet;
+        for (const std::string_view tag : {"^D", "^d", "^G", "^g"})
+            table[tag] = ReadRow;
         // Behind these the values and samples are those of a mixture, a reaction or a complex.
         for (const std::string_view tag : {"^B", "^T", "^Q", "CS", "SB"})
             table[tag] = PassOverSystem;
         for (const std::string_view tag :
-             {"^1", "^2", "^3", "^D", "^d", "^G", "^g", "^Y", "^C", "^c", "^E",
-              "^H", "BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH", "BD", "BE",
-              "CC", "CE", "SS", "GH", "SE", "XB", "XD", "XC", "XE"})
+             {"^C", "^c", "^E", "^H", "BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH",
+              "BD", "BE", "CC", "CE", "SS", "GH", "SE", "XB", "XD", "XC", "XE"})
             table[tag] = PassOverLine;
         return table;
     }();
@@ -267,6 +188,33 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
 }
 
 } // namespace
+
+void ReaderState::CloseRecord() {
+    value = nullptr;
+    set = nullptr;
+    row = nullptr;
+}
+
+void ReaderState::PassOver() {
+    linesNotKept += pendingLines + 1;
+    pendingLines = 0;
+    pending = clsA();
+    CloseRecord();
+    lastNotKept = true;
+}
+
+std::unordered_map<int, std::shared_ptr<clsS>>& ReaderState::SamplesOf(const clsL& compound) {
+    const auto [entry, isFirst] = samples.try_emplace(&compound);
+    if (isFirst) {
+        for (const auto& sample : compound.recS)
+            entry->second.try_emplace(static_cast<int>(ToInteger(Val(sample->SMPNM))), sample);
+    }
+    return entry->second;
+}
+
+void ReaderState::AbandonIncomplete(std::string_view line) {
+    Abandon("Incomplete record: " + std::string(Trim(line)));
+}
 
 void ReaderState::Abandon(const std::string& text, const std::string& title) {
     ui::Say(text, title);

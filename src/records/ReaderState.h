@@ -11,8 +11,10 @@
 
 namespace vexora {
 
+class clsData;
 class clsL;
 class clsS;
+class clsTwo;
 class clsZ;
 
 /// What the reader of a record file remembers from one line to the next. One lives for one read.
@@ -21,10 +23,13 @@ struct ReaderState {
 
     int lineNumber = 0;
     int linesNotKept = 0;
-    int pendingLines = 0;        // lines of the header since the last data record
-    bool inPure = false;         // data lines belong to a sample, not to a mixture or a reaction
-    bool lastNotKept = false;    // the last data record is one that this edition does not keep
-    std::shared_ptr<clsZ> value; // the record to which ^X lines belong
+    int pendingLines = 0;     // lines of the header since the last data record
+    bool inPure = false;      // data lines belong to a sample, not to a mixture or a reaction
+    bool lastNotKept = false; // the last data record is one that this edition does not keep
+    // The record to which ^X lines belong: a value or a set, whose row takes a ^Y line.
+    std::shared_ptr<clsZ> value;
+    std::shared_ptr<clsTwo> set;
+    std::shared_ptr<clsData> row;
 
     bool isAbandoned = false;
     bool endsProgram = false;
@@ -36,6 +41,15 @@ struct ReaderState {
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
     std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
 
+    /// Makes what follows belong to none of the data records so far.
+    void CloseRecord();
+    /// Counts the line as one that is not kept; the lines of a header that belong to it go along.
+    void PassOver();
+    /// The samples of a compound by their number.
+    std::unordered_map<int, std::shared_ptr<clsS>>& SamplesOf(const clsL& compound);
+
+    /// Drops the read for a line that lacks a field or has no place.
+    void AbandonIncomplete(std::string_view line);
     /// Shows the message and drops the read.
     void Abandon(const std::string& text, const std::string& title = {});
     /// The same for a message that has been shown already.

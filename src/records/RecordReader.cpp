@@ -7,6 +7,7 @@
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
@@ -123,6 +124,8 @@ void RefreshLabels() {
                 sample->Refresh();
                 for (const auto& value : sample->recZ)
                     value->Refresh();
+                for (const auto& set : sample->recTwo)
+                    set->Refresh();
             }
         }
     }

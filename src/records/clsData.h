@@ -8,11 +8,15 @@
 namespace vexora {
 
 class LineWriter;
+class XmlWriter;
+struct RowExport;
+struct UnitConversion;
 
 /// The uncertainty statements of one quantity in one row, as typed; "%" at the end is per cent of
 /// the value.
 struct RowStatements {
     std::string DS, Rep, Repetitions, Unc;
+    bool IsEmpty() const;
     bool operator==(const RowStatements&) const = default;
 };
 
@@ -29,6 +33,8 @@ struct RowExtras {
 ///   ^D VARIABLE(1) ... VARIABLE(n) PRPVALUE PRPUNCERTY
 ///   ^G VARIABLE(1) digits ... VARIABLE(n) digits PRPVALUE digits PRPUNCERTY
 ///   ^Y DS Rep Repetitions Unc  (of each variable, then of the property)  userCU CD
+///
+/// A word behind PRPUNCERTY is TIELINE, written where there is one.
 ///
 /// ^d and ^g hold values in the units of the paper, ^D and ^G in system units; ^Y follows its row
 /// and stands only where something is stated.
@@ -53,11 +59,29 @@ public:
     RowStatements& Statements(int n);
     const RowStatements& StatementsOf(int n) const;
 
+    /// The count of digits of a value, 0 the property: as recorded, else that of its text.
+    int DigitCount(int n) const;
+
     /// Reads a row of so many variables; false when a word is missing.
     bool Load(std::string_view line, int variables);
     /// Reads the ^Y line that follows the row.
     void LoadExtras(std::string_view line);
+    /// Writes the row as it stands, and its ^Y line where something is stated.
+    void PrintData(LineWriter& out) const;
     void PrintExtras(LineWriter& out) const;
+
+    /// Brings value n (0 the property) with its statements to the system unit; its count of digits
+    /// stays, and goes into the line where the new text would tell another one.
+    void Convert(int n, const UnitConversion& unit, bool isDifference = false);
+
+    /// One NumValues element; see RowExport for what the set gives.
+    void ExportData(XmlWriter& xml, RowExport& set) const;
+    void ExportPropUnc(XmlWriter& xml, RowExport& set) const;
+    void ExportVarUnc(XmlWriter& xml, int n, RowExport& set) const;
+
+private:
+    void LoadValue(std::string_view text, std::string_view digits, std::size_t n);
+    void RecordDigits(std::size_t n, int digits);
 };
 
 } // namespace vexora

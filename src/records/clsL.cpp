@@ -6,6 +6,7 @@
 #include "records/RegistryNumbers.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -24,17 +25,24 @@ namespace {
 class LetterFinder {
 public:
     std::string LetterOf(const clsZ& value) {
-        const auto kind = std::make_tuple(value.PRPCODE, value.nVar, value.PHASE1);
-        const auto known = letters_.find(kind);
-        if (known != letters_.end()) return known->second;
-        const std::string mode = value.nVar == 0 ? "Single" : "Fixed";
-        const std::string kindOfProperty = PureAvailable(value.PRPCODE, mode);
-        const bool onBoundary = kindOfProperty == "DD" && value.nVar == 0;
-        return letters_[kind] = PureLetter(kindOfProperty, onBoundary, value.PHASE1).value_or("");
+        return LetterOf(value.PRPCODE, value.nVar == 0 ? "Single" : "Fixed", value.PHASE1);
+    }
+    std::string LetterOf(const clsTwo& set) {
+        return LetterOf(set.PRPCODE, set.nVar == 1 ? "One" : "Two", set.PHASE1);
     }
 
 private:
-    std::map<std::tuple<std::string, int, std::string>, std::string> letters_;
+    std::string LetterOf(const std::string& code, const std::string& mode,
+                         const std::string& phase) {
+        const auto kind = std::make_tuple(code, mode, phase);
+        const auto known = letters_.find(kind);
+        if (known != letters_.end()) return known->second;
+        const std::string kindOfProperty = PureAvailable(code, mode);
+        const bool onBoundary = kindOfProperty == "DD" && (mode == "Single" || mode == "One");
+        return letters_[kind] = PureLetter(kindOfProperty, onBoundary, phase).value_or("");
+    }
+
+    std::map<std::tuple<std::string, std::string, std::string>, std::string> letters_;
 };
 
 std::string Field(WordReader& words) {
@@ -148,10 +156,13 @@ void clsL::UpdateInfo() {
     REFPROP.clear();
     for (const auto& sample : recS) {
         if (!sample->recZ.IsEmpty() || !sample->recTwo.IsEmpty()) SYSTYPES[0] = 'D';
-        for (const auto& value : sample->recZ) {
-            const std::string letter = letters.LetterOf(*value);
+        const auto add = [this](const std::string& letter) {
             if (REFPROP.find(letter) == std::string::npos) REFPROP += letter;
-        }
+        };
+        for (const auto& value : sample->recZ)
+            add(letters.LetterOf(*value));
+        for (const auto& set : sample->recTwo)
+            add(letters.LetterOf(*set));
     }
     if (REFPROP.empty()) REFPROP = "&";
 }

@@ -5,6 +5,7 @@
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
@@ -34,6 +35,8 @@ void Stamp(clsR& source) {
         for (const auto& sample : compound->recS) {
             for (const auto& value : sample->recZ)
                 value->Header.SOURCEDOC = source.SOURCEDOC;
+            for (const auto& set : sample->recTwo)
+                set->Header.SOURCEDOC = source.SOURCEDOC;
         }
     }
 }

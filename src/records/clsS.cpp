@@ -3,6 +3,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -56,6 +57,24 @@ int RatingOf(std::string_view method) {
         .value_or(kUnknownMethod);
 }
 
+template <class Set>
+std::shared_ptr<Set> FindSet(const ui::Collection<Set>& sets, std::string_view code, int nVar,
+                             std::string_view setNumber) {
+    for (const auto& set : sets)
+        if (set->nVar == nVar && set->PRPCODE == code && set->PRPSETNO == setNumber) return set;
+    return nullptr;
+}
+
+template <class Set>
+int NextNumber(const ui::Collection<Set>& sets, std::string_view code, int nVar) {
+    int number = 1;
+    for (const auto& set : sets)
+        number += set->nVar == nVar && set->PRPCODE == code ? 1 : 0;
+    while (FindSet(sets, code, nVar, std::to_string(number)))
+        ++number;
+    return number;
+}
+
 } // namespace
 
 std::string clsS::Key() const {
@@ -93,6 +112,10 @@ void clsS::PrintAll(LineWriter& out) {
         if (value->NeedsMolarMass()) out.Line("^M " + NumberText(value->MolarMass()));
         value->PrintZ(out);
     }
+    for (const auto& set : recTwo) {
+        if (set->NeedsMolarMass()) out.Line("^M " + NumberText(set->MolarMass()));
+        set->PrintAll(out);
+    }
 }
 
 void clsS::AssessPurity() {
@@ -122,20 +145,20 @@ std::string clsS::Formula() const {
 
 std::shared_ptr<clsZ> clsS::FindZ(std::string_view code, int nVar,
                                   std::string_view setNumber) const {
-    for (const auto& value : recZ) {
-        if (value->nVar == nVar && value->PRPCODE == code && value->PRPSETNO == setNumber)
-            return value;
-    }
-    return nullptr;
+    return FindSet(recZ, code, nVar, setNumber);
 }
 
 int clsS::NextSetNumber(std::string_view code, int nVar) const {
-    int number = 1;
-    for (const auto& value : recZ)
-        number += value->nVar == nVar && value->PRPCODE == code ? 1 : 0;
-    while (FindZ(code, nVar, std::to_string(number)))
-        ++number;
-    return number;
+    return NextNumber(recZ, code, nVar);
+}
+
+std::shared_ptr<clsTwo> clsS::FindTwo(std::string_view code, int nVar,
+                                      std::string_view setNumber) const {
+    return FindSet(recTwo, code, nVar, setNumber);
+}
+
+int clsS::NextTwoNumber(std::string_view code, int nVar) const {
+    return NextNumber(recTwo, code, nVar);
 }
 
 } // namespace vexora

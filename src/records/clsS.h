@@ -43,6 +43,10 @@ public:
     std::shared_ptr<clsZ> FindZ(std::string_view code, int nVar, std::string_view setNumber) const;
     /// The next free set number for a property with so many variables.
     int NextSetNumber(std::string_view code, int nVar) const;
+    /// The same for data sets against one or two state variables.
+    std::shared_ptr<clsTwo> FindTwo(std::string_view code, int nVar,
+                                    std::string_view setNumber) const;
+    int NextTwoNumber(std::string_view code, int nVar) const;
 
     void ExportS(XmlWriter& xml) const;
 };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/Record.h"
+#include "records/UnitConversion.h"
 #include "records/clsA.h"
 #include "records/clsData.h"
 #include "records/clsX.h"
@@ -41,7 +42,10 @@ public:
     std::array<clsX, 5> UX;            // 0 the property, 1 to 4 variables and constraints
     std::vector<clsX> OtherX;          // ^X lines with no place in the set, kept as read
     ui::Collection<clsData> recData;
+    double FallbackMolarMass = 0; // [g/mol] of the file, for a compound whose formula gives none
     clsS* Parent = nullptr;
+
+    clsTwo();
 
     /// Code and conversion code of variable n, 1 or 2; empty outside.
     const std::string& VARIABLE(int n) const;
@@ -49,12 +53,20 @@ public:
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string Relation() const;
 
+    /// Puts a statement in its place: by its number, else by its code; what has none is kept as
+    /// read.
     void AddX(const clsX& item);
+    /// Adds a row; the set is in original units as long as any of its rows is.
+    void AddRow(std::shared_ptr<clsData> row);
+    /// Reads the line of the definition; false when it ends before the units.
     bool Load(std::string_view line);
     /// Header fields and a pending factor of the reader.
     void TakePending(const clsA& pending);
-    void PrintTwo(LineWriter& out);
-    void PrintAll(LineWriter& out);
+    /// Writes header, factor and definition. Throws SaveRefused for a unit that has no factor.
+    void PrintTwo(LineWriter& out) const;
+    /// Writes the set with its statements and rows. Values of variables in units without a letter
+    /// are brought to system units in the lines.
+    void PrintAll(LineWriter& out) const;
 
     std::string Key() const override;
     std::string ShowKey() const override;
@@ -63,10 +75,27 @@ public:
 
     /// Molar mass [g/mol] for units by mass, 0 when not known.
     double MolarMass() const;
-    /// Brings all rows to system units; the unit codes stay as the memory of the paper's units.
+    /// The unit is based on mass, so that the molar mass stands in front of the set.
+    bool NeedsMolarMass() const;
+    /// The conversion of the property (none for a ratio) and of variable n, as entered.
+    UnitConversion PropertyConversion() const;
+    UnitConversion VariableConversion(int n) const;
+    /// Brings all rows and statements to system units; the unit codes stay as the memory of the
+    /// paper's units.
     void AdjustUnits();
 
     void ExportAll(XmlWriter& xml) const;
+
+private:
+    std::string DerivedVariable() const;
+    std::string CommentForRecord() const;
+    std::string CommentWithVariable() const;
+    std::string SystemPrecision(const std::string& code, const std::string& typed) const;
+    std::string Definition() const;
+    void PrintStatements(LineWriter& out) const;
+    void PrintRows(LineWriter& out) const;
+    void AdjustStatements();
+    bool HasGas() const;
 };
 
 } // namespace vexora

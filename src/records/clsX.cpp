@@ -1,17 +1,14 @@
 #include "records/clsX.h"
 
 #include "records/LineWriter.h"
-#include "reference/Conversions.h"
+#include "records/SetLines.h"
+#include "records/UnitConversion.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
 namespace vexora {
 
 namespace {
-
-std::string Field(WordReader& words) {
-    return WithoutPlaceholder(words.NextWord());
-}
 
 bool Flag(WordReader& words) {
     return words.NextWord() == "+";
@@ -28,15 +25,6 @@ std::string Sign(bool flag) {
     return flag ? "+" : "-";
 }
 
-/// A difference in system units at the digits typed; per cent and other texts as they stand.
-std::string SystemDifference(const std::string& typed, std::string_view code, double factor,
-                             double molarMass) {
-    if (!IsNumeric(typed)) return typed;
-    const double difference =
-        ToSystem(code, Val(typed), factor, molarMass) - ToSystem(code, 0, factor, molarMass);
-    return difference == 0 ? typed : FormatValue(difference, SignificantDigits(typed));
-}
-
 } // namespace
 
 void clsX::Load(std::string_view line) {
@@ -45,27 +33,27 @@ void clsX::Load(std::string_view line) {
     words.NextWord();
     constexpr int highestPlace = 32767;
     N = Small(words.NextWord(), highestPlace);
-    PRPCODE = Field(words);
-    PHASE = Field(words);
+    PRPCODE = NextField(words);
+    PHASE = NextField(words);
     iDS = Flag(words);
-    DSEvaluator = UnderscoresToBlanks(Field(words));
-    DSLevel = Field(words);
-    DSValue = Field(words);
+    DSEvaluator = UnderscoresToBlanks(NextField(words));
+    DSLevel = NextField(words);
+    DSValue = NextField(words);
     iRep = Flag(words);
     RType = Small(words.NextWord(), 1);
-    RValue = Field(words);
+    RValue = NextField(words);
     const std::string_view repetitions = words.NextWord();
     Repetitions = IsNumeric(repetitions) ? repetitions : "";
     iUnc = Flag(words);
-    ULevel = Field(words);
-    UValue = Field(words);
+    ULevel = NextField(words);
+    UValue = NextField(words);
     iCU = Flag(words);
-    CType = Field(words);
-    CLevel = Field(words);
+    CType = NextField(words);
+    CLevel = NextField(words);
     iCD = Flag(words);
-    CDRms = Field(words);
-    CDSpec = UnderscoresToBlanks(Field(words));
-    CValue = Field(words);
+    CDRms = NextField(words);
+    CDSpec = UnderscoresToBlanks(NextField(words));
+    CValue = NextField(words);
     inSystemUnits = true;
     Verbatim = Trim(line);
 }
@@ -78,9 +66,9 @@ bool clsX::IsStated() const {
 
 void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double molarMass) const {
     if (!IsStated()) return;
-    const bool asItStands = inSystemUnits || (IsSystemUnit(code) && factor <= 0);
+    const UnitConversion unit{std::string(code), factor, molarMass};
     const auto system = [&](const std::string& typed) {
-        return asItStands ? typed : SystemDifference(typed, code, factor, molarMass);
+        return inSystemUnits ? typed : unit.DifferenceText(typed);
     };
     const bool statesRep = iRep || !repOfValueLine;
     out.Fields({"^X",
@@ -105,6 +93,15 @@ void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double m
                 system(CDRms),
                 BlanksToUnderscores(CDSpec),
                 CValue});
+}
+
+void SaveOthers(LineWriter& out, const std::vector<clsX>& others) {
+    for (const clsX& other : others) {
+        if (other.Verbatim.empty())
+            other.SaveX(out, "");
+        else
+            out.Line(other.Verbatim);
+    }
 }
 
 } // namespace vexora

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexora {
 
@@ -48,5 +49,8 @@ public:
     /// The heads of the statements in the export; role is "Prop", "Var" or "Constr".
     void ExportX(XmlWriter& xml, std::string_view role) const;
 };
+
+/// Writes the statements that have no place in their set: lines of a file as they came.
+void SaveOthers(LineWriter& out, const std::vector<clsX>& others);
 
 } // namespace vexora

@@ -4,6 +4,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
+#include "records/SetLines.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
@@ -14,28 +15,6 @@
 #include <cmath>
 
 namespace vexora {
-
-namespace {
-
-std::string Field(WordReader& words) {
-    return WithoutPlaceholder(words.NextWord());
-}
-
-/// A phase field, in which "&" is a value.
-std::string Phase(WordReader& words) {
-    return OrPlaceholder(words.NextWord());
-}
-
-std::string PhasesInBrief(const clsZ& value) {
-    std::string text;
-    for (const std::string& phase : {value.PHASE1, value.PHASE2, value.PHASE3}) {
-        if (IsBlankField(phase)) continue;
-        text += (text.empty() ? "" : "+") + phase;
-    }
-    return text;
-}
-
-} // namespace
 
 void clsZ::AddX(const clsX& item) {
     clsX added = item;
@@ -64,21 +43,21 @@ bool clsZ::Load(std::string_view line) {
     nVar = tag == "^F" || tag == "^f" ? 1 : 0;
     isOriginalUnit = tag == "^z" || tag == "^f";
     SMPNM = words.NextWord();
-    PRPCODE = Field(words);
-    PROPERTY_UNIT = Field(words);
-    PRPSETNO = Field(words);
-    PHASE1 = Phase(words);
+    PRPCODE = NextField(words);
+    PROPERTY_UNIT = NextField(words);
+    PRPSETNO = NextField(words);
+    PHASE1 = NextPhase(words);
     if (nVar == 0) {
-        PHASE2 = Phase(words);
-        PHASE3 = Phase(words);
+        PHASE2 = NextPhase(words);
+        PHASE3 = NextPhase(words);
     } else {
-        INDVARIABLE = Field(words);
-        VARIABLE_UNIT = Field(words);
+        INDVARIABLE = NextField(words);
+        VARIABLE_UNIT = NextField(words);
     }
     if (words.AtEnd()) return false;
-    PRPVALUE = Field(words);
-    PRPUNCERTY = Field(words);
-    PRECIS = Field(words);
+    PRPVALUE = NextField(words);
+    PRPUNCERTY = NextField(words);
+    PRECIS = NextField(words);
     DETERMNM = WithoutPlaceholder(Trim(words.Rest()));
     Factor = 0;
     commentInSystemUnits = true;
@@ -106,8 +85,9 @@ std::string clsZ::Key() const {
 
 std::string clsZ::ShowKey() const {
     const PropertyLabel label = PropertyLabels::Of(*this);
-    std::string text = (nVar == 0 ? "^0: " : "^F: ") + label.name + " (" + PhasesInBrief(*this) +
-                       "," + label.unit + "), Set " + PRPSETNO;
+    std::string text = (nVar == 0 ? "^0: " : "^F: ") + label.name + " (" +
+                       PhasesInBrief({PHASE1, PHASE2, PHASE3}) + "," + label.unit + "), Set " +
+                       PRPSETNO;
     if (!Header.DATACOMMENT.empty()) text += ", " + CommentDisplayText(Header.DATACOMMENT);
     return text;
 }

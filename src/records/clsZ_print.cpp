@@ -1,14 +1,14 @@
 #include "records/clsZ.h"
 
 #include "records/LineWriter.h"
+#include "records/SetLines.h"
+#include "records/UnitConversion.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
-#include "reference/Text.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -17,26 +17,12 @@ namespace vexora {
 
 namespace {
 
-/// What the unit field of a record line holds: letters stay, all else stands as system unit.
-std::string UnitField(const std::string& code) {
-    return IsUnitLetter(code) ? code : "S";
-}
-
-/// Factor of a unit that has no letter.
-double FactorOf(const clsZ& value, const std::string& code) {
-    const double factor = ConversionFactor(code);
-    if (factor != 0) return factor;
-    throw SaveRefused("Invalid conversion factor: " + code + "\n" +
-                      (value.Parent ? value.Parent->Key() + "\n" : std::string()) +
-                      value.ShowKey());
-}
-
 /// The fixed variable and its unit as they stand in the line.
 std::pair<std::string, std::string> VariableFields(const clsZ& value) {
     const std::string& code = value.VARIABLE_UNIT;
     if (!IsUnitLong(code)) return {value.INDVARIABLE, code};
     if (!value.isOriginalUnit) return {value.INDVARIABLE, "S"};
-    FactorOf(value, code);
+    FactorOfLongUnit(code, value, value.Parent);
     const double system = ToSystem(code, Val(value.INDVARIABLE), 0, 0);
     return {FormatConverted(value.INDVARIABLE, code, system), "S"};
 }
@@ -62,21 +48,17 @@ void clsZ::PrintZ(LineWriter& out) {
     if (factorStands || NeedsMolarMass()) out.Line("^M 0");
     if (nVar == 1) UX[1].SaveX(out, isOriginalUnit ? VARIABLE_UNIT : "");
     UX[0].SaveX(out, "");
-    for (const clsX& other : OtherX) {
-        if (other.Verbatim.empty())
-            other.SaveX(out, "");
-        else
-            out.Line(other.Verbatim);
-    }
+    SaveOthers(out, OtherX);
 }
 
 /// Writes the factor of a unit without a letter; true when it did.
 bool clsZ::PrintFactor(LineWriter& out) const {
     if (!isOriginalUnit) return false;
     double factor = Factor;
-    if (factor <= 0 && IsUnitLong(PROPERTY_UNIT)) factor = FactorOf(*this, PROPERTY_UNIT);
+    if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
+        factor = FactorOfLongUnit(PROPERTY_UNIT, *this, Parent);
     if (factor <= 0) return false;
-    out.Line("^M " + NormalizeNumber(NumberText(factor)));
+    vexora::PrintFactor(out, factor);
     return true;
 }
 
@@ -89,37 +71,18 @@ std::string clsZ::PrecisionForRecord(const std::string& precision) const {
 
 /// The comment with the precisions that a dialog wrote brought to system units, as differences.
 std::string clsZ::CommentForRecord() const {
-    const std::string& stored = Header.DATACOMMENT;
-    const std::size_t tags = stored.find("::");
-    if (commentInSystemUnits || !isOriginalUnit || tags == std::string::npos) return stored;
-    std::string comment = stored.substr(0, tags + 1);
-    for (std::size_t at = tags + 1; at < stored.size();) {
-        const std::size_t codeEnd = stored.find(':', at + 1);
-        const std::size_t valueEnd =
-            codeEnd == std::string::npos ? codeEnd : stored.find(':', codeEnd + 1);
-        const bool isPrecision = stored[at] == ':' && stored.compare(at, 2, ":d") == 0;
-        if (!isPrecision || valueEnd == std::string::npos) {
-            comment += stored.substr(at, codeEnd == std::string::npos ? codeEnd : codeEnd - at);
-            at = std::min(codeEnd, stored.size());
-            continue;
-        }
-        const std::string code = stored.substr(at + 2, codeEnd - at - 2);
-        const std::string typed = stored.substr(codeEnd + 1, valueEnd - codeEnd - 1);
-        comment += ":d" + code + ":" + SystemPrecision(code, typed);
-        at = valueEnd;
-    }
-    return comment;
+    if (commentInSystemUnits || !isOriginalUnit) return Header.DATACOMMENT;
+    return CommentInSystemUnits(Header.DATACOMMENT,
+                                [this](const std::string& code, const std::string& typed) {
+                                    return SystemPrecision(code, typed);
+                                });
 }
 
 std::string clsZ::SystemPrecision(const std::string& code, const std::string& typed) const {
-    const bool ofProperty = code == PRPCODE;
-    if (!IsNumeric(typed) || (!ofProperty && code != Variable())) return typed;
-    const std::string& unit = ofProperty ? PROPERTY_UNIT : VARIABLE_UNIT;
-    const double factor = ofProperty ? Factor : 0;
-    const double mass = ofProperty && NeedsMolarMass() ? MolarMass() : 0;
-    const double system =
-        ToSystem(unit, Val(typed), factor, mass) - ToSystem(unit, 0, factor, mass);
-    return system == 0 ? typed : FormatValue(system, SignificantDigits(typed));
+    if (code == PRPCODE)
+        return UnitConversion{PROPERTY_UNIT, Factor, NeedsMolarMass() ? MolarMass() : 0}
+            .DifferenceText(typed);
+    return code == Variable() ? UnitConversion{VARIABLE_UNIT}.DifferenceText(typed) : typed;
 }
 
 } // namespace vexora

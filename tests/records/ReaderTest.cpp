@@ -164,7 +164,7 @@ TEST_F(Reader, CompoundsOfTheDatabaseGetNameAndFormulaFromThere) {
 }
 
 TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
-    const std::string foreign = "^A & O & & & & & of the set\n^1 1 VDN S 1 L & DP\n"
+    const std::string foreign = "^A & O & & & & & of the change\n^C 1 VDN S 1 L & DP\n"
                                 "^X 0 VDN L + & & 1 - & & & - & & - & & - & & &\n"
                                 "^D 298.15 997\n^Y & &\n^M 0\n";
     const std::string mixture = "^B 7732185 64175\n^A & & & & & & & of the mixture\n^M 2\n"

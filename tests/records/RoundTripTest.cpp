@@ -1,51 +1,13 @@
 #include "records/RecordReader.h"
 
-#include "records/LineWriter.h"
-#include "records/clsL.h"
-#include "records/clsR.h"
-#include "records/clsS.h"
-#include "records/clsZ.h"
+#include "records/RoundTripFixture.h"
 #include "reference/Conversions.h"
-#include "support/DocumentFixture.h"
 
 namespace vexora {
 namespace {
 
-const std::string kHead = "\n^R 2002 wag pru 1\n"
-                          "^J#J#O#J. Phys. Chem. Ref. Data, 2002, 31, 387-535#T##A##S#0####\n"
-                          "^L 7732185 DNNNN S\n"
-                          "^S 1 cm;;99.9m%,gc\n";
-
-class RoundTrip : public test::DocumentFixture {
-protected:
-    void Read(const std::string& text) {
-        form.tvwTree.Clear();
-        globals.recR.Clear();
-        globals.ForgetCurrent();
-        const ReadResult result = ReadRecords(text);
-        ASSERT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
-        EXPECT_EQ(result.linesNotKept, 0);
-    }
-    std::string LoadAndSave(const std::string& text) {
-        Read(text);
-        return PrintDocument();
-    }
-    clsZ& Value(std::size_t position = 1) const {
-        return *globals.recR.Item(std::size_t{1})
-                    ->recL.Item(std::size_t{1})
-                    ->recS.Item(std::size_t{1})
-                    ->recZ.Item(position);
-    }
-    /// A document of one value, and what its lines look like after three loads and saves.
-    std::string Settled(const std::string& lines) {
-        std::string text = LoadAndSave(kHead + lines);
-        const std::string first = text;
-        for (int cycle = 0; cycle < 3; ++cycle)
-            text = LoadAndSave(text);
-        EXPECT_EQ(text, first);
-        return first.substr(first.find("^A "));
-    }
-};
+using RoundTrip = test::RoundTripFixture;
+using test::kHead;
 
 TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
     const std::string text =

@@ -1,0 +1,126 @@
+#include "records/DataReader.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/ReaderState.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+#include "records/clsX.h"
+#include "records/clsZ.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+#include <unordered_set>
+
+namespace vexora {
+
+namespace {
+
+/// "*" and "S1" mean the current sample; other texts are the number of one.
+std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
+    const KVOGlobal& globals = Globals();
+    const bool isCurrent = text == "*" || (text.starts_with('S') && IsNumeric(text.substr(1)));
+    if (isCurrent || !globals.CurrentL) return globals.CurrentS;
+    const auto& samples = state.SamplesOf(*globals.CurrentL);
+    const auto found = samples.find(static_cast<int>(ToInteger(Val(text))));
+    return found == samples.end() ? nullptr : found->second;
+}
+
+std::string SetKey(const clsZ& value) {
+    return "Z" + std::to_string(value.nVar) + " " + value.PRPCODE + " " + value.PRPSETNO;
+}
+
+std::string SetKey(const clsTwo& set) {
+    return std::to_string(set.nVar) + " " + set.PRPCODE + " " + set.PRPSETNO;
+}
+
+/// Notes the set among those of its sample; false when its like is there already.
+bool IsNewSet(ReaderState& state, const clsS& sample, const std::string& key) {
+    const auto [entry, isFirst] = state.setKeys.try_emplace(&sample);
+    if (isFirst) {
+        for (const auto& known : sample.recZ)
+            entry->second.insert(SetKey(*known));
+        for (const auto& known : sample.recTwo)
+            entry->second.insert(SetKey(*known));
+    }
+    return entry->second.insert(key).second;
+}
+
+/// Where the read stands, as messages name it: source and compound, one a line.
+std::string PlaceOfRead() {
+    const KVOGlobal& globals = Globals();
+    return (globals.CurrentR ? globals.CurrentR->Source() : std::string()) + "\n" +
+           (globals.CurrentL ? globals.CurrentL->RN : std::string()) + "\n";
+}
+
+/// Reads a value or a set from its line into its sample; null when the read is dropped.
+template <class Record>
+std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
+    auto record = std::make_shared<Record>();
+    record->Line = state.lineNumber;
+    if (!record->Load(line)) {
+        state.AbandonIncomplete(line);
+        return nullptr;
+    }
+    const auto sample = SampleOf(state, record->SMPNM);
+    if (!sample) {
+        state.Abandon(PlaceOfRead() + std::string(Trim(line)), "Sample not specified");
+        return nullptr;
+    }
+    if (!IsNewSet(state, *sample, SetKey(*record))) {
+        state.Abandon("This property set already exists\n" + PlaceOfRead() + "Sample # " +
+                      record->SMPNM);
+        return nullptr;
+    }
+    record->TakePending(state.pending);
+    record->AttachTo(*sample);
+    state.pendingLines = 0;
+    state.lastNotKept = false;
+    state.CloseRecord();
+    return record;
+}
+
+} // namespace
+
+void ReadValue(ReaderState& state, std::string_view line) {
+    if (!state.inPure) return state.PassOver();
+    state.value = Attached<clsZ>(state, line);
+}
+
+void ReadSet(ReaderState& state, std::string_view line) {
+    if (!state.inPure) return state.PassOver();
+    if (line.starts_with("^3")) return state.AbandonIncomplete(line);
+    state.set = Attached<clsTwo>(state, line);
+    Globals().CurrentTwo = state.set;
+}
+
+void ReadRow(ReaderState& state, std::string_view line) {
+    if (!state.inPure || (!state.set && state.lastNotKept)) return state.PassOver();
+    auto row = std::make_shared<clsData>();
+    if (!state.set || !row->Load(line, state.set->nVar)) return state.AbandonIncomplete(line);
+    state.set->AddRow(row);
+    state.row = std::move(row);
+}
+
+void ReadRowStatements(ReaderState& state, std::string_view line) {
+    if (state.row)
+        state.row->LoadExtras(line);
+    else
+        ++state.linesNotKept;
+}
+
+void ReadStatement(ReaderState& state, std::string_view line) {
+    if (!state.value && !state.set) {
+        ++state.linesNotKept;
+        return;
+    }
+    clsX item;
+    item.Load(line);
+    if (state.value)
+        state.value->AddX(item);
+    else
+        state.set->AddX(item);
+}
+
+} // namespace vexora

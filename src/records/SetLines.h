@@ -1,0 +1,38 @@
+// What the record lines of all data sets share: words, unit fields, the factor line, and the
+// precisions that ride in the comment.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "reference/Text.h"
+
+namespace vexora {
+
+class LineWriter;
+class Record;
+
+/// The next word; "&" is read as empty.
+std::string NextField(WordReader& words);
+/// The next word of a phase, in which "&" is a value.
+std::string NextPhase(WordReader& words);
+
+/// The codes of the phases that are there, parted by "+".
+std::string PhasesInBrief(std::initializer_list<std::string_view> phases);
+
+/// What the unit field of a record line holds: letters stay, all else stands as system unit.
+std::string UnitField(std::string_view code);
+/// Factor of a unit that has no letter. Throws SaveRefused, which names the set and its parent, for
+/// a unit that has none.
+double FactorOfLongUnit(std::string_view code, const Record& set, const Record* parent);
+/// The line that states a factor.
+void PrintFactor(LineWriter& out, double factor);
+
+/// A stored comment with each precision tag brought to system units by `toSystem`, which takes the
+/// code of the quantity and the text typed.
+std::string CommentInSystemUnits(
+    const std::string& stored,
+    const std::function<std::string(const std::string&, const std::string&)>& toSystem);
+
+} // namespace vexora

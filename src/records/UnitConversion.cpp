@@ -1,0 +1,26 @@
+#include "records/UnitConversion.h"
+
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+bool UnitConversion::ChangesValues() const {
+    return factor > 0 || (!IsSystemUnit(code) && code != "*");
+}
+
+double UnitConversion::Absolute(double value) const {
+    return ToSystem(code, value, factor, molarMass);
+}
+
+double UnitConversion::Difference(double value) const {
+    return Absolute(value) - Absolute(0);
+}
+
+std::string UnitConversion::DifferenceText(const std::string& typed) const {
+    if (!ChangesValues() || !IsNumeric(typed)) return typed;
+    const double system = Difference(Val(typed));
+    return system == 0 ? typed : FormatValue(system, SignificantDigits(typed));
+}
+
+} // namespace vexora

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+/// How entered values of one quantity lead to its system unit: by a conversion code, or by a factor
+/// (> 0) in its place, with the molar mass [g/mol] for units by mass.
+struct UnitConversion {
+    std::string code = "S";
+    double factor = 0;
+    double molarMass = 0;
+
+    /// False when values already stand in the system unit.
+    bool ChangesValues() const;
+    double Absolute(double value) const;
+    /// Without the offset of the unit.
+    double Difference(double value) const;
+    /// An entered difference in the system unit, at the digits typed; per cent and other texts as
+    /// they stand.
+    std::string DifferenceText(const std::string& typed) const;
+};
+
+} // namespace vexora

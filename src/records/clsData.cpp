@@ -1,0 +1,192 @@
+#include "records/clsData.h"
+
+#include "records/LineWriter.h"
+#include "records/SetLines.h"
+#include "records/UnitConversion.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+#include <algorithm>
+
+namespace vexora {
+
+namespace {
+
+constexpr int MostVariables = 3;
+constexpr int MostDigits = 255;
+
+bool IsPlace(int n) {
+    return n >= 0 && n <= MostVariables;
+}
+
+/// The items of a ^Y line in their order: the variables, then the property.
+std::array<std::size_t, MostVariables + 1> ItemOrder(int variables) {
+    std::array<std::size_t, MostVariables + 1> order{};
+    for (int n = 1; n <= variables; ++n)
+        order[static_cast<std::size_t>(n - 1)] = static_cast<std::size_t>(n);
+    return order; // place `variables` holds 0, the property
+}
+
+int WrittenCount(std::string_view digits) {
+    return static_cast<int>(std::clamp<std::int64_t>(ToInteger(Val(digits)), 0, MostDigits));
+}
+
+/// Digits of an entered value once it is converted: the offset of a temperature unit may add some
+/// in front of the point.
+int ShownDigits(const std::string& typed, int count, const std::string& unit, double converted) {
+    const int shown = ConvertedDigits(typed, unit, converted);
+    const int ofText = SignificantDigits(typed);
+    return ofText == 0 ? shown : count + shown - ofText;
+}
+
+} // namespace
+
+bool RowStatements::IsEmpty() const {
+    return DS.empty() && Rep.empty() && Repetitions.empty() && Unc.empty();
+}
+
+clsData::clsData(const clsData& other)
+    : Values(other.Values), Digits(other.Digits), PRPUNCERTY(other.PRPUNCERTY),
+      TIELINE(other.TIELINE), isDigit(other.isDigit), inOriginalUnits(other.inOriginalUnits),
+      nVar(other.nVar),
+      Extras(other.Extras ? std::make_unique<RowExtras>(*other.Extras) : nullptr) {}
+
+clsData& clsData::operator=(const clsData& other) {
+    if (this == &other) return *this;
+    Values = other.Values;
+    Digits = other.Digits;
+    PRPUNCERTY = other.PRPUNCERTY;
+    TIELINE = other.TIELINE;
+    isDigit = other.isDigit;
+    inOriginalUnits = other.inOriginalUnits;
+    nVar = other.nVar;
+    Extras = other.Extras ? std::make_unique<RowExtras>(*other.Extras) : nullptr;
+    return *this;
+}
+
+const std::string& clsData::VARIABLE(int n) const {
+    static const std::string none;
+    return n >= 1 && IsPlace(n) ? Values[static_cast<std::size_t>(n)] : none;
+}
+
+RowStatements& clsData::Statements(int n) {
+    if (!Extras) Extras = std::make_unique<RowExtras>();
+    return Extras->items.at(static_cast<std::size_t>(n));
+}
+
+const RowStatements& clsData::StatementsOf(int n) const {
+    static const RowStatements none;
+    return Extras && IsPlace(n) ? Extras->items[static_cast<std::size_t>(n)] : none;
+}
+
+int clsData::DigitCount(int n) const {
+    if (!IsPlace(n)) return 0;
+    const auto place = static_cast<std::size_t>(n);
+    if (isDigit && Digits[place] > 0) return Digits[place];
+    return SignificantDigits(Values[place]);
+}
+
+bool clsData::Load(std::string_view line, int variables) {
+    WordReader words(line);
+    const std::string_view tag = words.NextWord();
+    isDigit = tag == "^G" || tag == "^g";
+    inOriginalUnits = tag == "^d" || tag == "^g";
+    nVar = static_cast<signed char>(variables);
+    for (const std::size_t n : ItemOrder(variables)) {
+        if (words.AtEnd()) return false;
+        const std::string_view text = words.NextWord();
+        LoadValue(text, isDigit ? words.NextWord() : std::string_view(), n);
+        if (n == 0) break;
+    }
+    PRPUNCERTY = NextField(words);
+    TIELINE = NextField(words);
+    return true;
+}
+
+void clsData::LoadValue(std::string_view text, std::string_view digits, std::size_t n) {
+    Values[n] = text == "&" ? std::string_view() : text;
+    if (!isDigit) return;
+    const int count = WrittenCount(digits);
+    Digits[n] = static_cast<short>(count > 0 ? count : SignificantDigits(text));
+}
+
+void clsData::LoadExtras(std::string_view line) {
+    auto extras = std::make_unique<RowExtras>();
+    WordReader words(line);
+    words.NextWord();
+    for (const std::size_t n : ItemOrder(nVar)) {
+        RowStatements& item = extras->items[n];
+        for (std::string* text : {&item.DS, &item.Rep, &item.Repetitions, &item.Unc})
+            *text = NextField(words);
+        if (n == 0) break;
+    }
+    extras->userCU = NextField(words);
+    extras->CD = NextField(words);
+    Extras = std::move(extras);
+}
+
+void clsData::PrintData(LineWriter& out) const {
+    std::string line = isDigit ? (inOriginalUnits ? "^g" : "^G") : (inOriginalUnits ? "^d" : "^D");
+    for (const std::size_t n : ItemOrder(nVar)) {
+        AppendField(line, Values[n]);
+        if (isDigit) AppendField(line, std::to_string(DigitCount(static_cast<int>(n))));
+        if (n == 0) break;
+    }
+    AppendField(line, PRPUNCERTY);
+    if (!IsBlankField(TIELINE)) AppendField(line, TIELINE);
+    out.Line(line);
+    PrintExtras(out);
+}
+
+void clsData::PrintExtras(LineWriter& out) const {
+    if (!Extras) return;
+    bool isStated = !Extras->userCU.empty() || !Extras->CD.empty();
+    std::string line = "^Y";
+    for (const std::size_t n : ItemOrder(nVar)) {
+        const RowStatements& item = Extras->items[n];
+        isStated = isStated || !item.IsEmpty();
+        for (const std::string* text : {&item.DS, &item.Rep, &item.Repetitions, &item.Unc})
+            AppendField(line, *text);
+        if (n == 0) break;
+    }
+    AppendField(line, Extras->userCU);
+    AppendField(line, Extras->CD);
+    if (isStated) out.Line(line);
+}
+
+void clsData::Convert(int n, const UnitConversion& unit, bool isDifference) {
+    if (!unit.ChangesValues() || !IsPlace(n)) return;
+    const auto place = static_cast<std::size_t>(n);
+    if (Extras) {
+        RowStatements& item = Extras->items[place];
+        for (std::string* text : {&item.DS, &item.Rep, &item.Unc})
+            *text = unit.DifferenceText(*text);
+    }
+    if (n == 0) {
+        PRPUNCERTY = unit.DifferenceText(PRPUNCERTY);
+        if (Extras) Extras->userCU = unit.DifferenceText(Extras->userCU);
+        if (Extras) Extras->CD = unit.DifferenceText(Extras->CD);
+    }
+    std::string& text = Values[place];
+    if (!IsNumeric(text)) return;
+    const double typed = Val(text);
+    const double system = isDifference ? unit.Difference(typed) : unit.Absolute(typed);
+    if (system == 0) return;
+    int digits = DigitCount(n);
+    if (!isDifference && unit.factor <= 0) digits = ShownDigits(text, digits, unit.code, system);
+    text = FormatValue(system, digits);
+    RecordDigits(place, digits);
+}
+
+void clsData::RecordDigits(std::size_t n, int digits) {
+    if (!isDigit) {
+        if (SignificantDigits(Values[n]) == digits) return;
+        for (std::size_t i = 0; i < Digits.size(); ++i)
+            Digits[i] = static_cast<short>(DigitCount(static_cast<int>(i)));
+        isDigit = true;
+    }
+    Digits[n] = static_cast<short>(digits);
+}
+
+} // namespace vexora
