@@ -24,7 +24,8 @@ std::string UnitCode(std::string_view text) {
 
 PurityStatement ReadPurity(const ui::TextBox& value, const ui::ComboBox& unit,
                            const ui::ComboBox& method) {
-    return {NormalizeNumber(value.Text()), UnitCode(unit.Chosen()), DeterminationCode(method.Chosen())};
+    return {NormalizeNumber(value.Text()), UnitCode(unit.Chosen()),
+            DeterminationCode(method.Chosen())};
 }
 
 } // namespace
