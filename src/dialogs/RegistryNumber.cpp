@@ -52,6 +52,20 @@ std::string DashedRegistryNumber(std::string_view rn) {
     return parts.Front + "-" + parts.Middle + "-" + parts.Check;
 }
 
+std::optional<RegistryParts> PrintedRegistryNumber(std::string_view text) {
+    std::string plain(Trim(text));
+    for (const char* dash : {"\u2010", "\u2011", "\u2012", "\u2013"}) // as printers set it
+        plain = Replace(plain, dash, "-");
+    if (plain.size() < 7 || plain.size() > 12) return std::nullopt;
+    const std::size_t dashes = plain.size() - 5;
+    RegistryParts parts{plain.substr(0, dashes), plain.substr(dashes + 1, 2),
+                        plain.substr(plain.size() - 1)};
+    if (DashedRegistryNumber(parts.Front + parts.Middle + parts.Check) != plain)
+        return std::nullopt;
+    if (FirstOdd(parts.Front + parts.Middle + parts.Check)) return std::nullopt;
+    return parts;
+}
+
 std::string CheckDigitText(std::string_view front, std::string_view middle) {
     if (CodePointCount(TrimBlanks(middle)) != 2) return {};
     const std::optional<char> digit = CheckDigit(std::string(front) + std::string(middle));

@@ -26,6 +26,10 @@ RegistryParts SplitRegistryNumber(std::string_view rn);
 /// "7732-18-5" for "7732185".
 std::string DashedRegistryNumber(std::string_view rn);
 
+/// The parts of a whole number as it is printed, "7732-18-5"; nothing for any other text. The check
+/// digit is taken as it stands.
+std::optional<RegistryParts> PrintedRegistryNumber(std::string_view text);
+
 /// The check digit that belongs to the first two parts; empty unless the second has two characters
 /// and both together are a number without blank and point.
 std::string CheckDigitText(std::string_view front, std::string_view middle);

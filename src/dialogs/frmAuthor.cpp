@@ -107,7 +107,8 @@ void frmAuthor::FindKnown() {
         {typed.LastName + "*", initials + "*"});
     for (; !rows.IsEnd(); rows.MoveNext())
         known_.push_back({Padded(rows.Text("LASTNM"), kNameWidth),
-                          Padded(rows.Text("INITNM"), kInitialsWidth), rows.Text("FULLNM")});
+                          Padded(rows.Text("INITNM"), kInitialsWidth), rows.Text("FULLNM"),
+                          rows.Integer("NEW") != 0});
 }
 
 const frmAuthor::Known* frmAuthor::ChosenAuthor() const {
@@ -130,6 +131,7 @@ void frmAuthor::cmdAdd_Click() {
     author->LASTNM = known->LASTNM;
     author->INITNM = known->INITNM;
     author->FULLNM = known->FULLNM;
+    author->isNew = known->isOurs; // the document must carry the name then
     AddToList(author);
 }
 

@@ -29,6 +29,7 @@ public:
 private:
     struct Known {
         std::string LASTNM, INITNM, FULLNM;
+        bool isOurs; // registered here; no other workplace knows the author
     };
 
     void cmdVerify_Click();

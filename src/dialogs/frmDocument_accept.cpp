@@ -33,8 +33,9 @@ bool HasLettersOnly(std::string_view code) {
     return !code.empty() && code.find_first_not_of("abcdefghijklmnopqrstuvwxyz") == code.npos;
 }
 
+/// As the record file can keep it, so that the database and the file agree at the next reading.
 std::string Plain(const std::string& text) {
-    return Transliterate(SingleLine(text));
+    return Replace(Transliterate(SingleLine(text)), "#", " ");
 }
 
 std::string StoredCode(const std::string& author2) {

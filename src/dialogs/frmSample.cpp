@@ -121,9 +121,7 @@ void frmSample::FillLists() {
 
 void frmSample::FillCompounds() {
     const ui::FillingScope filling(*this);
-    cboSubst.Clear();
-    for (const auto& compound : Globals().CurrentR->recL)
-        cboSubst.Add(compound->ShowKey());
+    FillCompoundList(cboSubst);
     if (!editing_) cboSubst.Add(newEntry);
 }
 

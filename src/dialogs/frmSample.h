@@ -84,7 +84,7 @@ private:
     bool CheckPurification();
     bool CheckFinal(int i);
     bool CheckValue(ui::TextBox& box);
-    bool CheckUnitAndMethod(ui::TextBox& box, ui::ComboBox& unit, ui::ComboBox& method);
+    static bool CheckMethod(const ui::TextBox& box, ui::ComboBox& method);
     bool Store();
     bool IsGuided() const;
 

@@ -97,7 +97,7 @@ bool frmSample::CheckInitial() {
     if (Val(txtSrcPurity.Text()) > 10 && lstSrcPurity.Chosen() == "water mass %" &&
         !Confirm("Is water content so high?", {}, txtSrcPurity))
         return false;
-    return CheckUnitAndMethod(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
+    return CheckMethod(txtSrcPurity, lstSrsDetBy);
 }
 
 bool frmSample::CheckPurification() {
@@ -115,7 +115,7 @@ bool frmSample::CheckFinal(int i) {
     } else if (!box.IsEmpty() && value < 90) {
         if (!Confirm("Is that low purity value correct?", {}, box)) return false;
     }
-    return CheckUnitAndMethod(box, lstFinalPurity(i), lstFinalDetBy(i));
+    return CheckMethod(box, lstFinalDetBy(i));
 }
 
 bool frmSample::CheckValue(ui::TextBox& box) {
@@ -126,10 +126,8 @@ bool frmSample::CheckValue(ui::TextBox& box) {
     return false;
 }
 
-bool frmSample::CheckUnitAndMethod(ui::TextBox& box, ui::ComboBox& unit, ui::ComboBox& method) {
-    if (box.IsEmpty()) return true;
-    if (unit.Index() < 0) return Refuse("Please select the unit of purity", unit);
-    return method.Index() >= 0 ||
+bool frmSample::CheckMethod(const ui::TextBox& box, ui::ComboBox& method) {
+    return box.IsEmpty() || method.Index() >= 0 ||
            Refuse("Please select the method of purity determination", method);
 }
 

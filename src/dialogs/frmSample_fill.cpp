@@ -1,6 +1,7 @@
 #include "dialogs/frmSample.h"
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 
@@ -23,7 +24,8 @@ std::string UnitCode(std::string_view text) {
 
 PurityStatement ReadPurity(const ui::TextBox& value, const ui::ComboBox& unit,
                            const ui::ComboBox& method) {
-    return {value.Text(), UnitCode(unit.Chosen()), DeterminationCode(method.Chosen())};
+    return {NormalizeNumber(value.Text()), UnitCode(unit.Chosen()),
+            DeterminationCode(method.Chosen())};
 }
 
 } // namespace
@@ -100,7 +102,7 @@ void frmSample::ClearDescription() {
         lstPurify.Selected(i, false);
     const auto clear = [](ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
         value.Text("");
-        unit.Index(-1);
+        unit.Index(0); // most purities are reported in mol %
         method.Index(-1);
     };
     clear(txtSrcPurity, lstSrcPurity, lstSrsDetBy);

@@ -49,10 +49,8 @@ void ChoosePhase(ui::ComboBox& list, std::string_view code) {
 
 void frmSingle::FillCompounds() {
     const KVOGlobal& globals = Globals();
-    cboSubst.Clear();
+    FillCompoundList(cboSubst);
     if (!globals.CurrentR) return;
-    for (const auto& compound : globals.CurrentR->recL)
-        cboSubst.Add(compound->ShowKey());
     cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
     FillSamples();
     if (globals.CurrentS) {

@@ -71,7 +71,7 @@ void frmSubst::ArrangeControls() {
 
 void frmSubst::WireEvents() {
     txtName.OnChange = [this] { NameChanged(); };
-    txtRN2.OnChange = [this] { RegistryNumberChanged(); };
+    txtRN2.OnChange = [this] { FrontChanged(); };
     txtRN1.OnChange = [this] { RegistryNumberChanged(); };
     txtCASD.OnChange = [this] { CheckDigitChanged(); };
     txtFormula.OnChange = [this] { FormulaChanged(); };
@@ -138,6 +138,21 @@ void frmSubst::NameChanged() {
     Touch();
 }
 
+/// A whole number that is pasted into the first box is spread over the three, its check digit left
+/// as it is: a slip in the number then shows against the database.
+void frmSubst::FrontChanged() {
+    const auto pasted = Filling ? std::nullopt : PrintedRegistryNumber(txtRN2.Text());
+    if (!pasted) {
+        RegistryNumberChanged();
+        return;
+    }
+    {
+        const ui::FillingScope filling(*this);
+        ShowParts(*pasted);
+    }
+    CheckDigitChanged();
+}
+
 void frmSubst::RegistryNumberChanged() {
     {
         const ui::FillingScope filling(*this);
@@ -157,6 +172,7 @@ void frmSubst::CheckDigitChanged() {
 void frmSubst::FormulaChanged() {
     if (Filling) return;
     formulaEdited_ = true;
+    ShowMass();
     Touch();
 }
 

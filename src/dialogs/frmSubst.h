@@ -52,6 +52,7 @@ private:
     void Fill(const clsL& compound);
 
     void NameChanged();
+    void FrontChanged();
     void RegistryNumberChanged();
     void CheckDigitChanged();
     void FormulaChanged();

@@ -24,7 +24,7 @@ void frmSubst::FindSubstance() {
     }
     const RegistryParts parts = TypedParts();
     if (pattern.empty() && formula.empty() && parts.IsEmpty()) return;
-    if (!RNCheck()) return;
+    if (!editing_ && !RNCheck()) return; // in edit mode the number is locked
 
     const bool onlyNumber = pattern.empty() && formula.empty();
     ShowRows(onlyNumber ? CompoundsOf(ParseInteger(parts.Joined()).value_or(0))

@@ -5,6 +5,9 @@
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
+#include "ui/Lists.h"
+
+#include <utility>
 
 namespace vexora {
 
@@ -70,13 +73,13 @@ std::string NewSubstanceRN() {
     return digits + CheckDigit(digits).value_or('0');
 }
 
-std::vector<std::string> CompoundNames() {
+void FillCompoundList(ui::ItemList& list) {
     std::vector<std::string> names;
-    const auto source = Globals().CurrentR;
-    if (!source) return names;
-    for (const auto& compound : source->recL)
-        names.push_back(compound->ShowKey());
-    return names;
+    if (const auto source = Globals().CurrentR) {
+        for (const auto& compound : source->recL)
+            names.push_back(compound->ShowKey());
+    }
+    list.Assign(std::move(names));
 }
 
 } // namespace vexora

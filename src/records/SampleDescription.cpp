@@ -117,7 +117,7 @@ std::optional<SampleDescription> ParseDescription(std::string_view text) {
 }
 
 std::string FreeText(std::string_view typed) {
-    std::string text(typed);
+    std::string text = SingleLine(typed);
     for (const char* mark : {"(", ")", ";"})
         text = Replace(text, mark, "");
     text = Replace(text, ",", " ");

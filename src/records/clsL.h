@@ -13,6 +13,10 @@
 
 namespace vexora {
 
+namespace ui {
+class ItemList;
+}
+
 class clsR;
 class clsS;
 class LineWriter;
@@ -64,10 +68,9 @@ private:
     void LoadBio(WordReader& words);
 };
 
-/// Check digit of a registry number without its last digit: the digits from the right weigh 1, 2,
-/// 3,
-/// ... and the sum counts modulo 10 (the rule of the CAS Registry). Nothing for a text that is not
-/// all digits.
+/// Check digit of a registry number without its last digit: the digits from the right weigh one,
+/// two, three and so on, and the sum counts modulo 10 (the rule of the CAS Registry). Nothing for a
+/// text that is not all digits.
 std::optional<char> CheckDigit(std::string_view digits);
 
 /// Name, formula and molar mass [g/mol] of a compound of the current source; empty or 0 for "", for
@@ -77,7 +80,7 @@ std::string FormulaOfRN(std::string_view rn);
 double MolarMassOfRN(std::string_view rn, const clsR* source = nullptr);
 /// A fresh number for a compound that the reference database does not know, with its check digit.
 std::string NewSubstanceRN();
-/// Names of all compounds of the current source.
-std::vector<std::string> CompoundNames();
+/// Lists all compounds of the current source by name, in place of what the list held.
+void FillCompoundList(ui::ItemList& list);
 
 } // namespace vexora

@@ -10,6 +10,20 @@
 
 namespace vexora::ui {
 
+namespace {
+
+/// Line ends of what goes into a field of one line become blanks.
+std::u32string OneLine(std::u32string_view text) {
+    std::u32string line;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool pair = text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n';
+        if (!pair) line += text[i] == U'\r' || text[i] == U'\n' ? U' ' : text[i];
+    }
+    return line;
+}
+
+} // namespace
+
 TextBox::TextBox(Form& form, std::string name, Lines lines)
     : Control(form, ControlKind::TextBox, std::move(name)), lines_(lines) {}
 
@@ -53,7 +67,8 @@ void TextBox::SelectAll() {
 
 void TextBox::UserReplaceAll(const std::string& text) {
     if (!IsUsable() || locked_) return;
-    Put(text, ToPoints(text).size());
+    const std::u32string points = ToPoints(text);
+    Put(IsMultiLine() ? text : FromPoints(OneLine(points)), points.size());
 }
 
 void TextBox::UserEdited(std::string text, std::size_t caret) {
@@ -66,8 +81,7 @@ void TextBox::UserPaste(const std::string& text) {
 
 void TextBox::ReplaceSelection(std::u32string_view with) {
     std::u32string points = ToPoints(text_);
-    std::u32string text(with);
-    if (!IsMultiLine()) std::replace(text.begin(), text.end(), U'\n', U' ');
+    const std::u32string text = IsMultiLine() ? std::u32string(with) : OneLine(with);
     points.replace(start_, length_, text);
     Put(FromPoints(points), start_ + text.size());
 }

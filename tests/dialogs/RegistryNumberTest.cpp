@@ -37,6 +37,17 @@ TEST(RegistryNumber, ChecksThePartsInOrder) {
         EXPECT_EQ(FindingText(parts), finding) << parts.Front << "-" << parts.Middle;
 }
 
+TEST(RegistryNumber, OnlyAWholePrintedNumberIsTakenApart) {
+    for (const char* text : {"7732-18-5", " 50-00-0\n", "1234567-89-0", "7732\u201118\u20135"}) {
+        const auto parts = PrintedRegistryNumber(text);
+        ASSERT_TRUE(parts) << text;
+        EXPECT_EQ(parts->Middle.size() * 10 + parts->Check.size(), 21U) << text;
+    }
+    for (const char* text : {"", "7732", "7732-18", "7732-18-", "7732-18-55", "77x2-18-5",
+                             "7732--18-5", "7-32-18-5", "12345678-90-1", "-18-5", "7732 18 5"})
+        EXPECT_FALSE(PrintedRegistryNumber(text)) << text;
+}
+
 TEST(RegistryNumber, CheckDigitFollowsTheFirstTwoParts) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
         {"7732", "18", "5"}, {"64", "17", "5"},   {"7789", "20", "0"},

@@ -47,6 +47,26 @@ TEST_F(frmAuthorTest, AKnownAuthorIsTakenFromTheTable) {
     EXPECT_EQ(Rows("wagner"), "w  /Wagner, W./0\n");
 }
 
+TEST_F(frmAuthorTest, AnAuthorRegisteredHereStaysNewToEveryOtherWorkplace) {
+    frmDocument& document = OpenComplete();
+    desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
+        auto& authors = dynamic_cast<frmAuthor&>(opened);
+        for (const char* name : {"Zymurgist,Q.", "Wagner, W."}) {
+            Set(authors.txtLast, std::string(name).substr(0, 4));
+            authors.cmdVerify.UserClick();
+            Choose(authors.cboAuthor, name);
+            authors.cmdAdd.UserClick();
+        }
+        authors.cmdFinish.UserClick();
+    });
+    document.txtAuthors.UserClick();
+    document.cmdAccept.UserClick();
+    const auto& stored = globals.recR.Item(1)->recAuthor;
+    ASSERT_EQ(stored.Count(), 2U);
+    EXPECT_TRUE(stored.Item(1)->isNew);
+    EXPECT_FALSE(stored.Item(2)->isNew);
+}
+
 TEST_F(frmAuthorTest, ASearchWithoutResultKeepsWhatWasTyped) {
     frmAuthor& authors = Open();
     desktop.Expect("Enter author's last name");

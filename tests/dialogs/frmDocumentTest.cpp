@@ -108,6 +108,17 @@ TEST_F(frmDocumentTest, AcceptMakesTheSourceAndRegistersIt) {
     EXPECT_TRUE(globals.OpenForms.empty());
 }
 
+TEST_F(frmDocumentTest, TheSeparatorOfTheRecordFileIsLeftOutAtOnce) {
+    frmDocument& document = OpenComplete();
+    Set(document.txtTitle, "Run #3");
+    document.Source("@Rep@ #12@ Inst");
+    document.cmdAccept.UserClick();
+    EXPECT_EQ(globals.recR.Item(1)->SSOURCE, "@Rep@  12@ Inst");
+    EXPECT_EQ(globals.recR.Item(1)->TTITLE, "Run  3");
+    const auto row = globals.CompoundDb().Query("select * from SOURCE_REFINFO where NEW<>0");
+    EXPECT_EQ(row.Text("SOURCE") + "/" + row.Text("TITLE"), "@Rep@  12@ Inst/Run  3");
+}
+
 TEST_F(frmDocumentTest, TheNextNumberIsOneAboveTheGreatest) {
     for (const char* number : {"9", "10"})
         globals.CompoundDb().Insert(

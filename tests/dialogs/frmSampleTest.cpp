@@ -176,13 +176,11 @@ TEST_F(frmSampleTest, UnsoundPuritiesAreRefusedBeforeAndAfterPurification) {
     EXPECT_EQ(Samples(), "");
 }
 
-TEST_F(frmSampleTest, APurityNeedsItsUnitAndItsMethod) {
+TEST_F(frmSampleTest, APurityIsInMolPerCentUnlessSaidAndNeedsItsMethod) {
     frmSample& dialog = Open();
     Describe(dialog, "Commercial source");
-    Enter(dialog.txtSrcPurity, "99");
-    desktop.Expect("Please select the unit of purity");
-    dialog.cmdAccept.UserClick();
-    Pick(dialog.lstSrcPurity, "mol %");
+    Enter(dialog.txtSrcPurity, "99,0");
+    EXPECT_EQ(dialog.txtSmplDescription.Text(), "cm,99.0m%;;");
     desktop.Expect("Please select the method of purity determination");
     dialog.cmdAccept.UserClick();
     EXPECT_TRUE(dialog.lstSrsDetBy.HasFocus());
@@ -193,7 +191,7 @@ TEST_F(frmSampleTest, APurityNeedsItsUnitAndItsMethod) {
     EXPECT_TRUE(dialog.lstFinalDetBy(1).HasFocus());
     Pick(dialog.lstFinalDetBy(1), "Stated by supplier");
     dialog.cmdAccept.UserClick();
-    EXPECT_EQ(Samples(), "1 cm,99m%,sup;;99.9w%,sup 99.9\n");
+    EXPECT_EQ(Samples(), "1 cm,99.0m%,sup;;99.9w%,sup 99.9\n");
 }
 
 TEST_F(frmSampleTest, UnlikelyPuritiesAreAskedAbout) {

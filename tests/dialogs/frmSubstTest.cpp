@@ -106,6 +106,31 @@ TEST_F(frmSubstTest, TheBoxesOfTheNumberTakeDigitsAndLeadOn) {
     EXPECT_EQ(dialog.txtRN2.Text(), "1234567");
 }
 
+TEST_F(frmSubstTest, AWholeNumberPastedInTheFirstBoxIsSpreadAsItStands) {
+    frmSubst& dialog = Open();
+    desktop.ClipboardText("7732-18-4");
+    dialog.txtRN2.SetFocus();
+    dialog.UserKey(ui::ParseKey("Ctrl+V"));
+    Enter(dialog.txtName, "water");
+    Enter(dialog.txtFormula, "H2O");
+    EXPECT_EQ(Boxes(dialog), "7732-18-4 water H2O");
+    desktop.Expect(corrected); // a slip in the number is not put right in silence
+    dialog.cmdAccept.UserClick();
+    EXPECT_EQ(Compounds(), "");
+    Enter(dialog.txtRN2, "7732-18-5");
+    EXPECT_EQ(Boxes(dialog), "7732-18-5 water H2O");
+    dialog.cmdAccept.UserClick();
+    EXPECT_EQ(Compounds(), "7732185 water H2O 18.015\n");
+}
+
+TEST_F(frmSubstTest, TheMassFollowsTheTypedFormula) {
+    frmSubst& dialog = Open();
+    Enter(dialog.txtFormula, "C2H5OH");
+    EXPECT_EQ(dialog.txtMMass.Text(), "46.069");
+    Enter(dialog.txtFormula, "C2H5O(");
+    EXPECT_EQ(dialog.txtMMass.Text(), "");
+}
+
 TEST_F(frmSubstTest, AnUnsoundNumberIsRefusedWithTheFaultMarked) {
     frmSubst& dialog = Open();
     Enter(dialog.txtName, "water");

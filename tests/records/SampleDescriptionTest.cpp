@@ -42,6 +42,7 @@ TEST(SampleDescription, NumbersStandAsTypedAndOthersAddNothing) {
 
 TEST(SampleDescription, FreeTextLosesTheMarksOfTheLine) {
     EXPECT_EQ(FreeText(" (by us); twice, at least "), "(by us twice  at least)");
+    EXPECT_EQ(FreeText("dried\r\nin air"), "(dried in air)");
     EXPECT_EQ(FreeText("();"), "");
 }
 

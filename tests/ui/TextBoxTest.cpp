@@ -68,8 +68,10 @@ TEST_F(TextBoxTest, OnlyAFieldOfManyLinesTakesLineBreaks) {
     Press(many_, "Enter");
     EXPECT_EQ(box_.Text(), "");
     EXPECT_EQ(many_.Text(), "\n");
-    box_.UserPaste("a\nb");
+    box_.UserPaste("a\r\nb");
     EXPECT_EQ(box_.Text(), "a b");
+    box_.UserReplaceAll("c\nd");
+    EXPECT_EQ(box_.Text(), "c d");
 }
 
 TEST_F(TextBoxTest, ClipboardKeysCopyCutAndPaste) {
