@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "export/XmlWriter.h"
+#include "records/clsData.h"
 #include "records/clsX.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -20,30 +22,36 @@ bool IsExpanded(std::string_view level) {
     return IsNumeric(level) && Val(level) >= ExpandedLevel;
 }
 
+// Wavelengths leave in nm, ten Angstroms of the system unit.
+constexpr double AngstromsPerNanometre = 10;
+
 bool ChangesValues(const ExportUnit& unit) {
+    if (unit.wavelength) return !unit.converts || unit.code != "nm";
     if (!unit.converts) return false;
     return unit.factor > 0 || (!IsSystemUnit(unit.code) && unit.code != "*");
 }
 
 double ConvertedDifference(double figure, const ExportUnit& unit) {
-    if (!unit.converts) return figure;
-    return ToSystem(unit.code, figure, unit.factor, unit.molarMass) -
-           ToSystem(unit.code, 0, unit.factor, unit.molarMass);
+    if (!ChangesValues(unit)) return figure;
+    const auto system = [&unit](double value) {
+        return unit.converts ? ToSystem(unit.code, value, unit.factor, unit.molarMass) : value;
+    };
+    return (system(figure) - system(0)) / (unit.wavelength ? AngstromsPerNanometre : 1);
 }
 
 // A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
-// are of the entered value.
-std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& unit,
-                   bool inSystemUnits) {
+// are of the entered value, whose unit may be another one than that of the figure.
+std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& ofValue,
+                   const ExportUnit& ofFigure) {
     const std::string text = NormalizeNumber(statement);
     if (IsBlankField(text) || text == "%") return {};
     if (text.ends_with('%')) {
         const double percent = Val(std::string_view(text).substr(0, text.size() - 1));
-        return NumberText(std::abs(ConvertedDifference(percent * Val(value) / 100, unit)));
+        return NumberText(std::abs(ConvertedDifference(percent * Val(value) / 100, ofValue)));
     }
     if (!IsNumeric(text)) return {};
-    if (inSystemUnits || !ChangesValues(unit)) return text;
-    return FormatValue(std::abs(ConvertedDifference(Val(text), unit)), SignificantDigits(text));
+    if (!ChangesValues(ofFigure)) return text;
+    return FormatValue(std::abs(ConvertedDifference(Val(text), ofFigure)), SignificantDigits(text));
 }
 
 void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view level) {
@@ -109,24 +117,28 @@ void WithNumber(XmlWriter& xml, const std::string& group, std::string_view numbe
 
 } // namespace
 
-bool IsConvertible(const ExportUnit& unit) {
-    return !unit.converts || unit.factor > 0 || !IsMassBased(unit.code) || unit.molarMass > 0;
+std::string ConversionFault(const ExportUnit& unit) {
+    if (!unit.converts || unit.factor > 0) return {};
+    if (!IsKnownConversion(unit.code)) return "Unknown unit " + unit.code;
+    const bool isFree = !IsMassBased(unit.code) || unit.molarMass > 0;
+    return isFree ? std::string() : "Molar mass of the compound is not known";
 }
 
-ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit) {
-    const std::string text = NormalizeNumber(typed);
-    if (unit.wavelength) {
-        const bool nanometres = unit.converts && unit.code == "nm";
-        const int digits = std::max(1, SignificantDigits(text));
-        if (nanometres) return {text, digits};
-        const double angstroms =
-            unit.converts ? ToSystem(unit.code, Val(text), unit.factor, 0) : Val(text);
-        return {FormatValue(angstroms / 10, digits), digits};
+ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count) {
+    std::string text = NormalizeNumber(typed);
+    const int ofText = SignificantDigits(text);
+    int digits = count > 0 ? count : ofText;
+    if (!ChangesValues(unit)) return {std::move(text), std::max(1, digits)};
+    const bool isAbsolute = !unit.difference && !unit.wavelength;
+    const double value = isAbsolute ? ToSystem(unit.code, Val(text), unit.factor, unit.molarMass)
+                                    : ConvertedDifference(Val(text), unit);
+    if (value == 0) return {std::move(text), std::max(1, digits)};
+    if (isAbsolute) {
+        const int shown = ConvertedDigits(text, unit.code, value);
+        digits = ofText == 0 ? shown : digits + shown - ofText;
     }
-    if (!ChangesValues(unit)) return {text, std::max(1, SignificantDigits(text))};
-    const double value = ToSystem(unit.code, Val(text), unit.factor, unit.molarMass);
-    return {FormatConverted(text, unit.code, value),
-            std::max(1, ConvertedDigits(text, unit.code, value))};
+    digits = std::max(1, digits);
+    return {FormatValue(value, digits), digits};
 }
 
 void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
@@ -138,34 +150,43 @@ void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
 }
 
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
-                      std::string_view value, const ExportUnit& unit) {
+                      std::string_view value, const ExportUnit& unit, const RowFigures* row) {
+    if (!item.iCU && !item.iUnc && !item.iRep && !item.iDS && !item.iCD) return false;
     const std::string name(role);
-    const auto figure = [&](const std::string& statement) {
-        return Figure(statement, value, unit, item.N != 0 && item.inSystemUnits);
+    ExportUnit ofSet = unit;
+    ofSet.converts =
+        (row ? row->setConverts : unit.converts) && !(item.N != 0 && item.inSystemUnits);
+    static const RowStatements none;
+    const RowStatements& own = row ? row->statements : none;
+    const auto figure = [&](const std::string& statement, std::string_view ofRow = {}) {
+        const std::string text = Figure(ofRow, value, unit, unit);
+        return text.empty() ? Figure(statement, value, unit, ofSet) : text;
     };
     if (item.iCU && (item.CType == "A" || item.CType == "B")) {
         WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",
                    IsExpanded(item.CLevel) ? "nCombExpandUncertValue" : "nCombStdUncertValue",
-                   figure(item.CValue));
+                   figure(item.CValue, row ? row->combined : ""));
     }
     if (item.iUnc) {
         WithNumber(xml, name + "Uncertainty", "nUncertAssessNum",
                    IsExpanded(item.ULevel) ? "nExpandUncertValue" : "nStdUncertValue",
-                   figure(item.UValue));
+                   figure(item.UValue, own.Unc));
     }
-    const std::string repeatability = item.iRep ? figure(item.RValue) : std::string();
+    const std::string repeatability = item.iRep ? figure(item.RValue, own.Rep) : std::string();
     if (!repeatability.empty()) {
         xml.Open(name + "Repeatability");
         xml.Element("n" + name + "RepeatValue", repeatability);
-        xml.ElementIfAny("nRepetitions", item.Repetitions);
+        xml.ElementIfAny("nRepetitions",
+                         own.Repetitions.empty() ? item.Repetitions : own.Repetitions);
         xml.Close();
     }
     if (item.iDS) {
         WithNumber(xml, name + "DeviceSpec", "", "n" + name + "DeviceSpecValue",
-                   figure(item.DSValue));
+                   figure(item.DSValue, own.DS));
     }
     if (item.iCD) {
-        WithNumber(xml, "CurveDev", "nCurveDevAssessNum", "nCurveDevValue", figure(item.CDRms));
+        WithNumber(xml, "CurveDev", "nCurveDevAssessNum", "nCurveDevValue",
+                   figure(item.CDRms, row ? row->curveDeviation : ""));
     }
     return item.iRep && repeatability.empty();
 }

@@ -7,6 +7,7 @@ namespace vexora {
 
 class clsX;
 class XmlWriter;
+struct RowStatements;
 
 /// What turns an entered value into the exported one: the unit in which it stands and the molar
 /// mass [g/mol] for units by mass. converts is false for values that already are in system units.
@@ -16,6 +17,7 @@ struct ExportUnit {
     double molarMass = 0;
     bool converts = false;
     bool wavelength = false; // leaves in nm: what was entered in nm as typed, system units by 10
+    bool difference = false; // the values are differences, so that an offset of the unit cancels
 };
 
 /// A number as it leaves, with its count of digits (at least 1).
@@ -24,16 +26,31 @@ struct ExportNumber {
     int digits = 1;
 };
 
-/// Converts a typed value; what needs no conversion goes out as typed.
-ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit);
+/// Converts a typed value; what needs no conversion goes out as typed. count is its recorded count
+/// of digits, 0 for that of its text.
+ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count = 0);
 
-/// Whether a value in this unit can be converted at all: a unit by mass needs the molar mass.
-bool IsConvertible(const ExportUnit& unit);
+/// Why a value in this unit cannot be converted, or empty: a unit by mass needs the molar mass, and
+/// the unit must be known.
+std::string ConversionFault(const ExportUnit& unit);
+
+/// The fault of data whose property or variable the reference tables give no element.
+inline constexpr char NoPlaceInExport[] =
+    "The reference tables have no place for these data in the export";
+
+/// What one row of a set states itself; it goes before what the set states.
+struct RowFigures {
+    const RowStatements& statements;
+    std::string_view combined;
+    std::string_view curveDeviation;
+    bool setConverts = false; // the figures of the set stand in the entered unit
+};
 
 /// The statements of one value, in the order of their heads (clsX::ExportX); role is "Prop" or
 /// "Var". value is the typed value of the quantity, to which per cent refer. True when a
 /// repeatability was announced but has no figure.
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
-                      std::string_view value, const ExportUnit& unit);
+                      std::string_view value, const ExportUnit& unit,
+                      const RowFigures* row = nullptr);
 
 } // namespace vexora

@@ -6,6 +6,7 @@
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
@@ -111,6 +112,8 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
         for (const auto& sample : compound->recS) {
             for (const auto& value : sample->recZ)
                 value->ExportZ(xml);
+            for (const auto& set : sample->recTwo)
+                set->ExportAll(xml);
         }
     }
 }

@@ -6,8 +6,10 @@
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
@@ -53,11 +55,11 @@ void CheckSample(const clsS& sample, std::vector<DocumentFinding>& findings) {
         remarks.Warn(sample.Key() + " has no data");
 }
 
-void CheckPhases(const clsZ& value, Remarks& remarks) {
-    for (const std::string& phase : {value.PHASE1, value.PHASE2, value.PHASE3}) {
+void CheckPhases(std::initializer_list<std::string> phases, Remarks& remarks) {
+    for (const std::string& phase : phases) {
         if (!IsBlankField(phase) && !PhaseValid(phase)) remarks.Error("Unknown phase " + phase);
     }
-    if (IsBlankField(value.PHASE1)) remarks.Error("No phase is given");
+    if (IsBlankField(*phases.begin())) remarks.Error("No phase is given");
 }
 
 void CheckLimits(const clsZ& value, Remarks& remarks, const std::string& name) {
@@ -76,7 +78,7 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
         return;
     }
     const std::string name = PropertyName(value.PRPCODE, "Pure");
-    CheckPhases(value, remarks);
+    CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
     if (value.nVar == 1 && !IsNumeric(value.INDVARIABLE)) {
         remarks.Error(name + ": the variable is no number: " + value.INDVARIABLE);
     }
@@ -87,6 +89,86 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
         remarks.Error(name + ": unknown unit " + value.PROPERTY_UNIT);
     } else {
         CheckLimits(value, remarks, name);
+    }
+}
+
+// Rows of a set about which the same is to be said.
+class RowTally {
+public:
+    void Add(std::size_t row, const std::string& text) {
+        if (count_++ == 0) first_ = "row " + std::to_string(row) + ": " + text;
+    }
+    bool IsEmpty() const { return count_ == 0; }
+    std::string Text() const {
+        if (count_ == 1) return first_;
+        return first_ + " (and " + std::to_string(count_ - 1) + " more)";
+    }
+
+private:
+    std::size_t count_ = 0;
+    std::string first_;
+};
+
+struct RowFindings {
+    RowTally noNumber, invalid, suspicious;
+};
+
+void CheckNumber(std::size_t place, const std::string& typed, const std::string& code,
+                 const UnitConversion& unit, RowFindings& found) {
+    if (!IsNumeric(typed)) return found.noNumber.Add(place, "this is no number: " + typed);
+    const double system = unit.Absolute(Val(typed));
+    const std::string value = "value " + NumberText(system);
+    if (!IsValidValue(code, system))
+        found.invalid.Add(place, value + " is not valid");
+    else if (!IsPlausibleValue(code, system))
+        found.suspicious.Add(place, value + " is suspicious");
+}
+
+// Quantity n of all rows. Differences and ratios have no limits.
+void CheckColumn(const clsTwo& set, int n, const std::string& name, Remarks& remarks) {
+    const bool hasLimits = n > 0 || set.Relation() == "A";
+    const std::string code = !hasLimits ? "" : n == 0 ? set.PRPCODE : set.VARIABLE(n);
+    const UnitConversion entered = n == 0 ? set.PropertyConversion() : set.VariableConversion(n);
+    RowFindings found;
+    std::size_t place = 0;
+    for (const auto& row : set.recData)
+        CheckNumber(++place, row->Values[static_cast<std::size_t>(n)], code,
+                    row->inOriginalUnits ? entered : UnitConversion(), found);
+    if (!found.noNumber.IsEmpty()) remarks.Error(name + ": " + found.noNumber.Text());
+    if (!found.invalid.IsEmpty()) remarks.Error(name + ": " + found.invalid.Text());
+    if (!found.suspicious.IsEmpty()) remarks.Warn(name + ": " + found.suspicious.Text());
+}
+
+bool IsKnownDefinition(const clsTwo& set) {
+    return set.PROPERTY_FUNCT == "DIR" || set.PROPERTY_FUNCT == "MN" || set.Relation() != "A";
+}
+
+void CheckUnit(const clsTwo& set, int n, const std::string& name, Remarks& remarks) {
+    const std::string& unit = n == 0 ? set.PROPERTY_UNIT : set.VAR_UNIT(n);
+    const bool isFree = !set.isOriginalUnit || (n == 0 && set.Factor > 0);
+    if (isFree || IsKnownConversion(unit))
+        CheckColumn(set, n, name, remarks);
+    else
+        remarks.Error(name + ": unknown unit " + unit);
+}
+
+void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
+    Remarks remarks(findings, set);
+    if (!PropertyValid(set.PRPCODE)) return remarks.Error("Unknown property " + set.PRPCODE);
+    const std::string name = PropertyName(set.PRPCODE, "Pure");
+    CheckPhases({set.PHASE1, set.PHASE2}, remarks);
+    if (IndexOfCode(ConstraintKinds(), set.CONSTRAINT) < 0)
+        remarks.Error(name + ": unknown constraint " + set.CONSTRAINT);
+    if (!IsKnownDefinition(set))
+        remarks.Error(name + ": unknown definition of results " + set.PROPERTY_FUNCT);
+    if (set.recData.IsEmpty() && !set.DATATYPE.starts_with('N'))
+        remarks.Warn(name + ": the data set has no rows");
+    CheckUnit(set, 0, name, remarks);
+    for (int n = 1; n <= set.nVar; ++n) {
+        if (VariableValid(set.VARIABLE(n)))
+            CheckUnit(set, n, name + ", " + LowerAscii(VariableName(set.VARIABLE(n))), remarks);
+        else
+            remarks.Error(name + ": unknown variable " + set.VARIABLE(n));
     }
 }
 
@@ -102,6 +184,8 @@ std::vector<DocumentFinding> CheckDocument() {
                 CheckSample(*sample, findings);
                 for (const auto& value : sample->recZ)
                     CheckValue(*value, findings);
+                for (const auto& set : sample->recTwo)
+                    CheckSet(*set, findings);
             }
         }
     }

@@ -1,53 +1,26 @@
 #include "shell/ReadingPane.h"
 
-#include <vector>
-
 #include "chem/CommentTags.h"
 #include "globals/KVOGlobal.h"
-#include "plot/frmBox.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
+#include "shell/ReadingPage.h"
+#include "shell/SetReading.h"
 
 namespace vexora {
 
 namespace {
-
-/// Collects a page: a heading, lines of "what: value", and what is missing.
-class Page {
-public:
-    explicit Page(std::string_view heading) : html_("<h3>" + HtmlOfText(heading) + "</h3>\n") {}
-
-    void Line(std::string_view what, std::string_view value) {
-        if (IsBlankField(value)) return;
-        html_ += "<p><b>" + HtmlOfText(what) + "</b> " + HtmlOfText(value) + "</p>\n";
-    }
-    void Item(std::string_view text) { html_ += "<p>" + HtmlOfText(text) + "</p>\n"; }
-    void Need(bool missing, std::string text) {
-        if (missing) missing_.push_back(std::move(text));
-    }
-
-    std::string Html() const {
-        if (missing_.empty()) return html_;
-        std::string html = html_ + "<h4>Still missing</h4>\n";
-        for (const std::string& text : missing_)
-            html += "<p>" + HtmlOfText(text) + "</p>\n";
-        return html;
-    }
-
-private:
-    std::string html_;
-    std::vector<std::string> missing_;
-};
 
 std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
@@ -68,10 +41,6 @@ std::string WithDashes(const std::string& rn) {
     if (rn.size() < 4) return rn;
     const std::size_t n = rn.size();
     return rn.substr(0, n - 3) + "-" + rn.substr(n - 3, 2) + "-" + rn.substr(n - 1);
-}
-
-std::string WithUnit(const std::string& number, const std::string& unit) {
-    return unit.empty() || unit == "1" ? number : number + " " + unit;
 }
 
 /// What is stated about the uncertainty of a value, the most telling statement first.
@@ -108,13 +77,6 @@ std::string VariableText(const clsZ& value) {
     return WithUnit(value.INDVARIABLE, text.empty() ? unit : text);
 }
 
-std::string MethodText(const clsZ& value) {
-    const std::string& comment = value.Header.DATACOMMENT;
-    const std::string code = CommentTag(comment, "Method");
-    if (code.empty() || code == "OTHER") return CommentTag(comment, "sMethod");
-    return code == "UNKNOWN" ? "not stated in the document" : XMLMethod(code, value.PRPCODE);
-}
-
 std::string PurityInWords(const PurityStatement& statement) {
     const PurityUnit* unit = PurityUnitByCode(statement.Unit);
     if (statement.Value.empty() || unit == nullptr) return {};
@@ -122,12 +84,8 @@ std::string PurityInWords(const PurityStatement& statement) {
     return statement.Value + " " + std::string(unit->text) + (method.empty() ? "" : ", " + method);
 }
 
-std::string PhaseText(std::string_view code) {
-    return IsBlankField(code) ? std::string() : PhaseName(code);
-}
-
 std::string ReadingOf(const clsR& source) {
-    Page page("Source " + source.Source());
+    ReadingPage page("Source " + source.Source());
     page.Line("Title:", source.TTITLE);
     page.Line("Published in:", source.SSOURCE);
     page.Line("Authors:", AuthorsOf(source));
@@ -140,7 +98,7 @@ std::string ReadingOf(const clsR& source) {
 }
 
 std::string ReadingOf(const clsL& compound) {
-    Page page(compound.ShowKey());
+    ReadingPage page(compound.ShowKey());
     page.Line("Formula:", compound.Formula);
     if (compound.MMass > 0) page.Line("Molar mass:", NumberText(compound.MMass) + " g/mol");
     page.Line("Registry number:", WithDashes(compound.RN));
@@ -151,7 +109,7 @@ std::string ReadingOf(const clsL& compound) {
     return page.Html();
 }
 
-void DescribeSample(Page& page, const clsS& sample) {
+void DescribeSample(ReadingPage& page, const clsS& sample) {
     const auto description = ParseDescription(sample.SMPDESC);
     if (!description) {
         page.Line("Description:", sample.SMPDESC);
@@ -170,7 +128,7 @@ void DescribeSample(Page& page, const clsS& sample) {
 }
 
 std::string ReadingOf(const clsS& sample) {
-    Page page("Sample " + sample.SMPNM);
+    ReadingPage page("Sample " + sample.SMPNM);
     if (sample.Parent != nullptr) page.Line("Compound:", sample.Parent->ShowKey());
     DescribeSample(page, sample);
     if (sample.Purity > 0) page.Line("Purity that counts:", NumberText(sample.Purity) + " %");
@@ -178,13 +136,16 @@ std::string ReadingOf(const clsS& sample) {
                             Counted(sample.recTwo.Count(), "data set", "data sets"));
     for (const auto& value : sample.recZ)
         page.Line(PropertyName(value->PRPCODE, "Pure") + ":", ValueText(*value));
+    for (const auto& set : sample.recTwo)
+        page.Line(PropertyName(set->PRPCODE, "Pure") + ":",
+                  Counted(set->recData.Count(), "row", "rows"));
     page.Need(sample.recZ.IsEmpty() && sample.recTwo.IsEmpty(), "Data");
     return page.Html();
 }
 
 std::string ReadingOf(const clsZ& value) {
     const std::string name = PropertyName(value.PRPCODE, "Pure");
-    Page page(name.empty() ? value.PRPCODE : name);
+    ReadingPage page(name.empty() ? value.PRPCODE : name);
     page.Line("Value:", ValueText(value));
     page.Line("In system units:", ConvertedText(value));
     if (value.nVar == 1)
@@ -193,7 +154,7 @@ std::string ReadingOf(const clsZ& value) {
     page.Line("Phase:", PhaseText(value.PHASE1));
     page.Line("In equilibrium with:", PhaseText(value.PHASE2));
     page.Line("And with:", PhaseText(value.PHASE3));
-    page.Line("Method:", MethodText(value));
+    page.Line("Method:", MethodText(value.Header, value.PRPCODE));
     page.Line("Purpose:", TextOfCode(ExperimentPurposes(), value.Header.EXPPURPOSE));
     page.Line("Comment:", CommentText(value.Header.DATACOMMENT));
     page.Line("Set:", value.PRPSETNO);
@@ -209,7 +170,8 @@ std::string ReadingHtml(const ui::TreeTag* record) {
     if (const auto* compound = dynamic_cast<const clsL*>(record)) return ReadingOf(*compound);
     if (const auto* sample = dynamic_cast<const clsS*>(record)) return ReadingOf(*sample);
     if (const auto* value = dynamic_cast<const clsZ*>(record)) return ReadingOf(*value);
-    Page page("No record is selected");
+    if (const auto* set = dynamic_cast<const clsTwo*>(record)) return ReadingOfSet(*set);
+    ReadingPage page("No record is selected");
     if (Globals().recR.IsEmpty())
         page.Item("Press \"Start\" to describe a document, or open one from the File menu.");
     else

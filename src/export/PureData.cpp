@@ -1,0 +1,136 @@
+#include "export/PureData.h"
+
+#include <algorithm>
+
+#include "chem/CommentTags.h"
+#include "export/ExportDocument.h"
+#include "export/RegNum.h"
+#include "export/XmlWriter.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsA.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "records/clsX.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+// The text of a tag behind ":Name:", up to the next colon.
+std::string TagText(const clsA& header, std::string_view tag) {
+    const std::string tags = CommentTagPart(header.DATACOMMENT);
+    const std::size_t at = tags.find(tag);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + tag.size();
+    return tags.substr(from, tags.find(':', from) - from);
+}
+
+bool IsBoilingProperty(std::string_view code) {
+    return code == "PV" || code == "TB" || code == "HVP";
+}
+
+void ExportMethod(XmlWriter& xml, const std::string& propertyCode, const clsA& header) {
+    const std::string code = TagText(header, ":Method:");
+    if (code == "UNKNOWN") return;
+    if (code.empty() || code == "OTHER") {
+        xml.ElementIfAny("sMethodName", Trim(TagText(header, ":sMethod:")));
+    } else {
+        xml.ElementIfAny("eMethodName", XMLMethod(code, propertyCode));
+    }
+}
+
+} // namespace
+
+void TellDataError(const clsS& sample, std::string_view propertyCode, const std::string& fault) {
+    ui::Say(fault + "\nSystem: " + sample.Parent->ShowKey() +
+                "\nProperty: " + PropertyName(propertyCode, "Pure"),
+            "Data Error!");
+}
+
+bool HasTag(const clsA& header, std::string_view tag) {
+    return CommentTagPart(header.DATACOMMENT).find(tag) != std::string::npos;
+}
+
+void ExportOrigin(XmlWriter& xml, const clsS& sample, const clsA& header) {
+    xml.Open("Component");
+    ExportRegNum(xml, *sample.Parent);
+    xml.Element("nSampleNm", Trim(sample.SMPNM));
+    xml.Close();
+    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes(), header.EXPPURPOSE));
+    xml.ElementIfAny("sCompiler", Globals().UserName);
+    xml.ElementIfAny("sContributor", Globals().Organization);
+    xml.ElementIfAny("dateDateAdded", IsoDate(header.DATEADDED));
+}
+
+void ExportPropertyHead(XmlWriter& xml, const std::string& code, const std::string& group,
+                        std::string_view phase, const clsA& header) {
+    xml.Element("nPropNumber", "1");
+    xml.Open("Property-MethodID");
+    xml.Open("PropertyGroup");
+    xml.Open(group);
+    xml.Element("ePropName", XMLPropertyName(code, "Pure"));
+    ExportMethod(xml, code, header);
+    xml.Close();
+    xml.Close();
+    xml.Close();
+    ExportPhase(xml, "PropPhaseID", "ePropPhase", phase);
+}
+
+void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
+                 std::string_view phase) {
+    xml.Open(element);
+    xml.Element(inner, PhaseName(phase));
+    xml.Close();
+}
+
+void ExportPhases(XmlWriter& xml, const std::string& code, const clsA& header,
+                  std::initializer_list<std::string_view> phases) {
+    std::vector<std::string_view> known;
+    const auto add = [&known](std::string_view phase) {
+        const bool isKnown = std::find(known.begin(), known.end(), phase) != known.end();
+        if (!IsBlankField(phase) && !isKnown) known.push_back(phase);
+    };
+    for (const std::string_view phase : phases)
+        add(phase);
+    const bool boils = IsBoilingProperty(code) && !HasTag(header, ":FP:");
+    if (HasTag(header, ":PB:") || boils) add("G");
+    for (const std::string_view phase : known)
+        ExportPhase(xml, "PhaseID", "ePhase", phase);
+}
+
+void ExportConstraint(XmlWriter& xml, const std::string& group, const std::string& name,
+                      const std::string& value, int digits) {
+    xml.Open("Constraint");
+    xml.Open("ConstraintID");
+    xml.Open("ConstraintType");
+    xml.Element(group, name);
+    xml.Close();
+    xml.Close();
+    xml.Element("nConstraintValue", value);
+    xml.Element("nConstrDigits", std::to_string(digits));
+    xml.Close();
+}
+
+void ExportAtmosphere(XmlWriter& xml) {
+    ExportConstraint(xml, "ePressure", "Pressure, kPa", "101.325", 6);
+}
+
+void ExportVariable(XmlWriter& xml, int number, const std::string& code, std::string_view phase,
+                    const clsX& item) {
+    xml.Open("Variable");
+    xml.Element("nVarNumber", std::to_string(number));
+    xml.Open("VariableID");
+    xml.Open("VariableType");
+    xml.Element(XMLVariableGroup(code), XMLVariableName(code));
+    xml.Close();
+    xml.Close();
+    ExportPhase(xml, "VarPhaseID", "eVarPhase", phase);
+    item.ExportX(xml, "Var");
+    xml.Close();
+}
+
+} // namespace vexora

@@ -1,0 +1,186 @@
+#include "records/clsTwo.h"
+
+#include <algorithm>
+
+#include "chem/CommentTags.h"
+#include "export/PureData.h"
+#include "export/RowExport.h"
+#include "export/XmlWriter.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr CodeText Presentations[] = {
+    {"Direct value, X", "DIR"},
+    {"Difference between upper and lower temperature, X(T2)-X(T1)", "DT"},
+    {"Difference between upper and lower pressure, X(P2)-X(P1)", "DX"},
+    {"Mean between upper and lower temperature, [X(T2)+X(T1)]/2", "MN"},
+};
+
+constexpr CodeText RelativePresentations[] = {
+    {"Difference with the reference state, X-X(REF)", "D"},
+    {"Ratio with the reference state, X/X(REF)", "R"},
+    {"Ratio of difference with the reference state to the reference state, [X-X(REF)]/X(REF)", "K"},
+};
+
+bool IsRelative(const clsTwo& set) {
+    return TextOfCode(Presentations, set.PROPERTY_FUNCT).empty() && set.Relation() != "A";
+}
+
+std::string PresentationOf(const clsTwo& set) {
+    if (!IsRelative(set)) return TextOfCode(Presentations, set.PROPERTY_FUNCT);
+    return TextOfCode(RelativePresentations, set.PROPERTY_FUNCT.substr(0, 1));
+}
+
+void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::string& digits,
+                         const std::string& typed) {
+    if (!IsNumeric(typed)) return;
+    const ExportNumber number = ExportedValue(typed, {"S"});
+    xml.Element(element, number.text);
+    xml.Element(digits, std::to_string(number.digits));
+}
+
+void ExportReference(XmlWriter& xml, const clsTwo& set) {
+    if (!IsRelative(set)) return;
+    const std::string relation = set.PROPERTY_FUNCT.substr(1);
+    xml.ElementIfAny("eRefStateType", ReferenceStateText(relation));
+    if (relation == "FR" || relation == "PF")
+        ExportNumberAsTyped(xml, "nRefTemp", "nRefTempDigits", set.REF_TEMP);
+    if (relation == "FR" || relation == "FX" || relation == "TF")
+        ExportNumberAsTyped(xml, "nRefPressure", "nRefPressureDigits", set.REF_PRESSURE);
+    if (!IsBlankField(set.REF_PHASE)) ExportPhase(xml, "RefPhaseID", "eRefPhase", set.REF_PHASE);
+}
+
+bool HasVariable(const clsTwo& set, std::string_view code) {
+    return set.VARIABLE1 == code || (set.nVar == 2 && set.VARIABLE2 == code);
+}
+
+// The value of a state variable that the comment states for all rows, in its system unit.
+std::string ConstantOf(const clsTwo& set, const std::string& code) {
+    const std::string tags = CommentTagPart(set.Header.DATACOMMENT);
+    const std::string mark = ":" + code + " = ";
+    const std::size_t at = tags.find(mark);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + mark.size();
+    const std::string value = tags.substr(from, tags.find(':', from) - from);
+    return IsNumeric(value) ? value : std::string();
+}
+
+void ExportConstraints(XmlWriter& xml, const clsTwo& set) {
+    for (const std::string code : {"T", "P", "WL", "WF"}) {
+        const std::string value = ConstantOf(set, code);
+        if (value.empty() || HasVariable(set, code)) continue;
+        ExportUnit unit{"S"};
+        unit.wavelength = code == "WL";
+        const ExportNumber number = ExportedValue(value, unit);
+        ExportConstraint(xml, XMLVariableGroup(code), XMLVariableName(code), number.text,
+                         number.digits);
+    }
+    const bool isPressure = HasVariable(set, "P") || set.PRPCODE == "PV" || set.PRPCODE == "P";
+    const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, ":PB:");
+    if (isPressure || !ConstantOf(set, "P").empty()) return;
+    if (boils || HasTag(set.Header, ":FP:")) ExportAtmosphere(xml);
+}
+
+ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
+    return {conversion.code, conversion.factor, conversion.molarMass, converts};
+}
+
+// Statements that only some rows make announce themselves like those of the set.
+void AnnounceRows(const clsTwo& set, RowExport& rows) {
+    for (const auto& row : set.recData) {
+        if (!row->Extras) continue;
+        for (int n = 0; n <= set.nVar; ++n) {
+            const RowStatements& own = row->StatementsOf(n);
+            clsX& item = rows.quantities[static_cast<std::size_t>(n)].item;
+            item.iDS = item.iDS || !own.DS.empty();
+            item.iRep = item.iRep || !own.Rep.empty();
+            item.iUnc = item.iUnc || !own.Unc.empty();
+        }
+        clsX& property = rows.quantities[0].item;
+        property.iCD = property.iCD || !row->Extras->CD.empty();
+    }
+}
+
+RowExport RowExportOf(const clsTwo& set) {
+    RowExport rows;
+    rows.quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0]};
+    rows.quantities[0].unit.difference = set.Relation() == "D";
+    for (int n = 1; n <= set.nVar; ++n) {
+        const auto place = static_cast<std::size_t>(n);
+        ExportUnit unit{set.VAR_UNIT(n), 0, 0, set.isOriginalUnit};
+        unit.wavelength = set.VARIABLE(n) == "WL";
+        if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
+        rows.quantities[place] = {unit, set.UX[place]};
+    }
+    AnnounceRows(set, rows);
+    return rows;
+}
+
+// Why the set cannot be exported, or empty.
+std::string FaultOf(const clsTwo& set, const std::string& group, const RowExport& rows) {
+    bool hasPlace = IsXmlName(group);
+    for (int n = 1; n <= set.nVar; ++n)
+        hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n)));
+    if (!hasPlace) return NoPlaceInExport;
+    if (PresentationOf(set).empty()) return "Unknown definition of results " + set.PROPERTY_FUNCT;
+    std::string fault = ConversionFault(rows.quantities[0].unit);
+    for (int n = 1; n <= set.nVar && fault.empty(); ++n)
+        if (set.isOriginalUnit && !IsKnownConversion(set.VAR_UNIT(n)))
+            fault = "Unknown unit " + set.VAR_UNIT(n);
+    return fault;
+}
+
+bool IsNumericRow(const clsData& row) {
+    for (int n = 0; n <= row.nVar; ++n)
+        if (!IsNumeric(row.Values[static_cast<std::size_t>(n)])) return false;
+    return true;
+}
+
+void ExportRows(XmlWriter& xml, const clsTwo& set, RowExport& rows) {
+    bool leftOut = false;
+    for (const auto& row : set.recData) {
+        if (IsNumericRow(*row))
+            row->ExportData(xml, rows);
+        else
+            leftOut = true;
+    }
+    if (leftOut) TellDataError(*set.Parent, set.PRPCODE, "Rows without a valid number in ");
+    if (rows.lacksRepeatability)
+        TellDataError(*set.Parent, set.PRPCODE, "Missing repeatability in ");
+}
+
+} // namespace
+
+void clsTwo::ExportAll(XmlWriter& xml) const {
+    if (Parent == nullptr || Parent->Parent == nullptr || recData.IsEmpty()) return;
+    const std::string group = XMLPropertyGroup(PRPCODE, "Pure");
+    RowExport rows = RowExportOf(*this);
+    const std::string fault = FaultOf(*this, group, rows);
+    if (!fault.empty()) return TellDataError(*Parent, PRPCODE, fault);
+    xml.Open("PureOrMixtureData");
+    ExportOrigin(xml, *Parent, Header);
+    xml.Open("Property");
+    ExportPropertyHead(xml, PRPCODE, group, PHASE1, Header);
+    xml.Element("ePresentation", PresentationOf(*this));
+    ExportReference(xml, *this);
+    rows.quantities[0].item.ExportX(xml, "Prop");
+    xml.Close();
+    ExportPhases(xml, PRPCODE, Header, {PHASE1, PHASE2});
+    ExportConstraints(xml, *this);
+    for (int n = 1; n <= nVar; ++n)
+        ExportVariable(xml, n, VARIABLE(n), PHASE1,
+                       rows.quantities[static_cast<std::size_t>(n)].item);
+    ExportRows(xml, *this, rows);
+    xml.Close();
+}
+
+} // namespace vexora

@@ -1,0 +1,46 @@
+#include "shell/ReadingPage.h"
+
+#include "chem/CommentTags.h"
+#include "plot/frmBox.h"
+#include "records/clsA.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+ReadingPage::ReadingPage(std::string_view heading)
+    : html_("<h3>" + HtmlOfText(heading) + "</h3>\n") {}
+
+void ReadingPage::Line(std::string_view what, std::string_view value) {
+    if (IsBlankField(value)) return;
+    html_ += "<p><b>" + HtmlOfText(what) + "</b> " + HtmlOfText(value) + "</p>\n";
+}
+
+void ReadingPage::Item(std::string_view text) {
+    html_ += "<p>" + HtmlOfText(text) + "</p>\n";
+}
+
+std::string ReadingPage::Html() const {
+    if (missing_.empty()) return html_;
+    std::string html = html_ + "<h4>Still missing</h4>\n";
+    for (const std::string& text : missing_)
+        html += "<p>" + HtmlOfText(text) + "</p>\n";
+    return html;
+}
+
+std::string WithUnit(const std::string& number, const std::string& unit) {
+    return unit.empty() || unit == "1" ? number : number + " " + unit;
+}
+
+std::string MethodText(const clsA& header, const std::string& propertyCode) {
+    const std::string& comment = header.DATACOMMENT;
+    const std::string code = CommentTag(comment, "Method");
+    if (code.empty() || code == "OTHER") return CommentTag(comment, "sMethod");
+    return code == "UNKNOWN" ? "not stated in the document" : XMLMethod(code, propertyCode);
+}
+
+std::string PhaseText(std::string_view code) {
+    return IsBlankField(code) ? std::string() : PhaseName(code);
+}
+
+} // namespace vexora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vexora {
+
+class clsA;
+
+/// Collects a page of the reading pane: a heading, lines of "what: value", and what is missing.
+class ReadingPage {
+public:
+    explicit ReadingPage(std::string_view heading);
+
+    /// Does nothing for an empty value.
+    void Line(std::string_view what, std::string_view value);
+    void Item(std::string_view text);
+    void Need(bool missing, std::string text) {
+        if (missing) missing_.push_back(std::move(text));
+    }
+    std::string Html() const;
+
+private:
+    std::string html_;
+    std::vector<std::string> missing_;
+};
+
+/// A number with its unit, which "1" is none.
+std::string WithUnit(const std::string& number, const std::string& unit);
+/// The method that the comment of a set names, in words.
+std::string MethodText(const clsA& header, const std::string& propertyCode);
+/// A phase in words; empty for none.
+std::string PhaseText(std::string_view code);
+
+} // namespace vexora

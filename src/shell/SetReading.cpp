@@ -1,0 +1,119 @@
+#include "shell/SetReading.h"
+
+#include "chem/CommentTags.h"
+#include "records/PropertyLabels.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+#include "shell/ReadingPage.h"
+
+#include <algorithm>
+
+namespace vexora {
+
+namespace {
+
+// A set that holds rows of both kinds is read in system units.
+bool HasBothKinds(const clsTwo& set) {
+    return set.isOriginalUnit && std::any_of(set.recData.begin(), set.recData.end(),
+                                             [](const auto& row) { return !row->inOriginalUnits; });
+}
+
+// The least and the greatest value of quantity n (0 the property) as typed.
+std::string RangeOf(const clsTwo& set, int n) {
+    const bool inSystem = HasBothKinds(set);
+    const UnitConversion entered = n == 0 ? set.PropertyConversion() : set.VariableConversion(n);
+    std::string least, greatest;
+    double low = 0, high = 0;
+    for (const auto& row : set.recData) {
+        const std::string& typed = row->Values[static_cast<std::size_t>(n)];
+        if (!IsNumeric(typed)) continue;
+        const bool converts = inSystem && row->inOriginalUnits;
+        const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
+        const std::string& text = converts ? FormatConverted(typed, entered.code, value) : typed;
+        if (least.empty() || value < low) {
+            low = value;
+            least = text;
+        }
+        if (greatest.empty() || value > high) {
+            high = value;
+            greatest = text;
+        }
+    }
+    return least == greatest ? least : least + " to " + greatest;
+}
+
+std::string WithUnitIfAny(const std::string& text, const std::string& unit) {
+    return text.empty() ? text : WithUnit(text, unit);
+}
+
+std::string VariableUnitText(const clsTwo& set, int n) {
+    const std::string unit = DefaultUnit(VariableName(set.VARIABLE(n), "Pure"));
+    std::string code = set.VAR_UNIT(n);
+    if (!set.isOriginalUnit || IsSystemUnit(code) || HasBothKinds(set)) return unit;
+    const std::string text = ConversionText(code, unit);
+    return text.empty() ? code : text;
+}
+
+std::string PropertyUnitText(const clsTwo& set) {
+    if (set.Relation() == "R") return {};
+    if (HasBothKinds(set)) return DefaultUnit(PropertyName(set.PRPCODE, "Pure"));
+    return PropertyLabels::Of(set).unit;
+}
+
+std::string DefinitionText(const clsTwo& set) {
+    const std::string& code = set.PROPERTY_FUNCT;
+    if (code == "DIR") return {};
+    const std::string whole = TextOfCode(PureReferenceStates(), code);
+    if (!whole.empty() || code.size() < 2) return whole.empty() ? code : whole;
+    const std::string relation = TextOfCode(ReferenceRelations(), code.substr(0, 1));
+    const std::string reference = TextOfCode(PureReferenceStates(), code.substr(1));
+    return relation.empty() ? code : relation + "; " + reference;
+}
+
+bool StatesUncertainty(const clsTwo& set) {
+    const clsX& property = set.UX[0];
+    if (property.iDS || property.iRep || property.iUnc || property.iCU) return true;
+    return std::any_of(set.recData.begin(), set.recData.end(), [](const auto& row) {
+        return !IsBlankField(row->PRPUNCERTY) || row->Extras != nullptr;
+    });
+}
+
+void DescribeRows(ReadingPage& page, const clsTwo& set) {
+    for (int n = 1; n <= set.nVar; ++n) {
+        const std::string name = VariableName(set.VARIABLE(n), "Pure");
+        const std::string range = WithUnitIfAny(RangeOf(set, n), VariableUnitText(set, n));
+        page.Line("Against " + LowerAscii(name.empty() ? set.VARIABLE(n) : name) + ":",
+                  range.empty() ? VariableUnitText(set, n) : range);
+    }
+    const std::string range = WithUnitIfAny(RangeOf(set, 0), PropertyUnitText(set));
+    page.Line("Values:", range.empty() ? PropertyUnitText(set) : range);
+    page.Line("Rows:", std::to_string(set.recData.Count()));
+    if (HasBothKinds(set)) page.Item("Some rows stand in the units of the paper, some do not.");
+}
+
+} // namespace
+
+std::string ReadingOfSet(const clsTwo& set) {
+    const std::string name = PropertyName(set.PRPCODE, "Pure");
+    ReadingPage page(name.empty() ? set.PRPCODE : name);
+    DescribeRows(page, set);
+    page.Line("Results are:", DefinitionText(set));
+    page.Line("Data are:", TextOfCode(DataTypes(), set.DATATYPE.substr(0, 1)));
+    page.Line("Constraint:", TextOfCode(ConstraintKinds(), set.CONSTRAINT));
+    page.Line("Phase:", PhaseText(set.PHASE1));
+    page.Line("In equilibrium with:", PhaseText(set.PHASE2));
+    page.Line("Method:", MethodText(set.Header, set.PRPCODE));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes(), set.Header.EXPPURPOSE));
+    page.Line("Comment:", CommentText(set.Header.DATACOMMENT));
+    page.Line("Set:", set.PRPSETNO);
+    page.Line("Entered:", set.Header.DATEADDED);
+    page.Need(set.recData.IsEmpty() && !set.DATATYPE.starts_with('N'), "Rows");
+    page.Need(!StatesUncertainty(set), "A statement of uncertainty");
+    return page.Html();
+}
+
+} // namespace vexora
