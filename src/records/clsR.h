@@ -75,6 +75,8 @@ public:
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
     std::string ProposedName() const;
+    /// The four parts of the identity in one word, fit for a file name.
+    std::string IdentityName() const;
 
     /// What stands before both saving and exporting: asks for SOURCEDOC when it is not known, and
     /// brings SYSTYPES and the property letters up to date.

@@ -102,6 +102,7 @@ TEST_F(Sources, FileNamesAreProposedFromTheIdentity) {
     EXPECT_EQ(source.ProposedName(), "2002wag1");
     source.LoadJ("^J#S#O#J. X, je/01#t");
     EXPECT_EQ(source.ProposedName(), "je_01");
+    EXPECT_EQ(source.IdentityName(), "2002wag1");
 }
 
 TEST_F(Sources, AuthorsGetTheirCodes) {
