@@ -51,6 +51,10 @@ int Tree(const Arguments& arguments) {
 int Export(const Arguments& arguments) {
     OpenedDocument document(arguments.document);
     if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+    if (document.Files().Resolve(arguments.xml) == document.Files().Resolve(arguments.document)) {
+        std::cerr << arguments.xml << ": error: this is the record file itself\n";
+        return kExitCannotWrite;
+    }
     TellLinesNotKept(document);
     const std::string xml = ExportDocument(ui::TheDesktop().Today());
     if (arguments.xml.empty()) {

@@ -2,8 +2,11 @@
 #include "cli/ExitCodes.h"
 #include "cli/Play.h"
 #include "cli/Refdb.h"
+#include "reference/Database.h"
 
 #include <CLI/CLI.hpp>
+
+#include <iostream>
 
 int main(int argc, char** argv) {
     CLI::App app("Vexora without a screen: data on standard output, diagnostics on standard error",
@@ -18,6 +21,9 @@ int main(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? vexora::kExitClean : vexora::kExitUsage;
+    } catch (const vexora::DatabaseError& error) {
+        std::cerr << "error: " << error.what() << '\n';
+        return vexora::kExitUnreadable;
     }
     return exitCode;
 }

@@ -154,8 +154,8 @@ void frmDocument::StoreNew() {
     Store(*source);
     source->AUTHORN = "1";
     OrTell([&source] {
-        source->AUTHORN =
-            std::to_string(NextAuthorNumber(source->YEARPUB, source->AUTHOR1, source->AUTHOR2));
+        source->AUTHORN = std::to_string(
+            NextNumberOfNewSource(source->YEARPUB, source->AUTHOR1, source->AUTHOR2));
         RegisterSource(*source);
     });
     source->AttachTo();

@@ -58,8 +58,10 @@ Request Read(std::vector<std::string> words) {
         return request;
     }
     request.home = TakeOption(words, "--home");
-    if (!words.empty()) request.document = words.front();
-    request.malformed = words.size() > 1 || request.document.starts_with("-");
+    for (const std::string& word : words) { // a path whose blanks were not quoted comes in pieces
+        request.document += (request.document.empty() ? "" : " ") + word;
+        request.malformed = request.malformed || word.starts_with("-");
+    }
     return request;
 }
 

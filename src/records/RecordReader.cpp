@@ -86,18 +86,20 @@ ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
     KVOGlobal& globals = Globals();
     globals.DataContext.clear();
     ReaderState state;
-    {
-        const LabelsLater unlabelled;
-        ReadLines(text, state);
+    try {
+        {
+            const LabelsLater unlabelled;
+            ReadLines(text, state);
+        }
+        if (!state.isAbandoned) Finish(purpose);
+    } catch (const DatabaseError& error) { // a damaged database shows where it is looked into
+        state.Abandon(error.what());
     }
     globals.LineBeingRead = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
-    if (result.whole) {
-        result.linesNotKept = state.linesNotKept + state.pendingLines;
-        Finish(purpose);
-        return result;
-    }
+    result.linesNotKept = state.linesNotKept + state.pendingLines;
+    if (result.whole) return result;
     EmptyDocument();
     result.fault = state.fault;
     result.faultLine = state.lineNumber;

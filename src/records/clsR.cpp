@@ -30,6 +30,12 @@ std::string HashField(std::string_view text) {
     return Replace(SingleLine(text), "#", " ");
 }
 
+std::string ForFileName(std::string name) {
+    for (char& c : name)
+        if (c == '/' || c == '\x7f' || (c >= '\0' && c < ' ')) c = '_';
+    return name;
+}
+
 void Stamp(clsR& source) {
     for (const auto& compound : source.recL) {
         for (const auto& sample : compound->recS) {
@@ -151,14 +157,15 @@ std::shared_ptr<clsL> clsR::FindL(std::string_view rn, std::size_t* index) const
 }
 
 std::string clsR::ProposedName() const {
-    std::string name = ManuscriptID;
-    if (name.empty()) {
-        for (const std::string& part : {YEARPUB, AUTHOR1, AUTHOR2, AUTHORN})
-            name += WithoutPlaceholder(part);
-    }
-    for (char& c : name)
-        if (c == '/' || (c >= '\0' && c < ' ')) c = '_';
-    return name;
+    const bool isManuscript = TYPDOC == "S" && isNew && !ManuscriptID.empty();
+    return isManuscript ? ForFileName(ManuscriptID) : IdentityName();
+}
+
+std::string clsR::IdentityName() const {
+    std::string name;
+    for (const std::string& part : {YEARPUB, AUTHOR1, AUTHOR2, AUTHORN})
+        name += WithoutPlaceholder(part);
+    return ForFileName(std::move(name));
 }
 
 } // namespace vexora

@@ -75,6 +75,8 @@ public:
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
     std::string ProposedName() const;
+    /// The four parts of the identity in one word, fit for a file name.
+    std::string IdentityName() const;
 
     /// What stands before both saving and exporting: asks for SOURCEDOC when it is not known, and
     /// brings SYSTYPES and the property letters up to date.
@@ -93,6 +95,10 @@ private:
 /// The next free AUTHORN for the identity in SOURCE_REFINFO: one above the greatest, 1 for none.
 /// A second author "&" or "" counts as none.
 int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2);
+/// The number for a source that is described anew: without a second author it counts on from all
+/// sources of the first, whoever wrote them with him.
+int NextNumberOfNewSource(std::string_view year, std::string_view author1,
+                          std::string_view author2);
 /// Adds the source to SOURCE_REFINFO with NEW set.
 void RegisterSource(const clsR& source);
 

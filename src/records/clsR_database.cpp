@@ -29,6 +29,13 @@ std::optional<std::string> KnownSource(const clsR& source) {
     return std::nullopt;
 }
 
+int OneAboveGreatest(Recordset rows) {
+    std::int64_t highest = 0;
+    for (; !rows.IsEnd(); rows.MoveNext())
+        highest = std::max(highest, rows.Integer("AUTHORN"));
+    return static_cast<int>(highest) + 1;
+}
+
 } // namespace
 
 void clsR::LoadJ(std::string_view line) {
@@ -74,11 +81,16 @@ void clsR::TakeNextNumber() {
 }
 
 int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2) {
-    std::int64_t highest = 0;
     if (!Globals().CompoundDb().IsOpen()) return 1;
-    for (Recordset row = RowsOf(year, author1, author2); !row.IsEnd(); row.MoveNext())
-        highest = std::max(highest, row.Integer("AUTHORN"));
-    return static_cast<int>(highest) + 1;
+    return OneAboveGreatest(RowsOf(year, author1, author2));
+}
+
+int NextNumberOfNewSource(std::string_view year, std::string_view author1,
+                          std::string_view author2) {
+    if (!WithoutPlaceholder(author2).empty()) return NextAuthorNumber(year, author1, author2);
+    if (!Globals().CompoundDb().IsOpen()) return 1;
+    return OneAboveGreatest(Globals().CompoundDb().Query(
+        "select * from SOURCE_REFINFO where YEARPUB = ? and AUTHOR1 = ?", {year, author1}));
 }
 
 void RegisterSource(const clsR& source) {

@@ -1,6 +1,5 @@
 #include "shell/Paths.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
@@ -41,14 +40,6 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
 std::string UserHomeFolder() {
     const char* home = std::getenv("HOME");
     return home != nullptr && *home != '\0' ? home : "/";
-}
-
-std::string AsFileName(std::string_view text) {
-    std::string name(text);
-    std::replace_if(
-        name.begin(), name.end(),
-        [](char c) { return c == '/' || (c >= 0 && c < ' ') || c == '\x7f'; }, '_');
-    return name;
 }
 
 std::string DocumentOfCommandLine(std::string_view commandLine) {

@@ -22,8 +22,6 @@ std::string AbsolutePath(std::string_view path);
 std::string JoinPath(std::string_view folder, std::string_view name);
 /// The user's own folder, where choosers start that have no other place.
 std::string UserHomeFolder();
-/// "/" and control characters become "_", so that the text can name a file.
-std::string AsFileName(std::string_view text);
 
 /// The document of a command line, with or without double quotes; empty for none. With quotes it is
 /// what stands between the first two.

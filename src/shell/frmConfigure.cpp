@@ -125,10 +125,11 @@ bool frmConfigure::CheckOutputFolder() {
 }
 
 bool frmConfigure::OpenBothDatabases() {
-    const std::string fault =
-        OpenDatabasesAt(WithSlashes(txtLocalDB.Text()), WithSlashes(txtCompoundDB.Text()));
+    const std::string compoundPath = WithSlashes(txtCompoundDB.Text());
+    const std::string fault = OpenDatabasesAt(WithSlashes(txtLocalDB.Text()), compoundPath);
     if (fault.empty()) return true;
-    return Refuse("Specified databases not found or invalid\n" + fault, txtLocalDB);
+    ui::TextBox& concerned = fault.starts_with(compoundPath) ? txtCompoundDB : txtLocalDB;
+    return Refuse("Specified databases not found or invalid\n" + fault, concerned);
 }
 
 bool frmConfigure::CheckUser() {

@@ -117,7 +117,6 @@ private:
     void TellReadOnly(int linesNotKept);
     bool RefuseReadOnly();
     bool WriteDocument();
-    std::string ProposedTitle(const std::string& ending) const;
     bool MayExport();
     void WriteExport(const std::string& target);
     std::string StartFolder() const;

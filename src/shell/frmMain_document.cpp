@@ -1,11 +1,14 @@
 // Opening, saving and emptying the document.
 
+#include <functional>
+
 #include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/RecordReader.h"
 #include "records/SafeFile.h"
 #include "records/clsR.h"
+#include "reference/Database.h"
 #include "shell/DocumentChecks.h"
 #include "shell/Paths.h"
 #include "shell/frmMain.h"
@@ -18,6 +21,25 @@ namespace {
 
 constexpr const char* kRecordFiles = "Record files (*.txt)";
 constexpr const char* kXmlFiles = "ThermoML files (*.xml)";
+
+const clsR& Source() {
+    return *Globals().recR.Item(std::size_t{1});
+}
+
+/// Prints what is to be written and writes it; why that failed, empty when it went well. Printing
+/// looks into the databases, and may ask the user, so it goes without the hourglass.
+std::string WriteText(const std::string& path, const std::function<std::string()>& print,
+                      bool keepBackup) {
+    try {
+        const std::string text = print();
+        const ui::HourglassScope hourglass;
+        return WriteSafely(ui::TheDesktop().Files(), path, text, keepBackup);
+    } catch (const SaveRefused& refused) {
+        return refused.what();
+    } catch (const DatabaseError& damaged) {
+        return damaged.what();
+    }
+}
 
 } // namespace
 
@@ -134,11 +156,6 @@ bool frmMain::RefuseReadOnly() {
     return true;
 }
 
-/// File name for a document that has none yet.
-std::string frmMain::ProposedTitle(const std::string& ending) const {
-    return AsFileName(Globals().recR.Item(std::size_t{1})->ProposedName()) + ending;
-}
-
 void frmMain::Save() {
     if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
     if (FileName.empty())
@@ -153,14 +170,7 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
-    std::string error;
-    try {
-        const std::string text = PrintDocument(); // may ask the user, so without the hourglass
-        const ui::HourglassScope hourglass;
-        error = WriteSafely(ui::TheDesktop().Files(), FileName, text, true);
-    } catch (const SaveRefused& refused) {
-        error = refused.what();
-    }
+    const std::string error = WriteText(FileName, PrintDocument, true);
     if (error.empty()) {
         globals.Saved = true;
         globals.DialogAccepted = false;
@@ -188,8 +198,8 @@ std::string frmMain::ChooseTarget(const std::string& proposed, const std::string
 /// The document keeps its present name when it cannot be written under the new one.
 void frmMain::SaveAs() {
     if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
-    const std::string target =
-        ChooseTarget(FileTitle.empty() ? ProposedTitle(".txt") : FileTitle, kRecordFiles);
+    const std::string target = ChooseTarget(
+        FileTitle.empty() ? Source().ProposedName() + ".txt" : FileTitle, kRecordFiles);
     if (target.empty()) return;
     const std::string presentName = FileName;
     const std::string presentTitle = FileTitle;
@@ -215,19 +225,18 @@ bool frmMain::MayExport() {
 void frmMain::ExportDocument() {
     if (!MayExport()) return;
     DisableShell();
-    const std::string target = ChooseTarget(ProposedTitle(".xml"), kXmlFiles);
+    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", kXmlFiles);
     if (!target.empty()) WriteExport(target);
     Enable();
 }
 
+/// An export keeps no copy of what it replaces, so it may not take the place of the document.
 void frmMain::WriteExport(const std::string& target) {
-    ui::Desktop& desktop = ui::TheDesktop();
-    const std::string text = vexora::ExportDocument(desktop.Today()); // may ask the user
-    std::string error;
-    {
-        const ui::HourglassScope hourglass;
-        error = WriteSafely(desktop.Files(), target, text, false);
-    }
+    ui::FileSystem& files = ui::TheDesktop().Files();
+    if (!FileName.empty() && files.Resolve(target) == files.Resolve(FileName))
+        return ui::Say("The export cannot take the place of the record file " + FileName + ".");
+    const auto print = [] { return vexora::ExportDocument(ui::TheDesktop().Today()); };
+    const std::string error = WriteText(target, print, false);
     if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
 }
 

@@ -64,6 +64,19 @@ TEST_F(Sources, AnotherTextUnderTheSameIdentityIsAskedAbout) {
     EXPECT_EQ(NextAuthorNumber("2031", "qqq", "rrr"), 1);
 }
 
+TEST_F(Sources, ANewSourceOfOneAuthorCountsOnFromThoseHeSharedWithOthers) {
+    clsR shared;
+    shared.YEARPUB = "2031";
+    shared.AUTHOR1 = "qqq";
+    shared.AUTHOR2 = "rrr";
+    shared.AUTHORN = "20";
+    RegisterSource(shared);
+    EXPECT_EQ(NextAuthorNumber("2031", "qqq", "&"), 1);
+    EXPECT_EQ(NextNumberOfNewSource("2031", "qqq", "&"), 21);
+    EXPECT_EQ(NextNumberOfNewSource("2031", "qqq", "rrr"), 21);
+    EXPECT_EQ(NextNumberOfNewSource("2031", "qqq", "sss"), 1);
+}
+
 TEST_F(Sources, TheSourceOfTheDocumentIsAskedUntilItIsKnown) {
     ReadRecords("^R 2031 qqq & 1\n^L 7732185 NNNNN &\n^S 1 ns\n^A & & & & & & & &\n"
                 "^z 1 TC S 1 L G & 647 & & &\n");
@@ -102,6 +115,7 @@ TEST_F(Sources, FileNamesAreProposedFromTheIdentity) {
     EXPECT_EQ(source.ProposedName(), "2002wag1");
     source.LoadJ("^J#S#O#J. X, je/01#t");
     EXPECT_EQ(source.ProposedName(), "je_01");
+    EXPECT_EQ(source.IdentityName(), "2002wag1");
 }
 
 TEST_F(Sources, AuthorsGetTheirCodes) {

@@ -81,7 +81,6 @@ TEST(PathsTest, BothSlashesPartFolders) {
     EXPECT_EQ(parts("/a.txt"), "/|a.txt");
     EXPECT_TRUE(IsFullPath("/data") && IsFullPath("C:\\DATA"));
     EXPECT_FALSE(IsFullPath("data") || IsFullPath("data:x") || IsFullPath(""));
-    EXPECT_EQ(AsFileName("Rep/12\n.3"), "Rep_12_.3");
 }
 
 } // namespace vexora::test

@@ -1,4 +1,5 @@
 #include "records/clsR.h"
+#include "reference/Database.h"
 #include "shell/ShellFixture.h"
 
 namespace vexora::test {
@@ -44,6 +45,31 @@ TEST_F(DocumentTest, ABadRecordLeavesAnEmptyDocumentWithoutAName) {
     EXPECT_FALSE(HasDocument());
     EXPECT_TRUE(Shell().tvwTree.IsEmpty());
     EXPECT_EQ(Shell().FileName, "");
+}
+
+/// Damages the index by which compounds are found; the database opens as if nothing were wrong.
+void DamageLookUps(const std::string& path) {
+    Database database;
+    database.Open(path, true);
+    const auto page = static_cast<std::size_t>(
+        database.Query("select rootpage from sqlite_master where name = 'AllNameRN'")
+            .Integer("rootpage"));
+    database.Close();
+    constexpr std::size_t pageSize = 4096;
+    std::string bytes = FileText(path);
+    ASSERT_GE(bytes.size(), page * pageSize);
+    bytes.replace((page - 1) * pageSize, pageSize, pageSize, 'Z');
+    WriteText(path, bytes);
+}
+
+TEST_F(DocumentTest, ADatabaseThatFailsInTheMiddleOfAReadLeavesNoHalfDocument) {
+    DamageLookUps(folder.Path("VXR.mdb"));
+    desktop.Expect(folder.Path("VXR.mdb") + ": database disk image is malformed");
+    ASSERT_TRUE(Start(WriteDocument()));
+    EXPECT_FALSE(HasDocument());
+    EXPECT_TRUE(Shell().tvwTree.IsEmpty());
+    EXPECT_EQ(Shell().FileName, "");
+    EXPECT_EQ(LiveButtons(), "AddRef ");
 }
 
 TEST_F(DocumentTest, CancelKeepsTheDocumentAndNoDropsIt) {
@@ -116,6 +142,17 @@ TEST_F(DocumentTest, SaveAsAsksBeforeItWritesOverAFile) {
     EXPECT_EQ(Shell().FileTitle, "fresh.txt");
     EXPECT_TRUE(std::filesystem::exists(fresh));
     EXPECT_TRUE(Globals().Saved);
+}
+
+TEST_F(DocumentTest, AnExportNeverTakesThePlaceOfTheDocument) {
+    const std::string path = StartChanged();
+    const std::string before = FileText(path);
+    desktop.Choices = {path};
+    desktop.Expect("File paper.txt exists\nDo you want to re-write paper.txt?", ui::Answer::Yes);
+    desktop.Expect("The export cannot take the place of the record file " + path + ".");
+    Shell().mnuExportXML.UserClick();
+    EXPECT_EQ(FileText(path), before);
+    EXPECT_FALSE(Globals().ShellLocked);
 }
 
 TEST_F(DocumentTest, ACompoundWithoutSampleIsWarnedOf) {

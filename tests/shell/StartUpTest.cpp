@@ -102,6 +102,16 @@ expect file "${HOME_DIR}/VXR.ini" contains "VXRCompoundDB ${HOME_DIR}/good.mdb"
 )");
 }
 
+TEST_F(StartUpTest, ATruncatedDatabaseIsDamagedWhicheverItIs) {
+    Configure("XMLCOMPILER Ann\nORGANIZATION Lab\n");
+    for (const std::string name : {"/VXR.mdb", "/VXRLocal.mdb"}) {
+        const auto size = std::filesystem::file_size(Home() + name);
+        std::filesystem::resize_file(Home() + name, size / 2);
+        Holds("start\ninput \"\"\nanswer No \"Specified databases not found or invalid\\nWould you "
+              "like to correct configuration?\" \"VXR\"\nexpect closed frmMain\n");
+    }
+}
+
 TEST_F(StartUpTest, AMissingDatabaseCanOnlyBeLeftByTheExit) {
     Configure("XMLCOMPILER Ann\nORGANIZATION Lab\n");
     Remove("VXRLocal.mdb");
