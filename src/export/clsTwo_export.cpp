@@ -8,7 +8,6 @@
 #include "export/XmlWriter.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
-#include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -134,8 +133,7 @@ std::string FaultOf(const clsTwo& set, const std::string& group, const RowExport
     if (PresentationOf(set).empty()) return "Unknown definition of results " + set.PROPERTY_FUNCT;
     std::string fault = ConversionFault(rows.quantities[0].unit);
     for (int n = 1; n <= set.nVar && fault.empty(); ++n)
-        if (set.isOriginalUnit && !IsKnownConversion(set.VAR_UNIT(n)))
-            fault = "Unknown unit " + set.VAR_UNIT(n);
+        fault = ConversionFault(rows.quantities[static_cast<std::size_t>(n)].unit);
     return fault;
 }
 

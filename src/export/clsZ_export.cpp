@@ -3,7 +3,6 @@
 #include "export/PureData.h"
 #include "export/Statements.h"
 #include "export/XmlWriter.h"
-#include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Vocabulary.h"
 
@@ -28,8 +27,7 @@ void ExportProperty(XmlWriter& xml, const clsZ& value, const std::string& group)
 }
 
 ExportUnit PropertyUnitOf(const clsZ& value) {
-    return {value.PROPERTY_UNIT, value.Factor, MolarMassOfRN(value.Parent->Parent->RN),
-            value.isOriginalUnit};
+    return {value.PROPERTY_UNIT, value.Factor, value.MolarMass(), value.isOriginalUnit};
 }
 
 ExportUnit VariableUnitOf(const clsZ& value) {

@@ -9,6 +9,11 @@ bool UnitConversion::ChangesValues() const {
     return factor > 0 || (!IsSystemUnit(code) && code != "*");
 }
 
+bool UnitConversion::IsPossible() const {
+    if (factor > 0) return true;
+    return IsKnownConversion(code) && (!IsMassBased(code) || molarMass > 0);
+}
+
 double UnitConversion::Absolute(double value) const {
     return ToSystem(code, value, factor, molarMass);
 }

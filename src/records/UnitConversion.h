@@ -14,6 +14,8 @@ struct UnitConversion {
 
     /// False when values already stand in the system unit.
     bool ChangesValues() const;
+    /// False for a unit that no table knows, and for one by mass without the molar mass.
+    bool IsPossible() const;
     double Absolute(double value) const;
     /// Without the offset of the unit.
     double Difference(double value) const;

@@ -143,6 +143,10 @@ std::string clsS::Formula() const {
     return Parent ? Parent->Formula : std::string();
 }
 
+double clsS::MolarMass() const {
+    return Parent ? MolarMassOfRN(Parent->RN, Parent->Parent) : 0;
+}
+
 std::shared_ptr<clsZ> clsS::FindZ(std::string_view code, int nVar,
                                   std::string_view setNumber) const {
     return FindSet(recZ, code, nVar, setNumber);

@@ -39,6 +39,8 @@ public:
     /// Derives Purity from SMPDESC: the statement of the best rated method counts.
     void AssessPurity();
     std::string Formula() const;
+    /// Molar mass of the compound [g/mol], 0 when it is not known.
+    double MolarMass() const;
     /// The single value with this property, number of variables and set number, or null.
     std::shared_ptr<clsZ> FindZ(std::string_view code, int nVar, std::string_view setNumber) const;
     /// The next free set number for a property with so many variables.

@@ -5,7 +5,6 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
-#include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
 #include "reference/Text.h"
@@ -141,8 +140,7 @@ void clsTwo::AttachTo(clsS& sample) {
 }
 
 double clsTwo::MolarMass() const {
-    const double mass =
-        Parent && Parent->Parent ? MolarMassOfRN(Parent->Parent->RN, Parent->Parent->Parent) : 0;
+    const double mass = Parent ? Parent->MolarMass() : 0;
     return mass > 0 ? mass : FallbackMolarMass;
 }
 

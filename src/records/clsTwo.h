@@ -81,8 +81,8 @@ public:
     UnitConversion PropertyConversion() const;
     UnitConversion VariableConversion(int n) const;
     /// Brings all rows and statements to system units; the unit codes stay as the memory of the
-    /// paper's units.
-    void AdjustUnits();
+    /// paper's units. False, and nothing changes, when a unit or a molar mass is not known.
+    bool AdjustUnits();
 
     void ExportAll(XmlWriter& xml) const;
 

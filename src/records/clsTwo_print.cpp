@@ -111,7 +111,7 @@ std::string clsTwo::SystemPrecision(const std::string& code, const std::string& 
 /// The comment, whose tag "V1:" tells the variable of a ^1 line where nothing else does.
 std::string clsTwo::CommentWithVariable() const {
     std::string comment = Header.DATACOMMENT;
-    if (nVar != 1) return comment;
+    if (nVar != 1 || VARIABLE1.empty()) return comment;
     const std::string stated = CommentTag(comment, "V1");
     if (VARIABLE1 == (stated.empty() ? DerivedVariable() : stated)) return comment;
     const std::string tag = ":V1:" + stated + ":";

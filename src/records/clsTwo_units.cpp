@@ -13,25 +13,26 @@ UnitConversion clsTwo::PropertyConversion() const {
 UnitConversion clsTwo::VariableConversion(int n) const {
     const std::string& code = VAR_UNIT(n);
     // The factor is looked up once here, not for every row.
-    if (IsUnitLong(code)) return {"S", ConversionFactor(code)};
-    return {code};
+    const double factor = IsUnitLong(code) ? ConversionFactor(code) : 0;
+    return {code, factor};
 }
 
-void clsTwo::AdjustUnits() {
-    const UnitConversion ofProperty = PropertyConversion();
+bool clsTwo::AdjustUnits() {
+    std::vector<UnitConversion> units = {PropertyConversion()};
+    for (int n = 1; n <= nVar; ++n)
+        units.push_back(VariableConversion(n));
+    for (const UnitConversion& unit : units)
+        if (isOriginalUnit && !unit.IsPossible()) return false;
     const bool isDifference = Relation() == "D";
     if (isOriginalUnit) AdjustStatements();
-    std::vector<UnitConversion> ofVariables;
-    for (int n = 1; n <= nVar; ++n)
-        ofVariables.push_back(VariableConversion(n));
     for (const auto& row : recData) {
         if (!row->inOriginalUnits) continue;
-        row->Convert(0, ofProperty, isDifference);
-        for (int n = 1; n <= nVar; ++n)
-            row->Convert(n, ofVariables[static_cast<std::size_t>(n - 1)]);
+        for (int n = 0; n <= nVar; ++n)
+            row->Convert(n, units[static_cast<std::size_t>(n)], n == 0 && isDifference);
         row->inOriginalUnits = false;
     }
     isOriginalUnit = false;
+    return true;
 }
 
 /// The statements of the whole set and the precisions of the comment go along with the rows.

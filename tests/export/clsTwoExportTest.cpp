@@ -133,6 +133,8 @@ TEST_F(SetExport, WhatCannotLeaveIsToldOnce) {
     EXPECT_EQ(At(xml, "//nPropValue"), "250 | 250");
     desktop.Expect("Unknown unit ?" + place);
     EXPECT_EQ(At(Exported("^1 1 VDN ? DIR 1\tY L & FP S & & &", "^d 25 1 &\n"), ""), "");
+    desktop.Expect("Unknown unit psi2" + place);
+    EXPECT_EQ(At(Exported("^1 1 VDN S DIR 1\tY L & FP psi2 & & &", "^d 25 1 &\n"), ""), "");
     // Without rows there is nothing to export.
     EXPECT_EQ(At(Exported(kDensity, ""), ""), "");
 }

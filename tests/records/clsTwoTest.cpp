@@ -177,10 +177,14 @@ TEST_F(Sets, SystemUnitsKeepDigitsAndLeavePerCentAlone) {
     set.UX[0].PRPCODE = "VDN";
     set.UX[0].UValue = "0.001";
     set.UX[0].RValue = "1%";
-    set.AdjustUnits();
+    set.VAR2_UNIT = "nounit";
+    EXPECT_FALSE(set.AdjustUnits());
+    EXPECT_EQ(Row().VARIABLE(1), "25.5");
+    set.VAR2_UNIT = "L";
+    EXPECT_TRUE(set.AdjustUnits());
     EXPECT_FALSE(set.isOriginalUnit);
     const std::string once = Saved();
-    set.AdjustUnits();
+    EXPECT_TRUE(set.AdjustUnits());
     EXPECT_EQ(Saved(), once);
     EXPECT_EQ(once, "^A & O & & & & & ::Method:X:dT:0.5:dP:14:\n"
                     "^2 1 VDN v DIR 1\tY L & DP T C P L & & &\n"
@@ -194,7 +198,7 @@ TEST_F(Sets, DifferencesLoseNoOffsetAndRatiosAreNotConverted) {
     const auto adjusted = [this](const std::string& function) {
         clsTwo& set = Read1(kHeader + "^1 1 TB C " + function +
                             " 1\tY L & PB S 298.15 101.325 L\n^d 100.0 25.5 0.5\n" + kEnd);
-        set.AdjustUnits();
+        EXPECT_TRUE(set.AdjustUnits());
         return set.Relation() + " " + Row().PRPVALUE() + " " + Row().PRPUNCERTY;
     };
     EXPECT_EQ(adjusted("DIR"), "A 298.7 0.5");
