@@ -15,6 +15,8 @@
 #include "dialogs/frmSample.h"
 #include "dialogs/frmSingle.h"
 #include "dialogs/frmSubst.h"
+#include "dialogs/frmTwo.h"
+#include "dialogs/frmUnc.h"
 
 namespace vexora {
 
