@@ -26,6 +26,8 @@ void RegisterDialogs(ui::Forms& forms) {
     forms.Register<frmSample>("frmSample");
     forms.Register<frmSingle>("frmSingle");
     forms.Register<frmSubst>("frmSubst");
+    forms.Register<frmTwo>("frmTwo");
+    forms.Register<frmUnc>("frmUnc");
     forms.Register<frmDocument>("frmDocument");
     forms.Register<frmAuthor>("frmAuthor");
     forms.Register<frmMakeBook>("frmMakeBook");
