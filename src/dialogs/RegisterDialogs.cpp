@@ -1,6 +1,7 @@
 #include "dialogs/RegisterDialogs.h"
 
 #include "dialogs/frmAuthor.h"
+#include "dialogs/frmData2.h"
 #include "dialogs/frmDocument.h"
 #include "dialogs/frmKey.h"
 #include "dialogs/frmMakeBook.h"
@@ -10,6 +11,7 @@
 #include "dialogs/frmMakePatent.h"
 #include "dialogs/frmMakeReport.h"
 #include "dialogs/frmMakeThesis.h"
+#include "dialogs/frmPasteView.h"
 #include "dialogs/frmProperty.h"
 #include "dialogs/frmRef.h"
 #include "dialogs/frmSample.h"
@@ -22,6 +24,8 @@ namespace vexora {
 
 void RegisterDialogs(ui::Forms& forms) {
     forms.Register<frmKey>("frmKey");
+    forms.Register<frmData2>("frmData2");
+    forms.Register<frmPasteView>("frmPasteView");
     forms.Register<frmProperty>("frmProperty");
     forms.Register<frmSample>("frmSample");
     forms.Register<frmSingle>("frmSingle");

@@ -48,7 +48,7 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
         {"300\t1\u00a0234", "300|1|234;",
          "row 1: a no-break blank between digits parted a number in two; "
          "row 1: \"1 234\" was split at its blank"},
-        {"300\u20091.25", "300|1.25;", "row 1: no-break blanks were read as blanks"},
+        {"300\u2009 1.25", "300|1.25;", "row 1: no-break blanks were read as blanks"},
         {"300\t\u22120.125\n310\t\u20130.130", "300|-0.125;310|-0.130;",
          "row 1: a typeset minus was read as \"-\" (and 1 more)"},
         {"300\t0.1234(5)", "300|0.1234(5);",
