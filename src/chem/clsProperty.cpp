@@ -118,10 +118,37 @@ bool PassesLimits(clsProperty& item) {
         return false;
     }
     item.Check(ok);
-    return ok || ui::AskYesNo(ValueInWords(item) + " is suspicious\nIs that all right?");
+    if (ok) return true;
+    const std::string question = ValueInWords(item) + " is suspicious\nIs that all right?";
+    SuspicionsOfRun* run = SuspicionsOfRun::Current();
+    return run ? run->Confirm(item.PropertyCode + " " + item.Name, item.SystemValue, question)
+               : ui::AskYesNo(question);
 }
 
+SuspicionsOfRun* currentRun = nullptr;
+
 } // namespace
+
+SuspicionsOfRun::SuspicionsOfRun() : before_(currentRun) {
+    currentRun = this;
+}
+
+SuspicionsOfRun::~SuspicionsOfRun() {
+    currentRun = before_;
+}
+
+SuspicionsOfRun* SuspicionsOfRun::Current() {
+    return currentRun;
+}
+
+bool SuspicionsOfRun::Confirm(const std::string& item, double value, const std::string& question) {
+    if (allOf_.contains(item) || confirmed_.contains({item, value})) return true;
+    const ui::Answer answer =
+        ui::TheDesktop().Show({question, {}, ui::MessageButtons::YesNoAll, ui::Answer::No});
+    if (answer == ui::Answer::YesToAll) allOf_.insert(item);
+    if (answer == ui::Answer::Yes) confirmed_.insert({item, value});
+    return answer == ui::Answer::Yes || answer == ui::Answer::YesToAll;
+}
 
 void clsProperty::Validate(bool& ok) const {
     ok = Relation != "A" || IsValidValue(PropertyCode, SystemValue);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
 
 namespace vexora {
 
@@ -49,6 +51,27 @@ public:
     void Check(bool& ok) const;
     /// Takes over all fields of the source and of the chain behind it.
     void Copy(const clsProperty& source);
+};
+
+/// While one lives, which is for one run over many rows, the question about a suspicious value
+/// offers "Yes to All": it then holds for the same item until the end of the run, and the same
+/// value of an item is not asked about twice.
+class SuspicionsOfRun {
+public:
+    SuspicionsOfRun();
+    ~SuspicionsOfRun();
+    SuspicionsOfRun(const SuspicionsOfRun&) = delete;
+    SuspicionsOfRun& operator=(const SuspicionsOfRun&) = delete;
+
+    /// Asks, unless the answer is known.
+    bool Confirm(const std::string& item, double value, const std::string& question);
+    /// The run in progress, or null.
+    static SuspicionsOfRun* Current();
+
+private:
+    std::set<std::string> allOf_;
+    std::set<std::pair<std::string, double>> confirmed_;
+    SuspicionsOfRun* before_;
 };
 
 /// Evaluates the chain from its head: the empty text on success, "Error" on failure; the figures

@@ -28,6 +28,9 @@ std::vector<Statement> StatementsFor(std::string_view propertyCode);
 /// variables (0 or 1).
 bool AllowsSingleValue(const PropertyRow& row, int variableCount);
 
+/// Whether they can be entered as a table against so many variables (1 or 2).
+bool AllowsTable(const PropertyRow& row, int variableCount);
+
 /// The bits of a PRPFLAG field that a record keeps; a text that is no number is 0.
 int FlagBits(std::string_view flags);
 

@@ -59,8 +59,10 @@ std::vector<PropertyRow> frmProperty::OfferedIn(const PropertyGroupRow& group) c
     const KVOGlobal& globals = Globals();
     auto rows = PropertiesOfGroup(group.GROUP, globals.DataContext);
     if (!IsModal()) return rows;
-    std::erase_if(rows, [&globals](const PropertyRow& row) {
-        return row.Code != globals.PropertyCode && !AllowsSingleValue(row, globals.VariableCount);
+    const bool ofTable = ui::Forms::Current().Find("frmTwo") != nullptr;
+    const auto allows = ofTable ? AllowsTable : AllowsSingleValue;
+    std::erase_if(rows, [&](const PropertyRow& row) {
+        return row.Code != globals.PropertyCode && !allows(row, globals.VariableCount);
     });
     return rows;
 }
@@ -151,7 +153,9 @@ void frmProperty::ShowEntries() {
     OfferEntry(cmdFixed, !row || row->Fixed, "frmSingle");
     OfferEntry(cmdOne, !row || row->One, "frmTwo");
     OfferEntry(cmdTwo, !row || row->Two, "frmTwo");
-    OfferEntry(cmdThree, !row, "frmTwo");
+    cmdThree.Visible(!row);
+    cmdThree.Enabled(false);
+    cmdThree.ToolTip("A pure compound has no more than two state variables");
     const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
     cmdOK.Enabled(clear);
     cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");

@@ -1,6 +1,7 @@
 #include "dialogs/frmSingle.h"
 
 #include "chem/clsMethod.h"
+#include "dialogs/PropertyContext.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
@@ -15,20 +16,6 @@ namespace {
 
 constexpr int helpSingle = 320;
 constexpr const char* newEntry = "New";
-
-/// What a review of property and method can change.
-std::string ChoiceInForce() {
-    const KVOGlobal& globals = Globals();
-    const clsMethod& method = *globals.CurrentMethod;
-    std::string text;
-    for (const std::string& part :
-         {globals.PropertyCode, globals.PropertyUnit, globals.PropertyText, globals.ExpPurpose,
-          globals.PropertyFlags, globals.PropertyComment, globals.KeyRest, method.Method,
-          method.sMethod, std::to_string(method.f)}) {
-        text += part + "\n";
-    }
-    return text;
-}
 
 } // namespace
 
@@ -120,14 +107,10 @@ void frmSingle::Phase1Click() {
 
 /// Lets property and method be reviewed; a cancelled review has changed nothing.
 void frmSingle::Method() {
-    KVOGlobal& globals = Globals();
-    globals.PropertyComment = txtComment.Text();
-    const std::string before = ChoiceInForce();
-    ui::Forms::Current().Get("frmProperty").ShowModal();
-    if (ChoiceInForce() == before) return;
+    if (!ReviewProperty(txtComment.Text())) return;
     {
         const ui::FillingScope filling(*this);
-        txtComment.Text(globals.PropertyComment);
+        txtComment.Text(Globals().PropertyComment);
         ShowProperty();
     }
     Touch();

@@ -64,7 +64,7 @@ private:
     void ShowUnit();
     void ProposeSetNumber();
     void TakeRecord(const clsZ& record);
-    void TakeComment(const clsZ& record);
+    void ShowComment(const clsZ& record);
     void ShowRecord(const clsZ& record);
     std::shared_ptr<clsL> Compound() const;
     std::shared_ptr<clsS> Sample() const;

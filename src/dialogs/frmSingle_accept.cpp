@@ -3,9 +3,9 @@
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
+#include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
-#include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
@@ -13,15 +13,6 @@
 #include "ui/Desktop.h"
 
 namespace vexora {
-
-namespace {
-
-std::string DateText(const ui::Date& date) {
-    return std::to_string(date.month) + "/" + std::to_string(date.day) + "/" +
-           std::to_string(date.year);
-}
-
-} // namespace
 
 void frmSingle::Accept() {
     if (stored_) {
@@ -95,14 +86,10 @@ bool frmSingle::CheckValue() {
 
 /// A value whose unit cannot be converted is never stored.
 bool frmSingle::CheckUnit() {
-    const clsProperty& head = *Globals().CurrentProperty;
-    if (head.Factor > 0) return true;
-    const std::string& code = head.ConversionCode;
-    if (code == "*" || !IsKnownConversion(code) || ConversionFactor(code) <= 0)
-        return Refuse(cmdMethod, "Invalid conversion factor");
-    if (IsMassBased(code) && MolarMass() <= 0)
-        return Refuse(txtValue, "Molar mass of the compound is not known");
-    return true;
+    const std::string fault = UnitFault(*Globals().CurrentProperty);
+    if (fault.empty()) return true;
+    const bool ofUnit = fault == "Invalid conversion factor";
+    return Refuse(ofUnit ? static_cast<ui::Control&>(cmdMethod) : txtValue, fault);
 }
 
 void frmSingle::Store() {
@@ -116,21 +103,11 @@ void frmSingle::Store() {
     globals.DialogAccepted = true;
 }
 
-/// Who added a record, and when, stays as it was when it is edited.
 void frmSingle::StoreHeader(clsZ& record) const {
-    const KVOGlobal& globals = Globals();
-    clsA& header = record.Header;
-    if (!editing_) {
-        header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
-        header.COMPILER = globals.CompilerCode;
-        header.CONTRIBUTOR = globals.ContributorCode;
-        header.DATEADDED = DateText(ui::TheDesktop().Today());
-    }
-    header.EXPPURPOSE = globals.ExpPurpose;
-    header.PRPFLAG = globals.PropertyFlags;
     const bool asked = frmConstraint.Visible();
     const std::string state = asked && optFP.Value() ? "FP" : asked && optPB.Value() ? "PB" : "";
-    header.DATACOMMENT = BuildComment(txtComment.Text(), *globals.CurrentProperty, state);
+    FillHeader(record.Header, !editing_,
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, state));
 }
 
 void frmSingle::StoreValues(clsZ& record) const {

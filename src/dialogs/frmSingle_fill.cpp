@@ -6,6 +6,7 @@
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "dialogs/PhaseRules.h"
+#include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -178,50 +179,24 @@ void frmSingle::ProposeSetNumber() {
 
 /// Puts what a record holds into the context, as if the property had just been chosen.
 void frmSingle::TakeRecord(const clsZ& record) {
-    KVOGlobal& globals = Globals();
-    clsMethod& method = *globals.CurrentMethod;
-    const auto found = FindProperty(record.PRPCODE, globals.DataContext);
-    PropertyRow row = found.value_or(PropertyRow());
-    if (!found) row.Property = record.PRPCODE;
-    globals.PropertyCode = record.PRPCODE;
-    globals.PropertyUnit = record.PROPERTY_UNIT;
-    globals.OriginalUnits = record.isOriginalUnit;
-    globals.VariableCount = record.nVar;
-    globals.ExpPurpose = record.Header.EXPPURPOSE;
-    globals.PropertyFlags = record.Header.PRPFLAG;
-    method.Factor = record.Factor;
-    globals.PropertyText = record.isOriginalUnit
-                               ? UnitText(row, record.PROPERTY_UNIT, record.Factor)
-                               : UnitText(row, "S", 0);
-    globals.CurrentProperty = std::make_shared<clsProperty>();
-    clsProperty& head = *globals.CurrentProperty;
-    head.PropertyCode = record.PRPCODE;
-    head.ConversionCode = record.isOriginalUnit ? record.PROPERTY_UNIT : "S";
-    head.Factor = record.isOriginalUnit ? record.Factor : 0;
-    head.Relation = "A";
-    head.Name = PropertyInWords(row);
+    TakeProperty(
+        {record.PRPCODE, record.PROPERTY_UNIT, record.Factor, record.isOriginalUnit, record.nVar},
+        record.Header);
+    clsProperty& head = *Globals().CurrentProperty;
     head.Text = record.PRPVALUE;
     head.Value = Val(record.PRPVALUE);
 }
 
-/// Takes the comment apart: state, free-text method, tags, and the operator's text for the box.
-void frmSingle::TakeComment(const clsZ& record) {
-    KVOGlobal& globals = Globals();
-    clsMethod& method = *globals.CurrentMethod;
+void frmSingle::ShowComment(const clsZ& record) {
     std::string comment = record.Header.DATACOMMENT;
     const std::string state = TakeState(comment);
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
-    comment = TakeSMethod(comment);
-    method.Method.clear();
-    method.KeySaved = CommentTagPart(comment);
-    SplitCommentTags();
-    DecodePrecisionTags(*globals.CurrentProperty);
-    txtComment.Text(CommentText(comment));
+    txtComment.Text(TakeComment(comment));
 }
 
 void frmSingle::ShowRecord(const clsZ& record) {
-    TakeComment(record);
+    ShowComment(record);
     ChoosePhase(lstPhase1, record.PHASE1);
     ShowPhases();
     if (record.nVar == 0) {

@@ -29,6 +29,7 @@ class clsQ;
 class clsR;
 class clsS;
 class clsTwo;
+class clsX;
 class clsZ;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
@@ -91,6 +92,7 @@ struct KVOGlobal {
     std::shared_ptr<clsMethod> CurrentMethod;
     std::shared_ptr<clsProperty> CurrentProperty; // head of the property chain
     std::shared_ptr<clsMMM> MixtureMass;
+    std::shared_ptr<std::vector<clsX>> CurrentUX; // the statements that frmUnc works on
     std::string KeyRest; // tags of a comment that no dialog interprets; kept over read and write
 
     // What the property dialog hands to the entry dialog.
@@ -100,8 +102,9 @@ struct KVOGlobal {
     std::string ExpPurpose;    // code of the purpose of the experiment
     std::string PropertyFlags; // PRPFLAG as a decimal bit mask
     std::string PropertyComment;
-    bool OriginalUnits = true; // values are entered as in the source, not converted
-    int VariableCount = 0;     // 0 single value, 1 one data point or one variable, 2, 3
+    bool OriginalUnits = true;  // values are entered as in the source, not converted
+    bool IncludeDigits = false; // counts of digits are stored with the values of a table
+    int VariableCount = 0;      // 0 single value, 1 one data point or one variable, 2, 3
 
     // The configuration, as VXR.ini keeps it.
     std::string CompilerCode;

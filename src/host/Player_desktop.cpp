@@ -13,6 +13,8 @@ std::string Word(ui::Answer answer) {
         return "No";
     case ui::Answer::Cancel:
         return "Cancel";
+    case ui::Answer::YesToAll:
+        return "YesToAll";
     default:
         return "OK";
     }
@@ -24,6 +26,8 @@ std::string ButtonsText(ui::MessageButtons buttons) {
         return "Yes/No";
     case ui::MessageButtons::YesNoCancel:
         return "Yes/No/Cancel";
+    case ui::MessageButtons::YesNoAll:
+        return "Yes/No/YesToAll";
     default:
         return "OK";
     }
@@ -33,7 +37,8 @@ std::string ButtonsText(ui::MessageButtons buttons) {
 std::optional<ui::Answer> AnswerOf(const ui::Message& message, const std::string& word) {
     const std::string buttons = "/" + ButtonsText(message.buttons) + "/";
     if (buttons.find("/" + word + "/") == buttons.npos) return {};
-    for (const ui::Answer answer : {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel}) {
+    for (const ui::Answer answer :
+         {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel, ui::Answer::YesToAll}) {
         if (Word(answer) == word) return answer;
     }
     return ui::Answer::Ok;

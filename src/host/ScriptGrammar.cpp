@@ -39,7 +39,7 @@ constexpr std::array commandForms = {
     "hover CONTROL NUMBER NUMBER",
     "drop TEXT",
     "close FORM",
-    "answer OK|Yes|No|Cancel [TEXT] [TEXT]",
+    "answer OK|Yes|No|Cancel|YesToAll [TEXT] [TEXT]",
     "input TEXT",
     "input cancel",
     "file TEXT",

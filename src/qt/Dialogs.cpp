@@ -17,6 +17,8 @@ QMessageBox::StandardButton StandardOf(ui::Answer answer) {
         return QMessageBox::No;
     case ui::Answer::Cancel:
         return QMessageBox::Cancel;
+    case ui::Answer::YesToAll:
+        return QMessageBox::YesToAll;
     case ui::Answer::Ok:
         break;
     }
@@ -29,6 +31,8 @@ QMessageBox::StandardButtons ButtonsOf(ui::MessageButtons buttons) {
         return QMessageBox::Yes | QMessageBox::No;
     case ui::MessageButtons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case ui::MessageButtons::YesNoAll:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll;
     case ui::MessageButtons::Ok:
         break;
     }
@@ -46,7 +50,10 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const ui::Message& message, QWidget*
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setDefaultButton(StandardOf(message.safe));
-    if (message.buttons == ui::MessageButtons::YesNo) box->setEscapeButton(QMessageBox::No);
+    if (message.buttons == ui::MessageButtons::YesNo ||
+        message.buttons == ui::MessageButtons::YesNoAll) {
+        box->setEscapeButton(QMessageBox::No);
+    }
     return box;
 }
 
@@ -55,8 +62,8 @@ QAbstractButton* ButtonFor(const QMessageBox& box, ui::Answer answer) {
 }
 
 ui::Answer AnswerOf(const QMessageBox& box, const ui::Message& message) {
-    for (const ui::Answer answer :
-         {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel, ui::Answer::Ok}) {
+    for (const ui::Answer answer : {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel,
+                                    ui::Answer::YesToAll, ui::Answer::Ok}) {
         if (box.result() == StandardOf(answer)) return answer;
     }
     return message.safe;

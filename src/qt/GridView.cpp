@@ -61,8 +61,29 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
-    return ToQt(grid_.Cell(index.row() + grid_.FixedRows(), index.column() + grid_.FixedColumns()));
+    const int row = index.row() + grid_.FixedRows();
+    const int column = index.column() + grid_.FixedColumns();
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return ToQt(grid_.Cell(row, column));
+    const ui::Grid::Mark* mark = grid_.MarkOf(row, column);
+    return mark ? MarkData(*mark, role) : QVariant();
+}
+
+// Told apart by weight and slant as well as by colour; a tint of the ground fits light and dark.
+QVariant GridModel::MarkData(const ui::Grid::Mark& mark, int role) const {
+    const QPalette palette = view_.Table().palette();
+    if (role == Qt::ToolTipRole) return ToQt(mark.tip);
+    if (role == Qt::BackgroundRole) {
+        const QColor base = palette.color(QPalette::Base);
+        const QColor tint = mark.isFault ? QColor(213, 94, 0) : QColor(240, 228, 66);
+        const auto mix = [](int a, int b) { return (7 * a + 3 * b) / 10; };
+        return QColor(mix(base.red(), tint.red()), mix(base.green(), tint.green()),
+                      mix(base.blue(), tint.blue()));
+    }
+    if (role != Qt::FontRole) return {};
+    QFont font = view_.Table().font();
+    font.setBold(mark.isFault);
+    font.setItalic(!mark.isFault);
+    return font;
 }
 
 // Several fixed rows stand as several lines in the header, several fixed columns side by side.
@@ -74,6 +95,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
             texts << ToQt(grid_.Cell(row, section + grid_.FixedColumns()));
         return texts.join('\n');
     }
+    if (grid_.ShowsRowNumbers) texts << QString::number(section + 1);
     for (int column = 0; column < grid_.FixedColumns(); ++column)
         texts << ToQt(grid_.Cell(section + grid_.FixedRows(), column));
     return texts.join(QStringLiteral("  "));
@@ -121,7 +143,8 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     own_->setSelectionMode(QAbstractItemView::ContiguousSelection);
     own_->setTabKeyNavigation(false);
     own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
-    own_->verticalHeader()->setVisible(grid.FixedColumns() > 0);
+    own_->verticalHeader()->setVisible(grid.FixedColumns() > 0 || grid.ShowsRowNumbers);
+    if (grid.Editor) own_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     own_->horizontalHeader()->setResizeContentsPrecision(50);
     own_->horizontalHeader()->setDefaultSectionSize(own_->fontMetrics().averageCharWidth() * 14);
     own_->verticalHeader()->setDefaultSectionSize(own_->fontMetrics().height() + 8);
@@ -179,6 +202,28 @@ void GridView::HandOverSelection() {
 
 void GridView::Draw() {
     if (!fitted_) FitColumns();
+    own_->viewport()->update();
+    DrawSelection();
+    PlaceEditor();
+}
+
+// The field of the form that edits lies over the selected cell while it is to be seen.
+void GridView::PlaceEditor() {
+    if (!model_.Editor || !model_.Editor->Visible()) return;
+    View* view = Window().ViewFor(*model_.Editor);
+    if (!view || !view->Widget()) return;
+    const ui::Grid::Block& block = model_.Selection();
+    const QModelIndex at = IndexOf(block.top, block.left);
+    own_->scrollTo(at);
+    QWidget* field = view->Widget();
+    if (field->parentWidget() != own_->viewport()) field->setParent(own_->viewport());
+    field->setGeometry(own_->visualRect(at));
+    view->Refresh();
+    field->raise();
+    if (model_.Editor->HasFocus()) field->setFocus(Qt::OtherFocusReason);
+}
+
+void GridView::DrawSelection() {
     const ui::Grid::Block& block = model_.Selection();
     const QModelIndex first = IndexOf(std::max(block.top, model_.FixedRows()),
                                       std::max(block.left, model_.FixedColumns()));

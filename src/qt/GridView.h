@@ -27,6 +27,7 @@ public:
 
 private:
     bool SizeChanged() const;
+    QVariant MarkData(const ui::Grid::Mark& mark, int role) const;
 
     GridView& view_;
     ui::Grid& grid_;
@@ -54,6 +55,8 @@ protected:
 private:
     void HandOverSelection();
     void FitColumns();
+    void DrawSelection();
+    void PlaceEditor();
 
     GridModel cells_;
     bool fitted_ = false;

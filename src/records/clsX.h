@@ -38,6 +38,8 @@ public:
     /// A line that names no quantity of its set; it is written back as it came.
     std::string Verbatim;
 
+    bool operator==(const clsX&) const = default;
+
     void Load(std::string_view line);
     /// Whether there is a statement that would be written.
     bool IsStated() const;

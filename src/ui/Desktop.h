@@ -9,8 +9,8 @@ namespace vexora::ui {
 
 class Form;
 
-enum class MessageButtons { Ok, YesNo, YesNoCancel };
-enum class Answer { Ok, Yes, No, Cancel };
+enum class MessageButtons { Ok, YesNo, YesNoCancel, YesNoAll };
+enum class Answer { Ok, Yes, No, Cancel, YesToAll };
 
 struct Message {
     std::string text;

@@ -32,7 +32,31 @@ void Grid::Resize(int rows, int columns) {
     for (auto& row : cells_)
         row.resize(static_cast<std::size_t>(columns_));
     Changed();
+    TellChange(-1, -1);
+}
+
+void Grid::TellChange(int row, int column) {
+    if (batches_ > 0)
+        changedInBatch_ = true;
+    else
+        CellChanged.Emit(row, column);
+}
+
+void Grid::EndBatch() {
+    if (--batches_ > 0 || !changedInBatch_) return;
+    changedInBatch_ = false;
     CellChanged.Emit(-1, -1);
+}
+
+void Grid::CellMarks(Marks marks) {
+    if (marks_ == marks) return;
+    marks_ = std::move(marks);
+    Changed();
+}
+
+const Grid::Mark* Grid::MarkOf(int row, int column) const {
+    const auto found = marks_.find({row, column});
+    return found == marks_.end() ? nullptr : &found->second;
 }
 
 bool Grid::IsInside(int row, int column) const {
@@ -48,7 +72,7 @@ const std::string& Grid::Cell(int row, int column) const {
 void Grid::Cell(int row, int column, std::string text) {
     if (!IsInside(row, column) || Cell(row, column) == text) return;
     cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = std::move(text);
-    CellChanged.Emit(row, column);
+    TellChange(row, column);
 }
 
 void Grid::Editable(bool value) {
@@ -81,7 +105,10 @@ void Grid::UserCell(int row, int column, const std::string& text) {
     SetFocus();
     UserSelect({row, column, row, column});
     if (Cell(row, column) == text) return;
-    Cell(row, column, text);
+    if (OnEdit)
+        OnEdit(row, column, text);
+    else
+        Cell(row, column, text);
     if (OnCellChanged) OnCellChanged(row, column);
 }
 

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/Control.h"
 
 namespace vexora::ui {
+
+class TextBox;
 
 /// A table of texts with fixed rows and columns at its head. Rows and columns count from 0, the
 /// fixed ones included. OnCellChanged follows every change of one cell's text by a person.
@@ -15,6 +19,26 @@ public:
     struct Block {
         int top = 0, left = 0, bottom = 0, right = 0;
         bool operator==(const Block&) const = default;
+    };
+
+    /// A remark on a cell: what is wrong, or only doubtful, with its text.
+    struct Mark {
+        bool isFault = true;
+        std::string tip;
+        bool operator==(const Mark&) const = default;
+    };
+    using Marks = std::map<std::pair<int, int>, Mark>; // by row and column
+
+    /// While one lives, changes of cells are told once, at its end, as a change of the whole table.
+    class Batch {
+    public:
+        explicit Batch(Grid& grid) : grid_(grid) { ++grid_.batches_; }
+        ~Batch() { grid_.EndBatch(); }
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        Grid& grid_;
     };
 
     Grid(Form& form, std::string name, int rows = 1, int columns = 1, int fixedRows = 1,
@@ -33,6 +57,17 @@ public:
     bool IsEditable() const { return editable_; }
     void Editable(bool value);
 
+    /// A field that the form shows while a cell is being edited; it is laid over the selected cell,
+    /// and double clicks and typed keys are the form's to handle. Null: the view edits by itself.
+    TextBox* Editor = nullptr;
+    /// Rows are numbered at their head, the first one behind the fixed rows by 1.
+    bool ShowsRowNumbers = false;
+
+    const Marks& CellMarks() const { return marks_; }
+    void CellMarks(Marks marks);
+    /// The mark of a cell, or null.
+    const Mark* MarkOf(int row, int column) const;
+
     const Block& Selection() const { return selection_; }
     void Select(Block block);
     /// The selected cells as text, columns parted by tabs and rows by line feeds.
@@ -41,6 +76,8 @@ public:
     std::string Display() const override { return Cell(selection_.top, selection_.left); }
 
     std::function<void(int row, int column)> OnCellChanged;
+    /// Takes the text that a person enters in a cell; without it the text goes in as it stands.
+    std::function<void(int row, int column, const std::string& text)> OnEdit;
     /// Takes a pasted text; without it the text goes in as it stands.
     std::function<void(const std::string& text)> OnPaste;
 
@@ -55,6 +92,8 @@ public:
 
 private:
     bool IsInside(int row, int column) const;
+    void EndBatch();
+    void TellChange(int row, int column);
 
     std::vector<std::vector<std::string>> cells_;
     int columns_;
@@ -62,6 +101,9 @@ private:
     int fixedColumns_;
     bool editable_ = true;
     Block selection_;
+    Marks marks_;
+    int batches_ = 0;
+    bool changedInBatch_ = false;
 };
 
 } // namespace vexora::ui

@@ -103,8 +103,9 @@ TEST_F(frmPropertyTest, EntriesFollowThePropertyAndDeadOnesSayWhy) {
     Pick(form.lstProp, "Density");
     EXPECT_TRUE(form.cmdFixed.IsUsable());
     EXPECT_TRUE(form.cmdTwo.IsShown());
-    EXPECT_FALSE(form.cmdTwo.IsUsable());
-    EXPECT_EQ(form.cmdTwo.ToolTip(), "Data tables come with a later edition");
+    EXPECT_TRUE(form.cmdOne.IsUsable());
+    EXPECT_TRUE(form.cmdTwo.IsUsable());
+    EXPECT_FALSE(form.cmdThree.IsUsable());
     EXPECT_FALSE(form.cmdOK.IsUsable());
 }
 

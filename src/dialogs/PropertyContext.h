@@ -1,0 +1,37 @@
+// The working context of the data dialogs: what frmProperty hands to them, and what they put there
+// from a stored record, as if its property had just been chosen.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+class clsA;
+class clsProperty;
+
+/// What a record says about its property.
+struct StoredProperty {
+    std::string code;
+    std::string unit;  // conversion code
+    double factor = 0; // of a non-standard unit, 0 when none
+    bool isOriginalUnit = true;
+    int nVar = 0;
+};
+
+/// Puts a stored property into the context, with a new head of the property chain.
+void TakeProperty(const StoredProperty& stored, const clsA& header);
+/// Takes a stored comment apart: free-text method, tags and the precisions of the chain go into the
+/// context; the answer is the operator's text.
+std::string TakeComment(std::string_view comment);
+/// Lets property and method be reviewed with this comment of the operator; true when the review has
+/// changed anything. A cancelled one has not.
+bool ReviewProperty(const std::string& comment);
+/// Writes the header of a record from the context. Who added it, and when, is of a new one only.
+void FillHeader(clsA& header, bool isNew, const std::string& comment);
+/// Why values in the unit of the head cannot be brought to the system unit: the message to show,
+/// empty when they can. A unit by mass
+/// needs the molar mass of the context.
+std::string UnitFault(const clsProperty& head);
+
+} // namespace vexora

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/clsData.h"
+
+namespace vexora {
+
+class clsTwo;
+
+/// What one column of a data table holds. Item 0 is the property, 1 to 3 are the variables.
+struct TableColumn {
+    enum class Kind { Value, Digits, DS, Rep, Repetitions, Unc, CU, CD, KVO };
+    Kind kind = Kind::Value;
+    int item = 0;
+    bool percent = false; // the cells are per cent of the value without saying so
+    std::string head;
+
+    bool IsStatement() const { return kind != Kind::Value && kind != Kind::KVO; }
+    bool operator==(const TableColumn&) const = default;
+};
+
+/// The columns of a table from left to right: each variable, then the property, with its digits
+/// when they are shown and the statements that its set makes for every row; at last the figure of
+/// the evaluation.
+class TableColumns {
+public:
+    TableColumns() = default;
+    TableColumns(const clsTwo& set, bool withDigits);
+
+    const std::vector<TableColumn>& All() const { return columns_; }
+    int Count() const { return static_cast<int>(columns_.size()); }
+    const TableColumn& operator[](int column) const {
+        return columns_[static_cast<std::size_t>(column)];
+    }
+    /// The column of this kind for an item, -1 when there is none.
+    int Find(TableColumn::Kind kind, int item = 0) const;
+    /// For each column of these the place in the others, -1 when it is not there.
+    std::vector<int> PlacesIn(const TableColumns& others) const;
+
+    /// The cell of a column for a row, as the table shows it.
+    std::string CellOf(const clsData& row, int column) const;
+    /// Puts a cell into the row.
+    void Store(clsData& row, int column, const std::string& cell) const;
+
+private:
+    void AddItem(const clsTwo& set, int item, bool withDigits);
+    void Add(TableColumn::Kind kind, int item, const std::string& head,
+             const std::string& setValue = {});
+
+    std::vector<TableColumn> columns_;
+};
+
+} // namespace vexora

@@ -1,0 +1,112 @@
+#include "dialogs/TableTurns.h"
+
+#include <algorithm>
+
+namespace vexora {
+
+namespace {
+
+using Cells = std::vector<std::vector<std::string>>;
+
+/// All texts behind the fixed rows, without empty rows at the end.
+Cells TextsOf(const ui::Grid& grid) {
+    Cells cells;
+    std::size_t filled = 0;
+    for (int row = grid.FixedRows(); row < grid.Rows(); ++row) {
+        std::vector<std::string> texts;
+        for (int column = 0; column < grid.Columns(); ++column)
+            texts.push_back(grid.Cell(row, column));
+        const bool empty =
+            std::all_of(texts.begin(), texts.end(), [](const auto& text) { return text.empty(); });
+        cells.push_back(std::move(texts));
+        if (!empty) filled = cells.size();
+    }
+    cells.resize(filled);
+    return cells;
+}
+
+std::size_t Width(const std::vector<std::string>& row) {
+    std::size_t width = row.size();
+    while (width > 0 && row[width - 1].empty())
+        --width;
+    return width;
+}
+
+/// The top row, its values standing over the columns they belong to.
+std::vector<std::string> TopRow(const Cells& cells) {
+    std::vector<std::string> top = cells.front();
+    std::size_t widest = 0;
+    for (std::size_t row = 1; row < cells.size(); ++row)
+        widest = std::max(widest, Width(cells[row]));
+    if (!top.front().empty() && Width(top) + 1 == widest) top.insert(top.begin(), "");
+    return top;
+}
+
+struct Triple {
+    std::string first, second, value;
+};
+
+std::vector<Triple> TriplesOf(const Cells& cells) {
+    std::vector<Triple> triples;
+    const std::vector<std::string> top = TopRow(cells);
+    for (std::size_t row = 1; row < cells.size(); ++row) {
+        for (std::size_t column = 1; column < cells[row].size(); ++column) {
+            const std::string& value = cells[row][column];
+            if (!value.empty()) triples.push_back({cells[row].front(), top[column], value});
+        }
+    }
+    return triples;
+}
+
+} // namespace
+
+bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
+    using Kind = TableColumn::Kind;
+    const int second = columns.Find(Kind::Value, 2);
+    const Cells cells = TextsOf(table.Table());
+    if (second < 0 || cells.size() < 2) return false;
+    const std::vector<Triple> triples = TriplesOf(cells);
+    if (triples.empty()) return false;
+    return table.Do([&](TableEdit& edit) {
+        const int fixed = table.Table().FixedRows();
+        edit.Rows(fixed);
+        edit.Rows(fixed + static_cast<int>(triples.size()));
+        int row = fixed;
+        for (const Triple& triple : triples) {
+            edit.Cell(row, columns.Find(Kind::Value, 1), triple.first);
+            edit.Cell(row, second, triple.second);
+            edit.Cell(row++, columns.Find(Kind::Value, 0), triple.value);
+        }
+    });
+}
+
+bool MoveBlockBelow(TableUndo& table) {
+    const ui::Grid& grid = table.Table();
+    const ui::Grid::Block block = grid.Selection();
+    Cells moved;
+    bool any = false;
+    for (int row = std::max(block.top, grid.FixedRows()); row <= block.bottom; ++row) {
+        std::vector<std::string> texts;
+        for (int column = block.left; column <= block.right; ++column)
+            texts.push_back(grid.Cell(row, column));
+        any = any || Width(texts) > 0;
+        moved.push_back(std::move(texts));
+    }
+    if (!any) return false;
+    return table.Do([&](TableEdit& edit) {
+        for (int row = std::max(block.top, grid.FixedRows()); row <= block.bottom; ++row) {
+            for (int column = block.left; column <= block.right; ++column)
+                edit.Cell(row, column, {});
+        }
+        int row = grid.FixedRows() + static_cast<int>(TextsOf(grid).size());
+        for (const auto& texts : moved) {
+            if (Width(texts) == 0) continue;
+            edit.Rows(std::max(grid.Rows(), row + 1));
+            for (std::size_t column = 0; column < texts.size(); ++column)
+                edit.Cell(row, static_cast<int>(column), texts[column]);
+            ++row;
+        }
+    });
+}
+
+} // namespace vexora

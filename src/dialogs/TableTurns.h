@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "dialogs/TableColumns.h"
+#include "grid/TableUndo.h"
+
+namespace vexora {
+
+/// Turns a two-dimensional table, with the second variable in its top row and the first in its left
+/// column, into one row for each cell that holds a value: first variable, second variable, value.
+/// A top row whose corner is missing counts from the second column on. False, and nothing changes,
+/// when there is no such table in the grid.
+bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns);
+
+/// Moves the selected block below the last row that holds something, its first column coming to
+/// stand in the first one. False when the block is empty.
+bool MoveBlockBelow(TableUndo& table);
+
+} // namespace vexora

@@ -1,0 +1,140 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "dialogs/TableChecks.h"
+#include "grid/TableUndo.h"
+#include "records/clsX.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsData;
+class clsProperty;
+class clsTwo;
+
+/// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
+/// filled, stored when it is accepted. It works on the current set; a table that is cancelled
+/// leaves the set as it was.
+class frmData2 : public ui::Form {
+public:
+    frmData2();
+    ~frmData2() override;
+
+    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
+    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
+    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
+    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
+    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
+    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
+    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
+    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
+    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
+                               "Ctrl+Shift+V"};
+    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
+    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "P&revious finding", &mnuEdit, "Shift+F8"};
+    ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
+    ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
+    ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
+    ui::MenuItem mnuHelpSeq{*this, "mnuHelpSeq", "&Sequence of work", &mnuHelp};
+    ui::MenuItem mnuHelpList{*this, "mnuHelpList", "&Keys of the table", &mnuHelp};
+    ui::MenuItem mnuHelpHow{*this, "mnuHelpHow", "&How to enter a table", &mnuHelp};
+    ui::MenuItem mnuUnc{*this, "mnuUnc", "&Uncertainty Definitions", &mnuHelp};
+
+    ui::Label lblColumns{*this, "lblColumns"};
+    ui::Grid tblData{*this, "tblData", 2, 1};
+    ui::TextBox txtCell{*this, "txtCell"};
+    ui::Label lblNotice{*this, "lblNotice"};
+    ui::ListBox lstFindings{*this, "lstFindings"};
+    ui::CheckBox chkSup{*this, "chkSup", "Suppress calculation of derivatives"};
+    ui::CommandButton cmdView{*this, "cmdView", "View plot"};
+    ui::CommandButton cmdAssign{*this, "cmdAssign", "Evaluate Uncertainties"};
+    ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
+    ui::CommandButton cmdSave{*this, "cmdSave", "Accept"};
+    ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
+
+    void Load() override;
+    void Activate() override;
+    void Unload() override;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+    void WireMenus();
+
+    // What the table shows at first (frmData2_fill.cpp).
+    void TakeSet();
+    void TakeRows();
+    void AnalyseCurrentProperty();
+    void NameStatements();
+    void FillHeader();
+    void FillRows();
+    std::string CaptionText() const;
+    std::string ColumnsText() const;
+    std::shared_ptr<clsTwo> Set() const { return set_; }
+
+    // Work in the table (frmData2_grid.cpp).
+    void ToEditMode(const std::string& text);
+    void ToStandardMode();
+    void GridKeys(ui::Key& key);
+    void CellKeys(ui::Key& key);
+    void MoveTo(int row, int column);
+    void Paste(const std::string& text);
+    void PasteShown();
+    bool PutIn(const std::string& text, int row, int column);
+    bool MakesRoomFor(const std::string& text, std::size_t columns, int row, int column);
+    void OpenFile();
+    void SaveFile();
+    void Action2D();
+    void Split();
+    void Clear();
+    std::string TableText() const;
+    int LastRow() const;
+
+    // Marks and findings (frmData2_findings.cpp).
+    void TableChanged();
+    void FindAgain(int firstRow, int lastRow);
+    void ShowFindings();
+    void StepFinding(int step);
+    void GoTo(const Finding& finding);
+
+    // Checks, evaluation and storing (frmData2_accept.cpp).
+    bool Check();
+    bool CheckUnits();
+    bool CheckUnc();
+    void CleanCells();
+    void Calc_unc(int row, bool& ok);
+    void TakeStatements(clsProperty& item, int place, int row);
+    bool Refuse(const Finding& finding, const std::string& title = {});
+    void Assign();
+    bool AssignAccepted();
+    void View();
+    void Save();
+    void Store();
+    std::vector<const clsData*> OldRows() const;
+    std::shared_ptr<clsData> NewRow(int row, const clsData* old) const;
+
+    std::shared_ptr<clsTwo> set_;
+    std::unique_ptr<clsTwo> adjusted_;           // set of mixed units, brought to system units
+    std::array<clsX, 5> statementsBefore_;       // restored when the table is cancelled
+    std::vector<std::shared_ptr<clsData>> rows_; // as they stood at the beginning
+    std::shared_ptr<clsProperty> chain_;
+    double molarMass_ = 0;  // [g/mol]
+    bool original_ = true;  // cells stand in the units of the paper
+    bool assigned_ = false; // uncertainties have been looked at
+    bool stored_ = false;
+    TableColumns columns_;
+    TableUndo undo_{tblData};
+    std::map<int, std::vector<Finding>> findings_; // by row
+    std::vector<Finding> listed_;                  // as the list shows them
+    int editRow_ = 0, editColumn_ = 0;
+};
+
+} // namespace vexora

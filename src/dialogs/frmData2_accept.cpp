@@ -1,0 +1,215 @@
+#include "dialogs/frmData2.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+using Kind = TableColumn::Kind;
+
+/// A cell of a column of per cent is that share of the row's value.
+std::string AsFigure(const TableColumn& column, const std::string& cell, double value) {
+    if (!column.percent || !IsNumeric(cell)) return cell;
+    return NumberText(Val(cell) * 0.01 * value);
+}
+
+} // namespace
+
+bool frmData2::Refuse(const Finding& finding, const std::string& title) {
+    GoTo(finding);
+    ui::Say(finding.text, title);
+    return false;
+}
+
+/// Cells lose the blanks and commas that came with typing and pasting.
+void frmData2::CleanCells() {
+    undo_.Do([this](TableEdit& edit) {
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+            for (int column = 0; column < columns_.Count(); ++column)
+                edit.Cell(row, column, CleanCell(columns_[column], tblData.Cell(row, column)));
+        }
+    });
+}
+
+bool frmData2::Check() {
+    ToStandardMode();
+    CleanCells();
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        const auto findings = CheckRow(tblData, columns_, row);
+        if (!findings.empty()) return Refuse(findings.front());
+    }
+    return true;
+}
+
+/// Values whose unit cannot be converted are never stored.
+bool frmData2::CheckUnits() {
+    if (!original_) return true;
+    for (const clsProperty* item = chain_.get(); item; item = item->NextItem.get()) {
+        const std::string& code = item->ConversionCode;
+        const bool known = item->Factor > 0 ||
+                           (code != "*" && IsKnownConversion(code) && ConversionFactor(code) > 0);
+        if (known) continue;
+        ui::Say("Invalid conversion factor");
+        return false;
+    }
+    if (chain_->Factor > 0 || !IsMassBased(chain_->ConversionCode) || molarMass_ > 0) return true;
+    ui::Say("Molar mass of the compound is not known");
+    return false;
+}
+
+void frmData2::TakeStatements(clsProperty& item, int place, int row) {
+    const double value = Val(item.Text);
+    const auto cell = [&](Kind kind) {
+        const int column = columns_.Find(kind, place);
+        if (column < 0) return std::string();
+        return AsFigure(columns_[column], tblData.Cell(row, column), value);
+    };
+    item.DS = cell(Kind::DS);
+    item.Rep = cell(Kind::Rep);
+    item.nRep = IsNumeric(cell(Kind::Repetitions)) ? cell(Kind::Repetitions) : "";
+    item.Unc = cell(Kind::Unc);
+    item.CD = place == 0 ? cell(Kind::CD) : "";
+}
+
+/// Evaluates one row; its last cell shows "Error" when that fails.
+void frmData2::Calc_unc(int row, bool& ok) {
+    int place = 0;
+    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get(), ++place) {
+        item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place));
+        item->Value = item->PRECISION = item->Der = 0;
+        TakeStatements(*item, place, row);
+    }
+    const std::string result = EvaluateUncertainty(*chain_, molarMass_);
+    const int figure = columns_.Find(Kind::KVO);
+    if (tblData.Cell(row, figure) == "Error" || !result.empty())
+        undo_.Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
+    ok = result.empty() || IsNumeric(result);
+}
+
+bool frmData2::CheckUnc() {
+    SuspicionsOfRun suspicions;
+    const int figure = columns_.Find(Kind::KVO);
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        if (tblData.Cell(row, 0).empty()) continue;
+        bool ok = true;
+        Calc_unc(row, ok);
+        const auto findings = CheckEvaluation(tblData, columns_, row);
+        if (!ok || !findings.empty())
+            return Refuse(findings.empty() ? Finding{row, figure,
+                                                     "Erroneous data combination\n"
+                                                     "Please correct it"}
+                                           : findings.front(),
+                          "Error");
+    }
+    return true;
+}
+
+void frmData2::Assign() {
+    if (Check()) AssignAccepted();
+}
+
+/// The statements of the set; what they ask for in every row gets its column. False on Cancel.
+bool frmData2::AssignAccepted() {
+    if (!ui::Forms::Current().Knows("frmUnc")) return true;
+    KVOGlobal& globals = Globals();
+    globals.CurrentProperty = chain_;
+    globals.CurrentUX = std::make_shared<std::vector<clsX>>(set_->UX.begin(), set_->UX.end());
+    globals.DialogAccepted = false;
+    ui::Forms::Current().Get("frmUnc").ShowModal();
+    const bool accepted = globals.DialogAccepted;
+    globals.DialogAccepted = false;
+    const auto stated = std::exchange(globals.CurrentUX, nullptr);
+    if (!accepted || !stated) return false;
+    std::copy_n(stated->begin(), std::min(stated->size(), set_->UX.size()), set_->UX.begin());
+    assigned_ = true;
+    AnalyseCurrentProperty();
+    FillHeader();
+    FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+    return true;
+}
+
+void frmData2::View() {
+    if (Check()) ui::Forms::Current().Get("frmGraph").ShowModal();
+}
+
+void frmData2::Save() {
+    if (!Check() || !CheckUnits()) return;
+    if (!assigned_ && !AssignAccepted()) return;
+    if (!CheckUnc()) return;
+    Store();
+    Close();
+}
+
+/// All new rows are made before they take the place of the old ones.
+void frmData2::Store() {
+    const std::vector<const clsData*> sources = OldRows();
+    ui::Collection<clsData> fresh;
+    const int property = columns_.Find(Kind::Value, 0);
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        if (tblData.Cell(row, property).empty()) continue;
+        fresh.Add(NewRow(row, sources[static_cast<std::size_t>(row)]));
+    }
+    std::swap(set_->recData, fresh);
+    set_->isOriginalUnit = original_;
+    if (adjusted_) {
+        set_->Header.DATACOMMENT = adjusted_->Header.DATACOMMENT;
+        set_->commentInSystemUnits = true;
+    }
+    KVOGlobal& globals = Globals();
+    stored_ = true;
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+/// For each row of the table the old row whose unseen parts it keeps: the one with the same
+/// variables, else the one of the same place when no other has taken it; null for a new row.
+std::vector<const clsData*> frmData2::OldRows() const {
+    std::multimap<std::string, const clsData*> byVariables;
+    for (const auto& row : rows_) {
+        std::string identity;
+        for (int n = 1; n <= set_->nVar; ++n)
+            identity += columns_.CellOf(*row, columns_.Find(Kind::Value, n)) + "\n";
+        byVariables.emplace(identity, row.get());
+    }
+    std::vector<const clsData*> sources(static_cast<std::size_t>(tblData.Rows()));
+    std::set<const clsData*> taken;
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        std::string identity;
+        for (int n = 1; n <= set_->nVar; ++n)
+            identity += tblData.Cell(row, columns_.Find(Kind::Value, n)) + "\n";
+        const auto old = byVariables.find(identity);
+        if (old == byVariables.end()) continue;
+        sources[static_cast<std::size_t>(row)] = old->second;
+        taken.insert(old->second);
+        byVariables.erase(old);
+    }
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        const std::size_t row = i + static_cast<std::size_t>(tblData.FixedRows());
+        if (row < sources.size() && !sources[row] && !taken.contains(rows_[i].get()))
+            sources[row] = rows_[i].get();
+    }
+    return sources;
+}
+
+std::shared_ptr<clsData> frmData2::NewRow(int row, const clsData* old) const {
+    auto data = old ? std::make_shared<clsData>(*old) : std::make_shared<clsData>();
+    data->nVar = static_cast<signed char>(set_->nVar);
+    data->isDigit = Globals().IncludeDigits;
+    data->inOriginalUnits = original_;
+    for (int column = 0; column < columns_.Count(); ++column)
+        columns_.Store(*data, column, tblData.Cell(row, column));
+    return data;
+}
+
+} // namespace vexora

@@ -1,0 +1,156 @@
+#include "dialogs/frmTwo.h"
+
+#include "chem/clsMethod.h"
+#include "dialogs/PropertyContext.h"
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsTwo.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr int helpTwo = 330;
+
+} // namespace
+
+frmTwo::frmTwo() : Form("frmTwo", "Property as function of state variables") {
+    ArrangeControls();
+    WireEvents();
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdFinish;
+    HelpContext = helpTwo;
+    txtPrpSetNo.Locked(true);
+}
+
+void frmTwo::ArrangeControls() {
+    using namespace ui;
+    Arrangement = Column(
+        {Row({Field("Compound:", cboSubst), Field("Sample #", cboSample),
+              Field("Property set #", txtPrpSetNo)}),
+         Field(lblVar1, Row({cboVar1, Field("Units:", lstVariable_Unit)})),
+         Field(lblVar2, Row({cboVar2, Field("Units:", lstVar2_Unit)})),
+         Field(lblVar3, Row({txtVar3, lblUnit3})), Field("Constraint:", lstCONSTRAINT),
+         Row({Field("Phase 1:", lstPhase1), Field(lblPhase2, lstPhase2)}),
+         Group(fraDefinition,
+               {Field("Results:", lstPROPERTY_FUNCT), Field("Relation:", lstRelation),
+                Row({Field("Reference T:", txtREF_TEMP), Note("K"),
+                     Field("Reference pressure:", txtREF_PRESSURE), Note("kPa"),
+                     Field("Reference phase:", lstREF_PHASE)})}),
+         Group(fraPresentation,
+               {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+         chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
+    PreferredColumns = 100;
+}
+
+void frmTwo::WireEvents() {
+    cboSubst.OnClick = [this] { CompoundClick(); };
+    cboSample.OnClick = [this] { SampleClick(); };
+    cboVar1.OnClick = [this] { Variable1Click(); };
+    cboVar2.OnClick = [this] { Variable2Click(); };
+    lstCONSTRAINT.OnClick = [this] { ConstraintClick(); };
+    lstPhase1.OnClick = [this] { PhaseClick(); };
+    lstPhase2.OnClick = [this] { PhaseClick(); };
+    lstPROPERTY_FUNCT.OnClick = [this] { DefinitionClick(); };
+    lstRelation.OnClick = [this] { DefinitionClick(); };
+    lstNumerical.OnClick = [this] { NumericalClick(); };
+    chkIncludeDigit.OnClick = [this] { ShowDigits(); };
+    cmdMethod.OnClick = [this] { Method(); };
+    cmdOK.OnClick = [this] { Accept(); };
+    cmdFinish.OnClick = [this] { Close(); };
+}
+
+void frmTwo::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    if (globals.EditTwo) record_ = globals.CurrentTwo;
+    if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
+    {
+        const ui::FillingScope filling(*this);
+        if (record_) {
+            TakeProperty({record_->PRPCODE, record_->PROPERTY_UNIT, record_->Factor,
+                          record_->isOriginalUnit, record_->nVar},
+                         record_->Header);
+        }
+        FillLists();
+        FillCompounds();
+        ShowProperty();
+        if (record_)
+            ShowRecord(*record_);
+        else
+            txtComment.Text(globals.PropertyComment);
+    }
+    cboSubst.Enabled(!record_);
+    cboSample.Enabled(!record_);
+    cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
+    ShowCaption();
+    if (row_.Property == row_.Code) ui::Say("Property Code Error");
+}
+
+void frmTwo::Unload() {
+    CloseForm();
+}
+
+void frmTwo::CompoundClick() {
+    if (Filling) return;
+    FillSamples();
+}
+
+void frmTwo::SampleClick() {
+    if (!Filling) UseSample();
+}
+
+void frmTwo::Variable1Click() {
+    ShowUnits(cboVar1, lstVariable_Unit);
+    ShowVar3();
+    ShowCaption();
+}
+
+void frmTwo::Variable2Click() {
+    ShowUnits(cboVar2, lstVar2_Unit);
+    ShowVar3();
+    ShowCaption();
+}
+
+void frmTwo::ConstraintClick() {
+    ShowPhases();
+    ShowVar3();
+    const TwoDraft draft = Draft();
+    const bool ofOnePhase = PresetTwo(row_.Code).constraint == "FP";
+    const int gas = lstPhase2.Find(PhaseName("G"));
+    if (!Filling && ofOnePhase && draft.constraint == "PB" && draft.phase2.empty() && gas > 0)
+        lstPhase2.Index(gas);
+}
+
+void frmTwo::PhaseClick() {
+    if (Filling) return;
+    ShowPhases();
+    ProposeSetNumber();
+}
+
+void frmTwo::DefinitionClick() {
+    ShowDefinition();
+}
+
+void frmTwo::NumericalClick() {
+    cmdOK.Caption(Draft().numerical == "N" ? "Accept" : "Numerical Data");
+}
+
+/// Lets property and method be reviewed; another property starts its definition anew.
+void frmTwo::Method() {
+    const std::string before = Globals().PropertyCode;
+    if (!ReviewProperty(txtComment.Text())) return;
+    const ui::FillingScope filling(*this);
+    txtComment.Text(Globals().PropertyComment);
+    if (Globals().PropertyCode == before) {
+        ShowUnits(cboVar1, lstVariable_Unit);
+        ShowUnits(cboVar2, lstVar2_Unit);
+    } else {
+        ShowProperty();
+    }
+    ShowCaption();
+}
+
+} // namespace vexora

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "dialogs/TwoRules.h"
+#include "reference/Vocabulary.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsL;
+class clsS;
+class clsTwo;
+
+/// Defines a set of a property against one or two state variables and leads to its table
+/// (frmData2). The set joins the tree, or an edited one is changed (EditTwo), only when the table
+/// has been accepted. The property in hand stands in the globals.
+class frmTwo : public ui::Form {
+public:
+    frmTwo();
+
+    ui::ComboBox cboSubst{*this, "cboSubst"};
+    ui::ComboBox cboSample{*this, "cboSample"};
+    ui::TextBox txtPrpSetNo{*this, "txtPrpSetNo"};
+    ui::Label lblVar1{*this, "lblVar1", "Independent variable 1:"};
+    ui::ComboBox cboVar1{*this, "cboVar1"};
+    ui::ComboBox lstVariable_Unit{*this, "lstVariable_Unit"};
+    ui::Label lblVar2{*this, "lblVar2", "Independent variable 2:"};
+    ui::ComboBox cboVar2{*this, "cboVar2"};
+    ui::ComboBox lstVar2_Unit{*this, "lstVar2_Unit"};
+    ui::Label lblVar3{*this, "lblVar3"};
+    ui::TextBox txtVar3{*this, "txtVar3"};
+    ui::Label lblUnit3{*this, "lblUnit3"};
+    ui::ComboBox lstCONSTRAINT{*this, "lstCONSTRAINT"};
+    ui::ComboBox lstPhase1{*this, "lstPhase1"};
+    ui::Label lblPhase2{*this, "lblPhase2", "Phase 2:"};
+    ui::ComboBox lstPhase2{*this, "lstPhase2"};
+    ui::Frame fraDefinition{*this, "fraDefinition",
+                            "Definition of Measurement Results (Absolute vs Relative)"};
+    ui::ComboBox lstPROPERTY_FUNCT{*this, "lstPROPERTY_FUNCT"};
+    ui::ComboBox lstRelation{*this, "lstRelation"};
+    ui::TextBox txtREF_TEMP{*this, "txtREF_TEMP"};
+    ui::TextBox txtREF_PRESSURE{*this, "txtREF_PRESSURE"};
+    ui::ComboBox lstREF_PHASE{*this, "lstREF_PHASE"};
+    ui::Frame fraPresentation{*this, "fraPresentation", "Data presentation"};
+    ui::ComboBox lstNumerical{*this, "lstNumerical"};
+    ui::CheckBox chkCalc{*this, "chkCalc", "Calculated"};
+    ui::CheckBox chkEqu{*this, "chkEqu", "Equation"};
+    ui::CheckBox chkGraph{*this, "chkGraph", "Graph"};
+    ui::CheckBox chkIncludeDigit{*this, "chkIncludeDigit", "Store number of significant digits"};
+    ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
+    ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
+    ui::CommandButton cmdOK{*this, "cmdOK", "Numerical Data"};
+    ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
+
+    void Load() override;
+    void Unload() override;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+
+    void CompoundClick();
+    void SampleClick();
+    void Variable1Click();
+    void Variable2Click();
+    void ConstraintClick();
+    void PhaseClick();
+    void DefinitionClick();
+    void NumericalClick();
+    void Method();
+
+    // What stands on the form (frmTwo_fill.cpp).
+    void FillLists();
+    void FillCompounds();
+    void FillSamples();
+    void UseSample();
+    void ShowProperty();
+    void ShowCaption();
+    void OfferVariables(ui::ComboBox& list) const;
+    void ShowUnits(const ui::ComboBox& variable, ui::ComboBox& units) const;
+    void ShowPhases();
+    void ShowVar3();
+    void ShowDigits();
+    void ShowDefinition();
+    void PreSet();
+    void ProposeSetNumber();
+    void ShowRecord(const clsTwo& record);
+    void ShowVariables(const clsTwo& record);
+    void ShowDefinitionOf(const clsTwo& record);
+    void ShowPresentation(const clsTwo& record);
+    std::shared_ptr<clsL> Compound() const;
+    std::shared_ptr<clsS> Sample() const;
+    std::string VariableOf(const ui::ComboBox& list) const;
+    TwoDraft Draft() const;
+
+    // Accepting (frmTwo_accept.cpp).
+    void Accept();
+    bool Check();
+    void NormalizeNumbers();
+    bool Refuse(ui::Control& control, const std::string& text);
+    ui::Control& FieldOf(TwoField field);
+    std::shared_ptr<clsTwo> MakeSet() const;
+    void WriteDefinition(clsTwo& set) const;
+    void WriteVariables(clsTwo& set) const;
+    void WriteResults(clsTwo& set) const;
+    void WriteComment(clsTwo& set) const;
+    void BuildPropertyChain() const;
+    bool EnterNumbers(const std::shared_ptr<clsTwo>& set);
+    void Store(const std::shared_ptr<clsTwo>& set);
+    std::string UnitCodeOf(const ui::ComboBox& units, const std::string& variable) const;
+
+    PropertyRow row_; // the property in hand
+    std::vector<VariableRow> variables_;
+    std::shared_ptr<clsTwo> record_; // the set that is being edited, null for a new one
+};
+
+} // namespace vexora

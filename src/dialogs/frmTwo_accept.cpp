@@ -1,0 +1,267 @@
+#include "dialogs/frmTwo.h"
+
+#include <utility>
+
+#include "chem/CommentTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "dialogs/KeyTags.h"
+#include "dialogs/PropertyContext.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/PropertyChain.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* table = "frmData2";
+
+/// The tags without those that begin with these words and end at the next colon.
+std::string WithoutTag(std::string tags, const std::string& beginning) {
+    const std::string mark = ":" + beginning;
+    for (std::size_t at = tags.find(mark); at != std::string::npos; at = tags.find(mark)) {
+        const std::size_t end = tags.find(':', at + mark.size());
+        tags.erase(at, (end == std::string::npos ? tags.size() : end) - at);
+    }
+    return tags.empty() ? ":" : tags;
+}
+
+/// A set with rows of its own, so that a table that is given up has changed nothing.
+std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
+    auto copy = std::make_shared<clsTwo>(record);
+    copy->tNode = nullptr;
+    copy->recData.Clear();
+    for (const auto& row : record.recData)
+        copy->recData.Add(std::make_shared<clsData>(*row));
+    return copy;
+}
+
+/// The working context as it was before the table opened; the table makes its own.
+class ContextScope {
+public:
+    ContextScope()
+        : set_(Globals().CurrentTwo), head_(Globals().CurrentProperty),
+          depth_(Globals().OpenForms.size()) {}
+    ~ContextScope() {
+        KVOGlobal& globals = Globals();
+        globals.CurrentTwo = set_;
+        globals.CurrentProperty = head_;
+        if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
+    }
+    ContextScope(const ContextScope&) = delete;
+    ContextScope& operator=(const ContextScope&) = delete;
+
+private:
+    std::shared_ptr<clsTwo> set_;
+    std::shared_ptr<clsProperty> head_;
+    std::size_t depth_;
+};
+
+} // namespace
+
+void frmTwo::Accept() {
+    if (!Check()) return;
+    const auto set = MakeSet();
+    if (Draft().numerical != "N" && !EnterNumbers(set)) return;
+    Store(set);
+    Close();
+}
+
+bool frmTwo::Refuse(ui::Control& control, const std::string& text) {
+    ui::Say(text);
+    control.SetFocus();
+    return false;
+}
+
+ui::Control& frmTwo::FieldOf(TwoField field) {
+    switch (field) {
+    case TwoField::Sample:
+        return cboSample;
+    case TwoField::Variable1:
+        return cboVar1;
+    case TwoField::Unit1:
+        return lstVariable_Unit;
+    case TwoField::Variable2:
+        return cboVar2;
+    case TwoField::Unit2:
+        return lstVar2_Unit;
+    case TwoField::Constant:
+        return txtVar3;
+    case TwoField::Function:
+        return lstPROPERTY_FUNCT;
+    case TwoField::Relation:
+        return lstRelation;
+    case TwoField::RefPhase:
+        return lstREF_PHASE;
+    case TwoField::RefTemp:
+        return txtREF_TEMP;
+    case TwoField::RefPressure:
+        return txtREF_PRESSURE;
+    case TwoField::Constraint:
+        return lstCONSTRAINT;
+    case TwoField::Phase1:
+        return lstPhase1;
+    case TwoField::Phase2:
+        return lstPhase2;
+    case TwoField::Numerical:
+        break;
+    }
+    return lstNumerical;
+}
+
+bool frmTwo::Check() {
+    NormalizeNumbers();
+    const auto findings = CheckTwo(Draft());
+    if (!findings.empty()) return Refuse(FieldOf(findings.front().field), findings.front().text);
+    const std::string fault = UnitFault(*Globals().CurrentProperty);
+    return fault.empty() || Refuse(cmdMethod, fault);
+}
+
+void frmTwo::NormalizeNumbers() {
+    for (ui::TextBox* box : {&txtVar3, &txtREF_TEMP, &txtREF_PRESSURE})
+        box->Text(NormalizeNumber(box->Text()));
+}
+
+std::shared_ptr<clsTwo> frmTwo::MakeSet() const {
+    auto set = record_ ? CopyOf(*record_) : std::make_shared<clsTwo>();
+    set->Parent = Sample().get();
+    WriteDefinition(*set);
+    WriteVariables(*set);
+    WriteResults(*set);
+    WriteComment(*set);
+    NameStatements(*set);
+    return set;
+}
+
+void frmTwo::WriteDefinition(clsTwo& set) const {
+    const KVOGlobal& globals = Globals();
+    const TwoDraft draft = Draft();
+    const bool original = globals.OriginalUnits;
+    set.nVar = draft.nVar;
+    set.SMPNM = Sample()->SMPNM;
+    set.PRPCODE = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
+    set.PRPSETNO = txtPrpSetNo.Text();
+    set.isOriginalUnit = original;
+    set.Factor = original ? globals.CurrentMethod->Factor : 0;
+    set.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    set.CONSTRAINT = draft.constraint;
+    set.PHASE1 = draft.phase1;
+    set.PHASE2 = OrPlaceholder(draft.phase2);
+    Presentation presentation = ParsePresentation(set.DATATYPE);
+    presentation.numerical = draft.numerical;
+    presentation.calculated = chkCalc.Value();
+    presentation.equation = chkEqu.Value();
+    presentation.graph = chkGraph.Value();
+    set.DATATYPE = PresentationCode(presentation);
+}
+
+void frmTwo::WriteVariables(clsTwo& set) const {
+    const TwoDraft draft = Draft();
+    const bool keepUnits = !set.isOriginalUnit && record_;
+    const auto unit = [&](const ui::ComboBox& list, const std::string& code, int n) {
+        const bool same = record_ && record_->VARIABLE(n) == code;
+        return keepUnits && same ? record_->VAR_UNIT(n) : UnitCodeOf(list, code);
+    };
+    set.VARIABLE1 = draft.variable1;
+    set.VAR1_UNIT = unit(lstVariable_Unit, draft.variable1, 1);
+    set.VARIABLE2 = set.nVar > 1 ? draft.variable2 : "";
+    set.VAR2_UNIT = set.nVar > 1 ? unit(lstVar2_Unit, draft.variable2, 2) : "";
+    for (int n = 1; n <= set.nVar; ++n) {
+        clsX& item = set.UX[static_cast<std::size_t>(n)];
+        const bool another = !item.PRPCODE.empty() && item.PRPCODE != set.VARIABLE(n);
+        if (another) item = clsX(); // what was stated about another variable is not true of this
+        item.PHASE = set.PHASE1;
+    }
+    set.UX[0].PHASE = set.PHASE1;
+}
+
+std::string frmTwo::UnitCodeOf(const ui::ComboBox& units, const std::string& variable) const {
+    const auto row = FindVariable(variable);
+    return row && Globals().OriginalUnits ? ConversionCodeOf(units.Chosen(), row->Unit) : "S";
+}
+
+void frmTwo::WriteResults(clsTwo& set) const {
+    const TwoDraft draft = Draft();
+    const bool relative = NeedsRelation(draft.function);
+    const bool sameRelation = record_ &&
+                              ParseDefinition(record_->PROPERTY_FUNCT).relation == "FX" &&
+                              draft.relation == "TF";
+    set.PROPERTY_FUNCT = draft.function;
+    if (relative) set.PROPERTY_FUNCT += sameRelation ? "FX" : draft.relation;
+    const bool fixedT = relative && FixesTemperature(draft.relation);
+    const bool fixedP = relative && FixesPressure(draft.relation);
+    const bool phase = relative && NamesReferencePhase(draft.relation);
+    set.REF_TEMP = fixedT ? draft.refTemp : "";
+    set.REF_PRESSURE = fixedP ? draft.refPressure : "";
+    set.REF_PHASE = phase ? draft.refPhase : "";
+}
+
+/// The value that all rows have in common stands among the tags. The variable of a set of one is
+/// written there by the set itself where it needs to.
+void frmTwo::WriteComment(clsTwo& set) const {
+    std::string& tags = Globals().KeyRest;
+    for (const char* code : {"WL", "WF", "P", "T"})
+        tags = WithoutTag(tags, std::string(code) + " = ");
+    tags = WithoutTag(tags, "V1:" + (record_ ? record_->VARIABLE1 : ""));
+    const std::string open = OpenVariable(Draft()).code;
+    if (!open.empty() && !txtVar3.IsEmpty())
+        tags = SetKeyTag(tags, open + " = " + txtVar3.Text(), true);
+    BuildPropertyChain();
+    FillHeader(set.Header, !record_,
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));
+}
+
+/// The items of variables that are no longer there go, with the precisions stated for them.
+void frmTwo::BuildPropertyChain() const {
+    clsProperty* last = Globals().CurrentProperty.get();
+    const TwoDraft draft = Draft();
+    for (int n = 1; n <= draft.nVar; ++n) {
+        const std::string& code = n == 1 ? draft.variable1 : draft.variable2;
+        const bool same = !last->isLast && last->NextItem && last->NextItem->PropertyCode == code;
+        if (!same) last->NextItem = std::make_shared<clsProperty>();
+        last->isLast = false;
+        last = last->NextItem.get();
+        if (!same) last->PropertyCode = code;
+    }
+    last->isLast = true;
+    last->NextItem = nullptr;
+}
+
+/// The table works on the set as the current one; true when it was accepted.
+bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
+    KVOGlobal& globals = Globals();
+    if (!ui::Forms::Current().Knows(table)) return Refuse(cmdOK, "There is no table dialog");
+    const ContextScope scope;
+    globals.CurrentTwo = set;
+    globals.DialogAccepted = false;
+    globals.IncludeDigits = chkIncludeDigit.Value();
+    globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one
+    ui::Forms::Current().Get(table).ShowModal();
+    return std::exchange(globals.DialogAccepted, false);
+}
+
+void frmTwo::Store(const std::shared_ptr<clsTwo>& set) {
+    KVOGlobal& globals = Globals();
+    if (record_) {
+        ui::TreeNode* const node = record_->tNode;
+        *record_ = *set;
+        record_->tNode = node;
+        globals.CurrentTwo = record_;
+    } else {
+        set->AttachTo(*Sample());
+        globals.CurrentTwo = set;
+    }
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+} // namespace vexora

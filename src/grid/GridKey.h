@@ -1,0 +1,17 @@
+#pragma once
+
+#include "grid/TableUndo.h"
+#include "ui/Key.h"
+
+namespace vexora {
+
+/// The keys that all tables share, on the selected block: Ctrl+A selects all rows, Ctrl+D fills
+/// downward, Delete and Ctrl+X empty the cells (Ctrl+X after copying them), the keys -, * and / of
+/// the number pad change the sign, multiply and divide by ten with all digits kept. Cells that hold
+/// no number are passed over by the last three. A key that was used is swallowed.
+void GridKey(TableUndo& table, ui::Key& key);
+
+/// Empties the cells of the selected block.
+void EmptySelection(TableUndo& table);
+
+} // namespace vexora

@@ -1,0 +1,228 @@
+#include "grid/TablePaste.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool IsDigits(std::string_view text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), IsDigit);
+}
+
+std::string Quoted(std::string_view text) {
+    return "\"" + std::string(text) + "\"";
+}
+
+/// The kinds of trouble, each told once with its first place, in the order of their coming up.
+class Notices {
+public:
+    void Add(const std::string& kind, std::size_t row, const std::string& text) {
+        const auto known = counts_.find(kind);
+        if (known == counts_.end()) {
+            order_.push_back(kind);
+            firsts_.push_back("row " + std::to_string(row + 1) + ": " + text);
+        }
+        ++counts_[kind];
+    }
+
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> texts;
+        for (std::size_t i = 0; i < order_.size(); ++i) {
+            const int more = counts_.at(order_[i]) - 1;
+            texts.push_back(firsts_[i] +
+                            (more > 0 ? " (and " + std::to_string(more) + " more)" : ""));
+        }
+        return texts;
+    }
+
+private:
+    std::map<std::string, int> counts_;
+    std::vector<std::string> order_;
+    std::vector<std::string> firsts_;
+};
+
+bool IsOddBlank(char32_t c) {
+    return c == 0xA0 || (c >= 0x2000 && c <= 0x200A) || c == 0x202F || c == 0x205F || c == 0x3000;
+}
+
+bool IsOddMinus(char32_t c) {
+    return c == 0x2212 || c == 0x2013 || c == 0x2010 || c == 0x2011 || c == 0xFE63 || c == 0xFF0D;
+}
+
+/// Blanks and minus signs of typesetters become those of a keyboard.
+std::string PlainCharacters(std::string_view line, std::size_t row, Notices& notices) {
+    std::string plain;
+    plain.reserve(line.size());
+    for (std::size_t at = 0; at < line.size();) {
+        const std::size_t start = at;
+        const char32_t c = NextCodePoint(line, at);
+        const char next = at < line.size() ? line[at] : '\0';
+        if (IsOddBlank(c)) {
+            plain += ' ';
+            const bool inside = start > 0 && IsDigit(line[start - 1]) && IsDigit(next);
+            notices.Add("odd blank", row,
+                        inside ? "a no-break blank between digits parted a number in two"
+                               : "no-break blanks were read as blanks");
+        } else if (IsOddMinus(c) && (IsDigit(next) || next == '.' || next == ',')) {
+            plain += '-';
+            notices.Add("odd minus", row, "a typeset minus was read as \"-\"");
+        } else if (c != 0xFEFF) {
+            plain.append(line.substr(start, at - start));
+        }
+    }
+    return plain;
+}
+
+std::string WithoutEdges(std::string_view line) {
+    std::string kept;
+    for (const std::string& cell : Split(line, '\t'))
+        kept.append(TrimBlanks(cell)).append("\t");
+    kept.pop_back();
+    return kept;
+}
+
+/// What a comma in a number may have meant besides the decimal point.
+void NoteCommas(std::string_view cell, std::size_t row, Notices& notices) {
+    const std::size_t comma = cell.find(',');
+    if (comma == cell.npos) return;
+    const std::string point = Replace(cell, ",", ".");
+    if (!IsNumeric(point)) return; // told as no number
+    const std::string_view before = cell.substr(0, comma);
+    const std::size_t sign = before.starts_with('-') || before.starts_with('+') ? 1 : 0;
+    const std::string_view whole = before.substr(sign);
+    const bool thousands = IsDigits(whole) && whole.size() <= 3 && whole.front() != '0' &&
+                           cell.size() - comma == 4 && IsDigits(cell.substr(comma + 1));
+    if (thousands) notices.Add("thousands", row, Quoted(cell) + " became " + point);
+}
+
+/// Why a cell is no number, for the troubles that printed tables are known for.
+void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t row,
+                  Notices& notices) {
+    if (cell.empty() || IsNumeric(cell) ||
+        (cell.back() == '%' && IsNumeric(cell.substr(0, cell.size() - 1))))
+        return;
+    std::size_t end = cell.size();
+    while (end > 0 && !IsNumeric(cell.substr(0, end)))
+        --end;
+    const std::string rest = cell.substr(end);
+    const bool bracket = end > 0 && rest.front() == '(' && rest.back() == ')' &&
+                         IsDigits(Replace(rest.substr(1, rest.size() - 2), ".", ""));
+    const bool mark = end > 0 && CodePointCount(rest) <= 2 && !IsDigit(rest.back()) &&
+                      rest.front() != '.' && rest.front() != '-';
+    if (bracket)
+        notices.Add("bracket", row, Quoted(cell) + " holds an uncertainty in brackets");
+    else if (mark)
+        notices.Add("footnote", row, Quoted(cell) + " ends in a footnote mark");
+    else if (typed != cell)
+        notices.Add("no number", row, Quoted(typed) + " became " + cell + ", which is no number");
+    else
+        notices.Add("no number", row, Quoted(cell) + " is no number");
+}
+
+/// One line, its blanks and tabs cleaned: the cells.
+std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size_t row,
+                                 Notices& notices) {
+    std::vector<std::string> cells;
+    for (const std::string& part : Split(WithoutEdges(line), '\t')) {
+        std::vector<std::string> pieces;
+        for (const std::string& piece : Split(part, ' ')) {
+            if (!piece.empty() || part.empty()) pieces.push_back(piece);
+        }
+        if (tabbed && pieces.size() > 1)
+            notices.Add("inner blank", row, Quoted(part) + " was split at its blank");
+        for (const std::string& piece : pieces) {
+            NoteCommas(piece, row, notices);
+            cells.push_back(Replace(piece, ",", "."));
+            NoteNoNumber(cells.back(), piece, row, notices);
+        }
+    }
+    return cells;
+}
+
+/// Whether two neighbours look like one number printed in groups of three digits.
+bool LooksGrouped(const std::vector<std::string>& row) {
+    for (std::size_t i = 1; i < row.size(); ++i) {
+        const std::string& left = row[i - 1];
+        const std::string whole = row[i].substr(0, row[i].find('.'));
+        const bool start = left.size() <= 4 && IsDigits(left.substr(left.starts_with('-') ? 1 : 0));
+        if (start && whole.size() == 3 && IsDigits(whole)) return true;
+        const bool fraction = left.size() > 4 && left[left.size() - 4] == '.' && IsNumeric(left);
+        if (fraction && IsDigits(row[i]) && row[i].size() <= 3) return true;
+    }
+    return false;
+}
+
+void NoteRagged(const PastedTable& table, Notices& notices) {
+    std::map<std::size_t, std::size_t> widths;
+    for (const auto& row : table.rows)
+        if (row.size() > 1 || !row.front().empty()) ++widths[row.size()];
+    if (widths.size() < 2) return;
+    const auto usual = std::max_element(widths.begin(), widths.end(),
+                                        [](auto& a, auto& b) { return a.second < b.second; });
+    for (std::size_t i = 0; i < table.rows.size(); ++i) {
+        const auto& row = table.rows[i];
+        if (row.size() == usual->first || (row.size() == 1 && row.front().empty())) continue;
+        if (row.size() > usual->first && LooksGrouped(row))
+            notices.Add("inner blank", i, "a number with an inner blank was split");
+        notices.Add("ragged", i,
+                    std::to_string(row.size()) + " cells, most rows have " +
+                        std::to_string(usual->first));
+    }
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::string plain = Replace(Replace(text, "\r\n", "\n"), "\r", "\n");
+    while (plain.ends_with('\n'))
+        plain.pop_back();
+    return Split(plain, '\n');
+}
+
+} // namespace
+
+std::size_t PastedTable::Columns() const {
+    std::size_t columns = 0;
+    for (const auto& row : rows)
+        columns = std::max(columns, row.size());
+    return columns;
+}
+
+PastedTable CleanTable(std::string_view text) {
+    PastedTable table;
+    Notices notices;
+    std::vector<std::string> lines = LinesOf(text);
+    const bool tabbed = text.find('\t') != text.npos;
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+        const std::string plain = PlainCharacters(lines[row], row, notices);
+        table.rows.push_back(CellsOf(plain, tabbed, row, notices));
+    }
+    NoteRagged(table, notices);
+    table.notices = notices.Texts();
+    return table;
+}
+
+bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column) {
+    const ui::Grid& grid = table.Table();
+    if (column + static_cast<int>(block.Columns()) > grid.Columns()) return false;
+    const int rows = static_cast<int>(block.rows.size());
+    table.Do([&](TableEdit& edit) {
+        edit.Rows(std::max(grid.Rows(), row + rows + 1));
+        for (int i = 0; i < rows; ++i) {
+            const auto& cells = block.rows[static_cast<std::size_t>(i)];
+            for (std::size_t j = 0; j < cells.size(); ++j)
+                edit.Cell(row + i, column + static_cast<int>(j), cells[j]);
+        }
+    });
+    return true;
+}
+
+} // namespace vexora

@@ -1,0 +1,164 @@
+#include "records/PropertyChain.h"
+
+#include "chem/CommentTags.h"
+#include "chem/clsProperty.h"
+#include "records/clsTwo.h"
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
+
+#include <cmath>
+
+namespace vexora {
+
+namespace {
+
+std::string WithUnit(const std::string& name, const std::string& unit) {
+    return unit.empty() || unit == "1" ? name : name + ", " + unit;
+}
+
+std::string UnitInWords(std::string code, double factor, const std::string& systemUnit) {
+    if (factor > 0) return NumberText(factor) + "* " + systemUnit;
+    if (systemUnit == "1" || IsSystemUnit(code)) return systemUnit;
+    const std::string text = ConversionText(code, systemUnit);
+    return text.empty() ? systemUnit : text;
+}
+
+std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& unit,
+                                    double factor) {
+    auto head = std::make_shared<clsProperty>();
+    head->PropertyCode = code;
+    head->ConversionCode = unit;
+    head->Factor = factor;
+    head->Relation = "A";
+    const auto row = FindProperty(code);
+    head->Name = row ? WithUnit(row->Property, row->Unit) : code;
+    return head;
+}
+
+std::shared_ptr<clsProperty> VariableItem(const std::string& code, const std::string& unit) {
+    auto item = std::make_shared<clsProperty>();
+    item->PropertyCode = code;
+    item->ConversionCode = unit;
+    item->Relation = "A";
+    const auto row = FindVariable(code);
+    item->Name = row ? WithUnit(row->IndVariable, row->Unit) : code;
+    return item;
+}
+
+clsProperty& Append(clsProperty& last, std::shared_ptr<clsProperty> item) {
+    last.isLast = false;
+    last.NextItem = std::move(item);
+    return *last.NextItem;
+}
+
+/// The precision that a comment states for a quantity, in the unit of its values.
+void TakePrecision(clsProperty& item, std::string_view comment, bool inSystemUnit) {
+    const std::string text = CommentTag(comment, "d" + item.PropertyCode);
+    const bool convert = inSystemUnit && item.Relation != "R" && item.Factor <= 0;
+    item.PrecisionText = EnteredStatement(text, item.ConversionCode, convert);
+    if (!inSystemUnit || item.Factor <= 0 || !IsNumeric(text)) return;
+    item.PrecisionText = FormatValue(Val(text) / item.Factor, SignificantDigits(text));
+}
+
+void NameProperty(clsX& item, const std::string& code, const std::string& unit, double factor) {
+    item.N = 0;
+    item.PRPCODE = code;
+    const auto row = FindProperty(code);
+    item.Name = row ? row->Property : code;
+    item.Unit = row ? UnitInWords(unit, factor, row->Unit) : std::string();
+}
+
+void NameVariable(clsX& item, int n, const std::string& code, const std::string& unit) {
+    item.N = n;
+    item.PRPCODE = code;
+    const auto row = FindVariable(code);
+    item.Name = row ? row->IndVariable : code;
+    item.Unit = row ? UnitInWords(unit, 0, row->Unit) : std::string();
+}
+
+} // namespace
+
+std::string EnteredStatement(std::string_view text, std::string_view unitCode, bool inSystemUnit) {
+    if (!inSystemUnit || !IsNumeric(text) || IsSystemUnit(unitCode)) return std::string(text);
+    const double one = ToSystem(unitCode, 1, 0, 0) - ToSystem(unitCode, 0, 0, 0);
+    if (one == 0 || one == 1) return std::string(text);
+    return FormatValue(Val(text) / one, SignificantDigits(text));
+}
+
+clsX InEnteredUnit(const clsX& item, std::string_view unitCode) {
+    clsX entered = item;
+    entered.inSystemUnits = false;
+    if (item.N == 0 || !item.inSystemUnits) return entered;
+    for (std::string clsX::*text : {&clsX::DSValue, &clsX::RValue, &clsX::UValue, &clsX::CDRms})
+        entered.*text = EnteredStatement(item.*text, unitCode, true);
+    return entered;
+}
+
+void TakeMasters(clsProperty& item, const clsX& statements) {
+    const clsX stated = InEnteredUnit(statements, item.ConversionCode);
+    item.masterds = stated.iDS ? stated.DSValue : "";
+    item.DSLevel = stated.iDS ? Val(stated.DSLevel) : 0;
+    item.masterrep = stated.iRep ? stated.RValue : "";
+    item.masternrep = stated.iRep ? static_cast<int>(ToInteger(Val(stated.Repetitions))) : 0;
+    item.replevel = stated.iRep && stated.RType > 0 ? stated.RType : 0;
+    item.masterunc = stated.iUnc ? stated.UValue : "";
+    item.unclevel = stated.iUnc ? Val(stated.ULevel) : 0;
+}
+
+std::shared_ptr<clsProperty> BuildChain(const clsTwo& set) {
+    const bool original = set.isOriginalUnit;
+    const std::string& comment = set.Header.DATACOMMENT;
+    auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
+    head->Relation = set.Relation();
+    TakeMasters(*head, set.UX[0]);
+    TakePrecision(*head, comment, set.commentInSystemUnits);
+    clsProperty* last = head.get();
+    for (int n = 1; n <= set.nVar; ++n) {
+        last = &Append(*last, VariableItem(set.VARIABLE(n), original ? set.VAR_UNIT(n) : "S"));
+        TakeMasters(*last, set.UX[static_cast<std::size_t>(n)]);
+        TakePrecision(*last, comment, set.commentInSystemUnits);
+    }
+    return head;
+}
+
+std::shared_ptr<clsProperty> BuildChain(const clsZ& value) {
+    const bool original = value.isOriginalUnit;
+    const std::string& comment = value.Header.DATACOMMENT;
+    auto head =
+        HeadOf(value.PRPCODE, original ? value.PROPERTY_UNIT : "S", original ? value.Factor : 0);
+    TakeMasters(*head, value.UX[0]);
+    TakePrecision(*head, comment, value.commentInSystemUnits);
+    if (value.nVar == 0) return head;
+    clsProperty& item =
+        Append(*head, VariableItem(value.Variable(), original ? value.VARIABLE_UNIT : "S"));
+    TakeMasters(item, value.UX[1]);
+    TakePrecision(item, comment, value.commentInSystemUnits);
+    return head;
+}
+
+void NameStatements(clsTwo& set) {
+    const bool original = set.isOriginalUnit;
+    NameProperty(set.UX[0], set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
+                 original ? set.Factor : 0);
+    for (int n = 1; n <= set.nVar; ++n) {
+        NameVariable(set.UX[static_cast<std::size_t>(n)], n, set.VARIABLE(n),
+                     original ? set.VAR_UNIT(n) : "S");
+    }
+    for (std::size_t n = static_cast<std::size_t>(set.nVar) + 1; n < set.UX.size(); ++n) {
+        clsX& item = set.UX[n];
+        item.Constr = true;
+        item.Name = item.IsStated() ? VariableName(item.PRPCODE) : std::string();
+    }
+}
+
+void NameStatements(clsZ& value) {
+    const bool original = value.isOriginalUnit;
+    NameProperty(value.UX[0], value.PRPCODE, original ? value.PROPERTY_UNIT : "S",
+                 original ? value.Factor : 0);
+    if (value.nVar == 1)
+        NameVariable(value.UX[1], 1, value.Variable(), original ? value.VARIABLE_UNIT : "S");
+}
+
+} // namespace vexora

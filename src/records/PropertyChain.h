@@ -1,0 +1,35 @@
+// The chain of quantities of a data set, made from the set: what the evaluation of uncertainties
+// and the range tests of its rows work on. A head for the property, an item for each variable; the
+// statements of the set stand in them as defaults of the rows.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace vexora {
+
+class clsProperty;
+class clsTwo;
+class clsX;
+class clsZ;
+
+/// The chain of a set: units and relations of its quantities, its statements and the precisions of
+/// its comment, all in the units in which the rows are entered. Texts and values are empty.
+std::shared_ptr<clsProperty> BuildChain(const clsTwo& set);
+std::shared_ptr<clsProperty> BuildChain(const clsZ& value);
+
+/// The statements of an item become the defaults of its quantity; what is not stated is emptied.
+void TakeMasters(clsProperty& item, const clsX& statements);
+
+/// A statement as it reads in the entered unit of a variable: one read from a file stands in the
+/// system unit. Per cent, and texts that are no number, stay.
+std::string EnteredStatement(std::string_view text, std::string_view unitCode, bool inSystemUnit);
+/// An item with its statements in the entered unit; that of the property (N = 0) always is.
+clsX InEnteredUnit(const clsX& item, std::string_view unitCode);
+
+/// Codes, names and units of the items of a set, for the dialog that edits them.
+void NameStatements(clsTwo& set);
+void NameStatements(clsZ& value);
+
+} // namespace vexora

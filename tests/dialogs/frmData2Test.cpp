@@ -1,0 +1,313 @@
+#include "dialogs/frmData2.h"
+
+#include "chem/clsProperty.h"
+#include "dialogs/DataDialogFixture.h"
+#include "dialogs/frmPasteView.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+
+namespace vexora::test {
+namespace {
+
+class frmData2Test : public DataDialogFixture {
+protected:
+    frmData2Test() {
+        set = std::make_shared<clsTwo>();
+        set->PRPCODE = "VDN";
+        set->PROPERTY_UNIT = "S";
+        set->PHASE1 = "L";
+        set->VARIABLE1 = "T";
+        set->VAR1_UNIT = "S";
+        globals.CurrentTwo = set;
+        // Without the dialog of statements unless a test brings one.
+        forms.Register("frmUnc", [this] { return std::make_unique<Statements>(*this); });
+    }
+    ~frmData2Test() override { forms.CloseAll(); }
+
+    struct Statements : ui::Form {
+        explicit Statements(frmData2Test& fixture) : Form("frmUnc", "Statements"), test(fixture) {}
+        frmData2Test& test;
+    };
+
+    void TwoVariables() {
+        set->nVar = 2;
+        set->VARIABLE2 = "P";
+        set->VAR2_UNIT = "S";
+    }
+    frmData2& OpenTable() {
+        form_ = &Open<frmData2>("frmData2");
+        return *form_;
+    }
+    void Paste(const std::string& text) { form_->tblData.UserPaste(text); }
+    void Accept(bool confirmed = true) {
+        desktop.OnModal([this, confirmed](ui::Form& form) {
+            EXPECT_EQ(form.Name(), "frmUnc");
+            globals.DialogAccepted = confirmed;
+            form.Close();
+        });
+        form_->cmdSave.UserClick();
+    }
+    std::string Cells() const {
+        std::string text;
+        for (int row = 0; row < form_->tblData.Rows(); ++row) {
+            for (int column = 0; column < form_->tblData.Columns(); ++column)
+                text += (column > 0 ? "|" : "") + form_->tblData.Cell(row, column);
+            text += ";";
+        }
+        return text;
+    }
+    std::string Rows() const {
+        std::string text;
+        for (const auto& row : set->recData) {
+            for (int n = 1; n <= set->nVar; ++n)
+                text += row->VARIABLE(n) + " ";
+            text += row->PRPVALUE() + " " + row->PRPUNCERTY + ";";
+        }
+        return text;
+    }
+    std::string Findings() const {
+        std::string text;
+        for (const std::string& line : form_->lstFindings.Items())
+            text += line + ";";
+        return text;
+    }
+    void AddRow(const std::string& t, const std::string& value, bool original = true) {
+        auto row = std::make_shared<clsData>();
+        row->Values = {value, t, "", ""};
+        row->PRPUNCERTY = "0.1";
+        row->TIELINE = "7";
+        row->inOriginalUnits = original;
+        set->recData.Add(row);
+    }
+
+    std::shared_ptr<clsTwo> set;
+    frmData2* form_ = nullptr;
+};
+
+TEST_F(frmData2Test, ColumnsFollowTheStatementsOfTheSet) {
+    TwoVariables();
+    set->UX[1].iDS = true;
+    set->UX[1].DSValue = "0.1%";
+    set->UX[0].iRep = true;
+    set->UX[0].iUnc = true;
+    set->UX[0].iCU = true;
+    set->UX[0].iCD = true;
+    globals.IncludeDigits = true;
+    OpenTable();
+    EXPECT_EQ(Cells(), "Var1|Digits|Dev.Spec.%|Var2|Digits|Property|Digits|Repeatab.|Repetitions|"
+                       "Uncert.|Comb.Unc.|Curve Dev.|KVO Uncert.;||||||||||||;");
+    EXPECT_TRUE(form_->Caption().find(") as function of Temperature, Pressure") !=
+                std::string::npos)
+        << form_->Caption();
+}
+
+TEST_F(frmData2Test, AcceptedRowsKeepEveryTypedDigit) {
+    OpenTable();
+    Paste("275\t999.887406\r\n450\t890.341250\r\n");
+    form_->tblData.UserCell(3, 0, "625.0");
+    form_->tblData.UserCell(3, 1, "567,090385");
+    Accept();
+    EXPECT_EQ(Rows(), "275 999.887406 ;450 890.341250 ;625.0 567.090385 ;");
+    EXPECT_EQ(set->recData.Item(3)->Digits[0], 9);
+    EXPECT_TRUE(globals.DialogAccepted);
+    EXPECT_FALSE(globals.Saved);
+    EXPECT_FALSE(form_->IsOpen());
+}
+
+TEST_F(frmData2Test, FaultsAreToldInOrderAndTheCellIsShown) {
+    set->UX[0].iUnc = true;
+    OpenTable();
+    Paste("275 abc x\n\n450\n");
+    desktop.Expect("Invalid number\nCorrect it or clear the line");
+    form_->cmdSave.UserClick();
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 1, 1, 1}));
+    form_->tblData.UserCell(1, 1, "999.8");
+    desktop.Expect("Invalid number\nCorrect it or clear the cell");
+    form_->cmdSave.UserClick();
+    form_->tblData.UserCell(1, 2, "");
+    desktop.Expect("Missing value\nEnter the value or clear the line");
+    form_->cmdSave.UserClick();
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{3, 1, 3, 1}));
+    EXPECT_TRUE(set->recData.IsEmpty());
+}
+
+TEST_F(frmData2Test, MarksTellWhileTypingWhatAcceptWouldAsk) {
+    OpenTable();
+    Paste("275 999.8\n2750 999.8\n300 -5\n310");
+    EXPECT_EQ(Findings(), "Row 2, Var1: Value 2750 Temperature, K is suspicious;"
+                          "Row 3, Property: Value -5 Density, kg/m3 is not valid;"
+                          "Row 4, Property: Missing value. Enter the value or clear the line;");
+    ASSERT_NE(form_->tblData.MarkOf(2, 0), nullptr);
+    EXPECT_FALSE(form_->tblData.MarkOf(2, 0)->isFault);
+    EXPECT_TRUE(form_->tblData.MarkOf(3, 1)->isFault);
+    const auto step = [&](const std::string& key) {
+        form_->UserKey(ui::ParseKey(key));
+        return form_->tblData.Selection().top;
+    };
+    EXPECT_EQ(step("F8"), 2);
+    EXPECT_EQ(step("F8"), 3);
+    EXPECT_EQ(step("Shift+F8"), 2);
+    EXPECT_EQ(step("Shift+F8"), 4);
+    form_->tblData.UserCell(2, 0, "275.0");
+    EXPECT_EQ(form_->tblData.MarkOf(2, 0), nullptr);
+}
+
+TEST_F(frmData2Test, YesToAllHoldsForOneQuantityToTheEndOfTheRun) {
+    OpenTable();
+    Paste("2750 9990\n2751 9990\n2750 9991");
+    const std::string temperature = "Value 2750 Temperature, K is suspicious\nIs that all right?";
+    const auto density = [](const std::string& value) {
+        return "Value " + value + " Density, kg/m3 is suspicious\nIs that all right?";
+    };
+    desktop.Expect(density("9990"), ui::Answer::Yes);
+    desktop.Expect(temperature, ui::Answer::YesToAll);
+    desktop.Expect(density("9991"), ui::Answer::No);
+    desktop.Expect("Erroneous data combination\nPlease correct it | Error");
+    Accept();
+    EXPECT_TRUE(form_->IsOpen());
+    EXPECT_EQ(form_->tblData.Cell(3, 2), "Error");
+    desktop.Expect(density("9990"), ui::Answer::YesToAll);
+    desktop.Expect(temperature, ui::Answer::YesToAll);
+    form_->cmdSave.UserClick();
+    EXPECT_EQ(Rows(), "2750 9990 ;2751 9990 ;2750 9991 ;");
+}
+
+TEST_F(frmData2Test, CancelOfTheStatementsStoresNothing) {
+    AddRow("275", "999.8");
+    OpenTable();
+    form_->tblData.UserCell(1, 1, "1");
+    Accept(false);
+    EXPECT_TRUE(form_->IsOpen());
+    set->UX[0].iUnc = true;
+    form_->cmdFinish.UserClick();
+    EXPECT_FALSE(set->UX[0].iUnc);
+    EXPECT_EQ(Rows(), "275 999.8 0.1;");
+}
+
+TEST_F(frmData2Test, EditedRowsKeepWhatTheTableDoesNotShow) {
+    AddRow("275", "999.80");
+    AddRow("300", "996.5");
+    AddRow("310", "990.0");
+    set->recData.Item(2)->Statements(0).Unc = "0.5";
+    OpenTable();
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.80|0.1;300|996.5|0.1;310|990.0|0.1;||;");
+    form_->tblData.Select({1, 0, 1, 2});
+    form_->tblData.UserKey(*std::make_unique<ui::Key>(ui::ParseKey("Delete")));
+    form_->tblData.UserCell(3, 0, "311");
+    form_->tblData.UserCell(2, 1, "996.50");
+    Accept();
+    EXPECT_EQ(Rows(), "300 996.50 0.1;311 990.0 0.1;");
+    EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, "0.5");
+    EXPECT_EQ(set->recData.Item(2)->TIELINE, "7");
+}
+
+TEST_F(frmData2Test, PerCentColumnsStoreTheirSignOnce) {
+    set->UX[0].iUnc = true;
+    set->UX[0].UValue = "1%";
+    OpenTable();
+    Paste("275 999.8 0.5\n280 999.7 2%\n285 999.6");
+    EXPECT_EQ(form_->tblData.Cell(0, 2), "Uncert.%");
+    Accept();
+    EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, "0.5%");
+    EXPECT_EQ(set->recData.Item(2)->StatementsOf(0).Unc, "2%");
+    EXPECT_EQ(set->recData.Item(3)->StatementsOf(0).Unc, "");
+    form_ = &Open<frmData2>("frmData2");
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "0.5");
+}
+
+TEST_F(frmData2Test, MixedRowsAreEditedInSystemUnits) {
+    set->VAR1_UNIT = "C";
+    AddRow("25.0", "997.0", true);
+    AddRow("310.0", "993.0", false);
+    OpenTable();
+    EXPECT_EQ(form_->tblData.Cell(1, 0), "298.2");
+    EXPECT_FALSE(form_->lblNotice.Caption().empty());
+    EXPECT_EQ(set->recData.Item(1)->VARIABLE(1), "25.0");
+    Accept();
+    EXPECT_EQ(Rows(), "298.2 997.0 0.1;310.0 993.0 0.1;");
+    EXPECT_FALSE(set->isOriginalUnit || set->recData.Item(1)->inOriginalUnits);
+}
+
+TEST_F(frmData2Test, UnitsThatCannotBeConvertedAreRefused) {
+    set->PROPERTY_UNIT = "B";
+    OpenTable();
+    Paste("275 999.8");
+    desktop.Expect("Molar mass of the compound is not known");
+    form_->cmdSave.UserClick();
+    EXPECT_TRUE(form_->IsOpen());
+}
+
+TEST_F(frmData2Test, TableInTwoDimensionsBecomesOneRowForEachCell) {
+    TwoVariables();
+    OpenTable();
+    Paste("\t101.3\t200\t300\t400\n300\t996.5\t996.6\t\t996.8\n310\t993.3\t993.4\t993.5\t993.6\n");
+    EXPECT_EQ(form_->tblData.Columns(), 5);
+    form_->mnuAction2D.UserClick();
+    EXPECT_EQ(Cells(), "Var1|Var2|Property|KVO Uncert.|;300|101.3|996.5||;300|200|996.6||;"
+                       "300|400|996.8||;310|101.3|993.3||;310|200|993.4||;310|300|993.5||;"
+                       "310|400|993.6||;||||;");
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 4), "400");
+}
+
+TEST_F(frmData2Test, SelectedBlockMovesBelowTheTable) {
+    OpenTable();
+    Paste("275 999.8 450 890.3\n280 999.7 625 567.0");
+    form_->tblData.Select({1, 2, 2, 3});
+    form_->mnuSplit.UserClick();
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.|;275|999.8||;280|999.7||;450|890.3||;"
+                       "625|567.0||;|||;");
+}
+
+TEST_F(frmData2Test, BlockThatIsTooWideIsRefusedWhole) {
+    OpenTable();
+    form_->tblData.UserCell(1, 0, "275");
+    desktop.Expect("The block has 4 columns, the table has room for 3\nNothing was pasted");
+    Paste("1 2 3 4");
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275||;||;");
+}
+
+TEST_F(frmData2Test, NoticesOfAPasteStandBelowTheTable) {
+    OpenTable();
+    Paste("275 1,234");
+    EXPECT_EQ(form_->lblNotice.Caption(), "row 1: \"1,234\" became 1.234");
+    desktop.ClipboardText("280 999.8(2)");
+    desktop.OnModal([](ui::Form& form) {
+        auto& view = dynamic_cast<frmPasteView&>(form);
+        EXPECT_EQ(view.tblBlock.Cell(0, 1), "999.8(2)");
+        EXPECT_EQ(view.lstNotices.Count(), 1);
+        view.cmdFinish.UserClick();
+    });
+    form_->UserKey(ui::ParseKey("Ctrl+Shift+V"));
+    EXPECT_EQ(form_->tblData.Cell(1, 0), "275");
+}
+
+TEST_F(frmData2Test, TypingStartsTheEditorAndArrowsLeaveIt) {
+    OpenTable();
+    form_->tblData.SetFocus();
+    for (const char* key : {"x", "2", "7", "5", "Right", "9", "Escape", "9", ".", "Enter"})
+        form_->UserKey(ui::ParseKey(key));
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|9.|;||;");
+    EXPECT_FALSE(form_->txtCell.Visible());
+    EXPECT_TRUE(form_->tblData.HasFocus());
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 1, 2, 1}));
+    form_->UserKey(ui::ParseKey("4"));
+    form_->lstFindings.SetFocus();
+    EXPECT_EQ(form_->tblData.Cell(2, 1), "4");
+    form_->UserKey(ui::ParseKey("Ctrl+Z"));
+    EXPECT_EQ(form_->tblData.Cell(2, 1), "");
+}
+
+TEST_F(frmData2Test, RowsBeyondAPlotAreKeptAndTold) {
+    OpenTable();
+    std::string text;
+    for (int row = 0; row < 16385; ++row)
+        text += "275 999.8\n";
+    Paste(text);
+    EXPECT_EQ(form_->tblData.Cell(16385, 1), "999.8");
+    EXPECT_EQ(form_->lblNotice.Caption(),
+              "The table holds 16385 rows; a plot shows the first 16384");
+}
+
+} // namespace
+} // namespace vexora::test

@@ -1,0 +1,72 @@
+#include "grid/TableUndo.h"
+
+#include "grid/TableFixture.h"
+
+namespace vexora::test {
+namespace {
+
+using TableUndoTest = TableFixture;
+
+TEST_F(TableUndoTest, PasteAndClearComeBackToTheLastZero) {
+    std::string block;
+    for (int row = 0; row < 200; ++row)
+        block += std::to_string(270 + row) + ".150 0.000" + std::to_string(row) + "0\n";
+    Fill(block);
+    const std::string full = Cells();
+    EXPECT_EQ(form.grid.Rows(), 202);
+    undo.Do([](TableEdit& edit) { edit.Rows(1); });
+    EXPECT_EQ(Cells(), "||\n");
+    undo.Undo();
+    EXPECT_EQ(Cells(), full);
+    undo.Undo();
+    EXPECT_EQ(Cells(), "||\n");
+    EXPECT_FALSE(undo.CanUndo());
+    undo.Redo();
+    EXPECT_EQ(Cells(), full);
+}
+
+TEST_F(TableUndoTest, NewChangeDropsWhatWasTakenBack) {
+    Fill("1 2 3");
+    undo.Undo();
+    Fill("4 5 6");
+    EXPECT_FALSE(undo.CanRedo());
+    EXPECT_EQ(Cells(), "4|5|6\n||\n");
+}
+
+TEST_F(TableUndoTest, OneSpareRowStaysBehindTheLastFilledOne) {
+    const auto type = [&](int row, const std::string& text) {
+        undo.Do([&](TableEdit& edit) { edit.Cell(row, 0, text); });
+    };
+    type(1, "1.50");
+    EXPECT_EQ(Cells(), "1.50||\n||\n");
+    type(2, "2");
+    type(2, "");
+    EXPECT_EQ(Cells(), "1.50||\n||\n");
+}
+
+TEST_F(TableUndoTest, StepsFollowTheirColumnsWhenColumnsMove) {
+    Fill("1.0 2.0 3.0");
+    form.grid.Resize(3, 2);
+    form.grid.Cell(1, 0, "2.0");
+    form.grid.Cell(1, 1, "3.0");
+    undo.MoveColumns({-1, 0, 1});
+    undo.Undo();
+    EXPECT_EQ(Cells(), "|\n");
+    undo.Redo();
+    EXPECT_EQ(Cells(), "2.0|3.0\n|\n");
+}
+
+TEST_F(TableUndoTest, WholeStepIsToldToListenersAtOnce) {
+    int told = 0;
+    form.grid.CellChanged.Connect([&](int row, int) {
+        EXPECT_EQ(row, -1);
+        ++told;
+    });
+    Fill("1 2 3\n4 5 6\n7 8 9");
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(undo.FirstRow(), 1);
+    EXPECT_EQ(undo.LastRow(), 3);
+}
+
+} // namespace
+} // namespace vexora::test
