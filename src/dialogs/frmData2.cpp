@@ -40,8 +40,7 @@ frmData2::~frmData2() = default;
 
 void frmData2::ArrangeControls() {
     using namespace ui;
-    Arrangement = Column({lblColumns, tblData, lblNotice, Field("Findings:", lstFindings),
-                          Row({chkSup, Stretch()}),
+    Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings, Row({chkSup, Stretch()}),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
     PreferredColumns = 100;
     PreferredRows = 36;
@@ -75,8 +74,14 @@ void frmData2::WireEvents() {
 void frmData2::WireMenus() {
     mnuFileOpen.OnClick = [this] { OpenFile(); };
     mnuFileSave.OnClick = [this] { SaveFile(); };
-    mnuUndo.OnClick = [this] { undo_.Undo(); };
-    mnuRedo.OnClick = [this] { undo_.Redo(); };
+    mnuUndo.OnClick = [this] {
+        lblNotice.Caption("");
+        undo_.Undo();
+    };
+    mnuRedo.OnClick = [this] {
+        lblNotice.Caption("");
+        undo_.Redo();
+    };
     mnuCopy.OnClick = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
     mnuCut.OnClick = [this] {
         ui::TheDesktop().ClipboardText(tblData.SelectionText());

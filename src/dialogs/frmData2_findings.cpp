@@ -58,6 +58,7 @@ void frmData2::ShowFindings() {
         lines.push_back("... and " + std::to_string(count - mostListed) + " more");
     tblData.CellMarks(std::move(marks));
     const ui::FillingScope filling(*this);
+    lstFindings.Visible(!lines.empty());
     if (lstFindings.Items() != lines) lstFindings.Assign(std::move(lines));
 }
 

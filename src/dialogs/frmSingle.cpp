@@ -1,9 +1,15 @@
 #include "dialogs/frmSingle.h"
 
+#include <span>
+#include <utility>
+
 #include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
 #include "dialogs/PropertyContext.h"
+#include "dialogs/Statements.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
@@ -39,7 +45,7 @@ void frmSingle::ArrangeControls() {
                {Row({Field("Value:", txtIndVariable), Field("Units:", lstVariable_Unit)})}),
          Field("Property value:", Row({txtValue, lblUnit})),
          Group(frmConstraint, {Row({optPB, optFP})}), Field("Comment to this record:", txtComment),
-         ButtonRow({cmdMethod, cmdCheck, cmdAccept, cmdFinish})});
+         ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
     PreferredColumns = 90;
 }
 
@@ -54,6 +60,7 @@ void frmSingle::WireEvents() {
     for (ui::OptionButton* option : {&optPB, &optFP})
         option->OnClick = [this] { Touch(); };
     cmdMethod.OnClick = [this] { Method(); };
+    cmdUnc.OnClick = [this] { Uncertainty(); };
     cmdCheck.OnClick = [] { ui::Forms::Current().Get("frmAverage").ShowModal(); };
     cmdAccept.OnClick = [this] { Accept(); };
     cmdFinish.OnClick = [this] { Close(); };
@@ -74,6 +81,7 @@ void frmSingle::Load() {
         txtComment.Text(globals.PropertyComment);
     cboSubst.Enabled(!editing_);
     cboSample.Enabled(!editing_);
+    cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     const bool canAverage = ui::Forms::Current().Knows("frmAverage");
     cmdCheck.Enabled(canAverage);
@@ -113,6 +121,28 @@ void frmSingle::Method() {
         txtComment.Text(Globals().PropertyComment);
         ShowProperty();
     }
+    Touch();
+}
+
+/// Statements about the value in hand; they go with it when it is stored.
+void frmSingle::Uncertainty() {
+    KVOGlobal& globals = Globals();
+    if (!globals.CurrentProperty) return;
+    TakeTexts();
+    clsZ named;
+    named.nVar = globals.VariableCount;
+    named.PRPCODE = row_.Code;
+    named.PROPERTY_UNIT = globals.CurrentProperty->ConversionCode;
+    named.Factor = globals.CurrentProperty->Factor;
+    if (IsFixed()) named.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
+    StoreStatements(named);
+    NameStatements(named);
+    const std::string key = std::exchange(globals.CurrentKey, "RLSZ");
+    const auto count = static_cast<std::size_t>(IsFixed() ? 2 : 1);
+    const bool accepted = EditStatements(std::span(named.UX).first(count));
+    globals.CurrentKey = key;
+    if (!accepted) return;
+    statements_ = named.UX;
     Touch();
 }
 

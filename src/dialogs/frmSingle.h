@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "dialogs/PropertyRules.h"
+#include "records/clsX.h"
 #include "ui/Form.h"
 
 namespace vexora {
@@ -37,6 +39,7 @@ public:
     ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
     ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
     ui::CommandButton cmdCheck{*this, "cmdCheck", "Calculate average value..."};
+    ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainty..."};
     ui::CommandButton cmdAccept{*this, "cmdAccept", "Next"};
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
@@ -51,6 +54,7 @@ private:
     void SampleClick();
     void Phase1Click();
     void Method();
+    void Uncertainty();
     void Touch();
 
     // What stands on the form (frmSingle_fill.cpp).
@@ -81,12 +85,15 @@ private:
     void Store();
     void StoreHeader(clsZ& record) const;
     void StoreValues(clsZ& record) const;
+    void StoreStatements(clsZ& record) const;
+    void TakeTexts() const;
     double MolarMass() const;
     std::string ChosenPhase(const ui::ComboBox& list) const;
 
-    PropertyRow row_;          // the property in hand
-    std::string variable_;     // code of the fixed variable
-    std::string variableUnit_; // system unit of it
+    PropertyRow row_;                // the property in hand
+    std::string variable_;           // code of the fixed variable
+    std::string variableUnit_;       // system unit of it
+    std::array<clsX, 2> statements_; // of the property and of the fixed variable
     bool editing_ = false;
     bool stored_ = false; // nothing has changed since the last store
     int sample_ = -1;     // the sample in force while "New" is being made

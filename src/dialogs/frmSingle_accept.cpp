@@ -62,12 +62,9 @@ bool frmSingle::CheckVariable() {
         return Refuse(txtIndVariable, "Enter the value of independent variable");
     if (lstVariable_Unit.Index() < 0)
         return Refuse(lstVariable_Unit, "Select units for the independent variable");
-    clsProperty& item = *Globals().CurrentProperty->NextItem;
-    item.Text = txtIndVariable.Text();
-    item.ConversionCode =
-        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
+    TakeTexts();
     bool ok = true;
-    item.Convert(ok, 0);
+    Globals().CurrentProperty->NextItem->Convert(ok, 0);
     if (!ok) txtIndVariable.SetFocus();
     return ok;
 }
@@ -77,10 +74,9 @@ bool frmSingle::CheckValue() {
     txtValue.Text(NormalizeNumber(txtValue.Text()));
     if (!IsNumeric(txtValue.Text())) return Refuse(txtValue, "Enter the property value", illegal);
     if (!CheckUnit()) return false;
-    clsProperty& head = *Globals().CurrentProperty;
-    head.Text = txtValue.Text();
+    TakeTexts();
     bool ok = true;
-    head.Convert(ok, MolarMass());
+    Globals().CurrentProperty->Convert(ok, MolarMass());
     return ok || Refuse(txtValue, "Invalid property value");
 }
 
@@ -96,6 +92,7 @@ void frmSingle::Store() {
     KVOGlobal& globals = Globals();
     const auto record = editing_ ? globals.CurrentZ : std::make_shared<clsZ>();
     StoreValues(*record);
+    StoreStatements(*record);
     StoreHeader(*record);
     if (!editing_) record->AttachTo(*Sample());
     globals.CurrentZ = record;
@@ -126,16 +123,32 @@ void frmSingle::StoreValues(clsZ& record) const {
     if (row_.Code == "TBN") record.PHASE3 = "&";
     if (row_.Code == "TMN") record.PHASE3 = "air";
     record.PRPVALUE = txtValue.Text();
-    record.UX[0].N = 0;
-    record.UX[0].PRPCODE = row_.Code;
-    record.UX[0].PHASE = record.PHASE1;
     if (!IsFixed()) return;
     record.INDVARIABLE = txtIndVariable.Text();
     if (original || record.VARIABLE_UNIT.empty())
         record.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
-    record.UX[1].N = 1;
-    record.UX[1].PRPCODE = variable_;
-    record.UX[1].PHASE = record.PHASE1;
+}
+
+/// What is stated goes with its quantity, which the item names besides.
+void frmSingle::StoreStatements(clsZ& record) const {
+    record.UX = statements_;
+    for (int n = 0; n <= Globals().VariableCount; ++n) {
+        clsX& item = record.UX[static_cast<std::size_t>(n)];
+        item.N = n;
+        item.PRPCODE = n == 0 ? row_.Code : variable_;
+        item.PHASE = ChosenPhase(lstPhase1);
+    }
+}
+
+/// The chain as the form stands.
+void frmSingle::TakeTexts() const {
+    clsProperty& head = *Globals().CurrentProperty;
+    head.Text = NormalizeNumber(txtValue.Text());
+    if (!IsFixed() || !head.NextItem) return;
+    clsProperty& item = *head.NextItem;
+    item.Text = NormalizeNumber(txtIndVariable.Text());
+    item.ConversionCode =
+        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
 }
 
 /// Of the compound in hand [g/mol]; a record read from a file may bring its own where the formula

@@ -196,6 +196,7 @@ void frmSingle::ShowComment(const clsZ& record) {
 }
 
 void frmSingle::ShowRecord(const clsZ& record) {
+    statements_ = record.UX;
     ShowComment(record);
     ChoosePhase(lstPhase1, record.PHASE1);
     ShowPhases();

@@ -12,7 +12,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpTwo = 330;
+constexpr int helpTwo = 335;
 
 } // namespace
 

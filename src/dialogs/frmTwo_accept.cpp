@@ -192,29 +192,35 @@ std::string frmTwo::UnitCodeOf(const ui::ComboBox& units, const std::string& var
 void frmTwo::WriteResults(clsTwo& set) const {
     const TwoDraft draft = Draft();
     const bool relative = NeedsRelation(draft.function);
-    const bool sameRelation = record_ &&
-                              ParseDefinition(record_->PROPERTY_FUNCT).relation == "FX" &&
-                              draft.relation == "TF";
-    set.PROPERTY_FUNCT = draft.function;
-    if (relative) set.PROPERTY_FUNCT += sameRelation ? "FX" : draft.relation;
+    const ResultDefinition before =
+        record_ ? ParseDefinition(record_->PROPERTY_FUNCT) : ResultDefinition();
+    const std::string relation =
+        before.relation == "FX" && draft.relation == "TF" ? "FX" : draft.relation;
+    const ResultDefinition definition = {draft.function, relative ? relation : std::string()};
+    const bool same = record_ && definition == before; // what a file states besides is kept
+    set.PROPERTY_FUNCT = definition.function + definition.relation;
     const bool fixedT = relative && FixesTemperature(draft.relation);
     const bool fixedP = relative && FixesPressure(draft.relation);
     const bool phase = relative && NamesReferencePhase(draft.relation);
-    set.REF_TEMP = fixedT ? draft.refTemp : "";
-    set.REF_PRESSURE = fixedP ? draft.refPressure : "";
-    set.REF_PHASE = phase ? draft.refPhase : "";
+    set.REF_TEMP = fixedT || same ? draft.refTemp : "";
+    set.REF_PRESSURE = fixedP || same ? draft.refPressure : "";
+    set.REF_PHASE = phase || same ? draft.refPhase : "";
 }
 
 /// The value that all rows have in common stands among the tags. The variable of a set of one is
 /// written there by the set itself where it needs to.
 void frmTwo::WriteComment(clsTwo& set) const {
     std::string& tags = Globals().KeyRest;
-    for (const char* code : {"WL", "WF", "P", "T"})
-        tags = WithoutTag(tags, std::string(code) + " = ");
-    tags = WithoutTag(tags, "V1:" + (record_ ? record_->VARIABLE1 : ""));
     const std::string open = OpenVariable(Draft()).code;
-    if (!open.empty() && !txtVar3.IsEmpty())
-        tags = SetKeyTag(tags, open + " = " + txtVar3.Text(), true);
+    const std::string constant = open + " = " + txtVar3.Text();
+    const bool stated = !open.empty() && !txtVar3.IsEmpty();
+    if (!stated || !HasKeyTag(tags, constant)) {
+        for (const char* code : {"WL", "WF", "P", "T"})
+            tags = WithoutTag(tags, std::string(code) + " = ");
+    }
+    if (record_ && (set.nVar > 1 || record_->VARIABLE1 != set.VARIABLE1))
+        tags = WithoutTag(tags, "V1:" + record_->VARIABLE1);
+    if (stated) tags = SetKeyTag(tags, constant, true);
     BuildPropertyChain();
     FillHeader(set.Header, !record_,
                BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));

@@ -45,6 +45,8 @@ frmUnc::frmUnc() : Form("frmUnc", "Uncertainty information") {
         cboDSEvaluator(i).ToolTip(evaluatorHint);
     }
     txtCULevel.ToolTip(levelHint);
+    for (const auto& frame : Frame) // those of the set show themselves
+        frame->Visible(false);
 }
 
 ui::Layout frmUnc::FrameLayout(int i) {
@@ -76,7 +78,7 @@ void frmUnc::ArrangeControls() {
     parts.emplace_back(lblFigures);
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
-    PreferredColumns = 130;
+    PreferredColumns = 150;
 }
 
 void frmUnc::WireEvents() {

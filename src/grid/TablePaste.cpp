@@ -175,8 +175,8 @@ void NoteRagged(const PastedTable& table, Notices& notices) {
         if (row.size() > usual->first && LooksGrouped(row))
             notices.Add("inner blank", i, "a number with an inner blank was split");
         notices.Add("ragged", i,
-                    std::to_string(row.size()) + " cells, most rows have " +
-                        std::to_string(usual->first));
+                    std::to_string(row.size()) + (row.size() == 1 ? " cell" : " cells") +
+                        " where most rows have " + std::to_string(usual->first));
     }
 }
 

@@ -144,7 +144,7 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     own_->setTabKeyNavigation(false);
     own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
     own_->verticalHeader()->setVisible(grid.FixedColumns() > 0 || grid.ShowsRowNumbers);
-    if (grid.Editor) own_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    if (grid.Editor) UseEditorOfForm(*grid.Editor);
     own_->horizontalHeader()->setResizeContentsPrecision(50);
     own_->horizontalHeader()->setDefaultSectionSize(own_->fontMetrics().averageCharWidth() * 14);
     own_->verticalHeader()->setDefaultSectionSize(own_->fontMetrics().height() + 8);
@@ -158,6 +158,14 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     });
     QObject::connect(own_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      [this] { HandOverSelection(); });
+}
+
+// The field follows the cell each time it comes up.
+void GridView::UseEditorOfForm(ui::TextBox& editor) {
+    own_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    editor.Redraw.Connect([self = QPointer<GridView>(this)] {
+        if (self && !self->Window().IsDetached()) self->Window().MarkDirty(*self);
+    });
 }
 
 bool GridView::Wants(const ui::Key& key) const {

@@ -57,6 +57,7 @@ private:
     void FitColumns();
     void DrawSelection();
     void PlaceEditor();
+    void UseEditorOfForm(ui::TextBox& editor);
 
     GridModel cells_;
     bool fitted_ = false;

@@ -292,7 +292,7 @@ TEST_F(frmData2Test, TypingStartsTheEditorAndArrowsLeaveIt) {
     EXPECT_TRUE(form_->tblData.HasFocus());
     EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 1, 2, 1}));
     form_->UserKey(ui::ParseKey("4"));
-    form_->lstFindings.SetFocus();
+    form_->cmdClear.SetFocus();
     EXPECT_EQ(form_->tblData.Cell(2, 1), "4");
     form_->UserKey(ui::ParseKey("Ctrl+Z"));
     EXPECT_EQ(form_->tblData.Cell(2, 1), "");

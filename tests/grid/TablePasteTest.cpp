@@ -44,7 +44,7 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
         {"300\t1,234.5", "300|1.234.5;", "row 1: \"1,234.5\" became 1.234.5, which is no number"},
         {"300\t1 234.5", "300|1|234.5;", "row 1: \"1 234.5\" was split at its blank"},
         {"300 996.5\n310 1 002.4\n320 997.1", "300|996.5;310|1|002.4;320|997.1;",
-         "row 2: a number with an inner blank was split; row 2: 3 cells, most rows have 2"},
+         "row 2: a number with an inner blank was split; row 2: 3 cells where most rows have 2"},
         {"300\t1\u00a0234", "300|1|234;",
          "row 1: a no-break blank between digits parted a number in two; "
          "row 1: \"1 234\" was split at its blank"},
@@ -57,7 +57,7 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "row 1: \"996.55a\" ends in a footnote mark (and 1 more)"},
         {"300\t996.55\u2020", "300|996.55\u2020;",
          "row 1: \"996.55\u2020\" ends in a footnote mark"},
-        {"1 2 3\n4 5\n6 7 8", "1|2|3;4|5;6|7|8;", "row 2: 2 cells, most rows have 3"},
+        {"1 2 3\n4 5\n6 7 8", "1|2|3;4|5;6|7|8;", "row 2: 2 cells where most rows have 3"},
         {"T/K p/MPa\n300 0.1", "T/K|p/MPa;300|0.1;", "row 1: \"T/K\" is no number (and 1 more)"},
         {"300\t1.5\u00d710\u22123", "300|1.5\u00d710-3;",
          "row 1: a typeset minus was read as \"-\"; "
