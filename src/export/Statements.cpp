@@ -25,33 +25,71 @@ bool ChangesValues(const ExportUnit& unit) {
     return unit.factor > 0 || (!IsSystemUnit(unit.code) && unit.code != "*");
 }
 
+constexpr double AngstromsInNanometre = 10;
+
+bool IsInNanometres(const ExportUnit& unit) {
+    return unit.wavelength && unit.converts && unit.code == "nm";
+}
+
 double ConvertedDifference(double figure, const ExportUnit& unit) {
     if (!unit.converts) return figure;
     return ToSystem(unit.code, figure, unit.factor, unit.molarMass) -
            ToSystem(unit.code, 0, unit.factor, unit.molarMass);
 }
 
+// A figure of an uncertainty in the unit in which the value leaves.
+double ExportedDifference(double figure, const ExportUnit& unit) {
+    if (IsInNanometres(unit)) return figure;
+    const double system = ConvertedDifference(figure, unit);
+    return unit.wavelength ? system / AngstromsInNanometre : system;
+}
+
+bool LeavesAsTyped(const ExportUnit& unit) {
+    return unit.wavelength ? IsInNanometres(unit) : !ChangesValues(unit);
+}
+
+// A sign in front is no digit.
+std::string WithoutPlus(std::string text) {
+    if (text.starts_with('+')) text.erase(0, 1);
+    return text;
+}
+
+// Without the noise in the last digits that the offset of a temperature leaves in a difference.
+std::string RoundedText(double figure) {
+    constexpr int digits = 10;
+    return NumberText(Val(FormatValue(figure, digits)));
+}
+
 // A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
 // are of the entered value.
 std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& unit,
                    bool inSystemUnits) {
-    const std::string text = NormalizeNumber(statement);
-    if (IsBlankField(text) || text == "%") return {};
+    std::string text = WithoutPlus(NormalizeNumber(statement));
     if (text.ends_with('%')) {
-        const double percent = Val(std::string_view(text).substr(0, text.size() - 1));
-        return NumberText(std::abs(ConvertedDifference(percent * Val(value) / 100, unit)));
+        text.pop_back();
+        if (!IsNumeric(text)) return {};
+        const double figure = Val(text) * Val(NormalizeNumber(value)) / 100;
+        return RoundedText(std::abs(ExportedDifference(figure, unit)));
     }
     if (!IsNumeric(text)) return {};
-    if (inSystemUnits || !ChangesValues(unit)) return text;
-    return FormatValue(std::abs(ConvertedDifference(Val(text), unit)), SignificantDigits(text));
+    ExportUnit stated = unit;
+    if (inSystemUnits) stated.converts = false;
+    if (text.starts_with('-')) text.erase(0, 1);
+    if (LeavesAsTyped(stated)) return text;
+    return FormatValue(std::abs(ExportedDifference(Val(text), stated)), SignificantDigits(text));
 }
 
 void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view level) {
     if (IsNumeric(level) && Val(level) > 0) xml.Element(element, NumberText(Val(level)));
 }
 
+// What was evaluated elsewhere, or in a way not stated, stays in the record.
+bool HasCombined(const clsX& item) {
+    return item.iCU && (item.CType == "A" || item.CType == "B");
+}
+
 void CombinedHead(XmlWriter& xml, const clsX& item) {
-    if (!item.iCU || (item.CType != "A" && item.CType != "B")) return;
+    if (!HasCombined(item)) return;
     xml.Open("CombinedUncertainty");
     xml.Element("nCombUncertAssessNum", "1");
     xml.Element("sCombUncertEvaluator", "Data file complier");
@@ -109,21 +147,22 @@ void WithNumber(XmlWriter& xml, const std::string& group, std::string_view numbe
 
 } // namespace
 
-bool IsConvertible(const ExportUnit& unit) {
-    return !unit.converts || unit.factor > 0 || !IsMassBased(unit.code) || unit.molarMass > 0;
+std::string WhyNotConvertible(const ExportUnit& unit) {
+    if (!unit.converts || unit.factor > 0) return {};
+    if (unit.code == "*" || !IsKnownConversion(unit.code)) return "Invalid conversion factor";
+    if (IsMassBased(unit.code) && unit.molarMass <= 0) {
+        return "Molar mass of the compound is not known";
+    }
+    return {};
 }
 
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit) {
-    const std::string text = NormalizeNumber(typed);
+    const std::string text = WithoutPlus(NormalizeNumber(typed));
+    const int digits = std::max(1, SignificantDigits(text));
+    if (LeavesAsTyped(unit)) return {text, digits};
     if (unit.wavelength) {
-        const bool nanometres = unit.converts && unit.code == "nm";
-        const int digits = std::max(1, SignificantDigits(text));
-        if (nanometres) return {text, digits};
-        const double angstroms =
-            unit.converts ? ToSystem(unit.code, Val(text), unit.factor, 0) : Val(text);
-        return {FormatValue(angstroms / 10, digits), digits};
+        return {FormatValue(ExportedDifference(Val(text), unit), digits), digits};
     }
-    if (!ChangesValues(unit)) return {text, std::max(1, SignificantDigits(text))};
     const double value = ToSystem(unit.code, Val(text), unit.factor, unit.molarMass);
     return {FormatConverted(text, unit.code, value),
             std::max(1, ConvertedDigits(text, unit.code, value))};
@@ -140,10 +179,11 @@ void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit) {
     const std::string name(role);
+    const bool ofProperty = name == "Prop";
     const auto figure = [&](const std::string& statement) {
-        return Figure(statement, value, unit, item.N != 0 && item.inSystemUnits);
+        return Figure(statement, value, unit, !ofProperty && item.inSystemUnits);
     };
-    if (item.iCU && (item.CType == "A" || item.CType == "B")) {
+    if (ofProperty && HasCombined(item)) {
         WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",
                    IsExpanded(item.CLevel) ? "nCombExpandUncertValue" : "nCombStdUncertValue",
                    figure(item.CValue));
@@ -157,17 +197,17 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
     if (!repeatability.empty()) {
         xml.Open(name + "Repeatability");
         xml.Element("n" + name + "RepeatValue", repeatability);
-        xml.ElementIfAny("nRepetitions", item.Repetitions);
+        if (IsNumeric(item.Repetitions)) xml.Element("nRepetitions", Trim(item.Repetitions));
         xml.Close();
     }
     if (item.iDS) {
         WithNumber(xml, name + "DeviceSpec", "", "n" + name + "DeviceSpecValue",
                    figure(item.DSValue));
     }
-    if (item.iCD) {
+    if (ofProperty && item.iCD) {
         WithNumber(xml, "CurveDev", "nCurveDevAssessNum", "nCurveDevValue", figure(item.CDRms));
     }
-    return item.iRep && repeatability.empty();
+    return !item.iRep || !repeatability.empty();
 }
 
 } // namespace vexora

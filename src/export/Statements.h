@@ -27,11 +27,11 @@ struct ExportNumber {
 /// Converts a typed value; what needs no conversion goes out as typed.
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit);
 
-/// Whether a value in this unit can be converted at all: a unit by mass needs the molar mass.
-bool IsConvertible(const ExportUnit& unit);
+/// Why a value in this unit cannot be converted, in words for the user; empty when it can.
+std::string WhyNotConvertible(const ExportUnit& unit);
 
 /// The statements of one value, in the order of their heads (clsX::ExportX); role is "Prop" or
-/// "Var". value is the typed value of the quantity, to which per cent refer. True when a
+/// "Var". value is the typed value of the quantity, to which per cent refer. False when a
 /// repeatability was announced but has no figure.
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit);

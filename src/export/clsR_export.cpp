@@ -3,6 +3,7 @@
 #include "export/ExportDocument.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
@@ -62,7 +63,8 @@ std::string Pages(std::string_view source) {
 }
 
 std::string AbstractText(std::string_view text) {
-    return Replace(Replace(Replace(text, "<", " less than "), ">", " greater than "), "|", "");
+    const std::string words = Replace(Replace(text, "<", " less than "), ">", " greater than ");
+    return Replace(Transliterate(words), "|", "");
 }
 
 void ExportKeywords(XmlWriter& xml, std::string_view keywords) {
@@ -75,7 +77,7 @@ void ExportIdentity(XmlWriter& xml, const clsR& source) {
     xml.Open("KVORefID");
     xml.Element("yrYrPub", source.YEARPUB);
     xml.Element("sAuthor1", source.AUTHOR1);
-    xml.Element("sAuthor2", source.AUTHOR2);
+    xml.Element("sAuthor2", WithoutPlaceholder(source.AUTHOR2));
     xml.Element("nAuthorn", source.AUTHORN);
     xml.Close();
 }
@@ -109,10 +111,13 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     Globals().DataContext = "Pure";
     for (const auto& compound : recL) {
         for (const auto& sample : compound->recS) {
-            for (const auto& value : sample->recZ)
+            for (const auto& value : sample->recZ) {
+                Globals().LineInHand = value->Line;
                 value->ExportZ(xml);
+            }
         }
     }
+    Globals().LineInHand = 0;
 }
 
 } // namespace vexora

@@ -12,6 +12,7 @@
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
@@ -37,6 +38,21 @@ std::string TagText(const clsZ& value, std::string_view tag) {
     if (at == std::string::npos) return {};
     const std::size_t from = at + tag.size();
     return tags.substr(from, tags.find(':', from) - from);
+}
+
+// The name of a phase, its code where no table knows it.
+std::string PhaseText(const std::string& code) {
+    if (IsBlankField(code)) return {};
+    const std::string name = PhaseName(code);
+    return name.empty() ? code : name;
+}
+
+void ExportPhase(XmlWriter& xml, std::string_view group, std::string_view element,
+                 const std::string& code) {
+    if (IsBlankField(code)) return;
+    xml.Open(group);
+    xml.Element(element, PhaseText(code));
+    xml.Close();
 }
 
 bool IsBoilingProperty(std::string_view code) {
@@ -75,9 +91,7 @@ void ExportProperty(XmlWriter& xml, const clsZ& value, const std::string& group)
     xml.Close();
     xml.Close();
     xml.Close();
-    xml.Open("PropPhaseID");
-    xml.Element("ePropPhase", PhaseName(value.PHASE1));
-    xml.Close();
+    ExportPhase(xml, "PropPhaseID", "ePropPhase", value.PHASE1);
     xml.Element("ePresentation", "Direct value, X");
     value.UX[0].ExportX(xml, "Prop");
     xml.Close();
@@ -98,11 +112,8 @@ std::vector<std::string> PhasesOf(const clsZ& value) {
 }
 
 void ExportPhases(XmlWriter& xml, const clsZ& value) {
-    for (const std::string& phase : PhasesOf(value)) {
-        xml.Open("PhaseID");
-        xml.Element("ePhase", PhaseName(phase));
-        xml.Close();
-    }
+    for (const std::string& phase : PhasesOf(value))
+        ExportPhase(xml, "PhaseID", "ePhase", phase);
 }
 
 // A boiling temperature without a pressure was measured under one atmosphere, and so was what is
@@ -132,16 +143,13 @@ void ExportVariable(XmlWriter& xml, const clsZ& value) {
     xml.Element(XMLVariableGroup(code), XMLVariableName(code));
     xml.Close();
     xml.Close();
-    xml.Open("VarPhaseID");
-    xml.Element("eVarPhase", PhaseName(value.PHASE1));
-    xml.Close();
+    ExportPhase(xml, "VarPhaseID", "eVarPhase", value.PHASE1);
     value.UX[1].ExportX(xml, "Var");
     xml.Close();
 }
 
 ExportUnit PropertyUnitOf(const clsZ& value) {
-    return {value.PROPERTY_UNIT, value.Factor, MolarMassOfRN(value.Parent->Parent->RN),
-            value.isOriginalUnit};
+    return {value.PROPERTY_UNIT, value.Factor, value.MolarMass(), value.isOriginalUnit};
 }
 
 ExportUnit VariableUnitOf(const clsZ& value) {
@@ -150,33 +158,44 @@ ExportUnit VariableUnitOf(const clsZ& value) {
     return unit;
 }
 
-void ExportVariableValue(XmlWriter& xml, const clsZ& value) {
-    const ExportUnit unit = VariableUnitOf(value);
-    const ExportNumber number = ExportedValue(value.INDVARIABLE, unit);
-    xml.Open("VariableValue");
-    xml.Element("nVarNumber", "1");
-    xml.Element("nVarValue", number.text);
-    xml.Element("nVarDigits", std::to_string(number.digits));
-    if (ExportStatements(xml, value.UX[1], "Var", value.INDVARIABLE, unit)) {
-        TellDataError(value, "Missing repeatability in ");
-    }
-    xml.Close();
+/// A value with its statements; false when a repeatability was announced but has no figure.
+bool ExportQuantity(XmlWriter& xml, const std::string& role, const std::string& typed,
+                    const clsX& item, const ExportUnit& unit) {
+    const ExportNumber number = ExportedValue(typed, unit);
+    xml.Element("n" + role + "Number", "1");
+    xml.Element("n" + role + "Value", number.text);
+    xml.Element("n" + role + "Digits", std::to_string(number.digits));
+    return ExportStatements(xml, item, role, typed, unit);
 }
 
 void ExportValues(XmlWriter& xml, const clsZ& value) {
+    bool whole = true;
     xml.Open("NumValues");
-    if (value.nVar == 1) ExportVariableValue(xml, value);
-    const ExportUnit unit = PropertyUnitOf(value);
-    const ExportNumber number = ExportedValue(value.PRPVALUE, unit);
-    xml.Open("PropertyValue");
-    xml.Element("nPropNumber", "1");
-    xml.Element("nPropValue", number.text);
-    xml.Element("nPropDigits", std::to_string(number.digits));
-    if (ExportStatements(xml, value.UX[0], "Prop", value.PRPVALUE, unit)) {
-        TellDataError(value, "Missing repeatability in ");
+    if (value.nVar == 1) {
+        xml.Open("VariableValue");
+        whole = ExportQuantity(xml, "Var", value.INDVARIABLE, value.UX[1], VariableUnitOf(value));
+        xml.Close();
     }
+    xml.Open("PropertyValue");
+    whole &= ExportQuantity(xml, "Prop", value.PRPVALUE, value.UX[0], PropertyUnitOf(value));
     xml.Close();
     xml.Close();
+    if (!whole) TellDataError(value, "Missing repeatability in ");
+}
+
+// Why the value cannot leave, in words for the user; empty when it can.
+std::string WhyNotExported(const clsZ& value, const std::string& group) {
+    const bool fixed = value.nVar == 1;
+    if (!IsXmlName(group) || (fixed && !IsXmlName(XMLVariableGroup(value.Variable())))) {
+        return "The reference tables have no place for these data in the export";
+    }
+    const auto isNumber = [](const std::string& text) { return IsNumeric(NormalizeNumber(text)); };
+    if (!isNumber(value.PRPVALUE)) return "The value is no number: " + value.PRPVALUE;
+    if (fixed && !isNumber(value.INDVARIABLE)) {
+        return "The variable is no number: " + value.INDVARIABLE;
+    }
+    const std::string fault = WhyNotConvertible(PropertyUnitOf(value));
+    return fault.empty() && fixed ? WhyNotConvertible(VariableUnitOf(value)) : fault;
 }
 
 } // namespace
@@ -184,12 +203,8 @@ void ExportValues(XmlWriter& xml, const clsZ& value) {
 void clsZ::ExportZ(XmlWriter& xml) const {
     if (Parent == nullptr || Parent->Parent == nullptr) return;
     const std::string group = XMLPropertyGroup(PRPCODE, "Pure");
-    if (!IsXmlName(group) || (nVar == 1 && !IsXmlName(XMLVariableGroup(Variable())))) {
-        TellDataError(*this, "The reference tables have no place for these data in the export");
-        return;
-    }
-    if (!IsConvertible(PropertyUnitOf(*this))) {
-        TellDataError(*this, "Molar mass of the compound is not known");
+    if (const std::string fault = WhyNotExported(*this, group); !fault.empty()) {
+        TellDataError(*this, fault);
         return;
     }
     xml.Open("PureOrMixtureData");
