@@ -1,6 +1,5 @@
 #include "cli/OpenedDocument.h"
 
-#include <filesystem>
 #include <iostream>
 
 #include "cli/ExitCodes.h"
@@ -25,11 +24,6 @@ void OpenedDocument::Tell(int line, bool isError, const std::string& text) {
     std::cerr << path_;
     if (line > 0) std::cerr << ':' << line;
     std::cerr << (isError ? ": error: " : ": warning: ") << Replace(text, "\n", " ") << '\n';
-}
-
-bool OpenedDocument::IsSameFile(const std::string& path) {
-    std::error_code error;
-    return !path.empty() && std::filesystem::equivalent(path, path_, error) && !error;
 }
 
 std::string OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
