@@ -204,12 +204,13 @@ void frmSingle::TakeRecord(const clsZ& record) {
     head.Value = Val(record.PRPVALUE);
 }
 
-/// Takes the comment apart: state, free-text method, tags, and the operator's text for the box.
+/// Takes the comment apart: state, free-text method, tags, and the operator's text for the box. A
+/// state that the form does not ask for stays among the tags.
 void frmSingle::TakeComment(const clsZ& record) {
     KVOGlobal& globals = Globals();
     clsMethod& method = *globals.CurrentMethod;
     std::string comment = record.Header.DATACOMMENT;
-    const std::string state = TakeState(comment);
+    const std::string state = frmConstraint.Visible() ? TakeState(comment) : "";
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
     comment = TakeSMethod(comment);
