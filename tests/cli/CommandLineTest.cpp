@@ -62,8 +62,8 @@ protected:
 };
 
 TEST_F(CommandLine, HelpAndVersionAreCleanAndWrongUseIsTwo) {
-    for (const char* command :
-         {"", "export", "check", "tree", "play", "refdb", "refdb build", "refdb import"}) {
+    for (const char* command : {"", "export", "check", "tree", "play", "refdb", "refdb build",
+                                "refdb import", "refdb check"}) {
         const Outcome help = Run(std::string(command) + " --help");
         EXPECT_EQ(help.code, 0) << command;
         EXPECT_NE(help.out.find("Usage: vexora-cli " + std::string(command)), std::string::npos)
@@ -223,6 +223,24 @@ TEST_F(CommandLine, CompoundsAreImportedAndBadRowsToldWithTheirLines) {
     EXPECT_EQ(Run("tree doc.txt").out, "2031 wag pru 1\n  test compound\n");
     EXPECT_EQ(Run("refdb build --data nowhere --out .").code, 3);
     EXPECT_EQ(Run("refdb import --compounds new.tsv nowhere.mdb").code, 3);
+}
+
+TEST_F(CommandLine, TablesAreCheckedAndCounted) {
+    EXPECT_EQ(Run("refdb check .").code, 0);
+    const Outcome summary = Run("refdb check --summary .");
+    EXPECT_EQ(summary.err, "");
+    EXPECT_TRUE(summary.out.starts_with("properties ")) << summary.out;
+    EXPECT_NE(summary.out.find("\ncompounds "), std::string::npos) << summary.out;
+    {
+        Database database;
+        database.Open(folder.File("VXR.mdb"), false);
+        database.Execute("update ALLNAME set FORMULA='HOH' where rowid=1");
+    }
+    const Outcome found = Run("refdb check .");
+    EXPECT_EQ(found.code, 1);
+    EXPECT_EQ(found.err,
+              "ALLNAME:1: error: the formula \"HOH\" is not canonical, that is \"H2O\"\n");
+    EXPECT_EQ(Run("refdb check nowhere").code, 3);
 }
 
 } // namespace
