@@ -12,11 +12,11 @@ namespace vexora {
 
 namespace {
 
-constexpr std::array<std::string_view, 29> kUnits{
-    {"1",      "K",          "kPa",    "1/K",     "1/kPa",      "kg/m3",   "m3/kg", "m3/mol",
-     "mol/m3", "m6/mol2",    "kJ/mol", "J/K/mol", "J/K/kg",     "J/K/m3",  "Pa*s",  "1/(Pa*s)",
-     "m2/s",   "W/m/K",      "N/m",    "m/s",     "mol/kg",     "mol/dm3", "V",     "A",
-     "MHz",    "kPa*kg/mol", "kJ/kg",  "kg/dm3",  "kPa*dm3/mol"}};
+constexpr std::array<std::string_view, 32> kUnits{
+    {"1",      "K",          "kPa",    "1/K",     "1/kPa",  "kg/m3",   "m3/kg",  "m3/mol",
+     "mol/m3", "m6/mol2",    "kJ/mol", "J/K/mol", "J/K/kg", "J/K/m3",  "Pa*s",   "1/(Pa*s)",
+     "m2/s",   "W/m/K",      "N/m",    "m/s",     "mol/kg", "mol/dm3", "V",      "A",
+     "MHz",    "kPa*kg/mol", "kJ/kg",  "K/kPa",   "kPa/K",  "S/m",     "kg/dm3", "kPa*dm3/mol"}};
 
 // Codes that differ by case only: each letter of these units has its own meaning.
 constexpr std::string_view kCasePairs = "AKVUZWXY";

@@ -58,9 +58,12 @@ std::string InstalledFolder(const std::string& argv0) {
 /// The vocabulary beside a compound database, else the installed one: formulas are read with it.
 std::string VocabularyFor(const Arguments& arguments) {
     const fs::path beside = fs::path(arguments.database).parent_path() / kVocabularyName;
+    const fs::path installed = fs::path(InstalledFolder(arguments.argv0)) / kVocabularyName;
     std::error_code error;
-    if (fs::exists(beside, error)) return beside.string();
-    return (fs::path(InstalledFolder(arguments.argv0)) / kVocabularyName).string();
+    for (const fs::path& path : {beside, installed})
+        if (fs::exists(path, error)) return path.string();
+    throw DatabaseError("no " + std::string(kVocabularyName) +
+                        " to read formulas with, neither beside the database nor installed");
 }
 
 int TellImported(const ImportResult& result) {
