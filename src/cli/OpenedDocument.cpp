@@ -7,12 +7,13 @@
 #include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "reference/Text.h"
+#include "shell/StartUp.h"
 
 namespace vexora {
 
 OpenedDocument::OpenedDocument(std::string path)
     : path_(std::move(path)), desktop_([this](const ui::Message& message) {
-          Tell(globals_.LineBeingRead, false, message.text);
+          Tell(globals_.LineInHand, false, message.text);
       }),
       forms_(desktop_) {
     globals_.tvwTree = &form_.tvwTree;
@@ -28,12 +29,14 @@ void OpenedDocument::Tell(int line, bool isError, const std::string& text) {
 std::string OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
                                           const std::string& argv0) {
     const Places places = host::FindPlaces(home, argv0);
-    globals_.HomeFolder = places.Home;
-    const auto find = [&](const std::string& name) {
-        const std::string own = places.Home + "/" + name;
+    InitGlobals(places); // the user's name stands in the export, and the databases may be elsewhere
+    const auto find = [&](const std::string& own, const std::string& name) {
         return Files().Exists(own) ? own : places.Installed + "/" + name;
     };
-    return globals_.Databases.OpenBoth(find("VXRLocal.mdb"), find("VXR.mdb")).value_or("");
+    return globals_.Databases
+        .OpenBoth(find(globals_.LocalDbPath, "VXRLocal.mdb"),
+                  find(globals_.CompoundDbPath, "VXR.mdb"))
+        .value_or("");
 }
 
 int OpenedDocument::Open(const std::optional<std::string>& home, const std::string& argv0) {

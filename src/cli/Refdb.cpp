@@ -1,7 +1,10 @@
 #include "cli/Refdb.h"
 
+#include "chem/TableChecks.h"
+#include "chem/clsAtom.h"
 #include "cli/ExitCodes.h"
-#include "reference/Database.h"
+#include "host/FindPlaces.h"
+#include "reference/AtomicMasses.h"
 #include "reference/RefdbBuild.h"
 
 #include <CLI/CLI.hpp>
@@ -14,13 +17,31 @@ namespace vexora {
 
 namespace {
 
-int Build(const std::string& data, const std::string& out) {
-    if (!std::filesystem::is_directory(data)) {
-        std::cerr << data << ": error: no such folder\n";
-        return kExitUnreadable;
-    }
+namespace fs = std::filesystem;
+
+constexpr const char* kVocabularyName = "VXRLocal.mdb";
+constexpr const char* kCompoundsName = "VXR.mdb";
+
+struct Arguments {
+    std::string argv0;
+    std::string data = "data";
+    std::string out;
+    std::string compounds;
+    std::string database;
+    std::string folder;
+    bool summary = false;
+};
+
+int TellUnreadable(const std::string& text) {
+    std::cerr << "error: " << text << '\n';
+    return kExitUnreadable;
+}
+
+int Build(const Arguments& arguments) {
+    if (!fs::is_directory(arguments.data))
+        return TellUnreadable(arguments.data + ": no such folder");
     try {
-        const auto findings = BuildReferenceDatabases(data, out);
+        const auto findings = BuildReferenceDatabases(arguments.data, arguments.out);
         for (const TableFinding& finding : findings)
             std::cerr << finding.Line() << '\n';
         return findings.empty() ? kExitClean : kExitFindings;
@@ -30,52 +51,98 @@ int Build(const std::string& data, const std::string& out) {
     }
 }
 
-int Import(const std::string& file, const std::string& database) {
+std::string InstalledFolder(const std::string& argv0) {
+    return host::FindPlaces(std::nullopt, argv0).Installed;
+}
+
+/// The vocabulary beside a compound database, else the installed one: formulas are read with it.
+std::string VocabularyFor(const Arguments& arguments) {
+    const fs::path beside = fs::path(arguments.database).parent_path() / kVocabularyName;
+    const fs::path installed = fs::path(InstalledFolder(arguments.argv0)) / kVocabularyName;
+    std::error_code error;
+    for (const fs::path& path : {beside, installed})
+        if (fs::exists(path, error)) return path.string();
+    throw DatabaseError("no " + std::string(kVocabularyName) +
+                        " to read formulas with, neither beside the database nor installed");
+}
+
+int TellImported(const ImportResult& result) {
+    for (const TableFinding& finding : result.skipped)
+        std::cerr << finding.Line() << '\n';
+    std::cout << result.added << " added, " << result.present << " already there, "
+              << result.skipped.size() << " skipped\n";
+    return result.skipped.empty() ? kExitClean : kExitFindings;
+}
+
+int Import(const Arguments& arguments) {
     try {
+        ReferenceDatabases databases;
+        databases.LocalDb.Open(VocabularyFor(arguments), true);
+        UseDatabases(&databases);
+        const KeptAtomicMasses masses;
         const ImportResult result = ImportCompounds(
-            file, database, [](std::size_t lines) { std::cerr << lines << " lines read\n"; });
-        if (!result.readable) {
-            std::cerr << file << ": error: the file cannot be read\n";
-            return kExitUnreadable;
-        }
-        for (const TableFinding& finding : result.skipped)
-            std::cerr << finding.Line() << '\n';
-        std::cout << result.added << " added, " << result.present << " already there, "
-                  << result.skipped.size() << " skipped\n";
-        return result.skipped.empty() ? kExitClean : kExitFindings;
+            arguments.compounds, arguments.database,
+            {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; }});
+        if (!result.readable)
+            return TellUnreadable(arguments.compounds + ": the file cannot be read");
+        return TellImported(result);
     } catch (const DatabaseError& error) {
         std::cerr << "error: " << error.what() << '\n';
         return error.CannotWrite() ? kExitCannotWrite : kExitUnreadable;
     }
 }
 
+int Check(const Arguments& arguments) {
+    const fs::path folder =
+        arguments.folder.empty() ? InstalledFolder(arguments.argv0) : arguments.folder;
+    ReferenceDatabases databases;
+    if (const auto error = databases.OpenBoth((folder / kVocabularyName).string(),
+                                              (folder / kCompoundsName).string()))
+        return TellUnreadable(*error);
+    UseDatabases(&databases);
+    try {
+        const RowFindings findings = CheckTables(databases);
+        for (const RowFinding& finding : findings)
+            std::cerr << finding.Line() << '\n';
+        if (arguments.summary)
+            for (const auto& [what, count] : CountTables(databases))
+                std::cout << what << ' ' << count << '\n';
+        return findings.empty() ? kExitClean : kExitFindings;
+    } catch (const DatabaseError& error) {
+        return TellUnreadable(error.what());
+    }
+}
+
 } // namespace
 
-void AddRefdbCommands(CLI::App& app, int& exitCode) {
-    struct Arguments {
-        std::string data = "data";
-        std::string out;
-        std::string compounds;
-        std::string database;
-    };
+void AddRefdbCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
     auto arguments = std::make_shared<Arguments>();
-    CLI::App* refdb = app.add_subcommand("refdb", "Make or extend the reference databases");
+    arguments->argv0 = argv0;
+    CLI::App* refdb = app.add_subcommand("refdb", "Make, extend or check the reference databases");
     refdb->require_subcommand(1);
-
-    CLI::App* build = refdb->add_subcommand("build", "Make both databases from their text tables");
+    const auto add = [&](const char* name, const char* what, int (*run)(const Arguments&)) {
+        CLI::App* command = refdb->add_subcommand(name, what);
+        command->callback([arguments, run, &exitCode] {
+            exitCode = run(*arguments);
+            UseDatabases(nullptr);
+        });
+        return command;
+    };
+    CLI::App* build = add("build", "Make both databases from their text tables", Build);
     build->add_option("--data", arguments->data, "Folder of the .tsv tables")
         ->capture_default_str();
     build->add_option("--out", arguments->out, "Folder the databases go to")->required();
-    build->callback([arguments, &exitCode] { exitCode = Build(arguments->data, arguments->out); });
 
-    CLI::App* import = refdb->add_subcommand("import", "Add compounds to a database");
+    CLI::App* import = add("import", "Add compounds to a database", Import);
     import->add_option("--compounds", arguments->compounds, "RN, name, formula (.tsv or .csv)")
         ->required();
     import->add_option("DATABASE", arguments->database, "The compound database (VXR.mdb)")
         ->required();
-    import->callback(
-        [arguments, &exitCode] { exitCode = Import(arguments->compounds, arguments->database);
-});
-} // namespace vexora
+
+    CLI::App* check = add("check", "Tell what is wrong in the tables of both databases", Check);
+    check->add_flag("--summary", arguments->summary, "Print how much the tables hold");
+    check->add_option("DIR", arguments->folder,
+                      "Folder of the databases; the installed ones when left out");
+}
 
 } // namespace vexora

@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     int exitCode = vexora::kExitClean;
     vexora::AddDocumentCommands(app, argv[0], exitCode);
-    vexora::AddRefdbCommands(app, exitCode);
+    vexora::AddRefdbCommands(app, argv[0], exitCode);
     vexora::AddPlayCommand(app, exitCode);
     try {
         app.parse(argc, argv);

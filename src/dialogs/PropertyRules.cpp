@@ -50,7 +50,12 @@ int FlagBits(std::string_view flags) {
     return static_cast<int>(ParseInteger(flags).value_or(0) & keptBits);
 }
 
+double FactorInUnit(std::string_view code, double factor) {
+    return factor <= 0 && IsNumeric(code) ? Val(code) : factor;
+}
+
 std::string UnitText(const PropertyRow& row, std::string_view code, double factor) {
+    factor = FactorInUnit(code, factor);
     if (factor > 0) {
         const std::string times = NumberText(factor) + "*";
         return row.Unit == unitOne ? times : times + " " + row.Unit;

@@ -174,8 +174,9 @@ ui::CommandButton* frmProperty::OnlyEntry() {
 
 void frmProperty::ShowUnit(const PropertyRow& row) {
     const KVOGlobal& globals = Globals();
-    if (globals.CurrentMethod->Factor > 0)
-        OfferFactor(globals.CurrentMethod->Factor);
+    const double factor = FactorInUnit(globals.PropertyUnit, globals.CurrentMethod->Factor);
+    if (factor > 0)
+        OfferFactor(factor);
     else
         lstConv.Choose(UnitText(row, globals.PropertyUnit, 0));
     unitBefore_ = lstConv.Index();

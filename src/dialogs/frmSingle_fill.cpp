@@ -187,9 +187,10 @@ void frmSingle::TakeRecord(const clsZ& record) {
     head.Value = Val(record.PRPVALUE);
 }
 
+/// A state that the form does not ask for stays among the tags.
 void frmSingle::ShowComment(const clsZ& record) {
     std::string comment = record.Header.DATACOMMENT;
-    const std::string state = TakeState(comment);
+    const std::string state = frmConstraint.Visible() ? TakeState(comment) : "";
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
     txtComment.Text(TakeComment(comment));

@@ -1,5 +1,7 @@
 #include "export/ExportDocument.h"
 
+#include <chrono>
+
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsR.h"
@@ -33,9 +35,12 @@ std::string IsoDate(std::string_view recordDate) {
     const auto month = ParseInteger(parts[0]);
     const auto day = ParseInteger(parts[1]);
     const auto year = ParseInteger(parts[2]);
-    if (!month || !day || !year || *month < 1 || *month > 12 || *day < 1 || *day > 31) return {};
-    if (*year < 1000 || *year > 9999) return {};
-    return std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day);
+    if (!month || !day || !year || *year < 1000 || *year > 9999) return {};
+    if (*month < 1 || *month > 12 || *day < 1 || *day > 31) return {};
+    const std::chrono::year_month_day date{std::chrono::year(static_cast<int>(*year)),
+                                           std::chrono::month(static_cast<unsigned>(*month)),
+                                           std::chrono::day(static_cast<unsigned>(*day))};
+    return date.ok() ? std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day) : "";
 }
 
 std::string ExportDocument(const ui::Date& today) {

@@ -82,8 +82,10 @@ void ExportPropertyHead(XmlWriter& xml, const std::string& code, const std::stri
 
 void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
                  std::string_view phase) {
+    if (IsBlankField(phase)) return;
+    const std::string name = PhaseName(phase);
     xml.Open(element);
-    xml.Element(inner, PhaseName(phase));
+    xml.Element(inner, name.empty() ? phase : name); // the code where no table knows the phase
     xml.Close();
 }
 

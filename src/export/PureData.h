@@ -24,7 +24,7 @@ void ExportOrigin(XmlWriter& xml, const clsS& sample, const clsA& header);
 /// Number, group with name and method, and phase of the property.
 void ExportPropertyHead(XmlWriter& xml, const std::string& code, const std::string& group,
                         std::string_view phase, const clsA& header);
-/// An element with a phase inside.
+/// An element with a phase inside; nothing for no phase.
 void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
                  std::string_view phase);
 /// A PhaseID for each phase, and one of the gas for what is measured where the liquid boils.

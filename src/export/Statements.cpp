@@ -23,33 +23,52 @@ bool IsExpanded(std::string_view level) {
 }
 
 // Wavelengths leave in nm, ten Angstroms of the system unit.
-constexpr double AngstromsPerNanometre = 10;
+constexpr double AngstromsInNanometre = 10;
+
+bool IsInNanometres(const ExportUnit& unit) {
+    return unit.wavelength && unit.converts && unit.code == "nm";
+}
 
 bool ChangesValues(const ExportUnit& unit) {
-    if (unit.wavelength) return !unit.converts || unit.code != "nm";
+    if (unit.wavelength) return !IsInNanometres(unit);
     if (!unit.converts) return false;
     return unit.factor > 0 || (!IsSystemUnit(unit.code) && unit.code != "*");
 }
 
+// A figure of an uncertainty in the unit in which the value leaves.
 double ConvertedDifference(double figure, const ExportUnit& unit) {
     if (!ChangesValues(unit)) return figure;
     const auto system = [&unit](double value) {
         return unit.converts ? ToSystem(unit.code, value, unit.factor, unit.molarMass) : value;
     };
-    return (system(figure) - system(0)) / (unit.wavelength ? AngstromsPerNanometre : 1);
+    return (system(figure) - system(0)) / (unit.wavelength ? AngstromsInNanometre : 1);
+}
+
+// A sign in front is no digit.
+std::string WithoutPlus(std::string text) {
+    if (text.starts_with('+')) text.erase(0, 1);
+    return text;
+}
+
+// Without the noise in the last digits that the offset of a temperature leaves in a difference.
+std::string RoundedText(double figure) {
+    constexpr int digits = 10;
+    return NumberText(Val(FormatValue(figure, digits)));
 }
 
 // A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
 // are of the entered value, whose unit may be another one than that of the figure.
 std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& ofValue,
                    const ExportUnit& ofFigure) {
-    const std::string text = NormalizeNumber(statement);
-    if (IsBlankField(text) || text == "%") return {};
+    std::string text = WithoutPlus(NormalizeNumber(statement));
     if (text.ends_with('%')) {
-        const double percent = Val(std::string_view(text).substr(0, text.size() - 1));
-        return NumberText(std::abs(ConvertedDifference(percent * Val(value) / 100, ofValue)));
+        text.pop_back();
+        if (!IsNumeric(text)) return {};
+        const double figure = Val(text) * Val(NormalizeNumber(value)) / 100;
+        return RoundedText(std::abs(ConvertedDifference(figure, ofValue)));
     }
     if (!IsNumeric(text)) return {};
+    if (text.starts_with('-')) text.erase(0, 1);
     if (!ChangesValues(ofFigure)) return text;
     return FormatValue(std::abs(ConvertedDifference(Val(text), ofFigure)), SignificantDigits(text));
 }
@@ -58,8 +77,13 @@ void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view leve
     if (IsNumeric(level) && Val(level) > 0) xml.Element(element, NumberText(Val(level)));
 }
 
+// What was evaluated elsewhere, or in a way not stated, stays in the record.
+bool HasCombined(const clsX& item) {
+    return item.iCU && (item.CType == "A" || item.CType == "B");
+}
+
 void CombinedHead(XmlWriter& xml, const clsX& item) {
-    if (!item.iCU || (item.CType != "A" && item.CType != "B")) return;
+    if (!HasCombined(item)) return;
     xml.Open("CombinedUncertainty");
     xml.Element("nCombUncertAssessNum", "1");
     xml.Element("sCombUncertEvaluator", "Data file complier");
@@ -119,13 +143,15 @@ void WithNumber(XmlWriter& xml, const std::string& group, std::string_view numbe
 
 std::string ConversionFault(const ExportUnit& unit) {
     if (!unit.converts || unit.factor > 0) return {};
-    if (!IsKnownConversion(unit.code)) return "Unknown unit " + unit.code;
-    const bool isFree = !IsMassBased(unit.code) || unit.molarMass > 0;
-    return isFree ? std::string() : "Molar mass of the compound is not known";
+    if (unit.code == "*" || !IsKnownConversion(unit.code)) return "Invalid conversion factor";
+    if (IsMassBased(unit.code) && unit.molarMass <= 0) {
+        return "Molar mass of the compound is not known";
+    }
+    return {};
 }
 
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count) {
-    std::string text = NormalizeNumber(typed);
+    std::string text = WithoutPlus(NormalizeNumber(typed));
     const int ofText = SignificantDigits(text);
     int digits = count > 0 ? count : ofText;
     if (!ChangesValues(unit)) return {std::move(text), std::max(1, digits)};
@@ -151,18 +177,19 @@ void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
 
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit, const RowFigures* row) {
-    if (!item.iCU && !item.iUnc && !item.iRep && !item.iDS && !item.iCD) return false;
+    if (!item.iCU && !item.iUnc && !item.iRep && !item.iDS && !item.iCD) return true;
     const std::string name(role);
+    const bool ofProperty = name == "Prop";
     ExportUnit ofSet = unit;
     ofSet.converts =
-        (row ? row->setConverts : unit.converts) && !(item.N != 0 && item.inSystemUnits);
+        (row ? row->setConverts : unit.converts) && (ofProperty || !item.inSystemUnits);
     static const RowStatements none;
     const RowStatements& own = row ? row->statements : none;
     const auto figure = [&](const std::string& statement, std::string_view ofRow = {}) {
         const std::string text = Figure(ofRow, value, unit, unit);
         return text.empty() ? Figure(statement, value, unit, ofSet) : text;
     };
-    if (item.iCU && (item.CType == "A" || item.CType == "B")) {
+    if (ofProperty && HasCombined(item)) {
         WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",
                    IsExpanded(item.CLevel) ? "nCombExpandUncertValue" : "nCombStdUncertValue",
                    figure(item.CValue, row ? row->combined : ""));
@@ -174,21 +201,21 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
     }
     const std::string repeatability = item.iRep ? figure(item.RValue, own.Rep) : std::string();
     if (!repeatability.empty()) {
+        const std::string& count = own.Repetitions.empty() ? item.Repetitions : own.Repetitions;
         xml.Open(name + "Repeatability");
         xml.Element("n" + name + "RepeatValue", repeatability);
-        xml.ElementIfAny("nRepetitions",
-                         own.Repetitions.empty() ? item.Repetitions : own.Repetitions);
+        if (IsNumeric(count)) xml.Element("nRepetitions", Trim(count));
         xml.Close();
     }
     if (item.iDS) {
         WithNumber(xml, name + "DeviceSpec", "", "n" + name + "DeviceSpecValue",
                    figure(item.DSValue, own.DS));
     }
-    if (item.iCD) {
+    if (ofProperty && item.iCD) {
         WithNumber(xml, "CurveDev", "nCurveDevAssessNum", "nCurveDevValue",
                    figure(item.CDRms, row ? row->curveDeviation : ""));
     }
-    return item.iRep && repeatability.empty();
+    return !item.iRep || !repeatability.empty();
 }
 
 } // namespace vexora

@@ -30,8 +30,7 @@ struct ExportNumber {
 /// of digits, 0 for that of its text.
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count = 0);
 
-/// Why a value in this unit cannot be converted, or empty: a unit by mass needs the molar mass, and
-/// the unit must be known.
+/// Why a value in this unit cannot be converted, in words for the user; empty when it can.
 std::string ConversionFault(const ExportUnit& unit);
 
 /// The fault of data whose property or variable the reference tables give no element.
@@ -47,7 +46,7 @@ struct RowFigures {
 };
 
 /// The statements of one value, in the order of their heads (clsX::ExportX); role is "Prop" or
-/// "Var". value is the typed value of the quantity, to which per cent refer. True when a
+/// "Var". value is the typed value of the quantity, to which per cent refer. False when a
 /// repeatability was announced but has no figure.
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit,

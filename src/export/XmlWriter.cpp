@@ -1,7 +1,6 @@
 #include "export/XmlWriter.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "reference/Text.h"
 
@@ -86,16 +85,6 @@ void XmlWriter::Element(std::string_view name, std::string_view text) {
 
 void XmlWriter::ElementIfAny(std::string_view name, std::string_view text) {
     if (!text.empty()) Element(name, text);
-}
-
-bool IsXmlName(std::string_view text) {
-    const auto letter = [](char c) {
-        return std::isalpha(static_cast<unsigned char>(c)) || c == '_';
-    };
-    const auto follows = [&](char c) {
-        return letter(c) || std::isdigit(static_cast<unsigned char>(c)) || c == '-' || c == '.';
-    };
-    return !text.empty() && letter(text.front()) && std::all_of(text.begin(), text.end(), follows);
 }
 
 } // namespace vexora

@@ -34,7 +34,4 @@ private:
     std::vector<std::string> open_;
 };
 
-/// True for a text that can be the name of an element.
-bool IsXmlName(std::string_view text);
-
 } // namespace vexora

@@ -21,8 +21,8 @@ void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n,
         own.combined = row.Extras->userCU;
         own.curveDeviation = row.Extras->CD;
     }
-    if (ExportStatements(xml, quantity.item, role, row.Values[place], UnitInRow(quantity, row),
-                         &own))
+    if (!ExportStatements(xml, quantity.item, role, row.Values[place], UnitInRow(quantity, row),
+                          &own))
         set.lacksRepeatability = true;
 }
 

@@ -3,6 +3,7 @@
 #include "export/ExportDocument.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
@@ -63,7 +64,8 @@ std::string Pages(std::string_view source) {
 }
 
 std::string AbstractText(std::string_view text) {
-    return Replace(Replace(Replace(text, "<", " less than "), ">", " greater than "), "|", "");
+    const std::string words = Replace(Replace(text, "<", " less than "), ">", " greater than ");
+    return Replace(Transliterate(words), "|", "");
 }
 
 void ExportKeywords(XmlWriter& xml, std::string_view keywords) {
@@ -76,7 +78,7 @@ void ExportIdentity(XmlWriter& xml, const clsR& source) {
     xml.Open("KVORefID");
     xml.Element("yrYrPub", source.YEARPUB);
     xml.Element("sAuthor1", source.AUTHOR1);
-    xml.Element("sAuthor2", source.AUTHOR2);
+    xml.Element("sAuthor2", WithoutPlaceholder(source.AUTHOR2));
     xml.Element("nAuthorn", source.AUTHORN);
     xml.Close();
 }
@@ -110,12 +112,17 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     Globals().DataContext = "Pure";
     for (const auto& compound : recL) {
         for (const auto& sample : compound->recS) {
-            for (const auto& value : sample->recZ)
+            for (const auto& value : sample->recZ) {
+                Globals().LineInHand = value->Line;
                 value->ExportZ(xml);
-            for (const auto& set : sample->recTwo)
+            }
+            for (const auto& set : sample->recTwo) {
+                Globals().LineInHand = set->Line;
                 set->ExportAll(xml);
+            }
         }
     }
+    Globals().LineInHand = 0;
 }
 
 } // namespace vexora

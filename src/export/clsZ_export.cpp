@@ -4,6 +4,8 @@
 #include "export/Statements.h"
 #include "export/XmlWriter.h"
 #include "records/clsS.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora {
@@ -36,45 +38,43 @@ ExportUnit VariableUnitOf(const clsZ& value) {
     return unit;
 }
 
-void TellMissingRepeatability(const clsZ& value) {
-    TellDataError(*value.Parent, value.PRPCODE, "Missing repeatability in ");
-}
-
-void ExportVariableValue(XmlWriter& xml, const clsZ& value) {
-    const ExportUnit unit = VariableUnitOf(value);
-    const ExportNumber number = ExportedValue(value.INDVARIABLE, unit);
-    xml.Open("VariableValue");
-    xml.Element("nVarNumber", "1");
-    xml.Element("nVarValue", number.text);
-    xml.Element("nVarDigits", std::to_string(number.digits));
-    if (ExportStatements(xml, value.UX[1], "Var", value.INDVARIABLE, unit)) {
-        TellMissingRepeatability(value);
-    }
-    xml.Close();
+/// A value with its statements; false when a repeatability was announced but has no figure.
+bool ExportQuantity(XmlWriter& xml, const std::string& role, const std::string& typed,
+                    const clsX& item, const ExportUnit& unit) {
+    const ExportNumber number = ExportedValue(typed, unit);
+    xml.Element("n" + role + "Number", "1");
+    xml.Element("n" + role + "Value", number.text);
+    xml.Element("n" + role + "Digits", std::to_string(number.digits));
+    return ExportStatements(xml, item, role, typed, unit);
 }
 
 void ExportValues(XmlWriter& xml, const clsZ& value) {
+    bool whole = true;
     xml.Open("NumValues");
-    if (value.nVar == 1) ExportVariableValue(xml, value);
-    const ExportUnit unit = PropertyUnitOf(value);
-    const ExportNumber number = ExportedValue(value.PRPVALUE, unit);
-    xml.Open("PropertyValue");
-    xml.Element("nPropNumber", "1");
-    xml.Element("nPropValue", number.text);
-    xml.Element("nPropDigits", std::to_string(number.digits));
-    if (ExportStatements(xml, value.UX[0], "Prop", value.PRPVALUE, unit)) {
-        TellMissingRepeatability(value);
+    if (value.nVar == 1) {
+        xml.Open("VariableValue");
+        whole = ExportQuantity(xml, "Var", value.INDVARIABLE, value.UX[1], VariableUnitOf(value));
+        xml.Close();
     }
+    xml.Open("PropertyValue");
+    whole &= ExportQuantity(xml, "Prop", value.PRPVALUE, value.UX[0], PropertyUnitOf(value));
     xml.Close();
     xml.Close();
+    if (!whole) TellDataError(*value.Parent, value.PRPCODE, "Missing repeatability in ");
 }
 
-// Why the value cannot be exported, or empty.
+// Why the value cannot leave, in words for the user; empty when it can.
 std::string FaultOf(const clsZ& value, const std::string& group) {
-    if (!IsXmlName(group) || (value.nVar == 1 && !IsXmlName(XMLVariableGroup(value.Variable()))))
+    const bool fixed = value.nVar == 1;
+    if (!IsXmlName(group) || (fixed && !IsXmlName(XMLVariableGroup(value.Variable()))))
         return NoPlaceInExport;
+    const auto isNumber = [](const std::string& text) { return IsNumeric(NormalizeNumber(text)); };
+    if (!isNumber(value.PRPVALUE)) return "The value is no number: " + value.PRPVALUE;
+    if (fixed && !isNumber(value.INDVARIABLE)) {
+        return "The variable is no number: " + value.INDVARIABLE;
+    }
     const std::string fault = ConversionFault(PropertyUnitOf(value));
-    return fault.empty() && value.nVar == 1 ? ConversionFault(VariableUnitOf(value)) : fault;
+    return fault.empty() && fixed ? ConversionFault(VariableUnitOf(value)) : fault;
 }
 
 } // namespace

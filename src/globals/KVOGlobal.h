@@ -64,7 +64,7 @@ struct KVOGlobal {
 
     std::vector<std::string> OpenForms; // the openers of the dialogs in the chain, by form name
     bool Saved = true;
-    int LineBeingRead = 0; // of the record file, 0 when none is being read
+    int LineInHand = 0;    // line of the record file that is being read or exported, 0 for none
     bool ReadOnly = false; // the file holds lines that this edition does not keep
     bool ShellLocked = false;
     bool DialogAccepted = false;

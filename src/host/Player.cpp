@@ -171,7 +171,7 @@ void Player::Report(const ScriptLine& line, const std::string& wanted, const std
     held_ = false;
     if (!expectation || !options_.keepGoing) stopped_ = true;
     out_.flush();
-    err_ << line.file << ':' << line.number << ": " << line.source.front() << '\n'
+    err_ << line.file << ':' << line.number << ": error: " << line.source.front() << '\n'
          << "  wanted: " << wanted << '\n'
          << "  found: " << found << '\n'
          << "  open forms: " << (program_ ? OpenFormsText(program_->Forms()) : "none") << '\n';

@@ -62,13 +62,31 @@ void CheckPhases(std::initializer_list<std::string> phases, Remarks& remarks) {
     if (IsBlankField(*phases.begin())) remarks.Error("No phase is given");
 }
 
-void CheckLimits(const clsZ& value, Remarks& remarks, const std::string& name) {
-    const double system = value.SystemValue();
+void CheckLimits(const std::string& code, double system, Remarks& remarks,
+                 const std::string& name) {
     const std::string words = name + ": value " + NumberText(system);
-    if (!IsValidValue(value.PRPCODE, system))
+    if (!IsValidValue(code, system))
         remarks.Error(words + " is not valid");
-    else if (!IsPlausibleValue(value.PRPCODE, system))
+    else if (!IsPlausibleValue(code, system))
         remarks.Warn(words + " is suspicious");
+}
+
+// "*" says nothing without a factor of its own.
+bool IsUsableUnit(const std::string& code) {
+    return code != "*" && IsKnownConversion(code);
+}
+
+void CheckVariable(const clsZ& value, Remarks& remarks, const std::string& property) {
+    const std::string name = property + ": " + VariableName(value.Variable(), "Pure");
+    const std::string unit = value.isOriginalUnit ? value.VARIABLE_UNIT : "S";
+    if (!IsNumeric(value.INDVARIABLE)) {
+        remarks.Error(property + ": the variable is no number: " + value.INDVARIABLE);
+    } else if (!IsUsableUnit(unit)) {
+        remarks.Error(name + ": unknown unit " + unit);
+    } else {
+        const double system = ToSystem(unit, Val(value.INDVARIABLE), 0, 0);
+        CheckLimits(value.Variable(), system, remarks, name);
+    }
 }
 
 void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
@@ -79,16 +97,15 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
     }
     const std::string name = PropertyName(value.PRPCODE, "Pure");
     CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
-    if (value.nVar == 1 && !IsNumeric(value.INDVARIABLE)) {
-        remarks.Error(name + ": the variable is no number: " + value.INDVARIABLE);
-    }
+    if (value.nVar == 1) CheckVariable(value, remarks, name);
     if (!IsNumeric(value.PRPVALUE)) {
         remarks.Error(name + ": the value is no number: " + value.PRPVALUE);
-    } else if (value.isOriginalUnit && value.Factor <= 0 &&
-               !IsKnownConversion(value.PROPERTY_UNIT)) {
+    } else if (value.isOriginalUnit && value.Factor <= 0 && !IsUsableUnit(value.PROPERTY_UNIT)) {
         remarks.Error(name + ": unknown unit " + value.PROPERTY_UNIT);
+    } else if (value.NeedsMolarMass() && value.MolarMass() <= 0) {
+        remarks.Error(name + ": the molar mass of the compound is not known");
     } else {
-        CheckLimits(value, remarks, name);
+        CheckLimits(value.PRPCODE, value.SystemValue(), remarks, name);
     }
 }
 

@@ -69,7 +69,7 @@ void ReadLines(std::string_view text, ReaderState& state) {
     std::string decoded;
     while (!text.empty() && !state.isAbandoned) {
         std::string_view line = TakeLine(text);
-        Globals().LineBeingRead = ++state.lineNumber;
+        Globals().LineInHand = ++state.lineNumber;
         if (Trim(line).empty()) continue;
         if (!IsValidUtf8(line)) {
             decoded = ToUtf8(line);
@@ -95,7 +95,7 @@ ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
     } catch (const DatabaseError& error) { // a damaged database shows where it is looked into
         state.Abandon(error.what());
     }
-    globals.LineBeingRead = 0;
+    globals.LineInHand = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
     result.linesNotKept = state.linesNotKept + state.pendingLines;

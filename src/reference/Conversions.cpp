@@ -166,6 +166,13 @@ double ConversionFactor(std::string_view code, std::string_view unit) {
     return IsNumeric(code) ? Val(code) : RowFactor(code, unit);
 }
 
+std::vector<std::string_view> BuiltInConversions() {
+    std::vector<std::string_view> codes;
+    for (const BuiltIn& unit : kBuiltIn)
+        codes.push_back(unit.code);
+    return codes;
+}
+
 bool IsMassBased(std::string_view code) {
     const BuiltIn* unit = FindBuiltIn(code);
     return unit && (unit->kind == Kind::PerMass || unit->kind == Kind::PerMassKilo);

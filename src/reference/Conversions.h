@@ -22,6 +22,8 @@ double FromSystem(std::string_view code, double value, double factor, double mol
 /// one is named); 0 if there is none, 1 for a code that means the system unit.
 double ConversionFactor(std::string_view code, std::string_view unit = {});
 
+/// The codes whose constants stand in the program, in their order.
+std::vector<std::string_view> BuiltInConversions();
 /// True for the codes that need the molar mass: Z G P B z Y N.
 bool IsMassBased(std::string_view code);
 /// True for the codes that stand for the system unit: "S", "D", "", "&".

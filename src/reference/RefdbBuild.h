@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vexora {
@@ -26,11 +27,18 @@ struct ImportResult {
     std::vector<TableFinding> skipped;
 };
 
+struct ImportOptions {
+    /// The canonical text of a typed formula, "" for none; left out, formulas are taken as typed.
+    std::function<std::string(std::string_view)> canonicalFormula;
+    /// Hears the count of lines now and then.
+    std::function<void(std::size_t)> progress;
+};
+
 /// Adds rows of registry number ("7732185" or "7732-18-5"), name and formula to `ALLNAME`, in one
 /// transaction. A heading line that begins with "RN" is passed over, bad rows are told and skipped.
-/// `progress` hears the count of lines now and then. Throws DatabaseError on a bad database.
+/// Throws DatabaseError on a bad database.
 ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
-                             const std::function<void(std::size_t)>& progress = {});
+                             const ImportOptions& options = {});
 
 /// True for a registry number of two to seven, two and one digits whose last digit is the check
 /// digit: the sum of the others, each times its place from the right, modulo ten.

@@ -32,15 +32,24 @@ std::optional<std::int64_t> ReadRegistryNumber(std::string_view cell) {
     return rn;
 }
 
-/// What is wrong with a row, "" if nothing; the registry number goes into `rn`.
-std::string RowFault(const std::vector<std::string>& cells, std::int64_t& rn) {
+struct CompoundCells {
+    std::int64_t rn = 0;
+    std::string name;
+    std::string formula;
+};
+
+/// Fills the compound from a row; the answer is what is wrong with it, "" if nothing.
+std::string ReadCompound(const std::vector<std::string>& cells, const ImportOptions& options,
+                         CompoundCells& compound) {
     if (cells.size() < 3) return "three cells expected: RN, name, formula";
     const auto number = ReadRegistryNumber(cells[0]);
     if (!number) return "\"" + cells[0] + "\" is no valid registry number";
+    const std::string formula(Trim(cells[2]));
     if (Trim(cells[1]).empty()) return "the name is missing";
-    if (Trim(cells[2]).empty()) return "the formula is missing";
-    rn = *number;
-    return {};
+    if (formula.empty()) return "the formula is missing";
+    compound = {*number, std::string(Trim(cells[1])), formula};
+    if (options.canonicalFormula) compound.formula = options.canonicalFormula(formula);
+    return compound.formula.empty() ? "\"" + formula + "\" is no formula" : "";
 }
 
 } // namespace
@@ -56,7 +65,7 @@ bool IsRegistryNumber(std::int64_t rn) {
 }
 
 ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
-                             const std::function<void(std::size_t)>& progress) {
+                             const ImportOptions& options) {
     ImportResult result;
     TableReader reader(path);
     result.readable = reader.IsOpen();
@@ -69,14 +78,13 @@ ImportResult ImportCompounds(const std::string& path, const std::string& databas
     constexpr std::size_t kProgressStep = 10000;
     for (std::size_t count = 1; const auto cells = reader.NextRow(); ++count) {
         if (count == 1 && EqualNoCase(Trim(cells->front()), "RN")) continue;
-        if (progress && count % kProgressStep == 0) progress(count);
-        std::int64_t rn = 0;
-        const std::string fault = RowFault(*cells, rn);
+        if (options.progress && count % kProgressStep == 0) options.progress(count);
+        CompoundCells compound;
+        const std::string fault = ReadCompound(*cells, options, compound);
         if (!fault.empty()) {
             result.skipped.push_back({path, reader.Line(), fault});
-        } else if (const std::string name(Trim((*cells)[1]));
-                   keys.insert(RowKey(rn, name)).second) {
-            insert.Add({rn, name, Trim((*cells)[2])});
+        } else if (keys.insert(RowKey(compound.rn, compound.name)).second) {
+            insert.Add({compound.rn, compound.name, compound.formula});
             ++result.added;
         } else {
             ++result.present;

@@ -145,6 +145,16 @@ std::string SingleLine(std::string_view text) {
     return result;
 }
 
+bool IsXmlName(std::string_view text) {
+    const auto letter = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+    };
+    const auto follows = [&](char c) {
+        return letter(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+    };
+    return !text.empty() && letter(text.front()) && std::ranges::all_of(text, follows);
+}
+
 std::string StripUnitOne(std::string_view code) {
     if (code == "1") return {};
     if (code.size() > 1 && code.front() == '*' && code.back() == '1') code.remove_suffix(1);

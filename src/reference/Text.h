@@ -70,6 +70,8 @@ bool IsValidUtf8(std::string_view text);
 std::string FromWindows1252(std::string_view bytes);
 /// The bytes as UTF-8: unchanged if valid, else read as Windows-1252.
 std::string ToUtf8(std::string_view bytes);
+/// True for a text that can be the name of an element.
+bool IsXmlName(std::string_view text);
 /// One line: every line end (CR LF, CR or LF) becomes one blank.
 std::string SingleLine(std::string_view text);
 

@@ -99,7 +99,8 @@ std::vector<std::string> PhaseList(std::string_view context, std::string_view pr
     for (; rows && !rows->IsEnd(); rows->MoveNext()) {
         std::string name = rows->Text("Phase");
         const bool fits = EqualNoCase(std::string_view(name).substr(0, prefix.size()), prefix);
-        if (fits && IsOffered(*rows, context)) names.push_back(std::move(name));
+        const bool ofHydrate = context == "Complex" && rows->Flag("GH");
+        if (fits && (ofHydrate || IsOffered(*rows, context))) names.push_back(std::move(name));
     }
     return names;
 }
@@ -221,13 +222,6 @@ std::string ReactionCode(std::string_view type) {
 
 std::vector<std::string> ReactionTypes() {
     return LocalTexts("select RType from Reactions order by rowid", {}, "RType");
-}
-
-std::optional<double> AtomicMass(std::string_view symbol) {
-    const auto rows =
-        LocalRows("select AMASS from AMASS where SYMBOL=? collate binary order by rowid", {symbol});
-    if (!rows || rows->IsEnd()) return std::nullopt;
-    return rows->Number("AMASS");
 }
 
 std::vector<std::string> JournalTitles() {

@@ -35,7 +35,8 @@ inline bool PhaseDefined(std::string_view code) {
     return PhaseValid(code);
 }
 /// Names of the phases offered in a context (all with no context), in table order, of those whose
-/// name begins with the prefix.
+/// name begins with the prefix. "GH" is the context of gas-hydrate sets; "Complex" adds its phases
+/// to those of "Pure".
 std::vector<std::string> PhaseList(std::string_view context, std::string_view prefix = {});
 /// True for constraint codes of critical curves; they are no crystals although some begin with "C".
 bool IsCriticalCurve(std::string_view code);

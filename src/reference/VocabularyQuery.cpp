@@ -24,7 +24,8 @@ std::vector<std::string> LocalTexts(std::string_view sql, const SqlValues& value
 
 std::string_view ContextColumn(std::string_view context) {
     if (context == "Pure" || context == "Complex") return "Pure";
-    if (context == "Bin" || context == "Tern" || context == "React") return context;
+    if (context == "Bin" || context == "Tern" || context == "React" || context == "GH")
+        return context;
     return {};
 }
 

@@ -47,7 +47,13 @@ void Form::Open(bool modal) {
         forms.Raise(*this);
     } else {
         open_ = true;
-        Load();
+        try {
+            Load();
+        } catch (...) { // half filled it is of no use; the next one starts afresh
+            open_ = shown_ = false;
+            forms.NoteClosed(*this);
+            throw;
+        }
         if (!open_) return;
         forms.NoteOpened(*this);
         if (active_ == nullptr) FocusTo(NextInTabOrder(false));

@@ -3,7 +3,10 @@
 #include "chem/clsProperty.h"
 #include "dialogs/DataDialogFixture.h"
 #include "dialogs/KeyTags.h"
+#include "dialogs/PhaseRules.h"
 #include "dialogs/frmKey.h"
+
+#include <map>
 
 namespace vexora::test {
 namespace {
@@ -36,6 +39,23 @@ protected:
                "|" + globals.ExpPurpose + "|" + globals.PropertyFlags + "|" +
                globals.CurrentMethod->Method + "|" + globals.CurrentMethod->sMethod + "|" +
                globals.KeyRest + "|" + head.ConversionCode + "|" + head.Name;
+    }
+    /// What the lists hold for the property that is chosen.
+    void ExpectOffer(const frmProperty& form) const {
+        const std::string& name = form.lstProp.Chosen();
+        const auto row = FindPropertyByName(name, globals.DataContext);
+        ASSERT_TRUE(row) << name;
+        EXPECT_GE(form.lstConv.Count(), row->Unit == "1" ? 2 : 3) << name;
+        EXPECT_EQ(form.lstConv.Item(0), row->Unit == "1" ? "Dimensionless" : row->Unit) << name;
+        EXPECT_EQ(form.lstConv.Item(form.lstConv.Count() - 1), allOtherUnits);
+        EXPECT_GE(form.lstMethod.Count(), 5) << name; // two of them are "not stated" and "other"
+        EXPECT_EQ(form.lstMethod.Item(form.lstMethod.Count() - 1), other);
+        EXPECT_GE(form.lstNote.Count(), 4) << name;
+        if (globals.DataContext != "Pure") return;
+        EXPECT_FALSE(OfferPhases(row->Code, 0, "").Phase1.empty()) << name;
+        EXPECT_TRUE(form.cmdSingle.Visible() || form.cmdFixed.Visible() || form.cmdOne.Visible() ||
+                    form.cmdTwo.Visible())
+            << name;
     }
     static constexpr const char* other = "Other experimental method (please, describe below)";
 };
@@ -71,27 +91,38 @@ TEST_F(frmPropertyTest, ChecksComeInOrderAndPutTheFocusOnTheField) {
     EXPECT_EQ(globals.OpenForms, std::vector<std::string>{"frmMain"});
 }
 
+/// Every property of the table is met on a walk through the groups of its contexts, with a unit
+/// list, methods and statements.
 TEST_F(frmPropertyTest, EveryGroupOffersUnitsAndMethodsOfItsProperties) {
-    auto& form = Open<frmProperty>("frmProperty");
-    int properties = 0;
-    EXPECT_EQ(form.lstPropGroup.Chosen(), "SELECT PROPERTY GROUP");
-    for (int group = 1; group < form.lstPropGroup.Count(); ++group) {
-        form.lstPropGroup.UserChoose(group);
-        EXPECT_EQ(form.lstProp.Chosen(), "SELECT THE PROPERTY");
-        for (int i = 1; i < form.lstProp.Count(); ++i, ++properties) {
-            form.lstProp.UserChoose(i);
-            const std::string& name = form.lstProp.Chosen();
-            EXPECT_GE(form.lstConv.Count(), 2) << name;
-            EXPECT_EQ(form.lstConv.Item(form.lstConv.Count() - 1), allOtherUnits);
-            EXPECT_GE(form.lstMethod.Count(), 3) << name;
-            EXPECT_EQ(form.lstMethod.Item(form.lstMethod.Count() - 1), other);
-            EXPECT_GE(form.lstNote.Count(), 4) << name;
-            const bool offered = form.cmdSingle.Visible() || form.cmdFixed.Visible() ||
-                                 form.cmdOne.Visible() || form.cmdTwo.Visible();
-            EXPECT_TRUE(offered) << name;
+    std::map<std::string, std::size_t> met; // names in each context
+    for (const char* context : {"Pure", "Complex", "Bin", "Tern", "React"}) {
+        globals.DataContext = context;
+        auto& form = Open<frmProperty>("frmProperty");
+        EXPECT_EQ(form.lstPropGroup.Chosen(), "SELECT PROPERTY GROUP");
+        for (int group = 1; group < form.lstPropGroup.Count(); ++group) {
+            form.lstPropGroup.UserChoose(group);
+            EXPECT_EQ(form.lstProp.Chosen(), "SELECT THE PROPERTY");
+            for (int i = 1; i < form.lstProp.Count(); ++i, ++met[context]) {
+                form.lstProp.UserChoose(i);
+                ExpectOffer(form);
+            }
         }
+        form.cmdFinish.UserClick();
     }
-    EXPECT_GT(properties, 50);
+    const auto rows = [this](const std::string& condition) {
+        return static_cast<std::size_t>(
+            globals.Databases.LocalDb
+                .Query("select count(*) as n from Properties where " + condition)
+                .Integer("n"));
+    };
+    const std::string pure = "(Fixed<>0 or Single<>0 or One<>0 or Two<>0)";
+    const std::map<std::string, std::size_t> expected = {
+        {"Pure", rows(pure)},
+        {"Complex", rows(pure)},
+        {"Bin", rows("(MixZ<>0 or MixV<>0) and Bin<>0")},
+        {"Tern", rows("(MixZ<>0 or MixV<>0) and Tern<>0")},
+        {"React", rows("REACT<>0")}};
+    EXPECT_EQ(met, expected);
 }
 
 TEST_F(frmPropertyTest, EntriesFollowThePropertyAndDeadOnesSayWhy) {

@@ -239,6 +239,67 @@ TEST_F(frmSingleTest, CommentWithEveryTagSurvivesThreeEdits) {
     EXPECT_EQ(globals.CurrentS->recZ.Count(), 1u);
 }
 
+TEST_F(frmSingleTest, AStateThatTheFormDoesNotAskForSurvivesAnEdit) {
+    auto record = std::make_shared<clsZ>();
+    record->Load("^z 1 VDN S 1 L & & 997 & & &");
+    record->Header.Load("^A & O B & & & & text ::Method:OTHER:sMethod:wire bridge:PB:");
+    record->AttachTo(*globals.CurrentS);
+    for (int round = 0; round < 2; ++round) {
+        auto& form = Edit(record);
+        EXPECT_FALSE(form.frmConstraint.IsShown());
+        EXPECT_EQ(globals.CurrentMethod->sMethod, "wire bridge");
+        form.cmdAccept.UserClick();
+        EndEdit();
+        EXPECT_EQ(record->Header.DATACOMMENT, "text ::Method:OTHER:PB:sMethod:wire bridge:");
+    }
+}
+
+TEST_F(frmSingleTest, AUnitThatIsANumberReadsAsAFactorAndSurvivesAReview) {
+    auto record = std::make_shared<clsZ>();
+    record->Load("^z 1 PC 1000 1 L G & 4.064 & & &");
+    record->Header.Load("^A & O B & & & & ::Method:VISOBS:");
+    record->AttachTo(*globals.CurrentS);
+    auto& form = Edit(record);
+    EXPECT_EQ(form.lblUnit.Caption(), "1000* kPa");
+    desktop.OnModal([](ui::Form& shown) {
+        auto& property = dynamic_cast<frmProperty&>(shown);
+        EXPECT_EQ(property.lstConv.Chosen(), "1000* kPa");
+        property.cmdOK.UserClick();
+    });
+    form.cmdMethod.UserClick();
+    forms.DropClosed();
+    EXPECT_EQ(form.lblUnit.Caption(), "1000* kPa");
+    form.cmdAccept.UserClick();
+    EndEdit();
+    EXPECT_EQ(ValueLines(), "^M 1000\n^z 1 PC S 1 L G & 4.064 & & &\n^M 0\n");
+}
+
+TEST_F(frmSingleTest, NumbersStandAsTypedOnceTheyCanBeRead) {
+    auto& form = Choose({"Density", "kg/m3", 1});
+    Pick(form.lstPhase1, "Liquid");
+    Pick(form.lstVariable_Unit, "K");
+    const std::string typed[][2] = {{"1e-3", "1e-3"},     {",5", "0.5"}, {"1 234,5", "1234.5"},
+                                    {" 997.0 ", "997.0"}, {"+5", "+5"},  {"0012.50", "0012.50"}};
+    std::size_t position = 0;
+    for (const auto& [text, stored] : typed) {
+        form.txtIndVariable.UserReplaceAll("300");
+        form.txtValue.UserReplaceAll(text);
+        form.cmdAccept.UserClick();
+        ASSERT_EQ(globals.CurrentS->recZ.Count(), ++position) << text;
+        EXPECT_EQ(Stored(position)->PRPVALUE, stored);
+    }
+    for (const char* text : {"1,234.5", "5 %", "0x10", "1d3", "inf", "1e999", "-"}) {
+        form.txtValue.UserReplaceAll(text);
+        desktop.Expect("Enter the property value | Illegal property value");
+        form.cmdAccept.UserClick();
+    }
+    form.txtValue.UserReplaceAll("-0.00");
+    desktop.Expect("Value 0 Density, kg/m3 is not valid");
+    desktop.Expect("Invalid property value");
+    form.cmdAccept.UserClick();
+    EXPECT_EQ(globals.CurrentS->recZ.Count(), position);
+}
+
 TEST_F(frmSingleTest, EditKeepsTheUncertaintiesAndTheUnitsOfAFile) {
     auto record = std::make_shared<clsZ>();
     record->Load("^F 1 VDN v 1 L 300.0 C 996.55 0.1 0.05 4");

@@ -131,9 +131,9 @@ TEST_F(SetExport, WhatCannotLeaveIsToldOnce) {
     const std::string xml =
         Exported(kDensity, rep + "^d 25 x 250 &\n^d & 1 250 &\n^d 25 1 250 &\n^d 26 1 250 &\n");
     EXPECT_EQ(At(xml, "//nPropValue"), "250 | 250");
-    desktop.Expect("Unknown unit ?" + place);
+    desktop.Expect("Invalid conversion factor" + place);
     EXPECT_EQ(At(Exported("^1 1 VDN ? DIR 1\tY L & FP S & & &", "^d 25 1 &\n"), ""), "");
-    desktop.Expect("Unknown unit psi2" + place);
+    desktop.Expect("Invalid conversion factor" + place);
     EXPECT_EQ(At(Exported("^1 1 VDN S DIR 1\tY L & FP psi2 & & &", "^d 25 1 &\n"), ""), "");
     // Without rows there is nothing to export.
     EXPECT_EQ(At(Exported(kDensity, ""), ""), "");

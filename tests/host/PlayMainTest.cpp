@@ -45,7 +45,7 @@ TEST_F(PlayMain, AFailureOfOneFileIsTheFailureOfAll) {
     const std::string bad = File("bad.vxs", "start\nexpect closed frmSmall\n");
     const std::string good = File("good.vxs", "start\n");
     EXPECT_EQ(Run({"--home", Home(), bad, good}), 1);
-    EXPECT_NE(err_.str().find("bad.vxs:2: expect closed frmSmall"), std::string::npos);
+    EXPECT_NE(err_.str().find("bad.vxs:2: error: expect closed frmSmall"), std::string::npos);
     EXPECT_EQ(Run({"--home", Home(), "--keep-going", good}), 0);
 }
 

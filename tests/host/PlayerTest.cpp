@@ -199,7 +199,7 @@ TEST(Player, FailureTellsPlaceWantedFoundAndOpenForms) {
     const SmallPlay play =
         PlaySmall("click frmSmall.cmdOpen\nexpect frmSmallModal.txtAnswer \"x\"\n"
                   "note \"not reached\"\n");
-    EXPECT_EQ(play.errors, "small.vxs:3: expect frmSmallModal.txtAnswer \"x\"\n"
+    EXPECT_EQ(play.errors, "small.vxs:3: error: expect frmSmallModal.txtAnswer \"x\"\n"
                            "  wanted: \"x\"\n"
                            "  found: \"\"\n"
                            "  open forms: frmSmall, frmSmallModal (modal)\n");
@@ -214,8 +214,8 @@ TEST(Player, GoesOnBehindAFailedExpectationWhenAsked) {
                   "click frmSmall.cmdNone\nnote \"not reached\"\n",
                   options);
     EXPECT_FALSE(play.held);
-    EXPECT_NE(play.errors.find("small.vxs:3: "), std::string::npos);
-    EXPECT_NE(play.errors.find("small.vxs:4: "), std::string::npos);
+    EXPECT_NE(play.errors.find("small.vxs:3: error: "), std::string::npos);
+    EXPECT_NE(play.errors.find("small.vxs:4: error: "), std::string::npos);
     EXPECT_EQ(play.transcript.find("not reached"), std::string::npos);
 }
 

@@ -61,16 +61,16 @@ TEST(ScriptParser, VariablesAreReplacedInWordsAndQuotes) {
 
 TEST(ScriptParser, MalformedLinesAreToldWithTheirPlace) {
     const std::pair<const char*, const char*> cases[] = {
-        {"fly f.cmd", "a.vxs:1: unknown command fly"},
-        {"\"click\" f.cmd", "a.vxs:1: unknown command click"},
-        {"\n\nnote \"open", "a.vxs:3: the quotes are not closed"},
-        {"note \"a\"b", "a.vxs:1: a blank is missing behind the quotes"},
-        {"note a\"b\"", "a.vxs:1: quotes in the middle of a word"},
-        {"note \"\\x\"", "a.vxs:1: \\ stands before \", \\, n or t only"},
-        {"note \"${X\"", "a.vxs:1: ${ is not closed"},
-        {"note \"${Y}\"", "a.vxs:1: unknown variable Y"},
-        {"clipboard <<", "a.vxs:1: << needs the word that ends the block"},
-        {"quit\nclipboard <<END\nEND ", "a.vxs:2: the block is not ended by END"},
+        {"fly f.cmd", "a.vxs:1: error: unknown command fly"},
+        {"\"click\" f.cmd", "a.vxs:1: error: unknown command click"},
+        {"\n\nnote \"open", "a.vxs:3: error: the quotes are not closed"},
+        {"note \"a\"b", "a.vxs:1: error: a blank is missing behind the quotes"},
+        {"note a\"b\"", "a.vxs:1: error: quotes in the middle of a word"},
+        {"note \"\\x\"", "a.vxs:1: error: \\ stands before \", \\, n or t only"},
+        {"note \"${X\"", "a.vxs:1: error: ${ is not closed"},
+        {"note \"${Y}\"", "a.vxs:1: error: unknown variable Y"},
+        {"clipboard <<", "a.vxs:1: error: << needs the word that ends the block"},
+        {"quit\nclipboard <<END\nEND ", "a.vxs:2: error: the block is not ended by END"},
     };
     for (const auto& [text, error] : cases)
         EXPECT_EQ(ErrorOf(text), error) << text;
@@ -123,7 +123,7 @@ TEST(ScriptParser, CommandsOfAnotherFormAreMalformed) {
         "include",
     };
     for (const std::string line : lines)
-        EXPECT_NE(ErrorOf(line).find("a.vxs:1: the command is written\n"), std::string::npos)
+        EXPECT_NE(ErrorOf(line).find("a.vxs:1: error: the command is written\n"), std::string::npos)
             << line << '\n'
             << ErrorOf(line);
 }

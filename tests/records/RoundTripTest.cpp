@@ -142,6 +142,38 @@ TEST_F(RoundTrip, StatementsKeepTheirPlaceAndTheirText) {
     EXPECT_EQ(Value().UX[0].RType, -1);
 }
 
+TEST_F(RoundTrip, ValuesOfEveryUnitAndTagComeBackUnchanged) {
+    const std::string head = "^A & O & & & & & &\n";
+    const std::string settled[] = {
+        head + "^z 1 ZC D 1 L G & 0.2290 & & &\n",
+        head + "^Z 1 TB C 1 L G & 373.10 & & &\n",
+        head + "^F 1 HVP Z 1 L 298.15 C 44.0 & & &\n",
+        head + "^z 1 PV S 1 L G & 3.1700 & & &\n",
+        head + "^z 1 HVP J 1 L G & 9.72 & & &\n",
+        head + "^f 1 CP R 1 L 25 C +75.30 1% 0.1 2\n",
+        "^A a_b_c O B 32763 ABC XXX 1/2/2026 text  with :colons: ::Method::m:PB:odd_tag:dVDN:0.1:\n"
+        "^z 1 VDN S 1 L & & 1e3 & & &\n",
+    };
+    for (const std::string& lines : settled)
+        EXPECT_EQ(Settled(lines), lines);
+    EXPECT_EQ(Settled(head + "^f 1 VDN g/cm3 1 L 77.0 F 0.9970 & & &\n"),
+              head + "^M 1000\n^f 1 VDN S 1 L 77.0 F 0.9970 & & &\n^M 0\n");
+}
+
+TEST_F(RoundTrip, APrecisionInPerCentBecomesAFigureOnce) {
+    const std::string head = "^A & O & & & & & &\n";
+    const std::string item = "^X 0 TC L - & & & + 0 1% 4 - & & - & & - & & &\n";
+    EXPECT_EQ(Settled(head + "^z 1 TC S 1 L G & 200.0 & 1% 4\n" + item),
+              head + "^z 1 TC S 1 L G & 200.0 & 2 4\n" + item);
+    EXPECT_EQ(Settled(head + "^z 1 TC S 1 L G & -200.0 & 1% 4\n"),
+              head + "^z 1 TC S 1 L G & -200.0 & 2 4\n");
+    // A kind and a number of repetitions that mean nothing are not kept.
+    EXPECT_EQ(Settled(head + "^z 1 TC S 1 L G & 200.0 & & &\n"
+                             "^X 0 TC L - & & & + 2 0.5 few - & & - & & - & & &\n"),
+              head + "^z 1 TC S 1 L G & 200.0 & 0.5 &\n"
+                     "^X 0 TC L - & & & + & 0.5 & - & & - & & - & & &\n");
+}
+
 TEST_F(RoundTrip, SeparatorsAndLineBreaksInTextsDoNotShiftFields) {
     Read(kHead);
     clsR& source = *globals.recR.Item(std::size_t{1});

@@ -79,6 +79,24 @@ TEST_F(Refdb, ImportAddsNewNamesKeepsOldRowsAndTellsBadOnes) {
     EXPECT_EQ(Names(64175), "ethanol, absolute=C2H6O;");
 }
 
+TEST_F(Refdb, ImportStoresTheCanonicalFormulaAndSkipsARowWithoutOne) {
+    Build();
+    folder.Write("new.tsv", "64175\tethanol\tCH3CH2OH\n67561\tmethanol\tmeoh\n"
+                            "7732185\twater\tH2O\n");
+    std::size_t heard = 0;
+    const auto canonical = [](std::string_view typed) {
+        return std::string(typed == "CH3CH2OH" ? "C2H6O" : typed == "H2O" ? "H2O" : "");
+    };
+    const ImportResult result =
+        ImportCompounds(folder.File("new.tsv"), folder.File("VXR.mdb"),
+                        {canonical, [&](std::size_t lines) { heard = lines; }});
+    EXPECT_EQ(Lines(result.skipped), "new.tsv:2: error: \"meoh\" is no formula\n");
+    EXPECT_EQ(Names(64175), "ethanol=C2H6O;");
+    EXPECT_EQ(Names(67561), "");
+    EXPECT_EQ(Names(7732185), "water=H2O;");
+    EXPECT_EQ(heard, 0U); // only long files have something to tell on the way
+}
+
 TEST_F(Refdb, ImportIntoAForeignFileIsAMessage) {
     folder.Write("new.tsv", "64175\tethanol\tC2H6O\n");
     folder.Write("foreign.mdb", std::string(4096, 'x'));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <stdexcept>
 
 #include "support/SmallProgram.h"
 #include "support/StrictDesktop.h"
@@ -101,6 +102,30 @@ TEST_F(FormTest, AFormOpenedAgainIsAFreshOne) {
     Small().Show();
     EXPECT_EQ(Small().txtName.Text(), "");
     EXPECT_THROW(forms_.Get("frmNone"), std::logic_error);
+}
+
+int loadsOfUnsound = 0;
+
+class frmUnsound : public ui::Form {
+public:
+    frmUnsound() : Form("frmUnsound", "Unsound") {}
+    void Load() override {
+        if (++loadsOfUnsound == 1) throw std::runtime_error("damaged");
+    }
+};
+
+TEST_F(FormTest, AFormThatCouldNotBeFilledIsNotOpenAndStartsAfresh) {
+    loadsOfUnsound = 0;
+    forms_.Register<frmUnsound>("frmUnsound");
+    ui::Form& first = forms_.Get("frmUnsound");
+    EXPECT_THROW(first.ShowModal(), std::runtime_error);
+    EXPECT_FALSE(first.IsOpen());
+    EXPECT_EQ(forms_.TopModal(), nullptr);
+    ui::Form& second = forms_.Get("frmUnsound");
+    EXPECT_NE(&second, &first);
+    second.Show();
+    EXPECT_EQ(loadsOfUnsound, 2);
+    EXPECT_EQ(forms_.Find("frmUnsound"), &second);
 }
 
 TEST_F(FormTest, AModalFormStandsInFrontUntilItCloses) {

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "chem/TableRows.h"
+#include "reference/ReferenceDatabases.h"
+
+namespace vexora {
+
+// What must hold in the reference tables so that every code can be looked up both ways, every
+// property can be entered, and every record can be exported. Each function looks at some tables
+// and appends what it finds. The databases must be the installed ones: formulas are read with them.
+
+/// All rules over both databases. Throws DatabaseError when a table cannot be read.
+RowFindings CheckTables(const ReferenceDatabases& databases);
+
+void CheckProperties(const Database& vocabulary, RowFindings& findings);
+void CheckVariables(const Database& vocabulary, RowFindings& findings);
+void CheckConversions(const Database& vocabulary, RowFindings& findings);
+void CheckPhases(const Database& vocabulary, RowFindings& findings);
+void CheckMethods(const Database& vocabulary, RowFindings& findings);
+/// Journals, publishers, reactions, purification, purity determination.
+void CheckLists(const Database& vocabulary, RowFindings& findings);
+void CheckAtomicMasses(const Database& vocabulary, RowFindings& findings);
+void CheckCompounds(const Database& compounds, RowFindings& findings);
+/// Sources and authors; both tables may be empty.
+void CheckSources(const Database& compounds, RowFindings& findings);
+
+/// True for the system units that properties and variables of the tables are kept in.
+bool IsUnitOfTables(std::string_view unit);
+/// Where the row names no such unit, or its export name does not end with it, that is told.
+void CheckUnitAndExportName(TableRows& row);
+/// A code goes into record lines and tags: no blank, none of the marks of a line.
+void CheckCode(TableRows& row, const std::string& code);
+/// Codes and texts that a list offers: filled, each once whatever the case.
+void CheckListRow(TableRows& row, std::string_view codeField, std::string_view textField);
+
+/// How much the tables hold: what is counted, and how many, in the order to print.
+std::vector<std::pair<std::string, int>> CountTables(const ReferenceDatabases& databases);
+
+} // namespace vexora

@@ -1,0 +1,126 @@
+#include <algorithm>
+#include <array>
+
+#include "chem/TableChecks.h"
+#include "chem/clsAtom.h"
+#include "reference/Numbers.h"
+#include "reference/RefdbBuild.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr std::int64_t kEmptySlot = 999999994; // the registry number of no compound
+constexpr int kHighestRating = 251;            // above it come the marks for "no row" and "none"
+
+// Flags of a sample are read off its description by these two letters, wherever they stand.
+constexpr std::array<std::string_view, 4> kSampleMarks{{"fd", "db", "cm", "av"}};
+
+/// Codes are joined in the description of a sample.
+void CheckSampleCode(TableRows& row) {
+    const std::string code = row.Text("Code");
+    row.Expect(code.find_first_of("%,;()") == code.npos,
+               "the code " + Quoted(code) + " holds one of % , ; ( )");
+    row.Expect(!row.Text("Method").starts_with('('), "a text in brackets is taken for a remark");
+}
+
+void CheckTitles(const Database& vocabulary, const char* table, const char* column,
+                 RowFindings& findings) {
+    for (TableRows row(vocabulary, table, findings); !row.IsEnd(); row.MoveNext()) {
+        const std::string title = row.Required(column);
+        row.Expect(title.find_first_of("@$") == title.npos,
+                   Quoted(title) + " holds a mark of the source line, @ or $");
+        row.ExpectOnce("the title", LowerAscii(title));
+    }
+}
+
+bool IsElementSymbol(std::string_view text) {
+    const auto isLower = [](char c) { return c >= 'a' && c <= 'z'; };
+    return !text.empty() && text.size() <= 2 && text[0] >= 'A' && text[0] <= 'Z' &&
+           (text.size() == 1 || isLower(text[1]));
+}
+
+void CheckFormula(TableRows& row) {
+    const std::string formula = row.Required("FORMULA");
+    if (formula.empty()) return;
+    const std::string canonical = CanonicalFormula(formula);
+    if (canonical.empty())
+        row.Tell(Quoted(formula) + " is no formula");
+    else
+        row.Expect(formula == canonical, "the formula " + Quoted(formula) +
+                                             " is not canonical, that is " + Quoted(canonical));
+}
+
+void ExpectWidth(TableRows& row, const char* field, std::size_t width) {
+    row.Expect(CodePointCount(row.Text(field)) == width,
+               std::string(field) + " is not " + std::to_string(width) + " characters wide");
+}
+
+} // namespace
+
+void CheckLists(const Database& vocabulary, RowFindings& findings) {
+    CheckTitles(vocabulary, "Journals", "ShortTitle", findings);
+    CheckTitles(vocabulary, "Publishers", "Publisher", findings);
+    for (TableRows row(vocabulary, "Reactions", findings); !row.IsEnd(); row.MoveNext())
+        CheckListRow(row, "RCode", "RType");
+    for (TableRows row(vocabulary, "Purification", findings); !row.IsEnd(); row.MoveNext()) {
+        CheckListRow(row, "Code", "Method");
+        CheckSampleCode(row);
+        const std::string code = row.Text("Code");
+        for (const std::string_view mark : kSampleMarks)
+            row.Expect(code == mark || code.find(mark) == code.npos,
+                       Quoted(code) + " holds " + Quoted(mark) + ", which marks a sample");
+    }
+    for (TableRows row(vocabulary, "PurityDetermination", findings); !row.IsEnd(); row.MoveNext()) {
+        CheckListRow(row, "Code", "Method");
+        CheckSampleCode(row);
+        const std::int64_t rating = row.Integer("Rating");
+        row.Expect(rating >= 1 && rating <= kHighestRating, "the rating is not from 1 to 251");
+    }
+}
+
+void CheckAtomicMasses(const Database& vocabulary, RowFindings& findings) {
+    for (TableRows row(vocabulary, "AMASS", findings); !row.IsEnd(); row.MoveNext()) {
+        const std::string symbol = row.Required("SYMBOL");
+        row.Expect(IsElementSymbol(symbol) && symbol != "Xx" && symbol != "R",
+                   Quoted(symbol) + " is no symbol of an element");
+        row.ExpectOnce("the symbol", symbol);
+        row.Expect(row.Number("AMASS") > 1, "the mass of " + Quoted(symbol) + " is not above 1");
+    }
+}
+
+void CheckCompounds(const Database& compounds, RowFindings& findings) {
+    std::map<std::int64_t, std::string> formulas;
+    for (TableRows row(compounds, "ALLNAME", findings); !row.IsEnd(); row.MoveNext()) {
+        const std::int64_t rn = row.Integer("RN");
+        row.Expect(IsRegistryNumber(rn) && rn != kEmptySlot,
+                   std::to_string(rn) + " is no registry number, or its check digit is wrong");
+        const std::string name = row.Required("NAME");
+        row.ExpectOnce("for " + std::to_string(rn) + " the name", LowerAscii(name));
+        CheckFormula(row);
+        const std::string& first = formulas.emplace(rn, row.Text("FORMULA")).first->second;
+        row.Expect(first == row.Text("FORMULA"),
+                   std::to_string(rn) + " has the formula " + Quoted(first) + " in an earlier row");
+    }
+}
+
+void CheckSources(const Database& compounds, RowFindings& findings) {
+    RowFindings found;
+    for (TableRows row(compounds, "SOURCE_REFINFO", found); !row.IsEnd(); row.MoveNext()) {
+        const std::int64_t year = row.Integer("YEARPUB");
+        row.Expect(year >= 1000 && year <= 9999, "the year has not four digits");
+        row.Required("AUTHOR1");
+        row.Required("SOURCE");
+    }
+    for (TableRows row(compounds, "SOURCE_AUTHOR", found); !row.IsEnd(); row.MoveNext()) {
+        row.Required("FULLNM");
+        ExpectWidth(row, "LASTNM", 6);
+        ExpectWidth(row, "INITNM", 3);
+    }
+    std::erase_if(found, [](const RowFinding& finding) { return finding.row == 0; });
+    findings.insert(findings.end(), found.begin(), found.end());
+}
+
+} // namespace vexora

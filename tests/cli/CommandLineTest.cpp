@@ -1,0 +1,247 @@
+// The command line tool as a user calls it: the program itself, in a folder of its own.
+#include "reference/ReferenceFixture.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <tuple>
+
+namespace vexora {
+namespace {
+
+struct Outcome {
+    int code = -1;
+    std::string out, err;
+};
+
+class CommandLine : public testing::Test {
+protected:
+    CommandLine() {
+        const std::filesystem::path shared = VEXORA_SHARE_DIR;
+        for (const char* name : {"VXRLocal.mdb", "VXR.mdb"})
+            std::filesystem::copy_file(shared / name, folder.File(name));
+        folder.Write("water.txt", kDocument);
+    }
+    /// Runs vexora-cli in the folder, which is the application folder as well.
+    Outcome Run(const std::string& arguments) const {
+        const std::string command = "cd '" + folder.Path() + "' && VEXORA_HOME='" + folder.Path() +
+                                    "' '" VEXORA_BINARY_DIR "/bin/vexora-cli' " + arguments +
+                                    " 2>'" + folder.File("stderr") + "'";
+        Outcome outcome;
+        FILE* pipe = popen(command.c_str(), "r");
+        if (!pipe) return outcome;
+        std::array<char, 4096> block{};
+        for (std::size_t n = 0; (n = fread(block.data(), 1, block.size(), pipe)) > 0;)
+            outcome.out.append(block.data(), n);
+        const int status = pclose(pipe);
+        outcome.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        outcome.err = Read("stderr");
+        return outcome;
+    }
+    std::string Read(const std::string& name) const {
+        std::ifstream file(folder.File(name), std::ios::binary);
+        std::ostringstream text;
+        text << file.rdbuf();
+        return text.str();
+    }
+
+    static inline const std::string kHead = "^R 2031 wag pru 1\n"
+                                            "^J#J#O#@J. Nowhere@, 2031, $1$, 2-3#T##A##P#1####\n"
+                                            "^I#1#wagner#w  #Wagner,W.\n"
+                                            "^L 7732185 DNNNN P\n"
+                                            "^S 1 cm;;99.9m%,gc\n";
+    static inline const std::string kDocument =
+        kHead + "^A & O & & AB CD & &\n^z 1 TC S 1 L G & 647.096 & & &\n";
+    test::TemporaryFolder folder;
+};
+
+TEST_F(CommandLine, HelpAndVersionAreCleanAndWrongUseIsTwo) {
+    for (const char* command : {"", "export", "check", "tree", "play", "refdb", "refdb build",
+                                "refdb import", "refdb check"}) {
+        const Outcome help = Run(std::string(command) + " --help");
+        EXPECT_EQ(help.code, 0) << command;
+        EXPECT_NE(help.out.find("Usage: vexora-cli " + std::string(command)), std::string::npos)
+            << help.out;
+        EXPECT_EQ(help.err, "") << command;
+    }
+    EXPECT_EQ(Run("--version").out, "vexora-cli " VEXORA_VERSION "\n");
+    for (const char* wrong : {"", "paint", "export", "check", "tree --nix water.txt", "refdb",
+                              "refdb build", "refdb import VXR.mdb", "play"}) {
+        const Outcome outcome = Run(wrong);
+        EXPECT_EQ(outcome.code, 2) << wrong;
+        EXPECT_NE(outcome.err, "") << wrong;
+        EXPECT_EQ(outcome.out, "") << wrong;
+    }
+}
+
+TEST_F(CommandLine, TheTreeIsPrintedAsItStandsInTheWorkbench) {
+    const Outcome tree = Run("tree water.txt");
+    EXPECT_EQ(tree.out, "2031 wag pru 1\n"
+                        "  water\n"
+                        "    Sample 1 (cm;;99.9m%,gc)\n"
+                        "      ^0: Critical temperature (L+G,K), Set 1\n");
+    EXPECT_EQ(std::tie(tree.code, tree.err), std::make_tuple(0, std::string()));
+}
+
+TEST_F(CommandLine, TheExportGoesToStandardOutputOrIntoAFile) {
+    folder.Write("VXR.ini", "XMLCOMPILER A. User\nORGANIZATION House & Co\n");
+    const Outcome shown = Run("export water.txt");
+    EXPECT_EQ(std::tie(shown.code, shown.err), std::make_tuple(0, std::string()));
+    EXPECT_TRUE(shown.out.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n")) << shown.out;
+    EXPECT_TRUE(shown.out.ends_with("</DataReport>\n")) << shown.out;
+    EXPECT_NE(shown.out.find("<sCompiler>A. User</sCompiler>\n"
+                             "\t\t<sContributor>House &amp; Co</sContributor>"),
+              std::string::npos);
+    const Outcome written = Run("export water.txt water.xml");
+    EXPECT_EQ(std::make_tuple(written.code, written.out, written.err),
+              std::make_tuple(0, std::string(), std::string()));
+    EXPECT_EQ(Read("water.xml"), shown.out);
+    EXPECT_EQ(Read("water.txt"), kDocument);
+}
+
+TEST_F(CommandLine, AnExportThatCannotBeWrittenLeavesWhatIsThere) {
+    const Outcome nowhere = Run("export water.txt no/such/folder.xml");
+    EXPECT_EQ(nowhere.code, 4);
+    EXPECT_TRUE(nowhere.err.starts_with("no/such/folder.xml: error: ")) << nowhere.err;
+    const Outcome itself = Run("export water.txt ./water.txt");
+    EXPECT_EQ(itself.code, 4);
+    EXPECT_EQ(itself.err, "./water.txt: error: this is the record file itself\n");
+    EXPECT_EQ(Read("water.txt"), kDocument);
+}
+
+TEST_F(CommandLine, WhatTheExportLeavesOutIsToldWithItsLine) {
+    folder.Write("doc.txt", kDocument + "^A & O & & AB CD & &\n^z 1 PC nounit 1 L G & 22 & & &\n");
+    const Outcome outcome = Run("export doc.txt doc.xml");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err, "doc.txt:9: warning: Invalid conversion factor System: water "
+                           "Property: Critical pressure\n");
+    EXPECT_EQ(Read("doc.xml").find("Critical pressure"), std::string::npos);
+}
+
+TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
+    EXPECT_EQ(Run("check water.txt").err, "");
+    EXPECT_EQ(Run("check water.txt").code, 0);
+    const auto value = [](const std::string& fields) {
+        return "^A & O & & AB CD & &\n" + fields + " & & &\n";
+    };
+    folder.Write("doc.txt", kHead + value("^z 1 TC S 1 L G & 2000") +
+                                value("^z 1 TC S 2 L G & -1") + value("^z 1 PC nounit 1 L G & 22") +
+                                value("^z 1 PC * 2 L G & 22") + value("^z 1 VDC S 1 Q9 G & 322") +
+                                value("^z 1 VC S 1 L G & a") + value("^f 1 VDN S 1 L -300 C 997") +
+                                value("^f 1 VDN S 2 L 20 nounit 997") +
+                                value("^z 1 QQQ S 1 L G & 1"));
+    const Outcome outcome = Run("check doc.txt");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "doc.txt:7: warning: Critical temperature: value 2000 is suspicious\n"
+                           "doc.txt:9: error: Critical temperature: value -1 is not valid\n"
+                           "doc.txt:11: error: Critical pressure: unknown unit nounit\n"
+                           "doc.txt:13: error: Critical pressure: unknown unit *\n"
+                           "doc.txt:15: error: Unknown phase Q9\n"
+                           "doc.txt:17: error: Critical molar volume: the value is no number: a\n"
+                           "doc.txt:19: error: Density: Temperature: value -26.85 is not valid\n"
+                           "doc.txt:21: error: Density: Temperature: unknown unit nounit\n"
+                           "doc.txt:23: error: Unknown property QQQ\n");
+}
+
+TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {
+    const std::string local = Read("VXRLocal.mdb");
+    const std::string compounds = Read("VXR.mdb");
+    for (const char* command : {"check", "tree", "export"}) {
+        EXPECT_EQ(Run(std::string(command) + " water.txt").code, 0) << command;
+        EXPECT_EQ(Read("VXRLocal.mdb"), local) << command;
+        EXPECT_EQ(Read("VXR.mdb"), compounds) << command;
+    }
+}
+
+TEST_F(CommandLine, WhatCannotBeReadIsThree) {
+    folder.Write("empty.txt", "");
+    folder.Write("prose.txt", "Dear reader,\nthis is no record file.\n");
+    folder.Write("short.txt", kHead + "^A & & & & & & & &\n^z 1 TC S 1 L G &\n");
+    const std::string diagnostics[][2] = {
+        {"missing.txt", "missing.txt: error: "},
+        {".", ".: error: "},
+        {"empty.txt", "empty.txt: error: this is no record file: it holds no source\n"},
+        {"prose.txt", "prose.txt: error: this is no record file: it holds no source\n"},
+        {"short.txt", "short.txt:7: warning: Incomplete record: ^z 1 TC S 1 L G &\n"
+                      "short.txt:7: error: the document was not read: "}};
+    for (const auto& [file, text] : diagnostics) {
+        for (const char* command : {"check ", "tree ", "export "}) {
+            const Outcome outcome = Run(command + file);
+            EXPECT_EQ(outcome.code, 3) << command << file;
+            EXPECT_TRUE(outcome.err.starts_with(text)) << outcome.err;
+            EXPECT_EQ(outcome.out, "");
+        }
+    }
+    folder.Write("VXR.mdb", "no database");
+    const Outcome outcome = Run("tree water.txt");
+    EXPECT_EQ(outcome.code, 3);
+    EXPECT_TRUE(outcome.err.starts_with("error: ")) << outcome.err;
+}
+
+TEST_F(CommandLine, TheDatabasesOfTheConfigurationAndOfTheHomeAreFound) {
+    std::filesystem::create_directory(folder.File("elsewhere"));
+    for (const char* name : {"VXRLocal.mdb", "VXR.mdb"})
+        std::filesystem::rename(folder.File(name), folder.File("elsewhere/" + std::string(name)));
+    folder.Write("VXR.ini", "VXRLocalDB " + folder.File("elsewhere/VXRLocal.mdb") +
+                                "\nVXRCompoundDB " + folder.File("elsewhere/VXR.mdb") + "\n");
+    EXPECT_EQ(Run("check water.txt").code, 0);
+    EXPECT_EQ(Run("check --home elsewhere water.txt").code, 0);
+    folder.Write("elsewhere/VXR.mdb", "no database");
+    EXPECT_EQ(Run("check water.txt").code, 3);
+}
+
+TEST_F(CommandLine, PlayEndsWithTheResultOfTheScript) {
+    folder.Write("good.vxs", "note \"a b\"\n");
+    folder.Write("bad.vxs", "expect open frmNowhere\n");
+    folder.Write("malformed.vxs", "jump frmMain\n");
+    EXPECT_EQ(Run("play --home home good.vxs").code, 0);
+    const Outcome bad = Run("play --home home bad.vxs");
+    EXPECT_EQ(bad.code, 1);
+    EXPECT_NE(bad.err.find("bad.vxs:1: error: "), std::string::npos) << bad.err;
+    const Outcome malformed = Run("play --home home malformed.vxs");
+    EXPECT_EQ(malformed.code, 2);
+    EXPECT_NE(malformed.err.find("malformed.vxs:1: error: "), std::string::npos) << malformed.err;
+}
+
+TEST_F(CommandLine, CompoundsAreImportedAndBadRowsToldWithTheirLines) {
+    folder.Write("new.tsv",
+                 "RN\tNAME\tFORMULA\n99999005\ttest compound\tC8H10\n99999006\twrong\tC8H10\n"
+                 "7732185\twater\tH2O\n");
+    const Outcome outcome = Run("refdb import --compounds new.tsv VXR.mdb");
+    EXPECT_EQ(outcome.code, 1) << outcome.err;
+    EXPECT_EQ(outcome.out, "1 added, 1 already there, 1 skipped\n");
+    EXPECT_TRUE(outcome.err.starts_with("new.tsv:3: error: ")) << outcome.err;
+    folder.Write("doc.txt", "^R 2031 wag pru 1\n^J#J#O#S#T##A##P#1####\n^I#1#wagner#w  #Wagner,W.\n"
+                            "^L 99999005 NNNNN &\n");
+    EXPECT_EQ(Run("tree doc.txt").out, "2031 wag pru 1\n  test compound\n");
+    EXPECT_EQ(Run("refdb build --data nowhere --out .").code, 3);
+    EXPECT_EQ(Run("refdb import --compounds new.tsv nowhere.mdb").code, 3);
+}
+
+TEST_F(CommandLine, TablesAreCheckedAndCounted) {
+    EXPECT_EQ(Run("refdb check .").code, 0);
+    const Outcome summary = Run("refdb check --summary .");
+    EXPECT_EQ(summary.err, "");
+    EXPECT_TRUE(summary.out.starts_with("properties ")) << summary.out;
+    EXPECT_NE(summary.out.find("\ncompounds "), std::string::npos) << summary.out;
+    {
+        Database database;
+        database.Open(folder.File("VXR.mdb"), false);
+        database.Execute("update ALLNAME set FORMULA='HOH' where rowid=1");
+    }
+    const Outcome found = Run("refdb check .");
+    EXPECT_EQ(found.code, 1);
+    EXPECT_EQ(found.err,
+              "ALLNAME:1: error: the formula \"HOH\" is not canonical, that is \"H2O\"\n");
+    EXPECT_EQ(Run("refdb check nowhere").code, 3);
+}
+
+} // namespace
+} // namespace vexora
