@@ -37,7 +37,7 @@ void ClickBySpace(ui::TextBox& field) {
 frmDocument::frmDocument() : Form("frmDocument", "Literature source description") {
     Arrangement =
         ui::Column({ui::Field("Type of document:", cboTypeDoc), ui::Field("Title:", txtTitle),
-                    ui::Field("Source:", txtSource), ui::Field("Year:", txtYear),
+                    ui::Field("Source:", txtSource), ui::Field("Year:", ui::Narrow(txtYear, 6)),
                     ui::Field("Authors:", txtAuthors), ui::Field("Source of data:", lstSourceDoc),
                     ui::Field("Key words:", txtKeyWords),
                     ui::Field("    Abstract     (if available):", txtAbstract),
@@ -45,7 +45,7 @@ frmDocument::frmDocument() : Form("frmDocument", "Literature source description"
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCalcel;
     HelpContext = 225;
-    PreferredColumns = 90;
+    PreferredColumns = 110;
     mnuHowTo.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
     cboTypeDoc.OnClick = [this] { cboTypeDoc_Click(); };
     txtSource.OnClick = [this] { txtSource_Click(); };

@@ -30,7 +30,7 @@ void frmProperty::ArrangeControls() {
          Field("Original units:", lstConv), Group(fraData, {Row({optOriginal, optSystem})}),
          Field("Method of measurement:", Row({lstMethod, cmdDetails})),
          Field("Method description:", txtMethod), Field("Experimental purpose:", lstExpPurpose),
-         Field("Uncertainty factor:", txtFactor),
+         Field("Uncertainty factor:", Narrow(txtFactor, 8)),
          Group("Select any applicable statements", {lstNote}),
          Field("Comment (optional)", txtComment),
          Row({Group(fraInvariant, {Row({cmdSingle, cmdFixed})}),

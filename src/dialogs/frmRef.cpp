@@ -43,9 +43,10 @@ frmRef::frmRef() : Form("frmRef", "Add reference") {
          ui::Note("(2) If the desired reference appears in \"Search Results\", select it and\n"
                   "    CLICK \"Accept\""),
          ui::Note("(3) If not found, CLICK \"Create new document description\""),
-         ui::Field("Year of publication:", txtYear), ui::Field("Author 1:", txtAut1),
-         ui::Field("Author 2:", txtAut2), ui::Row({cmdVerify, ui::Stretch()}),
-         ui::Field("Search results:", lstSourceDoc), ui::Field("SeqNo:", txtSeqNo),
+         ui::Field("Year of publication:", ui::Narrow(txtYear, 6)),
+         ui::Field("Author 1:", ui::Narrow(txtAut1, 6)),
+         ui::Field("Author 2:", ui::Narrow(txtAut2, 6)), ui::Row({cmdVerify, ui::Stretch()}),
+         ui::Field("Search results:", lstSourceDoc), ui::Field("SeqNo:", ui::Narrow(txtSeqNo, 6)),
          ui::Field("Reference Source", cboSource),
          ui::ButtonRow({cmdAccept, cmdCreate, cmdCancel})});
     DefaultButton = &cmdAccept;

@@ -41,19 +41,20 @@ void frmSample::ArrangeControls() {
     std::vector<Layout> after = {
         Field("Purified by: (Select all applicable statements)", lstPurify)};
     for (int i = 0; i < finalRows; ++i) {
-        after.push_back(Field(i == 0 ? "Final purity:" : "Another detn.",
-                              Row({txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)})));
+        after.push_back(
+            Field(i == 0 ? "Final purity:" : "Another detn.",
+                  Row({Narrow(txtFinalPurity(i), 8), lstFinalPurity(i), lstFinalDetBy(i)})));
     }
-    Arrangement =
-        Column({Row({Field("Compound:", cboSubst), Field("Sample #", txtSampleNo)}),
-                Field("Description availability:", lstDescAvail),
-                Field("Sample description:", txtSmplDescription),
-                Group(fraInitial,
-                      {Field("Source of sample:", lstSmpSrc),
-                       Field("Initial purity (if reported)", Row({txtSrcPurity, lstSrcPurity})),
-                       Field("Determined by", lstSrsDetBy)}),
-                Group(fraFinal, after), ButtonRow({cmdNext, cmdAccept, cmdCancel})});
-    PreferredColumns = 116;
+    Arrangement = Column(
+        {Row({Field("Compound:", cboSubst), Field("Sample #", Narrow(txtSampleNo, 4))}),
+         Field("Description availability:", lstDescAvail),
+         Field("Sample description:", txtSmplDescription),
+         Group(fraInitial,
+               {Field("Source of sample:", lstSmpSrc),
+                Field("Initial purity (if reported)", Row({Narrow(txtSrcPurity, 8), lstSrcPurity})),
+                Field("Determined by", lstSrsDetBy)}),
+         Group(fraFinal, after), ButtonRow({cmdNext, cmdAccept, cmdCancel})});
+    PreferredColumns = 124;
 }
 
 void frmSample::WireEvents() {

@@ -36,16 +36,16 @@ frmSingle::frmSingle() : Form("frmSingle", "Single value") {
 
 void frmSingle::ArrangeControls() {
     using namespace ui;
-    Arrangement = Column(
-        {Row({Field("Compound:", cboSubst), Field("Sample #", cboSample),
-              Field("Property set #", txtPrpSetNo)}),
-         Row({Field("Phase 1:", lstPhase1), Field("Phase 2:", lstPhase2),
-              Field("Phase 3:", lstPhase3)}),
-         Group(frmIndVar,
-               {Row({Field("Value:", txtIndVariable), Field("Units:", lstVariable_Unit)})}),
-         Field("Property value:", Row({txtValue, lblUnit})),
-         Group(frmConstraint, {Row({optPB, optFP})}), Field("Comment to this record:", txtComment),
-         ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
+    Arrangement = Column({Row({Field("Compound:", cboSubst), Field("Sample #", cboSample),
+                               Field("Property set #", Narrow(txtPrpSetNo, 4))}),
+                          Row({Field("Phase 1:", lstPhase1), Field("Phase 2:", lstPhase2),
+                               Field("Phase 3:", lstPhase3)}),
+                          Group(frmIndVar, {Row({Field("Value:", Narrow(txtIndVariable, 24)),
+                                                 Field("Units:", lstVariable_Unit)})}),
+                          Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
+                          Group(frmConstraint, {Row({optPB, optFP})}),
+                          Field("Comment to this record:", txtComment),
+                          ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
     PreferredColumns = 90;
 }
 

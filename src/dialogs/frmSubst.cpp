@@ -58,11 +58,14 @@ void frmSubst::ArrangeControls() {
         {Field("Name:", txtName),
          Note("Use % or * symbols to indicate variable fragments of the name, for example: "
               "*qiunone"),
-         Field("CAS Registry Number:", Row({txtRN2, lblDash1, txtRN1, lblDash2, txtCASD})),
+         Field("CAS Registry Number:",
+               Row({Narrow(txtRN2, 8), lblDash1, Narrow(txtRN1, 3), lblDash2, Narrow(txtCASD, 2)})),
          Field("Empirical  formula (Case sensitive):", Row({txtFormula, cmdFind})),
-         Note("Upper and lower case matter: type CHBr3, not Chbr3"), Field("Molar Mass:", txtMMass),
-         Group(fraBio, {Field("Charge:", thtCharge), Field("EC Number:", txtEC),
-                        Field("PDB Number:", txtPDB)}),
+         Note("Upper and lower case matter: type CHBr3, not Chbr3"),
+         Field("Molar Mass:", Narrow(txtMMass, 14)),
+         Group(fraBio,
+               {Field("Charge:", Narrow(thtCharge, 14)), Field("EC Number:", Narrow(txtEC, 14)),
+                Field("PDB Number:", Narrow(txtPDB, 14))}),
          Field("Search results:", lstNames),
          Field("CAS Registry Number of the entry:", Row({lblRN, cmdUseRN})),
          ButtonRow({cmdAccept, cmdCancel})});

@@ -1,5 +1,6 @@
 #include "qt/BasicViews.h"
 
+#include <QAction>
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyleOption>
@@ -110,6 +111,12 @@ void ToolButtonView::Draw() {
     const std::string& caption = model_.Caption();
     own_->setText(Literal(caption.empty() ? model_.Name() : caption));
     own_->setIcon(IconFor(model_.Name(), own_->palette()));
+    // In a bar it is the action around the button that shows or hides it.
+    if (auto* bar = qobject_cast<QToolBar*>(own_->parentWidget())) {
+        for (QAction* action : bar->actions()) {
+            if (bar->widgetForAction(action) == own_) action->setVisible(model_.Visible());
+        }
+    }
 }
 
 ToolbarView::ToolbarView(FormWindow& window, ui::Toolbar& toolbar)

@@ -95,7 +95,9 @@ void FormWindow::MakeToolbars() {
         if (control->Kind() != ui::ControlKind::Toolbar) continue;
         auto* bar = qobject_cast<QToolBar*>(ViewFor(*control)->Widget());
         for (const ui::ToolButton* button : static_cast<ui::Toolbar*>(control)->Buttons()) {
-            if (View* view = ViewFor(*button)) bar->addWidget(view->Widget());
+            if (View* view = ViewFor(*button)) {
+                bar->addWidget(view->Widget())->setVisible(button->Visible());
+            }
         }
         addToolBar(bar);
     }

@@ -30,17 +30,37 @@ bool IsToggle(const ui::Layout& layout) {
                                          layout.control->Kind() == ControlKind::OptionButton);
 }
 
+bool BeginsWithField(const ui::Layout& layout) {
+    return layout.kind == Kind::Row && !layout.parts.empty() &&
+           layout.parts.front().kind == Kind::Field;
+}
+
 bool IsBar(const ui::Layout& layout) {
     return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Toolbar;
+}
+
+// Buttons and options without a label of their own stand under the fields.
+bool IsRowOfButtons(const ui::Layout& layout) {
+    return layout.kind == Kind::Row && !layout.parts.empty() &&
+           std::all_of(layout.parts.begin(), layout.parts.end(), [](const ui::Layout& part) {
+               return part.kind == Kind::Stretch || IsToggle(part) ||
+                      (part.kind == Kind::Item &&
+                       part.control->Kind() == ControlKind::CommandButton);
+           });
 }
 
 bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
     return std::any_of(layout.parts.begin(), layout.parts.end(), test);
 }
 
+constexpr int shortList = 8; // so many entries are shown without scrolling
+
 bool ItemGrowsDown(const ui::Control& control) {
     switch (control.Kind()) {
-    case ControlKind::ListBox:
+    case ControlKind::ListBox: {
+        const int entries = static_cast<const ui::ListBox&>(control).Count();
+        return entries == 0 || entries > shortList;
+    }
     case ControlKind::Grid:
     case ControlKind::TreeView:
     case ControlKind::Picture:
@@ -54,8 +74,8 @@ bool ItemGrowsDown(const ui::Control& control) {
 }
 
 bool ItemGrowsAcross(const ui::Control& control) {
-    return ItemGrowsDown(control) || control.Kind() == ControlKind::TextBox ||
-           control.Kind() == ControlKind::ComboBox;
+    return ItemGrowsDown(control) || control.Kind() == ControlKind::ListBox ||
+           control.Kind() == ControlKind::TextBox || control.Kind() == ControlKind::ComboBox;
 }
 
 template <class TLayout>
@@ -79,7 +99,9 @@ bool GrowsDown(const ui::Layout& layout) {
 }
 
 bool GrowsAcross(const ui::Layout& layout) {
-    if (layout.kind == Kind::Item) return ItemGrowsAcross(*layout.control);
+    if (layout.kind == Kind::Item) {
+        return layout.columns == 0 && ItemGrowsAcross(*layout.control);
+    }
     return layout.kind == Kind::Stretch || layout.kind == Kind::Split ||
            layout.kind == Kind::Pages || layout.kind == Kind::Note || AnyPart(layout, GrowsAcross);
 }
@@ -122,7 +144,7 @@ QWidget* LayoutBuilder::Make(const ui::Layout& layout) {
     case Kind::Field:
         return MakeLoneField(layout);
     case Kind::Item:
-        return MakeItem(*layout.control);
+        return MakeSized(layout);
     case Kind::Pages:
         return MakePages(layout);
     case Kind::Split:
@@ -146,12 +168,21 @@ QWidget* LayoutBuilder::MakeItem(ui::Control& control) {
     return view->Widget();
 }
 
+QWidget* LayoutBuilder::MakeSized(const ui::Layout& layout) {
+    QWidget* widget = MakeItem(*layout.control);
+    if (layout.columns > 0) {
+        const QFontMetrics metrics = widget->fontMetrics();
+        widget->setFixedWidth(metrics.horizontalAdvance(QLatin1Char('0')) * (layout.columns + 2));
+    }
+    return widget;
+}
+
 QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
     auto* owner = new QWidget(&window_);
     auto* grid = Bare<QGridLayout>(owner);
     grid->setColumnStretch(1, 1);
     const bool hasFields = std::any_of(parts.begin(), parts.end(), [](const ui::Layout& part) {
-        return part.kind == Kind::Field;
+        return part.kind == Kind::Field || BeginsWithField(part);
     });
     int row = 0;
     bool grows = false;
@@ -175,7 +206,10 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
 void LayoutBuilder::AddToColumn(QGridLayout& grid, int row, const ui::Layout& part,
                                 bool hasFields) {
     if (part.kind == Kind::Field) return AddField(grid, row, part);
-    const bool indented = hasFields && IsToggle(part);
+    if (BeginsWithField(part)) return AddRowOfFields(grid, row, part);
+    const bool underField = part.kind == Kind::Note && grid.itemAtPosition(row - 1, 1) != nullptr &&
+                            grid.itemAtPosition(row - 1, 0) != grid.itemAtPosition(row - 1, 1);
+    const bool indented = hasFields && (IsToggle(part) || IsRowOfButtons(part) || underField);
     QWidget* widget = Make(part);
     const bool narrow = part.kind == Kind::Item && !GrowsAcross(part) &&
                         part.control->Kind() != ControlKind::Label &&
@@ -187,9 +221,21 @@ void LayoutBuilder::AddToColumn(QGridLayout& grid, int row, const ui::Layout& pa
 void LayoutBuilder::AddField(QGridLayout& grid, int row, const ui::Layout& part) {
     QWidget* widget = Make(part.parts.front());
     QWidget* label = LabelOf(part, widget);
-    const bool tall = GrowsDown(part);
+    const ui::Layout& inside = part.parts.front();
+    const bool isList = inside.kind == Kind::Item && inside.control->Kind() == ControlKind::ListBox;
+    const bool tall = isList || GrowsDown(part);
     grid.addWidget(label, row, 0, Qt::AlignRight | (tall ? Qt::AlignTop : Qt::AlignVCenter));
     grid.addWidget(widget, row, 1, GrowsAcross(part) ? Qt::Alignment() : Qt::AlignLeft);
+}
+
+// The first label stands on the common edge, the rest of the row beside its field.
+void LayoutBuilder::AddRowOfFields(QGridLayout& grid, int row, const ui::Layout& part) {
+    const ui::Layout& first = part.parts.front();
+    ui::Layout rest = part;
+    rest.parts.front() = first.parts.front();
+    ui::Layout field = first;
+    field.parts.front() = std::move(rest);
+    AddField(grid, row, field);
 }
 
 QWidget* LayoutBuilder::LabelOf(const ui::Layout& field, QWidget* part) {
@@ -301,6 +347,10 @@ QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     note->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    // A wrapped label asks for a narrow, high place unless it is told how wide it may be.
+    const int widest = note->fontMetrics().averageCharWidth() * 64;
+    const int wide = note->fontMetrics().size(0, note->text()).width();
+    note->setMinimumWidth(std::min(wide + 4, widest));
     return note;
 }
 

@@ -42,6 +42,7 @@ private:
     QWidget* MakeColumn(const std::vector<ui::Layout>& parts);
     void AddToColumn(QGridLayout& grid, int row, const ui::Layout& part, bool hasFields);
     void AddField(QGridLayout& grid, int row, const ui::Layout& part);
+    void AddRowOfFields(QGridLayout& grid, int row, const ui::Layout& part);
     QWidget* MakeRow(const std::vector<ui::Layout>& parts);
     QWidget* MakeGroup(const ui::Layout& layout);
     QWidget* MakeLoneField(const ui::Layout& layout);
@@ -49,6 +50,7 @@ private:
     QWidget* MakeSplit(const ui::Layout& layout);
     QWidget* MakeButtons(const ui::Layout& layout);
     QWidget* MakeNote(const ui::Layout& layout);
+    QWidget* MakeSized(const ui::Layout& layout);
     QWidget* MakeItem(ui::Control& control);
     QWidget* LabelOf(const ui::Layout& field, QWidget* part);
     void Leftovers(const ui::Form& form, std::vector<ui::Layout>& parts) const;

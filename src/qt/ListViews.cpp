@@ -101,6 +101,7 @@ ListView::ListView(FormWindow& window, ui::ListBox& list)
     own_->setSelectionMode(list.SelectionMode() == ui::ListBox::Mode::Multi
                                ? QAbstractItemView::MultiSelection
                                : QAbstractItemView::SingleSelection);
+    filledLater_ = list.Count() == 0;
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 3);
     if (HasChecks()) {
         QObject::connect(own_, &QListWidget::itemChanged, this, [this] { HandOver(); });
@@ -169,11 +170,14 @@ void ListView::Fill() {
         item->setCheckState(Qt::Unchecked);
     }
     // A short list takes no room that others could use.
-    constexpr int shortList = 6;
-    const bool isShort = model_.Count() > 0 && model_.Count() <= shortList;
+    constexpr int shortList = 8;
+    const bool isShort = !filledLater_ && model_.Count() > 0 && model_.Count() <= shortList;
+    filledLater_ = filledLater_ || model_.Count() == 0;
     const int row = own_->sizeHintForRow(0);
     const int rows = std::max(model_.Count(), 3);
-    own_->setMaximumHeight(isShort ? rows * row + 2 * own_->frameWidth() + 6 : QWIDGETSIZE_MAX);
+    const int high = rows * row + 2 * own_->frameWidth() + 6;
+    own_->setMaximumHeight(isShort ? high : QWIDGETSIZE_MAX);
+    if (isShort) own_->setMinimumHeight(high);
     own_->updateGeometry();
 }
 

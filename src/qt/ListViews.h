@@ -55,6 +55,7 @@ protected:
     bool MouseEvent(QEvent& event) override;
 
 private:
+    bool filledLater_ = false; // then its height must not jump with what a search finds
     bool IsSingle() const { return model_.SelectionMode() == ui::ListBox::Mode::Single; }
     bool HasChecks() const { return model_.SelectionMode() == ui::ListBox::Mode::Check; }
     bool IsOn(int index) const;

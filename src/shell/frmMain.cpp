@@ -18,7 +18,7 @@ constexpr const char* kCaption = "Vexora - Thermophysical and Thermochemical Dat
 
 frmMain::frmMain() : Form("frmMain", kCaption) {
     Arrangement = ui::Column({Toolbar1, ui::Split(tvwTree, rtfReading), lblStatus});
-    PreferredColumns = 120;
+    PreferredColumns = 150;
     PreferredRows = 40;
     HelpContext = 110;
     mnuExportXML.BeginsGroup = true;

@@ -63,6 +63,12 @@ Layout Split(Layout left, Layout right) {
     return Make(Layout::Kind::Split, {std::move(left), std::move(right)});
 }
 
+Layout Narrow(Control& item, int columns) {
+    Layout layout(item);
+    layout.columns = columns;
+    return layout;
+}
+
 Layout ButtonRow(std::vector<Layout> buttons) {
     return Make(Layout::Kind::Buttons, std::move(buttons));
 }

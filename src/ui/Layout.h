@@ -28,6 +28,7 @@ struct Layout {
     std::string text;           // caption, label or note
     Control* control = nullptr; // the control itself, the frame or the tab strip
     Control* label = nullptr;   // a Label control that stands for the text of a Field
+    int columns = 0;            // width of an item in characters, 0 for what there is
     std::vector<Layout> parts;
 
     Layout() = default;
@@ -44,6 +45,8 @@ Layout Field(std::string label, Layout part);
 Layout Field(Control& label, Layout part);
 Layout Pages(TabStrip& tabs, std::vector<Layout> pages);
 Layout Split(Layout left, Layout right);
+/// A control whose content is short: a year, a number.
+Layout Narrow(Control& item, int columns);
 Layout ButtonRow(std::vector<Layout> buttons);
 Layout Note(std::string text);
 Layout Stretch();
