@@ -51,7 +51,7 @@ frmRef::frmRef() : Form("frmRef", "Add reference") {
          ui::ButtonRow({cmdAccept, cmdCreate, cmdCancel})});
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCancel;
-    PreferredColumns = 80;
+    PreferredColumns = 104;
     for (ui::TextBox* field : {&txtYear, &txtAut1, &txtAut2})
         field->OnChange = [this] { Identification_Change(); };
     cmdVerify.OnClick = [this] { cmdVerify_Click(); };
