@@ -107,7 +107,7 @@ void frmData2::Load() {
     Globals().DialogAccepted = false;
     TakeSet();
     const bool canPlot = ui::Forms::Current().Knows("frmGraph");
-    cmdView.Enabled(canPlot);
+    cmdView.Enabled(set_ != nullptr && canPlot);
     cmdView.ToolTip(canPlot ? "" : "Plots come with a later edition");
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr);

@@ -16,6 +16,7 @@ namespace vexora {
 class clsData;
 class clsProperty;
 class clsTwo;
+struct PlotTable;
 
 /// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
 /// filled, stored when it is accepted. It works on the current set; a table that is cancelled
@@ -111,15 +112,20 @@ private:
     bool CheckUnc();
     void CleanCells();
     void Calc_unc(int row, bool& ok);
-    void TakeStatements(clsProperty& item, int place, int row);
+    void TakeStatements(clsProperty& item, int place, int row) const;
     bool Refuse(const Finding& finding, const std::string& title = {});
     void Assign();
     bool AssignAccepted();
-    void View();
     void Save();
     void Store();
     std::vector<const clsData*> OldRows() const;
     std::shared_ptr<clsData> NewRow(int row, const clsData* old) const;
+
+    // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
+    void View();
+    PlotTable PointsOfTable() const;
+    void NamePlot(PlotTable& table) const;
+    double UncertaintyOf(int row) const;
 
     std::shared_ptr<clsTwo> set_;
     std::unique_ptr<clsTwo> adjusted_;           // set of mixed units, brought to system units

@@ -68,7 +68,7 @@ bool frmData2::CheckUnits() {
     return false;
 }
 
-void frmData2::TakeStatements(clsProperty& item, int place, int row) {
+void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
     const double value = Val(item.Text);
     const auto cell = [&](Kind kind) {
         const int column = columns_.Find(kind, place);
@@ -137,10 +137,6 @@ bool frmData2::AssignAccepted() {
     FillHeader();
     FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
     return true;
-}
-
-void frmData2::View() {
-    if (Check()) ui::Forms::Current().Get("frmGraph").ShowModal();
 }
 
 void frmData2::Save() {

@@ -5,6 +5,7 @@
 #include "chem/clsProperty.h"
 #include "dialogs/PropertyRules.h"
 #include "globals/KVOGlobal.h"
+#include "globals/PlotTable.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -145,6 +146,16 @@ std::string frmData2::CaptionText() const {
     for (int n = 1; n <= set_->nVar; ++n)
         text += (n > 1 ? ", " : "") + VariableOf(*set_, n, original_).name;
     return text;
+}
+
+void frmData2::NamePlot(PlotTable& table) const {
+    const auto named = [](const Quantity& quantity) {
+        return quantity.name + (quantity.unit.empty() ? "" : " (" + quantity.unit + ")");
+    };
+    table.YName = named(PropertyOf(*set_, original_));
+    table.VarNames[0] = "Point number";
+    for (int n = 1; n <= set_->nVar; ++n)
+        table.VarNames[static_cast<std::size_t>(n - 1)] = named(VariableOf(*set_, n, original_));
 }
 
 std::string frmData2::ColumnsText() const {

@@ -5,6 +5,7 @@
 #include "dialogs/TableTurns.h"
 #include "dialogs/frmPasteView.h"
 #include "globals/KVOGlobal.h"
+#include "globals/PlotTable.h"
 #include "grid/GridKey.h"
 #include "grid/TablePaste.h"
 #include "records/clsTwo.h"
@@ -16,7 +17,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int plottedRows = 16384; // as many as a plot shows
+constexpr int plottedRows = static_cast<int>(PlotTable::MostPoints);
 
 bool StartsNumber(char32_t character) {
     return (character >= U'0' && character <= U'9') || character == U'.' || character == U'+' ||

@@ -31,6 +31,7 @@ class clsS;
 class clsTwo;
 class clsX;
 class clsZ;
+struct PlotTable;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
 /// the root, what dialogs tell each other, and the configuration. The workbench owns it; records
@@ -93,6 +94,7 @@ struct KVOGlobal {
     std::shared_ptr<clsProperty> CurrentProperty; // head of the property chain
     std::shared_ptr<clsMMM> MixtureMass;
     std::shared_ptr<std::vector<clsX>> CurrentUX; // the statements that frmUnc works on
+    std::shared_ptr<PlotTable> Plot;              // the points that frmGraph is to show
     std::string KeyRest; // tags of a comment that no dialog interprets; kept over read and write
 
     // What the property dialog hands to the entry dialog.

@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPolygonF>
 
 #include "qt/FormWindow.h"
 #include "qt/Text.h"
@@ -18,7 +19,12 @@ constexpr std::array<QRgb, 7> colours{0x2F7FD6, 0xD6522F, 0x2FA65A, 0xA65AC8,
                                       0xC89A1E, 0x1EA6A6, 0x8A8A8A};
 
 QColor ColourOf(int index, const QPalette& palette) {
-    if (index <= 0) return palette.color(QPalette::Text);
+    if (index < 0) {
+        QColor faint = palette.color(QPalette::Text);
+        faint.setAlphaF(0.12F);
+        return faint;
+    }
+    if (index == 0) return palette.color(QPalette::Text);
     return QColor::fromRgb(colours[static_cast<std::size_t>(index - 1) % colours.size()]);
 }
 
@@ -26,6 +32,45 @@ QColor ColourOf(int index, const QPalette& palette) {
 double Rounded(double value) {
     constexpr double steps = 1e6;
     return std::round(value * steps) / steps;
+}
+
+void DrawMarker(QPainter& painter, QPointF at, int marker, const QColor& colour) {
+    const double r = painter.fontMetrics().height() * 0.28;
+    const auto polygon = [&](const QPolygonF& corners) {
+        painter.drawPolygon(corners.translated(at));
+    };
+    painter.setBrush(colour);
+    switch (marker) {
+    case 0:
+        painter.drawEllipse(at, r, r);
+        break;
+    case 1:
+        painter.drawRect(QRectF(at - QPointF(r, r) * 0.85, QSizeF(r, r) * 1.7));
+        break;
+    case 2:
+        polygon({{{-r, r * 0.8}, {r, r * 0.8}, {0, -r}}});
+        break;
+    case 3:
+        polygon({{{-r, 0}, {0, -r * 1.2}, {r, 0}, {0, r * 1.2}}});
+        break;
+    case 4:
+        polygon({{{-r, -r * 0.8}, {r, -r * 0.8}, {0, r}}});
+        break;
+    default:
+        painter.setPen(QPen(colour, r * 0.5));
+        painter.drawLine(at - QPointF(r, r) * 0.8, at + QPointF(r, r) * 0.8);
+        painter.drawLine(at - QPointF(r, -r) * 0.8, at + QPointF(r, -r) * 0.8);
+    }
+}
+
+void DrawAlignedText(QPainter& painter, QPointF at, const ui::Picture::Stroke& stroke) {
+    using Align = ui::Picture::Align;
+    const QString text = ToQt(stroke.text);
+    const double wide = painter.fontMetrics().horizontalAdvance(text);
+    const double back = stroke.align == Align::Left     ? 0
+                        : stroke.align == Align::Centre ? wide / 2
+                                                        : wide;
+    painter.drawText(at + QPointF(-back, painter.fontMetrics().ascent()), text);
 }
 
 } // namespace
@@ -65,10 +110,8 @@ void Canvas::paintEvent(QPaintEvent*) {
         if (stroke.shape == Shape::Line) painter.drawLine(from, to);
         if (stroke.shape == Shape::Rectangle) painter.drawRect(QRectF(from, to).normalized());
         if (stroke.shape == Shape::Disc) painter.drawEllipse(QRectF(from, to).normalized());
-        if (stroke.shape == Shape::Text) {
-            const double down = painter.fontMetrics().ascent();
-            painter.drawText(from + QPointF(0, down), ToQt(stroke.text));
-        }
+        if (stroke.shape == Shape::Text) DrawAlignedText(painter, from, stroke);
+        if (stroke.shape == Shape::Marker) DrawMarker(painter, from, stroke.marker, colour);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "dialogs/RegisterDialogs.h"
 #include "plot/frmBox.h"
+#include "plot/frmGraph.h"
 #include "shell/frmConfigure.h"
 #include "shell/frmMain.h"
 
@@ -11,6 +12,7 @@ void RegisterForms(ui::Forms& forms) {
     forms.Register<frmMain>("frmMain");
     forms.Register<frmConfigure>("frmConfigure");
     forms.Register<frmBox>("frmBox");
+    forms.Register<frmGraph>("frmGraph");
     RegisterDialogs(forms);
 }
 

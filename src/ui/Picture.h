@@ -11,12 +11,17 @@ namespace vexora::ui {
 /// The form states what is to be seen as a list of shapes; the view only paints them.
 class Picture : public Control {
 public:
-    enum class Shape { Line, Rectangle, Disc, Text };
+    enum class Shape { Line, Rectangle, Disc, Text, Marker };
+    enum class Align { Left, Centre, Right }; // of a text, by its place
+    /// Kinds of markers: disc, square, triangle, diamond, triangle on its tip, cross.
+    static constexpr int MarkerCount = 6;
     struct Stroke {
         Shape shape = Shape::Line;
         double x = 0, y = 0, x2 = 0, y2 = 0;
-        int colour = 0; // index into the palette of the view, 0 is the text colour
+        int colour = 0; // index into the palette of the view, 0 the text colour, -1 faint
         std::string text;
+        Align align = Align::Left;
+        int marker = 0; // 0 to 5; a marker keeps its size when the surface grows
     };
 
     Picture(Form& form, std::string name, double width, double height);

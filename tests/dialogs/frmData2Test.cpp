@@ -3,8 +3,10 @@
 #include "chem/clsProperty.h"
 #include "dialogs/DataDialogFixture.h"
 #include "dialogs/frmPasteView.h"
+#include "globals/PlotTable.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
+#include "reference/Numbers.h"
 
 namespace vexora::test {
 namespace {
@@ -307,6 +309,31 @@ TEST_F(frmData2Test, RowsBeyondAPlotAreKeptAndTold) {
     EXPECT_EQ(form_->tblData.Cell(16385, 1), "999.8");
     EXPECT_EQ(form_->lblNotice.Caption(),
               "The table holds 16385 rows; a plot shows the first 16384");
+}
+
+TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {
+    forms.Register("frmGraph", [] { return std::make_unique<ui::Form>("frmGraph", "Plot"); });
+    TwoVariables();
+    set->VAR1_UNIT = "C";
+    set->UX[0].iDS = true;
+    OpenTable();
+    Paste("20\t100\t998\t0.25\n\t\t\t\n30\t100\t995\t\t0.75");
+    std::string seen;
+    desktop.OnModal([&](ui::Form& form) {
+        const PlotTable& plot = *globals.Plot;
+        seen = plot.YName + "|" + plot.VarNames[0] + "|" + plot.VarNames[1] + "\n";
+        for (std::size_t i = 0; i < plot.PointTable.size(); ++i) {
+            for (std::size_t n = 0; n < 3; ++n)
+                seen += NumberText(plot.PointTable[i][n]) + " ";
+            seen += NumberText(plot.PointUnc[i]) + "\n";
+        }
+        form.Close();
+    });
+    form_->cmdView.UserClick();
+    EXPECT_EQ(seen, "Mass density (kg/m3)|Temperature (C)|Pressure (kPa)\n"
+                    "998 20 100 0.5\n"
+                    "995 30 100 0.75\n");
+    EXPECT_EQ(globals.Plot, nullptr);
 }
 
 } // namespace

@@ -1,0 +1,139 @@
+#include "plot/PlotScale.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vexora {
+
+namespace {
+
+constexpr double padding = 0.02;
+constexpr double leastOfLog = 0.0001; // of the largest Y, where the smallest has no logarithm
+constexpr double sameLimits = 1e-9;
+
+std::optional<double> Position(double value, double from, double to) {
+    if (from == to) return 0.5;
+    const double position = (value - from) / (to - from);
+    if (!std::isfinite(position)) return std::nullopt;
+    return position;
+}
+
+} // namespace
+
+void PlotScale::Ranges(const PlotTable& table, int xVar) {
+    Empty = table.PointTable.empty();
+    if (Empty) return;
+    const auto column = static_cast<std::size_t>(xVar);
+    XMin = XMax = table.PointTable.front()[column];
+    YMin = YMax = table.PointTable.front()[0];
+    for (const PlotTable::Row& row : table.PointTable) {
+        XMin = std::min(XMin, row[column]);
+        XMax = std::max(XMax, row[column]);
+        YMin = std::min(YMin, row[0]);
+        YMax = std::max(YMax, row[0]);
+    }
+    if (Log) {
+        PadLog();
+        return;
+    }
+    const double roomX = (XMax - XMin) * padding;
+    const double roomY = (YMax - YMin) * padding;
+    XMin -= roomX;
+    XMax += roomX;
+    YMin -= roomY;
+    YMax += roomY;
+}
+
+void PlotScale::PadLog() {
+    Empty = XMin + Shift <= 0 || YMax <= 0;
+    if (Empty) return;
+    const double a = 1 / (XMin + Shift);
+    const double b = 1 / (XMax + Shift);
+    const double room = (a - b) * padding;
+    if (room > 0) XMin = 1 / (a + room) - Shift;
+    if (room > 0 && b > room) XMax = 1 / (b - room) - Shift;
+    if (YMin <= 0) {
+        YMin = YMax * leastOfLog;
+        return;
+    }
+    const double factor = std::exp(padding * std::log(YMax / YMin));
+    YMin /= factor;
+    YMax *= factor;
+}
+
+bool PlotScale::Zoom(double fromX, double fromY, double toX, double toY) {
+    for (double* position : {&fromX, &fromY, &toX, &toY})
+        *position = std::clamp(*position, 0.0, 1.0);
+    if (fromX > toX) std::swap(fromX, toX);
+    if (fromY > toY) std::swap(fromY, toY);
+    if (Empty || fromX == toX || fromY == toY) return false;
+    const double left = ValueX(fromX);
+    const double low = ValueY(fromY);
+    XMax = ValueX(toX);
+    YMax = ValueY(toY);
+    XMin = left;
+    YMin = low;
+    return true;
+}
+
+std::optional<double> PlotScale::PositionX(double x) const {
+    if (!Log) return Position(x, XMin, XMax);
+    if (x + Shift <= 0) return std::nullopt;
+    return Position(1 / (x + Shift), 1 / (XMin + Shift), 1 / (XMax + Shift));
+}
+
+std::optional<double> PlotScale::PositionY(double y) const {
+    if (!Log) return Position(y, YMin, YMax);
+    if (y <= 0) return std::nullopt;
+    return Position(std::log(y), std::log(YMin), std::log(YMax));
+}
+
+double PlotScale::ValueX(double position) const {
+    if (!Log || XMin == XMax) return XMin + position * (XMax - XMin);
+    const double a = 1 / (XMin + Shift);
+    const double b = 1 / (XMax + Shift);
+    return 1 / (a + position * (b - a)) - Shift;
+}
+
+double PlotScale::ValueY(double position) const {
+    if (!Log || YMin == YMax) return YMin + position * (YMax - YMin);
+    return YMin * std::exp(position * std::log(YMax / YMin));
+}
+
+std::vector<double> PlotScale::TicksX() const {
+    return Empty ? std::vector<double>() : Ticks(XMin, XMax);
+}
+
+std::vector<double> PlotScale::TicksY() const {
+    return Empty ? std::vector<double>() : Ticks(YMin, YMax);
+}
+
+std::vector<double> Ticks(double min, double max) {
+    const double range = std::abs(max - min);
+    const double mean = (std::abs(min) + std::abs(max)) / 2;
+    if (range == 0 || !std::isfinite(range) || range / mean < sameLimits) return {};
+    double step = std::pow(10.0, std::floor(std::log10(range)));
+    if (range / step < 2)
+        step /= 5;
+    else if (range / step < 5)
+        step /= 2;
+    // Counted, not summed up: a sum of steps drifts off the round values.
+    double count = std::trunc(min / step);
+    if (count * step < min) ++count;
+    const double slack = step * sameLimits;
+    std::vector<double> ticks;
+    for (; count * step <= max + slack; ++count)
+        ticks.push_back(count * step);
+    return ticks;
+}
+
+double ShiftOf(const PlotTable& table) {
+    const auto anyHolds = [&](const char* unit) {
+        return std::any_of(table.VarNames.begin(), table.VarNames.end(),
+                           [&](const std::string& name) { return name.find(unit) != name.npos; });
+    };
+    return anyHolds("(C)") ? 273.15 : anyHolds("(F)") ? 459.6696 : 0;
+}
+
+} // namespace vexora

@@ -1,0 +1,184 @@
+#include "plot/PlotPicture.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "reference/Numbers.h"
+
+namespace vexora::test {
+namespace {
+
+std::string TicksText(double min, double max) {
+    std::string text;
+    for (const double tick : Ticks(min, max))
+        text += (text.empty() ? "" : " ") + NumberText(tick);
+    return text;
+}
+
+PlotTable TableOf(std::vector<std::array<double, 3>> points, int variables = 1) {
+    PlotTable table;
+    table.nVar = variables;
+    for (const auto& [y, x, other] : points) {
+        table.PointTable.push_back({y, x, other});
+        table.PointUnc.push_back(0);
+    }
+    return table;
+}
+
+PlotScale ScaleOf(const PlotTable& table, bool log) {
+    PlotScale scale;
+    scale.Log = log;
+    scale.Shift = ShiftOf(table);
+    scale.Ranges(table, 1);
+    return scale;
+}
+
+const PlotTable water = TableOf({{0.000698451167, 275}, {0.932203564, 450}, {16.9082693, 625}});
+
+TEST(Plot, TicksStandAtRoundValuesWithinTheLimits) {
+    const struct {
+        double min, max;
+        const char* ticks;
+    } cases[] = {
+        {0.5, 2.3, "0.6 0.8 1 1.2 1.4 1.6 1.8 2 2.2"},
+        {100, 400, "100 150 200 250 300 350 400"},
+        {1, 9.5, "1 2 3 4 5 6 7 8 9"},
+        {1, 1.0000000001, ""},
+        {-0.5, 0.5, "-0.5 -0.4 -0.3 -0.2 -0.1 0 0.1 0.2 0.3 0.4 0.5"},
+        {5, 5, ""},
+        {0, 0, ""},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(TicksText(one.min, one.max), one.ticks) << one.min << " to " << one.max;
+}
+
+TEST(Plot, PlainAxesHaveTwoPerCentOfRoom) {
+    const PlotScale scale = ScaleOf(TableOf({{1, 100}, {3, 200}}), false);
+    EXPECT_DOUBLE_EQ(scale.XMin, 98);
+    EXPECT_DOUBLE_EQ(scale.XMax, 202);
+    EXPECT_DOUBLE_EQ(scale.YMin, 0.96);
+    EXPECT_DOUBLE_EQ(scale.YMax, 3.04);
+}
+
+TEST(Plot, LogarithmicAxesHaveTheirRoomInTheReciprocalAndTheLogarithm) {
+    const PlotScale scale = ScaleOf(water, true);
+    EXPECT_NEAR(*scale.PositionX(275), 0.02 / 1.04, 1e-12);
+    EXPECT_NEAR(*scale.PositionX(625), 1.02 / 1.04, 1e-12);
+    EXPECT_NEAR(*scale.PositionY(0.000698451167), 0.02 / 1.04, 1e-12);
+    EXPECT_NEAR(*scale.PositionY(16.9082693), 1.02 / 1.04, 1e-12);
+    EXPECT_NEAR(scale.ValueX(*scale.PositionX(450)), 450, 1e-9);
+    EXPECT_NEAR(scale.ValueY(*scale.PositionY(0.9)), 0.9, 1e-12);
+}
+
+TEST(Plot, EqualLimitsPutThePointIntoTheMiddle) {
+    for (const bool log : {false, true}) {
+        const PlotScale scale = ScaleOf(TableOf({{2, 300}}), log);
+        EXPECT_EQ(scale.PositionX(300), 0.5);
+        EXPECT_EQ(scale.PositionY(2), 0.5);
+        EXPECT_TRUE(scale.TicksX().empty());
+    }
+}
+
+TEST(Plot, ValuesWithoutLogarithmAreSkippedOrLeaveNothingToDraw) {
+    const PlotScale some = ScaleOf(TableOf({{-1, 300}, {5, 400}}), true);
+    EXPECT_FALSE(some.Empty);
+    EXPECT_DOUBLE_EQ(some.YMin, 0.0005);
+    EXPECT_EQ(some.PositionY(-1), std::nullopt);
+    EXPECT_EQ(some.PositionX(0), std::nullopt);
+    EXPECT_TRUE(ScaleOf(TableOf({{-1, 300}, {0, 400}}), true).Empty);
+
+    PlotTable celsius = TableOf({{1, -273.15}, {2, 25}});
+    celsius.VarNames[0] = "Temperature (C)";
+    EXPECT_TRUE(ScaleOf(celsius, true).Empty);
+    EXPECT_FALSE(ScaleOf(celsius, false).Empty);
+    celsius.PointTable[0][1] = -100;
+    EXPECT_FALSE(ScaleOf(celsius, true).Empty);
+    EXPECT_TRUE(ScaleOf(PlotTable(), false).Empty);
+}
+
+TEST(Plot, RectanglesBecomeTheRangesInTheScaleOfTheMode) {
+    PlotScale plain = ScaleOf(TableOf({{0, 0}, {100, 100}}), false);
+    EXPECT_TRUE(plain.Zoom(1.5, 0.75, 0.5, 0.25)); // from the right to the left, past the frame
+    EXPECT_NEAR(plain.XMin, 50, 1e-9);
+    EXPECT_NEAR(plain.XMax, 102, 1e-9);
+    EXPECT_NEAR(plain.YMin, 24, 1e-9);
+    EXPECT_NEAR(plain.YMax, 76, 1e-9);
+    EXPECT_FALSE(plain.Zoom(-0.5, 0, -0.1, 1));
+
+    PlotScale log = ScaleOf(water, true);
+    const double middle = std::sqrt(log.YMin * log.YMax);
+    EXPECT_TRUE(log.Zoom(0, 0, 1, 0.5));
+    EXPECT_NEAR(log.YMax, middle, 1e-12);
+}
+
+TEST(Plot, FamiliesAgreeInAllVariablesButTheOneOnTheAxis) {
+    const PlotTable table =
+        TableOf({{1, 300, 100}, {2, 300, 200}, {3, 310, 100.05}, {4, 310, 0}, {5, 320, 0.001}}, 2);
+    EXPECT_EQ(FamiliesOf(table, 1, 0.001).GroupOf, (std::vector<int>{0, 1, 0, 2, 2}));
+    EXPECT_EQ(FamiliesOf(table, 1, 0.0001).GroupOf, (std::vector<int>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(FamiliesOf(table, 2, 0.001).GroupRows, (std::vector<int>{0, 2, 4}));
+    EXPECT_EQ(FamiliesOf(water, 1, 0.001).GroupOf, (std::vector<int>{0, 0, 0}));
+}
+
+TEST(Plot, FamiliesBeyondTheThousandthShareIt) {
+    PlotTable table;
+    table.nVar = 2;
+    for (int i = 0; i < 1002; ++i)
+        table.PointTable.push_back({1, 300, 1.0 + i});
+    const PlotFamilies families = FamiliesOf(table, 1, 1e-6);
+    EXPECT_EQ(families.GroupRows.size(), 1000U);
+    EXPECT_EQ(families.GroupOf.back(), 999);
+}
+
+TEST(Plot, ArrangedRowsKeepTheirUncertainties) {
+    PlotTable table = TableOf({{1, 310, 5}, {2, 300, 7}, {3, 300, 6}, {4, 300, 7}}, 2);
+    table.PointUnc = {0.1, 0.2, 0.3, 0.4};
+    Arrange(table, 1);
+    std::string order;
+    for (int i = 0; i < table.PointCount(); ++i)
+        order += NumberText(table.PointTable[static_cast<std::size_t>(i)][0]) + ":" +
+                 NumberText(table.PointUnc[static_cast<std::size_t>(i)]) + " ";
+    EXPECT_EQ(order, "3:0.3 2:0.2 4:0.4 1:0.1 ");
+}
+
+TEST(Plot, TheNearestDrawnPointIsTold) {
+    for (const bool log : {false, true}) {
+        const PlotScale scale = ScaleOf(water, log);
+        const PlotFamilies families = FamiliesOf(water, 1, 0.001);
+        const Plot plot{water, scale, 1, families, true};
+        const PlotPlace place = PlaceOf(plot, 1).value();
+        EXPECT_EQ(NearestPoint(plot, {place.x + 9, place.y - 9}), 1);
+        EXPECT_EQ(PointText(plot, 1), "(450, 0.932203564)");
+        EXPECT_NEAR(PositionsAt(plot, place).x, *scale.PositionX(450), 1e-9);
+    }
+}
+
+TEST(Plot, MarkersAndBarsShowWhatIsThere) {
+    using Shape = ui::Picture::Shape;
+    PlotTable table = TableOf({{1, 300, 100}, {2, 310, 100}, {3, 300, 200}, {-4, 310, 200}}, 2);
+    table.PointUnc = {0.5, 0, 0, 0};
+    table.VarNames = {"Temperature (K)", "Pressure (kPa)"};
+    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const auto count = [&](bool log, bool showUnc, Shape shape) {
+        const PlotScale scale = ScaleOf(table, log);
+        const auto strokes = PlotPicture({table, scale, 1, families, showUnc});
+        return std::count_if(strokes.begin(), strokes.end(),
+                             [&](const auto& one) { return one.shape == shape; });
+    };
+    EXPECT_EQ(count(false, true, Shape::Marker), 4 + 2); // and two in the legend
+    EXPECT_EQ(count(true, true, Shape::Marker), 3 + 2);
+    EXPECT_EQ(count(false, true, Shape::Line) - count(false, false, Shape::Line), 3);
+
+    const PlotScale scale = ScaleOf(table, false);
+    const auto strokes = PlotPicture({table, scale, 1, families, true});
+    std::string seen;
+    for (const auto& one : strokes)
+        if (one.shape == Shape::Marker)
+            seen += std::to_string(one.colour) + "/" + std::to_string(one.marker) + " ";
+    EXPECT_EQ(seen, "1/0 1/0 2/1 2/1 1/0 2/1 ");
+}
+
+} // namespace
+} // namespace vexora::test
