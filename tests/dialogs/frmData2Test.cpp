@@ -330,7 +330,7 @@ TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {
         form.Close();
     });
     form_->cmdView.UserClick();
-    EXPECT_EQ(seen, "Mass density (kg/m3)|Temperature (C)|Pressure (kPa)\n"
+    EXPECT_EQ(seen, "Density (kg/m3)|Temperature (C)|Pressure (kPa)\n"
                     "998 20 100 0.5\n"
                     "995 30 100 0.75\n");
     EXPECT_EQ(globals.Plot, nullptr);
