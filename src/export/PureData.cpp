@@ -105,7 +105,8 @@ void ExportPhases(XmlWriter& xml, const std::string& code, const clsA& header,
 }
 
 void ExportConstraint(XmlWriter& xml, const std::string& group, const std::string& name,
-                      const std::string& value, int digits) {
+                      const std::string& value, int digits,
+                      const std::function<void()>& statements) {
     xml.Open("Constraint");
     xml.Open("ConstraintID");
     xml.Open("ConstraintType");
@@ -114,6 +115,7 @@ void ExportConstraint(XmlWriter& xml, const std::string& group, const std::strin
     xml.Close();
     xml.Element("nConstraintValue", value);
     xml.Element("nConstrDigits", std::to_string(digits));
+    if (statements) statements();
     xml.Close();
 }
 

@@ -1,6 +1,7 @@
 // The elements that single values and data sets of pure compounds share in the export.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -31,9 +32,11 @@ void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inne
 void ExportPhases(XmlWriter& xml, const std::string& code, const clsA& header,
                   std::initializer_list<std::string_view> phases);
 
-/// A state variable that stays the same: its group and name, and the value in system units.
+/// A state variable that stays the same: its group and name, the value in system units, and what
+/// `statements` writes about it.
 void ExportConstraint(XmlWriter& xml, const std::string& group, const std::string& name,
-                      const std::string& value, int digits);
+                      const std::string& value, int digits,
+                      const std::function<void()>& statements = {});
 /// The constraint of one atmosphere.
 void ExportAtmosphere(XmlWriter& xml);
 /// The head of state variable `number`; item holds its statements.

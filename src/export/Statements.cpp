@@ -94,16 +94,24 @@ void CombinedHead(XmlWriter& xml, const clsX& item) {
     xml.Close();
 }
 
-void AuthorsHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+const char* AuthorsElement(const clsX& item) {
+    return IsExpanded(item.ULevel) ? "nExpandUncertValue" : "nStdUncertValue";
+}
+
+// A head states the figure itself only where no values follow.
+void AuthorsHead(XmlWriter& xml, const clsX& item, const std::string& role,
+                 const std::string& figure = {}) {
     if (!item.iUnc) return;
     xml.Open(role + "Uncertainty");
     if (role != "Constr") xml.Element("nUncertAssessNum", "1");
     xml.Element("sUncertEvaluator", "Author");
+    xml.ElementIfAny(AuthorsElement(item), figure);
     ExportLevel(xml, "nUncertLevOfConfid", item.ULevel);
     xml.Close();
 }
 
-void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role,
+                       const std::string& figure = {}) {
     if (!item.iRep) return;
     xml.Open(role + "Repeatability");
     xml.Element("sRepeatEvaluator", "Author");
@@ -111,10 +119,14 @@ void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role
     if (item.RType == 1) {
         xml.Element("eRepeatMethod", "Standard deviation of a single value (unbiased)");
     }
+    xml.ElementIfAny("n" + role + "RepeatValue", figure);
+    if (!figure.empty() && IsNumeric(item.Repetitions))
+        xml.Element("nRepetitions", Trim(item.Repetitions));
     xml.Close();
 }
 
-void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role) {
+void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role,
+                const std::string& figure = {}) {
     if (!item.iDS) return;
     xml.Open(role + "DeviceSpec");
     if (item.DSEvaluator == "0") {
@@ -126,6 +138,7 @@ void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role) {
     } else {
         xml.ElementIfAny("sDeviceSpecEvaluator", item.DSEvaluator);
     }
+    xml.ElementIfAny("n" + role + "DeviceSpecValue", figure);
     ExportLevel(xml, "nDeviceSpecLevOfConfid", item.DSLevel);
     xml.Close();
 }
@@ -175,6 +188,18 @@ void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
     DeviceHead(xml, *this, name);
 }
 
+bool ExportConstraintStatements(XmlWriter& xml, const clsX& item, std::string_view value,
+                                const ExportUnit& unit) {
+    const std::string role = "Constr";
+    const std::string author = Figure(item.UValue, value, unit, unit);
+    const std::string repeatability = Figure(item.RValue, value, unit, unit);
+    const std::string device = Figure(item.DSValue, value, unit, unit);
+    if (!author.empty()) AuthorsHead(xml, item, role, author);
+    if (!repeatability.empty()) RepeatabilityHead(xml, item, role, repeatability);
+    if (!device.empty()) DeviceHead(xml, item, role, device);
+    return !item.iRep || !repeatability.empty();
+}
+
 bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit, const RowFigures* row) {
     if (!item.iCU && !item.iUnc && !item.iRep && !item.iDS && !item.iCD) return true;
@@ -195,8 +220,7 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                    figure(item.CValue, row ? row->combined : ""));
     }
     if (item.iUnc) {
-        WithNumber(xml, name + "Uncertainty", "nUncertAssessNum",
-                   IsExpanded(item.ULevel) ? "nExpandUncertValue" : "nStdUncertValue",
+        WithNumber(xml, name + "Uncertainty", "nUncertAssessNum", AuthorsElement(item),
                    figure(item.UValue, own.Unc));
     }
     const std::string repeatability = item.iRep ? figure(item.RValue, own.Rep) : std::string();

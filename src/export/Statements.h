@@ -52,4 +52,9 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
                       std::string_view value, const ExportUnit& unit,
                       const RowFigures* row = nullptr);
 
+/// What is stated about a state variable that stays the same: heads and figures in one, since no
+/// values follow. False when a repeatability was announced but has no figure.
+bool ExportConstraintStatements(XmlWriter& xml, const clsX& item, std::string_view value,
+                                const ExportUnit& unit);
+
 } // namespace vexora

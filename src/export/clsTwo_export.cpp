@@ -73,6 +73,14 @@ std::string ConstantOf(const clsTwo& set, const std::string& code) {
     return IsNumeric(value) ? value : std::string();
 }
 
+// What the set states about a variable that stays the same, or null.
+const clsX* StatementsOf(const clsTwo& set, const std::string& code) {
+    const auto found = std::find_if(set.UX.begin(), set.UX.end(), [&](const clsX& item) {
+        return item.N > set.nVar && item.PRPCODE == code && item.IsStated();
+    });
+    return found == set.UX.end() ? nullptr : &*found;
+}
+
 void ExportConstraints(XmlWriter& xml, const clsTwo& set) {
     for (const std::string code : {"T", "P", "WL", "WF"}) {
         const std::string value = ConstantOf(set, code);
@@ -80,8 +88,12 @@ void ExportConstraints(XmlWriter& xml, const clsTwo& set) {
         ExportUnit unit{"S"};
         unit.wavelength = code == "WL";
         const ExportNumber number = ExportedValue(value, unit);
-        ExportConstraint(xml, XMLVariableGroup(code), XMLVariableName(code), number.text,
-                         number.digits);
+        const clsX* stated = StatementsOf(set, code);
+        ExportConstraint(
+            xml, XMLVariableGroup(code), XMLVariableName(code), number.text, number.digits, [&] {
+                if (stated && !ExportConstraintStatements(xml, *stated, value, unit))
+                    TellDataError(*set.Parent, set.PRPCODE, "Missing repeatability in ");
+            });
     }
     const bool isPressure = HasVariable(set, "P") || set.PRPCODE == "PV" || set.PRPCODE == "P";
     const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, ":PB:");
@@ -124,23 +136,29 @@ RowExport RowExportOf(const clsTwo& set) {
     return rows;
 }
 
+bool IsNumericRow(const clsData& row) {
+    for (int n = 0; n <= row.nVar; ++n)
+        if (!IsNumeric(row.Values[static_cast<std::size_t>(n)])) return false;
+    return true;
+}
+
+constexpr const char* NoValidRows = "Rows without a valid number in ";
+
 // Why the set cannot be exported, or empty.
 std::string FaultOf(const clsTwo& set, const std::string& group, const RowExport& rows) {
     bool hasPlace = IsXmlName(group);
     for (int n = 1; n <= set.nVar; ++n)
         hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n)));
     if (!hasPlace) return NoPlaceInExport;
+    if (set.recData.IsEmpty()) return "No numerical data in ";
+    if (std::none_of(set.recData.begin(), set.recData.end(),
+                     [](const auto& row) { return IsNumericRow(*row); }))
+        return NoValidRows;
     if (PresentationOf(set).empty()) return "Unknown definition of results " + set.PROPERTY_FUNCT;
     std::string fault = ConversionFault(rows.quantities[0].unit);
     for (int n = 1; n <= set.nVar && fault.empty(); ++n)
         fault = ConversionFault(rows.quantities[static_cast<std::size_t>(n)].unit);
     return fault;
-}
-
-bool IsNumericRow(const clsData& row) {
-    for (int n = 0; n <= row.nVar; ++n)
-        if (!IsNumeric(row.Values[static_cast<std::size_t>(n)])) return false;
-    return true;
 }
 
 void ExportRows(XmlWriter& xml, const clsTwo& set, RowExport& rows) {
@@ -151,7 +169,7 @@ void ExportRows(XmlWriter& xml, const clsTwo& set, RowExport& rows) {
         else
             leftOut = true;
     }
-    if (leftOut) TellDataError(*set.Parent, set.PRPCODE, "Rows without a valid number in ");
+    if (leftOut) TellDataError(*set.Parent, set.PRPCODE, NoValidRows);
     if (rows.lacksRepeatability)
         TellDataError(*set.Parent, set.PRPCODE, "Missing repeatability in ");
 }
@@ -159,7 +177,7 @@ void ExportRows(XmlWriter& xml, const clsTwo& set, RowExport& rows) {
 } // namespace
 
 void clsTwo::ExportAll(XmlWriter& xml) const {
-    if (Parent == nullptr || Parent->Parent == nullptr || recData.IsEmpty()) return;
+    if (Parent == nullptr || Parent->Parent == nullptr) return;
     const std::string group = XMLPropertyGroup(PRPCODE, "Pure");
     RowExport rows = RowExportOf(*this);
     const std::string fault = FaultOf(*this, group, rows);

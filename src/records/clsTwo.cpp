@@ -110,7 +110,7 @@ void clsTwo::TakePending(const clsA& pending) {
     const std::string stated = CommentTag(Header.DATACOMMENT, "V1");
     if (nVar == 1 && !stated.empty()) VARIABLE1 = stated;
     if (pending.Factor <= 0) return;
-    if (PROPERTY_UNIT == "S") Factor = pending.Factor;
+    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
     if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 

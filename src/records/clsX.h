@@ -48,7 +48,7 @@ public:
     /// factor and molarMass [g/mol] are those of the conversion.
     void SaveX(LineWriter& out, std::string_view code, double factor = 0,
                double molarMass = 0) const;
-    /// The heads of the statements in the export; role is "Prop", "Var" or "Constr".
+    /// The heads of the statements in the export; role is "Prop" or "Var".
     void ExportX(XmlWriter& xml, std::string_view role) const;
 };
 

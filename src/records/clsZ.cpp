@@ -74,7 +74,7 @@ bool clsZ::Load(std::string_view line) {
 void clsZ::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
     if (pending.Factor <= 0 || !isOriginalUnit) return;
-    if (PROPERTY_UNIT == "S") Factor = pending.Factor;
+    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
     if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 

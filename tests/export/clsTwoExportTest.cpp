@@ -123,6 +123,21 @@ TEST_F(SetExport, PhasesAndConstraintsFollowThePropertyAndTheComment) {
     EXPECT_EQ(At(xml, "//nStdUncertValue"), "0.1 | 0.1");
 }
 
+TEST_F(SetExport, AConstraintCarriesItsStatementsItself) {
+    const std::string xml = Exported("^1 1 RIX S DIR 1\tY L & FP S & & &",
+                                     "^X 2 P L + 1 95 0.5% + 0 0.20 3 + 95 1.0 - & & - & & &\n"
+                                     "^X 3 WL L - & & & - & & & + & 1 - & & - & & &\n"
+                                     "^d 300 1.333 &\n",
+                                     "::Method:X:P = 250.0:WL = 5893:");
+    EXPECT_EQ(At(xml, "/Constraint/nConstraintValue"), "250.0 | 589.3");
+    EXPECT_EQ(At(xml, "/Constraint/ConstrUncertainty/sUncertEvaluator"), "Author | Author");
+    EXPECT_EQ(At(xml, "/Constraint/ConstrUncertainty/nExpandUncertValue"), "1.0");
+    EXPECT_EQ(At(xml, "/Constraint/ConstrUncertainty/nStdUncertValue"), "0.1");
+    EXPECT_EQ(At(xml, "/Constraint/ConstrRepeatability/nConstrRepeatValue"), "0.20");
+    EXPECT_EQ(At(xml, "/Constraint/ConstrDeviceSpec/nConstrDeviceSpecValue"), "1.25");
+    EXPECT_EQ(At(xml, "/Constraint//nUncertAssessNum"), "");
+}
+
 TEST_F(SetExport, WhatCannotLeaveIsToldOnce) {
     const std::string place = "\nSystem: water\nProperty: Density | Data Error!";
     desktop.Expect("Rows without a valid number in " + place);
@@ -135,8 +150,11 @@ TEST_F(SetExport, WhatCannotLeaveIsToldOnce) {
     EXPECT_EQ(At(Exported("^1 1 VDN ? DIR 1\tY L & FP S & & &", "^d 25 1 &\n"), ""), "");
     desktop.Expect("Invalid conversion factor" + place);
     EXPECT_EQ(At(Exported("^1 1 VDN S DIR 1\tY L & FP psi2 & & &", "^d 25 1 &\n"), ""), "");
-    // Without rows there is nothing to export.
+    // A set without rows does not vanish in silence.
+    desktop.Expect("No numerical data in " + place);
     EXPECT_EQ(At(Exported(kDensity, ""), ""), "");
+    desktop.Expect("Rows without a valid number in " + place);
+    EXPECT_EQ(At(Exported(kDensity, "^d 25 x 250 &\n"), ""), "");
 }
 
 TEST_F(SetExport, SetsAreCheckedAndReadInWords) {
