@@ -23,10 +23,12 @@ FormWindow::FormWindow(Windows& windows, ui::Form& form, QWidget* parent)
     MakeViews();
     MakeMenus();
     MakeToolbars();
-    Arrange();
+    QWidget* content = builder_.Build(form);
+    // What is hidden must be so before anybody asks for sizes: the layouts would remember them.
     for (const auto& view : views_)
         view->Refresh();
     builder_.Follow();
+    Place(*content);
     TakeFirstSize();
     Listen();
 }
@@ -44,19 +46,18 @@ void FormWindow::MakeViews() {
     }
 }
 
-void FormWindow::Arrange() {
-    QWidget* content = builder_.Build(form_);
+void FormWindow::Place(QWidget& content) {
     const QSize room = screen()->availableSize();
-    const QSize needed = content->minimumSizeHint();
+    const QSize needed = content.minimumSizeHint();
     const bool tooBig = needed.width() > room.width() || needed.height() > room.height() - 60;
     if (!tooBig || QGuiApplication::platformName() == "offscreen") {
-        setCentralWidget(content);
+        setCentralWidget(&content);
         return;
     }
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(content);
+    scroll->setWidget(&content);
     setCentralWidget(scroll);
 }
 

@@ -52,7 +52,7 @@ private:
     void AddMenuItem(ui::MenuItem& item);
     void DrawMenuItem(ui::MenuItem& item);
     void AddRecentMenu();
-    void Arrange();
+    void Place(QWidget& content);
     void TakeFirstSize();
     void Listen();
     void Schedule();

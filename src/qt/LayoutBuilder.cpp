@@ -224,7 +224,9 @@ void LayoutBuilder::AddField(QGridLayout& grid, int row, const ui::Layout& part)
     const ui::Layout& inside = part.parts.front();
     const bool isList = inside.kind == Kind::Item && inside.control->Kind() == ControlKind::ListBox;
     const bool tall = isList || GrowsDown(part);
-    grid.addWidget(label, row, 0, Qt::AlignRight | (tall ? Qt::AlignTop : Qt::AlignVCenter));
+    const bool marks = part.label && part.label->Kind() == ControlKind::CheckBox;
+    const Qt::Alignment side = marks ? Qt::AlignLeft : Qt::AlignRight; // marks one below the other
+    grid.addWidget(label, row, 0, side | (tall ? Qt::AlignTop : Qt::AlignVCenter));
     grid.addWidget(widget, row, 1, GrowsAcross(part) ? Qt::Alignment() : Qt::AlignLeft);
 }
 
@@ -279,7 +281,11 @@ QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
             continue;
         }
         const bool block = part.kind == Kind::Column || part.kind == Kind::Group || GrowsDown(part);
-        row->addWidget(Make(part), 0, block ? Qt::Alignment() : Qt::AlignVCenter);
+        QWidget* widget = Make(part);
+        // A field of fixed width takes no room from those that can use it.
+        if (part.kind == Kind::Field && !wide)
+            widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+        row->addWidget(widget, 0, block ? Qt::Alignment() : Qt::AlignVCenter);
     }
     if (!grows) row->addStretch(1);
     return owner;
