@@ -53,18 +53,23 @@ ui::Layout frmUnc::FrameLayout(int i) {
     using namespace ui;
     std::vector<Layout> evaluator = {cboDSEvaluator(i)};
     if (i == 0) evaluator.emplace_back(txtCalibrError);
+    // The mark of a block stands as the label of its fields.
+    const auto number = [](TextBox& box) { return Narrow(box, 12); };
+    const auto confidence = [](TextBox& box) { return Field(level, Narrow(box, 4)); };
     std::vector<Layout> rows = {
-        Row({chkDS(i), Field(lblDSValue(i), Row({txtDSValue(i), chkDSPerCent(i), lblDSPerCent(i)})),
-             Field(level, txtDSLevel(i)), Field(lblDSEvaluator(i), Row(std::move(evaluator)))}),
-        Row({chkRep(i), Field("Value:", Row({txtRValue(i), chkRPerCent(i)})),
-             Field("Repetitions:", txtRepetitions(i)), cboRType(i)}),
-        Row({chkUnc(i), Field("Value:", Row({txtUValue(i), chkUPerCent(i)})),
-             Field(level, txtULevel(i))})};
+        Field(chkDS(i), Row({Field(lblDSValue(i),
+                                   Row({number(txtDSValue(i)), chkDSPerCent(i), lblDSPerCent(i)})),
+                             confidence(txtDSLevel(i)),
+                             Field(lblDSEvaluator(i), Row(std::move(evaluator)))})),
+        Field(chkRep(i), Row({Field("Value:", Row({number(txtRValue(i)), chkRPerCent(i)})),
+                              Field("Repetitions:", Narrow(txtRepetitions(i), 4)), cboRType(i)})),
+        Field(chkUnc(i), Row({Field("Value:", Row({number(txtUValue(i)), chkUPerCent(i)})),
+                              confidence(txtULevel(i))}))};
     if (i == 0) {
-        rows.push_back(Row({chkComb, Field("Value:", Row({txtCUValue, chkCUPerCent})),
-                            Field(level, txtCULevel), cboCUType}));
-        rows.push_back(Row(
-            {chkCD, Field("RMS:", Row({txtRMS, chkRMSPerCent})), Field("Equation type:", txtEq)}));
+        rows.push_back(Field(chkComb, Row({Field("Value:", Row({number(txtCUValue), chkCUPerCent})),
+                                           confidence(txtCULevel), cboCUType})));
+        rows.push_back(Field(chkCD, Row({Field("RMS:", Row({number(txtRMS), chkRMSPerCent})),
+                                         Field("Equation type:", txtEq)})));
     }
     return Group(Frame(i), std::move(rows));
 }
@@ -78,7 +83,7 @@ void frmUnc::ArrangeControls() {
     parts.emplace_back(lblFigures);
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
-    PreferredColumns = 150;
+    PreferredColumns = 120;
 }
 
 void frmUnc::WireEvents() {

@@ -90,6 +90,7 @@ private:
     bool CheckRepetitions(ui::TextBox& box);
     bool Refuse(ui::Control& control, const std::string& text);
     void Calculate();
+    void TakeEvaluated(const clsProperty& head);
     void TakeEntries(clsProperty& quantity, int i) const;
     void ShowFigures(const clsProperty& head, const std::string& result);
     void Accept();

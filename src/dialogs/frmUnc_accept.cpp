@@ -97,10 +97,18 @@ void frmUnc::Calculate() {
     }
     const auto& method = Globals().CurrentMethod;
     const std::string result = EvaluateUncertainty(head, method ? method->MMass : 0);
-    txtKVOU.Text(result);
-    if (!txtCUValue.IsEmpty() && Val(txtKVOU.Text()) < Val(txtCUValue.Text()))
-        txtKVOU.Text(txtCUValue.Text());
+    TakeEvaluated(head);
     ShowFigures(head, result);
+}
+
+/// The evaluated figure of the value: that of a file stays until the operator's combined
+/// uncertainty is the larger one.
+void frmUnc::TakeEvaluated(const clsProperty& head) {
+    const clsX item = FromControls(0);
+    if (!item.iCU || item.CValue.empty()) return;
+    const double stated = Figure(item.CValue, head.Value);
+    if (Val(txtKVOU.Text()) >= stated) return;
+    txtKVOU.Text(item.CValue.ends_with('%') ? NumberText(stated) : item.CValue);
 }
 
 void frmUnc::TakeEntries(clsProperty& quantity, int i) const {

@@ -123,6 +123,7 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
         ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
                 "External mode");
     chkCD.Value(item.iCD);
+    txtKVOU.Text(item.KVOUValue);
     txtEq.Text(item.CDSpec);
     ShowStatement(item.CDRms, txtRMS, chkRMSPerCent);
 }
@@ -161,6 +162,7 @@ void frmUnc::ReadPropertyBlocks(clsX& item) const {
     item.CValue = item.iCU ? Statement(txtCUValue, chkCUPerCent) : "";
     const std::string& type = cboCUType.Chosen();
     item.CType = !item.iCU ? "" : type == propagation ? "A" : type == comparison ? "B" : item.CType;
+    item.KVOUValue = txtKVOU.Text();
     item.iCD = chkCD.Value();
     item.CDSpec = item.iCD ? std::string(TrimBlanks(txtEq.Text())) : "";
     item.CDRms = item.iCD ? Statement(txtRMS, chkRMSPerCent) : "";
