@@ -12,7 +12,7 @@ frmKey::frmKey() : Form("frmKey", "Experiment details") {
                     lstKey, ui::ButtonRow({cmdAccept, cmdCancel})});
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCancel;
-    HelpContext = 310;
+    HelpContext = 315;
     PreferredColumns = 70;
     cmdAccept.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };

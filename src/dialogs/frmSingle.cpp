@@ -20,7 +20,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpSingle = 320;
+constexpr int helpSingle = 325;
 constexpr const char* newEntry = "New";
 
 } // namespace
