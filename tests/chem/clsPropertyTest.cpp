@@ -9,6 +9,8 @@
 #include "chem/PropertyLimits.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "support/StrictDesktop.h"
+#include "ui/Forms.h"
 
 namespace vexora {
 namespace {
@@ -56,7 +58,7 @@ TEST(Property, UncertaintiesAreMergedAsWorkedOutByHand) {
             << line;
         ++cases;
     }
-    EXPECT_GT(cases, 20);
+    EXPECT_GT(cases, 35);
 }
 
 TEST(Property, MassBasedUnitUsesTheMolarMassAndNotAFactor) {
@@ -113,6 +115,54 @@ TEST(Property, LimitsRefuseAndQuestionAtTheirBounds) {
         EXPECT_EQ(IsValidValue(c.code, c.value), c.valid) << c.code << " " << c.value;
         EXPECT_EQ(IsPlausibleValue(c.code, c.value), c.plausible) << c.code << " " << c.value;
     }
+}
+
+class Verdicts : public testing::Test {
+protected:
+    static std::string Evaluate(const std::string& code, const std::string& text) {
+        clsProperty head;
+        head.PropertyCode = head.Name = code;
+        head.ConversionCode = "S";
+        head.Relation = "A";
+        head.Text = text;
+        const std::string result = EvaluateUncertainty(head, 0);
+        return result.empty() ? NumberText(head.SystemValue) : result;
+    }
+    void Ask(const std::string& value, ui::Answer answer) {
+        desktop.Expect("Value " + value + " is suspicious\nIs that all right?", answer);
+    }
+    test::StrictDesktop desktop;
+    ui::Forms forms{desktop};
+};
+
+TEST_F(Verdicts, AnInvalidValueIsRefusedAndASuspiciousOneAsked) {
+    desktop.Expect("Value -1 VDN is not valid");
+    EXPECT_EQ(Evaluate("VDN", "-1"), "Error");
+    Ask("5001 VDN", ui::Answer::No);
+    EXPECT_EQ(Evaluate("VDN", "5001"), "Error");
+    Ask("5001 VDN", ui::Answer::Yes);
+    EXPECT_EQ(Evaluate("VDN", "5001"), "5001");
+    EXPECT_EQ(Evaluate("VDN", "5000"), "5000");
+}
+
+TEST_F(Verdicts, AnswersHoldToTheEndOfARun) {
+    {
+        const SuspicionsOfRun run;
+        Ask("5001 VDN", ui::Answer::Yes);
+        EXPECT_EQ(Evaluate("VDN", "5001"), "5001");
+        EXPECT_EQ(Evaluate("VDN", "5001.0"), "5001");
+        Ask("5002 VDN", ui::Answer::YesToAll);
+        EXPECT_EQ(Evaluate("VDN", "5002"), "5002");
+        EXPECT_EQ(Evaluate("VDN", "6000"), "6000");
+        Ask("2500 T", ui::Answer::No); // of another quantity nothing was said
+        EXPECT_EQ(Evaluate("T", "2500"), "Error");
+        Ask("2500 T", ui::Answer::No); // and a No is no answer for the next row
+        EXPECT_EQ(Evaluate("T", "2500"), "Error");
+        desktop.Expect("Value -1 VDN is not valid"); // which no Yes covers
+        EXPECT_EQ(Evaluate("VDN", "-1"), "Error");
+    }
+    Ask("6000 VDN", ui::Answer::No);
+    EXPECT_EQ(Evaluate("VDN", "6000"), "Error");
 }
 
 TEST(Property, CopyTakesTheWholeChainAndSharesNothing) {
