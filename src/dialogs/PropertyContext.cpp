@@ -50,7 +50,7 @@ void TakeProperty(const StoredProperty& stored, const clsA& header) {
     globals.ExpPurpose = header.EXPPURPOSE;
     globals.PropertyFlags = header.PRPFLAG;
     globals.CurrentMethod->Factor = stored.factor;
-    globals.PropertyText = UnitText(row, unit, factor);
+    globals.PropertyText = UnitText(row.Unit, unit, factor);
     globals.CurrentProperty = std::make_shared<clsProperty>();
     clsProperty& head = *globals.CurrentProperty;
     head.PropertyCode = stored.code;

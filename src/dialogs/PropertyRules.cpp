@@ -54,17 +54,17 @@ double FactorInUnit(std::string_view code, double factor) {
     return factor <= 0 && IsNumeric(code) ? Val(code) : factor;
 }
 
-std::string UnitText(const PropertyRow& row, std::string_view code, double factor) {
+std::string UnitText(const std::string& systemUnit, std::string_view code, double factor) {
     factor = FactorInUnit(code, factor);
     if (factor > 0) {
         const std::string times = NumberText(factor) + "*";
-        return row.Unit == unitOne ? times : times + " " + row.Unit;
+        return systemUnit == unitOne ? times : times + " " + systemUnit;
     }
-    if (row.Unit == unitOne) return "Dimensionless";
-    if (IsSystemUnit(code)) return row.Unit;
+    if (systemUnit == unitOne) return "Dimensionless";
+    if (IsSystemUnit(code)) return systemUnit;
     std::string known(code);
-    const std::string text = ConversionText(known, row.Unit);
-    return text.empty() ? row.Unit : text;
+    std::string text = ConversionText(known, systemUnit);
+    return text.empty() ? std::string(code) : text;
 }
 
 std::string UnitCode(const PropertyRow& row, std::string_view text) {

@@ -74,7 +74,6 @@ private:
     void TakeSet();
     void TakeRows();
     void AnalyseCurrentProperty();
-    void NameStatements();
     void FillHeader();
     void FillRows();
     std::string CaptionText() const;

@@ -3,63 +3,21 @@
 #include <algorithm>
 
 #include "chem/clsProperty.h"
-#include "dialogs/PropertyRules.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
+#include "records/PropertyChain.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
-#include "reference/Numbers.h"
-#include "reference/Text.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
 
 namespace {
 
-struct Quantity {
-    std::string name;
-    std::string unit;
-};
-
-Quantity PropertyOf(const clsTwo& set, bool original) {
-    const auto row = FindProperty(set.PRPCODE, "Pure");
-    if (!row) return {set.PRPCODE, {}};
-    return {row->Property, original ? UnitText(*row, set.PROPERTY_UNIT, set.Factor) : row->Unit};
-}
-
-Quantity VariableOf(const clsTwo& set, int n, bool original) {
-    const auto row = FindVariable(set.VARIABLE(n));
-    if (!row) return {set.VARIABLE(n), {}};
-    std::string code = set.VAR_UNIT(n);
-    const bool asTyped = original && !IsSystemUnit(code);
-    const std::string text = asTyped ? ConversionText(code, row->Unit) : std::string();
-    return {row->IndVariable, text.empty() ? row->Unit : text};
-}
-
 /// A unit that needs a look into the tables becomes its factor here, not for every row.
-void TakeUnit(clsProperty& item, const std::string& code, double factor, bool original) {
-    item.ConversionCode = original ? code : "S";
-    item.Factor = original ? factor : 0;
-    if (original && factor <= 0 && IsUnitLong(code)) item.Factor = ConversionFactor(code);
-}
-
-/// A statement of the set in the unit of the cells.
-std::string InUnitOf(const clsProperty& item, const clsX& stated, const std::string& text) {
-    if (stated.N == 0 || !stated.inSystemUnits || !IsNumeric(text)) return text;
-    const double one = ToSystem(item.ConversionCode, 1, item.Factor, 0) -
-                       ToSystem(item.ConversionCode, 0, item.Factor, 0);
-    return one == 0 ? text : NumberText(Val(text) / one);
-}
-
-/// What the whole set states serves the rows that state nothing.
-void TakeMasters(clsProperty& item, const clsX& stated) {
-    item.masterds = stated.iDS ? InUnitOf(item, stated, stated.DSValue) : "";
-    item.masterrep = stated.iRep ? InUnitOf(item, stated, stated.RValue) : "";
-    item.masterunc = stated.iUnc ? InUnitOf(item, stated, stated.UValue) : "";
-    item.masternrep = stated.iRep ? static_cast<int>(ToInteger(Val(stated.Repetitions))) : 0;
-    item.DSLevel = stated.iDS ? Val(stated.DSLevel) : 0;
-    item.replevel = stated.iRep ? stated.RType : 0;
-    item.unclevel = stated.iUnc ? Val(stated.ULevel) : 0;
+void TakeFactor(clsProperty& item) {
+    if (item.Factor <= 0 && IsUnitLong(item.ConversionCode))
+        item.Factor = ConversionFactor(item.ConversionCode);
 }
 
 } // namespace
@@ -71,7 +29,7 @@ void frmData2::TakeSet() {
     molarMass_ = set_->MolarMass();
     TakeRows();
     AnalyseCurrentProperty();
-    NameStatements();
+    NameStatements(*set_, original_);
     Caption(CaptionText());
     lblColumns.Caption(ColumnsText());
     FillHeader();
@@ -99,52 +57,18 @@ void frmData2::TakeRows() {
 
 /// The chain that checks and evaluates a row: the property, then its variables.
 void frmData2::AnalyseCurrentProperty() {
-    const auto before = Globals().CurrentProperty;
-    const auto named = [](clsProperty& item, const Quantity& quantity) {
-        item.Name = quantity.name + (quantity.unit.empty() ? "" : ", " + quantity.unit);
-    };
-    chain_ = std::make_shared<clsProperty>();
-    chain_->PropertyCode = set_->PRPCODE;
-    chain_->Relation = set_->Relation();
-    TakeUnit(*chain_, set_->PROPERTY_UNIT, set_->Factor, original_);
-    named(*chain_, PropertyOf(*set_, false));
-    if (before && before->PropertyCode == set_->PRPCODE)
-        chain_->PrecisionText = before->PrecisionText;
-    clsProperty* last = chain_.get();
-    for (int n = 1; n <= set_->nVar; ++n) {
-        last->isLast = false;
-        last->NextItem = std::make_shared<clsProperty>();
-        last = last->NextItem.get();
-        last->PropertyCode = set_->VARIABLE(n);
-        last->Relation = "A";
-        TakeUnit(*last, set_->VAR_UNIT(n), 0, original_);
-        named(*last, VariableOf(*set_, n, false));
-    }
-    int place = 0;
+    if (adjusted_) adjusted_->UX = set_->UX;
+    chain_ = BuildChain(adjusted_ ? *adjusted_ : *set_, original_);
     for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
-        TakeMasters(*item, set_->UX[static_cast<std::size_t>(place++)]);
+        TakeFactor(*item);
     Globals().CurrentProperty = chain_;
 }
 
-/// Every quantity has a place among the statements, named for the dialog that asks for them.
-void frmData2::NameStatements() {
-    for (int n = 0; n <= set_->nVar; ++n) {
-        clsX& item = set_->UX[static_cast<std::size_t>(n)];
-        const Quantity quantity =
-            n == 0 ? PropertyOf(*set_, original_) : VariableOf(*set_, n, original_);
-        item.N = n;
-        item.PRPCODE = n == 0 ? set_->PRPCODE : set_->VARIABLE(n);
-        item.Name = quantity.name;
-        item.Unit = quantity.unit;
-        if (!item.IsStated() && item.PHASE.empty()) item.PHASE = set_->PHASE1;
-    }
-}
-
 std::string frmData2::CaptionText() const {
-    const Quantity property = PropertyOf(*set_, original_);
-    std::string text = property.name + " (" + property.unit + ") as function of ";
+    const clsX& property = set_->UX[0];
+    std::string text = property.Name + " (" + property.Unit + ") as function of ";
     for (int n = 1; n <= set_->nVar; ++n)
-        text += (n > 1 ? ", " : "") + VariableOf(*set_, n, original_).name;
+        text += (n > 1 ? ", " : "") + set_->UX[static_cast<std::size_t>(n)].Name;
     return text;
 }
 
@@ -161,11 +85,10 @@ void frmData2::NamePlot(PlotTable& table) const {
 std::string frmData2::ColumnsText() const {
     std::string text;
     for (int n = 1; n <= set_->nVar; ++n) {
-        const Quantity variable = VariableOf(*set_, n, original_);
-        text += "Var" + std::to_string(n) + ": " + variable.name + ", " + variable.unit + "    ";
+        const clsX& variable = set_->UX[static_cast<std::size_t>(n)];
+        text += "Var" + std::to_string(n) + ": " + variable.Name + ", " + variable.Unit + "    ";
     }
-    const Quantity property = PropertyOf(*set_, original_);
-    return text + "Property: " + property.name + ", " + property.unit;
+    return text + "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
 }
 
 /// Lays the columns out anew; cells keep their texts, and the history goes with them.

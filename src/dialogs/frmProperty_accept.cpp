@@ -78,8 +78,8 @@ void frmProperty::StoreUnit(const PropertyRow& row) {
     method.Factor = ownUnit ? factor_ : 0;
     globals.PropertyUnit = ownUnit ? "*" : UnitCode(row, lstConv.Chosen());
     globals.PropertyText = globals.OriginalUnits
-                               ? UnitText(row, globals.PropertyUnit, method.Factor)
-                               : UnitText(row, "S", 0);
+                               ? UnitText(row.Unit, globals.PropertyUnit, method.Factor)
+                               : UnitText(row.Unit, "S", 0);
     if (!globals.CurrentProperty || globals.PropertyCode != row.Code)
         globals.CurrentProperty = std::make_shared<clsProperty>();
     globals.PropertyCode = row.Code;

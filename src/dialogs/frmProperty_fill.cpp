@@ -178,7 +178,7 @@ void frmProperty::ShowUnit(const PropertyRow& row) {
     if (factor > 0)
         OfferFactor(factor);
     else
-        lstConv.Choose(UnitText(row, globals.PropertyUnit, 0));
+        lstConv.Choose(UnitText(row.Unit, globals.PropertyUnit, 0));
     unitBefore_ = lstConv.Index();
 }
 
@@ -191,7 +191,7 @@ void frmProperty::OfferFactor(double factor) {
     const int last = lstConv.Count() - 1;
     if (factor_ > 0) lstConv.Remove(last - 1);
     factor_ = factor;
-    lstConv.Insert(lstConv.Count() - 1, UnitText(*Chosen(), "*", factor));
+    lstConv.Insert(lstConv.Count() - 1, UnitText(Chosen()->Unit, "*", factor));
     lstConv.Index(lstConv.Count() - 2);
 }
 

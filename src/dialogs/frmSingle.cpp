@@ -10,8 +10,6 @@
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/PropertyChain.h"
-#include "records/clsL.h"
-#include "records/clsS.h"
 #include "records/clsZ.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -21,7 +19,6 @@ namespace vexora {
 namespace {
 
 constexpr int helpSingle = 325;
-constexpr const char* newEntry = "New";
 
 } // namespace
 
@@ -73,14 +70,14 @@ void frmSingle::Load() {
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     const ui::FillingScope filling(*this);
     if (editing_) TakeRecord(*globals.CurrentZ);
-    FillCompounds();
+    choice_.Fill();
+    if (editing_) choice_.Lock();
+    UseSample();
     ShowProperty();
     if (editing_)
         ShowRecord(*globals.CurrentZ);
     else
         txtComment.Text(globals.PropertyComment);
-    cboSubst.Enabled(!editing_);
-    cboSample.Enabled(!editing_);
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     const bool canAverage = ui::Forms::Current().Knows("frmAverage");
@@ -95,16 +92,15 @@ void frmSingle::Unload() {
 
 void frmSingle::CompoundClick() {
     if (Filling) return;
-    FillSamples();
+    choice_.FillSamples();
+    UseSample();
     Touch();
 }
 
 void frmSingle::SampleClick() {
     if (Filling) return;
-    if (cboSample.Chosen() == newEntry)
-        NewSample();
-    else
-        UseSample(cboSample.Index());
+    choice_.SampleClick();
+    UseSample();
     Touch();
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "dialogs/PropertyRules.h"
+#include "dialogs/SampleChoice.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
-class clsL;
-class clsS;
 class clsZ;
 
 /// One value of a property of a sample, by itself or at a fixed value of one variable. Behind
@@ -58,10 +56,7 @@ private:
     void Touch();
 
     // What stands on the form (frmSingle_fill.cpp).
-    void FillCompounds();
-    void FillSamples();
-    void NewSample();
-    void UseSample(int index);
+    void UseSample();
     void ShowProperty();
     void ShowVariable();
     void ShowPhases();
@@ -70,8 +65,6 @@ private:
     void TakeRecord(const clsZ& record);
     void ShowComment(const clsZ& record);
     void ShowRecord(const clsZ& record);
-    std::shared_ptr<clsL> Compound() const;
-    std::shared_ptr<clsS> Sample() const;
     bool IsFixed() const;
 
     // Accepting (frmSingle_accept.cpp).
@@ -87,16 +80,15 @@ private:
     void StoreValues(clsZ& record) const;
     void StoreStatements(clsZ& record) const;
     void TakeTexts() const;
-    double MolarMass() const;
     std::string ChosenPhase(const ui::ComboBox& list) const;
 
+    SampleChoice choice_{*this, cboSubst, cboSample};
     PropertyRow row_;                // the property in hand
     std::string variable_;           // code of the fixed variable
     std::string variableUnit_;       // system unit of it
     std::array<clsX, 2> statements_; // of the property and of the fixed variable
     bool editing_ = false;
     bool stored_ = false; // nothing has changed since the last store
-    int sample_ = -1;     // the sample in force while "New" is being made
 };
 
 } // namespace vexora

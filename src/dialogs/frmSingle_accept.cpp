@@ -5,7 +5,6 @@
 #include "chem/clsProperty.h"
 #include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsL.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
@@ -43,7 +42,7 @@ bool frmSingle::Check() {
     const KVOGlobal& globals = Globals();
     if (globals.PropertyCode.empty() || !globals.CurrentProperty)
         return Refuse(cmdMethod, "Please review the property selection");
-    if (!Sample()) return Refuse(cboSample, "Select the sample");
+    if (!choice_.Sample()) return Refuse(cboSample, "Select the sample");
     return CheckPhases() && CheckVariable() && CheckValue();
 }
 
@@ -76,7 +75,7 @@ bool frmSingle::CheckValue() {
     if (!CheckUnit()) return false;
     TakeTexts();
     bool ok = true;
-    Globals().CurrentProperty->Convert(ok, MolarMass());
+    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass);
     return ok || Refuse(txtValue, "Invalid property value");
 }
 
@@ -94,7 +93,10 @@ void frmSingle::Store() {
     StoreValues(*record);
     StoreStatements(*record);
     StoreHeader(*record);
-    if (!editing_) record->AttachTo(*Sample());
+    if (editing_)
+        record->Rekey();
+    else
+        record->AttachTo(*choice_.Sample());
     globals.CurrentZ = record;
     globals.Saved = false;
     globals.DialogAccepted = true;
@@ -111,7 +113,7 @@ void frmSingle::StoreValues(clsZ& record) const {
     const KVOGlobal& globals = Globals();
     const bool original = globals.OriginalUnits;
     record.nVar = globals.VariableCount;
-    record.SMPNM = Sample()->SMPNM;
+    record.SMPNM = choice_.Sample()->SMPNM;
     record.PRPCODE = row_.Code;
     record.PRPSETNO = txtPrpSetNo.Text();
     record.isOriginalUnit = original;
@@ -149,15 +151,6 @@ void frmSingle::TakeTexts() const {
     item.Text = NormalizeNumber(txtIndVariable.Text());
     item.ConversionCode =
         Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
-}
-
-/// Of the compound in hand [g/mol]; a record read from a file may bring its own where the formula
-/// gives none.
-double frmSingle::MolarMass() const {
-    const auto compound = Compound();
-    const double mass = compound ? MolarMassOfRN(compound->RN) : 0;
-    if (mass > 0 || !editing_) return mass;
-    return Globals().CurrentZ->FallbackMolarMass;
 }
 
 std::string frmSingle::ChosenPhase(const ui::ComboBox& list) const {

@@ -8,15 +8,11 @@
 #include "dialogs/PhaseRules.h"
 #include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsL.h"
-#include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
-#include "ui/Forms.h"
 
 namespace vexora {
 
@@ -48,68 +44,9 @@ void ChoosePhase(ui::ComboBox& list, std::string_view code) {
 
 } // namespace
 
-void frmSingle::FillCompounds() {
-    const KVOGlobal& globals = Globals();
-    FillCompoundList(cboSubst);
-    if (!globals.CurrentR) return;
-    cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
-    FillSamples();
-    if (globals.CurrentS) {
-        if (const auto compound = Compound())
-            cboSample.Index(static_cast<int>(compound->recS.Position(globals.CurrentS.get())) - 1);
-    }
-    UseSample(cboSample.Index());
-}
-
-void frmSingle::FillSamples() {
-    const ui::FillingScope filling(*this);
-    cboSample.Clear();
-    sample_ = -1;
-    const auto compound = Compound();
-    if (!compound) return;
-    for (const auto& sample : compound->recS)
-        cboSample.Add(sample->SMPNM);
-    if (ui::Forms::Current().Knows("frmSample")) cboSample.Add("New");
-    if (compound->recS.Count() == 1) cboSample.Index(0);
-    UseSample(cboSample.Index());
-}
-
-/// The sample dialog is a link of the chain behind this one.
-void frmSingle::NewSample() {
-    KVOGlobal& globals = Globals();
-    const auto compound = Compound();
-    const std::size_t before = compound->recS.Count();
-    const int chosen = sample_;
-    globals.CurrentL = compound;
-    globals.OpenForms.push_back(Name());
-    ui::Forms::Current().Get("frmSample").ShowModal();
-    FillSamples();
-    const ui::FillingScope filling(*this);
-    const std::size_t count = compound->recS.Count();
-    if (count > before) {
-        const auto made = compound->recS.Item(count);
-        const auto found = compound->FindS(static_cast<int>(Val(made->SMPNM)));
-        if (!found) ui::Say("Sample internal error");
-        cboSample.Index(found ? static_cast<int>(count) - 1 : -1);
-    } else {
-        cboSample.Index(chosen);
-    }
-    UseSample(cboSample.Index());
-}
-
-void frmSingle::UseSample(int index) {
-    KVOGlobal& globals = Globals();
-    sample_ = index;
-    const auto compound = Compound();
-    const auto sample = Sample();
-    globals.CurrentMethod->MMass = MolarMass();
-    globals.CurrentMethod->Purity = sample ? sample->Purity : 0;
-    if (editing_) return;
-    if (sample) {
-        globals.CurrentL = compound;
-        globals.CurrentS = sample;
-    }
-    ProposeSetNumber();
+void frmSingle::UseSample() {
+    choice_.PutInContext(editing_ ? Globals().CurrentZ->FallbackMolarMass : 0);
+    if (!editing_) ProposeSetNumber();
 }
 
 /// Brings the form in line with the property in force.
@@ -167,7 +104,7 @@ void frmSingle::ShowUnit() {
 /// The number of a record that keeps its property does not change.
 void frmSingle::ProposeSetNumber() {
     const KVOGlobal& globals = Globals();
-    const auto sample = Sample();
+    const auto sample = choice_.Sample();
     if (!sample || row_.Code.empty()) {
         txtPrpSetNo.Text("");
     } else if (editing_ && globals.CurrentZ->PRPCODE == row_.Code) {
@@ -213,18 +150,6 @@ void frmSingle::ShowRecord(const clsZ& record) {
         lstVariable_Unit.Choose(ConversionText(code, variableUnit_));
     }
     txtValue.Text(record.PRPVALUE);
-}
-
-std::shared_ptr<clsL> frmSingle::Compound() const {
-    const KVOGlobal& globals = Globals();
-    if (!globals.CurrentR || cboSubst.Index() < 0) return nullptr;
-    return globals.CurrentR->recL.Item(static_cast<std::size_t>(cboSubst.Index() + 1));
-}
-
-std::shared_ptr<clsS> frmSingle::Sample() const {
-    const auto compound = Compound();
-    if (!compound || cboSample.Index() < 0) return nullptr;
-    return compound->recS.Item(static_cast<std::size_t>(cboSample.Index() + 1));
 }
 
 bool frmSingle::IsFixed() const {

@@ -1,5 +1,7 @@
 #include "dialogs/frmTwo.h"
 
+#include <utility>
+
 #include "chem/clsMethod.h"
 #include "dialogs/PropertyContext.h"
 #include "globals/FormChain.h"
@@ -65,25 +67,26 @@ void frmTwo::WireEvents() {
 void frmTwo::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
-    if (globals.EditTwo) record_ = globals.CurrentTwo;
+    as_ = std::exchange(globals.SetToRepeat, nullptr);
+    if (globals.EditTwo) as_ = record_ = globals.CurrentTwo;
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     {
         const ui::FillingScope filling(*this);
-        if (record_) {
-            TakeProperty({record_->PRPCODE, record_->PROPERTY_UNIT, record_->Factor,
-                          record_->isOriginalUnit, record_->nVar},
-                         record_->Header);
+        if (as_) {
+            TakeProperty(
+                {as_->PRPCODE, as_->PROPERTY_UNIT, as_->Factor, as_->isOriginalUnit, as_->nVar},
+                as_->Header);
         }
         FillLists();
-        FillCompounds();
+        choice_.Fill();
+        if (record_) choice_.Lock();
+        UseSample();
         ShowProperty();
-        if (record_)
-            ShowRecord(*record_);
+        if (as_)
+            ShowRecord(*as_);
         else
             txtComment.Text(globals.PropertyComment);
     }
-    cboSubst.Enabled(!record_);
-    cboSample.Enabled(!record_);
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     ShowCaption();
     if (row_.Property == row_.Code) ui::Say("Property Code Error");
@@ -95,11 +98,14 @@ void frmTwo::Unload() {
 
 void frmTwo::CompoundClick() {
     if (Filling) return;
-    FillSamples();
+    choice_.FillSamples();
+    UseSample();
 }
 
 void frmTwo::SampleClick() {
-    if (!Filling) UseSample();
+    if (Filling) return;
+    choice_.SampleClick();
+    UseSample();
 }
 
 void frmTwo::Variable1Click() {

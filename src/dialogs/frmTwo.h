@@ -4,19 +4,19 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/SampleChoice.h"
 #include "dialogs/TwoRules.h"
 #include "reference/Vocabulary.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
-class clsL;
-class clsS;
 class clsTwo;
 
 /// Defines a set of a property against one or two state variables and leads to its table
 /// (frmData2). The set joins the tree, or an edited one is changed (EditTwo), only when the table
-/// has been accepted. The property in hand stands in the globals.
+/// has been accepted. The property in hand stands in the globals, or comes from a set that is to be
+/// repeated (SetToRepeat).
 class frmTwo : public ui::Form {
 public:
     frmTwo();
@@ -74,8 +74,6 @@ private:
 
     // What stands on the form (frmTwo_fill.cpp).
     void FillLists();
-    void FillCompounds();
-    void FillSamples();
     void UseSample();
     void ShowProperty();
     void ShowCaption();
@@ -89,10 +87,9 @@ private:
     void ProposeSetNumber();
     void ShowRecord(const clsTwo& record);
     void ShowVariables(const clsTwo& record);
+    std::string UnitShown(const clsTwo& record, int n) const;
     void ShowDefinitionOf(const clsTwo& record);
     void ShowPresentation(const clsTwo& record);
-    std::shared_ptr<clsL> Compound() const;
-    std::shared_ptr<clsS> Sample() const;
     std::string VariableOf(const ui::ComboBox& list) const;
     TwoDraft Draft() const;
 
@@ -110,11 +107,14 @@ private:
     void BuildPropertyChain() const;
     bool EnterNumbers(const std::shared_ptr<clsTwo>& set);
     void Store(const std::shared_ptr<clsTwo>& set);
-    std::string UnitCodeOf(const ui::ComboBox& units, const std::string& variable) const;
+    bool CheckUnits();
+    std::string UnitCodeOf(int n) const;
 
+    SampleChoice choice_{*this, cboSubst, cboSample, "SELECT SAMPLE"};
     PropertyRow row_; // the property in hand
     std::vector<VariableRow> variables_;
-    std::shared_ptr<clsTwo> record_; // the set that is being edited, null for a new one
+    std::shared_ptr<clsTwo> record_;   // the set that is being edited, null for a new one
+    std::shared_ptr<const clsTwo> as_; // the set that the form began with: that one, or its pattern
 };
 
 } // namespace vexora

@@ -45,6 +45,18 @@ std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
     return copy;
 }
 
+/// A new set of the same definition: what is stated about all its rows, without any of them.
+std::shared_ptr<clsTwo> DefinitionOf(const clsTwo& pattern) {
+    auto set = std::make_shared<clsTwo>();
+    set->DATATYPE = pattern.DATATYPE;
+    set->commentInSystemUnits = pattern.commentInSystemUnits;
+    set->FallbackMolarMass = pattern.FallbackMolarMass;
+    set->UX = pattern.UX;
+    for (clsX& item : set->UX)
+        item.KVOUValue.clear();
+    return set;
+}
+
 /// The working context as it was before the table opened; the table makes its own.
 class ContextScope {
 public:
@@ -123,7 +135,19 @@ bool frmTwo::Check() {
     const auto findings = CheckTwo(Draft());
     if (!findings.empty()) return Refuse(FieldOf(findings.front().field), findings.front().text);
     const std::string fault = UnitFault(*Globals().CurrentProperty);
-    return fault.empty() || Refuse(cmdMethod, fault);
+    if (!fault.empty()) return Refuse(cmdMethod, fault);
+    return CheckUnits();
+}
+
+/// Values of a variable whose unit cannot be converted are never stored.
+bool frmTwo::CheckUnits() {
+    if (!Globals().OriginalUnits) return true;
+    for (int n = 1; n <= Globals().VariableCount; ++n) {
+        const std::string code = UnitCodeOf(n);
+        if (IsKnownConversion(code) && ConversionFactor(code) > 0) continue;
+        return Refuse(n == 1 ? lstVariable_Unit : lstVar2_Unit, "Invalid conversion factor");
+    }
+    return true;
 }
 
 void frmTwo::NormalizeNumbers() {
@@ -132,8 +156,8 @@ void frmTwo::NormalizeNumbers() {
 }
 
 std::shared_ptr<clsTwo> frmTwo::MakeSet() const {
-    auto set = record_ ? CopyOf(*record_) : std::make_shared<clsTwo>();
-    set->Parent = Sample().get();
+    auto set = record_ ? CopyOf(*record_) : as_ ? DefinitionOf(*as_) : std::make_shared<clsTwo>();
+    set->Parent = choice_.Sample().get();
     WriteDefinition(*set);
     WriteVariables(*set);
     WriteResults(*set);
@@ -147,7 +171,7 @@ void frmTwo::WriteDefinition(clsTwo& set) const {
     const TwoDraft draft = Draft();
     const bool original = globals.OriginalUnits;
     set.nVar = draft.nVar;
-    set.SMPNM = Sample()->SMPNM;
+    set.SMPNM = choice_.Sample()->SMPNM;
     set.PRPCODE = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
     set.PRPSETNO = txtPrpSetNo.Text();
     set.isOriginalUnit = original;
@@ -166,15 +190,10 @@ void frmTwo::WriteDefinition(clsTwo& set) const {
 
 void frmTwo::WriteVariables(clsTwo& set) const {
     const TwoDraft draft = Draft();
-    const bool keepUnits = !set.isOriginalUnit && record_;
-    const auto unit = [&](const ui::ComboBox& list, const std::string& code, int n) {
-        const bool same = record_ && record_->VARIABLE(n) == code;
-        return keepUnits && same ? record_->VAR_UNIT(n) : UnitCodeOf(list, code);
-    };
     set.VARIABLE1 = draft.variable1;
-    set.VAR1_UNIT = unit(lstVariable_Unit, draft.variable1, 1);
+    set.VAR1_UNIT = UnitCodeOf(1);
     set.VARIABLE2 = set.nVar > 1 ? draft.variable2 : "";
-    set.VAR2_UNIT = set.nVar > 1 ? unit(lstVar2_Unit, draft.variable2, 2) : "";
+    set.VAR2_UNIT = set.nVar > 1 ? UnitCodeOf(2) : "";
     for (int n = 1; n <= set.nVar; ++n) {
         clsX& item = set.UX[static_cast<std::size_t>(n)];
         const bool another = !item.PRPCODE.empty() && item.PRPCODE != set.VARIABLE(n);
@@ -184,20 +203,27 @@ void frmTwo::WriteVariables(clsTwo& set) const {
     set.UX[0].PHASE = set.PHASE1;
 }
 
-std::string frmTwo::UnitCodeOf(const ui::ComboBox& units, const std::string& variable) const {
+/// The code of a variable's unit. One that the form came with is kept as it is, also where no table
+/// knows it, or where values in system units bear it as the memory of the paper's unit.
+std::string frmTwo::UnitCodeOf(int n) const {
+    const ui::ComboBox& units = n == 1 ? lstVariable_Unit : lstVar2_Unit;
+    const std::string variable = VariableOf(n == 1 ? cboVar1 : cboVar2);
+    const bool original = Globals().OriginalUnits;
+    const bool same = as_ && as_->VARIABLE(n) == variable && as_->isOriginalUnit == original;
+    if (same && units.Chosen() == UnitShown(*as_, n)) return as_->VAR_UNIT(n);
     const auto row = FindVariable(variable);
-    return row && Globals().OriginalUnits ? ConversionCodeOf(units.Chosen(), row->Unit) : "S";
+    return row && original ? ConversionCodeOf(units.Chosen(), row->Unit) : "S";
 }
 
 void frmTwo::WriteResults(clsTwo& set) const {
     const TwoDraft draft = Draft();
     const bool relative = NeedsRelation(draft.function);
     const ResultDefinition before =
-        record_ ? ParseDefinition(record_->PROPERTY_FUNCT) : ResultDefinition();
+        as_ ? ParseDefinition(as_->PROPERTY_FUNCT) : ResultDefinition();
     const std::string relation =
         before.relation == "FX" && draft.relation == "TF" ? "FX" : draft.relation;
     const ResultDefinition definition = {draft.function, relative ? relation : std::string()};
-    const bool same = record_ && definition == before; // what a file states besides is kept
+    const bool same = as_ && definition == before; // what a file states besides is kept
     set.PROPERTY_FUNCT = definition.function + definition.relation;
     const bool fixedT = relative && FixesTemperature(draft.relation);
     const bool fixedP = relative && FixesPressure(draft.relation);
@@ -218,8 +244,8 @@ void frmTwo::WriteComment(clsTwo& set) const {
         for (const char* code : {"WL", "WF", "P", "T"})
             tags = WithoutTag(tags, std::string(code) + " = ");
     }
-    if (record_ && (set.nVar > 1 || record_->VARIABLE1 != set.VARIABLE1))
-        tags = WithoutTag(tags, "V1:" + record_->VARIABLE1);
+    if (as_ && (set.nVar > 1 || as_->VARIABLE1 != set.VARIABLE1))
+        tags = WithoutTag(tags, "V1:" + as_->VARIABLE1);
     if (stated) tags = SetKeyTag(tags, constant, true);
     BuildPropertyChain();
     FillHeader(set.Header, !record_,
@@ -258,12 +284,10 @@ bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
 void frmTwo::Store(const std::shared_ptr<clsTwo>& set) {
     KVOGlobal& globals = Globals();
     if (record_) {
-        ui::TreeNode* const node = record_->tNode;
-        *record_ = *set;
-        record_->tNode = node;
+        record_->Replace(*set);
         globals.CurrentTwo = record_;
     } else {
-        set->AttachTo(*Sample());
+        set->AttachTo(*choice_.Sample());
         globals.CurrentTwo = set;
     }
     globals.Saved = false;

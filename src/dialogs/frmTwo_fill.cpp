@@ -5,10 +5,9 @@
 #include "chem/clsMethod.h"
 #include "dialogs/KeyTags.h"
 #include "dialogs/PropertyContext.h"
+#include "dialogs/PropertyRules.h"
 #include "globals/KVOGlobal.h"
 #include "records/PropertyChain.h"
-#include "records/clsL.h"
-#include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
@@ -20,7 +19,6 @@ namespace vexora {
 namespace {
 
 // First entries of the lists in which nothing is chosen at first.
-constexpr const char* selectSample = "SELECT SAMPLE";
 constexpr const char* selectVariable = "SELECT VARIABLE";
 constexpr const char* selectPhase = "SELECT PHASE";
 
@@ -102,43 +100,8 @@ void frmTwo::FillLists() {
         lstREF_PHASE.Add(PhaseName(code));
 }
 
-void frmTwo::FillCompounds() {
-    const KVOGlobal& globals = Globals();
-    cboSubst.Clear();
-    if (!globals.CurrentR) return;
-    for (const auto& compound : globals.CurrentR->recL)
-        cboSubst.Add(compound->ShowKey());
-    cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
-    FillSamples();
-    const auto compound = Compound();
-    if (!compound || !globals.CurrentS) return;
-    const auto position = compound->recS.Position(globals.CurrentS.get());
-    if (position > 0) cboSample.Index(static_cast<int>(position));
-    UseSample();
-}
-
-void frmTwo::FillSamples() {
-    const ui::FillingScope filling(*this);
-    cboSample.Assign({selectSample});
-    if (const auto compound = Compound()) {
-        for (const auto& sample : compound->recS)
-            cboSample.Add(sample->SMPNM);
-    }
-    cboSample.Index(cboSample.Count() == 2 ? 1 : 0);
-    UseSample();
-}
-
 void frmTwo::UseSample() {
-    KVOGlobal& globals = Globals();
-    const auto compound = Compound();
-    const auto sample = Sample();
-    const double mass = compound ? MolarMassOfRN(compound->RN) : 0;
-    globals.CurrentMethod->MMass = record_ && mass <= 0 ? record_->MolarMass() : mass;
-    globals.CurrentMethod->Purity = sample ? sample->Purity : 0;
-    if (sample && !record_) {
-        globals.CurrentL = compound;
-        globals.CurrentS = sample;
-    }
+    choice_.PutInContext(record_ ? record_->MolarMass() : as_ ? as_->FallbackMolarMass : 0);
     ProposeSetNumber();
 }
 
@@ -252,27 +215,15 @@ void frmTwo::PreSet() {
 
 /// The number of a set that keeps its property does not change.
 void frmTwo::ProposeSetNumber() {
-    const auto sample = Sample();
+    const auto sample = choice_.Sample();
     const TwoDraft draft = Draft();
     const std::string code = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
-    const auto isTaken = [&](int number) {
-        for (const auto& set : sample->recTwo) {
-            if (set != record_ && set->nVar == draft.nVar && set->PRPCODE == code &&
-                set->PRPSETNO == std::to_string(number))
-                return true;
-        }
-        return false;
-    };
-    if (!sample || code.empty()) {
+    if (!sample || code.empty())
         txtPrpSetNo.Text("");
-    } else if (record_ && record_->PRPCODE == code) {
+    else if (record_ && record_->PRPCODE == code)
         txtPrpSetNo.Text(record_->PRPSETNO);
-    } else {
-        int number = 1;
-        while (isTaken(number))
-            ++number;
-        txtPrpSetNo.Text(std::to_string(number));
-    }
+    else
+        txtPrpSetNo.Text(std::to_string(sample->NextTwoNumber(code, draft.nVar)));
 }
 
 void frmTwo::ShowRecord(const clsTwo& record) {
@@ -303,13 +254,18 @@ void frmTwo::ShowVariables(const clsTwo& record) {
         if (variable->Find(name) < 0) variable->Add(name);
         variable->Choose(name);
         ShowUnits(*variable, *units);
-        const std::string system = DefaultUnit(name);
-        std::string code = record.VAR_UNIT(n);
-        const bool isSystem = !record.isOriginalUnit || IsSystemUnit(code);
-        const std::string unit = isSystem ? system : ConversionText(code, system);
+        const std::string unit = UnitShown(record, n);
         if (!unit.empty() && units->Find(unit) < 0) units->Add(unit);
         units->Choose(unit);
     }
+}
+
+/// The unit of a variable as the list shows it; what no table knows is shown as its code.
+std::string frmTwo::UnitShown(const clsTwo& record, int n) const {
+    const std::string& code = record.VAR_UNIT(n);
+    const auto row = FindVariable(record.VARIABLE(n));
+    if (!row) return code;
+    return UnitText(row->Unit, record.isOriginalUnit ? code : "S", 0);
 }
 
 void frmTwo::ShowDefinitionOf(const clsTwo& record) {
@@ -335,18 +291,6 @@ void frmTwo::ShowPresentation(const clsTwo& record) {
     ShowDigits();
 }
 
-std::shared_ptr<clsL> frmTwo::Compound() const {
-    const KVOGlobal& globals = Globals();
-    if (!globals.CurrentR || cboSubst.Index() < 0) return nullptr;
-    return globals.CurrentR->recL.Item(static_cast<std::size_t>(cboSubst.Index() + 1));
-}
-
-std::shared_ptr<clsS> frmTwo::Sample() const {
-    const auto compound = Compound();
-    if (!compound || cboSample.Index() < 1) return nullptr;
-    return compound->recS.Item(static_cast<std::size_t>(cboSample.Index()));
-}
-
 /// Code of the variable chosen behind the first entry, empty for none.
 std::string frmTwo::VariableOf(const ui::ComboBox& list) const {
     if (list.Index() <= 0) return {};
@@ -358,7 +302,7 @@ TwoDraft frmTwo::Draft() const {
     TwoDraft draft;
     draft.nVar = Globals().VariableCount;
     draft.property = row_.Code;
-    draft.hasSample = Sample() != nullptr;
+    draft.hasSample = choice_.Sample() != nullptr;
     draft.variable1 = VariableOf(cboVar1);
     draft.unit1 = lstVariable_Unit.Chosen();
     draft.variable2 = VariableOf(cboVar2);

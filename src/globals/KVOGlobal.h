@@ -89,6 +89,9 @@ struct KVOGlobal {
     bool EditComplex = false;
     bool EditComplexSample = false;
 
+    // The set whose definition a new one begins with; the dialog that opens takes it.
+    std::shared_ptr<clsTwo> SetToRepeat;
+
     // The working context of the open data dialog; made anew before each dialog.
     std::shared_ptr<clsMethod> CurrentMethod;
     std::shared_ptr<clsProperty> CurrentProperty; // head of the property chain

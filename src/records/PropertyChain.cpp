@@ -108,7 +108,10 @@ void TakeMasters(clsProperty& item, const clsX& statements) {
 }
 
 std::shared_ptr<clsProperty> BuildChain(const clsTwo& set) {
-    const bool original = set.isOriginalUnit;
+    return BuildChain(set, set.isOriginalUnit);
+}
+
+std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original) {
     const std::string& comment = set.Header.DATACOMMENT;
     auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
     head->Relation = set.Relation();
@@ -139,7 +142,10 @@ std::shared_ptr<clsProperty> BuildChain(const clsZ& value) {
 }
 
 void NameStatements(clsTwo& set) {
-    const bool original = set.isOriginalUnit;
+    NameStatements(set, set.isOriginalUnit);
+}
+
+void NameStatements(clsTwo& set, bool original) {
     NameProperty(set.UX[0], set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
                  original ? set.Factor : 0);
     for (int n = 1; n <= set.nVar; ++n) {

@@ -17,6 +17,8 @@ class clsZ;
 /// The chain of a set: units and relations of its quantities, its statements and the precisions of
 /// its comment, all in the units in which the rows are entered. Texts and values are empty.
 std::shared_ptr<clsProperty> BuildChain(const clsTwo& set);
+/// The same with the rows in the units of the paper or not, whatever the set says.
+std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original);
 std::shared_ptr<clsProperty> BuildChain(const clsZ& value);
 
 /// The statements of an item become the defaults of its quantity; what is not stated is emptied.
@@ -30,6 +32,7 @@ clsX InEnteredUnit(const clsX& item, std::string_view unitCode);
 
 /// Codes, names and units of the items of a set, for the dialog that edits them.
 void NameStatements(clsTwo& set);
+void NameStatements(clsTwo& set, bool original);
 void NameStatements(clsZ& value);
 
 } // namespace vexora

@@ -139,6 +139,15 @@ void clsTwo::AttachTo(clsS& sample) {
     if (sample.tNode) MakeNode(sample.tNode);
 }
 
+void clsTwo::Replace(const clsTwo& other) {
+    clsS* const parent = Parent;
+    ui::TreeNode* const node = tNode;
+    *this = other;
+    Parent = parent;
+    tNode = node;
+    if (Parent) Parent->recTwo.Rekey(this, Key());
+}
+
 double clsTwo::MolarMass() const {
     const double mass = Parent ? Parent->MolarMass() : 0;
     return mass > 0 ? mass : FallbackMolarMass;

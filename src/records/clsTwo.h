@@ -72,6 +72,9 @@ public:
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsS& sample);
+    /// Takes over all fields and rows of another set and stays where it is: same parent, position
+    /// and node, under the key that it has now.
+    void Replace(const clsTwo& other);
 
     /// Molar mass [g/mol] for units by mass, 0 when not known.
     double MolarMass() const;

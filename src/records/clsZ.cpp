@@ -104,6 +104,10 @@ void clsZ::AttachTo(clsS& sample) {
     if (sample.tNode) MakeNode(sample.tNode);
 }
 
+void clsZ::Rekey() {
+    if (Parent) Parent->recZ.Rekey(this, Key());
+}
+
 double clsZ::SystemValue() const {
     if (!isOriginalUnit) return Val(PRPVALUE);
     return ToSystem(PROPERTY_UNIT, Val(PRPVALUE), Factor, NeedsMolarMass() ? MolarMass() : 0);

@@ -59,6 +59,8 @@ public:
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsS& sample);
+    /// Puts it under the key that it has now, at the same place among its siblings.
+    void Rekey();
 
     /// Value of the property in the system unit, 0 when it cannot be converted.
     double SystemValue() const;

@@ -58,6 +58,7 @@ void frmMain::WireMenus() {
     mnuFileExit.OnClick = [this] { Close(); };
     mnuExpandNode.OnClick = [this] { mnuExpandNode_Click(); };
     mnuEditNode.OnClick = [this] { mnuEditNode_Click(); };
+    mnuNewLike.OnClick = [this] { mnuNewLike_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
     ShowHelpOn(mnuIntro, 10);
     ShowHelpOn(mnuScope, 20);

@@ -29,6 +29,7 @@ public:
     ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
     ui::MenuItem mnuExpandNode{*this, "mnuExpandNode", "Expand Node", &mnuEdit};
     ui::MenuItem mnuEditNode{*this, "mnuEditNode", "Edit Node (Double Click)", &mnuEdit, "F2"};
+    ui::MenuItem mnuNewLike{*this, "mnuNewLike", "New set like this", &mnuEdit, "Ctrl+L"};
     ui::MenuItem mnuDelete{*this, "mnuDelete", "Delete Node", &mnuEdit, "Delete"};
     ui::MenuItem mnuTools{*this, "mnuTools", "T&ools"};
     ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
@@ -136,6 +137,8 @@ private:
     void mnuEditNode_Click();
     void EditNode();
     bool HasMouseSelection();
+    void mnuNewLike_Click();
+    bool MayRepeat() const;
 };
 
 } // namespace vexora

@@ -95,4 +95,20 @@ void frmMain::EditNode() {
     Activate();
 }
 
+/// Only sets against state variables have rows to begin anew.
+bool frmMain::MayRepeat() const {
+    const KVOGlobal& globals = Globals();
+    return globals.CurrentKey == "RLS1" && globals.CurrentTwo && !globals.ReadOnly &&
+           ui::Forms::Current().Knows("frmTwo");
+}
+
+/// A set with the definition of the selected one, on the way of a new one.
+void frmMain::mnuNewLike_Click() {
+    KVOGlobal& globals = Globals();
+    if (!HasMouseSelection() || !MayRepeat()) return;
+    RenewCurrentMethod();
+    globals.SetToRepeat = globals.CurrentTwo;
+    if (!OpenDialog("frmTwo")) Activate();
+}
+
 } // namespace vexora

@@ -84,6 +84,7 @@ void frmMain::Enable() {
         button->Enabled(IsOffered(*button));
     for (ui::MenuItem* menu : {&mnuFile, &mnuEdit, &mnuTools})
         menu->Enabled(true);
+    mnuNewLike.Enabled(MayRepeat());
     RefreshTexts();
 }
 

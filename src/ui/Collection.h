@@ -19,10 +19,7 @@ public:
 
     /// Adds at the end; the answer is the key under which the entry really stands.
     std::string Add(Pointer entry, std::string_view key = {}) {
-        std::string unique(key);
-        for (int n = 2; !unique.empty() && byKey_.contains(unique); ++n) {
-            unique = std::string(key) + "~" + std::to_string(n);
-        }
+        const std::string unique = Unique(key);
         if (!unique.empty()) byKey_[unique] = entry.get();
         positions_[entry.get()] = entries_.size();
         entries_.push_back(std::move(entry));
@@ -63,6 +60,18 @@ public:
         return true;
     }
 
+    /// Gives an entry another key at the same position; the answer is the key under which it really
+    /// stands, empty when it is not here.
+    std::string Rekey(const T* entry, std::string_view key) {
+        const std::size_t position = Position(entry);
+        if (position == 0) return {};
+        std::string& stored = keys_[position - 1];
+        if (!stored.empty()) byKey_.erase(stored);
+        stored = Unique(key);
+        if (!stored.empty()) byKey_[stored] = entry;
+        return stored;
+    }
+
     void Clear() {
         entries_.clear();
         keys_.clear();
@@ -74,6 +83,13 @@ public:
     auto end() const { return entries_.end(); }
 
 private:
+    std::string Unique(std::string_view key) const {
+        std::string unique(key);
+        for (int n = 2; !unique.empty() && byKey_.contains(unique); ++n)
+            unique = std::string(key) + "~" + std::to_string(n);
+        return unique;
+    }
+
     std::vector<Pointer> entries_;
     std::vector<std::string> keys_;
     std::unordered_map<std::string, const T*> byKey_;
