@@ -73,13 +73,14 @@ std::string frmData2::CaptionText() const {
 }
 
 void frmData2::NamePlot(PlotTable& table) const {
-    const auto named = [](const Quantity& quantity) {
-        return quantity.name + (quantity.unit.empty() ? "" : " (" + quantity.unit + ")");
+    const auto named = [](const clsX& item) {
+        return item.Name + (item.Unit.empty() ? "" : " (" + item.Unit + ")");
     };
-    table.YName = named(PropertyOf(*set_, original_));
+    table.YName = named(set_->UX[0]);
     table.VarNames[0] = "Point number";
     for (int n = 1; n <= set_->nVar; ++n)
-        table.VarNames[static_cast<std::size_t>(n - 1)] = named(VariableOf(*set_, n, original_));
+        table.VarNames[static_cast<std::size_t>(n - 1)] =
+            named(set_->UX[static_cast<std::size_t>(n)]);
 }
 
 std::string frmData2::ColumnsText() const {

@@ -218,8 +218,7 @@ std::string frmTwo::UnitCodeOf(int n) const {
 void frmTwo::WriteResults(clsTwo& set) const {
     const TwoDraft draft = Draft();
     const bool relative = NeedsRelation(draft.function);
-    const ResultDefinition before =
-        as_ ? ParseDefinition(as_->PROPERTY_FUNCT) : ResultDefinition();
+    const ResultDefinition before = as_ ? ParseDefinition(as_->PROPERTY_FUNCT) : ResultDefinition();
     const std::string relation =
         before.relation == "FX" && draft.relation == "TF" ? "FX" : draft.relation;
     const ResultDefinition definition = {draft.function, relative ? relation : std::string()};

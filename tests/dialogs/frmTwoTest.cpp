@@ -102,6 +102,17 @@ protected:
         globals.EditTwo = false;
         forms.DropClosed();
     }
+    std::shared_ptr<clsTwo> Add(const std::string& line) {
+        const auto set = std::make_shared<clsTwo>();
+        EXPECT_TRUE(set->Load(line)) << line;
+        set->AttachTo(*globals.CurrentS);
+        return set;
+    }
+    static clsX Statement(const std::string& line) {
+        clsX item;
+        item.Load(line);
+        return item;
+    }
     static std::string Lines(clsTwo& set) {
         LineWriter out;
         set.PrintAll(out);
@@ -318,6 +329,81 @@ TEST_F(frmTwoTest, ConstantGoesIntoItsTag) {
     ASSERT_EQ(globals.CurrentS->recTwo.Count(), 1u);
     EXPECT_EQ(Stored()->Header.DATACOMMENT, "::Method:UNKNOWN:P = 101.325:");
     EXPECT_EQ(Stored()->VAR1_UNIT + Stored()->PHASE2, "C&");
+}
+
+TEST_F(frmTwoTest, RepeatedSetTakesTheDefinitionAndNoMore) {
+    const auto set = std::make_shared<clsTwo>();
+    ASSERT_TRUE(set->Load("^2 2 VDN v RPF 3\tSGq L & DP T C P L 298.15 & C"));
+    clsA header;
+    header.Load("^A note O C 9 xyz UUU 3/4/2001 sealed ::Method:PYCNOM:later:m:UFactor:2:dT:0.5:");
+    set->TakePending(header);
+    set->AddX(Statement("^X 0 VDN L - & & & + 1 0.1% 5 - & & - & & - & & &"));
+    set->AddX(Statement("^X 2 P L - & & & - & & & + 95 0.2 - & & - & & &"));
+    set->UX[0].KVOUValue = "0.003";
+    auto row = std::make_shared<clsData>();
+    ASSERT_TRUE(row->Load("^g 20.0 3 14.7 3 62.3 5 0.0001", 2));
+    set->AddRow(row);
+    set->AttachTo(*globals.CurrentS);
+    const std::string before = Lines(*set);
+    globals.SetToRepeat = set;
+    auto& form = Open<frmTwo>("frmTwo");
+    EXPECT_EQ(globals.SetToRepeat, nullptr);
+    EXPECT_EQ(form.txtPrpSetNo.Text(), "2");
+    EXPECT_EQ(form.lstVar2_Unit.Chosen(), "psi");
+    desktop.OnModal([](ui::Form& shown) {
+        EXPECT_TRUE(Globals().CurrentTwo->recData.IsEmpty());
+        EXPECT_TRUE(Globals().IncludeDigits);
+        dynamic_cast<frmTable&>(shown).Accept();
+    });
+    form.cmdOK.UserClick();
+    EXPECT_EQ(Lines(*set), before);
+    ASSERT_EQ(globals.CurrentS->recTwo.Count(), 2u);
+    EXPECT_EQ(Lines(*globals.CurrentS->recTwo.Item(2)),
+              "^A & & C 9 & & 1/15/2026 sealed ::Method:PYCNOM:later:m:UFactor:2:dT:0.5:\n"
+              "^2 2 VDN v RPF 2\tSGq L & DP T C P L 298.15 & C\n"
+              "^X 2 P L - & & & - & & & + 95 0.2 - & & - & & &\n"
+              "^X 0 VDN L - & & & + 1 0.1% 5 - & & - & & - & & &\n^M 0\n");
+}
+
+TEST_F(frmTwoTest, SetThatChangesItsCodeKeepsItsPlaceUnderANewKey) {
+    for (const char* line :
+         {"^1 2 P S DIR 1\tN L & PB S & & &", "^1 2 PV S DIR 1\tN L G PB S & & &"})
+        Add(line);
+    const auto set = Stored();
+    auto& form = Edit(set);
+    Pick(form.lstPhase2, "Gas");
+    EXPECT_EQ(form.txtPrpSetNo.Text(), "2");
+    form.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_EQ(Stored(), set);
+    EXPECT_EQ(globals.CurrentS->recTwo.Item("12PV2"), set);
+    EXPECT_EQ(globals.CurrentS->recTwo.Item("12P1"), nullptr);
+}
+
+TEST_F(frmTwoTest, UnitThatNoTableKnowsIsKeptInSightAndRefused) {
+    const auto set = Add("^1 2 VDN S DIR 1\tN L & FP furlong & & &");
+    auto& form = Edit(set);
+    EXPECT_EQ(form.lstVariable_Unit.Chosen(), "furlong");
+    ExpectRefusal(form, "Invalid conversion factor", form.lstVariable_Unit);
+    EXPECT_EQ(set->VAR1_UNIT, "furlong");
+    Pick(form.lstVariable_Unit, "C");
+    form.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_EQ(set->VAR1_UNIT, "C");
+    // A factor is a unit; one in system units is only remembered.
+    const auto byFactor = Add("^1 2 PV S DIR 1\tN L G PB 0.5 & & &");
+    auto& second = Edit(byFactor);
+    EXPECT_EQ(second.lstVariable_Unit.Chosen(), "0.5* K");
+    second.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_EQ(byFactor->VAR1_UNIT, "0.5");
+    const auto converted = Add("^1 2 RSS S DIR 1\tN L & FP furlong & & &");
+    converted->isOriginalUnit = false;
+    auto& third = Edit(converted);
+    EXPECT_EQ(third.lstVariable_Unit.Chosen(), "K");
+    third.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_EQ(converted->VAR1_UNIT, "furlong");
 }
 
 TEST_F(frmTwoTest, ReviewOffersWhatHasTablesAndAnUnknownCodeIsTold) {
