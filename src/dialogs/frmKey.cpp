@@ -13,7 +13,7 @@ frmKey::frmKey() : Form("frmKey", "Experiment details") {
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCancel;
     HelpContext = 315;
-    PreferredColumns = 70;
+    PreferredColumns = 80;
     cmdAccept.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };
 }

@@ -71,8 +71,6 @@ void frmProperty::Activate() {
         before_ = {globals.CurrentMethod->Method, globals.KeyRest};
         Fill();
     }
-    fraInvariant.Visible(!IsModal());
-    fraVariable.Visible(!IsModal());
     ShowEntries();
 }
 

@@ -156,6 +156,8 @@ void frmProperty::ShowEntries() {
     cmdThree.Visible(!row);
     cmdThree.Enabled(false);
     cmdThree.ToolTip("A pure compound has no more than two state variables");
+    fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
+    fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
     const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
     cmdOK.Enabled(clear);
     cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");

@@ -85,6 +85,30 @@ TLayout* Bare(QWidget* owner) {
     return layout;
 }
 
+int WidestLabel(const QGridLayout& grid) {
+    int widest = 0;
+    for (int row = 0; row < grid.rowCount(); ++row) {
+        const QLayoutItem* item = grid.itemAtPosition(row, 0);
+        if (!item || !item->widget() || item == grid.itemAtPosition(row, 1)) continue;
+        widest = std::max(widest, item->widget()->sizeHint().width()); // also of one not yet shown
+    }
+    return widest;
+}
+
+// Labels in the groups of a column stand on the edge of those around them.
+void ShareLabelEdge(const QGridLayout& grid) {
+    const int edge = WidestLabel(grid);
+    for (int i = 0; i < grid.count(); ++i) {
+        const auto* box = qobject_cast<QGroupBox*>(grid.itemAt(i)->widget());
+        if (!box || !box->layout() || box->layout()->count() != 1) continue;
+        const QWidget* content = box->layout()->itemAt(0)->widget();
+        auto* inner = content ? qobject_cast<QGridLayout*>(content->layout()) : nullptr;
+        if (!inner || WidestLabel(*inner) == 0) continue;
+        const int inset = box->contentsMargins().left() + box->layout()->contentsMargins().left();
+        inner->setColumnMinimumWidth(0, std::max(edge - inset, 0));
+    }
+}
+
 } // namespace
 
 bool GrowsDown(const ui::Layout& layout) {
@@ -200,6 +224,7 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
         ++row;
     }
     if (!grows && !loose) grid->setRowStretch(row, 1);
+    if (hasFields) columns_.push_back(grid);
     return owner;
 }
 
@@ -288,7 +313,16 @@ QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
         row->addWidget(widget, 0, block ? Qt::Alignment() : Qt::AlignVCenter);
     }
     if (!grows) row->addStretch(1);
+    HideWith(parts, owner);
     return owner;
+}
+
+// A row of nothing that is shown keeps no place.
+void LayoutBuilder::HideWith(const std::vector<ui::Layout>& parts, QWidget* owner) {
+    Companion companion{owner, nullptr, {}};
+    for (const ui::Layout& part : parts)
+        Gather(part, companion.controls);
+    companions_.push_back(std::move(companion));
 }
 
 QWidget* LayoutBuilder::MakeGroup(const ui::Layout& layout) {
@@ -361,6 +395,8 @@ QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
 }
 
 void LayoutBuilder::Follow() {
+    for (const QGridLayout* column : columns_)
+        ShareLabelEdge(*column);
     for (const Companion& companion : companions_) {
         const auto& of = companion.controls;
         const bool any = of.empty() || std::any_of(of.begin(), of.end(), [](const auto* control) {

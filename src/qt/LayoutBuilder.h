@@ -44,6 +44,7 @@ private:
     void AddField(QGridLayout& grid, int row, const ui::Layout& part);
     void AddRowOfFields(QGridLayout& grid, int row, const ui::Layout& part);
     QWidget* MakeRow(const std::vector<ui::Layout>& parts);
+    void HideWith(const std::vector<ui::Layout>& parts, QWidget* owner);
     QWidget* MakeGroup(const ui::Layout& layout);
     QWidget* MakeLoneField(const ui::Layout& layout);
     QWidget* MakePages(const ui::Layout& layout);
@@ -59,6 +60,7 @@ private:
     std::unordered_set<const ui::Control*> placed_;
     std::vector<Companion> companions_;
     std::vector<Book> books_;
+    std::vector<QGridLayout*> columns_; // those with fields
 };
 
 /// True when the part can use more height (or width) than its content asks for.

@@ -1,8 +1,10 @@
 #include "qt/Look.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
+#include <QStyleOption>
 
 namespace vexora::qt {
 
@@ -31,11 +33,31 @@ QPalette Palette(bool dark) {
     return palette;
 }
 
+/// Draws the edge of marks to tick: on a dark base the style's own cannot be seen.
+class EdgedStyle : public QProxyStyle {
+public:
+    EdgedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) return;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(option->palette.color(QPalette::PlaceholderText));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
+
 } // namespace
 
 void TakeLook(const std::string& look) {
     if (look != "dark" && look != "light") return;
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    if (look == "dark")
+        QApplication::setStyle(new EdgedStyle);
+    else
+        QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(Palette(look == "dark"));
 }
 
