@@ -13,6 +13,7 @@ using Kind = TableColumn::Kind;
 
 bool IsGoodStatement(const TableColumn& column, const std::string& cell) {
     if (cell.empty()) return true;
+    if (column.kind == Kind::KVO) return IsNumeric(cell) || cell == "Error";
     const bool mayBePercent = column.kind != Kind::Digits && column.kind != Kind::Repetitions;
     if (mayBePercent && cell.ends_with('%')) return IsNumeric(cell.substr(0, cell.size() - 1));
     return IsNumeric(cell);
@@ -59,7 +60,7 @@ std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns,
         if (!fault.empty()) findings.push_back({row, column, fault});
     }
     for (int column = 0; column < columns.Count(); ++column) {
-        if (!columns[column].IsStatement() || IsGoodStatement(columns[column], cell(column)))
+        if (columns[column].kind == Kind::Value || IsGoodStatement(columns[column], cell(column)))
             continue;
         findings.push_back({row, column, "Invalid number\nCorrect it or clear the cell"});
     }

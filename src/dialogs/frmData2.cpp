@@ -42,8 +42,8 @@ void frmData2::ArrangeControls() {
     using namespace ui;
     Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings, Row({chkSup, Stretch()}),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
-    PreferredColumns = 100;
-    PreferredRows = 36;
+    PreferredColumns = 130;
+    PreferredRows = 40;
 }
 
 void frmData2::WireEvents() {
@@ -59,6 +59,11 @@ void frmData2::WireEvents() {
     txtCell.OnKey = [this](ui::Key& key) { CellKeys(key); };
     txtCell.OnLostFocus = [this] { ToStandardMode(); };
     undo_.OnChange = [this] { TableChanged(); };
+    undo_.OnCell = [this](TableEdit& edit, int row, int column) {
+        // A failed evaluation was that of the old values.
+        const int figure = columns_.Find(TableColumn::Kind::KVO);
+        if (column != figure && tblData.Cell(row, figure) == "Error") edit.Cell(row, figure, {});
+    };
     lstFindings.OnClick = [this] {
         const int index = lstFindings.Index();
         if (!Filling && index >= 0 && index < static_cast<int>(listed_.size()))
@@ -75,11 +80,11 @@ void frmData2::WireMenus() {
     mnuFileOpen.OnClick = [this] { OpenFile(); };
     mnuFileSave.OnClick = [this] { SaveFile(); };
     mnuUndo.OnClick = [this] {
-        lblNotice.Caption("");
+        ShowNotice("");
         undo_.Undo();
     };
     mnuRedo.OnClick = [this] {
-        lblNotice.Caption("");
+        ShowNotice("");
         undo_.Redo();
     };
     mnuCopy.OnClick = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
@@ -93,6 +98,7 @@ void frmData2::WireMenus() {
     mnuLastFinding.OnClick = [this] { StepFinding(-1); };
     mnuAction2D.OnClick = [this] { Action2D(); };
     mnuSplit.OnClick = [this] { Split(); };
+    mnuSystemUnits.OnClick = [this] { AdjustUnits(); };
     const auto help = [](ui::MenuItem& item, int context) {
         item.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
     };
@@ -111,6 +117,7 @@ void frmData2::Load() {
     cmdView.ToolTip(canPlot ? "" : "Plots come with a later edition");
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr);
+    if (!set_) mnuSystemUnits.Enabled(false);
     if (Globals().FirstRun) ui::Say(firstRunText);
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "dialogs/TableChecks.h"
+#include "grid/TablePaste.h"
 #include "grid/TableUndo.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
@@ -42,6 +43,7 @@ public:
     ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
+    ui::MenuItem mnuSystemUnits{*this, "mnuSystemUnits", "To &system units", &mnuTable};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
     ui::MenuItem mnuHelpSeq{*this, "mnuHelpSeq", "&Sequence of work", &mnuHelp};
@@ -86,7 +88,9 @@ private:
     void GridKeys(ui::Key& key);
     void CellKeys(ui::Key& key);
     void MoveTo(int row, int column);
+    bool MoveAlong(int row, int column, bool backwards);
     void Paste(const std::string& text);
+    bool FillSelection(const PastedTable& block);
     void PasteShown();
     bool PutIn(const std::string& text, int row, int column);
     bool MakesRoomFor(const std::string& text, std::size_t columns, int row, int column);
@@ -95,8 +99,16 @@ private:
     void Action2D();
     void Split();
     void Clear();
+    void ShowNotice(std::string told);
     std::string TableText() const;
     int LastRow() const;
+
+    // The units of the cells (frmData2_units.cpp).
+    void AdjustUnits();
+    std::shared_ptr<clsTwo> Adjusted(const std::vector<int>& rows) const;
+    void TakeUnits(const std::shared_ptr<clsTwo>& adjusted, const std::array<clsX, 5>& statements,
+                   const std::vector<std::shared_ptr<clsData>>& rows);
+    void ShowUnits();
 
     // Marks and findings (frmData2_findings.cpp).
     void TableChanged();
@@ -127,7 +139,7 @@ private:
     double UncertaintyOf(int row) const;
 
     std::shared_ptr<clsTwo> set_;
-    std::unique_ptr<clsTwo> adjusted_;           // set of mixed units, brought to system units
+    std::shared_ptr<clsTwo> adjusted_;           // the set as brought to system units, or null
     std::array<clsX, 5> statementsBefore_;       // restored when the table is cancelled
     std::vector<std::shared_ptr<clsData>> rows_; // as they stood at the beginning
     std::shared_ptr<clsProperty> chain_;
@@ -139,6 +151,7 @@ private:
     TableUndo undo_{tblData};
     std::map<int, std::vector<Finding>> findings_; // by row
     std::vector<Finding> listed_;                  // as the list shows them
+    std::string told_;                             // what the last paste had to guess
     int editRow_ = 0, editColumn_ = 0;
 };
 

@@ -30,8 +30,7 @@ void frmData2::TakeSet() {
     TakeRows();
     AnalyseCurrentProperty();
     NameStatements(*set_, original_);
-    Caption(CaptionText());
-    lblColumns.Caption(ColumnsText());
+    ShowUnits();
     FillHeader();
     FillRows();
 }
@@ -44,7 +43,7 @@ void frmData2::TakeRows() {
     const bool none = !rows_.empty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
     original_ = set_->isOriginalUnit && all;
     if (original_ || rows_.empty() || none) return;
-    adjusted_ = std::make_unique<clsTwo>(*set_);
+    adjusted_ = std::make_shared<clsTwo>(*set_);
     adjusted_->recData.Clear();
     for (const auto& row : rows_)
         adjusted_->recData.Add(std::make_shared<clsData>(*row));
@@ -52,7 +51,7 @@ void frmData2::TakeRows() {
     adjusted_->AdjustUnits();
     rows_.assign(adjusted_->recData.begin(), adjusted_->recData.end());
     set_->UX = adjusted_->UX;
-    lblNotice.Caption("Rows in the units of the paper were brought to system units");
+    told_ = "Rows in the units of the paper were brought to system units";
 }
 
 /// The chain that checks and evaluates a row: the property, then its variables.
@@ -131,6 +130,7 @@ void frmData2::FillRows() {
     }
     undo_.Clear();
     FindAgain(1, tblData.Rows() - 1);
+    ShowNotice(told_);
 }
 
 } // namespace vexora

@@ -24,6 +24,7 @@ void frmData2::TableChanged() {
     const int gone = tblData.Rows();
     findings_.erase(findings_.lower_bound(gone), findings_.end());
     FindAgain(undo_.FirstRow(), std::min(undo_.LastRow(), gone - 1));
+    ShowNotice(told_);
 }
 
 void frmData2::FindAgain(int firstRow, int lastRow) {

@@ -28,6 +28,13 @@ bool IsArrow(const std::string& name) {
     return name == "Up" || name == "Down" || name == "Left" || name == "Right";
 }
 
+std::string Join(const std::vector<std::string>& notices) {
+    std::string text;
+    for (const std::string& notice : notices)
+        text += (text.empty() ? "" : "\n") + notice;
+    return text;
+}
+
 } // namespace
 
 void frmData2::ToEditMode(const std::string& text) {
@@ -57,6 +64,14 @@ void frmData2::GridKeys(ui::Key& key) {
     if (key.FullName() == "Enter" || key.FullName() == "F2") {
         key.swallowed = true;
         ToEditMode(tblData.Cell(block.top, block.left));
+    } else if (key.FullName() == "Backspace") {
+        key.swallowed = true;
+        EmptySelection(undo_);
+    } else if (key.FullName() == "Ctrl+Y") {
+        key.swallowed = true;
+        mnuRedo.UserClick();
+    } else if (key.name == "Tab" && !key.control) {
+        key.swallowed = MoveAlong(block.top, block.left, key.shift);
     } else if (key.character != 0) {
         key.swallowed = true; // other characters begin no number
         if (StartsNumber(key.character)) {
@@ -67,7 +82,7 @@ void frmData2::GridKeys(ui::Key& key) {
     }
 }
 
-/// Enter and the arrows leave the cell for its neighbour, Escape leaves it as it was.
+/// Enter, Tab and the arrows leave the cell for its neighbour, Escape leaves it as it was.
 void frmData2::CellKeys(ui::Key& key) {
     const std::string name = key.FullName();
     if (name == "Escape") {
@@ -76,17 +91,38 @@ void frmData2::CellKeys(ui::Key& key) {
         tblData.SetFocus();
         return;
     }
-    if (name != "Enter" && name != "Tab" && !IsArrow(name)) return;
+    const bool along = name == "Tab" || name == "Shift+Tab";
+    if (!along && name != "Enter" && name != "Shift+Enter" && !IsArrow(name)) return;
     key.swallowed = true;
     const int row = editRow_;
     const int column = editColumn_;
     ToStandardMode();
-    MoveTo(row + (name == "Up"                        ? -1
-                  : name == "Down" || name == "Enter" ? 1
-                                                      : 0),
-           column + (name == "Left"                     ? -1
-                     : name == "Right" || name == "Tab" ? 1
-                                                        : 0));
+    if (along) return static_cast<void>(MoveAlong(row, column, key.shift));
+    const bool up = name == "Up" || name == "Shift+Enter";
+    const bool down = name == "Down" || name == "Enter";
+    MoveTo(row + (up     ? -1
+                  : down ? 1
+                         : 0),
+           column + (name == "Left"    ? -1
+                     : name == "Right" ? 1
+                                       : 0));
+}
+
+/// To the next cell that is typed into, from row to row; the figures of the evaluation are passed
+/// over. False behind the last cell or in front of the first, where the key leaves the table.
+bool frmData2::MoveAlong(int row, int column, bool backwards) {
+    const int last = std::max(columns_.Find(TableColumn::Kind::KVO) - 1, 0);
+    column += backwards ? -1 : 1;
+    if (column > last) {
+        column = 0;
+        ++row;
+    } else if (column < 0) {
+        column = last;
+        --row;
+    }
+    if (row < tblData.FixedRows() || row >= tblData.Rows()) return false;
+    MoveTo(row, column);
+    return true;
 }
 
 void frmData2::MoveTo(int row, int column) {
@@ -97,7 +133,23 @@ void frmData2::MoveTo(int row, int column) {
 
 void frmData2::Paste(const std::string& text) {
     const ui::Grid::Block block = tblData.Selection();
+    if (FillSelection(CleanTable(text))) return;
     PutIn(text, std::max(block.top, tblData.FixedRows()), block.left);
+}
+
+/// A single value goes into every cell of a larger selection.
+bool frmData2::FillSelection(const PastedTable& block) {
+    const ui::Grid::Block cells = tblData.Selection();
+    const bool several = cells.top < cells.bottom || cells.left < cells.right;
+    if (!several || block.rows.size() != 1 || block.rows.front().size() != 1) return false;
+    undo_.Do([&](TableEdit& edit) {
+        for (int row = std::max(cells.top, tblData.FixedRows()); row <= cells.bottom; ++row) {
+            for (int column = cells.left; column <= cells.right; ++column)
+                edit.Cell(row, column, block.rows.front().front());
+        }
+    });
+    ShowNotice(Join(block.notices));
+    return true;
 }
 
 /// The block is looked at before it goes in.
@@ -115,16 +167,20 @@ bool frmData2::PutIn(const std::string& text, int row, int column) {
     const PastedTable block = CleanTable(text);
     if (!MakesRoomFor(text, block.Columns(), row, column)) return false;
     PasteTable(undo_, block, row, column);
-    std::string told;
-    for (const std::string& notice : block.notices)
-        told += (told.empty() ? "" : "\n") + notice;
+    ShowNotice(Join(block.notices));
+    return true;
+}
+
+/// What the last paste had to guess, and that not all rows find room in a plot.
+void frmData2::ShowNotice(std::string told) {
+    told_ = std::move(told);
     const int rows = LastRow() - tblData.FixedRows() + 1;
+    std::string text = told_;
     if (rows > plottedRows)
-        told += (told.empty() ? "" : "\n") + std::string("The table holds ") +
+        text += (text.empty() ? "" : "\n") + std::string("The table holds ") +
                 std::to_string(rows) + " rows; a plot shows the first " +
                 std::to_string(plottedRows);
-    lblNotice.Caption(told);
-    return true;
+    lblNotice.Caption(text);
 }
 
 /// A block that is too wide is refused, but for a table that is to be turned: one in two dimensions
@@ -132,9 +188,9 @@ bool frmData2::PutIn(const std::string& text, int row, int column) {
 bool frmData2::MakesRoomFor(const std::string& text, std::size_t columns, int row, int column) {
     const int wide = column + static_cast<int>(columns);
     if (wide <= tblData.Columns()) return true;
-    const int values = set_->nVar + 1;
+    const int values = set_ ? set_->nVar + 1 : 2;
     const bool atStart = row == tblData.FixedRows() && column == 0;
-    const bool turns = set_->nVar == 2 || static_cast<int>(columns) % values == 0;
+    const bool turns = values == 3 || static_cast<int>(columns) % values == 0;
     if (atStart && turns && LastRow() < tblData.FixedRows() && text.find('\n') != text.npos) {
         tblData.Resize(tblData.Rows(), wide);
         return true;
@@ -195,7 +251,9 @@ int frmData2::LastRow() const {
 void frmData2::Action2D() {
     if (!set_ || set_->nVar != 2)
         ui::Say("Only a set with two variables has a table in two dimensions");
-    else if (!TurnTwoDimensional(undo_, columns_))
+    else if (TurnTwoDimensional(undo_, columns_))
+        ShowNotice("");
+    else
         ui::Say("The table has no values below its top row and behind its left column");
 }
 
@@ -205,7 +263,7 @@ void frmData2::Split() {
 
 void frmData2::Clear() {
     undo_.Do([this](TableEdit& edit) { edit.Rows(tblData.FixedRows()); });
-    lblNotice.Caption("");
+    ShowNotice("");
 }
 
 } // namespace vexora

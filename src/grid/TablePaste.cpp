@@ -34,6 +34,12 @@ public:
         }
         ++counts_[kind];
     }
+    void Drop(const std::string& kind) {
+        const auto at = std::find(order_.begin(), order_.end(), kind);
+        if (at == order_.end()) return;
+        firsts_.erase(firsts_.begin() + (at - order_.begin()));
+        order_.erase(at);
+    }
 
     std::vector<std::string> Texts() const {
         std::vector<std::string> texts;
@@ -51,12 +57,23 @@ private:
     std::vector<std::string> firsts_;
 };
 
+/// How the numbers of a block mark their decimals.
+struct Decimals {
+    bool comma = false; // a comma stands where none could part thousands
+    bool point = false;
+};
+
 bool IsOddBlank(char32_t c) {
     return c == 0xA0 || (c >= 0x2000 && c <= 0x200A) || c == 0x202F || c == 0x205F || c == 0x3000;
 }
 
 bool IsOddMinus(char32_t c) {
     return c == 0x2212 || c == 0x2013 || c == 0x2010 || c == 0x2011 || c == 0xFE63 || c == 0xFF0D;
+}
+
+/// Characters that show nothing: soft hyphens, joiners, byte-order marks.
+bool IsInvisible(char32_t c) {
+    return c == 0xAD || (c >= 0x200B && c <= 0x200D) || c == 0x2060 || c == 0xFEFF;
 }
 
 /// Blanks and minus signs of typesetters become those of a keyboard.
@@ -76,7 +93,7 @@ std::string PlainCharacters(std::string_view line, std::size_t row, Notices& not
         } else if (IsOddMinus(c) && (IsDigit(next) || next == '.' || next == ',')) {
             plain += '-';
             notices.Add("odd minus", row, "a typeset minus was read as \"-\"");
-        } else if (c != 0xFEFF) {
+        } else if (!IsInvisible(c)) {
             plain.append(line.substr(start, at - start));
         }
     }
@@ -92,9 +109,12 @@ std::string WithoutEdges(std::string_view line) {
 }
 
 /// What a comma in a number may have meant besides the decimal point.
-void NoteCommas(std::string_view cell, std::size_t row, Notices& notices) {
+void NoteCommas(std::string_view cell, std::size_t row, Decimals& decimals, Notices& notices) {
     const std::size_t comma = cell.find(',');
-    if (comma == cell.npos) return;
+    if (comma == cell.npos) {
+        decimals.point = decimals.point || (cell.find('.') != cell.npos && IsNumeric(cell));
+        return;
+    }
     const std::string point = Replace(cell, ",", ".");
     if (!IsNumeric(point)) return; // told as no number
     const std::string_view before = cell.substr(0, comma);
@@ -103,6 +123,7 @@ void NoteCommas(std::string_view cell, std::size_t row, Notices& notices) {
     const bool thousands = IsDigits(whole) && whole.size() <= 3 && whole.front() != '0' &&
                            cell.size() - comma == 4 && IsDigits(cell.substr(comma + 1));
     if (thousands) notices.Add("thousands", row, Quoted(cell) + " became " + point);
+    decimals.comma = decimals.comma || !thousands;
 }
 
 /// Why a cell is no number, for the troubles that printed tables are known for.
@@ -131,7 +152,7 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
 
 /// One line, its blanks and tabs cleaned: the cells.
 std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size_t row,
-                                 Notices& notices) {
+                                 Decimals& decimals, Notices& notices) {
     std::vector<std::string> cells;
     for (const std::string& part : Split(WithoutEdges(line), '\t')) {
         std::vector<std::string> pieces;
@@ -141,7 +162,7 @@ std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size
         if (tabbed && pieces.size() > 1)
             notices.Add("inner blank", row, Quoted(part) + " was split at its blank");
         for (const std::string& piece : pieces) {
-            NoteCommas(piece, row, notices);
+            NoteCommas(piece, row, decimals, notices);
             cells.push_back(Replace(piece, ",", "."));
             NoteNoNumber(cells.back(), piece, row, notices);
         }
@@ -162,6 +183,13 @@ bool LooksGrouped(const std::vector<std::string>& row) {
     return false;
 }
 
+std::size_t FilledWidth(const std::vector<std::string>& row) {
+    std::size_t width = row.size();
+    while (width > 0 && row[width - 1].empty())
+        --width;
+    return width;
+}
+
 void NoteRagged(const PastedTable& table, Notices& notices) {
     std::map<std::size_t, std::size_t> widths;
     for (const auto& row : table.rows)
@@ -171,7 +199,9 @@ void NoteRagged(const PastedTable& table, Notices& notices) {
                                         [](auto& a, auto& b) { return a.second < b.second; });
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
         const auto& row = table.rows[i];
-        if (row.size() == usual->first || (row.size() == 1 && row.front().empty())) continue;
+        if (row.size() == usual->first || FilledWidth(row) == 0) continue;
+        // Nothing but tabs at the end of the line.
+        if (row.size() > usual->first && FilledWidth(row) <= usual->first) continue;
         if (row.size() > usual->first && LooksGrouped(row))
             notices.Add("inner blank", i, "a number with an inner blank was split");
         notices.Add("ragged", i,
@@ -192,7 +222,7 @@ std::vector<std::string> LinesOf(std::string_view text) {
 std::size_t PastedTable::Columns() const {
     std::size_t columns = 0;
     for (const auto& row : rows)
-        columns = std::max(columns, row.size());
+        columns = std::max(columns, FilledWidth(row));
     return columns;
 }
 
@@ -201,10 +231,12 @@ PastedTable CleanTable(std::string_view text) {
     Notices notices;
     std::vector<std::string> lines = LinesOf(text);
     const bool tabbed = text.find('\t') != text.npos;
+    Decimals decimals;
     for (std::size_t row = 0; row < lines.size(); ++row) {
         const std::string plain = PlainCharacters(lines[row], row, notices);
-        table.rows.push_back(CellsOf(plain, tabbed, row, notices));
+        table.rows.push_back(CellsOf(plain, tabbed, row, decimals, notices));
     }
+    if (decimals.comma && !decimals.point) notices.Drop("thousands");
     NoteRagged(table, notices);
     table.notices = notices.Texts();
     return table;

@@ -14,6 +14,7 @@ namespace vexora {
 struct PastedTable {
     std::vector<std::vector<std::string>> rows;
     std::vector<std::string> notices;
+    /// Columns up to the last one that holds something.
     std::size_t Columns() const;
 };
 

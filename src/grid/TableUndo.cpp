@@ -6,8 +6,8 @@ namespace vexora {
 
 namespace {
 
-// Changes of cells that are kept in all; some ten pastes of the largest table.
-constexpr std::size_t mostChanges = 2'000'000;
+// Changes of cells that are kept in all; some seven pastes of the largest table.
+constexpr std::size_t mostChanges = 1'000'000;
 
 bool IsEmptyRow(const ui::Grid& grid, int row) {
     for (int column = 0; column < grid.Columns(); ++column) {
@@ -46,16 +46,25 @@ private:
     ui::Grid::Batch batch_;
 };
 
-bool TableUndo::Do(const std::function<void(TableEdit&)>& writer) {
+bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
+                   const std::function<void(bool)>& beside) {
     Step step;
     {
         Recorder recorder(grid_);
         writer(recorder);
+        const std::size_t written = OnCell ? recorder.step.changes.size() : 0;
+        for (std::size_t i = 0; i < written; ++i) {
+            const auto [row, column] =
+                std::pair(recorder.step.changes[i].row, recorder.step.changes[i].column);
+            OnCell(recorder, row, column);
+        }
         KeepSpareRow(recorder);
         recorder.step.rowsAfter = grid_.Rows();
         step = std::move(recorder.step);
     }
     if (step.changes.empty() && step.rowsBefore == step.rowsAfter) return false;
+    step.beside = beside;
+    if (beside) beside(true);
     steps_.resize(done_);
     steps_.push_back(std::move(step));
     done_ = steps_.size();
@@ -91,6 +100,7 @@ void TableUndo::Undo() {
             grid_.Cell(change->row, change->column, change->before);
         if (grid_.Rows() != step.rowsBefore) grid_.Resize(step.rowsBefore, grid_.Columns());
     }
+    if (step.beside) step.beside(false);
     Tell(step);
 }
 
@@ -104,6 +114,7 @@ void TableUndo::Redo() {
             grid_.Cell(change.row, change.column, change.after);
         if (grid_.Rows() != step.rowsAfter) grid_.Resize(step.rowsAfter, grid_.Columns());
     }
+    if (step.beside) step.beside(true);
     Tell(step);
 }
 

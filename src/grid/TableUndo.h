@@ -27,8 +27,11 @@ public:
     explicit TableUndo(ui::Grid& grid) : grid_(grid) {}
 
     ui::Grid& Table() const { return grid_; }
-    /// Runs the writer; what it changed becomes one step. False when it changed nothing.
-    bool Do(const std::function<void(TableEdit&)>& writer);
+    /// Runs the writer; what it changed becomes one step. False when it changed nothing. What goes
+    /// along with the step beside the cells is done by `beside`, with true when the step has been
+    /// done or done again and with false when it has been taken back.
+    bool Do(const std::function<void(TableEdit&)>& writer,
+            const std::function<void(bool done)>& beside = {});
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
     /// Takes back the last step, or does the next one again.
@@ -44,6 +47,8 @@ public:
 
     /// Follows every step, done, taken back or done again.
     std::function<void()> OnChange;
+    /// Lets the owner add to a step what follows from the change of a cell by it.
+    std::function<void(TableEdit&, int row, int column)> OnCell;
 
 private:
     struct Change {
@@ -53,6 +58,7 @@ private:
     struct Step {
         int rowsBefore = 0, rowsAfter = 0;
         std::vector<Change> changes;
+        std::function<void(bool)> beside;
     };
     class Recorder;
 

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
 #include <QStyledItemDelegate>
 
 #include "qt/FormWindow.h"
@@ -113,16 +114,34 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
     return true;
 }
 
-bool GridModel::SizeChanged() const {
-    return rows_ != grid_.Rows() || columns_ != grid_.Columns();
+// Rows come and go at the end, so that the table stays where a person has scrolled it.
+void GridModel::FollowRows() {
+    const int before = rowCount();
+    const int after = std::max(grid_.Rows() - grid_.FixedRows(), 0);
+    if (after > before) {
+        beginInsertRows({}, before, after - 1);
+        rows_ = grid_.Rows();
+        endInsertRows();
+    } else if (after < before) {
+        beginRemoveRows({}, after, before - 1);
+        rows_ = grid_.Rows();
+        endRemoveRows();
+    }
 }
 
 void GridModel::CellChanged(int row, int column) {
-    if (row < 0 || SizeChanged()) {
+    if (columns_ != grid_.Columns()) {
         beginResetModel();
         rows_ = grid_.Rows();
         columns_ = grid_.Columns();
         endResetModel();
+        return;
+    }
+    FollowRows();
+    if (row < 0) {
+        if (rowCount() > 0 && columnCount() > 0)
+            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+        if (columnCount() > 0) emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     } else if (row < grid_.FixedRows()) {
         const int section = column - grid_.FixedColumns();
         if (section >= 0) emit headerDataChanged(Qt::Horizontal, section, section);
@@ -145,16 +164,12 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
     own_->verticalHeader()->setVisible(grid.FixedColumns() > 0 || grid.ShowsRowNumbers);
     if (grid.Editor) UseEditorOfForm(*grid.Editor);
-    own_->horizontalHeader()->setResizeContentsPrecision(50);
     own_->horizontalHeader()->setDefaultSectionSize(own_->fontMetrics().averageCharWidth() * 14);
     own_->verticalHeader()->setDefaultSectionSize(own_->fontMetrics().height() + 8);
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 8);
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 40);
     grid.CellChanged.Connect([self = QPointer<GridView>(this)](int row, int column) {
-        if (!self || self->Window().IsDetached()) return;
-        self->cells_.CellChanged(row, column);
-        if (row < 0 || row < self->model_.FixedRows()) self->fitted_ = false;
-        self->Window().MarkDirty(*self);
+        if (self && !self->Window().IsDetached()) self->FollowCells(row, column);
     });
     QObject::connect(own_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      [this] { HandOverSelection(); });
@@ -170,9 +185,17 @@ void GridView::UseEditorOfForm(ui::TextBox& editor) {
 
 bool GridView::Wants(const ui::Key& key) const {
     const std::string name = key.FullName();
-    return key.name == "Left" || key.name == "Right" || key.name == "Up" || key.name == "Down" ||
-           key.name == "Home" || key.name == "End" || key.name.starts_with("Page") ||
-           name == "F2" || name == "Ctrl+A" || key.character >= U' ';
+    return name == "F2" || name == "Ctrl+A" || key.character >= U' ';
+}
+
+// What becomes of the selection on the way is no choice of a person.
+void GridView::FollowCells(int row, int column) {
+    following_ = true;
+    if (cells_.columnCount() != model_.Columns() - model_.FixedColumns()) fresh_ = true;
+    cells_.CellChanged(row, column);
+    following_ = false;
+    fitted_ = false;
+    Window().MarkDirty(*this);
 }
 
 QModelIndex GridView::IndexOf(int row, int column) const {
@@ -193,7 +216,7 @@ bool GridView::SelectAsDragged(const ui::Grid::Block& block) {
 }
 
 void GridView::HandOverSelection() {
-    if (IsDrawing()) return;
+    if (IsDrawing() || following_) return;
     const QItemSelection selection = own_->selectionModel()->selection();
     if (selection.isEmpty()) return;
     QRect all;
@@ -210,6 +233,8 @@ void GridView::HandOverSelection() {
 
 void GridView::Draw() {
     if (!fitted_) FitColumns();
+    const int page = own_->viewport()->height() / own_->verticalHeader()->defaultSectionSize();
+    model_.PageRows = std::max(page - 1, 1);
     own_->viewport()->update();
     DrawSelection();
     PlaceEditor();
@@ -244,16 +269,36 @@ void GridView::DrawSelection() {
     }
     selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selection->select(wanted, QItemSelectionModel::ClearAndSelect);
+    own_->scrollTo(IndexOf(model_.Cursor().first, model_.Cursor().second));
 }
 
-// Never narrower than a number, never wider than a third of a page.
+// The longest text decides, wherever it stands: digits are never cut off.
+int GridView::WidthOfTexts(int column) const {
+    const std::string* longest = nullptr;
+    for (int row = model_.FixedRows(); row < model_.Rows(); ++row) {
+        const std::string& text = model_.Cell(row, column + model_.FixedColumns());
+        if (!longest || text.size() > longest->size()) longest = &text;
+    }
+    if (!longest) return 0;
+    QFont font = own_->font();
+    font.setBold(true); // as marked cells are
+    const int margin = 2 * own_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 6;
+    return QFontMetrics(font).horizontalAdvance(ToQt(*longest)) + margin;
+}
+
+// Never narrower than a number, never wider than a third of a page; columns that a person has made
+// wider stay so.
 void GridView::FitColumns() {
-    fitted_ = true;
-    own_->resizeColumnsToContents();
     const int character = own_->fontMetrics().averageCharWidth();
     for (int i = 0; i < cells_.columnCount(); ++i) {
-        own_->setColumnWidth(i, std::clamp(own_->columnWidth(i), character * 12, character * 40));
+        const int head = own_->horizontalHeader()->sectionSizeHint(i);
+        const int wanted =
+            std::clamp(std::max(head, WidthOfTexts(i)), character * 12, character * 40);
+        const int now = own_->columnWidth(i);
+        if (fresh_ || now < wanted) own_->setColumnWidth(i, wanted);
     }
+    fitted_ = true;
+    fresh_ = false;
 }
 
 bool GridView::MouseEvent(QEvent& event) {

@@ -26,7 +26,7 @@ public:
     void CellChanged(int row, int column);
 
 private:
-    bool SizeChanged() const;
+    void FollowRows();
     QVariant MarkData(const ui::Grid::Mark& mark, int role) const;
 
     GridView& view_;
@@ -54,13 +54,17 @@ protected:
 
 private:
     void HandOverSelection();
+    void FollowCells(int row, int column);
     void FitColumns();
+    int WidthOfTexts(int column) const;
     void DrawSelection();
     void PlaceEditor();
     void UseEditorOfForm(ui::TextBox& editor);
 
     GridModel cells_;
     bool fitted_ = false;
+    bool fresh_ = true; // columns have not got their first widths
+    bool following_ = false;
 };
 
 } // namespace vexora::qt

@@ -39,6 +39,11 @@ bool IsBar(const ui::Layout& layout) {
     return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Toolbar;
 }
 
+// A table gets more of the room than the lists beside it.
+bool IsTable(const ui::Layout& layout) {
+    return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Grid;
+}
+
 // Buttons and options without a label of their own stand under the fields.
 bool IsRowOfButtons(const ui::Layout& layout) {
     return layout.kind == Kind::Row && !layout.parts.empty() &&
@@ -219,7 +224,7 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
             loose = true;
         }
         AddToColumn(*grid, row, part, hasFields);
-        if (GrowsDown(part)) grid->setRowStretch(row, 1);
+        if (GrowsDown(part)) grid->setRowStretch(row, IsTable(part) ? 3 : 1);
         grows = grows || GrowsDown(part);
         ++row;
     }

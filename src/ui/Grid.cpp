@@ -1,6 +1,8 @@
 #include "ui/Grid.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "ui/Desktop.h"
 
@@ -36,16 +38,17 @@ void Grid::Resize(int rows, int columns) {
 }
 
 void Grid::TellChange(int row, int column) {
-    if (batches_ > 0)
-        changedInBatch_ = true;
-    else
-        CellChanged.Emit(row, column);
+    if (batches_ == 0) return CellChanged.Emit(row, column);
+    if (changesInBatch_++ == 0) changedInBatch_ = {row, column};
 }
 
 void Grid::EndBatch() {
-    if (--batches_ > 0 || !changedInBatch_) return;
-    changedInBatch_ = false;
-    CellChanged.Emit(-1, -1);
+    if (--batches_ > 0) return;
+    const int changes = std::exchange(changesInBatch_, 0);
+    if (changes == 1)
+        CellChanged.Emit(changedInBatch_.first, changedInBatch_.second);
+    else if (changes > 1)
+        CellChanged.Emit(-1, -1);
 }
 
 void Grid::CellMarks(Marks marks) {
@@ -84,6 +87,8 @@ void Grid::Editable(bool value) {
 void Grid::Select(Block block) {
     if (selection_ == block) return;
     selection_ = block;
+    anchor_ = {block.top, block.left};
+    cursor_ = {block.bottom, block.right};
     Changed();
 }
 
@@ -144,7 +149,42 @@ bool Grid::UserKey(Key& key) {
     else if (name == "Ctrl+C")
         TheDesktop().ClipboardText(SelectionText());
     else
+        return Move(key);
+    return true;
+}
+
+/// Where a key leads from a cell; the same place for a key that does not move.
+std::pair<int, int> Grid::Step(const Key& key, std::pair<int, int> from) const {
+    auto [row, column] = from;
+    const std::string& name = key.name;
+    const bool down = name == "Down" || name == "PageDown";
+    const bool right = name == "Right" || name == "End";
+    if (down || name == "Up" || name == "PageUp") {
+        const int far = key.control ? Rows() : name.starts_with("Page") ? PageRows : 1;
+        row += down ? far : -far;
+    } else if (right || name == "Left" || name == "Home") {
+        const bool edge = name == "Home" || name == "End";
+        const int far = key.control || edge ? columns_ : 1;
+        column += right ? far : -far;
+        if (edge && key.control) row = right ? Rows() : 0;
+    }
+    return {std::clamp(row, fixedRows_, Rows() - 1),
+            std::clamp(column, fixedColumns_, columns_ - 1)};
+}
+
+bool Grid::Move(const Key& key) {
+    static constexpr std::string_view moves[] = {"Left", "Right", "Up",     "Down",
+                                                 "Home", "End",   "PageUp", "PageDown"};
+    if (key.alt || std::find(std::begin(moves), std::end(moves), key.name) == std::end(moves))
         return false;
+    if (Rows() <= fixedRows_ || columns_ <= fixedColumns_) return false;
+    const auto anchor = anchor_;
+    const auto cursor = Step(key, key.shift ? cursor_ : anchor_);
+    const auto from = key.shift ? anchor : cursor;
+    Select({std::min(from.first, cursor.first), std::min(from.second, cursor.second),
+            std::max(from.first, cursor.first), std::max(from.second, cursor.second)});
+    anchor_ = from;
+    cursor_ = cursor;
     return true;
 }
 

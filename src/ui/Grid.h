@@ -29,7 +29,8 @@ public:
     };
     using Marks = std::map<std::pair<int, int>, Mark>; // by row and column
 
-    /// While one lives, changes of cells are told once, at its end, as a change of the whole table.
+    /// While one lives, changes of cells are told once, at its end: as that of the cell when there
+    /// was only one, else as a change of the whole table.
     class Batch {
     public:
         explicit Batch(Grid& grid) : grid_(grid) { ++grid_.batches_; }
@@ -70,6 +71,10 @@ public:
 
     const Block& Selection() const { return selection_; }
     void Select(Block block);
+    /// Row and column of the corner of the selection that keys move; the view keeps it in sight.
+    std::pair<int, int> Cursor() const { return cursor_; }
+    /// How far PageUp and PageDown go; the view knows how many rows it shows.
+    int PageRows = 20;
     /// The selected cells as text, columns parted by tabs and rows by line feeds.
     std::string SelectionText() const;
 
@@ -84,7 +89,8 @@ public:
     void UserCell(int row, int column, const std::string& text);
     void UserPaste(const std::string& text);
     void UserSelect(Block block);
-    /// Ctrl+V pastes at the selection, Ctrl+C copies it.
+    /// Ctrl+V pastes at the selection, Ctrl+C copies it; arrows, Home, End, PageUp and PageDown
+    /// move it, with Ctrl to the edge of the table, with Shift they extend it.
     bool UserKey(Key& key) override;
 
     /// Which cell changed; rows and columns of -1 when it was the whole table.
@@ -94,6 +100,8 @@ private:
     bool IsInside(int row, int column) const;
     void EndBatch();
     void TellChange(int row, int column);
+    bool Move(const Key& key);
+    std::pair<int, int> Step(const Key& key, std::pair<int, int> from) const;
 
     std::vector<std::vector<std::string>> cells_;
     int columns_;
@@ -101,9 +109,11 @@ private:
     int fixedColumns_;
     bool editable_ = true;
     Block selection_;
+    std::pair<int, int> anchor_, cursor_; // corners of the selection, by row and column
     Marks marks_;
     int batches_ = 0;
-    bool changedInBatch_ = false;
+    int changesInBatch_ = 0;
+    std::pair<int, int> changedInBatch_; // the first of them
 };
 
 } // namespace vexora::ui

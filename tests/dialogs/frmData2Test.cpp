@@ -300,15 +300,141 @@ TEST_F(frmData2Test, TypingStartsTheEditorAndArrowsLeaveIt) {
     EXPECT_EQ(form_->tblData.Cell(2, 1), "");
 }
 
+/// A table of as many rows as a plot shows.
+std::string FullTable() {
+    std::string text;
+    for (int row = 0; row < 16384; ++row)
+        text += "275 999.8\n";
+    return text;
+}
+
+const std::string oneTooMany = "The table holds 16385 rows; a plot shows the first 16384";
+
 TEST_F(frmData2Test, RowsBeyondAPlotAreKeptAndTold) {
     OpenTable();
-    std::string text;
-    for (int row = 0; row < 16385; ++row)
-        text += "275 999.8\n";
+    Paste(FullTable());
+    EXPECT_EQ(form_->lblNotice.Caption(), "");
+    form_->tblData.UserCell(16385, 0, "310"); // typed
+    EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->lblNotice.Caption(), "");
+    form_->tblData.UserSelect({16384, 0, 16384, 0}); // pasted at the end
+    Paste("275 999.8\n310 993.3");
+    EXPECT_EQ(form_->tblData.Cell(16385, 1), "993.3");
+    EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
+    Accept();
+    EXPECT_EQ(set->recData.Count(), 16385u);
+    form_ = &Open<frmData2>("frmData2"); // opened again
+    EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
+    EXPECT_EQ(form_->tblData.Cell(16385, 1), "993.3");
+}
+
+TEST_F(frmData2Test, TooManyRowsOfATableInTwoDimensionsAreKeptAndTold) {
+    TwoVariables();
+    OpenTable();
+    std::string text = "\t1\t2\t3\t4\t5\n";
+    for (int row = 0; row < 3277; ++row)
+        text += "275\t9\t9\t9\t9\t9\n";
     Paste(text);
-    EXPECT_EQ(form_->tblData.Cell(16385, 1), "999.8");
-    EXPECT_EQ(form_->lblNotice.Caption(),
-              "The table holds 16385 rows; a plot shows the first 16384");
+    EXPECT_EQ(form_->tblData.Rows(), 3280);
+    form_->mnuAction2D.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(16385, 1), "5");
+    EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
+}
+
+TEST_F(frmData2Test, TabGoesAlongTheRowsAndOutAtTheEnd) {
+    OpenTable();
+    form_->tblData.SetFocus();
+    for (const char* key : {"2", "7", "5", "Tab", "9", "9", "Tab", "3", "Shift+Tab", "8", "Tab"})
+        form_->UserKey(ui::ParseKey(key));
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|8|;3||;||;");
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 0, 2, 0}));
+    for (int i = 0; i < 3; ++i)
+        form_->UserKey(ui::ParseKey("Tab"));
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{3, 1, 3, 1}));
+    EXPECT_TRUE(form_->tblData.HasFocus());
+    form_->UserKey(ui::ParseKey("Tab"));
+    EXPECT_FALSE(form_->tblData.HasFocus());
+}
+
+TEST_F(frmData2Test, OneValuePastedFillsTheSelection) {
+    OpenTable();
+    Paste("275 1\n280 2\n285 3");
+    form_->tblData.UserSelect({1, 1, 3, 1});
+    Paste("999,8\r\n");
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.8|;285|999.8|;||;");
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(2, 1), "2");
+}
+
+TEST_F(frmData2Test, FailedEvaluationIsForgottenWhenItsRowChanges) {
+    OpenTable();
+    Paste("275 -5\n280 999.7");
+    desktop.Expect("Value -5 Density, kg/m3 is not valid");
+    desktop.Expect("Erroneous data combination\nPlease correct it | Error");
+    Accept();
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "Error");
+    form_->tblData.UserCell(1, 1, "999.8");
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;||;");
+    EXPECT_EQ(Findings(), "");
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "Error");
+}
+
+TEST_F(frmData2Test, FigureThatIsNoNumberIsRefusedAndNotDropped) {
+    OpenTable();
+    Paste("275 999.8 0.5x");
+    EXPECT_EQ(Findings(), "Row 1, KVO Uncert.: Invalid number. Correct it or clear the cell;");
+    desktop.Expect("Invalid number\nCorrect it or clear the cell");
+    form_->cmdSave.UserClick();
+    form_->tblData.UserCell(1, 2, "0.50");
+    Accept();
+    EXPECT_EQ(Rows(), "275 999.8 0.50;");
+}
+
+TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
+    TwoVariables();
+    set->VAR1_UNIT = "C";
+    set->VAR2_UNIT = "bar";
+    AddRow("25.0", "997.0");
+    set->recData.Item(1)->Values[2] = "25";
+    set->recData.Item(1)->Statements(1).Unc = "0.05"; // in no column
+    set->recData.Item(1)->Statements(2).Unc = "1";
+    set->UX[2].iDS = true;
+    set->UX[2].DSValue = "2";
+    OpenTable();
+    form_->tblData.UserCell(1, 3, "997.10");
+    form_->mnuSystemUnits.UserClick();
+    EXPECT_EQ(Cells(), "Var1|Digits|Var2|Digits|Dev.Spec.|Property|Digits|KVO Uncert.;"
+                       "298.2|4|2500|2||997.10|5|0.1;|||||||;");
+    EXPECT_EQ(form_->lblColumns.Caption(), "Var1: Temperature, K    Var2: Pressure, kPa    "
+                                           "Property: Density, kg/m3");
+    EXPECT_FALSE(form_->mnuSystemUnits.Enabled());
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "25");
+    EXPECT_EQ(set->UX[2].DSValue, "2");
+    EXPECT_TRUE(form_->mnuSystemUnits.Enabled());
+    form_->mnuRedo.UserClick();
+    EXPECT_EQ(set->UX[2].DSValue, "200");
+    Accept();
+    EXPECT_EQ(Rows(), "298.2 2500 997.10 0.1;");
+    const clsData& row = *set->recData.Item(1);
+    EXPECT_FALSE(set->isOriginalUnit || row.inOriginalUnits);
+    EXPECT_EQ(row.Digits[2], 2);
+    EXPECT_EQ(row.StatementsOf(1).Unc + " " + row.StatementsOf(2).Unc, "0.05 100");
+}
+
+TEST_F(frmData2Test, UnitsOfAFaultyTableStay) {
+    set->VAR1_UNIT = "C";
+    OpenTable();
+    Paste("25 999.8\n30x 999.7");
+    desktop.Expect("Invalid number\nCorrect it or clear the line");
+    form_->mnuSystemUnits.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 0), "25");
+    form_->cmdFinish.UserClick();
+    set->VAR1_UNIT = "S";
+    OpenTable();
+    EXPECT_FALSE(form_->mnuSystemUnits.Enabled());
 }
 
 TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {

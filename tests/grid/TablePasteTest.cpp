@@ -36,6 +36,12 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "300|0.0992418352|996.5560;500|10.0003858|838.025;", ""},
         {"1.0 \t 2.0\n3.0\t4.0", "1.0|2.0;3.0|4.0;", ""},
         {"0,5\t1,25\n0,6\t1,50", "0.5|1.25;0.6|1.50;", ""},
+        // A comma that can only be decimal settles what the others are, a point unsettles it.
+        {"300,15\t1,234\n310,15\t1,241", "300.15|1.234;310.15|1.241;", ""},
+        {"300.15\t1,234\n0,5\t2", "300.15|1.234;0.5|2;", "row 1: \"1,234\" became 1.234"},
+        {"1.0\t2.0\t\r\n1.1\t2.1\r\n\r\n", "1.0|2.0|;1.1|2.1;", ""},
+        {"1.0\t2.0\r1.1\t2.1\r", "1.0|2.0;1.1|2.1;", ""},
+        {"\ufeff1.0\t2\u200b.0\n1.1\u00ad\t2.1", "1.0|2.0;1.1|2.1;", ""},
         {"1.5\t-2e-3\n+.5\t3E5", "1.5|-2e-3;+.5|3E5;", ""},
         {"5%\t1.0", "5%|1.0;", ""},
         {"1.0\t\t3.0\n1.1\t2.0\t3.1", "1.0||3.0;1.1|2.0|3.1;", ""},
@@ -49,6 +55,15 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "row 1: a no-break blank between digits parted a number in two; "
          "row 1: \"1 234\" was split at its blank"},
         {"300\u2009 1.25", "300|1.25;", "row 1: no-break blanks were read as blanks"},
+        {"300 0.125\u2009678\n310 0.126\u202f001", "300|0.125|678;310|0.126|001;",
+         "row 1: a no-break blank between digits parted a number in two (and 1 more)"},
+        {"300\t1.234,5\n310\t1,234,567", "300|1.234.5;310|1.234.567;",
+         "row 1: \"1.234,5\" became 1.234.5, which is no number (and 1 more)"},
+        {"300\t0.1234 (5)", "300|0.1234|(5);",
+         "row 1: \"0.1234 (5)\" was split at its blank; row 1: \"(5)\" is no number"},
+        {"300\u2013310\t1.5 \u00b1 0.2", "300-310|1.5|\u00b1|0.2;",
+         "row 1: a typeset minus was read as \"-\"; row 1: \"300-310\" is no number (and 1 more); "
+         "row 1: \"1.5 \u00b1 0.2\" was split at its blank"},
         {"300\t\u22120.125\n310\t\u20130.130", "300|-0.125;310|-0.130;",
          "row 1: a typeset minus was read as \"-\" (and 1 more)"},
         {"300\t0.1234(5)", "300|0.1234(5);",
@@ -76,6 +91,13 @@ TEST_F(TablePasteTest, BlockGoesInFromTheCellOnAndTheGridGrows) {
     Fill("1 2 3");
     EXPECT_TRUE(PasteTable(undo, CleanTable("8 9\n10 11"), 1, 1));
     EXPECT_EQ(Cells(), "1|8|9\n|10|11\n||\n");
+}
+
+TEST_F(TablePasteTest, TabsAtTheEndsOfLinesAreNoColumns) {
+    const PastedTable block = CleanTable("1\t2\t3\t\n4\t\t\t\n");
+    EXPECT_EQ(block.Columns(), 3u);
+    EXPECT_TRUE(PasteTable(undo, block, 1, 0));
+    EXPECT_EQ(Cells(), "1|2|3\n4||\n||\n");
 }
 
 TEST_F(TablePasteTest, BlockWithTooManyColumnsChangesNothing) {

@@ -68,5 +68,35 @@ TEST_F(TableUndoTest, WholeStepIsToldToListenersAtOnce) {
     EXPECT_EQ(undo.LastRow(), 3);
 }
 
+TEST_F(TableUndoTest, OneTypedCellIsToldAloneSoThatViewsStayInPlace) {
+    Fill("1 2 3\n4 5 6");
+    std::string told;
+    form.grid.CellChanged.Connect([&](int row, int column) {
+        told += std::to_string(row) + "," + std::to_string(column) + ";";
+    });
+    undo.Do([](TableEdit& edit) { edit.Cell(1, 2, "30"); });
+    undo.Undo();
+    undo.Do([](TableEdit& edit) {
+        edit.Cell(1, 2, "30");
+        edit.Cell(2, 2, "60");
+    });
+    EXPECT_EQ(told, "1,2;1,2;-1,-1;");
+}
+
+TEST_F(TableUndoTest, WhatGoesAlongWithAStepIsTakenBackAndDoneAgain) {
+    std::string state;
+    undo.OnCell = [](TableEdit& edit, int row, int column) {
+        if (column == 0) edit.Cell(row, 2, "follows");
+    };
+    undo.Do([](TableEdit& edit) { edit.Cell(1, 0, "1"); },
+            [&](bool done) { state += done ? "done;" : "back;"; });
+    EXPECT_EQ(Cells(), "1||follows\n||\n");
+    undo.Undo();
+    EXPECT_EQ(Cells(), "||\n");
+    undo.Redo();
+    EXPECT_EQ(Cells(), "1||follows\n||\n");
+    EXPECT_EQ(state, "done;back;done;");
+}
+
 } // namespace
 } // namespace vexora::test
