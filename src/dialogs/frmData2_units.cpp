@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
 #include "records/clsTwo.h"
 #include "ui/Desktop.h"
 

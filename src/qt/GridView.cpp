@@ -210,7 +210,8 @@ bool GridView::SelectAsDragged(const ui::Grid::Block& block) {
     const QModelIndex first = IndexOf(block.top, block.left);
     const QModelIndex last = IndexOf(block.bottom, block.right);
     if (!first.isValid() || !last.isValid()) return false;
-    own_->setCurrentIndex(first);
+    // No key is held down, whatever the last one was.
+    own_->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     own_->selectionModel()->select({first, last}, QItemSelectionModel::ClearAndSelect);
     return true;
 }

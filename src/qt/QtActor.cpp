@@ -224,7 +224,7 @@ void QtActor::TypeCell(ui::Grid& grid, int row, int column, const std::string& t
         auto& view = ViewOf<GridView>(grid);
         const QModelIndex at = view.IndexOf(row, column);
         grid.SetFocus();
-        view.Table().setCurrentIndex(at);
+        view.SelectAsDragged({row, column, row, column});
         view.Table().edit(at);
         auto* editor = qobject_cast<QLineEdit*>(view.Table().indexWidget(at));
         if (!editor) editor = view.Table().viewport()->findChild<QLineEdit*>();
@@ -240,7 +240,7 @@ void QtActor::PasteCells(ui::Grid& grid, int row, int column, const std::string&
     Do([&] {
         Enter(grid);
         auto& view = ViewOf<GridView>(grid);
-        view.Table().setCurrentIndex(view.IndexOf(row, column));
+        view.SelectAsDragged({row, column, row, column});
         SendKey(grid, ui::ParseKey("Ctrl+V"));
     });
 }
