@@ -15,8 +15,9 @@ struct PhaseOffer {
 /// The phases offered for a property: a saturation property stands between a condensed phase and
 /// gas, a transition between two condensed ones, a melting point under air between three; all else
 /// has any one phase of pure compounds. A value at a fixed variable (variableCount 1) states one
-/// phase only. phase1 is the one chosen, which cannot be the second as well.
+/// phase only. phase1 is the one chosen, which cannot be the second as well. The context "Complex"
+/// adds the phases of gas hydrates.
 PhaseOffer OfferPhases(std::string_view propertyCode, int variableCount,
-                       std::string_view phase1 = {});
+                       std::string_view phase1 = {}, std::string_view context = "Pure");
 
 } // namespace vexora

@@ -150,11 +150,11 @@ TwoDraft PresetTwo(std::string_view property) {
 }
 
 PhaseOffer OfferSetPhases(const TwoDraft& draft) {
-    PhaseOffer offer = OfferPhases(draft.property, 0);
+    PhaseOffer offer = OfferPhases(draft.property, 0, {}, draft.context);
     if (offer.Phase2.empty()) offer.Phase2 = offer.Phase1;
     offer.Phase3.clear();
     if (!IsBoundary(draft)) {
-        offer.Phase1 = OfferPhases({}, 0).Phase1;
+        offer.Phase1 = OfferPhases({}, 0, {}, draft.context).Phase1;
         offer.Phase2.clear();
         return offer;
     }

@@ -15,6 +15,7 @@ namespace vexora {
 /// What stands on frmTwo, as codes; an empty text is an open choice.
 struct TwoDraft {
     int nVar = 1;
+    std::string context = "Pure";
     std::string property;
     bool hasSample = false;
     std::string variable1, unit1, variable2, unit2; // units as listed

@@ -11,11 +11,12 @@ namespace vexora {
 
 namespace {
 
+const std::string title = "Property and experimental method";
 constexpr int helpPropertyList = 30;
 
 } // namespace
 
-frmProperty::frmProperty() : Form("frmProperty", "Property and experimental method") {
+frmProperty::frmProperty() : Form("frmProperty", title) {
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdOK;
@@ -59,7 +60,6 @@ void frmProperty::Load() {
     KVOGlobal& globals = Globals();
     inChain_ = !IsModal();
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
-    if (globals.CurrentL) Caption(Caption() + " for " + globals.CurrentL->ShowKey());
     if (inChain_) BeginSelection();
 }
 
@@ -67,6 +67,7 @@ void frmProperty::Load() {
 void frmProperty::Activate() {
     KVOGlobal& globals = Globals();
     accepted_ = false;
+    Caption(title + (globals.CurrentL ? " for " + globals.CurrentL->ShowKey() : ""));
     if (IsModal()) {
         before_ = {globals.CurrentMethod->Method, globals.KeyRest};
         Fill();

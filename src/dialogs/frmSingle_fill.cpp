@@ -88,11 +88,12 @@ void frmSingle::ShowVariable() {
 
 void frmSingle::ShowPhases() {
     const int count = Globals().VariableCount;
+    const std::string& context = Globals().DataContext;
     const ui::FillingScope filling(*this);
     const auto phaseOf = [this](const ui::ComboBox& list) { return ChosenPhase(list); };
     const std::string first = phaseOf(lstPhase1);
-    const PhaseOffer offer = OfferPhases(row_.Code, count, first);
-    OfferPhaseList(lstPhase1, OfferPhases(row_.Code, count).Phase1);
+    const PhaseOffer offer = OfferPhases(row_.Code, count, first, context);
+    OfferPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
     OfferPhaseList(lstPhase2, offer.Phase2);
     OfferPhaseList(lstPhase3, offer.Phase3);
 }

@@ -109,13 +109,13 @@ void frmTwo::SampleClick() {
 }
 
 void frmTwo::Variable1Click() {
-    ShowUnits(cboVar1, lstVariable_Unit);
+    ShowUnits(1);
     ShowVar3();
     ShowCaption();
 }
 
 void frmTwo::Variable2Click() {
-    ShowUnits(cboVar2, lstVar2_Unit);
+    ShowUnits(2);
     ShowVar3();
     ShowCaption();
 }
@@ -128,6 +128,7 @@ void frmTwo::ConstraintClick() {
     const int gas = lstPhase2.Find(PhaseName("G"));
     if (!Filling && ofOnePhase && draft.constraint == "PB" && draft.phase2.empty() && gas > 0)
         lstPhase2.Index(gas);
+    if (!Filling) ProposeSetNumber();
 }
 
 void frmTwo::PhaseClick() {
@@ -151,8 +152,8 @@ void frmTwo::Method() {
     const ui::FillingScope filling(*this);
     txtComment.Text(Globals().PropertyComment);
     if (Globals().PropertyCode == before) {
-        ShowUnits(cboVar1, lstVariable_Unit);
-        ShowUnits(cboVar2, lstVar2_Unit);
+        ShowUnits(1);
+        ShowUnits(2);
     } else {
         ShowProperty();
     }

@@ -78,7 +78,7 @@ private:
     void ShowProperty();
     void ShowCaption();
     void OfferVariables(ui::ComboBox& list) const;
-    void ShowUnits(const ui::ComboBox& variable, ui::ComboBox& units) const;
+    void ShowUnits(int n);
     void ShowPhases();
     void ShowVar3();
     void ShowDigits();

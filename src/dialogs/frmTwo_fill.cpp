@@ -96,7 +96,7 @@ void frmTwo::FillLists() {
     lstRelation.Assign(Texts(ResultRelations()));
     lstNumerical.Assign(Texts(NumericalKinds()));
     lstREF_PHASE.Assign({});
-    for (const std::string& code : OfferPhases({}, 0).Phase1)
+    for (const std::string& code : OfferPhases({}, 0, {}, Globals().DataContext).Phase1)
         lstREF_PHASE.Add(PhaseName(code));
 }
 
@@ -111,7 +111,7 @@ void frmTwo::ShowProperty() {
     const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
     row_ = row.value_or(PropertyRow());
     if (!row) row_.Code = row_.Property = globals.PropertyCode;
-    variables_ = VariablesOf("Pure");
+    variables_ = VariablesOf(globals.DataContext);
     std::erase_if(variables_, [this](const auto& v) { return v.IndVarCode == row_.Code; });
     const bool two = globals.VariableCount > 1;
     for (ui::Control* control :
@@ -141,12 +141,20 @@ void frmTwo::OfferVariables(ui::ComboBox& list) const {
     list.Index(0);
 }
 
-void frmTwo::ShowUnits(const ui::ComboBox& variable, ui::ComboBox& units) const {
+/// The units of the paper or the system unit alone; one that the form came with stays on offer.
+void frmTwo::ShowUnits(int n) {
+    ui::ComboBox& units = n == 1 ? lstVariable_Unit : lstVar2_Unit;
     const std::string chosen = units.Chosen();
-    const auto row = FindVariable(VariableOf(variable));
+    const std::string code = VariableOf(n == 1 ? cboVar1 : cboVar2);
+    const bool original = Globals().OriginalUnits;
     units.Clear();
-    if (!row) return;
-    units.Assign(Globals().OriginalUnits ? UnitList(row->Unit) : FixedUnitList(row->Unit));
+    if (code.empty()) return;
+    if (const auto row = FindVariable(code))
+        units.Assign(original ? UnitList(row->Unit) : FixedUnitList(row->Unit));
+    if (as_ && as_->VARIABLE(n) == code && as_->isOriginalUnit == original) {
+        const std::string own = UnitShown(*as_, n);
+        if (!own.empty() && units.Find(own) < 0) units.Add(own);
+    }
     units.Index(units.Count() == 1 ? 0 : units.Find(chosen));
 }
 
@@ -245,18 +253,14 @@ void frmTwo::ShowRecord(const clsTwo& record) {
 }
 
 void frmTwo::ShowVariables(const clsTwo& record) {
-    const std::pair<ui::ComboBox*, ui::ComboBox*> lists[] = {{&cboVar1, &lstVariable_Unit},
-                                                             {&cboVar2, &lstVar2_Unit}};
     for (int n = 1; n <= record.nVar && n <= 2; ++n) {
-        const auto [variable, units] = lists[n - 1];
+        ui::ComboBox& variable = n == 1 ? cboVar1 : cboVar2;
         std::string name = VariableName(record.VARIABLE(n));
         if (name.empty()) name = record.VARIABLE(n);
-        if (variable->Find(name) < 0) variable->Add(name);
-        variable->Choose(name);
-        ShowUnits(*variable, *units);
-        const std::string unit = UnitShown(record, n);
-        if (!unit.empty() && units->Find(unit) < 0) units->Add(unit);
-        units->Choose(unit);
+        if (variable.Find(name) < 0) variable.Add(name);
+        variable.Choose(name);
+        ShowUnits(n);
+        (n == 1 ? lstVariable_Unit : lstVar2_Unit).Choose(UnitShown(record, n));
     }
 }
 
@@ -301,6 +305,7 @@ std::string frmTwo::VariableOf(const ui::ComboBox& list) const {
 TwoDraft frmTwo::Draft() const {
     TwoDraft draft;
     draft.nVar = Globals().VariableCount;
+    draft.context = Globals().DataContext;
     draft.property = row_.Code;
     draft.hasSample = choice_.Sample() != nullptr;
     draft.variable1 = VariableOf(cboVar1);

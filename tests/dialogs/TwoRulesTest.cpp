@@ -1,5 +1,7 @@
 #include "dialogs/TwoRules.h"
 
+#include "dialogs/DataDialogFixture.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -208,6 +210,36 @@ TEST(TwoRulesTest, GasMakesAPressureAVapourPressure) {
     EXPECT_EQ(StoredPropertyCode("HTR", "G", "&"), "HVP");
     EXPECT_EQ(StoredPropertyCode("P", "C", "L"), "P");
     EXPECT_EQ(StoredPropertyCode("VDN", "L", "G"), "VDN");
+}
+
+class PhasesOfferedTest : public DataDialogFixture {
+protected:
+    static std::string Joined(const std::vector<std::string>& codes) {
+        std::string text;
+        for (const std::string& code : codes)
+            text += (text.empty() ? "" : " ") + code;
+        return text;
+    }
+    static std::string Offered(const std::string& property, const std::string& context = "Pure") {
+        const PhaseOffer offer = OfferPhases(property, 0, {}, context);
+        return Joined(offer.Phase1) + "|" + Joined(offer.Phase2) + "|" + Joined(offer.Phase3);
+    }
+};
+
+TEST_F(PhasesOfferedTest, PhasesFollowThePropertyAndTheContext) {
+    const std::string crystals = "C C1 C2 C3 C4 C5 CMS";
+    const std::string liquids = "LC LCN LCS LCC";
+    const std::string all = "L G IG FL " + crystals + " " + liquids + " VG";
+    for (const char* code : {"TC", "PC", "VC", "VDC", "VSC", "ZC", "IST"})
+        EXPECT_EQ(Offered(code), "L|G|") << code;
+    for (const char* code : {"TBN", "TB", "PV", "HVP"})
+        EXPECT_EQ(Offered(code), "L " + crystals + "|G|") << code;
+    EXPECT_EQ(Offered("TMN"), crystals + "|L|air");
+    const std::string condensed = "L " + crystals + " " + liquids + " VG";
+    EXPECT_EQ(Offered("HTR"), condensed + "|" + condensed + "|");
+    EXPECT_EQ(Offered("VDN"), all + "||");
+    EXPECT_EQ(Offered("VDN", "Complex"), all + " CS1 CS2 CSH LQ1 LQ2||");
+    EXPECT_EQ(Offered("PV", "Complex"), "L " + crystals + " CS1 CS2 CSH|G|");
 }
 
 } // namespace

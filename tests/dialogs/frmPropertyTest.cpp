@@ -298,6 +298,17 @@ TEST_F(frmPropertyReviewTest, MethodThatNoTableKnowsStaysUnderItsCode) {
     EXPECT_EQ(globals.KeyRest, ":future tag:m:");
 }
 
+TEST_F(frmPropertyReviewTest, UnitThatNoTableKnowsIsNeverReplacedInSilence) {
+    globals.PropertyUnit = "furlong";
+    Review([this](frmProperty& form) {
+        EXPECT_EQ(form.lstConv.Index(), -1);
+        desktop.Expect("Please select original units of the property");
+        form.cmdOK.UserClick();
+        form.cmdFinish.UserClick();
+    });
+    EXPECT_EQ(globals.PropertyUnit, "furlong");
+}
+
 TEST_F(frmPropertyTest, AdvancedModeComesBackForTheNextProperty) {
     globals.AdvancedMode = true;
     auto& form = CriticalPressure();

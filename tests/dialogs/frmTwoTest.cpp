@@ -310,6 +310,9 @@ TEST_F(frmTwoTest, PressureBesideAGasTakesANumberOfItsKind) {
     EXPECT_EQ(form.txtPrpSetNo.Text(), "1");
     Pick(form.lstPhase2, "Gas");
     EXPECT_EQ(form.txtPrpSetNo.Text(), "2");
+    Pick(form.lstCONSTRAINT, "Single phase at fixed volume");
+    EXPECT_EQ(form.txtPrpSetNo.Text(), "1"); // no second phase, no vapour pressure
+    Pick(form.lstCONSTRAINT, "Phase boundary");
     Pick(form.lstNumerical, "No numerical data");
     form.cmdOK.UserClick();
     ASSERT_EQ(globals.CurrentS->recTwo.Count(), 2u);
@@ -390,9 +393,18 @@ TEST_F(frmTwoTest, UnitThatNoTableKnowsIsKeptInSightAndRefused) {
     form.cmdOK.UserClick();
     EndEdit();
     EXPECT_EQ(set->VAR1_UNIT, "C");
-    // A factor is a unit; one in system units is only remembered.
+    // A factor is a unit, also behind a look at the method; one in system units is only remembered.
     const auto byFactor = Add("^1 2 PV S DIR 1\tN L G PB 0.5 & & &");
     auto& second = Edit(byFactor);
+    desktop.OnModal([](ui::Form& shown) {
+        auto& property = dynamic_cast<frmProperty&>(shown);
+        Pick(property.lstMethod, "Static method");
+        Pick(property.lstExpPurpose, "Principal objective of the work");
+        property.cmdOK.UserClick();
+    });
+    second.cmdMethod.UserClick();
+    forms.DropClosed();
+    EXPECT_EQ(globals.CurrentMethod->Method, "STATIC");
     EXPECT_EQ(second.lstVariable_Unit.Chosen(), "0.5* K");
     second.cmdOK.UserClick();
     EndEdit();
