@@ -111,12 +111,17 @@ void frmSingle::Phase1Click() {
 
 /// Lets property and method be reviewed; a cancelled review has changed nothing.
 void frmSingle::Method() {
+    const std::string property = row_.Code;
+    const std::string variable = variable_;
     if (!ReviewProperty(txtComment.Text())) return;
     {
         const ui::FillingScope filling(*this);
         txtComment.Text(Globals().PropertyComment);
         ShowProperty();
     }
+    // What was stated about another quantity is not true of this one.
+    if (row_.Code != property) statements_[0] = clsX();
+    if (variable_ != variable) statements_[1] = clsX();
     Touch();
 }
 

@@ -26,6 +26,7 @@ void frmSingle::Accept() {
     }
     const ui::FillingScope filling(*this);
     txtValue.Text("");
+    statements_ = {}; // they were of the value that has been stored
     ProposeSetNumber();
     cmdAccept.Caption("Done");
     stored_ = true;

@@ -42,7 +42,7 @@ void frmTwo::ArrangeControls() {
                      Field("Reference pressure:", txtREF_PRESSURE), Note("kPa"),
                      Field("Reference phase:", lstREF_PHASE)})}),
          Group(fraPresentation,
-               {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+               {Field("Numerical", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
          chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
     PreferredColumns = 100;
 }
@@ -86,6 +86,7 @@ void frmTwo::Load() {
             ShowRecord(*as_);
         else
             txtComment.Text(globals.PropertyComment);
+        openAtFirst_ = OpenVariable(Draft()).code;
     }
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     ShowCaption();

@@ -24,10 +24,10 @@ public:
     ui::ComboBox cboSubst{*this, "cboSubst"};
     ui::ComboBox cboSample{*this, "cboSample"};
     ui::TextBox txtPrpSetNo{*this, "txtPrpSetNo"};
-    ui::Label lblVar1{*this, "lblVar1", "Independent variable 1:"};
+    ui::Label lblVar1{*this, "lblVar1", "Independent variable 1"};
     ui::ComboBox cboVar1{*this, "cboVar1"};
     ui::ComboBox lstVariable_Unit{*this, "lstVariable_Unit"};
-    ui::Label lblVar2{*this, "lblVar2", "Independent variable 2:"};
+    ui::Label lblVar2{*this, "lblVar2", "Independent variable 2"};
     ui::ComboBox cboVar2{*this, "cboVar2"};
     ui::ComboBox lstVar2_Unit{*this, "lstVar2_Unit"};
     ui::Label lblVar3{*this, "lblVar3"};
@@ -104,6 +104,7 @@ private:
     void WriteVariables(clsTwo& set) const;
     void WriteResults(clsTwo& set) const;
     void WriteComment(clsTwo& set) const;
+    void DropConstants() const;
     void BuildPropertyChain() const;
     bool EnterNumbers(const std::shared_ptr<clsTwo>& set);
     void Store(const std::shared_ptr<clsTwo>& set);
@@ -113,7 +114,8 @@ private:
     SampleChoice choice_{*this, cboSubst, cboSample, "SELECT SAMPLE"};
     PropertyRow row_; // the property in hand
     std::vector<VariableRow> variables_;
-    std::shared_ptr<clsTwo> record_;   // the set that is being edited, null for a new one
+    std::string openAtFirst_;        // the variable whose constant value was shown at the beginning
+    std::shared_ptr<clsTwo> record_; // the set that is being edited, null for a new one
     std::shared_ptr<const clsTwo> as_; // the set that the form began with: that one, or its pattern
 };
 

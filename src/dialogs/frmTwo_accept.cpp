@@ -179,7 +179,9 @@ void frmTwo::WriteDefinition(clsTwo& set) const {
     set.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
     set.CONSTRAINT = draft.constraint;
     set.PHASE1 = draft.phase1;
-    set.PHASE2 = OrPlaceholder(draft.phase2);
+    const bool asBefore = as_ && as_->CONSTRAINT == draft.constraint && as_->PHASE1 == draft.phase1;
+    const bool unseen = asBefore && !lstPhase2.Visible(); // of a file: not asked for, not lost
+    set.PHASE2 = unseen ? as_->PHASE2 : OrPlaceholder(draft.phase2);
     Presentation presentation = ParsePresentation(set.DATATYPE);
     presentation.numerical = draft.numerical;
     presentation.calculated = chkCalc.Value();
@@ -197,9 +199,10 @@ void frmTwo::WriteVariables(clsTwo& set) const {
     for (int n = 1; n <= set.nVar; ++n) {
         clsX& item = set.UX[static_cast<std::size_t>(n)];
         const bool another = !item.PRPCODE.empty() && item.PRPCODE != set.VARIABLE(n);
-        if (another) item = clsX(); // what was stated about another variable is not true of this
+        if (another) item = clsX(); // what was stated about another quantity is not true of this
         item.PHASE = set.PHASE1;
     }
+    if (as_ && Globals().PropertyCode != as_->PRPCODE) set.UX[0] = clsX();
     set.UX[0].PHASE = set.PHASE1;
 }
 
@@ -239,16 +242,26 @@ void frmTwo::WriteComment(clsTwo& set) const {
     const std::string open = OpenVariable(Draft()).code;
     const std::string constant = open + " = " + txtVar3.Text();
     const bool stated = !open.empty() && !txtVar3.IsEmpty();
-    if (!stated || !HasKeyTag(tags, constant)) {
-        for (const char* code : {"WL", "WF", "P", "T"})
-            tags = WithoutTag(tags, std::string(code) + " = ");
-    }
+    if (!stated || !HasKeyTag(tags, constant)) DropConstants();
     if (as_ && (set.nVar > 1 || as_->VARIABLE1 != set.VARIABLE1))
         tags = WithoutTag(tags, "V1:" + as_->VARIABLE1);
     if (stated) tags = SetKeyTag(tags, constant, true);
     BuildPropertyChain();
     FillHeader(set.Header, !record_,
                BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));
+}
+
+/// Takes the constant values out of the tags, but for those of a file that the form never showed.
+void frmTwo::DropConstants() const {
+    const TwoDraft draft = Draft();
+    const std::string open = OpenVariable(draft).code;
+    for (const std::string code : {"WL", "WF", "P", "T"}) {
+        const bool seen = code == open || code == openAtFirst_;
+        const bool varies = code == draft.variable1 || (draft.nVar > 1 && code == draft.variable2);
+        if (as_ && !seen && !varies) continue;
+        std::string& tags = Globals().KeyRest;
+        tags = WithoutTag(tags, code + " = ");
+    }
 }
 
 /// The items of variables that are no longer there go, with the precisions stated for them.

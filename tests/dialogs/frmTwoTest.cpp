@@ -299,6 +299,40 @@ TEST_F(frmTwoTest, EditThatChangesNothingKeepsEveryByteAndCancelToo) {
     EXPECT_EQ(Lines(*set), expected);
 }
 
+TEST_F(frmTwoTest, WhatTheFormDoesNotShowSurvivesAnEdit) {
+    const auto set = Add("^1 2 RSS S DIR 1\tN L G DP S 273.15 & C");
+    clsA header;
+    header.Load("^A & O C & xyz UUU 3/4/2001 ::Method:PULSE:P = 100:T = 5:future:");
+    set->TakePending(header);
+    set->AddX(Statement("^X 0 RSS L - & & & + 1 0.1% 5 - & & - & & - & & &"));
+    const std::string before = Lines(*set);
+    Edit(set).cmdOK.UserClick();
+    EndEdit();
+    std::string expected = before; // but for the constant of what varies
+    expected.erase(expected.find("T = 5:"), 6);
+    EXPECT_EQ(Lines(*set), expected);
+    auto& form = Edit(set);
+    desktop.OnModal([](ui::Form& shown) {
+        auto& property = dynamic_cast<frmProperty&>(shown);
+        for (int group = 1; property.lstProp.Find("Density") < 0; ++group)
+            property.lstPropGroup.UserChoose(group);
+        Pick(property.lstProp, "Density");
+        Pick(property.lstConv, "kg/m3");
+        property.lstMethod.UserChoose(0);
+        property.cmdOK.UserClick();
+    });
+    form.cmdMethod.UserClick();
+    forms.DropClosed();
+    Pick(form.lstCONSTRAINT, "Derived property");
+    Pick(form.lstVariable_Unit, "K");
+    Pick(form.lstPhase1, "Crystal");
+    form.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_FALSE(set->UX[0].iRep);
+    EXPECT_EQ(set->PRPCODE + set->PHASE1 + set->PHASE2, "VDNC&");
+    EXPECT_EQ(globals.CurrentS->recTwo.Item("12VDN1"), set);
+}
+
 TEST_F(frmTwoTest, PressureBesideAGasTakesANumberOfItsKind) {
     auto& first = VaporPressure();
     OnTable("0.0035", true);
