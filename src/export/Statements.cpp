@@ -173,7 +173,7 @@ ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int c
                                     : ConvertedDifference(Val(text), unit);
     if (value == 0) return {std::move(text), std::max(1, digits)};
     if (isAbsolute) {
-        const int shown = ConvertedDigits(text, unit.code, value);
+        const int shown = ConvertedDigits(text, unit.factor > 0 ? "" : unit.code, value);
         digits = ofText == 0 ? shown : digits + shown - ofText;
     }
     digits = std::max(1, digits);

@@ -105,6 +105,15 @@ ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
     return {conversion.code, conversion.factor, conversion.molarMass, converts};
 }
 
+// What stands behind a mark that is off is not stated, and says nothing about the rows either.
+void DropUnstated(clsX& item) {
+    if (!item.iDS) item.DSEvaluator = item.DSLevel = item.DSValue = "";
+    if (!item.iRep) item.Repetitions = item.RValue = "";
+    if (!item.iRep) item.RType = -1;
+    if (!item.iUnc) item.ULevel = item.UValue = "";
+    if (!item.iCD) item.CDRms = "";
+}
+
 // Statements that only some rows make announce themselves like those of the set.
 void AnnounceRows(const clsTwo& set, RowExport& rows) {
     for (const auto& row : set.recData) {
@@ -132,6 +141,8 @@ RowExport RowExportOf(const clsTwo& set) {
         if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
         rows.quantities[place] = {unit, set.UX[place]};
     }
+    for (RowExport::Quantity& quantity : rows.quantities)
+        DropUnstated(quantity.item);
     AnnounceRows(set, rows);
     return rows;
 }
