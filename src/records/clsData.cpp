@@ -108,7 +108,7 @@ void clsData::LoadValue(std::string_view text, std::string_view digits, std::siz
     Values[n] = text == "&" ? std::string_view() : text;
     if (!isDigit) return;
     const int count = WrittenCount(digits);
-    Digits[n] = static_cast<short>(count > 0 ? count : SignificantDigits(text));
+    Digits[n] = static_cast<short>(count > 0 ? count : SignificantDigits(Values[n]));
 }
 
 void clsData::LoadExtras(std::string_view line) {

@@ -8,6 +8,7 @@
 #include "records/clsS.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 #include <cmath>
 #include <utility>
@@ -62,9 +63,10 @@ bool clsZ::PrintFactor(LineWriter& out) const {
     return true;
 }
 
-/// Per cent of the value becomes the figure itself.
+/// Per cent of the value becomes the figure itself; a sign alone says nothing.
 std::string clsZ::PrecisionForRecord(const std::string& precision) const {
     if (precision.find('%') == std::string::npos) return precision;
+    if (Trim(precision) == "%") return {};
     const double percent = Val(precision.substr(0, precision.find('%')));
     return NumberText(std::abs(percent * Val(PRPVALUE)) / 100);
 }
