@@ -127,6 +127,7 @@ private:
     bool Refuse(const Finding& finding, const std::string& title = {});
     void Assign();
     bool AssignAccepted();
+    void TakeSelectedRow();
     void Save();
     void Store();
     std::vector<const clsData*> OldRows() const;

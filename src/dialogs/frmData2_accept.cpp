@@ -123,10 +123,13 @@ void frmData2::Assign() {
 bool frmData2::AssignAccepted() {
     if (!ui::Forms::Current().Knows("frmUnc")) return true;
     KVOGlobal& globals = Globals();
+    TakeSelectedRow();
     globals.CurrentProperty = chain_;
+    const std::string key = std::exchange(globals.CurrentKey, "RLS1");
     globals.CurrentUX = std::make_shared<std::vector<clsX>>(set_->UX.begin(), set_->UX.end());
     globals.DialogAccepted = false;
     ui::Forms::Current().Get("frmUnc").ShowModal();
+    globals.CurrentKey = key;
     const bool accepted = globals.DialogAccepted;
     globals.DialogAccepted = false;
     const auto stated = std::exchange(globals.CurrentUX, nullptr);
@@ -137,6 +140,16 @@ bool frmData2::AssignAccepted() {
     FillHeader();
     FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
     return true;
+}
+
+/// The values by which the dialog of statements shows the figures that follow.
+void frmData2::TakeSelectedRow() {
+    const int property = columns_.Find(Kind::Value, 0);
+    int row = tblData.Selection().top;
+    if (row < tblData.FixedRows() || tblData.Cell(row, property).empty()) row = tblData.FixedRows();
+    int place = 0;
+    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
+        item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place++));
 }
 
 void frmData2::Save() {

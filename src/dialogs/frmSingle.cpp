@@ -138,13 +138,25 @@ void frmSingle::Uncertainty() {
     if (IsFixed()) named.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
     StoreStatements(named);
     NameStatements(named);
+    const auto chain = std::exchange(globals.CurrentProperty, ChainToEvaluate());
     const std::string key = std::exchange(globals.CurrentKey, "RLSZ");
     const auto count = static_cast<std::size_t>(IsFixed() ? 2 : 1);
     const bool accepted = EditStatements(std::span(named.UX).first(count));
     globals.CurrentKey = key;
+    globals.CurrentProperty = chain;
     if (!accepted) return;
     statements_ = named.UX;
     Touch();
+}
+
+/// The chain with its precisions, which a file states in system units, in the units entered.
+std::shared_ptr<clsProperty> frmSingle::ChainToEvaluate() const {
+    auto chain = std::make_shared<clsProperty>();
+    chain->Copy(*Globals().CurrentProperty);
+    if (!editing_ || !Globals().CurrentZ->commentInSystemUnits) return chain;
+    for (clsProperty* item = chain.get(); item; item = item->NextItem.get())
+        PrecisionInEnteredUnit(*item, Globals().CurrentMethod->MMass);
+    return chain;
 }
 
 void frmSingle::Touch() {

@@ -11,6 +11,7 @@
 
 namespace vexora {
 
+class clsProperty;
 class clsZ;
 
 /// One value of a property of a sample, by itself or at a fixed value of one variable. Behind
@@ -53,6 +54,7 @@ private:
     void Phase1Click();
     void Method();
     void Uncertainty();
+    std::shared_ptr<clsProperty> ChainToEvaluate() const;
     void Touch();
 
     // What stands on the form (frmSingle_fill.cpp).

@@ -144,9 +144,9 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
                            " " + item.Unit);
         return;
     }
-    lblFigures.Caption("Expanded uncertainty: " + FormatValue(head.PRECISION, shownDigits) + " " +
-                       item.Unit + "; in the system unit " +
-                       FormatValue(head.SystemPrecision, shownDigits));
+    lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
+                       FormatValue(head.PRECISION, shownDigits) + " " + item.Unit +
+                       "; in the system unit " + FormatValue(head.SystemPrecision, shownDigits));
 }
 
 void frmUnc::Accept() {

@@ -2,6 +2,7 @@
 
 #include "chem/CommentTags.h"
 #include "chem/clsProperty.h"
+#include "records/UnitConversion.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
@@ -54,12 +55,10 @@ clsProperty& Append(clsProperty& last, std::shared_ptr<clsProperty> item) {
 }
 
 /// The precision that a comment states for a quantity, in the unit of its values.
-void TakePrecision(clsProperty& item, std::string_view comment, bool inSystemUnit) {
-    const std::string text = CommentTag(comment, "d" + item.PropertyCode);
-    const bool convert = inSystemUnit && item.Relation != "R" && item.Factor <= 0;
-    item.PrecisionText = EnteredStatement(text, item.ConversionCode, convert);
-    if (!inSystemUnit || item.Factor <= 0 || !IsNumeric(text)) return;
-    item.PrecisionText = FormatValue(Val(text) / item.Factor, SignificantDigits(text));
+void TakePrecision(clsProperty& item, std::string_view comment, bool inSystemUnit,
+                   double molarMass = 0) {
+    item.PrecisionText = CommentTag(comment, "d" + item.PropertyCode);
+    if (inSystemUnit) PrecisionInEnteredUnit(item, molarMass);
 }
 
 void NameProperty(clsX& item, const std::string& code, const std::string& unit, double factor) {
@@ -79,6 +78,15 @@ void NameVariable(clsX& item, int n, const std::string& code, const std::string&
 }
 
 } // namespace
+
+void PrecisionInEnteredUnit(clsProperty& item, double molarMass) {
+    if (item.Relation == "R" || !IsNumeric(item.PrecisionText)) return;
+    const UnitConversion unit{item.ConversionCode, item.Factor, molarMass};
+    const double one = unit.ChangesValues() ? unit.Difference(1) : 1;
+    if (one == 0 || one == 1) return;
+    item.PrecisionText =
+        FormatValue(Val(item.PrecisionText) / one, SignificantDigits(item.PrecisionText));
+}
 
 std::string EnteredStatement(std::string_view text, std::string_view unitCode, bool inSystemUnit) {
     if (!inSystemUnit || !IsNumeric(text) || IsSystemUnit(unitCode)) return std::string(text);
@@ -116,7 +124,7 @@ std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original) {
     auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
     head->Relation = set.Relation();
     TakeMasters(*head, set.UX[0]);
-    TakePrecision(*head, comment, set.commentInSystemUnits);
+    TakePrecision(*head, comment, set.commentInSystemUnits, set.MolarMass());
     clsProperty* last = head.get();
     for (int n = 1; n <= set.nVar; ++n) {
         last = &Append(*last, VariableItem(set.VARIABLE(n), original ? set.VAR_UNIT(n) : "S"));
@@ -132,7 +140,7 @@ std::shared_ptr<clsProperty> BuildChain(const clsZ& value) {
     auto head =
         HeadOf(value.PRPCODE, original ? value.PROPERTY_UNIT : "S", original ? value.Factor : 0);
     TakeMasters(*head, value.UX[0]);
-    TakePrecision(*head, comment, value.commentInSystemUnits);
+    TakePrecision(*head, comment, value.commentInSystemUnits, value.MolarMass());
     if (value.nVar == 0) return head;
     clsProperty& item =
         Append(*head, VariableItem(value.Variable(), original ? value.VARIABLE_UNIT : "S"));

@@ -24,6 +24,10 @@ std::shared_ptr<clsProperty> BuildChain(const clsZ& value);
 /// The statements of an item become the defaults of its quantity; what is not stated is emptied.
 void TakeMasters(clsProperty& item, const clsX& statements);
 
+/// The precision of a quantity, read from a file in its system unit, as it reads in the unit of its
+/// values; molarMass in g/mol. Per cent, and texts that are no number, stay.
+void PrecisionInEnteredUnit(clsProperty& item, double molarMass);
+
 /// A statement as it reads in the entered unit of a variable: one read from a file stands in the
 /// system unit. Per cent, and texts that are no number, stay.
 std::string EnteredStatement(std::string_view text, std::string_view unitCode, bool inSystemUnit);

@@ -4,6 +4,7 @@
 #include "dialogs/DataDialogFixture.h"
 #include "dialogs/PhaseRules.h"
 #include "dialogs/frmProperty.h"
+#include "dialogs/frmUnc.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -237,6 +238,27 @@ TEST_F(frmSingleTest, CommentWithEveryTagSurvivesThreeEdits) {
     }
     EXPECT_TRUE(globals.DialogAccepted);
     EXPECT_EQ(globals.CurrentS->recZ.Count(), 1u);
+}
+
+TEST_F(frmSingleTest, FiguresTakeThePrecisionInTheUnitOfTheValue) {
+    auto record = std::make_shared<clsZ>();
+    record->Load("^z 1 TB F 1 L G & 212.0 & & &");
+    record->Header.Load("^A & O B & & & & ::Method:X:dTB:0.10:"); // in kelvin
+    record->AttachTo(*globals.CurrentS);
+    const std::string before = Lines(*record);
+    auto& form = Edit(record);
+    desktop.OnModal([](ui::Form& shown) {
+        auto& statements = dynamic_cast<frmUnc&>(shown);
+        statements.cmdCalc.UserClick();
+        EXPECT_EQ(statements.lblFigures.Caption(),
+                  "Expanded uncertainty of 212.0: 0.180 F; in the system unit 0.100");
+        statements.cmdOK.UserClick();
+    });
+    form.cmdUnc.UserClick();
+    forms.DropClosed();
+    form.cmdAccept.UserClick();
+    EndEdit();
+    EXPECT_EQ(Lines(*record), before);
 }
 
 TEST_F(frmSingleTest, AStateThatTheFormDoesNotAskForSurvivesAnEdit) {

@@ -113,7 +113,8 @@ TEST_F(frmUncTest, CalibrationConstantStandsForTheDevice) {
         form.txtCalibrError.UserReplaceAll("0.2");
         form.txtDSLevel(0).UserReplaceAll("95");
         form.cmdCalc.UserClick();
-        EXPECT_EQ(form.lblFigures.Caption().substr(0, 33), "Expanded uncertainty: 0.000997 kJ");
+        EXPECT_EQ(form.lblFigures.Caption().substr(0, 43),
+                  "Expanded uncertainty of 0.9970: 0.000997 kJ");
         form.cmdOK.UserClick();
     }));
     EXPECT_EQ(set.UX[0].DSEvaluator + "|" + set.UX[0].DSValue, "0.2|200");
@@ -131,11 +132,11 @@ TEST_F(frmUncTest, FiguresFollowFromTheStatementsAndCancelLeavesAll) {
         form.chkUPerCent(0).UserClick();
         form.cmdCalc.UserClick();
         EXPECT_EQ(form.lblFigures.Caption(),
-                  "Expanded uncertainty: 0.0199 g/cm3; in the system unit 19.9");
+                  "Expanded uncertainty of 0.9970: 0.0199 g/cm3; in the system unit 19.9");
         form.txtULevel(0).UserReplaceAll("95");
         form.cmdCalc.UserClick();
         EXPECT_EQ(form.lblFigures.Caption(),
-                  "Expanded uncertainty: 0.00997 g/cm3; in the system unit 9.97");
+                  "Expanded uncertainty of 0.9970: 0.00997 g/cm3; in the system unit 9.97");
         form.chkComb.UserClick();
         form.txtCUValue.UserReplaceAll("0.02");
         form.cmdCalc.UserClick();
@@ -145,6 +146,25 @@ TEST_F(frmUncTest, FiguresFollowFromTheStatementsAndCancelLeavesAll) {
     EXPECT_FALSE(accepted);
     EXPECT_FALSE(set.UX[0].IsStated());
     EXPECT_EQ(globals.CurrentProperty->Unc + globals.CurrentProperty->masterunc, "");
+}
+
+TEST_F(frmUncTest, TheLargerCombinedUncertaintyIsTheEvaluatedOne) {
+    const auto evaluated = [this](const std::string& stated, bool perCent) {
+        EXPECT_TRUE(Work([&](frmUnc& form) {
+            if (!form.chkComb.Value()) form.chkComb.UserClick();
+            if (form.cboCUType.Chosen().starts_with("SELECT "))
+                Pick(form.cboCUType, "Comparison with Other Measurements");
+            form.txtCUValue.UserReplaceAll(stated);
+            if (form.chkCUPerCent.Value() != perCent) form.chkCUPerCent.UserClick();
+            form.cmdCalc.UserClick();
+            form.cmdOK.UserClick();
+        }));
+        return set.UX[0].KVOUValue;
+    };
+    set.UX[0].KVOUValue = "0.010"; // as a file has it
+    EXPECT_EQ(evaluated("0.005", false), "0.010");
+    EXPECT_EQ(evaluated("0.020", false), "0.020");
+    EXPECT_EQ(evaluated("4", true), "0.03988"); // 4 % of 0.9970
 }
 
 TEST_F(frmUncTest, WhatIsNotTouchedKeepsItsBytes) {
