@@ -110,12 +110,14 @@ private:
                    const std::vector<std::shared_ptr<clsData>>& rows);
     void ShowUnits();
 
-    // Marks and findings (frmData2_findings.cpp).
+    // Marks and findings (frmData2_findings.cpp, frmData2_look.cpp).
     void TableChanged();
     void FindAgain(int firstRow, int lastRow);
     void ShowFindings();
     void StepFinding(int step);
     void GoTo(const Finding& finding);
+    void LookAgain();
+    std::vector<int> FarRowsOfTable() const;
 
     // Checks, evaluation and storing (frmData2_accept.cpp).
     bool Check();
@@ -153,6 +155,7 @@ private:
     std::map<int, std::vector<Finding>> findings_; // by row
     std::vector<Finding> listed_;                  // as the list shows them
     std::string told_;                             // what the last paste had to guess
+    std::vector<int> lookAgain_;                   // rows far from their neighbours
     int editRow_ = 0, editColumn_ = 0;
 };
 

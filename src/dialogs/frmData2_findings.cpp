@@ -39,6 +39,7 @@ void frmData2::FindAgain(int firstRow, int lastRow) {
         else
             findings_[row] = std::move(found);
     }
+    LookAgain();
     ShowFindings();
 }
 

@@ -1,5 +1,8 @@
 #include "dialogs/frmData2.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
@@ -21,11 +24,13 @@ void frmData2::View() {
     if (count > PlotTable::MostPoints) {
         ui::Say("The table holds " + std::to_string(count) + " points; the plot shows the first " +
                 std::to_string(PlotTable::MostPoints));
-        globals.Plot->PointTable.resize(PlotTable::MostPoints);
-        globals.Plot->PointUnc.resize(PlotTable::MostPoints);
+        globals.Plot->Cut();
     }
     ui::Forms::Current().Get("frmGraph").ShowModal();
-    globals.Plot = nullptr;
+    const int row = std::exchange(globals.Plot, nullptr)->ChosenRow;
+    if (row == 0) return;
+    MoveTo(row, columns_.Find(Kind::Value, 0));
+    tblData.SetFocus();
 }
 
 /// A table without variables is plotted against the number of the row.
@@ -42,8 +47,8 @@ PlotTable frmData2::PointsOfTable() const {
         for (int n = 1; n <= set_->nVar; ++n)
             point[static_cast<std::size_t>(n)] =
                 Val(tblData.Cell(row, columns_.Find(Kind::Value, n)));
-        table.PointTable.push_back(point);
-        table.PointUnc.push_back(UncertaintyOf(row));
+        table.Add(point, UncertaintyOf(row), row,
+                  std::binary_search(lookAgain_.begin(), lookAgain_.end(), row));
     }
     return table;
 }

@@ -61,6 +61,8 @@ public:
     virtual void Hourglass(bool on) = 0;
     /// Saves a picture of the active window; false where there is no screen.
     virtual bool Shot(const std::string& path) = 0;
+    /// A picture as the bytes of a PNG file; nothing where there is no screen.
+    virtual std::optional<std::string> PngOf(const ui::Picture&) { return {}; }
     /// Lets everything settle that the last action set going.
     virtual void Settle() = 0;
 };

@@ -42,6 +42,10 @@ public:
     void Hourglass(bool on) override;
     void ShowHelp(int context) override;
     void Print(const std::string& title, const std::string& text) override;
+    void PrintPicture(const std::string& title, const ui::Picture& picture) override;
+    std::optional<std::string> PngOf(const ui::Picture& picture) override {
+        return actor_.PngOf(picture);
+    }
     ui::Date Today() override;
     /// Refuses every change once the script has left the program below a modal form.
     ui::FileSystem& Files() override;

@@ -140,6 +140,11 @@ void Player::Print(const std::string& title, const std::string& text) {
     out_ << "[print] " << Quoted(title) << ' ' << Quoted(text) << '\n';
 }
 
+void Player::PrintPicture(const std::string& title, const ui::Picture& picture) {
+    out_ << "[print] " << Quoted(title) << " a picture of " << picture.Strokes().size()
+         << " strokes\n";
+}
+
 ui::Date Player::Today() {
     return options_.today ? *options_.today : ClockToday();
 }

@@ -59,8 +59,9 @@ void PrintRows(std::ostream& out, const ui::Grid& grid) {
 }
 
 void PrintStrokes(std::ostream& out, const ui::Picture& picture) {
-    for (const auto& stroke : picture.Strokes()) {
-        if (!stroke.text.empty()) out << "  " << Quoted(stroke.text) << '\n';
+    for (const auto* strokes : {&picture.Strokes(), &picture.Overlay()}) {
+        for (const auto& stroke : *strokes)
+            if (!stroke.text.empty()) out << "  " << Quoted(stroke.text) << '\n';
     }
 }
 

@@ -42,15 +42,14 @@ void Arrange(PlotTable& table, int xVar) {
     std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
         return GT(table.PointTable[a], table.PointTable[b], xVar, table.nVar) < 0;
     });
-    table.PointUnc.resize(order.size());
-    std::vector<PlotTable::Row> rows;
-    std::vector<double> uncertainties;
-    for (const std::size_t at : order) {
-        rows.push_back(table.PointTable[at]);
-        uncertainties.push_back(table.PointUnc[at]);
-    }
-    table.PointTable = std::move(rows);
-    table.PointUnc = std::move(uncertainties);
+    PlotTable arranged;
+    for (const std::size_t at : order)
+        arranged.Add(table.PointTable[at], table.PointUnc[at], table.PointRow[at],
+                     table.PointFar[at]);
+    table.PointTable = std::move(arranged.PointTable);
+    table.PointUnc = std::move(arranged.PointUnc);
+    table.PointRow = std::move(arranged.PointRow);
+    table.PointFar = std::move(arranged.PointFar);
 }
 
 PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance) {

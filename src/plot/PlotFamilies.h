@@ -10,7 +10,7 @@ namespace vexora {
 /// then by the first columns up to the fourth.
 int GT(const PlotTable::Row& a, const PlotTable::Row& b, int xVar, int nVar);
 
-/// Brings the rows into that order, each with its uncertainty; equal rows keep theirs.
+/// Brings the rows into that order, with all that belongs to them; equal rows keep theirs.
 void Arrange(PlotTable& table, int xVar);
 
 /// Points that agree in all variables but the one on the X axis, so that they lie on one curve.

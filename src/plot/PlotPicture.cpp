@@ -17,39 +17,41 @@ constexpr double farthest = 1.2; // points a little outside the frame are still 
 constexpr double tickLength = 6;
 constexpr double capWidth = 5;
 constexpr double lineHeight = 24;
+constexpr double headLine = 8;
+constexpr double legendLine = 28;
+constexpr double characterWidth = 10;
 constexpr double leastApart = 28; // of labels on the Y axis
 constexpr double leastAside = 70; // of labels on the X axis
-constexpr int colourCount = 7;
-constexpr int grey = -1;
+constexpr int colourCount = static_cast<int>(ui::PictureColours.size());
+constexpr int faint = -1;
 
-struct Frame {
-    double left = 115, right = 975, top = 45, bottom = 610;
-};
+std::size_t At(int point) {
+    return static_cast<std::size_t>(point);
+}
 
 bool HasLegend(const Plot& plot) {
     return plot.families.GroupRows.size() > 1;
 }
 
-Frame FrameOf(const Plot& plot) {
-    Frame frame;
-    if (HasLegend(plot)) frame.right = 800;
-    return frame;
+bool HasRings(const Plot& plot) {
+    const auto& far = plot.table.PointFar;
+    return std::find(far.begin(), far.end(), true) != far.end();
 }
 
 const PlotTable::Row& RowOf(const Plot& plot, int point) {
-    return plot.table.PointTable[static_cast<std::size_t>(point)];
+    return plot.table.PointTable[At(point)];
 }
 
 double XOf(const Plot& plot, int point) {
     return RowOf(plot, point)[static_cast<std::size_t>(plot.xVar)];
 }
 
-double Across(const Frame& frame, double position) {
-    return frame.left + position * (frame.right - frame.left);
+double Across(const Plot& plot, double position) {
+    return plot.left + position * (plot.right - plot.left);
 }
 
-double Down(const Frame& frame, double position) {
-    return frame.bottom - position * (frame.bottom - frame.top);
+double Down(const Plot& plot, double position) {
+    return plot.bottom - position * (plot.bottom - plot.top);
 }
 
 Stroke Line(double x, double y, double x2, double y2, int colour = 0) {
@@ -62,6 +64,12 @@ Stroke Label(double x, double y, std::string text, Align align) {
     return stroke;
 }
 
+Stroke TickLabel(double x, double y, double value, Align align) {
+    Stroke stroke = Label(x, y, NumberText(value), align);
+    stroke.yields = true;
+    return stroke;
+}
+
 /// Neighbouring families differ in colour and in shape, so that either is enough.
 Stroke Marker(PlotPlace place, int group) {
     Stroke stroke{Shape::Marker, place.x, place.y, 0, 0, 1 + group % colourCount, {}};
@@ -69,72 +77,88 @@ Stroke Marker(PlotPlace place, int group) {
     return stroke;
 }
 
-void DrawTicksX(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame) {
+void DrawTicksX(std::vector<Stroke>& strokes, const Plot& plot) {
     double last = -leastAside;
     for (const double tick : plot.scale.TicksX()) {
         const auto position = plot.scale.PositionX(tick);
         if (!position) continue;
-        const double x = Across(frame, *position);
-        strokes.push_back(Line(x, frame.top, x, frame.bottom, grey));
-        strokes.push_back(Line(x, frame.bottom, x, frame.bottom + tickLength));
+        const double x = Across(plot, *position);
+        strokes.push_back(Line(x, plot.top, x, plot.bottom, faint));
+        strokes.push_back(Line(x, plot.bottom, x, plot.bottom + tickLength));
         if (x - last < leastAside) continue;
-        strokes.push_back(Label(x, frame.bottom + 10, NumberText(tick), Align::Centre));
+        strokes.push_back(TickLabel(x, plot.bottom + 10, tick, Align::Centre));
         last = x;
     }
 }
 
-void DrawTicksY(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame) {
-    double last = frame.bottom + leastApart;
+void DrawTicksY(std::vector<Stroke>& strokes, const Plot& plot) {
+    double last = plot.bottom + leastApart;
     for (const double tick : plot.scale.TicksY()) {
         const auto position = plot.scale.PositionY(tick);
         if (!position) continue;
-        const double y = Down(frame, *position);
-        strokes.push_back(Line(frame.left, y, frame.right, y, grey));
-        strokes.push_back(Line(frame.left - tickLength, y, frame.left, y));
+        const double y = Down(plot, *position);
+        strokes.push_back(Line(plot.left, y, plot.right, y, faint));
+        strokes.push_back(Line(plot.left - tickLength, y, plot.left, y));
         if (last - y < leastApart) continue;
-        strokes.push_back(
-            Label(frame.left - 10, y - lineHeight / 2, NumberText(tick), Align::Right));
+        strokes.push_back(TickLabel(plot.left - 10, y - lineHeight / 2, tick, Align::Right));
         last = y;
     }
 }
 
-void DrawFrame(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame) {
-    strokes.push_back({Shape::Rectangle, frame.left, frame.top, frame.right, frame.bottom, 0, {}});
+void DrawFrame(std::vector<Stroke>& strokes, const Plot& plot) {
+    strokes.push_back({Shape::Rectangle, plot.left, plot.top, plot.right, plot.bottom, 0, {}});
     const std::string& xName = plot.table.NameOf(plot.xVar);
-    strokes.push_back(Label((frame.left + frame.right) / 2, frame.bottom + 45,
+    strokes.push_back(Label((plot.left + plot.right) / 2, plot.bottom + 45,
                             plot.scale.Log ? xName + ", scale of 1/X" : xName, Align::Centre));
     strokes.push_back(Label(
-        frame.left, frame.top - 34,
+        plot.left, headLine,
         plot.scale.Log ? plot.table.YName + ", scale of ln Y" : plot.table.YName, Align::Left));
+    if (!HasRings(plot)) return;
+    const double y = plot.top - lineHeight - 6;
+    strokes.push_back({Shape::Ring, plot.left + 12, y + lineHeight / 2, 0, 0, 0, {}});
+    strokes.push_back(Label(plot.left + 32, y, "far from its neighbours: look again", Align::Left));
 }
 
 /// From the value less its uncertainty to the value and its uncertainty; what leaves the frame is
 /// cut off and has no cap.
-void DrawBar(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame, int point,
-             double x) {
-    const double uncertainty = plot.table.PointUnc[static_cast<std::size_t>(point)];
+void DrawBar(std::vector<Stroke>& strokes, const Plot& plot, int point, double x) {
+    const double uncertainty = plot.table.PointUnc[At(point)];
     if (uncertainty == 0) return;
     const double y = RowOf(plot, point)[0];
-    const int colour = 1 + plot.families.GroupOf[static_cast<std::size_t>(point)] % colourCount;
+    const int colour = 1 + plot.families.GroupOf[At(point)] % colourCount;
     const double low = plot.scale.PositionY(y - std::abs(uncertainty)).value_or(-1);
     const double high = plot.scale.PositionY(y + std::abs(uncertainty)).value_or(-1);
     if (high < 0 || low > 1) return;
     strokes.push_back(
-        Line(x, Down(frame, std::max(low, 0.0)), x, Down(frame, std::min(high, 1.0)), colour));
+        Line(x, Down(plot, std::max(low, 0.0)), x, Down(plot, std::min(high, 1.0)), colour));
     for (const double end : {low, high}) {
         if (end < 0 || end > 1) continue;
-        const double at = Down(frame, end);
+        const double at = Down(plot, end);
         strokes.push_back(Line(x - capWidth, at, x + capWidth, at, colour));
     }
 }
 
-void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame) {
+bool IsInside(const Plot& plot, PlotPlace place) {
+    return place.x >= plot.left && place.x <= plot.right && place.y >= plot.top &&
+           place.y <= plot.bottom;
+}
+
+void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot) {
     std::vector<Stroke> markers;
     for (int point = 0; point < plot.table.PointCount(); ++point) {
         const auto place = PlaceOf(plot, point);
         if (!place) continue;
-        if (plot.showUnc) DrawBar(strokes, plot, frame, point, place->x);
-        markers.push_back(Marker(*place, plot.families.GroupOf[static_cast<std::size_t>(point)]));
+        Stroke marker = Marker(*place, plot.families.GroupOf[At(point)]);
+        if (plot.showUnc && place->x >= plot.left && place->x <= plot.right)
+            DrawBar(strokes, plot, point, place->x);
+        if (!IsInside(plot, *place)) {
+            marker.colour = faint;
+            strokes.push_back(marker);
+            continue;
+        }
+        markers.push_back(marker);
+        if (plot.table.PointFar[At(point)])
+            markers.push_back({Shape::Ring, place->x, place->y, 0, 0, 0, {}});
     }
     strokes.insert(strokes.end(), markers.begin(), markers.end());
 }
@@ -150,34 +174,65 @@ std::string OthersText(const Plot& plot, const PlotTable::Row* row) {
     return text;
 }
 
-void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot, const Frame& frame) {
-    const double left = frame.right + 20;
-    double y = frame.top;
-    strokes.push_back(
-        Label(Plot::Width - 10, frame.top - 34, OthersText(plot, nullptr), Align::Right));
-    int group = 0;
-    for (const int row : plot.families.GroupRows) {
-        if (y + 2 * lineHeight > frame.bottom) {
-            strokes.push_back(Label(left, y, "...", Align::Left));
-            return;
-        }
-        strokes.push_back(Marker({left, y + lineHeight / 2}, group++));
-        strokes.push_back(Label(left + 18, y, OthersText(plot, &RowOf(plot, row)), Align::Left));
-        y += lineHeight + 4;
+/// So many families stand in the legend.
+std::size_t LegendLines(const Plot& plot) {
+    const auto room = static_cast<std::size_t>((plot.bottom - plot.top) / legendLine) - 1;
+    return std::min(plot.families.GroupRows.size(), room);
+}
+
+std::string LegendText(const Plot& plot, std::size_t group) {
+    return OthersText(plot, &RowOf(plot, plot.families.GroupRows[group]));
+}
+
+void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot) {
+    const double left = plot.right + 24;
+    double y = plot.top;
+    strokes.push_back(Label(Plot::Width - 10, plot.top - lineHeight - 6, OthersText(plot, nullptr),
+                            Align::Right));
+    for (std::size_t group = 0; group < LegendLines(plot); ++group, y += legendLine) {
+        strokes.push_back(Marker({left, y + lineHeight / 2}, static_cast<int>(group)));
+        strokes.push_back(Label(left + 16, y, LegendText(plot, group), Align::Left));
     }
+    const std::size_t more = plot.families.GroupRows.size() - LegendLines(plot);
+    if (more > 0)
+        strokes.push_back(
+            Label(left + 16, y, "and " + std::to_string(more) + " more", Align::Left));
+}
+
+double LongestLabel(const std::vector<double>& ticks) {
+    std::size_t longest = 0;
+    for (const double tick : ticks)
+        longest = std::max(longest, NumberText(tick).size());
+    return characterWidth * static_cast<double>(longest);
+}
+
+double LegendWidth(const Plot& plot) {
+    if (!HasLegend(plot)) return 0;
+    std::size_t longest = 0;
+    for (std::size_t group = 0; group < LegendLines(plot); ++group)
+        longest = std::max(longest, LegendText(plot, group).size());
+    return 45 + characterWidth * static_cast<double>(longest);
 }
 
 } // namespace
 
+Plot::Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
+           const PlotFamilies& plotFamilies, bool bars)
+    : table(plotTable), scale(plotScale), xVar(x), families(plotFamilies), showUnc(bars) {
+    top = HasLegend(*this) || HasRings(*this) ? 76 : 45;
+    bottom = 610;
+    left = std::clamp(25 + LongestLabel(scale.TicksY()), 80.0, 220.0);
+    right = Width - 25 - std::clamp(LegendWidth(*this), 0.0, 330.0);
+}
+
 std::vector<Stroke> PlotPicture(const Plot& plot) {
     std::vector<Stroke> strokes;
     if (plot.scale.Empty) return strokes;
-    const Frame frame = FrameOf(plot);
-    DrawTicksX(strokes, plot, frame);
-    DrawTicksY(strokes, plot, frame);
-    DrawFrame(strokes, plot, frame);
-    DrawPoints(strokes, plot, frame);
-    if (HasLegend(plot)) DrawLegend(strokes, plot, frame);
+    DrawTicksX(strokes, plot);
+    DrawTicksY(strokes, plot);
+    DrawFrame(strokes, plot);
+    DrawPoints(strokes, plot);
+    if (HasLegend(plot)) DrawLegend(strokes, plot);
     return strokes;
 }
 
@@ -189,14 +244,12 @@ std::optional<PlotPlace> PlaceOf(const Plot& plot, int point) {
         return position > 1 - farthest && position < farthest;
     };
     if (!x || !y || !seen(*x) || !seen(*y)) return std::nullopt;
-    const Frame frame = FrameOf(plot);
-    return PlotPlace{Across(frame, *x), Down(frame, *y)};
+    return PlotPlace{Across(plot, *x), Down(plot, *y)};
 }
 
 PlotPlace PositionsAt(const Plot& plot, PlotPlace place) {
-    const Frame frame = FrameOf(plot);
-    return {(place.x - frame.left) / (frame.right - frame.left),
-            (frame.bottom - place.y) / (frame.bottom - frame.top)};
+    return {(place.x - plot.left) / (plot.right - plot.left),
+            (plot.bottom - place.y) / (plot.bottom - plot.top)};
 }
 
 std::optional<int> NearestPoint(const Plot& plot, PlotPlace place) {
@@ -217,6 +270,29 @@ std::optional<int> NearestPoint(const Plot& plot, PlotPlace place) {
 
 std::string PointText(const Plot& plot, int point) {
     return "(" + NumberText(XOf(plot, point)) + ", " + NumberText(RowOf(plot, point)[0]) + ")";
+}
+
+std::string RowText(const Plot& plot, int point) {
+    return "Row " + std::to_string(plot.table.PointRow[At(point)]) +
+           (plot.table.PointFar[At(point)] ? ", look again" : "");
+}
+
+std::vector<Stroke> PointMark(const Plot& plot, int point) {
+    const auto place = PlaceOf(plot, point);
+    if (!place) return {};
+    Stroke reticle = Marker(*place, 0);
+    reticle.colour = 0;
+    reticle.marker = ui::Picture::Reticle;
+    std::vector<Stroke> strokes{reticle};
+    const bool isRight = place->x > (plot.left + plot.right) / 2;
+    const double x = place->x + (isRight ? -24 : 24);
+    double y = place->y - (place->y > (plot.top + plot.bottom) / 2 ? 2 * lineHeight + 18 : -18);
+    for (const std::string& text : {PointText(plot, point), RowText(plot, point)}) {
+        strokes.push_back(Label(x, y, text, isRight ? Align::Right : Align::Left));
+        strokes.back().boxed = true;
+        y += lineHeight + 3;
+    }
+    return strokes;
 }
 
 } // namespace vexora

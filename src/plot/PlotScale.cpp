@@ -102,11 +102,15 @@ double PlotScale::ValueY(double position) const {
 }
 
 std::vector<double> PlotScale::TicksX() const {
-    return Empty ? std::vector<double>() : Ticks(XMin, XMax);
+    return HasTicks() ? Ticks(XMin, XMax) : std::vector<double>();
 }
 
 std::vector<double> PlotScale::TicksY() const {
-    return Empty ? std::vector<double>() : Ticks(YMin, YMax);
+    return HasTicks() ? Ticks(YMin, YMax) : std::vector<double>();
+}
+
+bool PlotScale::HasTicks() const {
+    return !Empty && XMin != XMax && YMin != YMax;
 }
 
 std::vector<double> Ticks(double min, double max) {

@@ -30,12 +30,14 @@ public:
     double ValueX(double position) const;
     double ValueY(double position) const;
 
-    /// Values to be labelled, at equal steps of the value in either mode.
+    /// Values to be labelled, at equal steps of the value in either mode; none on either axis when
+    /// one of them has equal limits.
     std::vector<double> TicksX() const;
     std::vector<double> TicksY() const;
 
 private:
     void PadLog();
+    bool HasTicks() const;
 };
 
 /// Round values from min to max: steps of 1, 2 or 5 times a power of ten. None when the limits are

@@ -37,13 +37,13 @@ std::string HtmlOfText(std::string_view text) {
 }
 
 frmBox::frmBox() : Form("frmBox", "Vexora") {
-    Arrangement = ui::Column({rtfBox, ui::ButtonRow({cmdPrint, cmdClose})});
-    DefaultButton = &cmdClose;
-    CancelButton = &cmdClose;
+    Arrangement = ui::Column({RichTextBox1, ui::ButtonRow({cmdPrint, cmdOK})});
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdOK;
     PreferredColumns = 80;
     PreferredRows = 28;
     cmdPrint.OnClick = [this] { cmdPrint_Click(); };
-    cmdClose.OnClick = [this] { Close(); };
+    cmdOK.OnClick = [this] { Close(); };
 }
 
 std::string frmBox::LoadFile(const std::string& path) {
@@ -56,7 +56,7 @@ std::string frmBox::LoadFile(const std::string& path) {
         const std::string title = Between(text, "<title>", "</title>");
         const std::string body = Between(text, "<body>", "</body>");
         Caption(title.empty() ? "Vexora" : title);
-        rtfBox.Html(body.empty() ? text : body);
+        RichTextBox1.Html(body.empty() ? text : body);
     } else {
         ShowText("Vexora", name.ends_with(".rtf") ? TextOfRtf(text) : text);
     }
@@ -65,11 +65,11 @@ std::string frmBox::LoadFile(const std::string& path) {
 
 void frmBox::ShowText(const std::string& title, std::string_view text) {
     Caption(title);
-    rtfBox.Html(HtmlOfText(text));
+    RichTextBox1.Html(HtmlOfText(text));
 }
 
 void frmBox::cmdPrint_Click() {
-    ui::TheDesktop().Print(Caption(), rtfBox.Display());
+    ui::TheDesktop().Print(Caption(), RichTextBox1.Display());
 }
 
 } // namespace vexora

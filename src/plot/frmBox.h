@@ -15,9 +15,9 @@ class frmBox : public ui::Form {
 public:
     frmBox();
 
-    ui::RichText rtfBox{*this, "rtfBox"};
+    ui::RichText RichTextBox1{*this, "RichTextBox1"};
     ui::CommandButton cmdPrint{*this, "cmdPrint", "&Print"};
-    ui::CommandButton cmdClose{*this, "cmdClose", "&Close"};
+    ui::CommandButton cmdOK{*this, "cmdOK", "OK"};
 
     /// Takes a file; the ending of its name tells rich text (.rtf), HTML (.html, .htm) and plain
     /// text apart. The answer is empty, or why it cannot be read.

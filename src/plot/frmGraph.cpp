@@ -3,44 +3,68 @@
 #include <cmath>
 
 #include "globals/KVOGlobal.h"
+#include "plot/PictureSvg.h"
+#include "records/SafeFile.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
 
 namespace vexora {
 
 namespace {
 
 constexpr double leastDrag = 10; // a smaller rectangle is a click
-
-constexpr const char* hint = "Drag a rectangle to enlarge it, click to see all points";
-constexpr const char* noLogarithm =
-    "Nothing to draw: 1/X and ln Y need an absolute temperature and "
-    "a value above 0";
+constexpr int helpAbout = 350;
 
 } // namespace
 
 frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     using namespace ui;
-    Arrangement = Column({picPIC, lblPoint, ButtonRow({cmdMode, cmdVar, cmdUnc, cmdOK})});
-    PreferredColumns = 110;
-    PreferredRows = 36;
+    Arrangement = Column({picPIC, lblPoint, lblRow, ButtonRow({cmdMode, cmdVar, cmdUnc, cmdOK})});
+    PreferredColumns = 150;
+    PreferredRows = 46;
     DefaultButton = &cmdOK;
     CancelButton = &cmdOK;
+    HelpContext = helpAbout;
+    WireEvents();
+    WireMenus();
+}
+
+void frmGraph::WireEvents() {
     picPIC.OnPress = [this](double x, double y) { picPIC_Press({x, y}); };
     picPIC.OnMove = [this](double x, double y) { picPIC_Move({x, y}); };
     picPIC.OnRelease = [this](double x, double y) { picPIC_Release({x, y}); };
-    cmdMode.OnClick = [this] { cmdMode_Click(); };
-    cmdVar.OnClick = [this] { cmdVar_Click(); };
+    picPIC.OnDoubleClick = [this] { GoToPoint(); };
+    picPIC.OnKey = [this](ui::Key& key) { picPIC_Key(key); };
+    cmdMode.OnClick = [this] {
+        cmdMode_Click();
+        picPIC.SetFocus();
+    };
+    cmdVar.OnClick = [this] {
+        cmdVar_Click();
+        picPIC.SetFocus();
+    };
     cmdUnc.OnClick = [this] {
         showUnc_ = !showUnc_;
         Redraw();
+        picPIC.SetFocus();
     };
     cmdOK.OnClick = [this] { Close(); };
+}
+
+void frmGraph::WireMenus() {
+    mnuFileSave.OnClick = [this] { mnuFileSave_Click(); };
+    mnuFilePrint.OnClick = [this] { ui::TheDesktop().PrintPicture(Caption(), picPIC); };
     mnuToolsIncrease.OnClick = [this] { ChangeTolerance(2); };
     mnuToolsDecrease.OnClick = [this] { ChangeTolerance(0.5); };
     mnuHide.OnClick = [this] {
         hideMarks_ = !hideMarks_;
         mnuHide.Checked(hideMarks_);
+        point_.reset();
         Redraw();
     };
+    mnuNextFar.OnClick = [this] { StepFar(1); };
+    mnuLastFar.OnClick = [this] { StepFar(-1); };
+    mnuHelpAbout.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
 }
 
 void frmGraph::Load() {
@@ -53,6 +77,11 @@ void frmGraph::Load() {
     NameAxes();
     Ranges();
     Redraw();
+}
+
+/// The keys of the plot serve at once.
+void frmGraph::Activate() {
+    picPIC.SetFocus();
 }
 
 void frmGraph::picPIC_Press(PlotPlace place) {
@@ -84,6 +113,22 @@ void frmGraph::picPIC_Release(PlotPlace place) {
     Redraw();
 }
 
+void frmGraph::picPIC_Key(ui::Key& key) {
+    const std::string name = key.FullName();
+    key.swallowed = true;
+    if (name == "Left" || name == "Right")
+        StepPoint(name == "Right" ? 1 : -1, false);
+    else if (name == "Up" || name == "Down")
+        StepPoint(name == "Up" ? 1 : -1, true);
+    else if (name == "Home" || name == "End") {
+        point_.reset();
+        StepPoint(name == "Home" ? 1 : -1, false);
+    } else if (name == "Enter" && point_)
+        GoToPoint();
+    else
+        key.swallowed = false;
+}
+
 void frmGraph::cmdMode_Click() {
     scale_.Log = !scale_.Log;
     cmdMode.Caption(scale_.Log ? "Y vs X" : "ln Y vs 1/X");
@@ -93,10 +138,29 @@ void frmGraph::cmdMode_Click() {
 
 void frmGraph::cmdVar_Click() {
     xVar_ = xVar_ < table_->nVar ? xVar_ + 1 : 1;
+    point_.reset();
     Arrange(*table_, xVar_);
     NameAxes();
     Ranges();
     Redraw();
+}
+
+/// The ending of the name tells what is written; without one it is a drawing.
+void frmGraph::mnuFileSave_Click() {
+    const auto chosen = ui::TheDesktop().Choose({true, {}, "plot.svg", "Pictures (*.svg *.png)"});
+    if (!chosen) return;
+    const std::string name = LowerAscii(*chosen);
+    const bool isPng = name.ends_with(".png");
+    const std::string path = isPng || name.ends_with(".svg") ? *chosen : *chosen + ".svg";
+    ui::FileSystem& files = ui::TheDesktop().Files();
+    if (files.Exists(path) && !ui::AskYesNo(path + " exists already\nReplace it?")) return;
+    const auto bytes = isPng ? ui::TheDesktop().PngOf(picPIC) : SvgOf(picPIC, Caption());
+    if (!bytes) {
+        ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
+        return;
+    }
+    const std::string error = WriteSafely(files, path, *bytes, false);
+    if (!error.empty()) ui::Say(error);
 }
 
 void frmGraph::ChangeTolerance(double factor) {
@@ -118,36 +182,21 @@ void frmGraph::Ranges() {
 
 void frmGraph::Redraw() {
     families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
-    drawn_ = PlotPicture(ThePlot());
-    picPIC.Strokes(drawn_);
-    lblPoint.Caption(scale_.Empty ? noLogarithm : hint);
+    picPIC.Strokes(PlotPicture(ThePlot()));
+    PointTo(point_);
 }
 
 void frmGraph::DrawRectangle(PlotPlace corner) {
-    std::vector<ui::Picture::Stroke> strokes = drawn_;
-    strokes.push_back(
-        {ui::Picture::Shape::Rectangle, start_->x, start_->y, corner.x, corner.y, 0, {}});
-    picPIC.Strokes(std::move(strokes));
+    picPIC.Overlay(
+        {{ui::Picture::Shape::Rectangle, start_->x, start_->y, corner.x, corner.y, 0, {}}});
 }
 
 void frmGraph::HideRectangle() {
-    picPIC.Strokes(drawn_);
+    picPIC.Overlay({});
 }
 
-/// The nearest point is told below the plot and beside the point.
 void frmGraph::ShowPoint(PlotPlace place) {
-    const auto point = NearestPoint(ThePlot(), place);
-    if (!point) return;
-    const std::string text = PointText(ThePlot(), *point);
-    lblPoint.Caption(text);
-    const PlotPlace at = PlaceOf(ThePlot(), *point).value_or(place);
-    const bool isRight = at.x > Plot::Width / 2;
-    std::vector<ui::Picture::Stroke> strokes = drawn_;
-    ui::Picture::Stroke label{
-        ui::Picture::Shape::Text, at.x + (isRight ? -14 : 14), at.y - 12, 0, 0, 0, text};
-    label.align = isRight ? ui::Picture::Align::Right : ui::Picture::Align::Left;
-    strokes.push_back(label);
-    picPIC.Strokes(std::move(strokes));
+    if (const auto point = NearestPoint(ThePlot(), place)) PointTo(point);
 }
 
 } // namespace vexora

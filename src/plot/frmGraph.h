@@ -11,31 +11,46 @@
 namespace vexora {
 
 /// The points of a table before they are accepted, so that a misprint shows as an outlier. Whoever
-/// shows it puts the table into the globals first; the form owns only what the drawing needs.
+/// shows it puts the table into the globals first, and reads there which row the person wants to go
+/// to; the form owns only what the drawing needs.
 class frmGraph : public ui::Form {
 public:
     frmGraph();
 
+    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
+    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the picture...", &mnuFile, "Ctrl+S"};
+    ui::MenuItem mnuFilePrint{*this, "mnuFilePrint", "&Print...", &mnuFile, "Ctrl+P"};
     ui::MenuItem mnuTools{*this, "mnuTools", "&Tools"};
     ui::MenuItem mnuToolsIncrease{*this, "mnuToolsIncrease", "&Merge curves", &mnuTools, "Ctrl++"};
     ui::MenuItem mnuToolsDecrease{*this, "mnuToolsDecrease", "&Split curves", &mnuTools, "Ctrl+-"};
     ui::MenuItem mnuHide{*this, "mnuHide", "&Identify points", &mnuTools};
+    ui::MenuItem mnuNextFar{*this, "mnuNextFar", "&Next point to look at again", &mnuTools, "F8"};
+    ui::MenuItem mnuLastFar{*this, "mnuLastFar", "&Previous point to look at again", &mnuTools,
+                            "Shift+F8"};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
 
     ui::Picture picPIC{*this, "picPIC", Plot::Width, Plot::Height};
     ui::Label lblPoint{*this, "lblPoint"};
+    ui::Label lblRow{*this, "lblRow"};
     ui::CommandButton cmdMode{*this, "cmdMode", "ln Y vs 1/X"};
     ui::CommandButton cmdVar{*this, "cmdVar", "Next variable"};
     ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainties"};
     ui::CommandButton cmdOK{*this, "cmdOK", "OK"};
 
     void Load() override;
+    void Activate() override;
 
 private:
+    void WireEvents();
+    void WireMenus();
     void picPIC_Press(PlotPlace place);
     void picPIC_Move(PlotPlace place);
     void picPIC_Release(PlotPlace place);
+    void picPIC_Key(ui::Key& key);
     void cmdMode_Click();
     void cmdVar_Click();
+    void mnuFileSave_Click();
     void ChangeTolerance(double factor);
 
     Plot ThePlot() const;
@@ -46,15 +61,21 @@ private:
     void HideRectangle();
     void ShowPoint(PlotPlace place);
 
+    // The point that is told, and the ways to others (frmGraph_point.cpp).
+    void PointTo(std::optional<int> point);
+    void StepPoint(int step, bool withinFamily);
+    void StepFar(int step);
+    void GoToPoint();
+
     std::shared_ptr<PlotTable> table_;
     PlotScale scale_; // its Log is the mode
     PlotFamilies families_;
     int xVar_ = 1;
     double groupTolerance_ = 0.001;
     bool showUnc_ = true;
-    bool hideMarks_ = true;                  // on: the point under the mouse is told
-    std::vector<ui::Picture::Stroke> drawn_; // the plot without the rubber band
-    std::optional<PlotPlace> start_;         // of the rubber band, while the button is down
+    bool hideMarks_ = true;          // on: the point under the mouse is told
+    std::optional<int> point_;       // the one that is told
+    std::optional<PlotPlace> start_; // of the rubber band, while the button is down
 };
 
 } // namespace vexora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPixmap>
+
 #include "qt/View.h"
 
 namespace vexora::qt {
@@ -20,6 +22,9 @@ protected:
 
 private:
     ui::Picture& picture_;
+    QPixmap ground_;
+    QPalette ofPalette_;
+    int painted_ = -1; // the revision of the picture that stands in ground_
 };
 
 class PictureView : public ViewOf<ui::Picture, Canvas> {

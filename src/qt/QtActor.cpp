@@ -8,6 +8,7 @@
 #include "qt/Events.h"
 #include "qt/GridView.h"
 #include "qt/ListViews.h"
+#include "qt/PicturePainter.h"
 #include "qt/PictureView.h"
 #include "qt/Text.h"
 #include "qt/TextView.h"
@@ -298,6 +299,10 @@ void QtActor::Hourglass(bool on) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QGuiApplication::restoreOverrideCursor();
+}
+
+std::optional<std::string> QtActor::PngOf(const ui::Picture& picture) {
+    return PngBytes(picture);
 }
 
 bool QtActor::Shot(const std::string& path) {

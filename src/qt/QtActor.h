@@ -51,6 +51,7 @@ public:
     void ClipboardText(const std::string& text) override;
     void Hourglass(bool on) override;
     bool Shot(const std::string& path) override;
+    std::optional<std::string> PngOf(const ui::Picture& picture) override;
     void Settle() override;
 
     Windows& Screen() { return windows_; }

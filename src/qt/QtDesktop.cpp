@@ -14,6 +14,7 @@
 
 #include "qt/Dialogs.h"
 #include "qt/HelpWindow.h"
+#include "qt/PicturePainter.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
@@ -92,6 +93,18 @@ void QtDesktop::Print(const std::string& title, const std::string& text) {
     QTextDocument document;
     document.setPlainText(ToQt(text));
     document.print(&printer);
+}
+
+void QtDesktop::PrintPicture(const std::string& title, const ui::Picture& picture) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(ToQt(title));
+    printer.setPageOrientation(QPageLayout::Landscape);
+    QPrintDialog dialog(&printer, Parent());
+    if (dialog.exec() == QDialog::Accepted) PrintOn(printer, picture);
+}
+
+std::optional<std::string> QtDesktop::PngOf(const ui::Picture& picture) {
+    return PngBytes(picture);
 }
 
 ui::Date QtDesktop::Today() {

@@ -25,6 +25,8 @@ public:
     void Hourglass(bool on) override;
     void ShowHelp(int context) override;
     void Print(const std::string& title, const std::string& text) override;
+    void PrintPicture(const std::string& title, const ui::Picture& picture) override;
+    std::optional<std::string> PngOf(const ui::Picture& picture) override;
     ui::Date Today() override;
     ui::FileSystem& Files() override { return files_; }
     void RunModal(ui::Form& form) override;

@@ -8,6 +8,7 @@
 namespace vexora::ui {
 
 class Form;
+class Picture;
 
 enum class MessageButtons { Ok, YesNo, YesNoCancel, YesNoAll };
 enum class Answer { Ok, Yes, No, Cancel, YesToAll };
@@ -57,6 +58,9 @@ public:
     /// Shows the page of help with this context number.
     virtual void ShowHelp(int context) = 0;
     virtual void Print(const std::string& title, const std::string& text) = 0;
+    virtual void PrintPicture(const std::string&, const Picture&) {}
+    /// A picture as the bytes of a PNG file; nothing where no screen is at hand to paint it.
+    virtual std::optional<std::string> PngOf(const Picture&) { return {}; }
     virtual Date Today() = 0;
     virtual FileSystem& Files() = 0;
 

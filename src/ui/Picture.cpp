@@ -7,6 +7,13 @@ Picture::Picture(Form& form, std::string name, double width, double height)
 
 void Picture::Strokes(std::vector<Stroke> strokes) {
     strokes_ = std::move(strokes);
+    ++revision_;
+    Changed();
+}
+
+void Picture::Overlay(std::vector<Stroke> strokes) {
+    if (strokes.empty() && overlay_.empty()) return;
+    overlay_ = std::move(strokes);
     Changed();
 }
 

@@ -20,10 +20,8 @@ std::string TicksText(double min, double max) {
 PlotTable TableOf(std::vector<std::array<double, 3>> points, int variables = 1) {
     PlotTable table;
     table.nVar = variables;
-    for (const auto& [y, x, other] : points) {
-        table.PointTable.push_back({y, x, other});
-        table.PointUnc.push_back(0);
-    }
+    for (const auto& [y, x, other] : points)
+        table.Add({y, x, other}, 0, table.PointCount() + 1);
     return table;
 }
 
@@ -46,7 +44,7 @@ TEST(Plot, TicksStandAtRoundValuesWithinTheLimits) {
         {100, 400, "100 150 200 250 300 350 400"},
         {1, 9.5, "1 2 3 4 5 6 7 8 9"},
         {1, 1.0000000001, ""},
-        {-0.5, 0.5, "-0.5 -0.4 -0.3 -0.2 -0.1 0 0.1 0.2 0.3 0.4 0.5"},
+        {-0.5, 0.5, "-0.4 -0.2 0 0.2 0.4"},
         {5, 5, ""},
         {0, 0, ""},
     };
@@ -126,21 +124,24 @@ TEST(Plot, FamiliesBeyondTheThousandthShareIt) {
     PlotTable table;
     table.nVar = 2;
     for (int i = 0; i < 1002; ++i)
-        table.PointTable.push_back({1, 300, 1.0 + i});
+        table.Add({1, 300, 1.0 + i});
     const PlotFamilies families = FamiliesOf(table, 1, 1e-6);
     EXPECT_EQ(families.GroupRows.size(), 1000U);
     EXPECT_EQ(families.GroupOf.back(), 999);
 }
 
-TEST(Plot, ArrangedRowsKeepTheirUncertainties) {
+TEST(Plot, ArrangedRowsKeepWhatBelongsToThem) {
     PlotTable table = TableOf({{1, 310, 5}, {2, 300, 7}, {3, 300, 6}, {4, 300, 7}}, 2);
     table.PointUnc = {0.1, 0.2, 0.3, 0.4};
+    table.PointFar[2] = true;
     Arrange(table, 1);
     std::string order;
     for (int i = 0; i < table.PointCount(); ++i)
         order += NumberText(table.PointTable[static_cast<std::size_t>(i)][0]) + ":" +
                  NumberText(table.PointUnc[static_cast<std::size_t>(i)]) + " ";
     EXPECT_EQ(order, "3:0.3 2:0.2 4:0.4 1:0.1 ");
+    EXPECT_EQ(table.PointRow, (std::vector<int>{3, 2, 4, 1}));
+    EXPECT_EQ(table.PointFar, (std::vector<bool>{true, false, false, false}));
 }
 
 TEST(Plot, TheNearestDrawnPointIsTold) {

@@ -20,9 +20,9 @@ TEST_F(StartUpTest, AFirstStartShowsWhatItHasAndAsksForTheUser) {
     std::ofstream(Home() + "/intro.rtf") << R"({\rtf1{\fonttbl{\f0 A;}}\b Welcome\b0\par})";
     const std::string transcript = Holds(R"(start
 expect modal frmBox
-expect frmBox.rtfBox contains "Welcome"
+expect frmBox.RichTextBox1 contains "Welcome"
 click frmBox.cmdPrint
-click frmBox.cmdClose
+click frmBox.cmdOK
 expect modal frmConfigure
 expect frmConfigure.txtContributor hidden
 expect frmConfigure.txtCompoundDB "${HOME_DIR}/VXR.mdb"

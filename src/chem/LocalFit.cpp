@@ -1,0 +1,343 @@
+#include "chem/LocalFit.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numeric>
+#include <optional>
+
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr std::size_t leastPoints = 12;
+constexpr std::size_t most = 10;     // neighbours of a fit
+constexpr std::size_t mostTerms = 5; // of its polynomial
+constexpr double sameDirection = 1e-7;
+constexpr std::size_t shortCurve = 50;
+constexpr std::size_t sampleSize = 200;   // points that tell which polynomial fits best
+constexpr double timesLocal = 10;         // the scatter of the neighbours
+constexpr double timesAtEnd = 5;          // nobody stands beyond the first and the last point
+constexpr double timesWhole = 8;          // the scatter of the whole curve
+constexpr double timesNeighbour = 10;     // what the neighbours miss without the point
+constexpr std::size_t calmReach = 2;      // so many on each side
+constexpr double timesDigit = 4;          // the last digit
+constexpr double madToDeviation = 1.4826; // of normally distributed errors
+
+using Curve = std::vector<FitPoint>;
+using Values = std::array<double, most>;
+
+/// A polynomial and how many neighbours it goes through.
+struct Degree {
+    std::size_t degree, neighbours;
+};
+constexpr std::array<Degree, 3> degrees{{{2, 8}, {3, 10}, {4, 10}}};
+
+/// What the neighbours say about one point.
+struct Verdict {
+    double residual = 0; // of the point against the fit
+    double scatter = 0;  // of the neighbours about the fit
+    double spread = 1;   // of an error of the neighbours at the point
+
+    double Size() const { return residual / spread; }
+};
+
+/// The points next to one on the curve, but for it and one other.
+struct Neighbours {
+    Neighbours(const Curve& curve, std::size_t at, std::size_t wanted, std::size_t other) {
+        const std::size_t half = wanted / 2;
+        const std::size_t window = wanted + (other == at ? 1 : 2);
+        std::size_t from = at > half ? at - half : 0;
+        from = std::min(from, curve.size() > window ? curve.size() - window : 0);
+        for (std::size_t i = from; i < std::min(from + window, curve.size()); ++i)
+            if (i != at && i != other && count < wanted) places[count++] = i;
+    }
+    std::array<std::size_t, most> places{};
+    std::size_t count = 0;
+};
+
+/// One unit of the last digit thereabouts: of the point or of most of its neighbours.
+double DigitAt(const Curve& curve, std::size_t at, std::size_t neighbours) {
+    const Neighbours near(curve, at, neighbours, at);
+    Values digits{};
+    for (std::size_t i = 0; i < near.count; ++i)
+        digits[i] = curve[near.places[i]].least;
+    std::sort(digits.begin(), digits.begin() + static_cast<std::ptrdiff_t>(near.count));
+    return std::max(curve[at].least, digits[near.count / 2]);
+}
+
+double Product(const Values& a, const Values& b) {
+    return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
+}
+
+/// A polynomial through the neighbours of a point, built from ones that are orthogonal over them.
+/// The abscissa is 0 at the point and at most 1 away from it.
+class Fit {
+public:
+    /// False when the neighbours have too few different places.
+    bool Make(const Curve& curve, std::size_t at, Degree degree, std::size_t other) {
+        const Neighbours near(curve, at, degree.neighbours, other);
+        if (near.count < degree.neighbours || !Place(curve, at, near)) return false;
+        for (std::size_t k = 0; k <= degree.degree; ++k)
+            if (!Add(k)) return false;
+        const auto free = static_cast<double>(near.count - degree.degree - 1);
+        verdict = {std::abs(fitted_), std::sqrt(Product(left_, left_) / free), std::sqrt(spread_)};
+        return true;
+    }
+    Verdict verdict;
+
+private:
+    bool Place(const Curve& curve, std::size_t at, const Neighbours& near) {
+        double widest = 0;
+        count_ = near.count;
+        for (std::size_t i = 0; i < count_; ++i) {
+            t_[i] = curve[near.places[i]].x - curve[at].x;
+            left_[i] = curve[near.places[i]].y - curve[at].y;
+            widest = std::max(widest, std::abs(t_[i]));
+        }
+        for (std::size_t i = 0; i < count_; ++i) {
+            t_[i] /= widest;
+            power_[i] = 1;
+        }
+        return widest > 0 && std::isfinite(widest);
+    }
+    /// Takes the part of the next power that is new, and what it explains off the values.
+    bool Add(std::size_t k) {
+        Values next = power_;
+        double value = k == 0 ? 1 : 0;
+        const double before = std::sqrt(Product(next, next));
+        for (std::size_t j = 0; j < k; ++j) {
+            const double part = Product(next, basis_[j]);
+            TakeOff(next, part, basis_[j]);
+            value -= part * here_[j];
+        }
+        const double size = std::sqrt(Product(next, next));
+        if (size < sameDirection * before) return false;
+        for (std::size_t i = 0; i < count_; ++i) {
+            next[i] /= size;
+            power_[i] *= t_[i];
+        }
+        basis_[k] = next;
+        here_[k] = value / size;
+        const double weight = Product(left_, next);
+        TakeOff(left_, weight, next);
+        fitted_ += weight * here_[k];
+        spread_ += here_[k] * here_[k];
+        return true;
+    }
+    static void TakeOff(Values& values, double weight, const Values& other) {
+        for (std::size_t i = 0; i < most; ++i)
+            values[i] -= weight * other[i];
+    }
+
+    std::size_t count_ = 0;
+    Values t_{}, power_{};
+    Values left_{}; // of the values, against the point's own, that is not explained yet
+    std::array<Values, mostTerms> basis_{};
+    std::array<double, mostTerms> here_{}; // value of each at the point
+    double fitted_ = 0;
+    double spread_ = 1;
+};
+
+std::optional<Verdict> Judge(const Curve& curve, std::size_t at, Degree degree, std::size_t other) {
+    Fit fit;
+    if (!fit.Make(curve, at, degree, other)) return std::nullopt;
+    return fit.verdict;
+}
+
+/// The scatter of the curve about its fits, from every stride-th point. Nothing when too few of
+/// them can be judged.
+std::optional<double> WholeScatter(const Curve& curve, Degree degree, std::size_t stride) {
+    std::vector<double> sizes;
+    for (std::size_t at = 0; at < curve.size(); at += stride)
+        if (const auto verdict = Judge(curve, at, degree, at)) sizes.push_back(verdict->Size());
+    if (sizes.size() < leastPoints / 2) return std::nullopt;
+    const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
+    std::nth_element(sizes.begin(), middle, sizes.end());
+    return madToDeviation * *middle;
+}
+
+/// The polynomial that fits a curve best, and the scatter of the whole curve about it.
+struct BestFit {
+    Degree degree;
+    double scatter;
+};
+
+std::optional<BestFit> BestFitOf(const Curve& curve) {
+    const std::size_t stride = curve.size() / sampleSize + 1;
+    std::optional<BestFit> best;
+    for (const Degree degree : degrees) {
+        const auto scatter = WholeScatter(curve, degree, stride);
+        if (scatter && (!best || *scatter < best->scatter)) best = BestFit{degree, *scatter};
+    }
+    return best;
+}
+
+bool IsFar(const Verdict& verdict, const BestFit& fit, bool isEnd) {
+    const double size = verdict.Size();
+    return size > timesWhole * fit.scatter &&
+           size > timesLocal * (isEnd ? timesAtEnd : 1) * verdict.scatter;
+}
+
+/// Rounding alone may put it there. A rounding error is spread evenly over one unit, which is a
+/// deviation of 0.29 units.
+bool IsRounding(double size, double digit) {
+    return size <= timesDigit * digit || size <= timesLocal * digit / std::sqrt(12.0);
+}
+
+/// Without the point its neighbours fit to one another: the curve has no peak, edge or end here
+/// that a polynomial cannot follow.
+bool IsCalmWithout(const Curve& curve, std::size_t at, Degree degree, double size) {
+    const std::size_t from = at > calmReach ? at - calmReach : 0;
+    for (std::size_t i = from; i <= std::min(at + calmReach, curve.size() - 1); ++i) {
+        if (i == at) continue;
+        const auto verdict = Judge(curve, i, degree, at);
+        if (!verdict || verdict->Size() * timesNeighbour > size) return false;
+    }
+    return true;
+}
+
+bool IsFarByAnyDegree(const Curve& curve, std::size_t at) {
+    return std::any_of(degrees.begin(), degrees.end(), [&](Degree degree) {
+        const auto verdict = Judge(curve, at, degree, at);
+        return verdict && verdict->Size() > timesLocal * verdict->scatter;
+    });
+}
+
+/// On a short curve one misprint is a neighbour of most points, and would hide in their scatter.
+BestFit FitWithout(const Curve& curve, std::size_t at, const BestFit& whole) {
+    if (curve.size() > shortCurve || !IsFarByAnyDegree(curve, at)) return whole;
+    Curve others = curve;
+    others.erase(others.begin() + static_cast<std::ptrdiff_t>(at));
+    return BestFitOf(others).value_or(whole);
+}
+
+/// Far, and not only because of another point beside it.
+FitVerdict VerdictOn(const Curve& curve, std::size_t at, const BestFit& whole) {
+    const BestFit fit = FitWithout(curve, at, whole);
+    const bool isEnd = at == 0 || at + 1 == curve.size();
+    const auto verdict = Judge(curve, at, fit.degree, at);
+    if (!verdict) return FitVerdict::None;
+    const double size = verdict->Size();
+    if (!IsFar(*verdict, fit, isEnd) || IsRounding(size, DigitAt(curve, at, fit.degree.neighbours)))
+        return FitVerdict::Near;
+    const Neighbours near(curve, at, fit.degree.neighbours, at);
+    for (std::size_t i = 0; i < near.count; ++i) {
+        const auto without = Judge(curve, at, fit.degree, near.places[i]);
+        if (!without || !IsFar(*without, fit, isEnd)) return FitVerdict::Near;
+    }
+    return IsCalmWithout(curve, at, fit.degree, size) ? FitVerdict::Far : FitVerdict::Near;
+}
+
+template <class Turn>
+Curve Turned(const Curve& curve, const Turn& turn) {
+    Curve turned = curve;
+    for (FitPoint& point : turned)
+        turn(point);
+    return turned;
+}
+
+void TakeLogarithm(FitPoint& point) {
+    point.least /= point.y;
+    point.y = std::log(point.y);
+}
+
+/// All the views of a curve in which a point has to be far.
+std::vector<Curve> ViewsOf(const Curve& curve, FitScale scale) {
+    const bool isPositive =
+        std::all_of(curve.begin(), curve.end(), [](const FitPoint& point) { return point.y > 0; });
+    const double first = curve.front().x;
+    const double last = curve.back().x;
+    if (scale == FitScale::Vapor && isPositive && first > 0) {
+        return {Turned(curve, [](FitPoint& point) {
+            point.x = 1 / point.x;
+            TakeLogarithm(point);
+        })};
+    }
+    std::vector<Curve> views{curve};
+    if (isPositive) views.push_back(Turned(curve, TakeLogarithm));
+    if (first > 0 && last > 10 * first)
+        views.push_back(Turned(curve, [](FitPoint& point) { point.x = std::log(point.x); }));
+    return views;
+}
+
+/// Rows that agree in all variables but one.
+std::vector<std::vector<std::size_t>> CurvesAlong(const std::vector<FitRow>& rows, std::size_t n,
+                                                  std::size_t variables) {
+    const auto others = [&](std::size_t at) {
+        auto x = rows[at].x;
+        x[n] = 0;
+        std::fill(x.begin() + static_cast<std::ptrdiff_t>(variables), x.end(), 0.0);
+        return x;
+    };
+    std::vector<std::size_t> order(rows.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return others(a) < others(b); });
+    std::vector<std::vector<std::size_t>> curves;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        if (i == 0 || others(order[i]) != others(order[i - 1])) curves.emplace_back();
+        curves.back().push_back(order[i]);
+    }
+    return curves;
+}
+
+} // namespace
+
+std::vector<FitVerdict> LocalFit(const std::vector<FitPoint>& points, FitScale scale) {
+    std::vector<FitVerdict> verdicts(points.size(), FitVerdict::None);
+    if (points.size() < leastPoints) return verdicts;
+    std::vector<std::size_t> order(points.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return points[a].x < points[b].x; });
+    Curve curve;
+    for (const std::size_t at : order)
+        curve.push_back(points[at]);
+    std::vector<FitVerdict> worst(curve.size(), FitVerdict::Far);
+    for (const Curve& view : ViewsOf(curve, scale)) {
+        const auto fit = BestFitOf(view);
+        for (std::size_t i = 0; i < worst.size(); ++i)
+            worst[i] = fit ? std::min(worst[i], VerdictOn(view, i, *fit)) : FitVerdict::None;
+    }
+    // A curve may run to a singular end.
+    if (scale == FitScale::Plain) worst.front() = worst.back() = FitVerdict::None;
+    for (std::size_t i = 0; i < order.size(); ++i)
+        verdicts[order[i]] = worst[i];
+    return verdicts;
+}
+
+std::vector<std::size_t> FarRows(const std::vector<FitRow>& rows,
+                                 const std::vector<FitScale>& scales) {
+    std::vector<FitVerdict> best(rows.size(), FitVerdict::None);
+    std::vector<bool> isNear(rows.size());
+    for (std::size_t n = 0; n < scales.size(); ++n) {
+        for (const auto& curve : CurvesAlong(rows, n, scales.size())) {
+            std::vector<FitPoint> points;
+            for (const std::size_t at : curve)
+                points.push_back({rows[at].x[n], rows[at].y, rows[at].least});
+            const std::vector<FitVerdict> verdicts = LocalFit(points, scales[n]);
+            for (std::size_t i = 0; i < curve.size(); ++i) {
+                best[curve[i]] = std::max(best[curve[i]], verdicts[i]);
+                if (verdicts[i] == FitVerdict::Near) isNear[curve[i]] = true;
+            }
+        }
+    }
+    std::vector<std::size_t> found;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (best[i] == FitVerdict::Far && !isNear[i]) found.push_back(i);
+    return found;
+}
+
+double UnitOfLastDigit(std::string_view number) {
+    const std::size_t exponent = number.find_first_of("eE");
+    const std::string_view mantissa = number.substr(0, exponent);
+    const std::size_t point = mantissa.find('.');
+    double power = exponent == number.npos ? 0 : Val(number.substr(exponent + 1));
+    if (point != mantissa.npos) power -= static_cast<double>(mantissa.size() - point - 1);
+    return std::pow(10.0, power);
+}
+
+} // namespace vexora

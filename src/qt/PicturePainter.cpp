@@ -1,0 +1,170 @@
+#include "qt/PicturePainter.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPolygonF>
+#include <QPrinter>
+
+#include "qt/Text.h"
+
+namespace vexora::qt {
+
+namespace {
+
+using Stroke = ui::Picture::Stroke;
+using Shape = ui::Picture::Shape;
+
+/// Paints the shapes of one list; it remembers where texts stand that others must not cover.
+class StrokePainter {
+public:
+    StrokePainter(QPainter& painter, const ui::Picture& picture, QSizeF size,
+                  const QPalette& palette)
+        : painter_(painter), across_(size.width() / picture.Width()),
+          down_(size.height() / picture.Height()), palette_(palette),
+          radius_(painter.fontMetrics().height() * 0.28) {}
+
+    void Paint(const Stroke& stroke) {
+        const QPointF from(stroke.x * across_, stroke.y * down_);
+        const QPointF to(stroke.x2 * across_, stroke.y2 * down_);
+        const QColor colour = Colour(stroke.colour);
+        painter_.setPen(colour);
+        painter_.setBrush(Qt::NoBrush);
+        switch (stroke.shape) {
+        case Shape::Line:
+            return painter_.drawLine(from, to);
+        case Shape::Rectangle:
+            return painter_.drawRect(QRectF(from, to).normalized());
+        case Shape::Disc:
+            painter_.setBrush(colour);
+            return painter_.drawEllipse(QRectF(from, to).normalized());
+        case Shape::Text:
+            return Text(from, stroke);
+        case Shape::Marker:
+            return Marker(from, stroke.marker, colour);
+        case Shape::Ring:
+            painter_.setPen(QPen(colour, radius_ * 0.4));
+            return painter_.drawEllipse(from, radius_ * 2.2, radius_ * 2.2);
+        }
+    }
+
+private:
+    QColor Colour(int index) const {
+        QColor text = palette_.color(QPalette::Text);
+        if (index < 0) text.setAlphaF(0.15F);
+        if (index <= 0) return text;
+        const bool isDark = palette_.color(QPalette::Base).lightness() < 128;
+        const auto at = static_cast<std::size_t>(index - 1) % ui::PictureColours.size();
+        const ui::PictureColour& colour = ui::PictureColours[at];
+        return QColor::fromRgb(isDark ? colour.dark : colour.light);
+    }
+
+    void Text(QPointF at, const Stroke& stroke) {
+        using Align = ui::Picture::Align;
+        const QString text = ToQt(stroke.text);
+        const QFontMetricsF metrics(painter_.font(), painter_.device());
+        const double wide = metrics.horizontalAdvance(text);
+        if (stroke.align == Align::Centre) at.rx() -= wide / 2;
+        if (stroke.align == Align::Right) at.rx() -= wide;
+        const QRectF place(at, QSizeF(wide, metrics.height()));
+        if (stroke.yields) {
+            const QRectF room = place.adjusted(-radius_, 0, radius_, 0);
+            for (const QRectF& other : taken_)
+                if (other.intersects(room)) return;
+            taken_.push_back(room);
+        }
+        if (stroke.boxed) {
+            painter_.setBrush(palette_.base());
+            painter_.drawRect(place.adjusted(-radius_, -1, radius_, 1));
+        }
+        painter_.drawText(at + QPointF(0, metrics.ascent()), text);
+    }
+
+    void Marker(QPointF at, int marker, const QColor& colour) {
+        const double r = radius_;
+        if (marker >= ui::Picture::MarkerCount - 1) return Cross(at, marker, colour);
+        painter_.setPen(palette_.color(QPalette::Base)); // so that those that touch are told apart
+        painter_.setBrush(colour);
+        switch (marker) {
+        case 0:
+            return painter_.drawEllipse(at, r, r);
+        case 1:
+            return painter_.drawRect(QRectF(at - QPointF(r, r) * 0.9, QSizeF(r, r) * 1.8));
+        case 2:
+            return Polygon(at, {{-r * 1.1, r * 0.9}, {r * 1.1, r * 0.9}, {0, -r * 1.1}});
+        case 3:
+            return Polygon(at, {{-r * 1.1, 0}, {0, -r * 1.3}, {r * 1.1, 0}, {0, r * 1.3}});
+        default:
+            return Polygon(at, {{-r * 1.1, -r * 0.9}, {r * 1.1, -r * 0.9}, {0, r * 1.1}});
+        }
+    }
+    void Polygon(QPointF at, const QList<QPointF>& corners) {
+        painter_.drawPolygon(QPolygonF(corners).translated(at));
+    }
+    /// A slanting cross, or the four strokes that point at another marker.
+    void Cross(QPointF at, int marker, const QColor& colour) {
+        const double r = radius_;
+        const bool isReticle = marker == ui::Picture::Reticle;
+        const double from = isReticle ? 1.6 * r : 0;
+        const double to = isReticle ? 3.2 * r : 1.1 * r;
+        const QPointF ways[] = {{1, isReticle ? 0.0 : 1.0}, {isReticle ? 0.0 : -1.0, 1}};
+        painter_.setPen(QPen(colour, r * (isReticle ? 0.35 : 0.55)));
+        for (const QPointF& way : ways)
+            for (const double side : {-1.0, 1.0})
+                painter_.drawLine(at + way * side * from, at + way * side * to);
+    }
+
+    QPainter& painter_;
+    double across_, down_;
+    const QPalette& palette_;
+    double radius_; // of a marker
+    std::vector<QRectF> taken_;
+};
+
+QPalette PaperPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+} // namespace
+
+void PaintStrokes(QPainter& painter, const ui::Picture& picture,
+                  const std::vector<ui::Picture::Stroke>& strokes, QSizeF size,
+                  const QPalette& palette) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    StrokePainter own(painter, picture, size, palette);
+    for (const Stroke& stroke : strokes)
+        own.Paint(stroke);
+}
+
+std::optional<std::string> PngBytes(const ui::Picture& picture) {
+    constexpr double sharpness = 2; // pixels a unit
+    const QSizeF size(picture.Width(), picture.Height());
+    QImage image((size * sharpness).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(sharpness);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QFont font = painter.font();
+    font.setPixelSize(16);
+    painter.setFont(font);
+    PaintStrokes(painter, picture, picture.Strokes(), size, PaperPalette());
+    painter.end();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!image.save(&buffer, "PNG")) return {};
+    return bytes.toStdString();
+}
+
+void PrintOn(QPrinter& printer, const ui::Picture& picture) {
+    QPainter painter(&printer);
+    const QRectF page = painter.viewport();
+    const double scale = std::min(page.width() / picture.Width(), page.height() / picture.Height());
+    QFont font = painter.font();
+    font.setPixelSize(static_cast<int>(16 * scale));
+    painter.setFont(font);
+    PaintStrokes(painter, picture, picture.Strokes(),
+                 QSizeF(picture.Width(), picture.Height()) * scale, PaperPalette());
+}
+
+} // namespace vexora::qt
