@@ -55,16 +55,16 @@ double FactorInUnit(std::string_view code, double factor) {
 }
 
 std::string UnitText(const std::string& systemUnit, std::string_view code, double factor) {
-    factor = FactorInUnit(code, factor);
-    if (factor > 0) {
-        const std::string times = NumberText(factor) + "*";
-        return systemUnit == unitOne ? times : times + " " + systemUnit;
-    }
-    if (systemUnit == unitOne) return "Dimensionless";
-    if (IsSystemUnit(code)) return systemUnit;
+    const bool isOne = systemUnit == unitOne;
     std::string known(code);
-    std::string text = ConversionText(known, systemUnit);
-    return text.empty() ? std::string(code) : text;
+    if (factor <= 0 && !isOne && !IsSystemUnit(code)) { // a number may be the code of a named unit
+        const std::string text = ConversionText(known, systemUnit);
+        if (!text.empty()) return text;
+    }
+    factor = FactorInUnit(code, factor);
+    if (factor > 0) return NumberText(factor) + (isOne ? "*" : "* " + systemUnit);
+    if (isOne) return "Dimensionless";
+    return IsSystemUnit(code) ? systemUnit : std::string(code);
 }
 
 std::string UnitCode(const PropertyRow& row, std::string_view text) {

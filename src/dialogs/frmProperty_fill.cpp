@@ -176,11 +176,10 @@ ui::CommandButton* frmProperty::OnlyEntry() {
 
 void frmProperty::ShowUnit(const PropertyRow& row) {
     const KVOGlobal& globals = Globals();
-    const double factor = FactorInUnit(globals.PropertyUnit, globals.CurrentMethod->Factor);
-    if (factor > 0)
-        OfferFactor(factor);
-    else
-        lstConv.Choose(UnitText(row.Unit, globals.PropertyUnit, 0));
+    const std::string& code = globals.PropertyUnit;
+    const double factor = globals.CurrentMethod->Factor;
+    if (!lstConv.Choose(UnitText(row.Unit, code, factor)) && FactorInUnit(code, factor) > 0)
+        OfferFactor(FactorInUnit(code, factor));
     unitBefore_ = lstConv.Index();
 }
 

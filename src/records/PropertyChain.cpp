@@ -23,7 +23,7 @@ std::string UnitInWords(std::string code, double factor, const std::string& syst
     if (factor > 0) return NumberText(factor) + "* " + systemUnit;
     if (systemUnit == "1" || IsSystemUnit(code)) return systemUnit;
     const std::string text = ConversionText(code, systemUnit);
-    return text.empty() ? systemUnit : text;
+    return text.empty() ? code : text;
 }
 
 std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& unit,

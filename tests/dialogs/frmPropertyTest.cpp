@@ -48,6 +48,10 @@ protected:
         EXPECT_GE(form.lstConv.Count(), row->Unit == "1" ? 2 : 3) << name;
         EXPECT_EQ(form.lstConv.Item(0), row->Unit == "1" ? "Dimensionless" : row->Unit) << name;
         EXPECT_EQ(form.lstConv.Item(form.lstConv.Count() - 1), allOtherUnits);
+        for (int i = 0; i + 1 < form.lstConv.Count(); ++i) { // a code reads back as its unit
+            const std::string& unit = form.lstConv.Item(i);
+            EXPECT_EQ(UnitText(row->Unit, UnitCode(*row, unit), 0), unit) << name;
+        }
         EXPECT_GE(form.lstMethod.Count(), 5) << name; // two of them are "not stated" and "other"
         EXPECT_EQ(form.lstMethod.Item(form.lstMethod.Count() - 1), other);
         EXPECT_GE(form.lstNote.Count(), 4) << name;
