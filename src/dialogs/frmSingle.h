@@ -82,7 +82,6 @@ private:
     void StoreValues(clsZ& record) const;
     void StoreStatements(clsZ& record) const;
     void TakeTexts() const;
-    std::string ChosenPhase(const ui::ComboBox& list) const;
 
     SampleChoice choice_{*this, cboSubst, cboSample};
     PropertyRow row_;                // the property in hand

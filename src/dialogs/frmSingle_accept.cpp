@@ -3,8 +3,10 @@
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
+#include "dialogs/PhaseLists.h"
 #include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
@@ -120,9 +122,9 @@ void frmSingle::StoreValues(clsZ& record) const {
     record.isOriginalUnit = original;
     record.Factor = original ? globals.CurrentMethod->Factor : 0;
     record.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
-    record.PHASE1 = ChosenPhase(lstPhase1);
-    record.PHASE2 = IsFixed() ? "&" : ChosenPhase(lstPhase2);
-    record.PHASE3 = IsFixed() ? "&" : ChosenPhase(lstPhase3);
+    record.PHASE1 = OrPlaceholder(PhaseChosen(lstPhase1));
+    record.PHASE2 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase2));
+    record.PHASE3 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase3));
     if (row_.Code == "TBN") record.PHASE3 = "&";
     if (row_.Code == "TMN") record.PHASE3 = "air";
     record.PRPVALUE = txtValue.Text();
@@ -139,7 +141,7 @@ void frmSingle::StoreStatements(clsZ& record) const {
         clsX& item = record.UX[static_cast<std::size_t>(n)];
         item.N = n;
         item.PRPCODE = n == 0 ? row_.Code : variable_;
-        item.PHASE = ChosenPhase(lstPhase1);
+        item.PHASE = OrPlaceholder(PhaseChosen(lstPhase1));
     }
 }
 
@@ -152,12 +154,6 @@ void frmSingle::TakeTexts() const {
     item.Text = NormalizeNumber(txtIndVariable.Text());
     item.ConversionCode =
         Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
-}
-
-std::string frmSingle::ChosenPhase(const ui::ComboBox& list) const {
-    if (list.Index() < 0) return "&";
-    const std::string code = PhaseCode(list.Chosen());
-    return code.empty() ? list.Chosen() : code; // a code that no table knows was shown as it is
 }
 
 } // namespace vexora

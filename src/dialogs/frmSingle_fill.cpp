@@ -5,6 +5,7 @@
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
+#include "dialogs/PhaseLists.h"
 #include "dialogs/PhaseRules.h"
 #include "dialogs/PropertyContext.h"
 #include "globals/KVOGlobal.h"
@@ -31,15 +32,6 @@ void OfferPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
         list.Choose(chosen);
     }
     if (list.Count() == 1) list.Index(0);
-}
-
-/// A phase that a file has although it is not offered is shown all the same.
-void ChoosePhase(ui::ComboBox& list, std::string_view code) {
-    if (IsBlankField(code)) return;
-    std::string name = PhaseName(code);
-    if (name.empty()) name = code;
-    if (list.Find(name) < 0) list.Add(name);
-    list.Choose(name);
 }
 
 } // namespace
@@ -90,9 +82,7 @@ void frmSingle::ShowPhases() {
     const int count = Globals().VariableCount;
     const std::string& context = Globals().DataContext;
     const ui::FillingScope filling(*this);
-    const auto phaseOf = [this](const ui::ComboBox& list) { return ChosenPhase(list); };
-    const std::string first = phaseOf(lstPhase1);
-    const PhaseOffer offer = OfferPhases(row_.Code, count, first, context);
+    const PhaseOffer offer = OfferPhases(row_.Code, count, PhaseChosen(lstPhase1), context);
     OfferPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
     OfferPhaseList(lstPhase2, offer.Phase2);
     OfferPhaseList(lstPhase3, offer.Phase3);

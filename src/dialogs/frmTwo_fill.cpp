@@ -4,6 +4,7 @@
 
 #include "chem/clsMethod.h"
 #include "dialogs/KeyTags.h"
+#include "dialogs/PhaseLists.h"
 #include "dialogs/PropertyContext.h"
 #include "dialogs/PropertyRules.h"
 #include "globals/KVOGlobal.h"
@@ -20,7 +21,6 @@ namespace {
 
 // First entries of the lists in which nothing is chosen at first.
 constexpr const char* selectVariable = "SELECT VARIABLE";
-constexpr const char* selectPhase = "SELECT PHASE";
 
 std::vector<std::string> Texts(CodeTexts table) {
     std::vector<std::string> texts;
@@ -62,21 +62,6 @@ void ChooseCode(ui::ComboBox& list, CodeTexts table, std::string_view code) {
 std::string CodeChosen(const ui::ComboBox& list, CodeTexts table) {
     const std::string code = CodeOfText(table, list.Chosen());
     return code.empty() ? list.Chosen() : code;
-}
-
-/// Code of the phase chosen behind the first entry, empty for none.
-std::string PhaseChosen(const ui::ComboBox& list) {
-    if (list.Index() < 0 || list.Chosen() == selectPhase) return {};
-    const std::string code = PhaseCode(list.Chosen());
-    return code.empty() ? list.Chosen() : code;
-}
-
-void ChoosePhase(ui::ComboBox& list, std::string_view code) {
-    if (IsBlankField(code)) return;
-    std::string name = PhaseName(code);
-    if (name.empty()) name = code;
-    if (list.Find(name) < 0) list.Add(name);
-    list.Choose(name);
 }
 
 /// The value of a tag like ":P = 101.325:", empty when it is not there.
