@@ -81,6 +81,7 @@ std::vector<Finding> CheckLimits(const ui::Grid& grid, const TableColumns& colum
         const std::string cell = NormalizeNumber(grid.Cell(row, column));
         if (!item || item->Relation != "A" || !IsNumeric(cell)) continue;
         const double mass = item == &chain ? molarMass : 0;
+        if (item->Factor <= 0 && mass <= 0 && IsMassBased(item->ConversionCode)) continue;
         const double value = ToSystem(item->ConversionCode, Val(cell), item->Factor, mass);
         const bool valid = IsValidValue(item->PropertyCode, value);
         if (valid && IsPlausibleValue(item->PropertyCode, value)) continue;

@@ -67,6 +67,9 @@ public:
     void Activate() override;
     void Unload() override;
 
+    /// The rows down to the last one that holds something, cells parted by tabs.
+    std::string TableText() const;
+
 private:
     void ArrangeControls();
     void WireEvents();
@@ -100,7 +103,6 @@ private:
     void Split();
     void Clear();
     void ShowNotice(std::string told);
-    std::string TableText() const;
     int LastRow() const;
 
     // The units of the cells (frmData2_units.cpp).

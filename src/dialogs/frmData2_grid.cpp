@@ -264,6 +264,7 @@ void frmData2::Split() {
 void frmData2::Clear() {
     undo_.Do([this](TableEdit& edit) { edit.Rows(tblData.FixedRows()); });
     ShowNotice("");
+    tblData.SetFocus(); // what comes next is typed or pasted there
 }
 
 } // namespace vexora

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QStyle>
 #include <QStyledItemDelegate>
 
@@ -171,6 +172,9 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     grid.CellChanged.Connect([self = QPointer<GridView>(this)](int row, int column) {
         if (self && !self->Window().IsDetached()) self->FollowCells(row, column);
     });
+    own_->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(own_, &QWidget::customContextMenuRequested, this,
+                     [this](const QPoint& place) { ShowMenu(place); });
     QObject::connect(own_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                      [this] { HandOverSelection(); });
 }
@@ -300,6 +304,18 @@ void GridView::FitColumns() {
     }
     fitted_ = true;
     fresh_ = false;
+}
+
+// The menu that holds "Paste" is that of the cells.
+void GridView::ShowMenu(const QPoint& place) {
+    for (const ui::Control* control : model_.Owner().Controls()) {
+        if (control->Kind() != ui::ControlKind::MenuItem) continue;
+        const auto& item = static_cast<const ui::MenuItem&>(*control);
+        QMenu* menu = item.Shortcut() == "Ctrl+V" && item.Parent()
+                          ? Window().MenuFor(*item.Parent())
+                          : nullptr;
+        if (menu) return menu->popup(own_->viewport()->mapToGlobal(place));
+    }
 }
 
 bool GridView::MouseEvent(QEvent& event) {

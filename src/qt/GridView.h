@@ -58,6 +58,7 @@ private:
     void FitColumns();
     int WidthOfTexts(int column) const;
     void DrawSelection();
+    void ShowMenu(const QPoint& place);
     void PlaceEditor();
     void UseEditorOfForm(ui::TextBox& editor);
 

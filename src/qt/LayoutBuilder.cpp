@@ -224,7 +224,7 @@ QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
             loose = true;
         }
         AddToColumn(*grid, row, part, hasFields);
-        if (GrowsDown(part)) grid->setRowStretch(row, IsTable(part) ? 3 : 1);
+        if (GrowsDown(part)) KeepRoom(*grid, row, IsTable(part) ? 3 : 1);
         grows = grows || GrowsDown(part);
         ++row;
     }
@@ -399,6 +399,22 @@ QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
     return note;
 }
 
+void LayoutBuilder::KeepRoom(QGridLayout& column, int row, int share) {
+    column.setRowStretch(row, share);
+    const QLayoutItem* item = column.itemAtPosition(row, 1);
+    if (item && item->widget()) rooms_.push_back({&column, row, item->widget(), share});
+}
+
+// What is hidden leaves its room to the others; where all is hidden the room stays as it was.
+void LayoutBuilder::ShareRooms() {
+    for (const Room& room : rooms_) {
+        const bool others = std::any_of(rooms_.begin(), rooms_.end(), [&](const Room& other) {
+            return other.column == room.column && !other.part->isHidden();
+        });
+        room.column->setRowStretch(room.row, room.part->isHidden() && others ? 0 : room.share);
+    }
+}
+
 void LayoutBuilder::Follow() {
     for (const QGridLayout* column : columns_)
         ShareLabelEdge(*column);
@@ -412,6 +428,7 @@ void LayoutBuilder::Follow() {
     }
     for (const Book& book : books_)
         book.stack->setCurrentIndex(std::max(book.tabs->Index(), 0));
+    ShareRooms();
 }
 
 } // namespace vexora::qt

@@ -38,7 +38,16 @@ private:
         QStackedWidget* stack;
     };
 
+    struct Room { // what a part that grows may take of a column
+        QGridLayout* column;
+        int row;
+        QWidget* part;
+        int share;
+    };
+
     QWidget* Make(const ui::Layout& layout);
+    void KeepRoom(QGridLayout& column, int row, int share);
+    void ShareRooms();
     QWidget* MakeColumn(const std::vector<ui::Layout>& parts);
     void AddToColumn(QGridLayout& grid, int row, const ui::Layout& part, bool hasFields);
     void AddField(QGridLayout& grid, int row, const ui::Layout& part);
@@ -61,6 +70,7 @@ private:
     std::vector<Companion> companions_;
     std::vector<Book> books_;
     std::vector<QGridLayout*> columns_; // those with fields
+    std::vector<Room> rooms_;
 };
 
 /// True when the part can use more height (or width) than its content asks for.

@@ -7,10 +7,12 @@
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "support/DocumentFixture.h"
+#include "support/FailingFileSystem.h"
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -18,6 +20,7 @@ namespace vexora::test {
 
 class SteppedDesktop : public StrictDesktop {
 public:
+    SteppedDesktop() : StrictDesktop(&disk) {}
     ~SteppedDesktop() override { EXPECT_TRUE(steps_.empty()) << "a modal form never opened"; }
 
     /// What a person does on the next modal form.
@@ -36,8 +39,16 @@ public:
     void ShowHelp(int context) override { help = context; }
     int help = 0;
 
+    /// What the next chooser of files gives.
+    void OnChoose(std::string path) { chosen_ = std::move(path); }
+    std::optional<std::string> Choose(const ui::FileChoice& choice) override {
+        return chosen_ ? std::exchange(chosen_, std::nullopt) : StrictDesktop::Choose(choice);
+    }
+    FailingFileSystem disk;
+
 private:
     std::deque<std::function<void(ui::Form&)>> steps_;
+    std::optional<std::string> chosen_;
 };
 
 class DataDialogFixture : public testing::Test {

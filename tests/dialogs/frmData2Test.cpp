@@ -6,7 +6,11 @@
 #include "globals/PlotTable.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
+#include "support/ScratchFolder.h"
+
 #include "reference/Numbers.h"
+#include <filesystem>
+#include <fstream>
 
 namespace vexora::test {
 namespace {
@@ -234,6 +238,7 @@ TEST_F(frmData2Test, UnitsThatCannotBeConvertedAreRefused) {
     set->PROPERTY_UNIT = "B";
     OpenTable();
     Paste("275 999.8");
+    EXPECT_EQ(Findings(), ""); // nothing is known of the value
     desktop.Expect("Molar mass of the compound is not known");
     form_->cmdSave.UserClick();
     EXPECT_TRUE(form_->IsOpen());
@@ -329,6 +334,36 @@ TEST_F(frmData2Test, RowsBeyondAPlotAreKeptAndTold) {
     EXPECT_EQ(form_->tblData.Cell(16385, 1), "993.3");
 }
 
+TEST_F(frmData2Test, TooManyRowsOfAFileAreKeptAndTold) {
+    const ScratchFolder scratch;
+    desktop.OnChoose(scratch.Path("many.txt"));
+    std::ofstream(scratch.Path("many.txt")) << FullTable() << "310 993.3\n";
+    OpenTable();
+    form_->mnuFileOpen.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(16385, 1), "993.3");
+    EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
+}
+
+TEST_F(frmData2Test, FullDiskLeavesTheOldFileOfATable) {
+    const ScratchFolder scratch;
+    const std::string path = scratch.Path("table.txt");
+    std::ofstream(path) << "1\t2\n";
+    OpenTable();
+    Paste("275 999.80");
+    desktop.OnChoose(path);
+    desktop.disk.FailAt("Write");
+    desktop.Expect("No space left on device");
+    form_->mnuFileSave.UserClick();
+    std::string error;
+    EXPECT_EQ(desktop.disk.Read(path, error), "1\t2\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scratch.Path()), {}), 1);
+    desktop.OnChoose(scratch.Path("none.txt"));
+    desktop.disk.FailAt("Read", desktop.disk.Calls("Read") + 1, "No such file");
+    desktop.Expect("No such file");
+    form_->mnuFileOpen.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 1), "999.80");
+}
+
 TEST_F(frmData2Test, TooManyRowsOfATableInTwoDimensionsAreKeptAndTold) {
     TwoVariables();
     OpenTable();
@@ -355,6 +390,44 @@ TEST_F(frmData2Test, TabGoesAlongTheRowsAndOutAtTheEnd) {
     EXPECT_TRUE(form_->tblData.HasFocus());
     form_->UserKey(ui::ParseKey("Tab"));
     EXPECT_FALSE(form_->tblData.HasFocus());
+}
+
+TEST_F(frmData2Test, PasteAndClearAreTakenBackByKeysToTheLastZero) {
+    OpenTable();
+    std::string text;
+    for (int row = 0; row < 200; ++row)
+        text += std::to_string(270 + row) + ".150\t997." + std::to_string(row) + "00\t0.10\n";
+    form_->tblData.SetFocus();
+    desktop.ClipboardText(text);
+    form_->UserKey(ui::ParseKey("Ctrl+V"));
+    EXPECT_EQ(form_->TableText(), text);
+    form_->cmdClear.UserClick();
+    EXPECT_EQ(form_->TableText(), "");
+    for (const auto& [key, now] :
+         {std::pair("Ctrl+Z", text), std::pair("Ctrl+Z", std::string()),
+          std::pair("Ctrl+Z", std::string()), std::pair("Ctrl+Shift+Z", text),
+          std::pair("Ctrl+Y", std::string()), std::pair("Ctrl+Y", std::string()),
+          std::pair("Ctrl+Z", text)}) {
+        form_->UserKey(ui::ParseKey(key));
+        EXPECT_EQ(form_->TableText(), now) << key;
+    }
+    Accept();
+    ASSERT_EQ(set->recData.Count(), 200u);
+    EXPECT_EQ(set->recData.Item(200)->VARIABLE(1) + " " + set->recData.Item(200)->PRPVALUE(),
+              "469.150 997.19900");
+}
+
+TEST_F(frmData2Test, WidestTableTakesABlockWithTabsAtTheEnds) {
+    TwoVariables();
+    set->UX[0].iDS = set->UX[0].iRep = set->UX[0].iUnc = set->UX[0].iCD = true;
+    OpenTable();
+    ASSERT_EQ(form_->tblData.Columns(), 9);
+    Paste("275\t101\t999.8\t0.1\t0.2\t5\t0.3\t0.4\t0.5\t\t\n");
+    EXPECT_EQ(form_->tblData.Cell(1, 8), "0.5");
+    form_->tblData.UserSelect({2, 1, 2, 1});
+    desktop.Expect("The block has 9 columns, the table has room for 8\nNothing was pasted");
+    Paste("T/K\tp\trho\td\tr\tn\tu\tc\tk\n275\t101\t999.8\t0.1\t0.2\t5\t0.3\t0.4\t0.5\n");
+    EXPECT_EQ(form_->tblData.Rows(), 3);
 }
 
 TEST_F(frmData2Test, OneValuePastedFillsTheSelection) {
