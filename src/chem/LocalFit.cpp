@@ -202,7 +202,8 @@ bool IsCalmWithout(const Curve& curve, std::size_t at, Degree degree, double siz
 bool IsFarByAnyDegree(const Curve& curve, std::size_t at) {
     return std::any_of(degrees.begin(), degrees.end(), [&](Degree degree) {
         const auto verdict = Judge(curve, at, degree, at);
-        return verdict && verdict->Size() > timesLocal * verdict->scatter;
+        return verdict && verdict->Size() > timesLocal * verdict->scatter &&
+               !IsRounding(verdict->Size(), DigitAt(curve, at, degree.neighbours));
     });
 }
 

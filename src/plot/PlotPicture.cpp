@@ -18,6 +18,7 @@ constexpr double tickLength = 6;
 constexpr double capWidth = 5;
 constexpr double lineHeight = 24;
 constexpr double headLine = 8;
+constexpr double textMiddle = 10;
 constexpr double legendLine = 28;
 constexpr double characterWidth = 10;
 constexpr double leastApart = 28; // of labels on the Y axis
@@ -115,8 +116,8 @@ void DrawFrame(std::vector<Stroke>& strokes, const Plot& plot) {
         plot.scale.Log ? plot.table.YName + ", scale of ln Y" : plot.table.YName, Align::Left));
     if (!HasRings(plot)) return;
     const double y = plot.top - lineHeight - 6;
-    strokes.push_back({Shape::Ring, plot.left + 12, y + lineHeight / 2, 0, 0, 0, {}});
-    strokes.push_back(Label(plot.left + 32, y, "far from its neighbours: look again", Align::Left));
+    strokes.push_back({Shape::Ring, plot.left + 14, y + textMiddle, 0, 0, 0, {}});
+    strokes.push_back(Label(plot.left + 36, y, "far from its neighbours: look again", Align::Left));
 }
 
 /// From the value less its uncertainty to the value and its uncertainty; what leaves the frame is
@@ -190,7 +191,7 @@ void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot) {
     strokes.push_back(Label(Plot::Width - 10, plot.top - lineHeight - 6, OthersText(plot, nullptr),
                             Align::Right));
     for (std::size_t group = 0; group < LegendLines(plot); ++group, y += legendLine) {
-        strokes.push_back(Marker({left, y + lineHeight / 2}, static_cast<int>(group)));
+        strokes.push_back(Marker({left, y + textMiddle}, static_cast<int>(group)));
         strokes.push_back(Label(left + 16, y, LegendText(plot, group), Align::Left));
     }
     const std::size_t more = plot.families.GroupRows.size() - LegendLines(plot);

@@ -74,6 +74,7 @@ void frmGraph::Load() {
     mnuHide.Checked(hideMarks_);
     cmdVar.Visible(table_->nVar > 1);
     Arrange(*table_, xVar_);
+    Group();
     NameAxes();
     Ranges();
     Redraw();
@@ -140,6 +141,7 @@ void frmGraph::cmdVar_Click() {
     xVar_ = xVar_ < table_->nVar ? xVar_ + 1 : 1;
     point_.reset();
     Arrange(*table_, xVar_);
+    Group();
     NameAxes();
     Ranges();
     Redraw();
@@ -165,6 +167,7 @@ void frmGraph::mnuFileSave_Click() {
 
 void frmGraph::ChangeTolerance(double factor) {
     groupTolerance_ *= factor;
+    Group();
     Redraw();
 }
 
@@ -176,12 +179,15 @@ void frmGraph::NameAxes() {
     Caption(table_->YName + " as function of " + table_->NameOf(xVar_));
 }
 
+void frmGraph::Group() {
+    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
+}
+
 void frmGraph::Ranges() {
     scale_.Ranges(*table_, xVar_);
 }
 
 void frmGraph::Redraw() {
-    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
     picPIC.Strokes(PlotPicture(ThePlot()));
     PointTo(point_);
 }

@@ -55,6 +55,7 @@ private:
 
     Plot ThePlot() const;
     void NameAxes();
+    void Group();
     void Ranges();
     void Redraw();
     void DrawRectangle(PlotPlace corner);

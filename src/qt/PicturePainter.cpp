@@ -1,7 +1,12 @@
 #include "qt/PicturePainter.h"
 
+#include <cmath>
+#include <map>
+#include <utility>
+
 #include <QBuffer>
 #include <QImage>
+#include <QPixmap>
 #include <QPolygonF>
 #include <QPrinter>
 
@@ -14,14 +19,51 @@ namespace {
 using Stroke = ui::Picture::Stroke;
 using Shape = ui::Picture::Shape;
 
+constexpr std::size_t manyStrokes = 2000;
+
+/// A slanting cross, or the four strokes that point at another marker.
+void DrawCross(QPainter& painter, QPointF at, bool isReticle, const QColor& colour, double r) {
+    const double from = isReticle ? 1.6 * r : 0;
+    const double to = isReticle ? 3.2 * r : 1.1 * r;
+    const QPointF ways[] = {{1, isReticle ? 0.0 : 1.0}, {isReticle ? 0.0 : -1.0, 1}};
+    painter.setPen(QPen(colour, r * (isReticle ? 0.35 : 0.55)));
+    for (const QPointF& way : ways)
+        for (const double side : {-1.0, 1.0})
+            painter.drawLine(at + way * side * from, at + way * side * to);
+}
+
+/// The edge of a marker has the colour of the ground, so that those that touch are told apart.
+void DrawMarker(QPainter& painter, QPointF at, int marker, const QColor& colour,
+                const QPalette& palette, double r) {
+    if (marker >= ui::Picture::MarkerCount - 1)
+        return DrawCross(painter, at, marker == ui::Picture::Reticle, colour, r);
+    const auto polygon = [&](const QList<QPointF>& corners) {
+        painter.drawPolygon(QPolygonF(corners).translated(at));
+    };
+    painter.setPen(palette.color(QPalette::Base));
+    painter.setBrush(colour);
+    switch (marker) {
+    case 0:
+        return painter.drawEllipse(at, r, r);
+    case 1:
+        return painter.drawRect(QRectF(at - QPointF(r, r) * 0.9, QSizeF(r, r) * 1.8));
+    case 2:
+        return polygon({{-r * 1.1, r * 0.9}, {r * 1.1, r * 0.9}, {0, -r * 1.1}});
+    case 3:
+        return polygon({{-r * 1.1, 0}, {0, -r * 1.3}, {r * 1.1, 0}, {0, r * 1.3}});
+    default:
+        return polygon({{-r * 1.1, -r * 0.9}, {r * 1.1, -r * 0.9}, {0, r * 1.1}});
+    }
+}
+
 /// Paints the shapes of one list; it remembers where texts stand that others must not cover.
 class StrokePainter {
 public:
     StrokePainter(QPainter& painter, const ui::Picture& picture, QSizeF size,
-                  const QPalette& palette)
+                  const QPalette& palette, bool copiesMarkers)
         : painter_(painter), across_(size.width() / picture.Width()),
           down_(size.height() / picture.Height()), palette_(palette),
-          radius_(painter.fontMetrics().height() * 0.28) {}
+          radius_(painter.fontMetrics().height() * 0.28), copiesMarkers_(copiesMarkers) {}
 
     void Paint(const Stroke& stroke) {
         const QPointF from(stroke.x * across_, stroke.y * down_);
@@ -79,38 +121,21 @@ private:
         painter_.drawText(at + QPointF(0, metrics.ascent()), text);
     }
 
+    /// Thousands of markers are copies of a few small pictures.
     void Marker(QPointF at, int marker, const QColor& colour) {
-        const double r = radius_;
-        if (marker >= ui::Picture::MarkerCount - 1) return Cross(at, marker, colour);
-        painter_.setPen(palette_.color(QPalette::Base)); // so that those that touch are told apart
-        painter_.setBrush(colour);
-        switch (marker) {
-        case 0:
-            return painter_.drawEllipse(at, r, r);
-        case 1:
-            return painter_.drawRect(QRectF(at - QPointF(r, r) * 0.9, QSizeF(r, r) * 1.8));
-        case 2:
-            return Polygon(at, {{-r * 1.1, r * 0.9}, {r * 1.1, r * 0.9}, {0, -r * 1.1}});
-        case 3:
-            return Polygon(at, {{-r * 1.1, 0}, {0, -r * 1.3}, {r * 1.1, 0}, {0, r * 1.3}});
-        default:
-            return Polygon(at, {{-r * 1.1, -r * 0.9}, {r * 1.1, -r * 0.9}, {0, r * 1.1}});
+        if (!copiesMarkers_) return DrawMarker(painter_, at, marker, colour, palette_, radius_);
+        QPixmap& copy = copies_[{marker, colour.rgba()}];
+        const double half = std::ceil(radius_ * 1.5);
+        if (copy.isNull()) {
+            const double sharpness = painter_.device()->devicePixelRatio();
+            copy = QPixmap((QSizeF(2 * half, 2 * half) * sharpness).toSize());
+            copy.setDevicePixelRatio(sharpness);
+            copy.fill(Qt::transparent);
+            QPainter painter(&copy);
+            painter.setRenderHint(QPainter::Antialiasing);
+            DrawMarker(painter, {half, half}, marker, colour, palette_, radius_);
         }
-    }
-    void Polygon(QPointF at, const QList<QPointF>& corners) {
-        painter_.drawPolygon(QPolygonF(corners).translated(at));
-    }
-    /// A slanting cross, or the four strokes that point at another marker.
-    void Cross(QPointF at, int marker, const QColor& colour) {
-        const double r = radius_;
-        const bool isReticle = marker == ui::Picture::Reticle;
-        const double from = isReticle ? 1.6 * r : 0;
-        const double to = isReticle ? 3.2 * r : 1.1 * r;
-        const QPointF ways[] = {{1, isReticle ? 0.0 : 1.0}, {isReticle ? 0.0 : -1.0, 1}};
-        painter_.setPen(QPen(colour, r * (isReticle ? 0.35 : 0.55)));
-        for (const QPointF& way : ways)
-            for (const double side : {-1.0, 1.0})
-                painter_.drawLine(at + way * side * from, at + way * side * to);
+        painter_.drawPixmap(at - QPointF(half, half), copy);
     }
 
     QPainter& painter_;
@@ -118,6 +143,8 @@ private:
     const QPalette& palette_;
     double radius_; // of a marker
     std::vector<QRectF> taken_;
+    bool copiesMarkers_;
+    std::map<std::pair<int, QRgb>, QPixmap> copies_;
 };
 
 QPalette PaperPalette() {
@@ -133,7 +160,8 @@ void PaintStrokes(QPainter& painter, const ui::Picture& picture,
                   const std::vector<ui::Picture::Stroke>& strokes, QSizeF size,
                   const QPalette& palette) {
     painter.setRenderHint(QPainter::Antialiasing);
-    StrokePainter own(painter, picture, size, palette);
+    const bool onScreen = painter.device()->devType() != QInternal::Printer;
+    StrokePainter own(painter, picture, size, palette, onScreen && strokes.size() > manyStrokes);
     for (const Stroke& stroke : strokes)
         own.Paint(stroke);
 }

@@ -510,6 +510,44 @@ TEST_F(frmData2Test, UnitsOfAFaultyTableStay) {
     EXPECT_FALSE(form_->mnuSystemUnits.Enabled());
 }
 
+TEST_F(frmData2Test, APlotShowsTheFirstOfTooManyPointsAndLeadsToARow) {
+    forms.Register("frmGraph", [] { return std::make_unique<ui::Form>("frmGraph", "Plot"); });
+    OpenTable();
+    Paste(FullTable() + "310 993.3\n");
+    desktop.Expect("The table holds 16385 points; the plot shows the first 16384");
+    desktop.OnModal([&](ui::Form& form) {
+        EXPECT_EQ(globals.Plot->PointTable.size(), PlotTable::MostPoints);
+        EXPECT_EQ(globals.Plot->PointFar.size(), PlotTable::MostPoints);
+        globals.Plot->ChosenRow = globals.Plot->PointRow[99];
+        form.Close();
+    });
+    form_->cmdView.UserClick();
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{100, 1, 100, 1}));
+    EXPECT_TRUE(form_->tblData.HasFocus());
+}
+
+TEST_F(frmData2Test, AMisprintIsToBeLookedAtAgainAndNothingIsAsked) {
+    OpenTable();
+    std::string text;
+    for (int i = 0; i < 20; ++i)
+        text += std::to_string(280 + i) + " " + FormatFixed(1000 - 0.005 * i * i, 2) + "\n";
+    Paste(text);
+    EXPECT_FALSE(form_->lstFindings.Visible());
+    form_->tblData.UserCell(8, 1, "997.95"); // for 999.75
+    EXPECT_EQ(form_->lstFindings.Items(),
+              std::vector<std::string>{"Row 8, Property: Look again: far from what its "
+                                       "neighbours say"});
+    EXPECT_FALSE(form_->tblData.MarkOf(8, 1)->isFault);
+    form_->tblData.UserCell(3, 0, "x"); // the other findings stand in the order of the rows
+    EXPECT_EQ(form_->lstFindings.Count(), 2);
+    form_->mnuUndo.UserClick();
+    form_->mnuUndo.UserClick();
+    EXPECT_FALSE(form_->lstFindings.Visible());
+    form_->mnuRedo.UserClick();
+    Accept();
+    EXPECT_EQ(set->recData.Count(), 20u);
+}
+
 TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {
     forms.Register("frmGraph", [] { return std::make_unique<ui::Form>("frmGraph", "Plot"); });
     TwoVariables();

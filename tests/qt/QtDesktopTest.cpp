@@ -1,6 +1,8 @@
 #include "qt/QtDesktop.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -80,6 +82,41 @@ TEST_F(OnTheScreen, WindowsGoWithTheirProgram) {
     ASSERT_FALSE(window.isNull());
     other.reset();
     EXPECT_TRUE(window.isNull() || (window->IsDetached() && !window->isVisible()));
+}
+
+TEST_F(OnTheScreen, APictureBecomesAPngOnWhiteGround) {
+    ui::Form form("frmAny", "Any");
+    ui::Picture picture(form, "picAny", 200, 100);
+    using Shape = ui::Picture::Shape;
+    std::vector<ui::Picture::Stroke> strokes{{Shape::Text, 10, 70, 0, 0, 0, "label"},
+                                             {Shape::Text, 12, 72, 0, 0, 0, "hidden"},
+                                             {Shape::Marker, 100, 50, 0, 0, 1, {}}};
+    strokes[0].yields = strokes[1].yields = true;
+    picture.Strokes(strokes);
+    const std::string bytes = desktop_.PngOf(picture).value_or("");
+    strokes.erase(strokes.begin() + 1);
+    picture.Strokes(strokes);
+    EXPECT_EQ(desktop_.PngOf(picture), bytes); // the label that would cover another is left out
+    const QImage image = QImage::fromData(QByteArray::fromStdString(bytes), "PNG");
+    ASSERT_EQ(image.size(), QSize(400, 200));
+    EXPECT_EQ(image.pixel(2, 2), 0xFFFFFFFFU);
+    EXPECT_EQ(image.pixel(200, 100), 0xFF000000U | ui::PictureColours[0].light);
+}
+
+TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
+    ui::Form form("frmAny", "Any");
+    ui::Picture picture(form, "picAny", 1000, 700);
+    std::vector<ui::Picture::Stroke> strokes;
+    for (int i = 0; i < 16384; ++i) {
+        strokes.push_back(
+            {ui::Picture::Shape::Marker, i % 997 * 1.0, i % 691 * 1.0, 0, 0, 1 + i % 7, {}});
+        strokes.back().marker = i % ui::Picture::MarkerCount;
+    }
+    picture.Strokes(strokes);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_TRUE(desktop_.PngOf(picture).has_value());
+    EXPECT_LT(timer.elapsed(), 2000) << "ms, on a busy machine";
 }
 
 TEST(Text, PositionsCountCodePointsOutsideTheBasicPlane) {
