@@ -146,6 +146,7 @@ bool IsInside(const Plot& plot, PlotPlace place) {
 
 void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot) {
     std::vector<Stroke> markers;
+    std::vector<Stroke> ringed; // above all others
     for (int point = 0; point < plot.table.PointCount(); ++point) {
         const auto place = PlaceOf(plot, point);
         if (!place) continue;
@@ -157,11 +158,15 @@ void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot) {
             strokes.push_back(marker);
             continue;
         }
-        markers.push_back(marker);
-        if (plot.table.PointFar[At(point)])
-            markers.push_back({Shape::Ring, place->x, place->y, 0, 0, 0, {}});
+        if (!plot.table.PointFar[At(point)]) {
+            markers.push_back(marker);
+            continue;
+        }
+        ringed.push_back(marker);
+        ringed.push_back({Shape::Ring, place->x, place->y, 0, 0, 0, {}});
     }
-    strokes.insert(strokes.end(), markers.begin(), markers.end());
+    for (const auto* some : {&markers, &ringed})
+        strokes.insert(strokes.end(), some->begin(), some->end());
 }
 
 /// The variables that are the same along a family: their names, or their values at a point.
@@ -185,6 +190,12 @@ std::string LegendText(const Plot& plot, std::size_t group) {
     return OthersText(plot, &RowOf(plot, plot.families.GroupRows[group]));
 }
 
+/// What the legend has no room for.
+std::string MoreText(const Plot& plot) {
+    const std::size_t more = plot.families.GroupRows.size() - LegendLines(plot);
+    return more == 0 ? "" : "and " + std::to_string(more) + " more";
+}
+
 void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot) {
     const double left = plot.right + 24;
     double y = plot.top;
@@ -194,10 +205,8 @@ void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot) {
         strokes.push_back(Marker({left, y + textMiddle}, static_cast<int>(group)));
         strokes.push_back(Label(left + 16, y, LegendText(plot, group), Align::Left));
     }
-    const std::size_t more = plot.families.GroupRows.size() - LegendLines(plot);
-    if (more > 0)
-        strokes.push_back(
-            Label(left + 16, y, "and " + std::to_string(more) + " more", Align::Left));
+    const std::string more = MoreText(plot);
+    if (!more.empty()) strokes.push_back(Label(left + 16, y, more, Align::Left));
 }
 
 double LongestLabel(const std::vector<double>& ticks) {
@@ -209,7 +218,7 @@ double LongestLabel(const std::vector<double>& ticks) {
 
 double LegendWidth(const Plot& plot) {
     if (!HasLegend(plot)) return 0;
-    std::size_t longest = 0;
+    std::size_t longest = MoreText(plot).size();
     for (std::size_t group = 0; group < LegendLines(plot); ++group)
         longest = std::max(longest, LegendText(plot, group).size());
     return 45 + characterWidth * static_cast<double>(longest);
