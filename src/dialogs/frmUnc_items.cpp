@@ -108,6 +108,7 @@ void frmUnc::ShowCaption(const clsX& item) {
     ui::Frame& frame = Frame(item.N);
     if (item.Constr) {
         frame.Caption("Constraint");
+        frame.ToolTip(item.Name + ", " + item.Unit);
         return;
     }
     frame.Caption(frame.Caption() + ": " + item.Name + " (" + item.Unit + ")");

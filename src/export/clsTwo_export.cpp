@@ -62,17 +62,6 @@ bool HasVariable(const clsTwo& set, std::string_view code) {
     return set.VARIABLE1 == code || (set.nVar == 2 && set.VARIABLE2 == code);
 }
 
-// The value of a state variable that the comment states for all rows, in its system unit.
-std::string ConstantOf(const clsTwo& set, const std::string& code) {
-    const std::string tags = CommentTagPart(set.Header.DATACOMMENT);
-    const std::string mark = ":" + code + " = ";
-    const std::size_t at = tags.find(mark);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + mark.size();
-    const std::string value = tags.substr(from, tags.find(':', from) - from);
-    return IsNumeric(value) ? value : std::string();
-}
-
 // What the set states about a variable that stays the same, or null.
 const clsX* StatementsOf(const clsTwo& set, const std::string& code) {
     const auto found = std::find_if(set.UX.begin(), set.UX.end(), [&](const clsX& item) {
@@ -83,8 +72,8 @@ const clsX* StatementsOf(const clsTwo& set, const std::string& code) {
 
 void ExportConstraints(XmlWriter& xml, const clsTwo& set) {
     for (const std::string code : {"T", "P", "WL", "WF"}) {
-        const std::string value = ConstantOf(set, code);
-        if (value.empty() || HasVariable(set, code)) continue;
+        const std::string value = set.ConstantOf(code);
+        if (value.empty()) continue;
         ExportUnit unit{"S"};
         unit.wavelength = code == "WL";
         const ExportNumber number = ExportedValue(value, unit);
@@ -97,7 +86,7 @@ void ExportConstraints(XmlWriter& xml, const clsTwo& set) {
     }
     const bool isPressure = HasVariable(set, "P") || set.PRPCODE == "PV" || set.PRPCODE == "P";
     const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, ":PB:");
-    if (isPressure || !ConstantOf(set, "P").empty()) return;
+    if (isPressure || !set.ConstantOf("P").empty()) return;
     if (boils || HasTag(set.Header, ":FP:")) ExportAtmosphere(xml);
 }
 

@@ -9,7 +9,9 @@
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
 
+#include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace vexora {
 
@@ -71,10 +73,38 @@ void NameProperty(clsX& item, const std::string& code, const std::string& unit, 
 
 void NameVariable(clsX& item, int n, const std::string& code, const std::string& unit) {
     item.N = n;
+    item.Constr = false;
     item.PRPCODE = code;
     const auto row = FindVariable(code);
     item.Name = row ? row->IndVariable : code;
     item.Unit = row ? UnitInWords(unit, 0, row->Unit) : std::string();
+}
+
+/// What stays the same for all rows has its statements behind those of the variables.
+void NameConstraints(clsTwo& set) {
+    const std::span<clsX> places =
+        std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
+    const auto take = [&set](clsX& item, const std::string& code) {
+        const auto row = FindVariable(code);
+        item.PRPCODE = code;
+        item.Name = row ? row->IndVariable : code;
+        item.Unit = row ? row->Unit : std::string();
+        if (item.PHASE.empty()) item.PHASE = set.PHASE1;
+    };
+    for (clsX& item : places) {
+        item.Constr = true;
+        item.Name.clear();
+        if (item.IsStated()) take(item, item.PRPCODE);
+    }
+    for (const char* code : {"T", "P", "WL", "WF"}) {
+        const auto isOfCode = [code](const clsX& item) {
+            return item.IsStated() && item.PRPCODE == code;
+        };
+        if (set.ConstantOf(code).empty() || std::ranges::any_of(places, isOfCode)) continue;
+        const auto free =
+            std::ranges::find_if(places, [](const clsX& item) { return item.Name.empty(); });
+        if (free != places.end()) take(*free, code);
+    }
 }
 
 } // namespace
@@ -160,11 +190,7 @@ void NameStatements(clsTwo& set, bool original) {
         NameVariable(set.UX[static_cast<std::size_t>(n)], n, set.VARIABLE(n),
                      original ? set.VAR_UNIT(n) : "S");
     }
-    for (std::size_t n = static_cast<std::size_t>(set.nVar) + 1; n < set.UX.size(); ++n) {
-        clsX& item = set.UX[n];
-        item.Constr = true;
-        item.Name = item.IsStated() ? VariableName(item.PRPCODE) : std::string();
-    }
+    NameConstraints(set);
 }
 
 void NameStatements(clsZ& value) {

@@ -7,6 +7,7 @@
 #include "records/SetLines.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
@@ -40,6 +41,17 @@ const std::string& clsTwo::VARIABLE(int n) const {
 
 const std::string& clsTwo::VAR_UNIT(int n) const {
     return n == 1 ? VAR1_UNIT : n == 2 ? VAR2_UNIT : NoText;
+}
+
+std::string clsTwo::ConstantOf(std::string_view code) const {
+    if (VARIABLE1 == code || (nVar == 2 && VARIABLE2 == code)) return {};
+    const std::string tags = CommentTagPart(Header.DATACOMMENT);
+    const std::string mark = ":" + std::string(code) + " = ";
+    const std::size_t at = tags.find(mark);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + mark.size();
+    const std::string value = tags.substr(from, tags.find(':', from) - from);
+    return IsNumeric(value) ? value : std::string();
 }
 
 std::string clsTwo::Relation() const {

@@ -50,6 +50,9 @@ public:
     /// Code and conversion code of variable n, 1 or 2; empty outside.
     const std::string& VARIABLE(int n) const;
     const std::string& VAR_UNIT(int n) const;
+    /// The value of a state variable that the comment states for all rows, in its system unit;
+    /// empty when there is none, or it varies.
+    std::string ConstantOf(std::string_view code) const;
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string Relation() const;
 

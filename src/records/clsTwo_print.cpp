@@ -65,8 +65,10 @@ void clsTwo::PrintAll(LineWriter& out) const {
 }
 
 void clsTwo::PrintStatements(LineWriter& out) const {
-    for (std::size_t n = 1; n < UX.size(); ++n)
-        UX[n].SaveX(out, isOriginalUnit ? VAR_UNIT(static_cast<int>(n)) : "");
+    for (int n = 1; n < static_cast<int>(UX.size()); ++n) {
+        const bool inEnteredUnit = isOriginalUnit && n <= nVar; // a constraint is in system units
+        UX[static_cast<std::size_t>(n)].SaveX(out, inEnteredUnit ? VAR_UNIT(n) : "");
+    }
     UX[0].SaveX(out, "");
     SaveOthers(out, OtherX);
 }

@@ -196,6 +196,33 @@ TEST_F(frmUncTest, WhatIsNotTouchedKeepsItsBytes) {
     EXPECT_EQ(Line(0) + Line(1), known.substr(0, known.find("^X 2")));
 }
 
+TEST_F(frmUncTest, WhatStaysTheSameInAllRowsIsAConstraint) {
+    set.nVar = 1;
+    set.VARIABLE2.clear();
+    set.VAR2_UNIT.clear();
+    set.PHASE1 = "L";
+    set.Header.DATACOMMENT = "::Method:X:P = 250.0:T = 300:";
+    NameStatements(set);
+    EXPECT_TRUE(Work([](frmUnc& form) {
+        EXPECT_EQ(form.Frame(2).Caption() + " " + form.Frame(2).ToolTip(),
+                  "Constraint Pressure, kPa");
+        EXPECT_FALSE(form.Frame(3).Visible()); // the temperature varies
+        form.chkUnc(2).UserClick();
+        form.txtUValue(2).UserReplaceAll("0.50");
+        form.cmdOK.UserClick();
+    }));
+    const std::string line = "^X 2 P L - & & & - & & & + & 0.50 - & & - & & &\n";
+    EXPECT_EQ(Line(2), line);
+    set.Header.DATACOMMENT = "::Method:X:WL = 5893:P = 250.0:";
+    NameStatements(set);
+    EXPECT_EQ(Line(2), line);
+    EXPECT_EQ(set.UX[3].PRPCODE + " " + set.UX[3].Name, "WL Wavelength");
+    set.nVar = 2;
+    set.VARIABLE2 = "P";
+    NameStatements(set);
+    EXPECT_FALSE(set.UX[2].Constr);
+}
+
 TEST_F(frmUncTest, ChainOfASetCarriesItsStatements) {
     set.UX[0].iUnc = set.UX[1].iRep = true;
     set.UX[0].UValue = "0.002";
