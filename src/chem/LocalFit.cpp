@@ -6,6 +6,7 @@
 #include <numeric>
 #include <optional>
 
+#include "chem/NeighbourFit.h"
 #include "reference/Numbers.h"
 
 namespace vexora {
@@ -13,10 +14,7 @@ namespace vexora {
 namespace {
 
 constexpr std::size_t leastPoints = 12;
-constexpr std::size_t most = 10;     // neighbours of a fit
-constexpr std::size_t mostTerms = 5; // of its polynomial
-constexpr double sameDirection = 1e-7;
-constexpr std::size_t shortCurve = 50;
+constexpr std::size_t shortCurve = 50;    // here each point is judged by all the others
 constexpr std::size_t sampleSize = 200;   // points that tell which polynomial fits best
 constexpr double timesLocal = 10;         // the scatter of the neighbours
 constexpr double timesAtEnd = 5;          // nobody stands beyond the first and the last point
@@ -26,126 +24,7 @@ constexpr std::size_t calmReach = 2;      // so many on each side
 constexpr double timesDigit = 4;          // the last digit
 constexpr double madToDeviation = 1.4826; // of normally distributed errors
 
-using Curve = std::vector<FitPoint>;
-using Values = std::array<double, most>;
-
-/// A polynomial and how many neighbours it goes through.
-struct Degree {
-    std::size_t degree, neighbours;
-};
 constexpr std::array<Degree, 3> degrees{{{2, 8}, {3, 10}, {4, 10}}};
-
-/// What the neighbours say about one point.
-struct Verdict {
-    double residual = 0; // of the point against the fit
-    double scatter = 0;  // of the neighbours about the fit
-    double spread = 1;   // of an error of the neighbours at the point
-
-    double Size() const { return residual / spread; }
-};
-
-/// The points next to one on the curve, but for it and one other.
-struct Neighbours {
-    Neighbours(const Curve& curve, std::size_t at, std::size_t wanted, std::size_t other) {
-        const std::size_t half = wanted / 2;
-        const std::size_t window = wanted + (other == at ? 1 : 2);
-        std::size_t from = at > half ? at - half : 0;
-        from = std::min(from, curve.size() > window ? curve.size() - window : 0);
-        for (std::size_t i = from; i < std::min(from + window, curve.size()); ++i)
-            if (i != at && i != other && count < wanted) places[count++] = i;
-    }
-    std::array<std::size_t, most> places{};
-    std::size_t count = 0;
-};
-
-/// One unit of the last digit thereabouts: of the point or of most of its neighbours.
-double DigitAt(const Curve& curve, std::size_t at, std::size_t neighbours) {
-    const Neighbours near(curve, at, neighbours, at);
-    Values digits{};
-    for (std::size_t i = 0; i < near.count; ++i)
-        digits[i] = curve[near.places[i]].least;
-    std::sort(digits.begin(), digits.begin() + static_cast<std::ptrdiff_t>(near.count));
-    return std::max(curve[at].least, digits[near.count / 2]);
-}
-
-double Product(const Values& a, const Values& b) {
-    return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
-}
-
-/// A polynomial through the neighbours of a point, built from ones that are orthogonal over them.
-/// The abscissa is 0 at the point and at most 1 away from it.
-class Fit {
-public:
-    /// False when the neighbours have too few different places.
-    bool Make(const Curve& curve, std::size_t at, Degree degree, std::size_t other) {
-        const Neighbours near(curve, at, degree.neighbours, other);
-        if (near.count < degree.neighbours || !Place(curve, at, near)) return false;
-        for (std::size_t k = 0; k <= degree.degree; ++k)
-            if (!Add(k)) return false;
-        const auto free = static_cast<double>(near.count - degree.degree - 1);
-        verdict = {std::abs(fitted_), std::sqrt(Product(left_, left_) / free), std::sqrt(spread_)};
-        return true;
-    }
-    Verdict verdict;
-
-private:
-    bool Place(const Curve& curve, std::size_t at, const Neighbours& near) {
-        double widest = 0;
-        count_ = near.count;
-        for (std::size_t i = 0; i < count_; ++i) {
-            t_[i] = curve[near.places[i]].x - curve[at].x;
-            left_[i] = curve[near.places[i]].y - curve[at].y;
-            widest = std::max(widest, std::abs(t_[i]));
-        }
-        for (std::size_t i = 0; i < count_; ++i) {
-            t_[i] /= widest;
-            power_[i] = 1;
-        }
-        return widest > 0 && std::isfinite(widest);
-    }
-    /// Takes the part of the next power that is new, and what it explains off the values.
-    bool Add(std::size_t k) {
-        Values next = power_;
-        double value = k == 0 ? 1 : 0;
-        const double before = std::sqrt(Product(next, next));
-        for (std::size_t j = 0; j < k; ++j) {
-            const double part = Product(next, basis_[j]);
-            TakeOff(next, part, basis_[j]);
-            value -= part * here_[j];
-        }
-        const double size = std::sqrt(Product(next, next));
-        if (size < sameDirection * before) return false;
-        for (std::size_t i = 0; i < count_; ++i) {
-            next[i] /= size;
-            power_[i] *= t_[i];
-        }
-        basis_[k] = next;
-        here_[k] = value / size;
-        const double weight = Product(left_, next);
-        TakeOff(left_, weight, next);
-        fitted_ += weight * here_[k];
-        spread_ += here_[k] * here_[k];
-        return true;
-    }
-    static void TakeOff(Values& values, double weight, const Values& other) {
-        for (std::size_t i = 0; i < most; ++i)
-            values[i] -= weight * other[i];
-    }
-
-    std::size_t count_ = 0;
-    Values t_{}, power_{};
-    Values left_{}; // of the values, against the point's own, that is not explained yet
-    std::array<Values, mostTerms> basis_{};
-    std::array<double, mostTerms> here_{}; // value of each at the point
-    double fitted_ = 0;
-    double spread_ = 1;
-};
-
-std::optional<Verdict> Judge(const Curve& curve, std::size_t at, Degree degree, std::size_t other) {
-    Fit fit;
-    if (!fit.Make(curve, at, degree, other)) return std::nullopt;
-    return fit.verdict;
-}
 
 /// The scatter of the curve about its fits, from every stride-th point. Nothing when too few of
 /// them can be judged.

@@ -19,7 +19,7 @@ std::string Number(double value) {
 }
 
 std::string Colour(int index) {
-    if (index <= 0) return "#000000";
+    if (index <= 0) return index < 0 ? "#d9d9d9" : "#000000";
     const unsigned colour =
         ui::PictureColours[static_cast<std::size_t>(index - 1) % ui::PictureColours.size()].light;
     std::string text = "#";
@@ -33,8 +33,7 @@ std::string Attribute(const char* name, double value) {
 }
 
 std::string Pen(const Stroke& stroke) {
-    return " fill=\"none\" stroke=\"" + Colour(stroke.colour) + "\"" +
-           (stroke.colour < 0 ? " stroke-opacity=\"0.15\"" : "");
+    return " fill=\"none\" stroke=\"" + Colour(stroke.colour) + "\"";
 }
 
 std::string Circle(const Stroke& stroke, double r) {
@@ -50,9 +49,7 @@ const char* CornersOf(int marker) {
 }
 
 std::string Marker(const Stroke& stroke) {
-    const std::string fill = " fill=\"" + Colour(stroke.colour) + "\"" +
-                             (stroke.colour < 0 ? " fill-opacity=\"0.15\"" : "") +
-                             " stroke=\"#ffffff\"";
+    const std::string fill = " fill=\"" + Colour(stroke.colour) + "\" stroke=\"#ffffff\"";
     if (stroke.marker == 0) return Circle(stroke, radius) + fill + "/>";
     const std::string place = " transform=\"translate(" + Number(stroke.x) + " " +
                               Number(stroke.y) + ") scale(" + Number(radius) + ")\"";

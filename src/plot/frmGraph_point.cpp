@@ -6,6 +6,7 @@ namespace {
 
 constexpr const char* hint = "Drag a rectangle to enlarge it, click to see all points";
 constexpr const char* hintOfKeys = "The arrow keys step through the points";
+constexpr const char* noPoints = "There are no points to draw";
 constexpr const char* noLogarithm =
     "Nothing to draw: 1/X and ln Y need an absolute temperature and "
     "a value above 0";
@@ -19,7 +20,8 @@ void frmGraph::PointTo(std::optional<int> point) {
     std::vector<ui::Picture::Stroke> mark;
     if (point) mark = PointMark(plot, *point);
     const bool isSeen = !mark.empty();
-    lblPoint.Caption(isSeen ? PointText(plot, *point) : scale_.Empty ? noLogarithm : hint);
+    const char* untold = table_->PointTable.empty() ? noPoints : scale_.Empty ? noLogarithm : hint;
+    lblPoint.Caption(isSeen ? PointText(plot, *point) : untold);
     lblRow.Caption(isSeen ? RowText(plot, *point) + ", Enter goes there" : hintOfKeys);
     picPIC.Overlay(std::move(mark));
 }

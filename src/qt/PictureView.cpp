@@ -69,7 +69,10 @@ bool PictureView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool PictureView::MouseEvent(QEvent& event) {
-    const QPointF at = own_->ToUnits(static_cast<QMouseEvent&>(event).position());
+    const auto& mouse = static_cast<QMouseEvent&>(event);
+    const bool isMove = event.type() == QEvent::MouseMove;
+    if (!isMove && mouse.button() != Qt::LeftButton) return true;
+    const QPointF at = own_->ToUnits(mouse.position());
     if (event.type() == QEvent::MouseButtonDblClick) {
         Act([this] { model_.UserDoubleClick(); });
         return true;

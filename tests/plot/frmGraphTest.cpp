@@ -61,8 +61,7 @@ TEST_F(frmGraphTest, DegenerateTablesAreShownInBothModes) {
                                                           {{1e-300, 1e-300}, {1e300, 1e300}},
                                                           {{1, -1e300}, {-1, 1e300}}};
     for (const auto& points : tables) {
-        globals.Plot->ChosenRow = 0;
-        *globals.Plot = PlotTable();
+        globals.Plot = std::make_shared<PlotTable>();
         globals.Plot->nVar = 2;
         for (const auto& point : points)
             globals.Plot->Add(point, 0.5, 1);
@@ -78,6 +77,18 @@ TEST_F(frmGraphTest, DegenerateTablesAreShownInBothModes) {
         }
         graph.Close();
     }
+}
+
+TEST_F(frmGraphTest, NothingToDrawIsToldWithItsReason) {
+    EXPECT_EQ(Open().lblPoint.Caption(), "There are no points to draw");
+    Graph().Close();
+    globals.Plot->Add({-1, 300}, 0, 1);
+    Open().cmdMode.UserClick();
+    EXPECT_EQ(Graph().lblPoint.Caption(), "Nothing to draw: 1/X and ln Y need an absolute "
+                                          "temperature and a value above 0");
+    EXPECT_TRUE(Graph().picPIC.Strokes().empty());
+    Graph().cmdMode.UserClick();
+    EXPECT_FALSE(Graph().picPIC.Strokes().empty());
 }
 
 TEST_F(frmGraphTest, EnterLeadsToTheRowOfThePointThatIsTold) {
@@ -132,8 +143,8 @@ TEST_F(frmGraphTest, DrawingsHoldEveryShapeInPlainText) {
     EXPECT_EQ(svg.substr(svg.find("<title>")),
               "<title>T &amp; p</title>\n"
               "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n"
-              "<line x1=\"1\" y1=\"2\" x2=\"3.46\" y2=\"4\" fill=\"none\" stroke=\"#000000\" "
-              "stroke-opacity=\"0.15\"/>\n"
+              "<line x1=\"1\" y1=\"2\" x2=\"3.46\" y2=\"4\" fill=\"none\" "
+              "stroke=\"#d9d9d9\"/>\n"
               "<circle cx=\"5\" cy=\"5\" r=\"12.1\" fill=\"none\" stroke=\"#000000\" "
               "stroke-width=\"2\"/>\n"
               "<text x=\"10\" y=\"36\" text-anchor=\"start\">a &lt; b</text>\n"
