@@ -13,6 +13,7 @@
 #include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "records/clsTwo.h"
+#include "reference/Numbers.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -151,6 +152,22 @@ void TypeCell(benchmark::State& state) {
         form.tblData.UserCell(8000, 2, std::to_string(900 + typed++ % 90));
 }
 
+/// The same where all rows are one curve, whose points are held against their neighbours.
+void TypeCellOfACurve(benchmark::State& state) {
+    Table table;
+    table.set->nVar = 1;
+    table.set->UX[0] = clsX();
+    frmData2& form = table.Open();
+    std::string text;
+    for (int row = 0; row < rows; ++row)
+        text += std::to_string(275 + row / 100) + "." + std::to_string(100 + row % 100) + "\t" +
+                NumberText(1100.0 - row * 0.03 - row * row * 1e-6) + "\n";
+    form.tblData.UserPaste(text);
+    int typed = 0;
+    for (auto _ : state)
+        form.tblData.UserCell(8000, 1, std::to_string(790 + typed++ % 5));
+}
+
 void UndoOfPaste(benchmark::State& state) {
     Table table;
     frmData2& form = table.Open();
@@ -263,6 +280,7 @@ BENCHMARK(Load)->Unit(benchmark::kMillisecond);
 BENCHMARK(Paste)->Unit(benchmark::kMillisecond);
 BENCHMARK(Accept)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCell)->Unit(benchmark::kMillisecond);
+BENCHMARK(TypeCellOfACurve)->Unit(benchmark::kMillisecond);
 BENCHMARK(UndoOfPaste)->Unit(benchmark::kMillisecond);
 BENCHMARK(PasteOfDoubtfulValues)->Unit(benchmark::kMillisecond);
 BENCHMARK(Clear)->Unit(benchmark::kMillisecond);
