@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t leastPoints = 12;
 constexpr std::size_t shortCurve = 50;    // here each point is judged by all the others
-constexpr std::size_t sampleSize = 200;   // points that tell which polynomial fits best
+constexpr std::size_t sampleSize = 50;    // points that tell which polynomial fits best
 constexpr double timesLocal = 10;         // the scatter of the neighbours
 constexpr double timesAtEnd = 5;          // nobody stands beyond the first and the last point
 constexpr double timesWhole = 8;          // the scatter of the whole curve
@@ -45,7 +45,7 @@ struct BestFit {
 };
 
 std::optional<BestFit> BestFitOf(const Curve& curve) {
-    const std::size_t stride = curve.size() / sampleSize + 1;
+    const std::size_t stride = (curve.size() - 1) / sampleSize + 1;
     std::optional<BestFit> best;
     for (const Degree degree : degrees) {
         const auto scatter = WholeScatter(curve, degree, stride);
@@ -146,19 +146,22 @@ std::vector<Curve> ViewsOf(const Curve& curve, FitScale scale) {
 /// Rows that agree in all variables but one.
 std::vector<std::vector<std::size_t>> CurvesAlong(const std::vector<FitRow>& rows, std::size_t n,
                                                   std::size_t variables) {
-    const auto others = [&](std::size_t at) {
-        auto x = rows[at].x;
-        x[n] = 0;
-        std::fill(x.begin() + static_cast<std::ptrdiff_t>(variables), x.end(), 0.0);
-        return x;
+    const auto firstDifference = [&](std::size_t a, std::size_t b) {
+        std::size_t k = 0;
+        while (k < variables && (k == n || rows[a].x[k] == rows[b].x[k]))
+            ++k;
+        return k;
+    };
+    const auto before = [&](std::size_t a, std::size_t b) {
+        const std::size_t k = firstDifference(a, b);
+        return k < variables && rows[a].x[k] < rows[b].x[k];
     };
     std::vector<std::size_t> order(rows.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return others(a) < others(b); });
+    std::stable_sort(order.begin(), order.end(), before);
     std::vector<std::vector<std::size_t>> curves;
     for (std::size_t i = 0; i < order.size(); ++i) {
-        if (i == 0 || others(order[i]) != others(order[i - 1])) curves.emplace_back();
+        if (i == 0 || before(order[i - 1], order[i])) curves.emplace_back();
         curves.back().push_back(order[i]);
     }
     return curves;
