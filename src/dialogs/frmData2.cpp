@@ -1,5 +1,7 @@
 #include "dialogs/frmData2.h"
 
+#include <functional>
+
 #include "chem/clsProperty.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
@@ -77,28 +79,36 @@ void frmData2::WireEvents() {
 }
 
 void frmData2::WireMenus() {
-    mnuFileOpen.OnClick = [this] { OpenFile(); };
-    mnuFileSave.OnClick = [this] { SaveFile(); };
-    mnuUndo.OnClick = [this] {
+    // What is being typed into a cell belongs to the table before anything else is done with it.
+    const auto on = [this](ui::MenuItem& item, const std::function<void()>& action) {
+        item.OnClick = [this, action] {
+            ToStandardMode();
+            action();
+        };
+    };
+    on(mnuFileOpen, [this] { OpenFile(); });
+    on(mnuFileSave, [this] { SaveFile(); });
+    on(mnuUndo, [this] {
         ShowNotice("");
         undo_.Undo();
-    };
-    mnuRedo.OnClick = [this] {
+    });
+    on(mnuRedo, [this] {
         ShowNotice("");
         undo_.Redo();
-    };
-    mnuCopy.OnClick = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
-    mnuCut.OnClick = [this] {
-        ui::TheDesktop().ClipboardText(tblData.SelectionText());
+    });
+    const auto copy = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
+    on(mnuCopy, copy);
+    on(mnuCut, [this, copy] {
+        copy();
         EmptySelection(undo_);
-    };
-    mnuPaste.OnClick = [this] { Paste(ui::TheDesktop().ClipboardText()); };
-    mnuPasteShown.OnClick = [this] { PasteShown(); };
-    mnuNextFinding.OnClick = [this] { StepFinding(1); };
-    mnuLastFinding.OnClick = [this] { StepFinding(-1); };
-    mnuAction2D.OnClick = [this] { Action2D(); };
-    mnuSplit.OnClick = [this] { Split(); };
-    mnuSystemUnits.OnClick = [this] { AdjustUnits(); };
+    });
+    on(mnuPaste, [this] { Paste(ui::TheDesktop().ClipboardText()); });
+    on(mnuPasteShown, [this] { PasteShown(); });
+    on(mnuNextFinding, [this] { StepFinding(1); });
+    on(mnuLastFinding, [this] { StepFinding(-1); });
+    on(mnuAction2D, [this] { Action2D(); });
+    on(mnuSplit, [this] { Split(); });
+    on(mnuSystemUnits, [this] { AdjustUnits(); });
     const auto help = [](ui::MenuItem& item, int context) {
         item.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
     };

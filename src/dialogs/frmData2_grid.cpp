@@ -64,6 +64,8 @@ void frmData2::GridKeys(ui::Key& key) {
     if (key.FullName() == "Enter" || key.FullName() == "F2") {
         key.swallowed = true;
         ToEditMode(tblData.Cell(block.top, block.left));
+    } else if (key.name == "Escape") {
+        key.swallowed = undo_.CanUndo(); // a whole table is not given up by a slip of the finger
     } else if (key.FullName() == "Backspace") {
         key.swallowed = true;
         EmptySelection(undo_);

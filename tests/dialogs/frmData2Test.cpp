@@ -430,6 +430,31 @@ TEST_F(frmData2Test, WidestTableTakesABlockWithTabsAtTheEnds) {
     EXPECT_EQ(form_->tblData.Rows(), 3);
 }
 
+TEST_F(frmData2Test, MenusComeBehindWhatIsBeingTyped) {
+    OpenTable();
+    Paste("275 999.8\n280 999.7");
+    form_->tblData.UserSelect({2, 1, 2, 1});
+    form_->tblData.SetFocus();
+    form_->UserKey(ui::ParseKey("8"));
+    form_->mnuCopy.UserClick();
+    EXPECT_EQ(desktop.ClipboardText(), "8");
+    form_->UserKey(ui::ParseKey("9"));
+    form_->UserKey(ui::ParseKey("Ctrl+Z"));
+    EXPECT_FALSE(form_->txtCell.Visible());
+    EXPECT_EQ(form_->TableText(), "275\t999.8\t\n280\t8\t\n");
+}
+
+TEST_F(frmData2Test, EscapeGivesUpNoTableThatHasChanged) {
+    OpenTable();
+    form_->tblData.SetFocus();
+    Paste("275 999.8");
+    form_->UserKey(ui::ParseKey("Escape"));
+    EXPECT_TRUE(form_->IsOpen());
+    form_->UserKey(ui::ParseKey("Ctrl+Z"));
+    form_->UserKey(ui::ParseKey("Escape"));
+    EXPECT_FALSE(form_->IsOpen());
+}
+
 TEST_F(frmData2Test, OneValuePastedFillsTheSelection) {
     OpenTable();
     Paste("275 1\n280 2\n285 3");
