@@ -31,11 +31,8 @@ constexpr Rule HardLimits[] = {
     {"RID RIX", 1, None, true},
     {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S WU XU WL XL WA XA WE XE WC XC",
      0, 1},
-    {"KT KP KX KM KJ EE YRC PHx PHM PHM# PHJ PHJ# RSS Z ZC VLC VLR CGM AP# AC# AOC FC IST IIT NVC "
-     "NFL NVK "
-     "NTC "
-     "NTD NDC",
-     0, None},
+    {"KT KP KX KM KJ EE YRC PHx PHM PHM# PHJ PHJ# RSS Z ZC VLC VLR CGM", 0, None},
+    {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC", 0, None},
 };
 
 constexpr Rule SoftLimits[] = {

@@ -83,6 +83,7 @@ void frmUnc::ArrangeControls() {
     parts.emplace_back(lblFigures);
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
+    TabAlongArrangement();
     PreferredColumns = 120;
 }
 

@@ -7,6 +7,18 @@
 
 namespace vexora::ui {
 
+namespace {
+
+void Gather(const Layout& layout, std::vector<Control*>& controls) {
+    for (Control* control : {layout.label, layout.control})
+        if (control && std::ranges::find(controls, control) == controls.end())
+            controls.push_back(control);
+    for (const Layout& part : layout.parts)
+        Gather(part, controls);
+}
+
+} // namespace
+
 Form::Form(std::string name, std::string caption)
     : name_(std::move(name)), caption_(std::move(caption)) {}
 
@@ -122,6 +134,14 @@ Control* Form::NextInTabOrder(bool backwards) const {
         if (candidate->TakesFocus() && candidate->IsUsable()) return candidate;
     }
     return nullptr;
+}
+
+void Form::TabAlongArrangement() {
+    std::vector<Control*> ordered;
+    Gather(Arrangement, ordered);
+    for (Control* control : controls_)
+        if (std::ranges::find(ordered, control) == ordered.end()) ordered.push_back(control);
+    controls_ = std::move(ordered);
 }
 
 bool Form::UseShortcut(const Key& key) {

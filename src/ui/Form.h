@@ -60,7 +60,8 @@ public:
     /// A person closes the window by its frame.
     void UserClose();
 
-    /// All controls in the order of declaration; the destructor of a member takes it off.
+    /// All controls in the order of declaration, or of the layout (TabAlongArrangement); the
+    /// destructor of a member takes it off.
     const std::vector<Control*>& Controls() const { return controls_; }
     /// The control with this name ("txtName", "txtCoeff(1)"), or null.
     Control* Find(std::string_view name) const;
@@ -74,6 +75,10 @@ public:
     void UserKey(Key key);
     /// The usable control behind (or before) the active one in tab order, or null.
     Control* NextInTabOrder(bool backwards) const;
+
+    /// Brings the controls into the order of the layout, where arrays of them stand in blocks;
+    /// those outside of it follow as they were declared. For the constructor, behind Arrangement.
+    void TabAlongArrangement();
 
     Signal<> CaptionChanged;
     Signal<> FocusChanged;

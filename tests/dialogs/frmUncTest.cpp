@@ -96,6 +96,25 @@ TEST_F(frmUncTest, EntriesAreCheckedInOrder) {
     EXPECT_FALSE(set.UX[2].IsStated());
 }
 
+TEST_F(frmUncTest, TabGoesThroughABlockBeforeTheNext) {
+    Work([](frmUnc& form) {
+        const auto tab = [&form](const std::string& key = "Tab") {
+            form.UserKey(ui::ParseKey(key));
+            return form.ActiveControl() ? form.ActiveControl()->Name() : std::string();
+        };
+        form.chkDS(0).SetFocus();
+        EXPECT_EQ(tab(), "chkRep(0)"); // the fields of a closed block are passed over
+        EXPECT_EQ(tab("Shift+Tab"), "chkDS(0)");
+        form.chkDS(0).UserClick();
+        for (const char* next :
+             {"txtDSValue(0)", "chkDSPerCent(0)", "txtDSLevel(0)", "cboDSEvaluator(0)", "chkRep(0)",
+              "chkUnc(0)", "chkComb", "chkCD", "chkDS(1)", "chkRep(1)", "chkUnc(1)", "chkDS(2)",
+              "chkRep(2)", "chkUnc(2)", "cmdCalc", "cmdOK", "cmdCancel", "chkDS(0)"})
+            EXPECT_EQ(tab(), next);
+        form.cmdCancel.UserClick();
+    });
+}
+
 TEST_F(frmUncTest, CalibrationConstantStandsForTheDevice) {
     globals.DataContext = "React";
     set.nVar = 1;
