@@ -1,5 +1,8 @@
 #include "dialogs/frmData2.h"
 
+#include <cmath>
+#include <utility>
+
 #include "chem/clsProperty.h"
 #include "dialogs/DataDialogFixture.h"
 #include "dialogs/frmPasteView.h"
@@ -571,6 +574,25 @@ TEST_F(frmData2Test, AMisprintIsToBeLookedAtAgainAndNothingIsAsked) {
     form_->mnuRedo.UserClick();
     Accept();
     EXPECT_EQ(set->recData.Count(), 20u);
+}
+
+TEST_F(frmData2Test, VaporPressuresAreLookedAtAgainstAbsoluteTemperatures) {
+    set->PRPCODE = "PV";
+    set->PROPERTY_UNIT = "S";
+    set->VAR1_UNIT = "C";
+    OpenTable();
+    std::string text; // too steep for its small digits to be judged as a plain curve
+    for (int t = -90; t < 230; t += 8)
+        text += std::to_string(t) + " " +
+                FormatValue(std::exp(16.7 - 4060 / (t + 273.15 - 37)), 6) + "\n";
+    Paste(text);
+    EXPECT_EQ(form_->lstFindings.Count(), 0);
+    std::string cell = form_->tblData.Cell(12, 1);
+    std::swap(cell[cell.size() - 2], cell[cell.size() - 3]);
+    ASSERT_NE(cell, form_->tblData.Cell(12, 1));
+    form_->tblData.UserCell(12, 1, cell);
+    ASSERT_EQ(form_->lstFindings.Count(), 1);
+    EXPECT_EQ(form_->lstFindings.Item(0).substr(0, 6), "Row 12");
 }
 
 TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {
