@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "chem/clsProperty.h"
+#include "dialogs/Statements.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
@@ -126,15 +127,9 @@ bool frmData2::AssignAccepted() {
     TakeSelectedRow();
     globals.CurrentProperty = chain_;
     const std::string key = std::exchange(globals.CurrentKey, "RLS1");
-    globals.CurrentUX = std::make_shared<std::vector<clsX>>(set_->UX.begin(), set_->UX.end());
-    globals.DialogAccepted = false;
-    ui::Forms::Current().Get("frmUnc").ShowModal();
+    const bool accepted = EditStatements(set_->UX);
     globals.CurrentKey = key;
-    const bool accepted = globals.DialogAccepted;
-    globals.DialogAccepted = false;
-    const auto stated = std::exchange(globals.CurrentUX, nullptr);
-    if (!accepted || !stated) return false;
-    std::copy_n(stated->begin(), std::min(stated->size(), set_->UX.size()), set_->UX.begin());
+    if (!accepted) return false;
     assigned_ = true;
     AnalyseCurrentProperty();
     FillHeader();
