@@ -1,6 +1,7 @@
 #include "dialogs/TableTurns.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace vexora {
 
@@ -58,6 +59,23 @@ std::vector<Triple> TriplesOf(const Cells& cells) {
     return triples;
 }
 
+bool IsEmptyBehind(const ui::Grid& grid, int column) {
+    for (int row = grid.FixedRows(); row < grid.Rows(); ++row)
+        for (int at = column; at < grid.Columns(); ++at)
+            if (!grid.Cell(row, at).empty()) return false;
+    return true;
+}
+
+/// The columns beside those of the table go when they are empty, and come back with an undo.
+std::function<void(bool)> Narrowing(ui::Grid& grid, const TableColumns& columns) {
+    const int extra = std::max(grid.Columns() - columns.Count(), 0);
+    return [&grid, &columns, extra](bool done) {
+        const bool goes = done && IsEmptyBehind(grid, columns.Count());
+        const int wanted = columns.Count() + (goes ? 0 : extra);
+        if (wanted != grid.Columns()) grid.Resize(grid.Rows(), wanted);
+    };
+}
+
 } // namespace
 
 bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
@@ -67,7 +85,7 @@ bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
     if (second < 0 || cells.size() < 2) return false;
     const std::vector<Triple> triples = TriplesOf(cells);
     if (triples.empty()) return false;
-    return table.Do([&](TableEdit& edit) {
+    const auto writer = [&](TableEdit& edit) {
         const int fixed = table.Table().FixedRows();
         edit.Rows(fixed);
         edit.Rows(fixed + static_cast<int>(triples.size()));
@@ -77,10 +95,11 @@ bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
             edit.Cell(row, second, triple.second);
             edit.Cell(row++, columns.Find(Kind::Value, 0), triple.value);
         }
-    });
+    };
+    return table.Do(writer, Narrowing(table.Table(), columns));
 }
 
-bool MoveBlockBelow(TableUndo& table) {
+bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
     const ui::Grid& grid = table.Table();
     const ui::Grid::Block block = grid.Selection();
     Cells moved;
@@ -93,7 +112,7 @@ bool MoveBlockBelow(TableUndo& table) {
         moved.push_back(std::move(texts));
     }
     if (!any) return false;
-    return table.Do([&](TableEdit& edit) {
+    const auto writer = [&](TableEdit& edit) {
         for (int row = std::max(block.top, grid.FixedRows()); row <= block.bottom; ++row) {
             for (int column = block.left; column <= block.right; ++column)
                 edit.Cell(row, column, {});
@@ -106,7 +125,8 @@ bool MoveBlockBelow(TableUndo& table) {
                 edit.Cell(row, static_cast<int>(column), texts[column]);
             ++row;
         }
-    });
+    };
+    return table.Do(writer, Narrowing(table.Table(), columns));
 }
 
 } // namespace vexora

@@ -115,7 +115,7 @@ void frmData2::FillHeader() {
             tblData.Cell(static_cast<int>(row) + 1, column,
                          cells[row][static_cast<std::size_t>(column)]);
     }
-    undo_.MoveColumns(places);
+    undo_.MoveColumns(places, columns_.Count() - before.Count());
     tblData.Select({1, 0, 1, 0});
 }
 

@@ -260,7 +260,8 @@ void frmData2::Action2D() {
 }
 
 void frmData2::Split() {
-    if (!MoveBlockBelow(undo_)) ui::Say("Select the block that is to stand below the table");
+    if (!MoveBlockBelow(undo_, columns_))
+        ui::Say("Select the block that is to stand below the table");
 }
 
 void frmData2::Clear() {

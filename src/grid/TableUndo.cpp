@@ -93,6 +93,7 @@ void TableUndo::ForgetOldest() {
 void TableUndo::Undo() {
     if (!CanUndo()) return;
     const Step& step = steps_[--done_];
+    if (step.beside) step.beside(false);
     {
         const ui::Grid::Batch batch(grid_);
         if (grid_.Rows() < step.rowsBefore) grid_.Resize(step.rowsBefore, grid_.Columns());
@@ -100,7 +101,6 @@ void TableUndo::Undo() {
             grid_.Cell(change->row, change->column, change->before);
         if (grid_.Rows() != step.rowsBefore) grid_.Resize(step.rowsBefore, grid_.Columns());
     }
-    if (step.beside) step.beside(false);
     Tell(step);
 }
 
@@ -126,9 +126,10 @@ void TableUndo::Tell(const Step& step) {
     }
     const ui::Grid::Block& block = grid_.Selection();
     const int bottom = grid_.Rows() - 1;
-    if (block.bottom > bottom) {
-        const int row = std::min(firstRow_, bottom);
-        grid_.Select({row, block.left, row, block.left});
+    if (block.bottom > bottom || block.right >= grid_.Columns()) {
+        const int row = block.bottom > bottom ? std::min(firstRow_, bottom) : block.top;
+        const int column = std::min(block.left, grid_.Columns() - 1);
+        grid_.Select({row, column, row, column});
     }
     if (OnChange) OnChange();
 }
@@ -138,11 +139,11 @@ void TableUndo::Clear() {
     done_ = 0;
 }
 
-void TableUndo::MoveColumns(const std::vector<int>& columns) {
+void TableUndo::MoveColumns(const std::vector<int>& columns, int behind) {
     for (Step& step : steps_) {
         for (Change& change : step.changes) {
             const auto from = static_cast<std::size_t>(change.column);
-            change.column = from < columns.size() ? columns[from] : -1;
+            change.column = from < columns.size() ? columns[from] : change.column + behind;
         }
         std::erase_if(step.changes, [](const Change& change) { return change.column < 0; });
     }

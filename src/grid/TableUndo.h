@@ -29,7 +29,7 @@ public:
     ui::Grid& Table() const { return grid_; }
     /// Runs the writer; what it changed becomes one step. False when it changed nothing. What goes
     /// along with the step beside the cells is done by `beside`, with true when the step has been
-    /// done or done again and with false when it has been taken back.
+    /// done or done again and with false before it is taken back.
     bool Do(const std::function<void(TableEdit&)>& writer,
             const std::function<void(bool done)>& beside = {});
     bool CanUndo() const { return done_ > 0; }
@@ -40,7 +40,8 @@ public:
     /// Forgets all steps.
     void Clear();
     /// The columns of the grid have moved: place i is now columns[i], or gone when that is -1.
-    void MoveColumns(const std::vector<int>& columns);
+    /// Those behind them have moved by so many places.
+    void MoveColumns(const std::vector<int>& columns, int behind = 0);
     /// Rows from the first changed to the last changed by the last step, done or taken back.
     int FirstRow() const { return firstRow_; }
     int LastRow() const { return lastRow_; }

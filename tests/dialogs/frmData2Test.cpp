@@ -253,11 +253,25 @@ TEST_F(frmData2Test, TableInTwoDimensionsBecomesOneRowForEachCell) {
     Paste("\t101.3\t200\t300\t400\n300\t996.5\t996.6\t\t996.8\n310\t993.3\t993.4\t993.5\t993.6\n");
     EXPECT_EQ(form_->tblData.Columns(), 5);
     form_->mnuAction2D.UserClick();
-    EXPECT_EQ(Cells(), "Var1|Var2|Property|KVO Uncert.|;300|101.3|996.5||;300|200|996.6||;"
-                       "300|400|996.8||;310|101.3|993.3||;310|200|993.4||;310|300|993.5||;"
-                       "310|400|993.6||;||||;");
+    const std::string turned = Cells();
+    EXPECT_EQ(turned, "Var1|Var2|Property|KVO Uncert.;300|101.3|996.5|;300|200|996.6|;"
+                      "300|400|996.8|;310|101.3|993.3|;310|200|993.4|;310|300|993.5|;"
+                      "310|400|993.6|;|||;");
     form_->mnuUndo.UserClick();
     EXPECT_EQ(form_->tblData.Cell(1, 4), "400");
+    form_->mnuRedo.UserClick();
+    EXPECT_EQ(Cells(), turned);
+    // A column more leaves the way back to the printed table open.
+    desktop.OnModal([this](ui::Form& form) {
+        globals.CurrentUX->front().iUnc = true;
+        globals.DialogAccepted = true;
+        form.Close();
+    });
+    form_->cmdAssign.UserClick();
+    EXPECT_EQ(form_->tblData.Columns(), 5);
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 5), "400");
+    EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
 }
 
 TEST_F(frmData2Test, SelectedBlockMovesBelowTheTable) {
@@ -265,8 +279,9 @@ TEST_F(frmData2Test, SelectedBlockMovesBelowTheTable) {
     Paste("275 999.8 450 890.3\n280 999.7 625 567.0");
     form_->tblData.Select({1, 2, 2, 3});
     form_->mnuSplit.UserClick();
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.|;275|999.8||;280|999.7||;450|890.3||;"
-                       "625|567.0||;|||;");
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;450|890.3|;"
+                       "625|567.0|;||;");
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 2, 1, 2}));
 }
 
 TEST_F(frmData2Test, BlockThatIsTooWideIsRefusedWhole) {
