@@ -144,8 +144,8 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
         notices.Add("bracket", row, Quoted(cell) + " holds an uncertainty in brackets");
     else if (mark)
         notices.Add("footnote", row, Quoted(cell) + " ends in a footnote mark");
-    else if (typed != cell)
-        notices.Add("no number", row, Quoted(typed) + " became " + cell + ", which is no number");
+    else if (typed != cell && typed.find_first_not_of("0123456789.,+-eE") == typed.npos)
+        notices.Add("comma", row, Quoted(typed) + " became " + cell + ", which is no number");
     else
         notices.Add("no number", row, Quoted(cell) + " is no number");
 }

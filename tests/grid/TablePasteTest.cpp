@@ -72,6 +72,11 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "row 1: \"996.55a\" ends in a footnote mark (and 1 more)"},
         {"300\t996.55\u2020", "300|996.55\u2020;",
          "row 1: \"996.55\u2020\" ends in a footnote mark"},
+        // The heads that came along hide no other trouble.
+        {"T, K\trho\n300\t1,234.5", "T.|K|rho;300|1.234.5;",
+         "row 1: \"T, K\" was split at its blank; row 1: \"T.\" is no number (and 2 more); "
+         "row 2: \"1,234.5\" became 1.234.5, which is no number; "
+         "row 1: 3 cells where most rows have 2"},
         {"1 2 3\n4 5\n6 7 8", "1|2|3;4|5;6|7|8;", "row 2: 2 cells where most rows have 3"},
         {"T/K p/MPa\n300 0.1", "T/K|p/MPa;300|0.1;", "row 1: \"T/K\" is no number (and 1 more)"},
         {"300\t1.5\u00d710\u22123", "300|1.5\u00d710-3;",
