@@ -26,7 +26,7 @@ double Luminance(unsigned colour) {
 
 /// Contrast of two grounds, WCAG 2.
 double Contrast(unsigned one, unsigned other) {
-    const auto [low, high] = std::minmax(Luminance(one), Luminance(other));
+    const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
     return (high + 0.05) / (low + 0.05);
 }
 
