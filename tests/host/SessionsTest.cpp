@@ -24,6 +24,15 @@ INSTANTIATE_TEST_SUITE_P(All, Sessions, ::testing::ValuesIn(SessionFiles()),
                          [](const auto& session) { return SessionName(session.param); });
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Sessions);
 
+TEST(Examples, LeaveTheRecordsThatLieBesideThem) {
+    const std::string folder = VEXORA_SOURCE_DIR "/examples/water/";
+    const SessionPlay play = PlaySession(folder + "water.vxs");
+    ASSERT_EQ(play.status, 0) << play.errors;
+    std::ostringstream lying;
+    lying << std::ifstream(folder + "2002wagpru1.txt", std::ios::binary).rdbuf();
+    EXPECT_EQ(play.files.at("2002wagpru1.txt"), lying.str());
+}
+
 /// Forms, menu entries and toolbar buttons by the names under which scripts address them.
 std::vector<std::string> NamesToVisit(ui::Forms& forms) {
     std::vector<std::string> names;

@@ -84,6 +84,11 @@ TEST_P(RoundTrips, TheFirstSaveSettlesADocument) {
     EXPECT_EQ(NumbersOf(trip.saved), NumbersOf(trip.document));
 }
 
+TEST_F(RoundTrips, TheExampleIsSettled) {
+    const Trip example = ReadTrip(VEXORA_SOURCE_DIR "/examples/water/2002wagpru1.txt");
+    EXPECT_EQ(LoadAndSave(example.document), example.document);
+}
+
 std::vector<std::string> AllTrips() {
     std::vector<std::string> paths;
     for (const auto& file : std::filesystem::directory_iterator(std::string(VEXORA_SOURCE_DIR) +

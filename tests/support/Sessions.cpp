@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "host/ModelActor.h"
@@ -50,7 +51,14 @@ SessionPlay PlaySession(const std::string& path) {
     const auto named = [&](const std::string& text) {
         return Replace(Replace(text, home, "HOME"), out, "OUT");
     };
-    return {status, named(transcript.str()), named(errors.str())};
+    SessionPlay play{status, named(transcript.str()), named(errors.str()), {}};
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(out)) {
+        if (!entry.is_regular_file()) continue;
+        std::ostringstream content;
+        content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+        play.files[std::filesystem::relative(entry.path(), out).string()] = content.str();
+    }
+    return play;
 }
 
 } // namespace vexora::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ struct SessionPlay {
     int status = 0;
     std::string transcript;
     std::string errors;
+    std::map<std::string, std::string> files; // what it left below ${OUT}, by name
 };
 
 /// Plays a session on the models in a fresh home, on 15 January 2026, with a folder of its own for
