@@ -368,8 +368,9 @@ QWidget* LayoutBuilder::MakeSplit(const ui::Layout& layout) {
     splitter->setChildrenCollapsible(false);
     for (const ui::Layout& part : layout.parts)
         splitter->addWidget(Make(part));
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    for (int i = 0; i < splitter->count(); ++i)
+        splitter->setStretchFactor(i, 1);
+    splitter->setSizes(QList<int>(splitter->count(), 1 << 12)); // shared evenly, whatever the hints
     return splitter;
 }
 

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <QUrl>
 
 #include "qt/FormWindow.h"
@@ -24,6 +25,15 @@ QString DroppedFile(const QDropEvent& event) {
     }
     return {};
 }
+
+/// Labels are long and alike; with air between the rows the eye keeps its line.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.descent());
+    }
+};
 
 } // namespace
 
@@ -56,6 +66,7 @@ TreeWidgetView::TreeWidgetView(FormWindow& window, ui::TreeView& tree)
     own_->setExpandsOnDoubleClick(false); // a double click opens the record
     own_->setAcceptDrops(true);
     own_->setUniformRowHeights(true);
+    own_->setItemDelegate(new RoomyRows(own_));
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 32);
     own_->header()->setStretchLastSection(false);
     own_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

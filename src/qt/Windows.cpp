@@ -123,7 +123,10 @@ void Windows::Remember(const FormWindow& window) const {
 
 void Windows::Restore(FormWindow& window) const {
     if (!Settings) return;
-    window.restoreGeometry(Settings->value("windows/" + window.objectName()).toByteArray());
+    const auto last = Settings->value("windows/" + window.objectName()).toByteArray();
+    // The workbench takes the screen until somebody has given it another size.
+    if (!window.restoreGeometry(last) && !window.parentWidget())
+        window.setWindowState(Qt::WindowMaximized);
 }
 
 } // namespace vexora::qt

@@ -18,8 +18,8 @@ constexpr const char* kCaption = "Vexora - Thermophysical and Thermochemical Dat
 
 frmMain::frmMain() : Form("frmMain", kCaption) {
     Arrangement = ui::Column({Toolbar1, ui::Split(tvwTree, rtfReading), lblStatus});
-    PreferredColumns = 150;
-    PreferredRows = 40;
+    PreferredColumns = 190;
+    PreferredRows = 46;
     HelpContext = 110;
     mnuExportXML.BeginsGroup = true;
     mnuFileExit.BeginsGroup = true;
