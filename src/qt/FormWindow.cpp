@@ -14,9 +14,20 @@
 
 namespace vexora::qt {
 
+namespace {
+
+/// Forms that hold as much as they are given room for, tables and plots, can take the screen.
+Qt::WindowFlags FlagsFor(const ui::Form& form, const QWidget* parent) {
+    if (!parent) return Qt::Window;
+    if (form.PreferredRows == 0) return Qt::Dialog;
+    return Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+           Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
+}
+
+} // namespace
+
 FormWindow::FormWindow(Windows& windows, ui::Form& form, QWidget* parent)
-    : QMainWindow(parent, parent ? Qt::Dialog : Qt::Window), windows_(windows), form_(form),
-      builder_(*this) {
+    : QMainWindow(parent, FlagsFor(form, parent)), windows_(windows), form_(form), builder_(*this) {
     setObjectName(ToQt(form.Name()));
     setWindowTitle(ToQt(form.Caption()));
     setContextMenuPolicy(Qt::NoContextMenu);

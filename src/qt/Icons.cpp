@@ -73,6 +73,11 @@ void Person(Brush& brush) {
     brush.painter.drawPie(5, 18, 22, 22, 0, 180 * 16);
 }
 
+void Sheet(Brush& brush) {
+    brush.Fill(true);
+    brush.painter.drawRoundedRect(1, 1, 30, 30, 4, 4);
+}
+
 void Cross(Brush& brush) {
     brush.painter.drawLine(8, 8, 24, 24);
     brush.painter.drawLine(24, 8, 8, 24);
@@ -114,7 +119,7 @@ struct Known {
     void (*draw)(Brush&);
 };
 
-constexpr std::array<Known, 15> known{{{"start", Triangle},
+constexpr std::array<Known, 16> known{{{"start", Triangle},
                                        {"author", Person},
                                        {"complex", Cage},
                                        {"comp", Ring},
@@ -125,6 +130,7 @@ constexpr std::array<Known, 15> known{{{"start", Triangle},
                                        {"react", Arrows},
                                        {"table", Table},
                                        {"struct", Lattice},
+                                       {"sheet", Sheet},
                                        {"prop", Curve},
                                        {"del", Cross},
                                        {"doc", Page},
@@ -164,6 +170,12 @@ QPixmap Drawn(std::string_view key, const QColor& line, const QColor& accent) {
 }
 
 } // namespace
+
+QIcon ApplicationIcon() {
+    QPixmap pixmap = Drawn("sheet", QColor(0x2F, 0x6F, 0xB5), Qt::white);
+    QPainter(&pixmap).drawPixmap(0, 0, Drawn("prop", QColor(0x1B, 0x1B, 0x1B), QColor(0xD8, 0x6A, 0x00)));
+    return QIcon(pixmap);
+}
 
 QIcon IconFor(std::string_view key, const QPalette& palette) {
     const auto colour = [&palette](QPalette::ColorGroup group, QPalette::ColorRole role) {

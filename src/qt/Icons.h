@@ -11,4 +11,8 @@ namespace vexora::qt {
 /// the button picks the shape, a key without one gets a tile with its first letter.
 QIcon IconFor(std::string_view key, const QPalette& palette);
 
+/// The picture of the workbench for title bars and lists of windows; on a sheet of its own, for
+/// nobody knows what lies behind it.
+QIcon ApplicationIcon();
+
 } // namespace vexora::qt

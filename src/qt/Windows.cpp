@@ -76,7 +76,7 @@ void Windows::Show(ui::Form& form) {
     if (!window) {
         window = new FormWindow(*this, form, ParentFor(form));
         windows_[&form] = window;
-        Restore(*window);
+        Restore(*window, form);
     }
     const auto modality = form.IsModal() ? Qt::ApplicationModal : Qt::NonModal;
     if (window->windowModality() != modality) {
@@ -121,11 +121,11 @@ void Windows::Remember(const FormWindow& window) const {
     Settings->setValue("windows/" + window.objectName(), window.saveGeometry());
 }
 
-void Windows::Restore(FormWindow& window) const {
+void Windows::Restore(FormWindow& window, const ui::Form& form) const {
     if (!Settings) return;
     const auto last = Settings->value("windows/" + window.objectName()).toByteArray();
     // The workbench takes the screen until somebody has given it another size.
-    if (!window.restoreGeometry(last) && !window.parentWidget())
+    if (!window.restoreGeometry(last) && !window.parentWidget() && !form.IsModal())
         window.setWindowState(Qt::WindowMaximized);
 }
 

@@ -52,7 +52,7 @@ private:
     void DropAll();
     QWidget* ParentFor(const ui::Form& form) const;
     void Remember(const FormWindow& window) const;
-    void Restore(FormWindow& window) const;
+    void Restore(FormWindow& window, const ui::Form& form) const;
 
     std::unordered_map<const ui::Form*, QPointer<FormWindow>> windows_;
     std::weak_ptr<Watch> watch_;

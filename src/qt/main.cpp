@@ -10,6 +10,7 @@
 #include "host/PlayMain.h"
 #include "host/WorkbenchProgram.h"
 #include "qt/Application.h"
+#include "qt/Icons.h"
 #include "qt/Look.h"
 #include "qt/QtActor.h"
 #include "qt/RunInteractive.h"
@@ -97,6 +98,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     vexora::qt::TakeLook(request.look);
+    QApplication::setWindowIcon(vexora::qt::ApplicationIcon());
     if (request.plays) return Play(request, arguments[0]);
     const auto places = vexora::host::FindPlaces(request.home, arguments[0]);
     return vexora::qt::RunInteractive(application, places, request.document);

@@ -36,6 +36,11 @@ std::string AuthorsOf(const clsR& source) {
     return text;
 }
 
+/// The citation without the marks that part its name and its volume from the rest.
+std::string PublicationOf(const clsR& source) {
+    return Replace(Replace(source.SSOURCE, "@", ""), "$", "");
+}
+
 /// "7732-18-5" of a registry number.
 std::string WithDashes(const std::string& rn) {
     if (rn.size() < 4) return rn;
@@ -87,7 +92,7 @@ std::string PurityInWords(const PurityStatement& statement) {
 std::string ReadingOf(const clsR& source) {
     ReadingPage page("Source " + source.Source());
     page.Line("Title:", source.TTITLE);
-    page.Line("Published in:", source.SSOURCE);
+    page.Line("Published in:", PublicationOf(source));
     page.Line("Authors:", AuthorsOf(source));
     page.Line("Compounds:", std::to_string(source.recL.Count()));
     if (!source.isNew) page.Item("This source stands in the reference database; it is not edited.");
