@@ -8,6 +8,7 @@
 
 #include "qt/FormWindow.h"
 #include "qt/Icons.h"
+#include "qt/Mnemonics.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
@@ -41,7 +42,7 @@ ButtonView::ButtonView(FormWindow& window, ui::CommandButton& button)
 }
 
 void ButtonView::Draw() {
-    own_->setText(ToQt(model_.Caption()));
+    own_->setText(WithMnemonic(model_));
     own_->setDefault(model_.Owner().DefaultButton == &model_);
 }
 
