@@ -134,7 +134,8 @@ public:
             } catch (const ScriptError&) {
                 throw;
             } catch (const std::runtime_error& error) {
-                throw ScriptError(file_ + ":" + std::to_string(first + 1) + ": error: " + error.what());
+                throw ScriptError(file_ + ":" + std::to_string(first + 1) +
+                                  ": error: " + error.what());
             }
         }
     }

@@ -173,7 +173,8 @@ QPixmap Drawn(std::string_view key, const QColor& line, const QColor& accent) {
 
 QIcon ApplicationIcon() {
     QPixmap pixmap = Drawn("sheet", QColor(0x2F, 0x6F, 0xB5), Qt::white);
-    QPainter(&pixmap).drawPixmap(0, 0, Drawn("prop", QColor(0x1B, 0x1B, 0x1B), QColor(0xD8, 0x6A, 0x00)));
+    QPainter(&pixmap).drawPixmap(0, 0,
+                                 Drawn("prop", QColor(0x1B, 0x1B, 0x1B), QColor(0xD8, 0x6A, 0x00)));
     return QIcon(pixmap);
 }
 

@@ -31,7 +31,8 @@ class RoomyRows : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.descent());
+        return QStyledItemDelegate::sizeHint(option, index) +
+               QSize(0, option.fontMetrics.descent());
     }
 };
 

@@ -16,8 +16,8 @@ struct DocumentFinding {
 
 /// Goes through the open document without asking or changing anything: identity of the source,
 /// compounds that would not be saved, descriptions that cannot be taken apart, codes that the
-/// tables do not hold, numbers that are none, values that are impossible or suspicious. What is said
-/// of the rows of a set names the first of them.
+/// tables do not hold, numbers that are none, values that are impossible or suspicious. What is
+/// said of the rows of a set names the first of them.
 std::vector<DocumentFinding> CheckDocument();
 
 } // namespace vexora

@@ -29,7 +29,9 @@ public:
 
 TEST(Mnemonics, EachButtonGetsALetterOfItsOwn) {
     FormOfButtons form;
-    const auto marked = [](const ui::CommandButton& button) { return FromQt(WithMnemonic(button)); };
+    const auto marked = [](const ui::CommandButton& button) {
+        return FromQt(WithMnemonic(button));
+    };
     EXPECT_EQ(marked(form.Find), "Find");
     EXPECT_EQ(marked(form.Fill), "Fill &in");
     EXPECT_EQ(marked(form.Look), "Look for &an ion");
