@@ -2,8 +2,10 @@
 
 #include "chem/PropertyLimits.h"
 #include "chem/clsProperty.h"
+#include "grid/TablePaste.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 namespace vexora {
 
@@ -11,10 +13,15 @@ namespace {
 
 using Kind = TableColumn::Kind;
 
+bool IsWhole(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
+}
+
 bool IsGoodStatement(const TableColumn& column, const std::string& cell) {
     if (cell.empty()) return true;
     if (column.kind == Kind::KVO) return IsNumeric(cell) || cell == "Error";
-    const bool mayBePercent = column.kind != Kind::Digits && column.kind != Kind::Repetitions;
+    if (column.kind == Kind::Digits) return cell.size() <= 2 && IsWhole(cell);
+    const bool mayBePercent = column.kind != Kind::Repetitions;
     if (mayBePercent && cell.ends_with('%')) return IsNumeric(cell.substr(0, cell.size() - 1));
     return IsNumeric(cell);
 }
@@ -89,6 +96,19 @@ std::vector<Finding> CheckLimits(const ui::Grid& grid, const TableColumns& colum
                             "Value " + NumberText(value) + " " + item->Name +
                                 (valid ? " is suspicious" : " is not valid"),
                             !valid});
+    }
+    return findings;
+}
+
+std::vector<Finding> CheckReading(const ui::Grid& grid, const TableColumns& columns, int row) {
+    std::vector<Finding> findings;
+    for (int column = 0; column < columns.Count(); ++column) {
+        const std::string typed(TrimBlanks(grid.Cell(row, column)));
+        const bool parted = typed.find(' ') != typed.npos;
+        if (!parted && !MayPartThousands(typed)) continue;
+        const std::string read = CleanCell(columns[column], typed);
+        if (read == typed || !IsNumeric(read)) continue;
+        findings.push_back({row, column, "\"" + typed + "\" will be read as " + read, false});
     }
     return findings;
 }

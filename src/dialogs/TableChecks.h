@@ -31,6 +31,8 @@ std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns,
 /// g/mol. Nothing is asked and nothing changes.
 std::vector<Finding> CheckLimits(const ui::Grid& grid, const TableColumns& columns, int row,
                                  const clsProperty& chain, double molarMass);
+/// Cells with a comma or a blank that may be read otherwise than they were meant.
+std::vector<Finding> CheckReading(const ui::Grid& grid, const TableColumns& columns, int row);
 /// The evaluation of the row has failed.
 std::vector<Finding> CheckEvaluation(const ui::Grid& grid, const TableColumns& columns, int row);
 

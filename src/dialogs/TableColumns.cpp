@@ -108,6 +108,11 @@ std::string TableColumns::CellOf(const clsData& row, int at) const {
 void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
     const TableColumn& column = (*this)[at];
     const auto item = static_cast<std::size_t>(column.item);
+    if (column.kind == Kind::Value && !cell.empty() && CellOf(row, at) == cell) {
+        if (Find(Kind::Digits, column.item) < 0)
+            row.Digits[item] = static_cast<short>(row.DigitCount(column.item));
+        return; // what was typed stays behind what its digits let show
+    }
     if (column.kind == Kind::Value) {
         row.Values[item] = cell;
         if (Find(Kind::Digits, column.item) < 0)

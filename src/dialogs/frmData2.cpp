@@ -55,16 +55,15 @@ void frmData2::WireEvents() {
         ToEditMode(tblData.Cell(block.top, block.left));
     };
     tblData.OnEdit = [this](int row, int column, const std::string& text) {
-        undo_.Do([&](TableEdit& edit) { edit.Cell(row, column, text); });
+        Enter(column, column,
+              [&] { undo_.Do([&](TableEdit& edit) { edit.Cell(row, column, text); }); });
     };
     tblData.OnPaste = [this](const std::string& text) { Paste(text); };
     txtCell.OnKey = [this](ui::Key& key) { CellKeys(key); };
     txtCell.OnLostFocus = [this] { ToStandardMode(); };
     undo_.OnChange = [this] { TableChanged(); };
-    undo_.OnCell = [this](TableEdit& edit, int row, int column) {
-        // A failed evaluation was that of the old values.
-        const int figure = columns_.Find(TableColumn::Kind::KVO);
-        if (column != figure && tblData.Cell(row, figure) == "Error") edit.Cell(row, figure, {});
+    undo_.OnCell = [this](TableEdit& edit, int row, int column, const std::string& before) {
+        FollowCell(edit, row, column, before);
     };
     lstFindings.OnClick = [this] {
         const int index = lstFindings.Index();
@@ -100,10 +99,12 @@ void frmData2::WireMenus() {
     on(mnuCopy, copy);
     on(mnuCut, [this, copy] {
         copy();
-        EmptySelection(undo_);
+        EmptyCells();
     });
     on(mnuPaste, [this] { Paste(ui::TheDesktop().ClipboardText()); });
     on(mnuPasteShown, [this] { PasteShown(); });
+    on(mnuInsertRows, [this] { InsertRows(); });
+    on(mnuRemoveRows, [this] { RemoveRows(); });
     on(mnuNextFinding, [this] { StepFinding(1); });
     on(mnuLastFinding, [this] { StepFinding(-1); });
     on(mnuAction2D, [this] { Action2D(); });
@@ -133,6 +134,17 @@ void frmData2::Load() {
 
 void frmData2::Activate() {
     tblData.SetFocus();
+}
+
+bool frmData2::IsChanged() const {
+    return set_ && (TableText() != firstText_ || set_->UX != firstStatements_);
+}
+
+/// Work of an hour is not thrown away by a slip of the finger.
+bool frmData2::QueryUnload() {
+    if (stored_) return true;
+    ToStandardMode();
+    return !IsChanged() || ui::AskYesNo("The table has been changed\nDiscard the changes?");
 }
 
 /// What the statements became belongs to a table that was accepted.

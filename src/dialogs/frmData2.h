@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "dialogs/TableChecks.h"
@@ -38,8 +41,10 @@ public:
     ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
     ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
                                "Ctrl+Shift+V"};
+    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
+    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
     ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "P&revious finding", &mnuEdit, "Shift+F8"};
+    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
@@ -65,6 +70,7 @@ public:
 
     void Load() override;
     void Activate() override;
+    bool QueryUnload() override;
     void Unload() override;
 
     /// The rows down to the last one that holds something, cells parted by tabs.
@@ -81,6 +87,7 @@ private:
     void AnalyseCurrentProperty();
     void FillHeader();
     void FillRows();
+    bool IsChanged() const;
     std::string CaptionText() const;
     std::string ColumnsText() const;
     std::shared_ptr<clsTwo> Set() const { return set_; }
@@ -90,13 +97,22 @@ private:
     void ToStandardMode();
     void GridKeys(ui::Key& key);
     void CellKeys(ui::Key& key);
+    void LeaveCell(const ui::Key& key);
+    void PasteInCell();
     void MoveTo(int row, int column);
     bool MoveAlong(int row, int column, bool backwards);
+    void Enter(int firstColumn, int lastColumn, const std::function<void()>& enters);
+    void FollowCell(TableEdit& edit, int row, int column, const std::string& before);
+
+    // Whole blocks (frmData2_blocks.cpp).
     void Paste(const std::string& text);
     bool FillSelection(const PastedTable& block);
     void PasteShown();
-    bool PutIn(const std::string& text, int row, int column);
-    bool MakesRoomFor(const std::string& text, std::size_t columns, int row, int column);
+    void PutIn(const PastedTable& block, int row, int column);
+    bool MakesRoomFor(const PastedTable& block, int row, int column, bool isEmpty);
+    void EmptyCells();
+    void InsertRows();
+    void RemoveRows();
     void OpenFile();
     void SaveFile();
     void Action2D();
@@ -131,10 +147,14 @@ private:
     bool Refuse(const Finding& finding, const std::string& title = {});
     void Assign();
     bool AssignAccepted();
+    bool MayLoseColumns() const;
     void TakeSelectedRow();
     void Save();
     void Store();
     std::vector<const clsData*> OldRows() const;
+    const clsData* OldRowHere(int row) const;
+    std::string VariablesOf(const clsData& row) const;
+    std::string VariablesOf(int row) const;
     std::shared_ptr<clsData> NewRow(int row, const clsData* old) const;
 
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
@@ -146,6 +166,8 @@ private:
     std::shared_ptr<clsTwo> set_;
     std::shared_ptr<clsTwo> adjusted_;           // the set as brought to system units, or null
     std::array<clsX, 5> statementsBefore_;       // restored when the table is cancelled
+    std::array<clsX, 5> firstStatements_;        // as first shown, with their names
+    std::string firstText_;                      // of the table, to tell whether it has changed
     std::vector<std::shared_ptr<clsData>> rows_; // as they stood at the beginning
     std::shared_ptr<clsProperty> chain_;
     double molarMass_ = 0;  // [g/mol]
@@ -154,6 +176,7 @@ private:
     bool stored_ = false;
     TableColumns columns_;
     TableUndo undo_{tblData};
+    std::optional<std::pair<int, int>> entered_;   // columns that are being typed or pasted into
     std::map<int, std::vector<Finding>> findings_; // by row
     std::vector<Finding> listed_;                  // as the list shows them
     std::string told_;                             // what the last paste had to guess

@@ -1,7 +1,7 @@
 #include "dialogs/frmData2.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
 #include <utility>
 
 #include "chem/clsProperty.h"
@@ -127,13 +127,33 @@ bool frmData2::AssignAccepted() {
     TakeSelectedRow();
     globals.CurrentProperty = chain_;
     const std::string key = std::exchange(globals.CurrentKey, "RLS1");
+    const std::array<clsX, 5> before = set_->UX;
     const bool accepted = EditStatements(set_->UX);
     globals.CurrentKey = key;
     if (!accepted) return false;
+    if (!MayLoseColumns()) {
+        set_->UX = before;
+        return false;
+    }
     assigned_ = true;
     AnalyseCurrentProperty();
     FillHeader();
     FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+    return true;
+}
+
+/// Entries of rows whose column goes with its statement are not thrown away unasked.
+bool frmData2::MayLoseColumns() const {
+    const TableColumns next(*set_, Globals().IncludeDigits);
+    const std::vector<int> places = columns_.PlacesIn(next);
+    for (int column = 0; column < columns_.Count(); ++column) {
+        if (places[static_cast<std::size_t>(column)] >= 0) continue;
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+            if (tblData.Cell(row, column).empty()) continue;
+            return ui::AskYesNo("The entries in the column " + columns_[column].head +
+                                " go with its statement\nGo on?");
+        }
+    }
     return true;
 }
 
@@ -176,34 +196,54 @@ void frmData2::Store() {
     globals.DialogAccepted = true;
 }
 
-/// For each row of the table the old row whose unseen parts it keeps: the one with the same
-/// variables, else the one of the same place when no other has taken it; null for a new row.
+/// For each row of the table the old row whose unseen parts it keeps: the one that stood here, else
+/// the one with the same variables when they have changed; null for a new row.
 std::vector<const clsData*> frmData2::OldRows() const {
-    std::multimap<std::string, const clsData*> byVariables;
-    for (const auto& row : rows_) {
-        std::string identity;
-        for (int n = 1; n <= set_->nVar; ++n)
-            identity += columns_.CellOf(*row, columns_.Find(Kind::Value, n)) + "\n";
-        byVariables.emplace(identity, row.get());
-    }
     std::vector<const clsData*> sources(static_cast<std::size_t>(tblData.Rows()));
-    std::set<const clsData*> taken;
-    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
-        std::string identity;
-        for (int n = 1; n <= set_->nVar; ++n)
-            identity += tblData.Cell(row, columns_.Find(Kind::Value, n)) + "\n";
-        const auto old = byVariables.find(identity);
-        if (old == byVariables.end()) continue;
-        sources[static_cast<std::size_t>(row)] = old->second;
-        taken.insert(old->second);
-        byVariables.erase(old);
-    }
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const std::size_t row = i + static_cast<std::size_t>(tblData.FixedRows());
-        if (row < sources.size() && !sources[row] && !taken.contains(rows_[i].get()))
-            sources[row] = rows_[i].get();
-    }
+    std::multimap<std::string, const clsData*> left; // by their variables
+    for (const auto& row : rows_)
+        left.emplace(VariablesOf(*row), row.get());
+    const auto take = [&](int row, const std::string& variables, const clsData* wanted) {
+        auto [at, end] = left.equal_range(variables);
+        while (at != end && wanted && at->second != wanted)
+            ++at;
+        if (at == end) return;
+        sources[static_cast<std::size_t>(row)] = at->second;
+        left.erase(at);
+    };
+    const auto eachWithoutOne = [&](const auto& action) {
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
+            if (!sources[static_cast<std::size_t>(row)]) action(row);
+    };
+    eachWithoutOne([&](int row) {
+        if (const clsData* here = OldRowHere(row)) take(row, VariablesOf(row), here);
+    });
+    eachWithoutOne([&](int row) { take(row, VariablesOf(row), nullptr); });
+    eachWithoutOne([&](int row) {
+        if (const clsData* here = OldRowHere(row)) take(row, VariablesOf(*here), here);
+    });
     return sources;
+}
+
+/// The row as it stood at the beginning, wherever it has been moved; null for a new one.
+const clsData* frmData2::OldRowHere(int row) const {
+    const int first = undo_.FirstPlaceOf(row) - tblData.FixedRows();
+    const bool old = first >= 0 && first < static_cast<int>(rows_.size());
+    return old ? rows_[static_cast<std::size_t>(first)].get() : nullptr;
+}
+
+std::string frmData2::VariablesOf(const clsData& row) const {
+    std::string text;
+    for (int n = 1; n <= set_->nVar; ++n)
+        text += columns_.CellOf(row, columns_.Find(Kind::Value, n)) + "\n";
+    return text;
+}
+
+std::string frmData2::VariablesOf(int row) const {
+    std::string text;
+    for (int n = 1; n <= set_->nVar; ++n)
+        text += tblData.Cell(row, columns_.Find(Kind::Value, n)) + "\n";
+    return text;
 }
 
 std::shared_ptr<clsData> frmData2::NewRow(int row, const clsData* old) const {

@@ -94,6 +94,7 @@ std::string frmData2::ColumnsText() const {
 /// Lays the columns out anew; cells keep their texts, and the history goes with them.
 void frmData2::FillHeader() {
     const TableColumns before = columns_;
+    const ui::Grid::Block selected = tblData.Selection();
     columns_ = TableColumns(*set_, Globals().IncludeDigits);
     if (before.All() == columns_.All()) return;
     const ui::Grid::Batch batch(tblData);
@@ -116,7 +117,10 @@ void frmData2::FillHeader() {
                          cells[row][static_cast<std::size_t>(column)]);
     }
     undo_.MoveColumns(places, columns_.Count() - before.Count());
-    tblData.Select({1, 0, 1, 0});
+    const bool stays = selected.left < before.Count() && selected.top < tblData.Rows() &&
+                       selected.top >= tblData.FixedRows();
+    const int column = stays ? places[static_cast<std::size_t>(selected.left)] : -1;
+    MoveTo(stays ? selected.top : tblData.FixedRows(), std::max(column, 0));
 }
 
 void frmData2::FillRows() {
@@ -129,6 +133,8 @@ void frmData2::FillRows() {
         }
     }
     undo_.Clear();
+    firstText_ = TableText();
+    firstStatements_ = set_->UX;
     FindAgain(1, tblData.Rows() - 1);
     ShowNotice(told_);
 }

@@ -31,8 +31,9 @@ void frmData2::FindAgain(int firstRow, int lastRow) {
     if (!set_) return;
     for (int row = std::max(firstRow, tblData.FixedRows()); row <= lastRow; ++row) {
         std::vector<Finding> found = CheckRow(tblData, columns_, row);
-        for (const auto& more : {CheckLimits(tblData, columns_, row, *chain_, molarMass_),
-                                 CheckEvaluation(tblData, columns_, row)})
+        for (const auto& more :
+             {CheckLimits(tblData, columns_, row, *chain_, molarMass_),
+              CheckReading(tblData, columns_, row), CheckEvaluation(tblData, columns_, row)})
             found.insert(found.end(), more.begin(), more.end());
         if (found.empty())
             findings_.erase(row);
@@ -91,7 +92,7 @@ void frmData2::StepFinding(int step) {
 }
 
 void frmData2::GoTo(const Finding& finding) {
-    tblData.Select({finding.row, finding.column, finding.row, finding.column});
+    tblData.Show({finding.row, finding.column, finding.row, finding.column});
     tblData.SetFocus();
     const auto at = std::find(listed_.begin(), listed_.end(), finding);
     if (at == listed_.end()) return;

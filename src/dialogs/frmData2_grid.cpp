@@ -2,22 +2,14 @@
 
 #include <algorithm>
 
-#include "dialogs/TableTurns.h"
-#include "dialogs/frmPasteView.h"
-#include "globals/KVOGlobal.h"
-#include "globals/PlotTable.h"
 #include "grid/GridKey.h"
-#include "grid/TablePaste.h"
-#include "records/clsTwo.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
-#include "ui/Forms.h"
 
 namespace vexora {
 
 namespace {
-
-constexpr int plottedRows = static_cast<int>(PlotTable::MostPoints);
 
 bool StartsNumber(char32_t character) {
     return (character >= U'0' && character <= U'9') || character == U'.' || character == U'+' ||
@@ -26,13 +18,6 @@ bool StartsNumber(char32_t character) {
 
 bool IsArrow(const std::string& name) {
     return name == "Up" || name == "Down" || name == "Left" || name == "Right";
-}
-
-std::string Join(const std::vector<std::string>& notices) {
-    std::string text;
-    for (const std::string& notice : notices)
-        text += (text.empty() ? "" : "\n") + notice;
-    return text;
 }
 
 } // namespace
@@ -58,20 +43,26 @@ void frmData2::ToStandardMode() {
 }
 
 void frmData2::GridKeys(ui::Key& key) {
-    GridKey(undo_, key);
+    const ui::Grid::Block block = tblData.Selection();
+    const std::string name = key.FullName();
+    const bool scales = name.starts_with("Num"); // keeps the digits
+    if (scales)
+        GridKey(undo_, key);
+    else
+        Enter(block.left, block.right, [&] { GridKey(undo_, key); });
     if (key.swallowed) return;
-    const ui::Grid::Block& block = tblData.Selection();
-    if (key.FullName() == "Enter" || key.FullName() == "F2") {
+    if (name == "Enter" || name == "F2") {
         key.swallowed = true;
         ToEditMode(tblData.Cell(block.top, block.left));
-    } else if (key.name == "Escape") {
-        key.swallowed = undo_.CanUndo(); // a whole table is not given up by a slip of the finger
-    } else if (key.FullName() == "Backspace") {
+    } else if (name == "Backspace") {
         key.swallowed = true;
-        EmptySelection(undo_);
-    } else if (key.FullName() == "Ctrl+Y") {
+        EmptyCells();
+    } else if (name == "Ctrl+Y") {
         key.swallowed = true;
         mnuRedo.UserClick();
+    } else if (name == "Ctrl+Shift++" || name == "Ctrl+=") { // where "+" stands on other keyboards
+        key.swallowed = true;
+        mnuInsertRows.UserClick();
     } else if (key.name == "Tab" && !key.control) {
         key.swallowed = MoveAlong(block.top, block.left, key.shift);
     } else if (key.character != 0) {
@@ -84,30 +75,55 @@ void frmData2::GridKeys(ui::Key& key) {
     }
 }
 
-/// Enter, Tab and the arrows leave the cell for its neighbour, Escape leaves it as it was.
+/// What is being typed is one step: an undo takes it back as a whole, as it does in the table.
 void frmData2::CellKeys(ui::Key& key) {
     const std::string name = key.FullName();
+    key.swallowed = true;
     if (name == "Escape") {
-        key.swallowed = true;
         txtCell.Visible(false);
         tblData.SetFocus();
-        return;
+    } else if (name == "Ctrl+Z") {
+        mnuUndo.UserClick();
+    } else if (name == "Ctrl+Shift+Z" || name == "Ctrl+Y") {
+        mnuRedo.UserClick();
+    } else if (name == "Ctrl+V") {
+        PasteInCell();
+    } else if (name == "Tab" || name == "Shift+Tab" || name == "Enter" || name == "Shift+Enter" ||
+               IsArrow(name) || name == "PageUp" || name == "PageDown") {
+        LeaveCell(key);
+    } else {
+        key.swallowed = false;
     }
-    const bool along = name == "Tab" || name == "Shift+Tab";
-    if (!along && name != "Enter" && name != "Shift+Enter" && !IsArrow(name)) return;
-    key.swallowed = true;
+}
+
+/// Enter, Tab and the arrows leave the cell for its neighbour, a page key for the next page.
+void frmData2::LeaveCell(const ui::Key& key) {
     const int row = editRow_;
     const int column = editColumn_;
     ToStandardMode();
-    if (along) return static_cast<void>(MoveAlong(row, column, key.shift));
-    const bool up = name == "Up" || name == "Shift+Enter";
-    const bool down = name == "Down" || name == "Enter";
-    MoveTo(row + (up     ? -1
-                  : down ? 1
-                         : 0),
-           column + (name == "Left"    ? -1
-                     : name == "Right" ? 1
-                                       : 0));
+    if (key.name == "Tab") return static_cast<void>(MoveAlong(row, column, key.shift));
+    const bool up = key.name == "Up" || (key.name == "Enter" && key.shift);
+    const bool down = key.name == "Down" || (key.name == "Enter" && !key.shift);
+    const int page = key.name == "PageUp"     ? -tblData.PageRows
+                     : key.name == "PageDown" ? tblData.PageRows
+                                              : 0;
+    MoveTo(row + page +
+               (up     ? -1
+                : down ? 1
+                       : 0),
+           column + (key.name == "Left"    ? -1
+                     : key.name == "Right" ? 1
+                                           : 0));
+}
+
+/// A block of several cells goes into the table, a single text to where the caret stands.
+void frmData2::PasteInCell() {
+    std::string text = ui::TheDesktop().ClipboardText();
+    while (text.ends_with('\n') || text.ends_with('\r'))
+        text.pop_back();
+    if (text.find_first_of("\t\r\n") == text.npos) return txtCell.UserPaste(text);
+    ToStandardMode();
+    Paste(text);
 }
 
 /// To the next cell that is typed into, from row to row; the figures of the evaluation are passed
@@ -133,141 +149,28 @@ void frmData2::MoveTo(int row, int column) {
     tblData.Select({row, column, row, column});
 }
 
-void frmData2::Paste(const std::string& text) {
-    const ui::Grid::Block block = tblData.Selection();
-    if (FillSelection(CleanTable(text))) return;
-    PutIn(text, std::max(block.top, tblData.FixedRows()), block.left);
+/// Counts of digits that were those of the text follow a text that is entered anew; those that a
+/// person has stated otherwise, or enters along with it, stay.
+void frmData2::Enter(int firstColumn, int lastColumn, const std::function<void()>& enters) {
+    entered_ = {firstColumn, lastColumn};
+    enters();
+    entered_.reset();
 }
 
-/// A single value goes into every cell of a larger selection.
-bool frmData2::FillSelection(const PastedTable& block) {
-    const ui::Grid::Block cells = tblData.Selection();
-    const bool several = cells.top < cells.bottom || cells.left < cells.right;
-    if (!several || block.rows.size() != 1 || block.rows.front().size() != 1) return false;
-    undo_.Do([&](TableEdit& edit) {
-        for (int row = std::max(cells.top, tblData.FixedRows()); row <= cells.bottom; ++row) {
-            for (int column = cells.left; column <= cells.right; ++column)
-                edit.Cell(row, column, block.rows.front().front());
-        }
-    });
-    ShowNotice(Join(block.notices));
-    return true;
-}
-
-/// The block is looked at before it goes in.
-void frmData2::PasteShown() {
-    const std::string text = ui::TheDesktop().ClipboardText();
-    auto& view = ui::Forms::Current().Get<frmPasteView>("frmPasteView");
-    view.Fill(CleanTable(text));
-    view.ShowModal();
-    const bool accepted = view.IsAccepted();
-    view.Close();
-    if (accepted) Paste(text);
-}
-
-bool frmData2::PutIn(const std::string& text, int row, int column) {
-    const PastedTable block = CleanTable(text);
-    if (!MakesRoomFor(text, block.Columns(), row, column)) return false;
-    PasteTable(undo_, block, row, column);
-    ShowNotice(Join(block.notices));
-    return true;
-}
-
-/// What the last paste had to guess, and that not all rows find room in a plot.
-void frmData2::ShowNotice(std::string told) {
-    told_ = std::move(told);
-    const int rows = LastRow() - tblData.FixedRows() + 1;
-    std::string text = told_;
-    if (rows > plottedRows)
-        text += (text.empty() ? "" : "\n") + std::string("The table holds ") +
-                std::to_string(rows) + " rows; a plot shows the first " +
-                std::to_string(plottedRows);
-    lblNotice.Caption(text);
-}
-
-/// A block that is too wide is refused, but for a table that is to be turned: one in two dimensions
-/// or one of several parts side by side comes to an empty table, which grows for it.
-bool frmData2::MakesRoomFor(const std::string& text, std::size_t columns, int row, int column) {
-    const int wide = column + static_cast<int>(columns);
-    if (wide <= tblData.Columns()) return true;
-    const int values = set_ ? set_->nVar + 1 : 2;
-    const bool atStart = row == tblData.FixedRows() && column == 0;
-    const bool turns = values == 3 || static_cast<int>(columns) % values == 0;
-    if (atStart && turns && LastRow() < tblData.FixedRows() && text.find('\n') != text.npos) {
-        tblData.Resize(tblData.Rows(), wide);
-        return true;
-    }
-    ui::Say("The block has " + std::to_string(columns) + " columns, the table has room for " +
-            std::to_string(tblData.Columns() - column) + "\nNothing was pasted");
-    return false;
-}
-
-void frmData2::OpenFile() {
-    const auto path = ui::TheDesktop().Choose({false, {}, {}, "Text tables (*.txt)"});
-    if (!path) return;
-    std::string error;
-    const auto text = ui::TheDesktop().Files().Read(*path, error);
-    if (!text) {
-        ui::Say(error);
-        return;
-    }
-    PutIn(ToUtf8(*text), tblData.FixedRows(), 0);
-}
-
-void frmData2::SaveFile() {
-    const auto path = ui::TheDesktop().Choose({true, {}, "table.txt", "Text tables (*.txt)"});
-    if (!path) return;
-    ui::FileSystem& files = ui::TheDesktop().Files();
-    std::string temporary;
-    std::string error;
-    if (auto file = files.CreateBeside(*path, temporary, error)) {
-        error = file->Write(TableText());
-        if (error.empty()) error = file->Flush();
-        const std::string closing = file->Close();
-        if (error.empty()) error = closing;
-        if (error.empty()) error = files.Rename(temporary, *path);
-        if (!error.empty()) files.Remove(temporary);
-    }
-    if (!error.empty()) ui::Say(error);
-}
-
-std::string frmData2::TableText() const {
-    std::string text;
-    for (int row = tblData.FixedRows(); row <= LastRow(); ++row) {
-        for (int column = 0; column < tblData.Columns(); ++column)
-            text += (column > 0 ? "\t" : "") + tblData.Cell(row, column);
-        text += "\n";
-    }
-    return text;
-}
-
-/// The last row that holds something; the one in front of the first when there is none.
-int frmData2::LastRow() const {
-    int row = tblData.Rows() - 1;
-    while (row >= tblData.FixedRows() && IsEmptyRow(tblData, columns_, row) &&
-           tblData.Cell(row, columns_.Find(TableColumn::Kind::KVO)).empty())
-        --row;
-    return row;
-}
-
-void frmData2::Action2D() {
-    if (!set_ || set_->nVar != 2)
-        ui::Say("Only a set with two variables has a table in two dimensions");
-    else if (TurnTwoDimensional(undo_, columns_))
-        ShowNotice("");
-    else
-        ui::Say("The table has no values below its top row and behind its left column");
-}
-
-void frmData2::Split() {
-    if (!MoveBlockBelow(undo_, columns_))
-        ui::Say("Select the block that is to stand below the table");
-}
-
-void frmData2::Clear() {
-    undo_.Do([this](TableEdit& edit) { edit.Rows(tblData.FixedRows()); });
-    ShowNotice("");
-    tblData.SetFocus(); // what comes next is typed or pasted there
+void frmData2::FollowCell(TableEdit& edit, int row, int column, const std::string& before) {
+    using Kind = TableColumn::Kind;
+    // A failed evaluation was that of the old values.
+    const int figure = columns_.Find(Kind::KVO);
+    if (column != figure && tblData.Cell(row, figure) == "Error") edit.Cell(row, figure, {});
+    if (!entered_ || column >= columns_.Count() || columns_[column].kind != Kind::Value) return;
+    const int digits = columns_.Find(Kind::Digits, columns_[column].item);
+    if (digits < 0 || (digits >= entered_->first && digits <= entered_->second)) return;
+    const auto countOf = [](const std::string& text) {
+        const int count = SignificantDigits(NormalizeNumber(text));
+        return count > 0 ? std::to_string(count) : std::string();
+    };
+    if (tblData.Cell(row, digits) == countOf(before))
+        edit.Cell(row, digits, before.empty() ? std::string() : countOf(tblData.Cell(row, column)));
 }
 
 } // namespace vexora

@@ -26,11 +26,13 @@ std::string Quoted(std::string_view text) {
 /// The kinds of trouble, each told once with its first place, in the order of their coming up.
 class Notices {
 public:
+    explicit Notices(int firstRow) : firstRow_(firstRow) {}
     void Add(const std::string& kind, std::size_t row, const std::string& text) {
         const auto known = counts_.find(kind);
         if (known == counts_.end()) {
             order_.push_back(kind);
-            firsts_.push_back("row " + std::to_string(row + 1) + ": " + text);
+            firsts_.push_back("row " + std::to_string(firstRow_ + static_cast<int>(row)) + ": " +
+                              text);
         }
         ++counts_[kind];
     }
@@ -52,6 +54,7 @@ public:
     }
 
 private:
+    int firstRow_;
     std::map<std::string, int> counts_;
     std::vector<std::string> order_;
     std::vector<std::string> firsts_;
@@ -117,13 +120,22 @@ void NoteCommas(std::string_view cell, std::size_t row, Decimals& decimals, Noti
     }
     const std::string point = Replace(cell, ",", ".");
     if (!IsNumeric(point)) return; // told as no number
-    const std::string_view before = cell.substr(0, comma);
-    const std::size_t sign = before.starts_with('-') || before.starts_with('+') ? 1 : 0;
-    const std::string_view whole = before.substr(sign);
-    const bool thousands = IsDigits(whole) && whole.size() <= 3 && whole.front() != '0' &&
-                           cell.size() - comma == 4 && IsDigits(cell.substr(comma + 1));
+    const bool thousands = MayPartThousands(cell);
     if (thousands) notices.Add("thousands", row, Quoted(cell) + " became " + point);
     decimals.comma = decimals.comma || !thousands;
+}
+
+constexpr std::string_view plusMinus = "\u00b1";
+
+/// What tables print where there is no value, or in a column of its own between two.
+bool StandsForNothing(std::string_view cell) {
+    if (cell.empty() || cell == plusMinus) return !cell.empty();
+    for (std::size_t at = 0; at < cell.size();) {
+        const char32_t c = NextCodePoint(cell, at);
+        const bool dash = c == U'-' || (c >= 0x2010 && c <= 0x2015) || c == 0x2212;
+        if (!dash && c != U'.' && c != 0x2026 && c != 0xB7 && c != 0x22EF) return false;
+    }
+    return true;
 }
 
 /// Why a cell is no number, for the troubles that printed tables are known for.
@@ -150,18 +162,46 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
         notices.Add("no number", row, Quoted(cell) + " is no number");
 }
 
+/// A dash in front of a number may be its sign.
+void NoteNothing(const std::string& piece, const std::string& next, std::size_t row,
+                 Notices& notices) {
+    const bool sign = CodePointCount(piece) == 1 && piece != "." && !next.empty() &&
+                      (IsDigit(next.front()) || next.front() == '.');
+    if (sign)
+        notices.Add("loose sign", row,
+                    Quoted(piece + " " + next) + " was read as an empty cell and a number");
+    else
+        notices.Add("no value", row, Quoted(piece) + " was read as an empty cell");
+}
+
+/// The pieces of a cell between its blanks; a value and what stands behind "±" are two.
+std::vector<std::string> PiecesOf(const std::string& part, std::size_t row, Notices& notices) {
+    if (part == plusMinus) return {part};
+    std::vector<std::string> pieces;
+    const bool parted = part.find(plusMinus) != part.npos;
+    if (parted) notices.Add("plus-minus", row, Quoted(part) + " was parted at its \u00b1");
+    for (const std::string& piece : Split(parted ? Replace(part, plusMinus, " ") : part, ' ')) {
+        if (!piece.empty() || part.empty()) pieces.push_back(piece);
+    }
+    return pieces;
+}
+
 /// One line, its blanks and tabs cleaned: the cells.
 std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size_t row,
                                  Decimals& decimals, Notices& notices) {
     std::vector<std::string> cells;
     for (const std::string& part : Split(WithoutEdges(line), '\t')) {
-        std::vector<std::string> pieces;
-        for (const std::string& piece : Split(part, ' ')) {
-            if (!piece.empty() || part.empty()) pieces.push_back(piece);
-        }
-        if (tabbed && pieces.size() > 1)
+        const std::vector<std::string> pieces = PiecesOf(part, row, notices);
+        const bool parted = part.find(plusMinus) != part.npos;
+        if (tabbed && pieces.size() > (parted ? 2u : 1u))
             notices.Add("inner blank", row, Quoted(part) + " was split at its blank");
-        for (const std::string& piece : pieces) {
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            const std::string& piece = pieces[i];
+            if (StandsForNothing(piece)) {
+                NoteNothing(piece, i + 1 < pieces.size() ? pieces[i + 1] : "", row, notices);
+                cells.emplace_back();
+                continue;
+            }
             NoteCommas(piece, row, decimals, notices);
             cells.push_back(Replace(piece, ",", "."));
             NoteNoNumber(cells.back(), piece, row, notices);
@@ -219,6 +259,15 @@ std::vector<std::string> LinesOf(std::string_view text) {
 
 } // namespace
 
+bool MayPartThousands(std::string_view cell) {
+    const std::size_t comma = cell.find(',');
+    if (comma == cell.npos) return false;
+    const std::size_t sign = cell.starts_with('-') || cell.starts_with('+') ? 1 : 0;
+    const std::string_view whole = cell.substr(sign, comma - sign);
+    return IsDigits(whole) && whole.size() <= 3 && whole.front() != '0' &&
+           cell.size() - comma == 4 && IsDigits(cell.substr(comma + 1));
+}
+
 std::size_t PastedTable::Columns() const {
     std::size_t columns = 0;
     for (const auto& row : rows)
@@ -226,9 +275,9 @@ std::size_t PastedTable::Columns() const {
     return columns;
 }
 
-PastedTable CleanTable(std::string_view text) {
+PastedTable CleanTable(std::string_view text, int firstRow) {
     PastedTable table;
-    Notices notices;
+    Notices notices(firstRow);
     std::vector<std::string> lines = LinesOf(text);
     const bool tabbed = text.find('\t') != text.npos;
     Decimals decimals;
@@ -242,16 +291,19 @@ PastedTable CleanTable(std::string_view text) {
     return table;
 }
 
-bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column) {
+bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column, bool replaces) {
     const ui::Grid& grid = table.Table();
-    if (column + static_cast<int>(block.Columns()) > grid.Columns()) return false;
+    const std::size_t columns = block.Columns();
+    if (column + static_cast<int>(columns) > grid.Columns()) return false;
     const int rows = static_cast<int>(block.rows.size());
     table.Do([&](TableEdit& edit) {
+        if (replaces) edit.Rows(grid.FixedRows());
         edit.Rows(std::max(grid.Rows(), row + rows + 1));
         for (int i = 0; i < rows; ++i) {
             const auto& cells = block.rows[static_cast<std::size_t>(i)];
-            for (std::size_t j = 0; j < cells.size(); ++j)
-                edit.Cell(row + i, column + static_cast<int>(j), cells[j]);
+            for (std::size_t j = 0; j < columns; ++j)
+                edit.Cell(row + i, column + static_cast<int>(j),
+                          j < cells.size() ? cells[j] : std::string());
         }
     });
     return true;

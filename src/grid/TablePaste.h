@@ -9,8 +9,9 @@
 namespace vexora {
 
 /// A text table cleaned for a grid: "," is a decimal point, runs of blanks and tabs part columns,
-/// line ends part rows. The notices name what the cleaning had to guess or could not mend, one for
-/// each kind of trouble with its first place; a plain table has none.
+/// line ends part rows; a dash for no value becomes an empty cell and a plus-minus sign parts a
+/// value from its uncertainty. The notices name what the cleaning had to guess or could not mend,
+/// one for each kind of trouble with its first place; a plain table has none.
 struct PastedTable {
     std::vector<std::vector<std::string>> rows;
     std::vector<std::string> notices;
@@ -18,10 +19,17 @@ struct PastedTable {
     std::size_t Columns() const;
 };
 
-PastedTable CleanTable(std::string_view text);
+/// The notices count rows from firstRow on, the one where the block is to stand.
+PastedTable CleanTable(std::string_view text, int firstRow = 1);
 
-/// Writes the block from this cell on, the grid growing downward as it needs to; false, and nothing
-/// is written, when it has more columns than the grid has from there on.
-bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column);
+/// A number whose comma may part thousands as well as decimals, such as "1,234".
+bool MayPartThousands(std::string_view cell);
+
+/// Writes the block from this cell on, the grid growing downward as it needs to; cells that a short
+/// line does not fill become empty, so that nothing old stands among the new. False, and nothing is
+/// written, when it has more columns than the grid has from there on.
+/// When it replaces, all that stood in the table goes first, in the same step.
+bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
+                bool replaces = false);
 
 } // namespace vexora

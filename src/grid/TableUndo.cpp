@@ -1,6 +1,8 @@
 #include "grid/TableUndo.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace vexora {
 
@@ -8,6 +10,8 @@ namespace {
 
 // Changes of cells that are kept in all; some seven pastes of the largest table.
 constexpr std::size_t mostChanges = 1'000'000;
+
+constexpr int wholeRows = -2; // the column of a change that is none of a cell
 
 bool IsEmptyRow(const ui::Grid& grid, int row) {
     for (int column = 0; column < grid.Columns(); ++column) {
@@ -20,7 +24,7 @@ bool IsEmptyRow(const ui::Grid& grid, int row) {
 
 class TableUndo::Recorder : public TableEdit {
 public:
-    explicit Recorder(ui::Grid& grid) : grid_(grid), batch_(grid) { step.rowsBefore = grid.Rows(); }
+    explicit Recorder(TableUndo& table) : table_(table), grid_(table.grid_), batch_(grid_) {}
 
     void Cell(int row, int column, const std::string& text) override {
         if (row < 0 || row >= grid_.Rows() || column < 0 || column >= grid_.Columns()) return;
@@ -32,37 +36,70 @@ public:
 
     void Rows(int rows) override {
         rows = std::max(rows, grid_.FixedRows());
-        for (int row = rows; row < grid_.Rows(); ++row) {
+        InsertRows(grid_.Rows(), rows - grid_.Rows());
+        RemoveRows(rows, grid_.Rows() - rows);
+    }
+
+    void InsertRows(int row, int count) override {
+        if (count <= 0 || row < grid_.FixedRows() || row > grid_.Rows()) return;
+        Note({row, true, std::vector<int>(static_cast<std::size_t>(count), 0)});
+    }
+
+    void RemoveRows(int row, int count) override {
+        count = std::min(count, grid_.Rows() - row);
+        if (count <= 0 || row < grid_.FixedRows()) return;
+        for (int at = row; at < row + count; ++at) {
             for (int column = 0; column < grid_.Columns(); ++column)
-                Cell(row, column, {});
+                Cell(at, column, {});
         }
-        if (rows != grid_.Rows()) grid_.Resize(rows, grid_.Columns());
+        RowChange change{row, false, {}};
+        for (int at = row; at < row + count; ++at)
+            change.places.push_back(table_.FirstPlaceOf(at));
+        Note(std::move(change));
+        settled = step.changes.size();
     }
 
     Step step;
+    std::size_t settled = 0; // changes up to here are of cells that have gone or moved
 
 private:
+    void Note(RowChange change) {
+        step.changes.push_back({static_cast<int>(step.rows.size()), wholeRows, {}, {}});
+        table_.MoveRows(change, change.inserted);
+        step.rows.push_back(std::move(change));
+    }
+
+    TableUndo& table_;
     ui::Grid& grid_;
     ui::Grid::Batch batch_;
 };
+
+/// Rows that only came and went at the end of the table are no change.
+bool TableUndo::Step::IsEmpty() const {
+    int more = 0;
+    for (const RowChange& change : rows) {
+        const int count = static_cast<int>(change.places.size());
+        more += change.inserted ? count : -count;
+    }
+    return changes.size() == rows.size() && more == 0;
+}
 
 bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
                    const std::function<void(bool)>& beside) {
     Step step;
     {
-        Recorder recorder(grid_);
+        Recorder recorder(*this);
         writer(recorder);
         const std::size_t written = OnCell ? recorder.step.changes.size() : 0;
-        for (std::size_t i = 0; i < written; ++i) {
-            const auto [row, column] =
-                std::pair(recorder.step.changes[i].row, recorder.step.changes[i].column);
-            OnCell(recorder, row, column);
+        for (std::size_t i = recorder.settled; i < written; ++i) {
+            const Change change = recorder.step.changes[i];
+            if (change.column != wholeRows)
+                OnCell(recorder, change.row, change.column, change.before);
         }
         KeepSpareRow(recorder);
-        recorder.step.rowsAfter = grid_.Rows();
         step = std::move(recorder.step);
     }
-    if (step.changes.empty() && step.rowsBefore == step.rowsAfter) return false;
+    if (step.IsEmpty()) return false;
     step.beside = beside;
     if (beside) beside(true);
     steps_.resize(done_);
@@ -71,6 +108,19 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
     ForgetOldest();
     Tell(steps_.back());
     return true;
+}
+
+void TableUndo::MoveRows(const RowChange& change, bool inserts) {
+    const int count = static_cast<int>(change.places.size());
+    places_.resize(static_cast<std::size_t>(grid_.Rows()));
+    const auto at = places_.begin() + change.row;
+    if (inserts) {
+        places_.insert(at, change.places.begin(), change.places.end());
+        grid_.InsertRows(change.row, count);
+    } else {
+        places_.erase(at, at + count);
+        grid_.RemoveRows(change.row, count);
+    }
 }
 
 void TableUndo::KeepSpareRow(TableEdit& edit) {
@@ -96,10 +146,14 @@ void TableUndo::Undo() {
     if (step.beside) step.beside(false);
     {
         const ui::Grid::Batch batch(grid_);
-        if (grid_.Rows() < step.rowsBefore) grid_.Resize(step.rowsBefore, grid_.Columns());
-        for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
-            grid_.Cell(change->row, change->column, change->before);
-        if (grid_.Rows() != step.rowsBefore) grid_.Resize(step.rowsBefore, grid_.Columns());
+        for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change) {
+            if (change->column != wholeRows) {
+                grid_.Cell(change->row, change->column, change->before);
+                continue;
+            }
+            const RowChange& rows = step.rows[static_cast<std::size_t>(change->row)];
+            MoveRows(rows, !rows.inserted);
+        }
     }
     Tell(step);
 }
@@ -109,20 +163,31 @@ void TableUndo::Redo() {
     const Step& step = steps_[done_++];
     {
         const ui::Grid::Batch batch(grid_);
-        if (grid_.Rows() < step.rowsAfter) grid_.Resize(step.rowsAfter, grid_.Columns());
-        for (const Change& change : step.changes)
-            grid_.Cell(change.row, change.column, change.after);
-        if (grid_.Rows() != step.rowsAfter) grid_.Resize(step.rowsAfter, grid_.Columns());
+        for (const Change& change : step.changes) {
+            if (change.column != wholeRows) {
+                grid_.Cell(change.row, change.column, change.after);
+                continue;
+            }
+            const RowChange& rows = step.rows[static_cast<std::size_t>(change.row)];
+            MoveRows(rows, rows.inserted);
+        }
     }
     if (step.beside) step.beside(true);
     Tell(step);
 }
 
+/// Rows that come or go move all those below.
 void TableUndo::Tell(const Step& step) {
-    firstRow_ = lastRow_ = step.changes.empty() ? grid_.FixedRows() : step.changes.front().row;
+    firstRow_ = grid_.Rows();
+    lastRow_ = grid_.FixedRows();
     for (const Change& change : step.changes) {
+        if (change.column == wholeRows) continue;
         firstRow_ = std::min(firstRow_, change.row);
         lastRow_ = std::max(lastRow_, change.row);
+    }
+    for (const RowChange& change : step.rows) {
+        firstRow_ = std::min(firstRow_, change.row);
+        lastRow_ = std::max(lastRow_, grid_.Rows() - 1);
     }
     const ui::Grid::Block& block = grid_.Selection();
     const int bottom = grid_.Rows() - 1;
@@ -137,15 +202,23 @@ void TableUndo::Tell(const Step& step) {
 void TableUndo::Clear() {
     steps_.clear();
     done_ = 0;
+    places_.resize(static_cast<std::size_t>(grid_.Rows()));
+    std::iota(places_.begin(), places_.end(), 0);
+}
+
+int TableUndo::FirstPlaceOf(int row) const {
+    const auto at = static_cast<std::size_t>(row);
+    return at < places_.size() ? places_[at] : 0;
 }
 
 void TableUndo::MoveColumns(const std::vector<int>& columns, int behind) {
     for (Step& step : steps_) {
         for (Change& change : step.changes) {
+            if (change.column == wholeRows) continue;
             const auto from = static_cast<std::size_t>(change.column);
             change.column = from < columns.size() ? columns[from] : change.column + behind;
         }
-        std::erase_if(step.changes, [](const Change& change) { return change.column < 0; });
+        std::erase_if(step.changes, [](const Change& change) { return change.column == -1; });
     }
 }
 

@@ -17,6 +17,10 @@ public:
     /// Makes the table so many rows high, the fixed ones included. Texts in rows that go are kept
     /// for an undo.
     virtual void Rows(int rows) = 0;
+    /// Puts empty rows in front of this one.
+    virtual void InsertRows(int row, int count) = 0;
+    /// Takes rows away with their texts; those below move up.
+    virtual void RemoveRows(int row, int count) = 0;
 };
 
 /// The history of a grid: every change goes through Do and can be taken back and done again, to the
@@ -24,7 +28,7 @@ public:
 /// owns the grid owns it.
 class TableUndo {
 public:
-    explicit TableUndo(ui::Grid& grid) : grid_(grid) {}
+    explicit TableUndo(ui::Grid& grid) : grid_(grid) { Clear(); }
 
     ui::Grid& Table() const { return grid_; }
     /// Runs the writer; what it changed becomes one step. False when it changed nothing. What goes
@@ -39,6 +43,8 @@ public:
     void Redo();
     /// Forgets all steps.
     void Clear();
+    /// Where the row stood when the history began, wherever it has moved since; 0 for a new one.
+    int FirstPlaceOf(int row) const;
     /// The columns of the grid have moved: place i is now columns[i], or gone when that is -1.
     /// Those behind them have moved by so many places.
     void MoveColumns(const std::vector<int>& columns, int behind = 0);
@@ -49,26 +55,35 @@ public:
     /// Follows every step, done, taken back or done again.
     std::function<void()> OnChange;
     /// Lets the owner add to a step what follows from the change of a cell by it.
-    std::function<void(TableEdit&, int row, int column)> OnCell;
+    std::function<void(TableEdit&, int row, int column, const std::string& before)> OnCell;
 
 private:
+    /// Of one cell, or of rows when the column says so; the row is then a place in Step::rows.
     struct Change {
         int row = 0, column = 0;
         std::string before, after;
     };
+    struct RowChange {
+        int row = 0;
+        bool inserted = true;
+        std::vector<int> places; // FirstPlaceOf, one for each row
+    };
     struct Step {
-        int rowsBefore = 0, rowsAfter = 0;
         std::vector<Change> changes;
+        std::vector<RowChange> rows;
         std::function<void(bool)> beside;
+        bool IsEmpty() const;
     };
     class Recorder;
 
     void KeepSpareRow(TableEdit& edit);
+    void MoveRows(const RowChange& change, bool inserts);
     void ForgetOldest();
     void Tell(const Step& step);
 
     ui::Grid& grid_;
     std::vector<Step> steps_;
+    std::vector<int> places_; // FirstPlaceOf
     std::size_t done_ = 0;
     int firstRow_ = 0;
     int lastRow_ = 0;

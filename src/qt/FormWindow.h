@@ -35,6 +35,7 @@ public:
     /// The form is going: from now on the window is only a picture.
     void Detach();
     bool IsDetached() const { return detached_; }
+    const Windows& All() const { return windows_; }
     /// Runs an action of a person; an exception of a handler ends here and is handed on to Windows.
     void Perform(const std::function<void()>& action);
     /// Puts the keyboard where the form has its focus.

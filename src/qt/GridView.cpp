@@ -12,6 +12,7 @@
 
 #include "qt/FormWindow.h"
 #include "qt/Text.h"
+#include "qt/Windows.h"
 
 namespace vexora::qt {
 
@@ -238,8 +239,10 @@ void GridView::HandOverSelection() {
 
 void GridView::Draw() {
     if (!fitted_) FitColumns();
-    const int page = own_->viewport()->height() / own_->verticalHeader()->defaultSectionSize();
-    model_.PageRows = std::max(page - 1, 1);
+    if (!Window().All().PlaysScripts) {
+        const int page = own_->viewport()->height() / own_->verticalHeader()->defaultSectionSize();
+        model_.PageRows = std::max(page - 1, 1);
+    }
     own_->viewport()->update();
     DrawSelection();
     PlaceEditor();
@@ -269,11 +272,14 @@ void GridView::DrawSelection() {
     if (!first.isValid() || !last.isValid()) return;
     const QItemSelection wanted(first, last);
     auto* selection = own_->selectionModel();
-    if (selection->selection().size() == 1 && selection->selection().front() == wanted.front()) {
-        return;
+    const bool same =
+        selection->selection().size() == 1 && selection->selection().front() == wanted.front();
+    if (same && shown_ == model_.TimesShown()) return;
+    shown_ = model_.TimesShown();
+    if (!same) {
+        selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        selection->select(wanted, QItemSelectionModel::ClearAndSelect);
     }
-    selection->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-    selection->select(wanted, QItemSelectionModel::ClearAndSelect);
     own_->scrollTo(IndexOf(model_.Cursor().first, model_.Cursor().second));
 }
 

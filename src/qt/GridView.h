@@ -66,6 +66,7 @@ private:
     bool fitted_ = false;
     bool fresh_ = true; // columns have not got their first widths
     bool following_ = false;
+    int shown_ = 0; // TimesShown of the grid
 };
 
 } // namespace vexora::qt

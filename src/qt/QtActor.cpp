@@ -29,6 +29,7 @@ void Enter(ui::Control& control) {
 } // namespace
 
 QtActor::QtActor() {
+    windows_.PlaysScripts = true;
     windows_.OnFault = [this](std::exception_ptr fault) {
         if (!fault_) fault_ = std::move(fault);
     };

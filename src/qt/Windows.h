@@ -43,6 +43,9 @@ public:
     /// The documents opened last, for a menu; null for none.
     RecentFiles* Recent = nullptr;
 
+    /// Keys go as far in a table as they do without a screen, so that scripts find the same cells.
+    bool PlaysScripts = false;
+
 private:
     struct Watch; // its end tells that the registry has gone
     void Attach(ui::Forms& forms);

@@ -37,6 +37,22 @@ void Grid::Resize(int rows, int columns) {
     TellChange(-1, -1);
 }
 
+void Grid::InsertRows(int row, int count) {
+    if (row < 0 || row > Rows() || count <= 0) return;
+    const std::vector<std::string> empty(static_cast<std::size_t>(columns_));
+    cells_.insert(cells_.begin() + row, static_cast<std::size_t>(count), empty);
+    Changed();
+    TellChange(-1, -1);
+}
+
+void Grid::RemoveRows(int row, int count) {
+    count = std::min(count, Rows() - row);
+    if (row < 0 || count <= 0) return;
+    cells_.erase(cells_.begin() + row, cells_.begin() + row + count);
+    Changed();
+    TellChange(-1, -1);
+}
+
 void Grid::TellChange(int row, int column) {
     if (batches_ == 0) return CellChanged.Emit(row, column);
     if (changesInBatch_++ == 0) changedInBatch_ = {row, column};
@@ -89,6 +105,12 @@ void Grid::Select(Block block) {
     selection_ = block;
     anchor_ = {block.top, block.left};
     cursor_ = {block.bottom, block.right};
+    Changed();
+}
+
+void Grid::Show(Block block) {
+    Select(block);
+    ++timesShown_;
     Changed();
 }
 

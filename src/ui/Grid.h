@@ -51,6 +51,9 @@ public:
     int FixedColumns() const { return fixedColumns_; }
     /// New cells are empty; cells outside the new size are dropped.
     void Resize(int rows, int columns);
+    /// Puts empty rows in front of a row, which may be the one behind the last.
+    void InsertRows(int row, int count);
+    void RemoveRows(int row, int count);
 
     /// Text of a cell, empty outside the table.
     const std::string& Cell(int row, int column) const;
@@ -71,6 +74,9 @@ public:
 
     const Block& Selection() const { return selection_; }
     void Select(Block block);
+    /// Selects it and brings it into sight, even where it is selected already.
+    void Show(Block block);
+    int TimesShown() const { return timesShown_; }
     /// Row and column of the corner of the selection that keys move; the view keeps it in sight.
     std::pair<int, int> Cursor() const { return cursor_; }
     /// How far PageUp and PageDown go; the view knows how many rows it shows.
@@ -111,6 +117,7 @@ private:
     Block selection_;
     std::pair<int, int> anchor_, cursor_; // corners of the selection, by row and column
     Marks marks_;
+    int timesShown_ = 0;
     int batches_ = 0;
     int changesInBatch_ = 0;
     std::pair<int, int> changedInBatch_; // the first of them

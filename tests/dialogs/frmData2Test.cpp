@@ -1,97 +1,19 @@
-#include "dialogs/frmData2.h"
+#include "dialogs/frmData2Fixture.h"
 
 #include <cmath>
+#include <fstream>
 #include <utility>
 
 #include "chem/clsProperty.h"
-#include "dialogs/DataDialogFixture.h"
-#include "dialogs/frmPasteView.h"
 #include "globals/PlotTable.h"
 #include "records/clsS.h"
-#include "records/clsTwo.h"
-#include "support/ScratchFolder.h"
-
 #include "reference/Numbers.h"
-#include <filesystem>
-#include <fstream>
+#include "support/ScratchFolder.h"
 
 namespace vexora::test {
 namespace {
 
-class frmData2Test : public DataDialogFixture {
-protected:
-    frmData2Test() {
-        set = std::make_shared<clsTwo>();
-        set->PRPCODE = "VDN";
-        set->PROPERTY_UNIT = "S";
-        set->PHASE1 = "L";
-        set->VARIABLE1 = "T";
-        set->VAR1_UNIT = "S";
-        globals.CurrentTwo = set;
-        // Without the dialog of statements unless a test brings one.
-        forms.Register("frmUnc", [this] { return std::make_unique<Statements>(*this); });
-    }
-    ~frmData2Test() override { forms.CloseAll(); }
-
-    struct Statements : ui::Form {
-        explicit Statements(frmData2Test& fixture) : Form("frmUnc", "Statements"), test(fixture) {}
-        frmData2Test& test;
-    };
-
-    void TwoVariables() {
-        set->nVar = 2;
-        set->VARIABLE2 = "P";
-        set->VAR2_UNIT = "S";
-    }
-    frmData2& OpenTable() {
-        form_ = &Open<frmData2>("frmData2");
-        return *form_;
-    }
-    void Paste(const std::string& text) { form_->tblData.UserPaste(text); }
-    void Accept(bool confirmed = true) {
-        desktop.OnModal([this, confirmed](ui::Form& form) {
-            EXPECT_EQ(form.Name(), "frmUnc");
-            globals.DialogAccepted = confirmed;
-            form.Close();
-        });
-        form_->cmdSave.UserClick();
-    }
-    std::string Cells() const {
-        std::string text;
-        for (int row = 0; row < form_->tblData.Rows(); ++row) {
-            for (int column = 0; column < form_->tblData.Columns(); ++column)
-                text += (column > 0 ? "|" : "") + form_->tblData.Cell(row, column);
-            text += ";";
-        }
-        return text;
-    }
-    std::string Rows() const {
-        std::string text;
-        for (const auto& row : set->recData) {
-            for (int n = 1; n <= set->nVar; ++n)
-                text += row->VARIABLE(n) + " ";
-            text += row->PRPVALUE() + " " + row->PRPUNCERTY + ";";
-        }
-        return text;
-    }
-    std::string Findings() const {
-        std::string text;
-        for (const std::string& line : form_->lstFindings.Items())
-            text += line + ";";
-        return text;
-    }
-    void AddRow(const std::string& t, const std::string& value, bool original = true) {
-        auto row = std::make_shared<clsData>();
-        row->Values = {value, t, "", ""};
-        row->PRPUNCERTY = "0.1";
-        row->TIELINE = "7";
-        row->inOriginalUnits = original;
-        set->recData.Add(row);
-    }
-
-    std::shared_ptr<clsTwo> set;
-    frmData2* form_ = nullptr;
-};
+using frmData2Test = frmData2Fixture;
 
 TEST_F(frmData2Test, ColumnsFollowTheStatementsOfTheSet) {
     TwoVariables();
@@ -188,6 +110,7 @@ TEST_F(frmData2Test, CancelOfTheStatementsStoresNothing) {
     Accept(false);
     EXPECT_TRUE(form_->IsOpen());
     set->UX[0].iUnc = true;
+    Discard();
     form_->cmdFinish.UserClick();
     EXPECT_FALSE(set->UX[0].iUnc);
     EXPECT_EQ(Rows(), "275 999.8 0.1;");
@@ -247,82 +170,6 @@ TEST_F(frmData2Test, UnitsThatCannotBeConvertedAreRefused) {
     EXPECT_TRUE(form_->IsOpen());
 }
 
-TEST_F(frmData2Test, TableInTwoDimensionsBecomesOneRowForEachCell) {
-    TwoVariables();
-    OpenTable();
-    Paste("\t101.3\t200\t300\t400\n300\t996.5\t996.6\t\t996.8\n310\t993.3\t993.4\t993.5\t993.6\n");
-    EXPECT_EQ(form_->tblData.Columns(), 5);
-    form_->mnuAction2D.UserClick();
-    const std::string turned = Cells();
-    EXPECT_EQ(turned, "Var1|Var2|Property|KVO Uncert.;300|101.3|996.5|;300|200|996.6|;"
-                      "300|400|996.8|;310|101.3|993.3|;310|200|993.4|;310|300|993.5|;"
-                      "310|400|993.6|;|||;");
-    form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(1, 4), "400");
-    form_->mnuRedo.UserClick();
-    EXPECT_EQ(Cells(), turned);
-    // A column more leaves the way back to the printed table open.
-    desktop.OnModal([this](ui::Form& form) {
-        globals.CurrentUX->front().iUnc = true;
-        globals.DialogAccepted = true;
-        form.Close();
-    });
-    form_->cmdAssign.UserClick();
-    EXPECT_EQ(form_->tblData.Columns(), 5);
-    form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(1, 5), "400");
-    EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
-}
-
-TEST_F(frmData2Test, SelectedBlockMovesBelowTheTable) {
-    OpenTable();
-    Paste("275 999.8 450 890.3\n280 999.7 625 567.0");
-    form_->tblData.Select({1, 2, 2, 3});
-    form_->mnuSplit.UserClick();
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;450|890.3|;"
-                       "625|567.0|;||;");
-    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 2, 1, 2}));
-}
-
-TEST_F(frmData2Test, BlockThatIsTooWideIsRefusedWhole) {
-    OpenTable();
-    form_->tblData.UserCell(1, 0, "275");
-    desktop.Expect("The block has 4 columns, the table has room for 3\nNothing was pasted");
-    Paste("1 2 3 4");
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275||;||;");
-}
-
-TEST_F(frmData2Test, NoticesOfAPasteStandBelowTheTable) {
-    OpenTable();
-    Paste("275 1,234");
-    EXPECT_EQ(form_->lblNotice.Caption(), "row 1: \"1,234\" became 1.234");
-    desktop.ClipboardText("280 999.8(2)");
-    desktop.OnModal([](ui::Form& form) {
-        auto& view = dynamic_cast<frmPasteView&>(form);
-        EXPECT_EQ(view.tblBlock.Cell(0, 1), "999.8(2)");
-        EXPECT_EQ(view.lstNotices.Count(), 1);
-        view.cmdFinish.UserClick();
-    });
-    form_->UserKey(ui::ParseKey("Ctrl+Shift+V"));
-    EXPECT_EQ(form_->tblData.Cell(1, 0), "275");
-}
-
-TEST_F(frmData2Test, TypingStartsTheEditorAndArrowsLeaveIt) {
-    OpenTable();
-    form_->tblData.SetFocus();
-    for (const char* key : {"x", "2", "7", "5", "Right", "9", "Escape", "9", ".", "Enter"})
-        form_->UserKey(ui::ParseKey(key));
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|9.|;||;");
-    EXPECT_FALSE(form_->txtCell.Visible());
-    EXPECT_TRUE(form_->tblData.HasFocus());
-    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 1, 2, 1}));
-    form_->UserKey(ui::ParseKey("4"));
-    form_->cmdClear.SetFocus();
-    EXPECT_EQ(form_->tblData.Cell(2, 1), "4");
-    form_->UserKey(ui::ParseKey("Ctrl+Z"));
-    EXPECT_EQ(form_->tblData.Cell(2, 1), "");
-}
-
 /// A table of as many rows as a plot shows.
 std::string FullTable() {
     std::string text;
@@ -362,26 +209,6 @@ TEST_F(frmData2Test, TooManyRowsOfAFileAreKeptAndTold) {
     EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
 }
 
-TEST_F(frmData2Test, FullDiskLeavesTheOldFileOfATable) {
-    const ScratchFolder scratch;
-    const std::string path = scratch.Path("table.txt");
-    std::ofstream(path) << "1\t2\n";
-    OpenTable();
-    Paste("275 999.80");
-    desktop.OnChoose(path);
-    desktop.disk.FailAt("Write");
-    desktop.Expect("No space left on device");
-    form_->mnuFileSave.UserClick();
-    std::string error;
-    EXPECT_EQ(desktop.disk.Read(path, error), "1\t2\n");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scratch.Path()), {}), 1);
-    desktop.OnChoose(scratch.Path("none.txt"));
-    desktop.disk.FailAt("Read", desktop.disk.Calls("Read") + 1, "No such file");
-    desktop.Expect("No such file");
-    form_->mnuFileOpen.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(1, 1), "999.80");
-}
-
 TEST_F(frmData2Test, TooManyRowsOfATableInTwoDimensionsAreKeptAndTold) {
     TwoVariables();
     OpenTable();
@@ -395,92 +222,40 @@ TEST_F(frmData2Test, TooManyRowsOfATableInTwoDimensionsAreKeptAndTold) {
     EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
 }
 
-TEST_F(frmData2Test, TabGoesAlongTheRowsAndOutAtTheEnd) {
+TEST_F(frmData2Test, FewerDigitsThanTypedHideTheTextAndDoNotChangeIt) {
+    globals.IncludeDigits = true;
+    AddRow("275", "997.05");
+    set->recData.Item(1)->isDigit = true;
+    set->recData.Item(1)->Digits = {3, 3, 0, 0};
     OpenTable();
-    form_->tblData.SetFocus();
-    for (const char* key : {"2", "7", "5", "Tab", "9", "9", "Tab", "3", "Shift+Tab", "8", "Tab"})
-        form_->UserKey(ui::ParseKey(key));
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|8|;3||;||;");
-    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 0, 2, 0}));
-    for (int i = 0; i < 3; ++i)
-        form_->UserKey(ui::ParseKey("Tab"));
-    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{3, 1, 3, 1}));
-    EXPECT_TRUE(form_->tblData.HasFocus());
-    form_->UserKey(ui::ParseKey("Tab"));
-    EXPECT_FALSE(form_->tblData.HasFocus());
-}
-
-TEST_F(frmData2Test, PasteAndClearAreTakenBackByKeysToTheLastZero) {
-    OpenTable();
-    std::string text;
-    for (int row = 0; row < 200; ++row)
-        text += std::to_string(270 + row) + ".150\t997." + std::to_string(row) + "00\t0.10\n";
-    form_->tblData.SetFocus();
-    desktop.ClipboardText(text);
-    form_->UserKey(ui::ParseKey("Ctrl+V"));
-    EXPECT_EQ(form_->TableText(), text);
-    form_->cmdClear.UserClick();
-    EXPECT_EQ(form_->TableText(), "");
-    for (const auto& [key, now] :
-         {std::pair("Ctrl+Z", text), std::pair("Ctrl+Z", std::string()),
-          std::pair("Ctrl+Z", std::string()), std::pair("Ctrl+Shift+Z", text),
-          std::pair("Ctrl+Y", std::string()), std::pair("Ctrl+Y", std::string()),
-          std::pair("Ctrl+Z", text)}) {
-        form_->UserKey(ui::ParseKey(key));
-        EXPECT_EQ(form_->TableText(), now) << key;
-    }
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "997");
+    form_->tblData.UserCell(1, 0, "276");
     Accept();
-    ASSERT_EQ(set->recData.Count(), 200u);
-    EXPECT_EQ(set->recData.Item(200)->VARIABLE(1) + " " + set->recData.Item(200)->PRPVALUE(),
-              "469.150 997.19900");
+    EXPECT_EQ(Rows(), "276 997.05 0.1;");
+    EXPECT_EQ(set->recData.Item(1)->Digits[0], 3);
 }
 
-TEST_F(frmData2Test, WidestTableTakesABlockWithTabsAtTheEnds) {
-    TwoVariables();
-    set->UX[0].iDS = set->UX[0].iRep = set->UX[0].iUnc = set->UX[0].iCD = true;
+TEST_F(frmData2Test, EntriesOfAStatementThatGoesAreAskedAbout) {
+    set->UX[0].iUnc = true;
     OpenTable();
-    ASSERT_EQ(form_->tblData.Columns(), 9);
-    Paste("275\t101\t999.8\t0.1\t0.2\t5\t0.3\t0.4\t0.5\t\t\n");
-    EXPECT_EQ(form_->tblData.Cell(1, 8), "0.5");
+    Paste("275 999.8 0.5\n280 999.7");
+    const auto withoutStatement = [this](ui::Form& form) {
+        globals.CurrentUX->front().iUnc = false;
+        globals.DialogAccepted = true;
+        form.Close();
+    };
+    const std::string question = "The entries in the column Uncert. go with its statement\nGo on?";
+    desktop.OnModal(withoutStatement);
+    desktop.Expect(question, ui::Answer::No);
     form_->tblData.UserSelect({2, 1, 2, 1});
-    desktop.Expect("The block has 9 columns, the table has room for 8\nNothing was pasted");
-    Paste("T/K\tp\trho\td\tr\tn\tu\tc\tk\n275\t101\t999.8\t0.1\t0.2\t5\t0.3\t0.4\t0.5\n");
-    EXPECT_EQ(form_->tblData.Rows(), 3);
-}
-
-TEST_F(frmData2Test, MenusComeBehindWhatIsBeingTyped) {
-    OpenTable();
-    Paste("275 999.8\n280 999.7");
-    form_->tblData.UserSelect({2, 1, 2, 1});
-    form_->tblData.SetFocus();
-    form_->UserKey(ui::ParseKey("8"));
-    form_->mnuCopy.UserClick();
-    EXPECT_EQ(desktop.ClipboardText(), "8");
-    form_->UserKey(ui::ParseKey("9"));
-    form_->UserKey(ui::ParseKey("Ctrl+Z"));
-    EXPECT_FALSE(form_->txtCell.Visible());
-    EXPECT_EQ(form_->TableText(), "275\t999.8\t\n280\t8\t\n");
-}
-
-TEST_F(frmData2Test, EscapeGivesUpNoTableThatHasChanged) {
-    OpenTable();
-    form_->tblData.SetFocus();
-    Paste("275 999.8");
-    form_->UserKey(ui::ParseKey("Escape"));
-    EXPECT_TRUE(form_->IsOpen());
-    form_->UserKey(ui::ParseKey("Ctrl+Z"));
-    form_->UserKey(ui::ParseKey("Escape"));
-    EXPECT_FALSE(form_->IsOpen());
-}
-
-TEST_F(frmData2Test, OneValuePastedFillsTheSelection) {
-    OpenTable();
-    Paste("275 1\n280 2\n285 3");
-    form_->tblData.UserSelect({1, 1, 3, 1});
-    Paste("999,8\r\n");
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.8|;285|999.8|;||;");
-    form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(2, 1), "2");
+    form_->cmdAssign.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "0.5");
+    EXPECT_TRUE(set->UX[0].iUnc);
+    desktop.OnModal(withoutStatement);
+    desktop.Expect(question, ui::Answer::Yes);
+    form_->cmdAssign.UserClick();
+    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;||;");
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 1, 2, 1}));
 }
 
 TEST_F(frmData2Test, FailedEvaluationIsForgottenWhenItsRowChanges) {
@@ -547,6 +322,7 @@ TEST_F(frmData2Test, UnitsOfAFaultyTableStay) {
     desktop.Expect("Invalid number\nCorrect it or clear the line");
     form_->mnuSystemUnits.UserClick();
     EXPECT_EQ(form_->tblData.Cell(1, 0), "25");
+    Discard();
     form_->cmdFinish.UserClick();
     set->VAR1_UNIT = "S";
     OpenTable();

@@ -61,9 +61,12 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "row 1: \"1.234,5\" became 1.234.5, which is no number (and 1 more)"},
         {"300\t0.1234 (5)", "300|0.1234|(5);",
          "row 1: \"0.1234 (5)\" was split at its blank; row 1: \"(5)\" is no number"},
-        {"300\u2013310\t1.5 \u00b1 0.2", "300-310|1.5|\u00b1|0.2;",
-         "row 1: a typeset minus was read as \"-\"; row 1: \"300-310\" is no number (and 1 more); "
-         "row 1: \"1.5 \u00b1 0.2\" was split at its blank"},
+        {"300\u2013310\t1.5 \u00b1 0.2", "300-310|1.5|0.2;",
+         "row 1: a typeset minus was read as \"-\"; row 1: \"300-310\" is no number; "
+         "row 1: \"1.5 \u00b1 0.2\" was parted at its \u00b1"},
+        {"300 1.5\u00b10.2\n310 1.6 \u00b1 0.2", "300|1.5|0.2;310|1.6|0.2;",
+         "row 1: \"300 1.5\u00b10.2\" was parted at its \u00b1 (and 1 more)"},
+        {"1.5\t\u00b1\t0.2", "1.5||0.2;", "row 1: \"\u00b1\" was read as an empty cell"},
         {"300\t\u22120.125\n310\t\u20130.130", "300|-0.125;310|-0.130;",
          "row 1: a typeset minus was read as \"-\" (and 1 more)"},
         {"300\t0.1234(5)", "300|0.1234(5);",
@@ -82,8 +85,12 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
         {"300\t1.5\u00d710\u22123", "300|1.5\u00d710-3;",
          "row 1: a typeset minus was read as \"-\"; "
          "row 1: \"1.5\u00d710-3\" is no number"},
-        {"300\tn/a\n310\t\u2014", "300|n/a;310|\u2014;",
-         "row 1: \"n/a\" is no number (and 1 more)"},
+        {"300\tn/a\n310\t1.5", "300|n/a;310|1.5;", "row 1: \"n/a\" is no number"},
+        {"300 \u2014 1\n310 - \u2026\n320 2 3", "300||1;310||;320|2|3;",
+         "row 1: \"\u2014 1\" was read as an empty cell and a number; "
+         "row 2: \"-\" was read as an empty cell (and 1 more)"},
+        {"300\t\u2013\n310\t...", "300|;310|;",
+         "row 1: \"\u2013\" was read as an empty cell (and 1 more)"},
     };
     for (const Case& one : cases) {
         const PastedTable table = CleanTable(one.text);
@@ -96,6 +103,16 @@ TEST_F(TablePasteTest, BlockGoesInFromTheCellOnAndTheGridGrows) {
     Fill("1 2 3");
     EXPECT_TRUE(PasteTable(undo, CleanTable("8 9\n10 11"), 1, 1));
     EXPECT_EQ(Cells(), "1|8|9\n|10|11\n||\n");
+}
+
+TEST_F(TablePasteTest, ShortLinesLeaveNothingOldAmongTheNew) {
+    Fill("1 2 3\n4 5 6\n7 8 9");
+    EXPECT_TRUE(PasteTable(undo, CleanTable("10 11\n\n12"), 1, 1));
+    EXPECT_EQ(Cells(), "1|10|11\n4||\n7|12|\n||\n");
+}
+
+TEST_F(TablePasteTest, NoticesCountRowsFromTheOneWhereTheBlockStands) {
+    EXPECT_EQ(Notices(CleanTable("300\t1.5\n310\tx", 12)), "row 13: \"x\" is no number");
 }
 
 TEST_F(TablePasteTest, TabsAtTheEndsOfLinesAreNoColumns) {

@@ -65,7 +65,7 @@ TEST_F(TableUndoTest, WholeStepIsToldToListenersAtOnce) {
     Fill("1 2 3\n4 5 6\n7 8 9");
     EXPECT_EQ(told, 1);
     EXPECT_EQ(undo.FirstRow(), 1);
-    EXPECT_EQ(undo.LastRow(), 3);
+    EXPECT_EQ(undo.LastRow(), 4); // with the spare row
 }
 
 TEST_F(TableUndoTest, OneTypedCellIsToldAloneSoThatViewsStayInPlace) {
@@ -85,7 +85,7 @@ TEST_F(TableUndoTest, OneTypedCellIsToldAloneSoThatViewsStayInPlace) {
 
 TEST_F(TableUndoTest, WhatGoesAlongWithAStepIsTakenBackAndDoneAgain) {
     std::string state;
-    undo.OnCell = [](TableEdit& edit, int row, int column) {
+    undo.OnCell = [](TableEdit& edit, int row, int column, const std::string&) {
         if (column == 0) edit.Cell(row, 2, "follows");
     };
     undo.Do([](TableEdit& edit) { edit.Cell(1, 0, "1"); },
@@ -96,6 +96,28 @@ TEST_F(TableUndoTest, WhatGoesAlongWithAStepIsTakenBackAndDoneAgain) {
     undo.Redo();
     EXPECT_EQ(Cells(), "1||follows\n||\n");
     EXPECT_EQ(state, "done;back;done;");
+}
+
+TEST_F(TableUndoTest, RowsThatComeAndGoAreTakenBackInTheirPlaces) {
+    Fill("1 2 3\n4.0 5 6\n7 8 9");
+    undo.Clear();
+    undo.Do([](TableEdit& edit) { edit.InsertRows(2, 2); });
+    EXPECT_EQ(Cells(), "1|2|3\n||\n||\n4.0|5|6\n7|8|9\n||\n");
+    EXPECT_EQ(undo.FirstPlaceOf(3), 0);
+    EXPECT_EQ(undo.FirstPlaceOf(4), 2);
+    EXPECT_EQ(undo.LastRow(), 6);
+    undo.Do([](TableEdit& edit) { edit.RemoveRows(3, 2); });
+    EXPECT_EQ(Cells(), "1|2|3\n||\n7|8|9\n||\n");
+    EXPECT_EQ(undo.FirstPlaceOf(3), 3);
+    EXPECT_FALSE(undo.Do([](TableEdit& edit) { edit.RemoveRows(4, 1); })); // the spare row
+    undo.Undo();
+    EXPECT_EQ(Cells(), "1|2|3\n||\n||\n4.0|5|6\n7|8|9\n||\n");
+    EXPECT_EQ(undo.FirstPlaceOf(4), 2);
+    undo.Undo();
+    EXPECT_EQ(Cells(), "1|2|3\n4.0|5|6\n7|8|9\n||\n");
+    undo.Redo();
+    undo.Redo();
+    EXPECT_EQ(Cells(), "1|2|3\n||\n7|8|9\n||\n");
 }
 
 } // namespace
