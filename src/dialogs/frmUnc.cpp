@@ -84,7 +84,7 @@ void frmUnc::ArrangeControls() {
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
     TabAlongArrangement();
-    PreferredColumns = 120;
+    PreferredColumns = 135; // so that an evaluator can be read
 }
 
 void frmUnc::WireEvents() {

@@ -283,7 +283,7 @@ QWidget* LayoutBuilder::LabelOf(const ui::Layout& field, QWidget* part) {
         if (mnemonic) plain->setBuddy(part);
         label = plain;
     }
-    Companion companion{label, field.label, {}};
+    Companion companion{label, field.label, {}, field.label == nullptr};
     Gather(field.parts.front(), companion.controls);
     companions_.push_back(std::move(companion));
     return label;
@@ -426,6 +426,7 @@ void LayoutBuilder::Follow() {
                          });
         const bool shown = any && (companion.own == nullptr || companion.own->Visible());
         if (companion.widget->isHidden() == shown) companion.widget->setVisible(shown);
+        if (companion.dims && !of.empty()) companion.widget->setEnabled(of.front()->Enabled());
     }
     for (const Book& book : books_)
         book.stack->setCurrentIndex(std::max(book.tabs->Index(), 0));

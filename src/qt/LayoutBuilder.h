@@ -24,7 +24,8 @@ public:
     explicit LayoutBuilder(FormWindow& window) : window_(window) {}
 
     QWidget* Build(const ui::Form& form);
-    /// Hides labels, notes and groups that have lost all they stood for, and turns the pages.
+    /// Hides labels, notes and groups that have lost all they stood for, greys the labels of fields
+    /// that are closed, and turns the pages.
     void Follow();
 
 private:
@@ -32,6 +33,7 @@ private:
         QWidget* widget;
         const ui::Control* own; // its own control, which must be visible too, or null
         std::vector<const ui::Control*> controls;
+        bool dims = false; // a plain label goes grey with the first of them
     };
     struct Book {
         const ui::TabStrip* tabs;

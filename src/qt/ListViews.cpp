@@ -68,7 +68,10 @@ void ComboView::Draw() {
     }
     if (own_->currentIndex() != model_.Index()) own_->setCurrentIndex(model_.Index());
     const QString text = ToQt(model_.Text());
-    if (model_.IsEditable() && own_->currentText() != text) own_->setEditText(text);
+    if (model_.IsEditable() && own_->currentText() != text) {
+        own_->setEditText(text);
+        if (!own_->hasFocus()) own_->lineEdit()->home(false); // a long text shows its beginning
+    }
     DrawSelection(text);
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -117,6 +118,25 @@ TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
     timer.start();
     EXPECT_TRUE(desktop_.PngOf(picture).has_value());
     EXPECT_LT(timer.elapsed(), 2000) << "ms, on a busy machine";
+}
+
+TEST_F(OnTheScreen, TheLabelOfAClosedFieldGoesGrey) {
+    EveryKind& form = OpenEveryKind();
+    const auto isGrey = [](const QString& text) {
+        QApplication::processEvents();
+        for (const QWidget* widget : QApplication::allWidgets()) {
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            if (label && label->text() == text) return !label->isEnabled();
+        }
+        ADD_FAILURE() << "no label " << FromQt(text);
+        return false;
+    };
+    EXPECT_FALSE(isGrey("Digits"));
+    form.txtDigits.Enabled(false);
+    EXPECT_TRUE(isGrey("Digits"));
+    EXPECT_FALSE(isGrey("Notes"));
+    form.txtDigits.Enabled(true);
+    EXPECT_FALSE(isGrey("Digits"));
 }
 
 TEST(Text, PositionsCountCodePointsOutsideTheBasicPlane) {
