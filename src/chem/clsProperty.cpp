@@ -23,13 +23,6 @@ constexpr std::array<double, 10> StudentFactor = {
 // Below this level of confidence [per cent] a figure is a standard deviation.
 constexpr double ExpandedLevel = 70;
 
-// The figure of a statement; per cent is of the value. Nothing for an empty text or a bare "%".
-double Figure(std::string_view statement, double value) {
-    const std::string_view text = Trim(statement);
-    if (!text.ends_with('%')) return Val(text);
-    return Val(text.substr(0, text.size() - 1)) * value / 100;
-}
-
 bool IsStated(std::string_view statement) {
     const std::string_view text = Trim(statement);
     return !text.empty() && text != "%";
@@ -52,14 +45,14 @@ double ExpandedRepeatability(double figure, int kind, double repetitions) {
 double SumOfSquares(const clsProperty& item) {
     double sum = 0;
     const auto add = [&sum](double u) { sum += u * u; };
-    if (IsStated(item.DS)) add(Expanded(Figure(item.DS, item.Value), item.DSLevel));
+    if (IsStated(item.DS)) add(Expanded(StatedFigure(item.DS, item.Value), item.DSLevel));
     if (IsStated(item.Rep)) {
         const double n = Val(item.nRep);
-        add(ExpandedRepeatability(Figure(item.Rep, item.Value), item.replevel, n));
+        add(ExpandedRepeatability(StatedFigure(item.Rep, item.Value), item.replevel, n));
     }
-    if (IsStated(item.CD)) add(Figure(item.CD, item.Value));
+    if (IsStated(item.CD)) add(StatedFigure(item.CD, item.Value));
     if (IsStated(item.Unc)) {
-        const double u = Expanded(Figure(item.Unc, item.Value), item.unclevel);
+        const double u = Expanded(StatedFigure(item.Unc, item.Value), item.unclevel);
         sum = std::max(sum, u * u);
     }
     return sum;
@@ -129,6 +122,12 @@ SuspicionsOfRun* currentRun = nullptr;
 
 } // namespace
 
+double StatedFigure(std::string_view statement, double value) {
+    const std::string_view text = Trim(statement);
+    if (!text.ends_with('%')) return Val(text);
+    return Val(text.substr(0, text.size() - 1)) * value / 100;
+}
+
 SuspicionsOfRun::SuspicionsOfRun() : before_(currentRun) {
     currentRun = this;
 }
@@ -170,7 +169,7 @@ void clsProperty::Convert(bool& ok, double molarMass) {
         ok = false;
         if (SystemValue == 0) return;
     }
-    PRECISION = IsStated(PrecisionText) ? std::abs(Figure(PrecisionText, Value)) : 0;
+    PRECISION = IsStated(PrecisionText) ? std::abs(StatedFigure(PrecisionText, Value)) : 0;
     TakeSetDefaults(*this);
     const double sum = SumOfSquares(*this);
     if (sum > 0) PRECISION = std::sqrt(sum);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace vexora {
@@ -73,6 +74,10 @@ private:
     std::set<std::pair<std::string, double>> confirmed_;
     SuspicionsOfRun* before_;
 };
+
+/// The figure of a statement [unit of the value]; per cent is of the value, with its sign. 0 for an
+/// empty text or a bare "%".
+double StatedFigure(std::string_view statement, double value);
 
 /// Evaluates the chain from its head: the empty text on success, "Error" on failure; the figures
 /// are in PRECISION and SystemPrecision of each item. molarMass in g/mol.

@@ -162,6 +162,7 @@ private:
     PlotTable PointsOfTable() const;
     void NamePlot(PlotTable& table) const;
     double UncertaintyOf(int row) const;
+    double CombinedOf(int row, double value) const;
 
     std::shared_ptr<clsTwo> set_;
     std::shared_ptr<clsTwo> adjusted_;           // the set as brought to system units, or null

@@ -81,6 +81,8 @@ void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
     item.nRep = IsNumeric(cell(Kind::Repetitions)) ? cell(Kind::Repetitions) : "";
     item.Unc = cell(Kind::Unc);
     item.CD = place == 0 ? cell(Kind::CD) : "";
+    const clsX& ofSet = set_->UX[0];
+    if (place == 0 && item.CD.empty() && ofSet.iCD) item.CD = ofSet.CDRms;
 }
 
 /// Evaluates one row; its last cell shows "Error" when that fails.

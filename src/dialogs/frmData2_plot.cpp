@@ -1,6 +1,7 @@
 #include "dialogs/frmData2.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "chem/clsProperty.h"
@@ -53,8 +54,9 @@ PlotTable frmData2::PointsOfTable() const {
     return table;
 }
 
-/// What the statements of the row come to, else the figure typed for it; 0 for none. The head of
-/// the chain is evaluated alone and without conversion, so that no limits are asked about.
+/// What the statements of the row come to, or its combined uncertainty where that is larger, else
+/// the figure typed for it; 0 for none. The head of the chain is evaluated alone and without
+/// conversion, so that no limits are asked about.
 double frmData2::UncertaintyOf(int row) const {
     clsProperty item = *chain_;
     item.NextItem = nullptr;
@@ -64,7 +66,20 @@ double frmData2::UncertaintyOf(int row) const {
     TakeStatements(item, 0, row);
     bool ok = true;
     item.Convert(ok, molarMass_);
-    return item.PRECISION > 0 ? item.PRECISION : Val(tblData.Cell(row, columns_.Find(Kind::KVO)));
+    const double uncertainty = std::max(item.PRECISION, CombinedOf(row, item.Value));
+    return uncertainty > 0 ? uncertainty : Val(tblData.Cell(row, columns_.Find(Kind::KVO)));
+}
+
+/// The combined uncertainty of a row, else that of the set; 0 for none.
+double frmData2::CombinedOf(int row, double value) const {
+    const int column = columns_.Find(Kind::CU);
+    if (column < 0) return 0;
+    std::string stated = tblData.Cell(row, column);
+    if (stated.empty())
+        stated = set_->UX[0].CValue;
+    else if (columns_[column].percent && !stated.ends_with('%'))
+        stated += "%";
+    return std::abs(StatedFigure(stated, value));
 }
 
 } // namespace vexora

@@ -25,11 +25,6 @@ double Level(const std::string& text) {
     return IsNumeric(text) ? Val(text) : 0;
 }
 
-/// The figure of a statement [unit of the value]; per cent is of the value.
-double Figure(const std::string& statement, double value) {
-    return statement.ends_with('%') ? std::abs(Val(statement) * value) / 100 : Val(statement);
-}
-
 } // namespace
 
 bool frmUnc::Refuse(ui::Control& control, const std::string& text) {
@@ -106,7 +101,7 @@ void frmUnc::Calculate() {
 void frmUnc::TakeEvaluated(const clsProperty& head) {
     const clsX item = FromControls(0);
     if (!item.iCU || item.CValue.empty()) return;
-    const double stated = Figure(item.CValue, head.Value);
+    const double stated = std::abs(StatedFigure(item.CValue, head.Value));
     if (Val(txtKVOU.Text()) >= stated) return;
     txtKVOU.Text(item.CValue.ends_with('%') ? NumberText(stated) : item.CValue);
 }
@@ -138,7 +133,7 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
         return;
     }
     const clsX item = FromControls(0);
-    const double stated = item.iCU ? Figure(item.CValue, head.Value) : 0;
+    const double stated = item.iCU ? std::abs(StatedFigure(item.CValue, head.Value)) : 0;
     if (stated > head.PRECISION) {
         lblFigures.Caption("Combined uncertainty as stated: " + FormatValue(stated, shownDigits) +
                            " " + item.Unit);

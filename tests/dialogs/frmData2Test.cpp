@@ -411,5 +411,25 @@ TEST_F(frmData2Test, PlotTakesTheTableAsItStands) {
     EXPECT_EQ(globals.Plot, nullptr);
 }
 
+TEST_F(frmData2Test, BarsOfAPlotTakeWhatTheSetStatesForAnEmptyCell) {
+    forms.Register("frmGraph", [] { return std::make_unique<ui::Form>("frmGraph", "Plot"); });
+    TwoVariables();
+    clsX& stated = set->UX[0];
+    stated.iDS = stated.iCU = stated.iCD = true;
+    stated.CValue = "0.1%";
+    stated.CDRms = "0.3";
+    OpenTable();
+    Paste("20\t100\t1000\t0.25\n30\t100\t995\t\t0.02\n40\t100\t990\t\t0.01\t2");
+    std::string seen;
+    desktop.OnModal([&](ui::Form& form) {
+        for (const double uncertainty : globals.Plot->PointUnc)
+            seen += NumberText(uncertainty) + " ";
+        form.Close();
+    });
+    form_->cmdView.UserClick();
+    // 0.1 % of 1000 above the root of 0.5^2 + 0.3^2; 0.02 % of 995 below 0.3; the row's own 2.
+    EXPECT_EQ(seen, "1 0.3 2 ");
+}
+
 } // namespace
 } // namespace vexora::test
