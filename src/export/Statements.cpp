@@ -56,10 +56,24 @@ std::string RoundedText(double figure) {
     return NumberText(Val(FormatValue(figure, digits)));
 }
 
+// One digit of 1 mmHg would make 0.1 kPa of 0.13 kPa: so many digits that the figure stays what it
+// is.
+std::string TrueText(double figure, int digits) {
+    constexpr double tolerance = 0.05; // of the figure
+    constexpr int mostDigits = 15;
+    const auto isOff = [&] {
+        return std::abs(Val(FormatValue(figure, digits)) - figure) > tolerance * figure;
+    };
+    while (digits < mostDigits && isOff())
+        ++digits;
+    return FormatValue(figure, digits);
+}
+
 // A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
-// are of the entered value, whose unit may be another one than that of the figure.
+// are of the entered value, whose unit may be another one than that of the figure. A figure of a
+// variable has the digits typed, which are those that its record keeps.
 std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& ofValue,
-                   const ExportUnit& ofFigure) {
+                   const ExportUnit& ofFigure, bool ofProperty = false) {
     std::string text = WithoutPlus(NormalizeNumber(statement));
     if (text.ends_with('%')) {
         text.pop_back();
@@ -70,7 +84,9 @@ std::string Figure(std::string_view statement, std::string_view value, const Exp
     if (!IsNumeric(text)) return {};
     if (text.starts_with('-')) text.erase(0, 1);
     if (!ChangesValues(ofFigure)) return text;
-    return FormatValue(std::abs(ConvertedDifference(Val(text), ofFigure)), SignificantDigits(text));
+    const double figure = std::abs(ConvertedDifference(Val(text), ofFigure));
+    const int digits = SignificantDigits(text);
+    return ofProperty ? TrueText(figure, digits) : FormatValue(figure, digits);
 }
 
 void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view level) {
@@ -211,8 +227,8 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
     static const RowStatements none;
     const RowStatements& own = row ? row->statements : none;
     const auto figure = [&](const std::string& statement, std::string_view ofRow = {}) {
-        const std::string text = Figure(ofRow, value, unit, unit);
-        return text.empty() ? Figure(statement, value, unit, ofSet) : text;
+        const std::string text = Figure(ofRow, value, unit, unit, ofProperty);
+        return text.empty() ? Figure(statement, value, unit, ofSet, ofProperty) : text;
     };
     if (ofProperty && HasCombined(item)) {
         WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",

@@ -199,6 +199,11 @@ TEST_F(ValueExport, FiguresAreBroughtToTheUnitOfTheValueOnce) {
     const std::string values = figures("77 F 0.997", property);
     EXPECT_NE(values.find("<nExpandUncertValue>1.0<"), std::string::npos) << values;
     EXPECT_NE(values.find("<nCombExpandUncertValue>2<"), std::string::npos) << values;
+    const std::string pressure = Values("^z 1 PC T 1 L G & 165500 & & &\n"
+                                        "^X 0 PC L + 0 95 2.0 + 0 1 3 + 95 7 - & & - & & &\n");
+    EXPECT_NE(pressure.find("<nExpandUncertValue>0.9<"), std::string::npos) << pressure;
+    EXPECT_NE(pressure.find("<nPropRepeatValue>0.13<"), std::string::npos);
+    EXPECT_NE(pressure.find("<nPropDeviceSpecValue>0.27<"), std::string::npos);
     // A dialog states it in the unit typed.
     Export(kHead + kHeader + "^f 1 VDN S 1 L 77 F 997 & & &\n" + variable);
     clsZ& record = *globals.recR.Item(std::size_t{1})
