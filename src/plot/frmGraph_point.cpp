@@ -32,11 +32,12 @@ void frmGraph::StepPoint(int step, bool withinFamily) {
     const auto family = [this](int point) {
         return families_.GroupOf[static_cast<std::size_t>(point)];
     };
+    const Plot plot = ThePlot();
     int at = point_ ? *point_ : step > 0 ? -1 : count;
     for (int tried = 0; tried < count; ++tried) {
         at = (at + step + count) % count;
         if (withinFamily && point_ && family(at) != family(*point_)) continue;
-        if (!PlaceOf(ThePlot(), at)) continue;
+        if (!PlaceOf(plot, at)) continue;
         PointTo(at);
         return;
     }
