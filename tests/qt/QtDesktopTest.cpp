@@ -122,12 +122,10 @@ TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
 
 TEST_F(OnTheScreen, TheLabelOfAClosedFieldGoesGrey) {
     EveryKind& form = OpenEveryKind();
-    const auto isGrey = [](const QString& text) {
+    const auto isGrey = [&](const QString& text) {
         QApplication::processEvents();
-        for (const QWidget* widget : QApplication::allWidgets()) {
-            const auto* label = qobject_cast<const QLabel*>(widget);
-            if (label && label->text() == text) return !label->isEnabled();
-        }
+        for (const QLabel* label : windows_.WindowOf(form)->findChildren<QLabel*>())
+            if (label->text() == text) return !label->isEnabled();
         ADD_FAILURE() << "no label " << FromQt(text);
         return false;
     };
