@@ -88,11 +88,11 @@ void frmData2::WireMenus() {
     on(mnuFileOpen, [this] { OpenFile(); });
     on(mnuFileSave, [this] { SaveFile(); });
     on(mnuUndo, [this] {
-        ShowNotice("");
+        ShowNotice({});
         undo_.Undo();
     });
     on(mnuRedo, [this] {
-        ShowNotice("");
+        ShowNotice({});
         undo_.Redo();
     });
     const auto copy = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };

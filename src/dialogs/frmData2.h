@@ -118,7 +118,8 @@ private:
     void Action2D();
     void Split();
     void Clear();
-    void ShowNotice(std::string told);
+    void ShowNotice(std::vector<PasteNotice> told);
+    void MoveNotices(int row, int count);
     int LastRow() const;
 
     // The units of the cells (frmData2_units.cpp).
@@ -180,7 +181,7 @@ private:
     std::optional<std::pair<int, int>> entered_;   // columns that are being typed or pasted into
     std::map<int, std::vector<Finding>> findings_; // by row
     std::vector<Finding> listed_;                  // as the list shows them
-    std::string told_;                             // what the last paste had to guess
+    std::vector<PasteNotice> told_;                // what the last paste had to guess
     std::vector<int> lookAgain_;                   // rows far from their neighbours
     int editRow_ = 0, editColumn_ = 0;
 };

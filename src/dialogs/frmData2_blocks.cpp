@@ -19,10 +19,10 @@ namespace {
 
 constexpr int plottedRows = static_cast<int>(PlotTable::MostPoints);
 
-std::string Join(const std::vector<std::string>& notices) {
+std::string Join(const std::vector<PasteNotice>& notices) {
     std::string text;
-    for (const std::string& notice : notices)
-        text += (text.empty() ? "" : "\n") + notice;
+    for (const PasteNotice& notice : notices)
+        text += (text.empty() ? "" : "\n") + notice.Line();
     return text;
 }
 
@@ -30,6 +30,7 @@ std::string Join(const std::vector<std::string>& notices) {
 
 /// A block goes in from the selected cell on; the notices count rows as the table does.
 void frmData2::Paste(const std::string& text) {
+    if (text.empty()) return; // nothing, or no text, was copied
     const ui::Grid::Block cells = tblData.Selection();
     const int row = std::max(cells.top, tblData.FixedRows());
     const PastedTable block = CleanTable(text, row - tblData.FixedRows() + 1);
@@ -48,7 +49,7 @@ bool frmData2::FillSelection(const PastedTable& block) {
         }
     };
     Enter(cells.left, cells.right, [&] { undo_.Do(writer); });
-    ShowNotice(Join(block.notices));
+    ShowNotice(block.notices);
     return true;
 }
 
@@ -67,14 +68,14 @@ void frmData2::PutIn(const PastedTable& block, int row, int column) {
     if (!MakesRoomFor(block, row, column, LastRow() < tblData.FixedRows())) return;
     Enter(column, column + static_cast<int>(block.Columns()) - 1,
           [&] { PasteTable(undo_, block, row, column); });
-    ShowNotice(Join(block.notices));
+    ShowNotice(block.notices);
 }
 
 /// What the last paste had to guess, and that not all rows find room in a plot.
-void frmData2::ShowNotice(std::string told) {
+void frmData2::ShowNotice(std::vector<PasteNotice> told) {
     told_ = std::move(told);
     const int rows = LastRow() - tblData.FixedRows() + 1;
-    std::string text = told_;
+    std::string text = Join(told_);
     if (rows > plottedRows)
         text += (text.empty() ? "" : "\n") + std::string("The table holds ") +
                 std::to_string(rows) + " rows; a plot shows the first " +
@@ -110,19 +111,34 @@ void frmData2::InsertRows() {
     const ui::Grid::Block cells = tblData.Selection();
     const int row = std::max(cells.top, tblData.FixedRows());
     if (row > LastRow()) return; // an empty row stands there already
-    undo_.Do([&](TableEdit& edit) { edit.InsertRows(row, cells.bottom - row + 1); });
+    const int count = cells.bottom - row + 1;
+    undo_.Do([&](TableEdit& edit) { edit.InsertRows(row, count); });
+    MoveNotices(row, count);
 }
 
 void frmData2::RemoveRows() {
     const ui::Grid::Block cells = tblData.Selection();
     const int row = std::max(cells.top, tblData.FixedRows());
-    undo_.Do([&](TableEdit& edit) { edit.RemoveRows(row, cells.bottom - row + 1); });
+    const int count = cells.bottom - row + 1;
+    undo_.Do([&](TableEdit& edit) { edit.RemoveRows(row, count); });
     MoveTo(row, cells.left);
+    MoveNotices(row, -count);
+}
+
+/// Notices keep to their rows; those of rows that go, go with them.
+void frmData2::MoveNotices(int row, int count) {
+    const int first = row - tblData.FixedRows() + 1; // as notices count
+    std::erase_if(told_, [&](const PasteNotice& notice) {
+        return count < 0 && notice.row >= first && notice.row < first - count;
+    });
+    for (PasteNotice& notice : told_)
+        if (notice.row >= first) notice.row += count;
+    ShowNotice(std::move(told_));
 }
 
 /// The table of a file takes the place of what stood here, in one step that can be undone.
 void frmData2::OpenFile() {
-    const auto path = ui::TheDesktop().Choose({false, {}, {}, "Text tables (*.txt)"});
+    const auto path = ui::TheDesktop().Choose({false, {}, {}, "Text tables (*.txt *.csv *.dat)"});
     if (!path) return;
     std::string error;
     const auto text = ui::TheDesktop().Files().Read(*path, error);
@@ -136,16 +152,17 @@ void frmData2::OpenFile() {
     const int replaced = LastRow() - first + 1;
     PasteTable(undo_, block, first, 0, true);
     MoveTo(first, 0);
-    std::string told = Join(block.notices);
+    std::vector<PasteNotice> told = block.notices;
     if (replaced > 0)
-        told = "The table of the file replaced " + std::to_string(replaced) +
-               (replaced == 1 ? " row" : " rows") + "; Ctrl+Z brings back what stood here" +
-               (told.empty() ? "" : "\n") + told;
-    ShowNotice(told);
+        told.insert(told.begin(), {0, "The table of the file replaced " + std::to_string(replaced) +
+                                          (replaced == 1 ? " row" : " rows") +
+                                          "; Ctrl+Z brings back what stood here"});
+    ShowNotice(std::move(told));
 }
 
 void frmData2::SaveFile() {
-    const auto path = ui::TheDesktop().Choose({true, {}, "table.txt", "Text tables (*.txt)"});
+    const auto path =
+        ui::TheDesktop().Choose({true, {}, "table.txt", "Text tables (*.txt *.csv *.dat)"});
     if (!path) return;
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (files.Exists(*path) && !ui::AskYesNo(*path + " exists already\nReplace it?")) return;
@@ -176,7 +193,7 @@ void frmData2::Action2D() {
     if (!set_ || set_->nVar != 2)
         ui::Say("Only a set with two variables has a table in two dimensions");
     else if (TurnTwoDimensional(undo_, columns_))
-        ShowNotice("");
+        ShowNotice({});
     else
         ui::Say("The table has no values below its top row and behind its left column");
 }
@@ -188,7 +205,7 @@ void frmData2::Split() {
 
 void frmData2::Clear() {
     undo_.Do([this](TableEdit& edit) { edit.Rows(tblData.FixedRows()); });
-    ShowNotice("");
+    ShowNotice({});
     tblData.SetFocus(); // what comes next is typed or pasted there
 }
 

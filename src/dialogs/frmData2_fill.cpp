@@ -51,7 +51,7 @@ void frmData2::TakeRows() {
     adjusted_->AdjustUnits();
     rows_.assign(adjusted_->recData.begin(), adjusted_->recData.end());
     set_->UX = adjusted_->UX;
-    told_ = "Rows in the units of the paper were brought to system units";
+    told_ = {{0, "Rows in the units of the paper were brought to system units"}};
 }
 
 /// The chain that checks and evaluates a row: the property, then its variables.

@@ -11,10 +11,19 @@ namespace {
 
 constexpr std::size_t mostListed = 200; // nobody steps through more
 
+/// The head of a column, with its quantity where several have the same.
+std::string NameOf(int column, const TableColumns& columns) {
+    if (column >= columns.Count()) return "column beside the table";
+    const std::string& head = columns[column].head;
+    const auto same = std::count_if(columns.All().begin(), columns.All().end(),
+                                    [&](const TableColumn& one) { return one.head == head; });
+    if (same < 2) return head;
+    const int quantity = columns.Find(TableColumn::Kind::Value, columns[column].item);
+    return head + " of " + columns[quantity].head;
+}
+
 std::string Line(const Finding& finding, const TableColumns& columns) {
-    const std::string head =
-        finding.column < columns.Count() ? columns[finding.column].head : "column beside the table";
-    return "Row " + std::to_string(finding.row) + ", " + head + ": " +
+    return "Row " + std::to_string(finding.row) + ", " + NameOf(finding.column, columns) + ": " +
            Replace(finding.text, "\n", ". ");
 }
 

@@ -29,7 +29,10 @@ void frmPasteView::Fill(const PastedTable& block) {
         for (std::size_t column = 0; column < block.rows[row].size(); ++column)
             tblBlock.Cell(static_cast<int>(row), static_cast<int>(column), block.rows[row][column]);
     }
-    lstNotices.Assign(block.notices);
+    std::vector<std::string> lines;
+    for (const PasteNotice& notice : block.notices)
+        lines.push_back(notice.Line());
+    lstNotices.Assign(std::move(lines));
     accepted_ = false;
 }
 

@@ -31,8 +31,7 @@ public:
         const auto known = counts_.find(kind);
         if (known == counts_.end()) {
             order_.push_back(kind);
-            firsts_.push_back("row " + std::to_string(firstRow_ + static_cast<int>(row)) + ": " +
-                              text);
+            firsts_.push_back({firstRow_ + static_cast<int>(row), text});
         }
         ++counts_[kind];
     }
@@ -43,21 +42,20 @@ public:
         order_.erase(at);
     }
 
-    std::vector<std::string> Texts() const {
-        std::vector<std::string> texts;
+    std::vector<PasteNotice> All() const {
+        std::vector<PasteNotice> all = firsts_;
         for (std::size_t i = 0; i < order_.size(); ++i) {
             const int more = counts_.at(order_[i]) - 1;
-            texts.push_back(firsts_[i] +
-                            (more > 0 ? " (and " + std::to_string(more) + " more)" : ""));
+            if (more > 0) all[i].text += " (and " + std::to_string(more) + " more)";
         }
-        return texts;
+        return all;
     }
 
 private:
     int firstRow_;
     std::map<std::string, int> counts_;
     std::vector<std::string> order_;
-    std::vector<std::string> firsts_;
+    std::vector<PasteNotice> firsts_;
 };
 
 /// How the numbers of a block mark their decimals.
@@ -165,8 +163,9 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
 /// A dash in front of a number may be its sign.
 void NoteNothing(const std::string& piece, const std::string& next, std::size_t row,
                  Notices& notices) {
-    const bool sign = CodePointCount(piece) == 1 && piece != "." && !next.empty() &&
-                      (IsDigit(next.front()) || next.front() == '.');
+    const bool dash = CodePointCount(piece) == 1 && piece != "." && piece != "\u2026" &&
+                      piece != "\u00b7" && piece != "\u22ef" && piece != plusMinus;
+    const bool sign = dash && !next.empty() && (IsDigit(next.front()) || next.front() == '.');
     if (sign)
         notices.Add("loose sign", row,
                     Quoted(piece + " " + next) + " was read as an empty cell and a number");
@@ -251,7 +250,7 @@ void NoteRagged(const PastedTable& table, Notices& notices) {
 }
 
 std::vector<std::string> LinesOf(std::string_view text) {
-    std::string plain = Replace(Replace(text, "\r\n", "\n"), "\r", "\n");
+    std::string plain = Replace(Replace(Replace(text, "\r\n", "\n"), "\r", "\n"), ";", "\t");
     while (plain.ends_with('\n'))
         plain.pop_back();
     return Split(plain, '\n');
@@ -268,6 +267,10 @@ bool MayPartThousands(std::string_view cell) {
            cell.size() - comma == 4 && IsDigits(cell.substr(comma + 1));
 }
 
+std::string PasteNotice::Line() const {
+    return (row > 0 ? "row " + std::to_string(row) + ": " : "") + text;
+}
+
 std::size_t PastedTable::Columns() const {
     std::size_t columns = 0;
     for (const auto& row : rows)
@@ -279,7 +282,7 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
     PastedTable table;
     Notices notices(firstRow);
     std::vector<std::string> lines = LinesOf(text);
-    const bool tabbed = text.find('\t') != text.npos;
+    const bool tabbed = text.find_first_of("\t;") != text.npos;
     Decimals decimals;
     for (std::size_t row = 0; row < lines.size(); ++row) {
         const std::string plain = PlainCharacters(lines[row], row, notices);
@@ -287,7 +290,7 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
     }
     if (decimals.comma && !decimals.point) notices.Drop("thousands");
     NoteRagged(table, notices);
-    table.notices = notices.Texts();
+    table.notices = notices.All();
     return table;
 }
 
@@ -301,7 +304,7 @@ bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
         edit.Rows(std::max(grid.Rows(), row + rows + 1));
         for (int i = 0; i < rows; ++i) {
             const auto& cells = block.rows[static_cast<std::size_t>(i)];
-            for (std::size_t j = 0; j < columns; ++j)
+            for (std::size_t j = 0; j < std::max(columns, cells.size()); ++j)
                 edit.Cell(row + i, column + static_cast<int>(j),
                           j < cells.size() ? cells[j] : std::string());
         }

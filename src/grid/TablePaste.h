@@ -8,13 +8,20 @@
 
 namespace vexora {
 
-/// A text table cleaned for a grid: "," is a decimal point, runs of blanks and tabs part columns,
-/// line ends part rows; a dash for no value becomes an empty cell and a plus-minus sign parts a
-/// value from its uncertainty. The notices name what the cleaning had to guess or could not mend,
-/// one for each kind of trouble with its first place; a plain table has none.
+/// What a paste had to guess or could not mend, with the row where it happened first; 0 for none.
+struct PasteNotice {
+    int row = 0;
+    std::string text;
+    std::string Line() const;
+};
+
+/// A text table cleaned for a grid: "," is a decimal point, runs of blanks, tabs and ";" part
+/// columns, line ends part rows; a dash for no value becomes an empty cell and a plus-minus sign
+/// parts a value from its uncertainty. The notices name what the cleaning had to guess or could not
+/// mend, one for each kind of trouble with its first place; a plain table has none.
 struct PastedTable {
     std::vector<std::vector<std::string>> rows;
-    std::vector<std::string> notices;
+    std::vector<PasteNotice> notices;
     /// Columns up to the last one that holds something.
     std::size_t Columns() const;
 };

@@ -62,6 +62,14 @@ TEST_F(frmData2EditTest, NoticesOfAPasteStandBelowTheTable) {
     OpenTable();
     Paste("275 1,234");
     EXPECT_EQ(form_->lblNotice.Caption(), "row 1: \"1,234\" became 1.234");
+    Paste("T/K rho\n275 1,234.5");
+    form_->tblData.SetFocus();
+    Press("Ctrl+-"); // the heads
+    EXPECT_EQ(form_->lblNotice.Caption(), "row 1: \"1,234.5\" became 1.234.5, which is no number");
+    Press("Ctrl++");
+    EXPECT_EQ(form_->lblNotice.Caption().substr(0, 7), "row 2: ");
+    Press("Ctrl+-");
+    Paste(""); // a picture was copied
     desktop.ClipboardText("280 999.8(2)");
     desktop.OnModal([](ui::Form& form) {
         auto& view = dynamic_cast<frmPasteView&>(form);
@@ -251,7 +259,7 @@ TEST_F(frmData2EditTest, CountsOfDigitsFollowATextThatIsTypedAnew) {
     Press("Num*");
     EXPECT_EQ(form_->TableText(), "275.0\t4\t99.8\t4\t0.1\n2850\t3\t1100\t2\t0.1\n");
     form_->tblData.UserCell(2, 1, "2.5");
-    EXPECT_EQ(Findings().substr(0, 35), "Row 2, Digits: Invalid number. Corr");
+    EXPECT_EQ(Findings().substr(0, 39), "Row 2, Digits of Var1: Invalid number. ");
 }
 
 TEST_F(frmData2EditTest, OpenCellTakesUndoAndPasteAsTheTableDoes) {

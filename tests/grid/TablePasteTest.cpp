@@ -19,8 +19,8 @@ std::string Rows(const PastedTable& table) {
 
 std::string Notices(const PastedTable& table) {
     std::string text;
-    for (const std::string& notice : table.notices)
-        text += (text.empty() ? "" : "; ") + notice;
+    for (const PasteNotice& notice : table.notices)
+        text += (text.empty() ? "" : "; ") + notice.Line();
     return text;
 }
 
@@ -42,6 +42,7 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
         {"1.0\t2.0\t\r\n1.1\t2.1\r\n\r\n", "1.0|2.0|;1.1|2.1;", ""},
         {"1.0\t2.0\r1.1\t2.1\r", "1.0|2.0;1.1|2.1;", ""},
         {"\ufeff1.0\t2\u200b.0\n1.1\u00ad\t2.1", "1.0|2.0;1.1|2.1;", ""},
+        {"300,15;0,5;\n310,15;1,241;", "300.15|0.5|;310.15|1.241|;", ""},
         {"1.5\t-2e-3\n+.5\t3E5", "1.5|-2e-3;+.5|3E5;", ""},
         {"5%\t1.0", "5%|1.0;", ""},
         {"1.0\t\t3.0\n1.1\t2.0\t3.1", "1.0||3.0;1.1|2.0|3.1;", ""},
@@ -86,9 +87,9 @@ TEST_F(TablePasteTest, EachHazardIsNamedAndPlainTablesAreNot) {
          "row 1: a typeset minus was read as \"-\"; "
          "row 1: \"1.5\u00d710-3\" is no number"},
         {"300\tn/a\n310\t1.5", "300|n/a;310|1.5;", "row 1: \"n/a\" is no number"},
-        {"300 \u2014 1\n310 - \u2026\n320 2 3", "300||1;310||;320|2|3;",
+        {"300 \u2014 1\n310 - \u2026\n320 \u2026 3", "300||1;310||;320||3;",
          "row 1: \"\u2014 1\" was read as an empty cell and a number; "
-         "row 2: \"-\" was read as an empty cell (and 1 more)"},
+         "row 2: \"-\" was read as an empty cell (and 2 more)"},
         {"300\t\u2013\n310\t...", "300|;310|;",
          "row 1: \"\u2013\" was read as an empty cell (and 1 more)"},
     };
