@@ -50,7 +50,8 @@ std::string CleanCell(const TableColumn& column, const std::string& cell) {
 bool IsEmptyRow(const ui::Grid& grid, const TableColumns& columns, int row) {
     for (int column = 0; column < grid.Columns(); ++column) {
         const bool isFigure = column < columns.Count() && columns[column].kind == Kind::KVO;
-        if (!isFigure && !grid.Cell(row, column).empty()) return false;
+        const std::string& cell = grid.Cell(row, column);
+        if (!cell.empty() && !(isFigure && cell == "Error")) return false;
     }
     return true;
 }

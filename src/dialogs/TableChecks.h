@@ -21,7 +21,7 @@ struct Finding {
 
 /// A cell without the blanks and commas of pasting, a "%" at its end kept.
 std::string CleanCell(const TableColumn& column, const std::string& cell);
-/// Nothing stands in the row but, at most, the figure of an evaluation.
+/// Nothing stands in the row but, at most, that its evaluation has failed.
 bool IsEmptyRow(const ui::Grid& grid, const TableColumns& columns, int row);
 
 /// The entries of one row that are missing or no numbers, first those of the values and then those

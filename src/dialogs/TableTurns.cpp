@@ -47,9 +47,8 @@ struct Triple {
     std::string first, second, value;
 };
 
-std::vector<Triple> TriplesOf(const Cells& cells) {
+std::vector<Triple> TriplesOf(const Cells& cells, const std::vector<std::string>& top) {
     std::vector<Triple> triples;
-    const std::vector<std::string> top = TopRow(cells);
     for (std::size_t row = 1; row < cells.size(); ++row) {
         for (std::size_t column = 1; column < cells[row].size(); ++column) {
             const std::string& value = cells[row][column];
@@ -66,6 +65,17 @@ bool IsEmptyBehind(const ui::Grid& grid, int column) {
     return true;
 }
 
+bool AnyOutside(const ui::Grid& grid, const ui::Grid::Block& block) {
+    for (int row = grid.FixedRows(); row < grid.Rows(); ++row) {
+        for (int column = 0; column < grid.Columns(); ++column) {
+            const bool inside = row >= block.top && row <= block.bottom && column >= block.left &&
+                                column <= block.right;
+            if (!inside && !grid.Cell(row, column).empty()) return true;
+        }
+    }
+    return false;
+}
+
 /// The columns beside those of the table go when they are empty, and come back with an undo.
 std::function<void(bool)> Narrowing(ui::Grid& grid, const TableColumns& columns) {
     const int extra = std::max(grid.Columns() - columns.Count(), 0);
@@ -78,13 +88,14 @@ std::function<void(bool)> Narrowing(ui::Grid& grid, const TableColumns& columns)
 
 } // namespace
 
-bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
+std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
     using Kind = TableColumn::Kind;
     const int second = columns.Find(Kind::Value, 2);
     const Cells cells = TextsOf(table.Table());
-    if (second < 0 || cells.size() < 2) return false;
-    const std::vector<Triple> triples = TriplesOf(cells);
-    if (triples.empty()) return false;
+    if (second < 0 || cells.size() < 2) return {};
+    const std::vector<std::string> top = TopRow(cells);
+    const std::vector<Triple> triples = TriplesOf(cells, top);
+    if (triples.empty()) return {};
     const auto writer = [&](TableEdit& edit) {
         const int fixed = table.Table().FixedRows();
         edit.Rows(fixed);
@@ -96,7 +107,8 @@ bool TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
             edit.Cell(row++, columns.Find(Kind::Value, 0), triple.value);
         }
     };
-    return table.Do(writer, Narrowing(table.Table(), columns));
+    table.Do(writer, Narrowing(table.Table(), columns));
+    return top.front();
 }
 
 bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
@@ -111,7 +123,7 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
         any = any || Width(texts) > 0;
         moved.push_back(std::move(texts));
     }
-    if (!any) return false;
+    if (!any || !AnyOutside(grid, block)) return false;
     const auto writer = [&](TableEdit& edit) {
         for (int row = std::max(block.top, grid.FixedRows()); row <= block.bottom; ++row) {
             for (int column = block.left; column <= block.right; ++column)

@@ -9,6 +9,7 @@
 #include "grid/TablePaste.h"
 #include "records/SafeFile.h"
 #include "records/clsTwo.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -190,12 +191,21 @@ int frmData2::LastRow() const {
 }
 
 void frmData2::Action2D() {
-    if (!set_ || set_->nVar != 2)
+    if (!set_ || set_->nVar != 2) {
         ui::Say("Only a set with two variables has a table in two dimensions");
-    else if (TurnTwoDimensional(undo_, columns_))
-        ShowNotice({});
-    else
+        return;
+    }
+    const auto corner = TurnTwoDimensional(undo_, columns_);
+    if (!corner) {
         ui::Say("The table has no values below its top row and behind its left column");
+        return;
+    }
+    // Mostly a table that was in rows already.
+    if (IsNumeric(*corner))
+        ShowNotice({{0, "The number in the corner, " + *corner +
+                            ", was left out; Ctrl+Z brings the printed table back"}});
+    else
+        ShowNotice({});
 }
 
 void frmData2::Split() {

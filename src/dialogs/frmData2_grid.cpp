@@ -60,6 +60,9 @@ void frmData2::GridKeys(ui::Key& key) {
     } else if (name == "Ctrl+Y") {
         key.swallowed = true;
         mnuRedo.UserClick();
+    } else if (name == "Shift+Insert" || name == "Ctrl+Insert" || name == "Shift+Delete") {
+        key.swallowed = true;
+        (name == "Shift+Insert" ? mnuPaste : name == "Ctrl+Insert" ? mnuCopy : mnuCut).UserClick();
     } else if (name == "Ctrl+Shift++" || name == "Ctrl+=") { // where "+" stands on other keyboards
         key.swallowed = true;
         mnuInsertRows.UserClick();

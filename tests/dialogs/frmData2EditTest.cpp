@@ -20,6 +20,7 @@ TEST_F(frmData2EditTest, TableInTwoDimensionsBecomesOneRowForEachCell) {
     EXPECT_EQ(form_->tblData.Columns(), 5);
     form_->mnuAction2D.UserClick();
     const std::string turned = Cells();
+    EXPECT_EQ(form_->lblNotice.Caption(), "");
     EXPECT_EQ(turned, "Var1|Var2|Property|KVO Uncert.;300|101.3|996.5|;300|200|996.6|;"
                       "300|400|996.8|;310|101.3|993.3|;310|200|993.4|;310|300|993.5|;"
                       "310|400|993.6|;|||;");
@@ -40,6 +41,18 @@ TEST_F(frmData2EditTest, TableInTwoDimensionsBecomesOneRowForEachCell) {
     EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
 }
 
+TEST_F(frmData2EditTest, NumberInTheCornerIsNotLeftOutUntold) {
+    TwoVariables();
+    OpenTable();
+    Paste("300 0.1 996.6\n310 0.2 993.3"); // rows already
+    form_->mnuAction2D.UserClick();
+    EXPECT_EQ(form_->lblNotice.Caption(),
+              "The number in the corner, 300, was left out; Ctrl+Z brings the printed table back");
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->lblNotice.Caption(), "");
+    EXPECT_EQ(form_->tblData.Cell(1, 0), "300");
+}
+
 TEST_F(frmData2EditTest, SelectedBlockMovesBelowTheTable) {
     OpenTable();
     Paste("275 999.8 450 890.3\n280 999.7 625 567.0");
@@ -48,6 +61,9 @@ TEST_F(frmData2EditTest, SelectedBlockMovesBelowTheTable) {
     EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;450|890.3|;"
                        "625|567.0|;||;");
     EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 2, 1, 2}));
+    Press("Ctrl+A");
+    desktop.Expect("Select the block that is to stand below the table");
+    form_->mnuSplit.UserClick();
 }
 
 TEST_F(frmData2EditTest, BlockThatIsTooWideIsRefusedWhole) {
@@ -316,7 +332,9 @@ TEST_F(frmData2EditTest, OneValuePastedFillsTheSelection) {
     OpenTable();
     Paste("275 1\n280 2\n285 3");
     form_->tblData.UserSelect({1, 1, 3, 1});
-    Paste("999,8\r\n");
+    form_->tblData.SetFocus();
+    desktop.ClipboardText("999,8\r\n");
+    Press("Shift+Insert");
     EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.8|;285|999.8|;||;");
     form_->mnuUndo.UserClick();
     EXPECT_EQ(form_->tblData.Cell(2, 1), "2");

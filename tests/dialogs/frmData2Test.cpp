@@ -279,6 +279,10 @@ TEST_F(frmData2Test, FigureThatIsNoNumberIsRefusedAndNotDropped) {
     desktop.Expect("Invalid number\nCorrect it or clear the cell");
     form_->cmdSave.UserClick();
     form_->tblData.UserCell(1, 2, "0.50");
+    form_->tblData.UserCell(2, 2, "0.7"); // of no value
+    desktop.Expect("Missing value\nEnter the value or clear the line");
+    form_->cmdSave.UserClick();
+    form_->tblData.UserCell(2, 2, "");
     Accept();
     EXPECT_EQ(Rows(), "275 999.8 0.50;");
 }
