@@ -87,14 +87,8 @@ void frmData2::WireMenus() {
     };
     on(mnuFileOpen, [this] { OpenFile(); });
     on(mnuFileSave, [this] { SaveFile(); });
-    on(mnuUndo, [this] {
-        ShowNotice({});
-        undo_.Undo();
-    });
-    on(mnuRedo, [this] {
-        ShowNotice({});
-        undo_.Redo();
-    });
+    on(mnuUndo, [this] { StepBack(undo_.CanUndo(), [this] { undo_.Undo(); }); });
+    on(mnuRedo, [this] { StepBack(undo_.CanRedo(), [this] { undo_.Redo(); }); });
     const auto copy = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
     on(mnuCopy, copy);
     on(mnuCut, [this, copy] {

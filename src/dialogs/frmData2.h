@@ -111,6 +111,7 @@ private:
     void PutIn(const PastedTable& block, int row, int column);
     bool MakesRoomFor(const PastedTable& block, int row, int column, bool isEmpty);
     void EmptyCells();
+    void StepBack(bool can, const std::function<void()>& step);
     void InsertRows();
     void RemoveRows();
     void OpenFile();

@@ -107,6 +107,17 @@ void frmData2::EmptyCells() {
     Enter(cells.left, cells.right, [this] { EmptySelection(undo_); });
 }
 
+/// Through the history; what has changed beside the selected rows comes into sight.
+void frmData2::StepBack(bool can, const std::function<void()>& step) {
+    ShowNotice({});
+    if (!can) return;
+    step();
+    const ui::Grid::Block& cells = tblData.Selection();
+    if (cells.bottom >= undo_.FirstRow() && cells.top <= undo_.LastRow()) return;
+    const int row = std::min(undo_.FirstRow(), tblData.Rows() - 1);
+    tblData.Show({row, cells.left, row, cells.left});
+}
+
 /// As many empty rows as are selected, in front of them.
 void frmData2::InsertRows() {
     const ui::Grid::Block cells = tblData.Selection();

@@ -203,8 +203,8 @@ bool Grid::Move(const Key& key) {
     const auto anchor = anchor_;
     const auto cursor = Step(key, key.shift ? cursor_ : anchor_);
     const auto from = key.shift ? anchor : cursor;
-    Select({std::min(from.first, cursor.first), std::min(from.second, cursor.second),
-            std::max(from.first, cursor.first), std::max(from.second, cursor.second)});
+    Show({std::min(from.first, cursor.first), std::min(from.second, cursor.second),
+          std::max(from.first, cursor.first), std::max(from.second, cursor.second)});
     anchor_ = from;
     cursor_ = cursor;
     return true;

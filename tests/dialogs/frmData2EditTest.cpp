@@ -336,8 +336,10 @@ TEST_F(frmData2EditTest, OneValuePastedFillsTheSelection) {
     desktop.ClipboardText("999,8\r\n");
     Press("Shift+Insert");
     EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.8|;285|999.8|;||;");
+    form_->tblData.UserSelect({4, 1, 4, 1});
     form_->mnuUndo.UserClick();
     EXPECT_EQ(form_->tblData.Cell(2, 1), "2");
+    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 1, 1, 1})); // what has changed is seen
 }
 
 } // namespace

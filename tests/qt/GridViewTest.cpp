@@ -90,6 +90,22 @@ TEST_F(GridViewTest, KeysKeepTheirCellInSight) {
         view->viewport()->rect().intersects(view->visualRect(view->model()->index(999, 0))));
 }
 
+TEST_F(GridViewTest, CellThatIsSelectedAlreadyComesBackIntoSight) {
+    ASSERT_NE(view, nullptr);
+    actor.PressKey(form->tblData, ui::ParseKey("Ctrl+Home"));
+    const auto inSight = [this] {
+        return view->viewport()->rect().intersects(view->visualRect(view->model()->index(0, 0)));
+    };
+    view->verticalScrollBar()->setValue(500);
+    ASSERT_FALSE(inSight());
+    form->tblData.Show({1, 0, 1, 0}); // a finding is clicked again
+    actor.Settle();
+    EXPECT_TRUE(inSight());
+    view->verticalScrollBar()->setValue(500);
+    actor.PressKey(form->tblData, ui::ParseKey("Ctrl+Home"));
+    EXPECT_TRUE(inSight());
+}
+
 TEST_F(GridViewTest, RightClickOffersTheMenuOfTheCells) {
     ASSERT_NE(view, nullptr);
     emit view->customContextMenuRequested(QPoint(10, 10));
