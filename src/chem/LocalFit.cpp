@@ -22,6 +22,7 @@ constexpr double timesWhole = 8;          // the scatter of the whole curve
 constexpr double timesNeighbour = 10;     // what the neighbours miss without the point
 constexpr std::size_t calmReach = 2;      // so many on each side
 constexpr double timesDigit = 4;          // the last digit
+constexpr std::size_t pairReach = 5;      // two misprints so close may hide each other
 constexpr double madToDeviation = 1.4826; // of normally distributed errors
 
 constexpr std::array<Degree, 3> degrees{{{2, 8}, {3, 10}, {4, 10}}};
@@ -111,6 +112,40 @@ FitVerdict VerdictOn(const Curve& curve, std::size_t at, const BestFit& whole) {
     return IsCalmWithout(curve, at, fit.degree, size) ? FitVerdict::Far : FitVerdict::Near;
 }
 
+/// It stands out on the whole curve, but its neighbours scatter too much to tell.
+bool IsSuspect(const Curve& curve, std::size_t at, const BestFit& whole) {
+    const auto verdict = Judge(curve, at, whole.degree, at);
+    return verdict && verdict->Size() > timesWhole * whole.scatter &&
+           !IsRounding(verdict->Size(), DigitAt(curve, at, whole.degree.neighbours));
+}
+
+/// The verdict on a point as if another one beside it were not in the table.
+FitVerdict VerdictWithout(const Curve& curve, std::size_t at, std::size_t other,
+                          const BestFit& whole) {
+    constexpr std::size_t reach = shortCurve + 10; // enough for a fit, and no copy of a long curve
+    const std::size_t from = at > reach ? at - reach : 0;
+    const std::size_t to = std::min(at + reach + 1, curve.size());
+    const auto place = [&curve](std::size_t i) {
+        return curve.begin() + static_cast<std::ptrdiff_t>(i);
+    };
+    Curve others(place(from), place(other));
+    others.insert(others.end(), place(other + 1), place(to));
+    const bool isShort = curve.size() <= shortCurve;
+    const BestFit fit = isShort ? BestFitOf(others).value_or(whole) : whole;
+    return VerdictOn(others, at - from - (other < at ? 1 : 0), fit);
+}
+
+/// Far once the other one is gone. Two side by side that deviate to the same side are rather a peak
+/// of the curve.
+bool IsFarWithout(const Curve& curve, std::size_t at, std::size_t other, const BestFit& whole) {
+    if (at + 1 == other || other + 1 == at) {
+        const auto one = Judge(curve, at, whole.degree, other);
+        const auto two = Judge(curve, other, whole.degree, at);
+        if (!one || !two || one->residual * two->residual > 0) return false;
+    }
+    return VerdictWithout(curve, at, other, whole) == FitVerdict::Far;
+}
+
 template <class Turn>
 Curve Turned(const Curve& curve, const Turn& turn) {
     Curve turned = curve;
@@ -124,23 +159,75 @@ void TakeLogarithm(FitPoint& point) {
     point.y = std::log(point.y);
 }
 
+/// A curve as it is looked at, with the fit to be judged by; none for one that cannot be judged.
+struct View {
+    explicit View(Curve turned) : curve(std::move(turned)), fit(BestFitOf(curve)) {}
+    Curve curve;
+    std::optional<BestFit> fit;
+};
+
 /// All the views of a curve in which a point has to be far.
-std::vector<Curve> ViewsOf(const Curve& curve, FitScale scale) {
+std::vector<View> ViewsOf(const Curve& curve, FitScale scale) {
     const bool isPositive =
         std::all_of(curve.begin(), curve.end(), [](const FitPoint& point) { return point.y > 0; });
     const double first = curve.front().x;
     const double last = curve.back().x;
+    std::vector<View> views;
     if (scale == FitScale::Vapor && isPositive && first > 0) {
-        return {Turned(curve, [](FitPoint& point) {
+        views.emplace_back(Turned(curve, [](FitPoint& point) {
             point.x = 1 / point.x;
             TakeLogarithm(point);
-        })};
+        }));
+        return views;
     }
-    std::vector<Curve> views{curve};
-    if (isPositive) views.push_back(Turned(curve, TakeLogarithm));
+    views.emplace_back(curve);
+    if (isPositive) views.emplace_back(Turned(curve, TakeLogarithm));
     if (first > 0 && last > 10 * first)
-        views.push_back(Turned(curve, [](FitPoint& point) { point.x = std::log(point.x); }));
+        views.emplace_back(Turned(curve, [](FitPoint& point) { point.x = std::log(point.x); }));
     return views;
+}
+
+std::vector<FitVerdict> WorstVerdicts(const std::vector<View>& views, std::size_t count) {
+    std::vector<FitVerdict> worst(count, FitVerdict::Far);
+    for (const View& view : views)
+        for (std::size_t i = 0; i < count; ++i)
+            worst[i] = view.fit ? std::min(worst[i], VerdictOn(view.curve, i, *view.fit))
+                                : FitVerdict::None;
+    return worst;
+}
+
+/// Points inside the curve that stand out in every view, be they far already or not.
+std::vector<std::size_t> Suspects(const std::vector<View>& views,
+                                  const std::vector<FitVerdict>& verdicts) {
+    std::vector<std::size_t> suspects;
+    for (std::size_t i = 1; i + 1 < verdicts.size(); ++i) {
+        const auto standsOut = [i](const View& view) {
+            return view.fit && IsSuspect(view.curve, i, *view.fit);
+        };
+        if (verdicts[i] == FitVerdict::Far ||
+            (verdicts[i] == FitVerdict::Near && std::ranges::all_of(views, standsOut)))
+            suspects.push_back(i);
+    }
+    return suspects;
+}
+
+/// Finds misprints that hide each other, or that one already found hides.
+void MarkPairs(const std::vector<View>& views, std::vector<FitVerdict>& verdicts) {
+    const std::vector<FitVerdict> alone = verdicts;
+    const std::vector<std::size_t> suspects = Suspects(views, verdicts);
+    const auto isFar = [&](std::size_t at, std::size_t other) {
+        return alone[at] == FitVerdict::Far || std::ranges::all_of(views, [&](const View& view) {
+                   return IsFarWithout(view.curve, at, other, *view.fit);
+               });
+    };
+    for (std::size_t a = 0; a < suspects.size(); ++a) {
+        for (std::size_t b = a + 1; b < suspects.size(); ++b) {
+            const std::size_t one = suspects[a];
+            const std::size_t two = suspects[b];
+            if (two - one > pairReach) break;
+            if (isFar(one, two) && isFar(two, one)) verdicts[one] = verdicts[two] = FitVerdict::Far;
+        }
+    }
 }
 
 /// Rows that agree in all variables but one.
@@ -179,12 +266,9 @@ std::vector<FitVerdict> LocalFit(const std::vector<FitPoint>& points, FitScale s
     Curve curve;
     for (const std::size_t at : order)
         curve.push_back(points[at]);
-    std::vector<FitVerdict> worst(curve.size(), FitVerdict::Far);
-    for (const Curve& view : ViewsOf(curve, scale)) {
-        const auto fit = BestFitOf(view);
-        for (std::size_t i = 0; i < worst.size(); ++i)
-            worst[i] = fit ? std::min(worst[i], VerdictOn(view, i, *fit)) : FitVerdict::None;
-    }
+    const std::vector<View> views = ViewsOf(curve, scale);
+    std::vector<FitVerdict> worst = WorstVerdicts(views, curve.size());
+    MarkPairs(views, worst);
     // A curve may run to a singular end.
     if (scale == FitScale::Plain) worst.front() = worst.back() = FitVerdict::None;
     for (std::size_t i = 0; i < order.size(); ++i)

@@ -27,7 +27,8 @@ enum class FitVerdict { None, Near, Far };
 /// Whether each point of a curve lies far from what its neighbours say. Far is a point that a
 /// polynomial through up to ten neighbours misses by many times both their own scatter and the
 /// scatter of the whole curve, by more than the typed digits explain, and that still does so when
-/// any one of the neighbours is left out; without it the neighbours have to fit to one another.
+/// any one of the neighbours is left out; without it the neighbours have to fit to one another. So
+/// are two points within five rows that are far once the other one is left out.
 /// Where y is positive its logarithm has to say the same, so that a steep but smooth curve has no
 /// such points; so has the logarithm of x where x runs over decades. Fewer than 12 points give no
 /// verdict, and the plain scale none on the first and the last one. The time grows as n log n.

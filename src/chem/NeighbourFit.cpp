@@ -29,7 +29,7 @@ public:
         for (std::size_t k = 0; k <= degree.degree; ++k)
             if (!Add(k)) return false;
         const auto free = static_cast<double>(near.count - degree.degree - 1);
-        verdict = {std::abs(fitted_), std::sqrt(Product(left_, left_) / free), std::sqrt(spread_)};
+        verdict = {fitted_, std::sqrt(Product(left_, left_) / free), std::sqrt(spread_)};
         return true;
     }
     Verdict verdict;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -18,11 +19,11 @@ struct Degree {
 
 /// What the neighbours of a point say about it.
 struct Verdict {
-    double residual = 0; // of the point against the fit
+    double residual = 0; // of the fit against the point
     double scatter = 0;  // of the neighbours about the fit
     double spread = 1;   // of an error of the neighbours at the point
 
-    double Size() const { return residual / spread; }
+    double Size() const { return std::abs(residual) / spread; }
 };
 
 /// The points next to one on the curve, but for it and one other; that may be itself.

@@ -66,6 +66,27 @@ TEST(LocalFit, ASwappedDigitOfAVaporPressureIsFarAndNothingElse) {
     EXPECT_GE(found, 95); // of some 105
 }
 
+TEST(LocalFit, TwoMisprintsBesideEachOtherDoNotHide) {
+    int found = 0;
+    for (std::size_t row = 2; row + 8 < vaporPressures.size(); ++row) {
+        const std::size_t other = row + 1 + row % 5;
+        Table table = vaporPressures;
+        for (const std::size_t at : {row, other}) {
+            std::string& y = table[at].second;
+            std::swap(y[y.size() - 2], y[y.size() - 4]);
+        }
+        const std::string both = std::to_string(row) + " " + std::to_string(other);
+        const std::string far = FarText(table, FitScale::Vapor);
+        EXPECT_TRUE(both.find(far) != both.npos) << both << ": " << far;
+        if (far == both) ++found;
+    }
+    EXPECT_GE(found, 15) << "of 30";
+    const auto density = [](double t) { return 1000 - 0.003 * std::pow(t - 277, 2); };
+    Table table = Tabulated(density, 274, 5, 40, 6);
+    std::swap(table[20].second, table[21].second);
+    EXPECT_EQ(FarText(table, FitScale::Plain), "20 21");
+}
+
 TEST(LocalFit, SmoothCurvesHaveNoFarPoints) {
     const auto density = [](double t) { return 1000 - 0.003 * std::pow(t - 277, 2); };
     const auto sound = [](double t) { return 250 + 60 * std::pow(std::abs(t - 647.1), 0.4); };
