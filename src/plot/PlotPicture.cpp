@@ -86,7 +86,8 @@ void DrawTicksX(std::vector<Stroke>& strokes, const Plot& plot) {
         const double x = Across(plot, *position);
         strokes.push_back(Line(x, plot.top, x, plot.bottom, faint));
         strokes.push_back(Line(x, plot.bottom, x, plot.bottom + tickLength));
-        if (x - last < leastAside) continue;
+        const auto length = static_cast<double>(NumberText(tick).size());
+        if (x - last < std::max(leastAside, (length + 1) * characterWidth)) continue;
         strokes.push_back(TickLabel(x, plot.bottom + 10, tick, Align::Centre));
         last = x;
     }

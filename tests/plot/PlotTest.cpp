@@ -181,5 +181,19 @@ TEST(Plot, MarkersAndBarsShowWhatIsThere) {
     EXPECT_EQ(seen, "1/0 1/0 2/1 2/1 1/0 2/1 ");
 }
 
+TEST(Plot, LongLabelsLeaveRoomForEachOther) {
+    PlotTable table = TableOf({{1, 1234567890, 0}, {2, 1234567899.5, 0}});
+    const PlotScale scale = ScaleOf(table, false);
+    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const Plot plot{table, scale, 1, families, true};
+    std::vector<double> places;
+    for (const auto& one : PlotPicture(plot))
+        if (one.text.starts_with("12345678")) places.push_back(one.x);
+    ASSERT_GT(places.size(), 3U);
+    constexpr double wide = 10 * 9.0 + 5; // ten digits of the drawing's font and a gap
+    for (std::size_t i = 1; i < places.size(); ++i)
+        EXPECT_GT(places[i] - places[i - 1], wide);
+}
+
 } // namespace
 } // namespace vexora::test
