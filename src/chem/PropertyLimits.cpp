@@ -29,8 +29,8 @@ constexpr Rule HardLimits[] = {
     {"CP CV CS CPV CVV CPW H/T S M# J#", 0, None},
     {"G/T", -None, 0},
     {"RID RIX", 1, None, true},
-    {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S WU XU WL XL WA XA WE XE WC XC",
-     0, 1},
+    // "WL" without a number is a wavelength.
+    {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S", 0, 1},
     {"KT KP KX KM KJ EE YRC PHx PHM PHM# PHJ PHJ# RSS Z ZC VLC VLR CGM", 0, None},
     {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC", 0, None},
 };
