@@ -8,6 +8,7 @@
 #include "records/clsA.h"
 #include "records/clsR.h"
 #include "reference/Conversions.h"
+#include "reference/UnitText.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 

@@ -50,23 +50,6 @@ int FlagBits(std::string_view flags) {
     return static_cast<int>(ParseInteger(flags).value_or(0) & keptBits);
 }
 
-double FactorInUnit(std::string_view code, double factor) {
-    return factor <= 0 && IsNumeric(code) ? Val(code) : factor;
-}
-
-std::string UnitText(const std::string& systemUnit, std::string_view code, double factor) {
-    const bool isOne = systemUnit == unitOne;
-    std::string known(code);
-    if (factor <= 0 && !isOne && !IsSystemUnit(code)) { // a number may be the code of a named unit
-        const std::string text = ConversionText(known, systemUnit);
-        if (!text.empty()) return text;
-    }
-    factor = FactorInUnit(code, factor);
-    if (factor > 0) return NumberText(factor) + (isOne ? "*" : "* " + systemUnit);
-    if (isOne) return "Dimensionless";
-    return IsSystemUnit(code) ? systemUnit : std::string(code);
-}
-
 std::string UnitCode(const PropertyRow& row, std::string_view text) {
     if (text == "Dimensionless") return "D";
     return text == row.Unit ? "S" : ConversionCodeOf(text, row.Unit);

@@ -34,12 +34,6 @@ bool AllowsTable(const PropertyRow& row, int variableCount);
 /// The bits of a PRPFLAG field that a record keeps; a text that is no number is 0.
 int FlagBits(std::string_view flags);
 
-/// The factor that stands for a unit: the user's own, or the code itself when it is a number; 0 for
-/// none.
-double FactorInUnit(std::string_view code, double factor);
-/// A conversion code with its factor as the user reads it: "2.5* kPa" for an own factor, else the
-/// name of the unit; the code itself where no table knows it.
-std::string UnitText(const std::string& systemUnit, std::string_view code, double factor);
 /// The code of a unit in the list of a property; "S" for one without a row.
 std::string UnitCode(const PropertyRow& row, std::string_view text);
 /// Name and system unit as messages show them.

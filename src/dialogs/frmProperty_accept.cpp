@@ -8,6 +8,7 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "ui/Desktop.h"
 
 namespace vexora {

@@ -9,6 +9,7 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 

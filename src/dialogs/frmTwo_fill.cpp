@@ -14,6 +14,7 @@
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 
 namespace vexora {
 

@@ -6,6 +6,7 @@
 #include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
+#include "reference/UnitText.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -135,12 +136,12 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
     const clsX item = FromControls(0);
     const double stated = item.iCU ? std::abs(StatedFigure(item.CValue, head.Value)) : 0;
     if (stated > head.PRECISION) {
-        lblFigures.Caption("Combined uncertainty as stated: " + FormatValue(stated, shownDigits) +
-                           " " + item.Unit);
+        lblFigures.Caption("Combined uncertainty as stated: " +
+                           NumberWithUnit(FormatValue(stated, shownDigits), item.Unit));
         return;
     }
     lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
-                       FormatValue(head.PRECISION, shownDigits) + " " + item.Unit +
+                       NumberWithUnit(FormatValue(head.PRECISION, shownDigits), item.Unit) +
                        "; in the system unit " + FormatValue(head.SystemPrecision, shownDigits));
 }
 

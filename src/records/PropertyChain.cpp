@@ -7,6 +7,7 @@
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 
 #include <algorithm>
@@ -19,13 +20,6 @@ namespace {
 
 std::string WithUnit(const std::string& name, const std::string& unit) {
     return unit.empty() || unit == "1" ? name : name + ", " + unit;
-}
-
-std::string UnitInWords(std::string code, double factor, const std::string& systemUnit) {
-    if (factor > 0) return NumberText(factor) + "* " + systemUnit;
-    if (systemUnit == "1" || IsSystemUnit(code)) return systemUnit;
-    const std::string text = ConversionText(code, systemUnit);
-    return text.empty() ? code : text;
 }
 
 std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& unit,
@@ -68,7 +62,7 @@ void NameProperty(clsX& item, const std::string& code, const std::string& unit, 
     item.PRPCODE = code;
     const auto row = FindProperty(code);
     item.Name = row ? row->Property : code;
-    item.Unit = row ? UnitInWords(unit, factor, row->Unit) : std::string();
+    item.Unit = row ? UnitText(row->Unit, unit, factor) : std::string();
 }
 
 void NameVariable(clsX& item, int n, const std::string& code, const std::string& unit) {
@@ -77,7 +71,7 @@ void NameVariable(clsX& item, int n, const std::string& code, const std::string&
     item.PRPCODE = code;
     const auto row = FindVariable(code);
     item.Name = row ? row->IndVariable : code;
-    item.Unit = row ? UnitInWords(unit, 0, row->Unit) : std::string();
+    item.Unit = row ? UnitText(row->Unit, unit, 0) : std::string();
 }
 
 /// What stays the same for all rows has its statements behind those of the variables.

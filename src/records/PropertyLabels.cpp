@@ -2,8 +2,8 @@
 
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
-#include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora {
@@ -16,11 +16,8 @@ template <class Set>
 std::string UnitOf(const Set& value) {
     const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
     if (!value.isOriginalUnit) return unit;
-    if (value.Factor > 0) return "*" + NumberText(value.Factor) + " " + unit;
-    if (IsSystemUnit(value.PROPERTY_UNIT)) return unit;
-    std::string code = value.PROPERTY_UNIT;
-    const std::string text = ConversionText(code, unit);
-    return text.empty() ? value.PROPERTY_UNIT : text;
+    const double factor = FactorInUnit(value.PROPERTY_UNIT, value.Factor);
+    return unit == "1" && factor <= 0 ? unit : UnitText(unit, value.PROPERTY_UNIT, value.Factor);
 }
 
 template <class Set>

@@ -28,10 +28,6 @@ std::string ReadingPage::Html() const {
     return html;
 }
 
-std::string WithUnit(const std::string& number, const std::string& unit) {
-    return unit.empty() || unit == "1" ? number : number + " " + unit;
-}
-
 std::string MethodText(const clsA& header, const std::string& propertyCode) {
     const std::string& comment = header.DATACOMMENT;
     const std::string code = CommentTag(comment, "Method");

@@ -27,8 +27,6 @@ private:
     std::vector<std::string> missing_;
 };
 
-/// A number with its unit, which "1" is none.
-std::string WithUnit(const std::string& number, const std::string& unit);
 /// The method that the comment of a set names, in words.
 std::string MethodText(const clsA& header, const std::string& propertyCode);
 /// A phase in words; empty for none.

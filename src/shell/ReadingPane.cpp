@@ -14,6 +14,7 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 #include "shell/ReadingPage.h"
 #include "shell/SetReading.h"
@@ -62,7 +63,7 @@ std::string UncertaintyText(const clsZ& value) {
 }
 
 std::string ValueText(const clsZ& value) {
-    const std::string text = WithUnit(value.PRPVALUE, PropertyLabels::Of(value).unit);
+    const std::string text = NumberWithUnit(value.PRPVALUE, PropertyLabels::Of(value).unit);
     const std::string uncertainty = UncertaintyText(value);
     return uncertainty.empty() ? text : text + " \xC2\xB1 " + uncertainty;
 }
@@ -71,15 +72,14 @@ std::string ValueText(const clsZ& value) {
 std::string ConvertedText(const clsZ& value) {
     const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, "Pure"));
     if (PropertyLabels::Of(value).unit == unit || !IsNumeric(value.PRPVALUE)) return {};
-    return WithUnit(FormatConverted(value.PRPVALUE, value.PROPERTY_UNIT, value.SystemValue()),
-                    unit);
+    return NumberWithUnit(FormatConverted(value.PRPVALUE, value.PROPERTY_UNIT, value.SystemValue()),
+                          unit);
 }
 
 std::string VariableText(const clsZ& value) {
     const std::string unit = DefaultUnit(VariableName(value.Variable(), "Pure"));
-    std::string code = value.VARIABLE_UNIT;
-    const std::string text = IsSystemUnit(code) ? unit : ConversionText(code, unit);
-    return WithUnit(value.INDVARIABLE, text.empty() ? unit : text);
+    const std::string& code = value.VARIABLE_UNIT;
+    return NumberWithUnit(value.INDVARIABLE, UnitText(unit, code, 0));
 }
 
 std::string PurityInWords(const PurityStatement& statement) {

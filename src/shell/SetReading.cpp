@@ -7,6 +7,7 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 #include "shell/ReadingPage.h"
 
@@ -47,15 +48,13 @@ std::string RangeOf(const clsTwo& set, int n) {
 }
 
 std::string WithUnitIfAny(const std::string& text, const std::string& unit) {
-    return text.empty() ? text : WithUnit(text, unit);
+    return text.empty() ? text : NumberWithUnit(text, unit);
 }
 
 std::string VariableUnitText(const clsTwo& set, int n) {
     const std::string unit = DefaultUnit(VariableName(set.VARIABLE(n), "Pure"));
-    std::string code = set.VAR_UNIT(n);
-    if (!set.isOriginalUnit || IsSystemUnit(code) || HasBothKinds(set)) return unit;
-    const std::string text = ConversionText(code, unit);
-    return text.empty() ? code : text;
+    const std::string& code = set.VAR_UNIT(n);
+    return !set.isOriginalUnit || HasBothKinds(set) ? unit : UnitText(unit, code, 0);
 }
 
 std::string PropertyUnitText(const clsTwo& set) {

@@ -5,6 +5,7 @@
 #include "dialogs/KeyTags.h"
 #include "dialogs/PhaseRules.h"
 #include "dialogs/frmKey.h"
+#include "reference/UnitText.h"
 
 #include <map>
 
