@@ -140,8 +140,11 @@ bool frmSample::Store() {
     stored_->SMPNM = txtSampleNo.Text();
     stored_->SMPDESC = txtSmplDescription.Text();
     stored_->AssessPurity();
-    if (fresh) stored_->AttachTo(*compound);
-    if (stored_->tNode) stored_->tNode->Text(stored_->ShowKey());
+    if (fresh)
+        stored_->AttachTo(*compound);
+    else
+        compound->recS.Rekey(stored_.get(), stored_->Key());
+    stored_->Refresh();
     changed_ = false;
     Globals().Saved = false;
     Globals().DialogAccepted = true;

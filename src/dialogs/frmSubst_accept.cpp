@@ -214,7 +214,7 @@ void frmSubst::AcceptEdit() {
         if (const std::string name = Trimmed(txtName); !name.empty()) compound.Name = name;
     }
     StoreBio(compound);
-    if (compound.tNode) compound.tNode->Text(compound.ShowKey());
+    compound.Refresh();
     Globals().Saved = false;
     Globals().DialogAccepted = true;
     Close();

@@ -17,13 +17,22 @@ LabelsLater::~LabelsLater() {
     --readsUnderWay;
 }
 
+std::string Record::NodeKey(const ui::TreeNode* above) const {
+    return (above ? above->Key() : "R") + Key();
+}
+
 void Record::MakeNode(ui::TreeNode* above) {
     ui::TreeView* tree = Globals().tvwTree;
     if (!tree) return;
-    const std::string key = (above ? above->Key() : "R") + Key();
-    tNode = &tree->Add(above, key, readsUnderWay > 0 ? std::string() : ShowKey());
+    tNode = &tree->Add(above, NodeKey(above), readsUnderWay > 0 ? std::string() : ShowKey());
     tNode->Tag = shared_from_this();
     tNode->EnsureVisible();
+}
+
+void Record::Refresh() {
+    if (!tNode) return;
+    Label(ShowKey());
+    Globals().tvwTree->Rekey(*tNode, NodeKey(tNode->Parent()));
 }
 
 void Record::Label(const std::string& text) {

@@ -25,8 +25,8 @@ public:
     /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
     virtual void SetMe() = 0;
 
-    /// Brings the node's text back in line with the record.
-    void Refresh() { Label(ShowKey()); }
+    /// Brings the node's text and key back in line with the record.
+    void Refresh();
 
     template <class T>
     std::shared_ptr<T> As() {
@@ -39,6 +39,9 @@ protected:
     void MakeNode(ui::TreeNode* above);
     /// Writes ShowKey, or another text, on the node.
     void Label(const std::string& text);
+
+private:
+    std::string NodeKey(const ui::TreeNode* above) const;
 };
 
 /// While one lives, new nodes stay without a label: a read labels all of them at its end, when all

@@ -89,8 +89,7 @@ void frmMain::EditNode() {
     }
     ui::TreeNode* node = tvwTree.SelectedNode();
     if (globals.DialogAccepted && node != nullptr) {
-        if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock()))
-            node->Text(record->ShowKey());
+        if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock())) record->Refresh();
     }
     Activate();
 }

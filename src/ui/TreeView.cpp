@@ -36,16 +36,30 @@ TreeView::TreeView(Form& form, std::string name)
 TreeView::~TreeView() = default;
 
 TreeNode& TreeView::Add(TreeNode* parent, std::string_view key, std::string text) {
-    std::string unique(key);
-    for (int n = 2; byKey_.contains(unique); ++n) {
-        unique = std::string(key) + "~" + std::to_string(n);
-    }
+    const std::string unique = Unique(key);
     auto& siblings = parent ? parent->children_ : roots_;
     siblings.push_back(std::make_unique<TreeNode>(*this, parent, unique, std::move(text)));
     TreeNode& node = *siblings.back();
     byKey_[unique] = &node;
     NodeAdded.Emit(&node);
     return node;
+}
+
+std::string TreeView::Unique(std::string_view key) const {
+    std::string unique(key);
+    for (int n = 2; byKey_.contains(unique); ++n)
+        unique = std::string(key) + "~" + std::to_string(n);
+    return unique;
+}
+
+void TreeView::Rekey(TreeNode& node, std::string_view key) {
+    const std::string before = node.key_;
+    if (before == key) return;
+    byKey_.erase(before);
+    node.key_ = Unique(key);
+    byKey_[node.key_] = &node;
+    for (const auto& child : node.children_)
+        Rekey(*child, node.key_ + child->key_.substr(before.size()));
 }
 
 void TreeView::Forget(TreeNode& node) {

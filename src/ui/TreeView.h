@@ -56,6 +56,8 @@ public:
     /// Adds a node below a parent, or a root for none, as the last of its siblings.
     TreeNode& Add(TreeNode* parent, std::string_view key, std::string text);
     void Remove(TreeNode& node);
+    /// Gives a node another key, and all below it theirs, which begin with it.
+    void Rekey(TreeNode& node, std::string_view key);
     void Clear();
     bool IsEmpty() const { return roots_.empty(); }
     const std::vector<std::unique_ptr<TreeNode>>& Roots() const { return roots_; }
@@ -88,6 +90,7 @@ public:
 private:
     friend class TreeNode;
     void Forget(TreeNode& node);
+    std::string Unique(std::string_view key) const;
 
     std::vector<std::unique_ptr<TreeNode>> roots_;
     std::unordered_map<std::string, TreeNode*> byKey_;
