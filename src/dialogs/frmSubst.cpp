@@ -112,6 +112,7 @@ void frmSubst::PrepareEdit() {
     const clsL& compound = *Globals().CurrentL;
     cmdAccept.Caption("OK");
     cmdUseRN.Visible(false);
+    ShowEntryNumber("");
     for (ui::TextBox* box : {&txtRN2, &txtRN1, &txtCASD})
         box->Locked(true);
     for (ui::TextBox* box : {&txtName, &txtFormula})

@@ -73,6 +73,7 @@ private:
     RegistryParts TypedParts() const;
     void ShowParts(const RegistryParts& parts);
     void ShowMass();
+    void ShowEntryNumber(const std::string& number);
 
     // Accepting (frmSubst_accept.cpp).
     void Accept();

@@ -55,8 +55,14 @@ void frmSubst::ShowRows(std::vector<CompoundRow> rows) {
         names.push_back(row.NAME);
     lstNames.Assign(std::move(names));
     rowRN_.clear();
-    lblRN.Caption("");
+    ShowEntryNumber("");
     cmdUseRN.Enabled(false);
+}
+
+/// An edited compound keeps its number; only a picked entry has one to show.
+void frmSubst::ShowEntryNumber(const std::string& number) {
+    lblRN.Caption(number);
+    lblRN.Visible(!editing_ || !number.empty());
 }
 
 /// A picked row fills name and formula. It brings no number with it but a made-up one, unless the
@@ -69,7 +75,7 @@ void frmSubst::TakeRow(const CompoundRow& row) {
         ShowMass();
     }
     rowRN_ = std::to_string(row.RN);
-    lblRN.Caption(DashedRegistryNumber(rowRN_));
+    ShowEntryNumber(DashedRegistryNumber(rowRN_));
     cmdUseRN.Enabled(TypedParts().Joined() != rowRN_);
     nameEdited_ = true;
     rnEdited_ = typedRN_;
