@@ -25,9 +25,9 @@ public:
 };
 
 // What cannot be typed into looks like the window around it.
-void ShadeIfLocked(QWidget& widget, bool locked) {
+void Shade(QWidget& widget, bool closed) {
     QPalette palette;
-    if (locked) palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
+    if (closed) palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
     if (widget.palette().color(QPalette::Base) != palette.color(QPalette::Base)) {
         widget.setPalette(palette);
     }
@@ -74,7 +74,7 @@ void TextView::Draw() {
         end > start ? WidgetSelectionStart() == start && WidgetSelectionLength() == end - start
                     : WidgetCaret() == start && WidgetSelectionLength() == 0;
     if (!same) PutSelection(start, end - start);
-    ShadeIfLocked(*Widget(), model_.Locked() && !model_.OnClick);
+    Shade(*Widget(), !model_.Enabled() || (model_.Locked() && !model_.OnClick));
     Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
                                                           : Qt::IBeamCursor);
 }
