@@ -110,7 +110,11 @@ void frmProperty::StoreStatements() {
 void frmProperty::DropForeignTags() {
     const PropertyRow* row = Chosen();
     const std::string code = row ? row->Code : std::string();
-    if (code != tagsProperty_ || ChosenMethod() != tagsMethod_) Globals().KeyRest = ":";
+    const auto differs = [](const std::string& before, const std::string& now) {
+        return !before.empty() && now != before;
+    };
+    if (differs(tagsProperty_, code) || differs(tagsMethod_, ChosenMethod()))
+        Globals().KeyRest = ":";
     tagsProperty_ = code;
     tagsMethod_ = ChosenMethod();
 }

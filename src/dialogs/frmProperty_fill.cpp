@@ -83,8 +83,6 @@ void frmProperty::Fill() {
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (rows_[i].Code == globals.PropertyCode) lstProp.Index(static_cast<int>(i) + 1);
     }
-    tagsProperty_ = globals.PropertyCode;
-    tagsMethod_ = method.Method;
     optOriginal.Value(globals.OriginalUnits);
     optSystem.Value(!globals.OriginalUnits);
     lstExpPurpose.Index(std::max(0, IndexOfCode(ExperimentPurposes(), globals.ExpPurpose)));
@@ -93,6 +91,8 @@ void frmProperty::Fill() {
     txtComment.Text(globals.PropertyComment);
     if (const PropertyRow* row = Chosen()) ShowUnit(*row);
     SelectMethod(method.Method.empty() && !method.sMethod.empty() ? "OTHER" : method.Method);
+    tagsProperty_ = globals.PropertyCode;
+    tagsMethod_ = ChosenMethod();
     for (std::size_t i = 0; i < statements_.size(); ++i) {
         const Statement& statement = statements_[i];
         const bool on = statement.flag != 0 ? (FlagBits(globals.PropertyFlags) & statement.flag)
