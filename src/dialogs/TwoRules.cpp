@@ -30,15 +30,22 @@ std::string_view SpectralVariable(std::string_view property) {
     return property == "RPX" ? "WF" : property == "RIX" ? "WL" : "";
 }
 
-bool HasVariable(const TwoDraft& draft, std::string_view code) {
-    return draft.variable1 == code || (draft.nVar > 1 && draft.variable2 == code);
-}
-
 bool IsBoundary(const TwoDraft& draft) {
     return draft.constraint == "PB";
 }
 
 } // namespace
+
+bool HasVariable(const TwoDraft& draft, std::string_view code) {
+    return draft.variable1 == code || (draft.nVar > 1 && draft.variable2 == code);
+}
+
+bool HasLimits(const TwoDraft& draft) {
+    for (const std::string_view code : {"TU", "TL", "PU", "PL"}) {
+        if (HasVariable(draft, code)) return true;
+    }
+    return false;
+}
 
 ResultDefinition ParseDefinition(std::string_view code) {
     if (IsOneOf(code, {"DIR", "DT", "DX", "MN"})) return {std::string(code), {}};
@@ -115,17 +122,21 @@ std::vector<CodeText> NumericalKinds() {
 }
 
 // Temperature and pressure fix the state of one phase, one of them that of a phase boundary; a
-// spectral property needs its wavelength or frequency besides.
+// spectral property needs its wavelength or frequency besides. What is measured between two limits
+// of one of them leaves the other open.
 ConstantVariable OpenVariable(const TwoDraft& draft) {
     const std::string spectral(SpectralVariable(draft.property));
-    if (spectral.empty() && (draft.nVar > 1 || draft.variable1.empty())) return {};
+    const bool between = HasLimits(draft) && !IsBoundary(draft);
+    if (spectral.empty() && (draft.nVar > 1 ? !between : draft.variable1.empty())) return {};
     if (IsOneOf(draft.constraint, {"DP", "FV"}) && spectral.empty()) return {};
     std::vector<std::string> needed;
     if (!IsTemperature(draft.property)) needed.emplace_back("T");
     if (!IsBoundary(draft) && !IsPressure(draft.property)) needed.emplace_back("P");
     if (!spectral.empty()) needed.insert(draft.nVar == 1 ? needed.begin() : needed.end(), spectral);
     for (const std::string& code : needed) {
-        if (!HasVariable(draft, code)) return {code, !spectral.empty()};
+        if (!HasVariable(draft, code) && !HasVariable(draft, code + "U") &&
+            !HasVariable(draft, code + "L"))
+            return {code, !spectral.empty()};
     }
     return {};
 }

@@ -82,6 +82,11 @@ std::string PresentationCode(const Presentation& presentation);
 /// The list of how the numbers came about, "No numerical data" last.
 std::vector<CodeText> NumericalKinds();
 
+/// Whether the variable is one of those of the set.
+bool HasVariable(const TwoDraft& draft, std::string_view code);
+/// Whether an upper or lower limit of temperature or pressure is among them.
+bool HasLimits(const TwoDraft& draft);
+
 /// The state variable that the set leaves open and that has one value for all of it.
 struct ConstantVariable {
     std::string code; // empty when none is open

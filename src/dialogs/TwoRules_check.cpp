@@ -15,19 +15,8 @@ using Finding = std::optional<TwoFinding>;
 
 constexpr const char* noUnit = "Select Independent Variable Units";
 
-bool HasVariable(const TwoDraft& draft, std::string_view code) {
-    return draft.variable1 == code || (draft.nVar > 1 && draft.variable2 == code);
-}
-
 bool HasBoth(const TwoDraft& draft, std::string_view upper, std::string_view lower) {
     return HasVariable(draft, upper) && HasVariable(draft, lower);
-}
-
-bool HasLimits(const TwoDraft& draft) {
-    for (const std::string_view code : {"TU", "TL", "PU", "PL"}) {
-        if (HasVariable(draft, code)) return true;
-    }
-    return false;
 }
 
 Finding Sample(const TwoDraft& draft) {

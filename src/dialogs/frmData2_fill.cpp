@@ -42,6 +42,7 @@ void frmData2::TakeRows() {
     const bool all = std::all_of(rows_.begin(), rows_.end(), isOriginal);
     const bool none = !rows_.empty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
     original_ = set_->isOriginalUnit && all;
+    if (set_->isOriginalUnit && none) told_ = {{0, "The rows of this set stand in system units"}};
     if (original_ || rows_.empty() || none) return;
     adjusted_ = std::make_shared<clsTwo>(*set_);
     adjusted_->recData.Clear();

@@ -34,7 +34,7 @@ void frmTwo::ArrangeControls() {
               Field("Property set #", txtPrpSetNo)}),
          Field(lblVar1, Row({cboVar1, Field("Units:", lstVariable_Unit)})),
          Field(lblVar2, Row({cboVar2, Field("Units:", lstVar2_Unit)})),
-         Field(lblVar3, Row({txtVar3, lblUnit3})), Field("Constraint:", lstCONSTRAINT),
+         Field(lblVar3, Row({Narrow(txtVar3, 20), lblUnit3})), Field("Constraint:", lstCONSTRAINT),
          Row({Field("Phase 1:", lstPhase1), Field(lblPhase2, lstPhase2)}),
          Group(fraDefinition,
                {Field("Results:", lstPROPERTY_FUNCT), Field("Relation:", lstRelation),
@@ -90,6 +90,7 @@ void frmTwo::Load() {
     }
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     ShowCaption();
+    if (record_) cboVar1.SetFocus(); // compound and sample are closed, the number is no input
     if (row_.Property == row_.Code) ui::Say("Property Code Error");
 }
 

@@ -106,6 +106,8 @@ private:
     void WriteComment(clsTwo& set) const;
     void DropConstants() const;
     void BuildPropertyChain() const;
+    bool TurnsRows() const;
+    bool DropNumbers(clsTwo& set);
     bool EnterNumbers(const std::shared_ptr<clsTwo>& set);
     void Store(const std::shared_ptr<clsTwo>& set);
     bool CheckUnits();

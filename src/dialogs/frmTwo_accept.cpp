@@ -1,5 +1,6 @@
 #include "dialogs/frmTwo.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "chem/CommentTags.h"
@@ -24,6 +25,7 @@ namespace vexora {
 namespace {
 
 constexpr const char* table = "frmData2";
+constexpr const char* noNumbers = "N"; // no numerical data
 
 /// The tags without those that begin with these words and end at the next colon.
 std::string WithoutTag(std::string tags, const std::string& beginning) {
@@ -83,7 +85,8 @@ private:
 void frmTwo::Accept() {
     if (!Check()) return;
     const auto set = MakeSet();
-    if (Draft().numerical != "N" && !EnterNumbers(set)) return;
+    if (TurnsRows()) ui::Say("The rows of the table are brought to system units");
+    if (Draft().numerical == noNumbers ? !DropNumbers(*set) : !EnterNumbers(set)) return;
     Store(set);
     Close();
 }
@@ -136,7 +139,15 @@ bool frmTwo::Check() {
     if (!findings.empty()) return Refuse(FieldOf(findings.front().field), findings.front().text);
     const std::string fault = UnitFault(*Globals().CurrentProperty);
     if (!fault.empty()) return Refuse(cmdMethod, fault);
+    if (TurnsRows() && !CopyOf(*record_)->AdjustUnits())
+        return Refuse(cmdMethod, "Invalid conversion factor");
     return CheckUnits();
+}
+
+/// The set is to stand in system units, and its rows stand in those of the paper.
+bool frmTwo::TurnsRows() const {
+    return record_ && record_->isOriginalUnit && !Globals().OriginalUnits &&
+           !record_->recData.IsEmpty();
 }
 
 /// Values of a variable whose unit cannot be converted are never stored.
@@ -157,6 +168,7 @@ void frmTwo::NormalizeNumbers() {
 
 std::shared_ptr<clsTwo> frmTwo::MakeSet() const {
     auto set = record_ ? CopyOf(*record_) : as_ ? DefinitionOf(*as_) : std::make_shared<clsTwo>();
+    if (TurnsRows()) set->AdjustUnits(); // while it still knows the units that they were typed in
     set->Parent = choice_.Sample().get();
     WriteDefinition(*set);
     WriteVariables(*set);
@@ -280,6 +292,22 @@ void frmTwo::BuildPropertyChain() const {
     last->NextItem = nullptr;
 }
 
+/// A set that had numbers and is said to have none loses its rows, if that is meant. What a file
+/// says in that way is kept as it stands.
+bool frmTwo::DropNumbers(clsTwo& set) {
+    if (set.recData.IsEmpty() || ParsePresentation(as_->DATATYPE).numerical == noNumbers)
+        return true;
+    const std::size_t rows = set.recData.Count();
+    if (!ui::AskYesNo("The table of this set has " + std::to_string(rows) +
+                      (rows == 1 ? " row" : " rows") +
+                      " of numerical data.\nAre they to be deleted?")) {
+        lstNumerical.SetFocus();
+        return false;
+    }
+    set.recData.Clear();
+    return true;
+}
+
 /// The table works on the set as the current one; true when it was accepted.
 bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
     KVOGlobal& globals = Globals();
@@ -287,7 +315,9 @@ bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
     const ContextScope scope;
     globals.CurrentTwo = set;
     globals.DialogAccepted = false;
-    globals.IncludeDigits = chkIncludeDigit.Value();
+    const auto isDigit = [](const auto& row) { return row->isDigit; };
+    globals.IncludeDigits =
+        chkIncludeDigit.Value() || (TurnsRows() && std::ranges::any_of(set->recData, isDigit));
     globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one
     ui::Forms::Current().Get(table).ShowModal();
     return std::exchange(globals.DialogAccepted, false);

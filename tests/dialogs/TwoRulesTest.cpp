@@ -160,7 +160,8 @@ TEST(TwoRulesTest, OpenVariableIsTheFirstThatTheStateLacks) {
         {"VDN", "T", "P", "FP", "", false},  {"VDN", "T", "VM", "FV", "", false},
         {"RIX", "T", "", "FP", "WL", true},  {"RIX", "WL", "", "FP", "T", true},
         {"RPX", "T", "WF", "FP", "P", true}, {"RPX", "T", "P", "FP", "WF", true},
-        {"RIX", "T", "WL", "PB", "", false},
+        {"RIX", "T", "WL", "PB", "", false}, {"CP", "TU", "TL", "FP", "P", false},
+        {"H", "PU", "PL", "FT", "T", false}, {"HTR", "TU", "TL", "PB", "", false},
     };
     for (const Case& c : cases) {
         TwoDraft draft = OnePhase();
