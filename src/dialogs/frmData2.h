@@ -150,6 +150,7 @@ private:
     void Assign();
     bool AssignAccepted();
     bool MayLoseColumns() const;
+    void UseStatements(const std::array<clsX, 5>& statements);
     void TakeSelectedRow();
     void Save();
     void Store();

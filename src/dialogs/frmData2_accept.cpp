@@ -122,7 +122,8 @@ void frmData2::Assign() {
     if (Check()) AssignAccepted();
 }
 
-/// The statements of the set; what they ask for in every row gets its column. False on Cancel.
+/// The statements of the set; what they ask for in every row gets its column. It is a step of the
+/// history, for what was typed before stood in other columns. False on Cancel.
 bool frmData2::AssignAccepted() {
     if (!ui::Forms::Current().Knows("frmUnc")) return true;
     KVOGlobal& globals = Globals();
@@ -137,11 +138,29 @@ bool frmData2::AssignAccepted() {
         set_->UX = before;
         return false;
     }
-    assigned_ = true;
+    const bool assignedBefore = std::exchange(assigned_, true);
+    if (set_->UX == before) return true;
+    const auto emptiesColumns = [this](TableEdit& edit) {
+        const TableColumns next(*set_, Globals().IncludeDigits);
+        const std::vector<int> places = columns_.PlacesIn(next);
+        for (int column = 0; column < columns_.Count(); ++column) {
+            if (places[static_cast<std::size_t>(column)] >= 0) continue;
+            for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
+                edit.Cell(row, column, {});
+        }
+    };
+    undo_.Do(emptiesColumns, [this, before, assignedBefore, after = set_->UX](bool done) {
+        UseStatements(done ? after : before);
+        assigned_ = done || assignedBefore;
+    });
+    return true;
+}
+
+void frmData2::UseStatements(const std::array<clsX, 5>& statements) {
+    set_->UX = statements;
     AnalyseCurrentProperty();
     FillHeader();
     FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
-    return true;
 }
 
 /// Entries of rows whose column goes with its statement are not thrown away unasked.

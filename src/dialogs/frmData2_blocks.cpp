@@ -113,7 +113,8 @@ void frmData2::StepBack(bool can, const std::function<void()>& step) {
     if (!can) return;
     step();
     const ui::Grid::Block& cells = tblData.Selection();
-    if (cells.bottom >= undo_.FirstRow() && cells.top <= undo_.LastRow()) return;
+    const bool anyRow = undo_.FirstRow() <= undo_.LastRow();
+    if (!anyRow || (cells.bottom >= undo_.FirstRow() && cells.top <= undo_.LastRow())) return;
     const int row = std::min(undo_.FirstRow(), tblData.Rows() - 1);
     tblData.Show({row, cells.left, row, cells.left});
 }

@@ -92,17 +92,22 @@ std::string frmData2::ColumnsText() const {
     return text + "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
 }
 
-/// Lays the columns out anew; cells keep their texts, and the history goes with them.
+/// Lays the columns out anew; cells keep their texts, and the empty columns of a printed table that
+/// stood beside the others stay beside them.
 void frmData2::FillHeader() {
     const TableColumns before = columns_;
     const ui::Grid::Block selected = tblData.Selection();
     columns_ = TableColumns(*set_, Globals().IncludeDigits);
     if (before.All() == columns_.All()) return;
     const ui::Grid::Batch batch(tblData);
-    const std::vector<int> places = before.PlacesIn(columns_);
+    std::vector<int> places = before.PlacesIn(columns_);
+    const int beside = before.Count() > 0 ? std::max(tblData.Columns() - before.Count(), 0) : 0;
+    for (int i = 0; i < beside; ++i)
+        places.push_back(columns_.Count() + i);
+    const int wide = columns_.Count() + beside;
     std::vector<std::vector<std::string>> cells;
     for (int row = 1; row < tblData.Rows(); ++row) {
-        std::vector<std::string> moved(static_cast<std::size_t>(columns_.Count()));
+        std::vector<std::string> moved(static_cast<std::size_t>(wide));
         for (std::size_t from = 0; from < places.size(); ++from) {
             if (places[from] >= 0)
                 moved[static_cast<std::size_t>(places[from])] =
@@ -110,16 +115,15 @@ void frmData2::FillHeader() {
         }
         cells.push_back(std::move(moved));
     }
-    tblData.Resize(tblData.Rows(), columns_.Count());
-    for (int column = 0; column < columns_.Count(); ++column) {
-        tblData.Cell(0, column, columns_[column].head);
+    tblData.Resize(tblData.Rows(), wide);
+    for (int column = 0; column < wide; ++column) {
+        tblData.Cell(0, column, column < columns_.Count() ? columns_[column].head : "");
         for (std::size_t row = 0; row < cells.size(); ++row)
             tblData.Cell(static_cast<int>(row) + 1, column,
                          cells[row][static_cast<std::size_t>(column)]);
     }
-    undo_.MoveColumns(places, columns_.Count() - before.Count());
-    const bool stays = selected.left < before.Count() && selected.top < tblData.Rows() &&
-                       selected.top >= tblData.FixedRows();
+    const bool stays = selected.left < static_cast<int>(places.size()) &&
+                       selected.top < tblData.Rows() && selected.top >= tblData.FixedRows();
     const int column = stays ? places[static_cast<std::size_t>(selected.left)] : -1;
     MoveTo(stays ? selected.top : tblData.FixedRows(), std::max(column, 0));
 }

@@ -34,22 +34,24 @@ void frmData2::AdjustUnits() {
     all.erase(firstOld, all.end());
     const bool needsDigits =
         std::any_of(all.begin(), all.end(), [](auto& row) { return row->isDigit; });
-    if (needsDigits && !Globals().IncludeDigits) {
-        Globals().IncludeDigits = true; // a count of digits that the text would not tell
-        FillHeader();
+    if (needsDigits && !Globals().IncludeDigits) { // counts that the texts would not tell
+        undo_.Do([](TableEdit&) {},
+                 [this](bool done) {
+                     Globals().IncludeDigits = done;
+                     FillHeader();
+                 });
     }
     const auto before = [this, statements = set_->UX, typed = rows_] {
         TakeUnits(nullptr, statements, typed);
     };
     const auto after = [this, adjusted, old] { TakeUnits(adjusted, adjusted->UX, old); };
-    const bool changed = undo_.Do(
+    undo_.Do(
         [&](TableEdit& edit) {
             for (std::size_t i = 0; i < rows.size(); ++i)
                 for (int column = 0; column < columns_.Count(); ++column)
                     edit.Cell(rows[i], column, columns_.CellOf(*all[i], column));
         },
         [before, after](bool done) { done ? after() : before(); });
-    if (!changed) after();
 }
 
 /// The set in system units: first these rows of the table, then the rows as they stood; null when

@@ -99,7 +99,7 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
         KeepSpareRow(recorder);
         step = std::move(recorder.step);
     }
-    if (step.IsEmpty()) return false;
+    if (step.IsEmpty() && !beside) return false;
     step.beside = beside;
     if (beside) beside(true);
     steps_.resize(done_);
@@ -209,17 +209,6 @@ void TableUndo::Clear() {
 int TableUndo::FirstPlaceOf(int row) const {
     const auto at = static_cast<std::size_t>(row);
     return at < places_.size() ? places_[at] : 0;
-}
-
-void TableUndo::MoveColumns(const std::vector<int>& columns, int behind) {
-    for (Step& step : steps_) {
-        for (Change& change : step.changes) {
-            if (change.column == wholeRows) continue;
-            const auto from = static_cast<std::size_t>(change.column);
-            change.column = from < columns.size() ? columns[from] : change.column + behind;
-        }
-        std::erase_if(step.changes, [](const Change& change) { return change.column == -1; });
-    }
 }
 
 } // namespace vexora

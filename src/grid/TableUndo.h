@@ -33,7 +33,8 @@ public:
     ui::Grid& Table() const { return grid_; }
     /// Runs the writer; what it changed becomes one step. False when it changed nothing. What goes
     /// along with the step beside the cells is done by `beside`, with true when the step has been
-    /// done or done again and with false before it is taken back.
+    /// done or done again and with false before it is taken back; that is a step without changes
+    /// of cells as well. It may lay out other columns, for each step finds those that it knew.
     bool Do(const std::function<void(TableEdit&)>& writer,
             const std::function<void(bool done)>& beside = {});
     bool CanUndo() const { return done_ > 0; }
@@ -45,9 +46,6 @@ public:
     void Clear();
     /// Where the row stood when the history began, wherever it has moved since; 0 for a new one.
     int FirstPlaceOf(int row) const;
-    /// The columns of the grid have moved: place i is now columns[i], or gone when that is -1.
-    /// Those behind them have moved by so many places.
-    void MoveColumns(const std::vector<int>& columns, int behind = 0);
     /// Rows from the first changed to the last changed by the last step, done or taken back.
     int FirstRow() const { return firstRow_; }
     int LastRow() const { return lastRow_; }

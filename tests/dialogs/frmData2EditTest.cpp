@@ -28,16 +28,20 @@ TEST_F(frmData2EditTest, TableInTwoDimensionsBecomesOneRowForEachCell) {
     EXPECT_EQ(form_->tblData.Cell(1, 4), "400");
     form_->mnuRedo.UserClick();
     EXPECT_EQ(Cells(), turned);
-    // A column more leaves the way back to the printed table open.
+    // A statement leaves the way back to the printed table open.
     desktop.OnModal([this](ui::Form& form) {
         globals.CurrentUX->front().iUnc = true;
         globals.DialogAccepted = true;
         form.Close();
     });
     form_->cmdAssign.UserClick();
-    EXPECT_EQ(form_->tblData.Columns(), 5);
+    EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
     form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(1, 5), "400");
+    EXPECT_EQ(Cells(), turned);
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->tblData.Cell(1, 4), "400");
+    form_->mnuRedo.UserClick();
+    form_->mnuRedo.UserClick();
     EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
 }
 
@@ -339,7 +343,8 @@ TEST_F(frmData2EditTest, OneValuePastedFillsTheSelection) {
     form_->tblData.UserSelect({4, 1, 4, 1});
     form_->mnuUndo.UserClick();
     EXPECT_EQ(form_->tblData.Cell(2, 1), "2");
-    EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{1, 1, 1, 1})); // what has changed is seen
+    EXPECT_EQ(form_->tblData.Selection(),
+              (ui::Grid::Block{1, 1, 1, 1})); // what has changed is seen
 }
 
 } // namespace

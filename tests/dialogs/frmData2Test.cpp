@@ -319,6 +319,42 @@ TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
     EXPECT_EQ(row.StatementsOf(1).Unc + " " + row.StatementsOf(2).Unc, "0.05 100");
 }
 
+TEST_F(frmData2Test, StatementsAndUnitsAreTakenBackOneBehindTheOther) {
+    set->VAR1_UNIT = "C";
+    OpenTable();
+    Paste("25.0 997.05\n30.0 995.65");
+    form_->mnuSystemUnits.UserClick();
+    const auto state = [this](const char* value) {
+        desktop.OnModal([this, value](ui::Form& form) {
+            clsX& density = globals.CurrentUX->front();
+            density.iUnc = *value != '\0';
+            density.UValue = value;
+            globals.DialogAccepted = true;
+            form.Close();
+        });
+        form_->cmdAssign.UserClick();
+    };
+    state("0.5");
+    form_->tblData.UserCell(1, 2, "0.3");
+    desktop.Expect("The entries in the column Uncert. go with its statement\nGo on?",
+                   ui::Answer::Yes);
+    state("");
+    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t\n303.2\t995.65\t\n");
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t0.3\t\n303.2\t995.65\t\t\n");
+    EXPECT_EQ(set->UX[0].UValue, "0.5");
+    for (int i = 0; i < 3; ++i)
+        form_->mnuUndo.UserClick();
+    EXPECT_EQ(form_->TableText(), "25.0\t997.05\t\n30.0\t995.65\t\n");
+    EXPECT_FALSE(set->UX[0].iUnc);
+    EXPECT_NE(form_->lblColumns.Caption().find("Temperature, C"), std::string::npos);
+    for (int i = 0; i < 3; ++i)
+        form_->mnuRedo.UserClick();
+    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t0.3\t\n303.2\t995.65\t\t\n");
+    form_->cmdSave.UserClick();
+    EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, "0.3");
+}
+
 TEST_F(frmData2Test, UnitsOfAFaultyTableStay) {
     set->VAR1_UNIT = "C";
     OpenTable();

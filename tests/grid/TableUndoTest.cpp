@@ -44,16 +44,19 @@ TEST_F(TableUndoTest, OneSpareRowStaysBehindTheLastFilledOne) {
     EXPECT_EQ(Cells(), "1.50||\n||\n");
 }
 
-TEST_F(TableUndoTest, StepsFollowTheirColumnsWhenColumnsMove) {
+TEST_F(TableUndoTest, StepsFindTheColumnsThatTheyKnew) {
     Fill("1.0 2.0 3.0");
-    form.grid.Resize(3, 2);
-    form.grid.Cell(1, 0, "2.0");
-    form.grid.Cell(1, 1, "3.0");
-    undo.MoveColumns({-1, 0, 1});
+    undo.Do([](TableEdit& edit) { edit.Cell(1, 2, {}); },
+            [&](bool done) { form.grid.Resize(form.grid.Rows(), done ? 2 : 3); });
+    undo.Do([](TableEdit& edit) { edit.Cell(1, 1, "2.5"); });
     undo.Undo();
-    EXPECT_EQ(Cells(), "|\n");
+    undo.Undo();
+    EXPECT_EQ(Cells(), "1.0|2.0|3.0\n||\n");
+    undo.Undo();
     undo.Redo();
-    EXPECT_EQ(Cells(), "2.0|3.0\n|\n");
+    undo.Redo();
+    undo.Redo();
+    EXPECT_EQ(Cells(), "1.0|2.5\n|\n");
 }
 
 TEST_F(TableUndoTest, WholeStepIsToldToListenersAtOnce) {
