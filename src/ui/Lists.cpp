@@ -6,6 +6,21 @@
 
 namespace vexora::ui {
 
+namespace {
+
+constexpr int page = 10; // entries that PageUp and PageDown pass
+
+char32_t Folded(char32_t letter) {
+    return letter >= U'A' && letter <= U'Z' ? letter + (U'a' - U'A') : letter;
+}
+
+bool BeginsWith(const std::string& text, char32_t letter) {
+    const std::u32string points = ToPoints(text);
+    return !points.empty() && Folded(points.front()) == Folded(letter);
+}
+
+} // namespace
+
 ItemList::ItemList(Form& form, ControlKind kind, std::string name)
     : Control(form, kind, std::move(name)) {}
 
@@ -142,9 +157,27 @@ void ComboBox::UserChoose(int index) {
     ItemList::UserChoose(index);
 }
 
+/// To the ends of the list, by pages, and to the next entry with a letter.
+bool ComboBox::Jump(const Key& key) {
+    const int last = Count() - 1;
+    int next = -1;
+    if (key.name == "Home") next = 0;
+    if (key.name == "End") next = last;
+    if (key.name == "PageUp") next = std::max(Index() - page, 0);
+    if (key.name == "PageDown") next = std::min(Index() + page, last);
+    for (int step = 1; key.character > U' ' && next < 0 && step <= Count(); ++step) {
+        const int at = (Index() + step) % Count();
+        if (BeginsWith(Item(at), key.character)) next = at;
+    }
+    if (next < 0) return false;
+    if (next != Index()) UserChoose(next);
+    return true;
+}
+
 bool ComboBox::UserKey(Key& key) {
     if (ItemList::UserKey(key)) return true;
-    if (!IsUsable() || !IsEditable() || key.control || key.alt) return false;
+    if (!IsUsable() || key.control || key.alt) return false;
+    if (!IsEditable()) return Jump(key);
     std::u32string points = ToPoints(Text());
     const bool selected = selectedFrom_ && *selectedFrom_ < points.size();
     if (selected && (key.name == "End" || key.name == "Right")) {
@@ -192,6 +225,16 @@ void ListBox::UserSelect(int index, bool on) {
     if (!IsUsable()) return;
     SetFocus();
     Selected(index, on);
+}
+
+/// Where several entries can be on, the arrows go along them, beginning with the first; Space turns
+/// the one that they have reached on or off.
+bool ListBox::UserKey(Key& key) {
+    if (mode_ != Mode::Single && Index() < 0 && Count() > 0) SetIndexQuietly(0);
+    if (ItemList::UserKey(key)) return true;
+    if (!IsUsable() || mode_ == Mode::Single || key.character != U' ' || Index() < 0) return false;
+    UserSelect(Index(), !Selected(Index()));
+    return true;
 }
 
 void ListBox::UserChoose(int index) {

@@ -83,6 +83,8 @@ public:
     bool UserKey(Key& key) override;
 
 private:
+    bool Jump(const Key& key);
+
     Style style_;
     std::string typed_;
     std::optional<std::size_t> selectedFrom_;
@@ -101,6 +103,7 @@ public:
 
     void UserSelect(int index, bool on);
     void UserChoose(int index) override;
+    bool UserKey(Key& key) override;
 
 protected:
     void EntryRemoved(int index) override;
