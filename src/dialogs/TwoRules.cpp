@@ -141,6 +141,12 @@ ConstantVariable OpenVariable(const TwoDraft& draft) {
     return {};
 }
 
+bool IsSameQuantity(std::string_view property, std::string_view variable) {
+    if (IsTemperature(property)) return variable == "T";
+    if (IsPressure(property)) return variable == "P";
+    return variable == property;
+}
+
 TwoDraft PresetTwo(std::string_view property) {
     TwoDraft draft;
     draft.property = property;

@@ -94,6 +94,10 @@ struct ConstantVariable {
 };
 ConstantVariable OpenVariable(const TwoDraft& draft);
 
+/// Whether a variable is the quantity that the property itself is: a boiling temperature is not
+/// measured against temperature.
+bool IsSameQuantity(std::string_view property, std::string_view variable);
+
 /// What a new set of a property begins with.
 TwoDraft PresetTwo(std::string_view property);
 

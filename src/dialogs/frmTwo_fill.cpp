@@ -98,7 +98,8 @@ void frmTwo::ShowProperty() {
     row_ = row.value_or(PropertyRow());
     if (!row) row_.Code = row_.Property = globals.PropertyCode;
     variables_ = VariablesOf(globals.DataContext);
-    std::erase_if(variables_, [this](const auto& v) { return v.IndVarCode == row_.Code; });
+    std::erase_if(variables_,
+                  [this](const auto& v) { return IsSameQuantity(row_.Code, v.IndVarCode); });
     const bool two = globals.VariableCount > 1;
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&lblVar2, &cboVar2, &lstVar2_Unit})

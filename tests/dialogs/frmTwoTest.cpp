@@ -224,6 +224,7 @@ TEST_F(frmTwoTest, SetJoinsTheTreeOnlyWithItsTable) {
     EXPECT_EQ(form.Caption(), "Vapor or sublimation pressure (MPa) as function of Temperature");
     EXPECT_EQ(form.lstCONSTRAINT.Chosen() + "|" + form.lstPhase2.Chosen(), "Phase boundary|Gas");
     EXPECT_EQ(form.lstPhase1.Find("Gas"), -1);
+    EXPECT_EQ(form.cboVar1.Find("Pressure"), -1);
     EXPECT_FALSE(form.cboVar2.IsShown());
     EXPECT_FALSE(form.txtVar3.IsShown());
     form.chkCalc.UserClick();
