@@ -1,6 +1,7 @@
 #include "shell/SetReading.h"
 
 #include "chem/CommentTags.h"
+#include "dialogs/TwoRules.h"
 #include "records/PropertyLabels.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
@@ -12,6 +13,7 @@
 #include "shell/ReadingPage.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace vexora {
 
@@ -88,10 +90,42 @@ void DescribeRows(ReadingPage& page, const clsTwo& set) {
         page.Line("Against " + LowerAscii(name.empty() ? set.VARIABLE(n) : name) + ":",
                   range.empty() ? VariableUnitText(set, n) : range);
     }
-    const std::string range = WithUnitIfAny(RangeOf(set, 0), PropertyUnitText(set));
-    page.Line("Values:", range.empty() ? PropertyUnitText(set) : range);
+    const std::string unit = PropertyUnitText(set);
+    const std::string range = WithUnitIfAny(RangeOf(set, 0), unit);
+    page.Line("Values:", range.empty() && unit != "1" ? unit : range);
     page.Line("Rows:", std::to_string(set.recData.Count()));
     if (HasBothKinds(set)) page.Item("Some rows stand in the units of the paper, some do not.");
+}
+
+/// Parts that are stated, with commas between them.
+std::string Listed(std::initializer_list<std::string> parts) {
+    std::string text;
+    for (const std::string& part : parts)
+        if (!part.empty()) text += (text.empty() ? "" : ", ") + part;
+    return text;
+}
+
+/// What is the same for all rows: a state variable, and the state that the values are relative to.
+void DescribeConstants(ReadingPage& page, const clsTwo& set) {
+    for (const QuantityText& quantity : StateVariables())
+        page.Line("Constant " + LowerAscii(quantity.text) + ":",
+                  WithUnitIfAny(set.ConstantOf(quantity.code), std::string(quantity.unit)));
+    const auto stated = [](const std::string& value, const std::string& unit) {
+        return IsBlankField(value) ? std::string() : NumberWithUnit(value, unit);
+    };
+    page.Line("Reference state:",
+              Listed({stated(set.REF_TEMP, "K"), stated(set.REF_PRESSURE, "kPa"),
+                      PhaseText(set.REF_PHASE)}));
+}
+
+/// How the numbers came about, and in what other forms the source has them.
+void DescribePresentation(ReadingPage& page, const clsTwo& set) {
+    const Presentation presentation = ParsePresentation(set.DATATYPE);
+    for (const CodeText& kind : NumericalKinds())
+        if (kind.code == presentation.numerical) page.Line("Data are:", kind.text);
+    page.Line("Also given:",
+              Listed({presentation.calculated ? "calculated values" : "",
+                      presentation.equation ? "equation" : "", presentation.graph ? "graph" : ""}));
 }
 
 } // namespace
@@ -101,7 +135,8 @@ std::string ReadingOfSet(const clsTwo& set) {
     ReadingPage page(name.empty() ? set.PRPCODE : name);
     DescribeRows(page, set);
     page.Line("Results are:", DefinitionText(set));
-    page.Line("Data are:", TextOfCode(DataTypes(), set.DATATYPE.substr(0, 1)));
+    DescribePresentation(page, set);
+    DescribeConstants(page, set);
     page.Line("Constraint:", TextOfCode(ConstraintKinds(), set.CONSTRAINT));
     page.Line("Phase:", PhaseText(set.PHASE1));
     page.Line("In equilibrium with:", PhaseText(set.PHASE2));
