@@ -179,6 +179,7 @@ private:
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
     TableColumns columns_;
+    TableColumns firstColumns_; // those that the table began with
     TableUndo undo_{tblData};
     std::optional<std::pair<int, int>> entered_;   // columns that are being typed or pasted into
     std::map<int, std::vector<Finding>> findings_; // by row

@@ -269,6 +269,12 @@ std::string frmData2::VariablesOf(int row) const {
 
 std::shared_ptr<clsData> frmData2::NewRow(int row, const clsData* old) const {
     auto data = old ? std::make_shared<clsData>(*old) : std::make_shared<clsData>();
+    for (int column = 0; column < firstColumns_.Count(); ++column) {
+        const TableColumn& gone = firstColumns_[column]; // its entries went with the statement
+        if (gone.IsStatement() && gone.kind != Kind::Digits &&
+            columns_.Find(gone.kind, gone.item) < 0)
+            firstColumns_.Store(*data, column, {});
+    }
     data->nVar = static_cast<signed char>(set_->nVar);
     data->isDigit = Globals().IncludeDigits;
     data->inOriginalUnits = original_;

@@ -140,6 +140,7 @@ void frmData2::FillRows() {
     undo_.Clear();
     firstText_ = TableText();
     firstStatements_ = set_->UX;
+    firstColumns_ = columns_;
     FindAgain(1, tblData.Rows() - 1);
     ShowNotice(told_);
 }

@@ -256,6 +256,14 @@ TEST_F(frmData2Test, EntriesOfAStatementThatGoesAreAskedAbout) {
     form_->cmdAssign.UserClick();
     EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.8|;280|999.7|;||;");
     EXPECT_EQ(form_->tblData.Selection(), (ui::Grid::Block{2, 1, 2, 1}));
+    form_->mnuUndo.UserClick();
+    Accept(); // asks again, for the statements are those of the beginning
+    EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, "0.5");
+    OpenTable();
+    desktop.OnModal(withoutStatement);
+    desktop.Expect(question, ui::Answer::Yes);
+    form_->cmdSave.UserClick();
+    EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, ""); // nor does it hide in the row
 }
 
 TEST_F(frmData2Test, FailedEvaluationIsForgottenWhenItsRowChanges) {
