@@ -12,6 +12,7 @@ using Shape = ui::Picture::Shape;
 using Align = ui::Picture::Align;
 
 constexpr double radius = 5.5; // of a marker
+constexpr double denseRadius = 3.3;
 constexpr double fontSize = 16;
 
 std::string Number(double value) {
@@ -49,14 +50,16 @@ const char* CornersOf(int marker) {
 }
 
 std::string Marker(const Stroke& stroke) {
-    const std::string fill = " fill=\"" + Colour(stroke.colour) + "\" stroke=\"#ffffff\"";
-    if (stroke.marker == 0) return Circle(stroke, radius) + fill + "/>";
+    const double size = stroke.dense ? denseRadius : radius;
+    const std::string fill =
+        " fill=\"" + Colour(stroke.colour) + "\"" + (stroke.dense ? "" : " stroke=\"#ffffff\"");
+    if (stroke.marker == 0) return Circle(stroke, size) + fill + "/>";
     const std::string place = " transform=\"translate(" + Number(stroke.x) + " " +
-                              Number(stroke.y) + ") scale(" + Number(radius) + ")\"";
+                              Number(stroke.y) + ") scale(" + Number(size) + ")\"";
     if (stroke.marker >= ui::Picture::MarkerCount - 1)
         return "<path d=\"M-1-1L1 1M-1 1L1-1\"" + place + Pen(stroke) + " stroke-width=\"0.5\"/>";
     return std::string("<polygon points=\"") + CornersOf(stroke.marker) + "\"" + place + fill +
-           " stroke-width=\"0.18\"/>";
+           (stroke.dense ? "" : " stroke-width=\"0.18\"") + "/>";
 }
 
 std::string Text(const Stroke& stroke) {

@@ -23,6 +23,7 @@ constexpr double legendLine = 28;
 constexpr double characterWidth = 10;
 constexpr double leastApart = 28; // of labels on the Y axis
 constexpr double leastAside = 70; // of labels on the X axis
+constexpr int manyPoints = 1000;  // beyond these markers lie over one another
 constexpr int colourCount = static_cast<int>(ui::PictureColours.size());
 constexpr int faint = -1;
 
@@ -152,6 +153,7 @@ void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot) {
         const auto place = PlaceOf(plot, point);
         if (!place) continue;
         Stroke marker = Marker(*place, plot.families.GroupOf[At(point)]);
+        marker.dense = plot.table.PointCount() > manyPoints;
         if (plot.showUnc && place->x >= plot.left && place->x <= plot.right)
             DrawBar(strokes, plot, point, place->x);
         if (!IsInside(plot, *place)) {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include <QBuffer>
@@ -21,6 +22,16 @@ using Shape = ui::Picture::Shape;
 
 constexpr std::size_t manyStrokes = 2000;
 
+/// Nearly the ground, and no darker where many lie over one another.
+QColor Faint(const QColor& text, const QColor& ground) {
+    constexpr double share = 0.15;
+    const auto mixed = [](int of, int with) {
+        return static_cast<int>(std::lround(with + share * (of - with)));
+    };
+    return {mixed(text.red(), ground.red()), mixed(text.green(), ground.green()),
+            mixed(text.blue(), ground.blue())};
+}
+
 /// A slanting cross, or the four strokes that point at another marker.
 void DrawCross(QPainter& painter, QPointF at, bool isReticle, const QColor& colour, double r) {
     const double from = isReticle ? 1.6 * r : 0;
@@ -32,15 +43,16 @@ void DrawCross(QPainter& painter, QPointF at, bool isReticle, const QColor& colo
             painter.drawLine(at + way * side * from, at + way * side * to);
 }
 
-/// The edge of a marker has the colour of the ground, so that those that touch are told apart.
-void DrawMarker(QPainter& painter, QPointF at, int marker, const QColor& colour,
-                const QPalette& palette, double r) {
+/// The edge of a marker has the colour of the ground, so that those that touch are told apart;
+/// among very many it would hide them, and has its own colour.
+void DrawMarker(QPainter& painter, QPointF at, int marker, const QColor& colour, const QColor& edge,
+                double r) {
     if (marker >= ui::Picture::MarkerCount - 1)
         return DrawCross(painter, at, marker == ui::Picture::Reticle, colour, r);
     const auto polygon = [&](const QList<QPointF>& corners) {
         painter.drawPolygon(QPolygonF(corners).translated(at));
     };
-    painter.setPen(palette.color(QPalette::Base));
+    painter.setPen(edge);
     painter.setBrush(colour);
     switch (marker) {
     case 0:
@@ -82,7 +94,7 @@ public:
         case Shape::Text:
             return Text(from, stroke);
         case Shape::Marker:
-            return Marker(from, stroke.marker, colour);
+            return Marker(from, stroke, colour);
         case Shape::Ring:
             painter_.setPen(QPen(colour, radius_ * 0.4));
             return painter_.drawEllipse(from, radius_ * 2.2, radius_ * 2.2);
@@ -91,9 +103,9 @@ public:
 
 private:
     QColor Colour(int index) const {
-        QColor text = palette_.color(QPalette::Text);
-        if (index < 0) text.setAlphaF(0.15F);
-        if (index <= 0) return text;
+        const QColor text = palette_.color(QPalette::Text);
+        if (index < 0) return Faint(text, palette_.color(QPalette::Base));
+        if (index == 0) return text;
         const bool isDark = palette_.color(QPalette::Base).lightness() < 128;
         const auto at = static_cast<std::size_t>(index - 1) % ui::PictureColours.size();
         const ui::PictureColour& colour = ui::PictureColours[at];
@@ -122,10 +134,12 @@ private:
     }
 
     /// Thousands of markers are copies of a few small pictures.
-    void Marker(QPointF at, int marker, const QColor& colour) {
-        if (!copiesMarkers_) return DrawMarker(painter_, at, marker, colour, palette_, radius_);
-        QPixmap& copy = copies_[{marker, colour.rgba()}];
-        const double half = std::ceil(radius_ * 1.5);
+    void Marker(QPointF at, const Stroke& stroke, const QColor& colour) {
+        const QColor edge = stroke.dense ? colour : palette_.color(QPalette::Base);
+        const double radius = stroke.dense ? radius_ * 0.6 : radius_;
+        if (!copiesMarkers_) return DrawMarker(painter_, at, stroke.marker, colour, edge, radius);
+        QPixmap& copy = copies_[{stroke.marker, stroke.dense, colour.rgba()}];
+        const double half = std::ceil(radius * 1.5);
         if (copy.isNull()) {
             const double sharpness = painter_.device()->devicePixelRatio();
             copy = QPixmap((QSizeF(2 * half, 2 * half) * sharpness).toSize());
@@ -133,7 +147,7 @@ private:
             copy.fill(Qt::transparent);
             QPainter painter(&copy);
             painter.setRenderHint(QPainter::Antialiasing);
-            DrawMarker(painter, {half, half}, marker, colour, palette_, radius_);
+            DrawMarker(painter, {half, half}, stroke.marker, colour, edge, radius);
         }
         painter_.drawPixmap(at - QPointF(half, half), copy);
     }
@@ -144,7 +158,7 @@ private:
     double radius_; // of a marker
     std::vector<QRectF> taken_;
     bool copiesMarkers_;
-    std::map<std::pair<int, QRgb>, QPixmap> copies_;
+    std::map<std::tuple<int, bool, QRgb>, QPixmap> copies_;
 };
 
 QPalette PaperPalette() {

@@ -40,6 +40,7 @@ public:
         int marker = 0;      // markers and rings keep their size when the surface grows
         bool yields = false; // a text that is left out where it would cover one of its kind
         bool boxed = false;  // a text on a ground of its own
+        bool dense = false;  // a marker among very many: small, and no edge that hides others
     };
 
     Picture(Form& form, std::string name, double width, double height);

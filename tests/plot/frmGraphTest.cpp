@@ -1,5 +1,6 @@
 #include "plot/frmGraph.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <memory>
@@ -48,6 +49,8 @@ TEST_F(frmGraphTest, AFullTableIsDrawnAndSearchedAtOnce) {
     graph.picPIC.UserHover(400, 300);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     EXPECT_LT(took.count(), 5); // a build without optimisation, on a busy machine
+    const auto isDense = [](const ui::Picture::Stroke& stroke) { return stroke.dense; };
+    EXPECT_EQ(std::ranges::count_if(graph.picPIC.Strokes(), isDense), PlotTable::MostPoints);
     EXPECT_EQ(graph.lblPoint.Caption().front(), '(');
 }
 
@@ -136,8 +139,10 @@ TEST_F(frmGraphTest, DrawingsHoldEveryShapeInPlainText) {
     std::vector<ui::Picture::Stroke> strokes{{Shape::Line, 1, 2, 3.456, 4, -1, {}},
                                              {Shape::Ring, 5, 5, 0, 0, 0, {}},
                                              {Shape::Text, 10, 20, 0, 0, 0, "a < b"},
-                                             {Shape::Marker, 7, 8, 0, 0, 2, {}}};
-    strokes.back().marker = 2;
+                                             {Shape::Marker, 7, 8, 0, 0, 2, {}},
+                                             {Shape::Marker, 9, 8, 0, 0, 2, {}}};
+    strokes[3].marker = 2;
+    strokes[4].dense = true;
     picture.Strokes(strokes);
     const std::string svg = SvgOf(picture, "T & p");
     EXPECT_EQ(svg.substr(svg.find("<title>")),
@@ -150,6 +155,7 @@ TEST_F(frmGraphTest, DrawingsHoldEveryShapeInPlainText) {
               "<text x=\"10\" y=\"36\" text-anchor=\"start\">a &lt; b</text>\n"
               "<polygon points=\"-1.1,0.9 1.1,0.9 0,-1.1\" transform=\"translate(7 8) "
               "scale(5.5)\" fill=\"#ff4411\" stroke=\"#ffffff\" stroke-width=\"0.18\"/>\n"
+              "<circle cx=\"9\" cy=\"8\" r=\"3.3\" fill=\"#ff4411\"/>\n"
               "</svg>\n");
 }
 
