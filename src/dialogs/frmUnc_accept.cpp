@@ -7,6 +7,7 @@
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
+#include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -140,9 +141,16 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
                            NumberWithUnit(FormatValue(stated, shownDigits), item.Unit));
         return;
     }
+    if (head.PRECISION == 0) {
+        lblFigures.Caption("No figure follows for the property: nothing is stated about it");
+        return;
+    }
+    const auto row = FindProperty(item.PRPCODE);
+    const std::string systemUnit = row && head.Relation != "R" ? row->Unit : std::string();
     lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
                        NumberWithUnit(FormatValue(head.PRECISION, shownDigits), item.Unit) +
-                       "; in the system unit " + FormatValue(head.SystemPrecision, shownDigits));
+                       "; in the system unit " +
+                       NumberWithUnit(FormatValue(head.SystemPrecision, shownDigits), systemUnit));
 }
 
 void frmUnc::Accept() {

@@ -251,7 +251,7 @@ TEST_F(frmSingleTest, FiguresTakeThePrecisionInTheUnitOfTheValue) {
         auto& statements = dynamic_cast<frmUnc&>(shown);
         statements.cmdCalc.UserClick();
         EXPECT_EQ(statements.lblFigures.Caption(),
-                  "Expanded uncertainty of 212.0: 0.180 F; in the system unit 0.100");
+                  "Expanded uncertainty of 212.0: 0.180 F; in the system unit 0.100 K");
         statements.cmdOK.UserClick();
     });
     form.cmdUnc.UserClick();

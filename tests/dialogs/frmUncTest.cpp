@@ -146,16 +146,19 @@ TEST_F(frmUncTest, FiguresFollowFromTheStatementsAndCancelLeavesAll) {
         EXPECT_FALSE(form.Frame(3).Visible());
         EXPECT_FALSE(form.txtKVOU.IsShown());
         EXPECT_FALSE(form.txtUValue(0).IsUsable());
+        form.cmdCalc.UserClick();
+        EXPECT_EQ(form.lblFigures.Caption(),
+                  "No figure follows for the property: nothing is stated about it");
         form.chkUnc(0).UserClick();
         form.txtUValue(0).UserReplaceAll("1");
         form.chkUPerCent(0).UserClick();
         form.cmdCalc.UserClick();
         EXPECT_EQ(form.lblFigures.Caption(),
-                  "Expanded uncertainty of 0.9970: 0.0199 g/cm3; in the system unit 19.9");
+                  "Expanded uncertainty of 0.9970: 0.0199 g/cm3; in the system unit 19.9 kg/m3");
         form.txtULevel(0).UserReplaceAll("95");
         form.cmdCalc.UserClick();
         EXPECT_EQ(form.lblFigures.Caption(),
-                  "Expanded uncertainty of 0.9970: 0.00997 g/cm3; in the system unit 9.97");
+                  "Expanded uncertainty of 0.9970: 0.00997 g/cm3; in the system unit 9.97 kg/m3");
         form.chkComb.UserClick();
         form.txtCUValue.UserReplaceAll("0.02");
         form.cmdCalc.UserClick();
