@@ -84,7 +84,7 @@ void frmUnc::ArrangeControls() {
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
     TabAlongArrangement();
-    PreferredColumns = 135; // so that an evaluator can be read
+    PreferredColumns = 165; // so that an evaluator can be read
 }
 
 void frmUnc::WireEvents() {

@@ -72,6 +72,7 @@ void ComboView::Draw() {
         own_->setEditText(text);
         if (!own_->hasFocus()) own_->lineEdit()->home(false); // a long text shows its beginning
     }
+    if (model_.IsEditable()) Shade(*own_, !model_.Enabled());
     DrawSelection(text);
 }
 

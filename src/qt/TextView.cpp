@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include <QApplication>
 #include <QEvent>
 
 #include "qt/FormWindow.h"
@@ -23,15 +22,6 @@ public:
         return {metrics.averageCharWidth() * 50, metrics.lineSpacing() * 5};
     }
 };
-
-// What cannot be typed into looks like the window around it.
-void Shade(QWidget& widget, bool closed) {
-    QPalette palette;
-    if (closed) palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
-    if (widget.palette().color(QPalette::Base) != palette.color(QPalette::Base)) {
-        widget.setPalette(palette);
-    }
-}
 
 bool IsMove(const ui::Key& key, bool manyLines) {
     const std::string& name = key.name;

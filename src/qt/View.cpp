@@ -1,5 +1,6 @@
 #include "qt/View.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include "qt/FormWindow.h"
@@ -77,6 +78,14 @@ bool View::eventFilter(QObject* watched, QEvent* event) {
         return false;
     default:
         return false;
+    }
+}
+
+void Shade(QWidget& widget, bool closed) {
+    QPalette palette;
+    if (closed) palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
+    if (widget.palette().color(QPalette::Base) != palette.color(QPalette::Base)) {
+        widget.setPalette(palette);
     }
 }
 

@@ -70,6 +70,9 @@ protected:
     TWidget* own_;
 };
 
+/// What cannot be typed into looks like the window around it.
+void Shade(QWidget& widget, bool closed);
+
 /// Makes the view for a control; null for kinds that stand in menus and bars.
 std::unique_ptr<View> MakeView(FormWindow& window, ui::Control& control);
 

@@ -2,16 +2,20 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include "host/PosixFileSystem.h"
 #include "qt/EveryKind.h"
+#include "qt/PicturePainter.h"
 #include "qt/Text.h"
 
 namespace vexora::qt::test {
@@ -102,6 +106,27 @@ TEST_F(OnTheScreen, APictureBecomesAPngOnWhiteGround) {
     ASSERT_EQ(image.size(), QSize(400, 200));
     EXPECT_EQ(image.pixel(2, 2), 0xFFFFFFFFU);
     EXPECT_EQ(image.pixel(200, 100), 0xFF000000U | ui::PictureColours[0].light);
+}
+
+TEST_F(OnTheScreen, APictureIsPrintedOnOnePage) {
+    ui::Form form("frmAny", "Any");
+    ui::Picture picture(form, "picAny", 200, 100);
+    picture.Strokes({{ui::Picture::Shape::Text, 10, 70, 0, 0, 0, "label"},
+                     {ui::Picture::Shape::Marker, 100, 50, 0, 0, 1, {}}});
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("plot.pdf");
+    {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(path);
+        printer.setPageOrientation(QPageLayout::Landscape);
+        PrintOn(printer, picture);
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    EXPECT_TRUE(bytes.startsWith("%PDF"));
+    EXPECT_TRUE(bytes.contains("/Count 1"));
+    EXPECT_TRUE(bytes.contains("/Font")); // texts stay texts
 }
 
 TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
