@@ -58,8 +58,10 @@ void TreeView::Rekey(TreeNode& node, std::string_view key) {
     byKey_.erase(before);
     node.key_ = Unique(key);
     byKey_[node.key_] = &node;
-    for (const auto& child : node.children_)
-        Rekey(*child, node.key_ + child->key_.substr(before.size()));
+    for (const auto& child : node.children_) {
+        if (child->key_.starts_with(before))
+            Rekey(*child, node.key_ + child->key_.substr(before.size()));
+    }
 }
 
 void TreeView::Forget(TreeNode& node) {

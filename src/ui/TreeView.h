@@ -56,7 +56,7 @@ public:
     /// Adds a node below a parent, or a root for none, as the last of its siblings.
     TreeNode& Add(TreeNode* parent, std::string_view key, std::string text);
     void Remove(TreeNode& node);
-    /// Gives a node another key, and all below it theirs, which begin with it.
+    /// Gives a node another key, and with it all below whose keys begin with that of the node.
     void Rekey(TreeNode& node, std::string_view key);
     void Clear();
     bool IsEmpty() const { return roots_.empty(); }

@@ -274,6 +274,8 @@ TEST_F(frmSampleTest, ASampleIsEditedWithWhatItsDescriptionSays) {
     dialog.cmdAccept.UserClick();
     EXPECT_FALSE(dialog.IsOpen());
     EXPECT_EQ(Samples(), "1 sx;(frozen twice);99.0m%,(by us) 99\n");
+    const auto& samples = globals.CurrentL->recS;
+    EXPECT_EQ(samples.Item("Sample 1 (sx;(frozen twice);99.0m%,(by us))"), samples.Item(1));
 }
 
 TEST_F(frmSampleTest, CancelKeepsTheSampleAsItWas) {

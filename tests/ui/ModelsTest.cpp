@@ -43,6 +43,20 @@ TEST(TreeView, RemovingANodeForgetsWhatStandsBelowIt) {
     EXPECT_TRUE(tree.IsEmpty());
 }
 
+TEST(TreeView, AnotherKeyIsThatOfAllNodesBelow) {
+    ui::Form form("frmTree", "Tree");
+    ui::TreeView tree(form, "tvwTree");
+    ui::TreeNode& root = tree.Add(nullptr, "R", "Root");
+    ui::TreeNode& sample = tree.Add(&root, "RS1", "sample");
+    ui::TreeNode& set = tree.Add(&sample, "RS1VDN", "set");
+    tree.Add(&root, "RS2", "another");
+    tree.Rekey(sample, "RS2");
+    EXPECT_EQ(tree.Find("RS2~2"), &sample);
+    EXPECT_EQ(tree.Find("RS2~2VDN"), &set);
+    EXPECT_EQ(tree.Find("RS1"), nullptr);
+    EXPECT_EQ(tree.Find("RS1VDN"), nullptr);
+}
+
 TEST(TreeView, TheMouseClicksWhereTheKeyboardOnlySelects) {
     ui::Form form("frmTree", "Tree");
     ui::TreeView tree(form, "tvwTree");
