@@ -227,6 +227,46 @@ double LegendWidth(const Plot& plot) {
     return 45 + characterWidth * static_cast<double>(longest);
 }
 
+constexpr double noteLine = lineHeight + 3;
+
+/// Where the two lines beside a point stand.
+struct Note {
+    bool isLeft = false; // of the point
+    double left = 0, right = 0, top = 0, bottom = 0;
+    int hidden = 0; // points below it
+};
+
+Note NoteBeside(PlotPlace place, double width, bool isLeft, bool isAbove) {
+    const double left = place.x + (isLeft ? -24 - width : 24);
+    const double top = place.y + (isAbove ? -2 * lineHeight - 18 : 18);
+    return {isLeft, left, left + width, top, top + 2 * noteLine, 0};
+}
+
+/// The side towards the middle of the plot, unless another that fits hides fewer points.
+Note FreestNote(const Plot& plot, PlotPlace place, std::size_t characters) {
+    const double width = characterWidth * static_cast<double>(characters);
+    const bool isLeft = place.x > (plot.left + plot.right) / 2;
+    const bool isAbove = place.y > (plot.top + plot.bottom) / 2;
+    std::vector<Note> notes{NoteBeside(place, width, isLeft, isAbove)};
+    for (const auto& [left, above] :
+         {std::pair{isLeft, !isAbove}, std::pair{!isLeft, isAbove}, std::pair{!isLeft, !isAbove}}) {
+        const Note note = NoteBeside(place, width, left, above);
+        if (note.left >= plot.left && note.right <= plot.right && note.top >= plot.top &&
+            note.bottom <= plot.bottom)
+            notes.push_back(note);
+    }
+    for (int point = 0; point < plot.table.PointCount(); ++point) {
+        const auto at = PlaceOf(plot, point);
+        if (!at) continue;
+        for (Note& note : notes)
+            note.hidden += at->x >= note.left && at->x <= note.right && at->y >= note.top &&
+                           at->y <= note.bottom;
+    }
+    return *std::min_element(notes.begin(), notes.end(), [](const Note& one, const Note& other) {
+        return one.hidden < other.hidden;
+    });
+}
+
 } // namespace
 
 Plot::Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
@@ -297,13 +337,14 @@ std::vector<Stroke> PointMark(const Plot& plot, int point) {
     reticle.colour = 0;
     reticle.marker = ui::Picture::Reticle;
     std::vector<Stroke> strokes{reticle};
-    const bool isRight = place->x > (plot.left + plot.right) / 2;
-    const double x = place->x + (isRight ? -24 : 24);
-    double y = place->y - (place->y > (plot.top + plot.bottom) / 2 ? 2 * lineHeight + 18 : -18);
-    for (const std::string& text : {PointText(plot, point), RowText(plot, point)}) {
-        strokes.push_back(Label(x, y, text, isRight ? Align::Right : Align::Left));
+    const std::string texts[] = {PointText(plot, point), RowText(plot, point)};
+    const Note note = FreestNote(plot, *place, std::max(texts[0].size(), texts[1].size()));
+    double y = note.top;
+    for (const std::string& text : texts) {
+        strokes.push_back(Label(note.isLeft ? note.right : note.left, y, text,
+                                note.isLeft ? Align::Right : Align::Left));
         strokes.back().boxed = true;
-        y += lineHeight + 3;
+        y += noteLine;
     }
     return strokes;
 }

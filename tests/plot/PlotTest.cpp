@@ -156,6 +156,25 @@ TEST(Plot, TheNearestDrawnPointIsTold) {
     }
 }
 
+TEST(Plot, WhatIsToldOfAPointStandsBesideItsNeighbours) {
+    for (const int slope : {1, -1}) {
+        PlotTable table;
+        table.nVar = 1;
+        for (int point = 0; point < 100; ++point)
+            table.Add({1000.0 + slope * 10 * point, 300.0 + point}, 0, point + 1);
+        const PlotScale scale = ScaleOf(table, false);
+        const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+        const Plot plot{table, scale, 1, families, true};
+        for (const int point : {30, 50, 70}) {
+            const PlotPlace place = PlaceOf(plot, point).value();
+            const auto strokes = PointMark(plot, point);
+            const bool isLeft = strokes[1].align == ui::Picture::Align::Right;
+            const bool isAbove = strokes[1].y < place.y;
+            EXPECT_EQ(isLeft == isAbove, slope > 0) << point; // away from the line
+        }
+    }
+}
+
 TEST(Plot, MarkersAndBarsShowWhatIsThere) {
     using Shape = ui::Picture::Shape;
     PlotTable table = TableOf({{1, 300, 100}, {2, 310, 100}, {3, 300, 200}, {-4, 310, 200}}, 2);
