@@ -106,7 +106,15 @@ std::vector<double> PlotScale::TicksX() const {
 }
 
 std::vector<double> PlotScale::TicksY() const {
-    return HasTicks() ? Ticks(YMin, YMax) : std::vector<double>();
+    if (!HasTicks()) return {};
+    std::vector<double> ticks = Ticks(YMin, YMax);
+    if (!Log || ticks.empty()) return ticks;
+    std::vector<double> decades;
+    double decade = std::ceil(std::log10(YMin));
+    for (; std::pow(10.0, decade) < ticks.front(); ++decade)
+        decades.push_back(std::pow(10.0, decade));
+    ticks.insert(ticks.begin(), decades.begin(), decades.end());
+    return ticks;
 }
 
 bool PlotScale::HasTicks() const {

@@ -31,7 +31,8 @@ public:
     double ValueY(double position) const;
 
     /// Values to be labelled, at equal steps of the value in either mode; none on either axis when
-    /// one of them has equal limits.
+    /// one of them has equal limits. The logarithmic mode squeezes small Y together below the first
+    /// step: there the powers of ten are labelled.
     std::vector<double> TicksX() const;
     std::vector<double> TicksY() const;
 

@@ -52,6 +52,18 @@ TEST(Plot, TicksStandAtRoundValuesWithinTheLimits) {
         EXPECT_EQ(TicksText(one.min, one.max), one.ticks) << one.min << " to " << one.max;
 }
 
+TEST(Plot, DecadesBelowTheEqualStepsHaveTicksInTheLogarithmicMode) {
+    const auto text = [](const PlotScale& scale) {
+        std::string ticks;
+        for (const double tick : scale.TicksY())
+            ticks += NumberText(tick) + " ";
+        return ticks;
+    };
+    EXPECT_EQ(text(ScaleOf(water, true)), "0.001 0.01 0.1 1 5 10 15 20 ");
+    EXPECT_EQ(text(ScaleOf(TableOf({{100, 300}, {400, 310}}), true)),
+              "100 150 200 250 300 350 400 ");
+}
+
 TEST(Plot, PlainAxesHaveTwoPerCentOfRoom) {
     const PlotScale scale = ScaleOf(TableOf({{1, 100}, {3, 200}}), false);
     EXPECT_DOUBLE_EQ(scale.XMin, 98);
