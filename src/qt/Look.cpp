@@ -33,7 +33,8 @@ QPalette Palette(bool dark) {
     return palette;
 }
 
-/// Draws the edge of marks to tick: on a dark base the style's own cannot be seen.
+/// Draws the edge of marks to tick and the lines of tables: on a dark base the style's own cannot
+/// be seen.
 class EdgedStyle : public QProxyStyle {
 public:
     EdgedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -47,6 +48,12 @@ public:
         painter->setPen(option->palette.color(QPalette::PlaceholderText));
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
         painter->restore();
+    }
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_Table_GridLineColor && option)
+            return static_cast<int>(option->palette.color(QPalette::Button).lighter(115).rgb());
+        return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
 
