@@ -108,6 +108,7 @@ private:
     void Paste(const std::string& text);
     bool FillSelection(const PastedTable& block);
     void PasteShown();
+    PastedTable BesideStatements(PastedTable block, int column) const;
     void PutIn(const PastedTable& block, int row, int column);
     bool MakesRoomFor(const PastedTable& block, int row, int column, bool isEmpty);
     void EmptyCells();

@@ -29,12 +29,36 @@ std::string Join(const std::vector<PasteNotice>& notices) {
 
 } // namespace
 
+/// Bare values, a column for each quantity and no more, go past the columns of digits and
+/// statements that stand between those of the values; any other block goes in as it is.
+PastedTable frmData2::BesideStatements(PastedTable block, int column) const {
+    std::vector<std::size_t> places;
+    for (int at = 0; at < columns_.Count(); ++at)
+        if (columns_[at].kind == TableColumn::Kind::Value)
+            places.push_back(static_cast<std::size_t>(at));
+    const bool parted = !places.empty() && places.back() + 1 > places.size();
+    if (!parted || column != 0 || block.Columns() != places.size()) return block;
+    const auto& first = block.rows.front(); // not full: the corner of a table in two dimensions
+    if (first.size() < places.size() || std::ranges::find(first, std::string()) != first.end())
+        return block;
+    for (std::vector<std::string>& cells : block.rows) {
+        std::vector<std::string> spread(places.back() + 1);
+        for (std::size_t i = 0; i < std::min(cells.size(), places.size()); ++i)
+            spread[places[i]] = std::move(cells[i]);
+        cells = std::move(spread);
+    }
+    block.notices.push_back(
+        {0, "The values went past the columns between them; Ctrl+Z takes them back"});
+    return block;
+}
+
 /// A block goes in from the selected cell on; the notices count rows as the table does.
 void frmData2::Paste(const std::string& text) {
     if (text.empty()) return; // nothing, or no text, was copied
     const ui::Grid::Block cells = tblData.Selection();
     const int row = std::max(cells.top, tblData.FixedRows());
-    const PastedTable block = CleanTable(text, row - tblData.FixedRows() + 1);
+    const PastedTable block =
+        BesideStatements(CleanTable(text, row - tblData.FixedRows() + 1), cells.left);
     if (!FillSelection(block)) PutIn(block, row, cells.left);
 }
 
@@ -159,7 +183,7 @@ void frmData2::OpenFile() {
         ui::Say(error);
         return;
     }
-    const PastedTable block = CleanTable(ToUtf8(*text));
+    const PastedTable block = BesideStatements(CleanTable(ToUtf8(*text)), 0);
     const int first = tblData.FixedRows();
     if (!MakesRoomFor(block, first, 0, true)) return;
     const int replaced = LastRow() - first + 1;

@@ -45,6 +45,23 @@ TEST_F(frmData2EditTest, TableInTwoDimensionsBecomesOneRowForEachCell) {
     EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
 }
 
+TEST_F(frmData2EditTest, BareValuesGoPastDigitsAndStatements) {
+    globals.IncludeDigits = true;
+    set->UX[1].iUnc = true;
+    OpenTable();
+    Paste("300\t996.50\n310\t993.3\n");
+    EXPECT_EQ(Cells(), "Var1|Digits|Uncert.|Property|Digits|KVO Uncert.;300|||996.50||;"
+                       "310|||993.3||;|||||;");
+    EXPECT_EQ(form_->lblNotice.Caption(),
+              "The values went past the columns between them; Ctrl+Z takes them back");
+    form_->mnuUndo.UserClick();
+    Paste("300\t3\t0.1\t996.50\n"); // as the table has them
+    EXPECT_EQ(form_->tblData.Cell(1, 2) + " " + form_->tblData.Cell(1, 3), "0.1 996.50");
+    form_->tblData.Select({1, 2, 1, 2});
+    Paste("0.2\t996.6\n"); // not from the first column on
+    EXPECT_EQ(form_->tblData.Cell(1, 2) + " " + form_->tblData.Cell(1, 3), "0.2 996.6");
+}
+
 TEST_F(frmData2EditTest, NumberInTheCornerIsNotLeftOutUntold) {
     TwoVariables();
     OpenTable();
