@@ -6,14 +6,14 @@
 #include <memory>
 #include <string>
 
-#include "dialogs/RegisterDialogs.h"
-#include "dialogs/frmData2.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "records/clsTwo.h"
 #include "reference/Numbers.h"
+#include "shell/RegisterForms.h"
+#include "tables/frmData2.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -54,7 +54,7 @@ struct Table {
     Table() {
         const std::string share = VEXORA_SHARE_DIR;
         globals.Databases.OpenBoth(share + "/VXRLocal.mdb", share + "/VXR.mdb");
-        RegisterDialogs(forms);
+        RegisterForms(forms);
         forms.Register<Statements>("frmUnc");
         set->PRPCODE = "VDN";
         set->PROPERTY_UNIT = "S";

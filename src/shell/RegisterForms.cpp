@@ -1,19 +1,25 @@
 #include "shell/RegisterForms.h"
 
-#include "dialogs/RegisterDialogs.h"
-#include "plot/frmBox.h"
-#include "plot/frmGraph.h"
+#include "compounds/CompoundForms.h"
+#include "entry/EntryForms.h"
+#include "plot/PlotForms.h"
+#include "pure/PureForms.h"
 #include "shell/frmConfigure.h"
 #include "shell/frmMain.h"
+#include "sources/SourceForms.h"
+#include "tables/TableForms.h"
 
 namespace vexora {
 
 void RegisterForms(ui::Forms& forms) {
     forms.Register<frmMain>("frmMain");
     forms.Register<frmConfigure>("frmConfigure");
-    forms.Register<frmBox>("frmBox");
-    forms.Register<frmGraph>("frmGraph");
-    RegisterDialogs(forms);
+    RegisterSourceForms(forms);
+    RegisterCompoundForms(forms);
+    RegisterEntryForms(forms);
+    RegisterPureForms(forms);
+    RegisterTableForms(forms);
+    RegisterPlotForms(forms);
 }
 
 } // namespace vexora

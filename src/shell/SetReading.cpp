@@ -1,7 +1,7 @@
 #include "shell/SetReading.h"
 
 #include "chem/CommentTags.h"
-#include "dialogs/TwoRules.h"
+#include "pure/TwoRules.h"
 #include "records/PropertyLabels.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"

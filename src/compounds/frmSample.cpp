@@ -1,0 +1,204 @@
+#include "compounds/frmSample.h"
+
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr int helpSample = 250;
+const std::string newEntry = "New";
+
+/// Asks for a method that the list lacks; empty when none was given.
+std::string AskMethod() {
+    const auto answer =
+        ui::TheDesktop().Ask({"Please enter method of purity determination", {}, {}});
+    return FreeText(answer.value_or(""));
+}
+
+} // namespace
+
+frmSample::frmSample() : Form("frmSample", "Sample") {
+    ArrangeControls();
+    WireEvents();
+    DefaultButton = &cmdAccept;
+    CancelButton = &cmdCancel;
+    HelpContext = helpSample;
+    txtSampleNo.Locked(true);
+    txtSmplDescription.Locked(true);
+}
+
+void frmSample::ArrangeControls() {
+    using namespace ui;
+    std::vector<Layout> after = {
+        Field("Purified by: (Select all applicable statements)", lstPurify)};
+    for (int i = 0; i < finalRows; ++i) {
+        after.push_back(
+            Field(i == 0 ? "Final purity:" : "Another detn.",
+                  Row({Narrow(txtFinalPurity(i), 8), lstFinalPurity(i), lstFinalDetBy(i)})));
+    }
+    Arrangement = Column(
+        {Row({Field("Compound:", cboSubst), Field("Sample #", Narrow(txtSampleNo, 4))}),
+         Field("Description availability:", lstDescAvail),
+         Field("Sample description:", txtSmplDescription),
+         Group(fraInitial,
+               {Field("Source of sample:", lstSmpSrc),
+                Field("Initial purity (if reported)", Row({Narrow(txtSrcPurity, 8), lstSrcPurity})),
+                Field("Determined by", lstSrsDetBy)}),
+         Group(fraFinal, after), ButtonRow({cmdNext, cmdAccept, cmdCancel})});
+    PreferredColumns = 124;
+}
+
+void frmSample::WireEvents() {
+    cboSubst.OnClick = [this] { SubstClick(); };
+    lstDescAvail.OnClick = [this] { AvailabilityClick(); };
+    lstSmpSrc.OnClick = [this] { Compose(); };
+    lstPurify.OnClick = [this] { PurifyClick(); };
+    WirePurity(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
+    for (int i = 0; i < finalRows; ++i)
+        WirePurity(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i));
+    cmdNext.OnClick = [this] { Next(); };
+    cmdAccept.OnClick = [this] { Accept(); };
+    cmdCancel.OnClick = [this] { Close(); };
+    mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(helpSample); };
+}
+
+void frmSample::WirePurity(ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
+    value.OnChange = [this] { Compose(); };
+    unit.OnClick = [this] { Compose(); };
+    method.OnClick = [this, &method] { MethodClick(method); };
+}
+
+void frmSample::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    editing_ = globals.EditSample && globals.CurrentS != nullptr;
+    FillLists();
+    FillCompounds();
+    cboSubst.Enabled(!editing_);
+    cmdNext.Visible(!editing_);
+    if (editing_) {
+        stored_ = globals.CurrentS;
+        const ui::FillingScope filling(*this);
+        cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(stored_->Parent)) - 1);
+        txtSampleNo.Text(stored_->SMPNM);
+        Fill();
+    } else {
+        cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) -
+                       1);
+        NewSample();
+    }
+}
+
+void frmSample::Unload() {
+    CloseForm();
+}
+
+void frmSample::FillLists() {
+    for (const CodeText& entry : SampleAvailabilities())
+        lstDescAvail.Add(std::string(entry.text));
+    for (const CodeText& entry : SampleSources())
+        lstSmpSrc.Add(std::string(entry.text));
+    lstPurify.Assign(PurificationList());
+    lstPurify.Add(otherEntry);
+    const auto fill = [](ui::ComboBox& units, ui::ComboBox& methods) {
+        for (const PurityUnit& unit : PurityUnits())
+            units.Add(std::string(unit.text));
+        methods.Assign(DeterminationList());
+        methods.Add(otherEntry);
+    };
+    fill(lstSrcPurity, lstSrsDetBy);
+    for (int i = 0; i < finalRows; ++i)
+        fill(lstFinalPurity(i), lstFinalDetBy(i));
+}
+
+void frmSample::FillCompounds() {
+    const ui::FillingScope filling(*this);
+    FillCompoundList(cboSubst);
+    if (!editing_) cboSubst.Add(newEntry);
+}
+
+/// Empties the form for the next sample of the chosen compound.
+void frmSample::NewSample() {
+    const ui::FillingScope filling(*this);
+    stored_ = nullptr;
+    changed_ = true;
+    const auto compound = ChosenCompound();
+    txtSampleNo.Text(compound ? std::to_string(compound->NextSampleNumber()) : std::string());
+    lstDescAvail.Index(-1);
+    ClearDescription();
+    txtSmplDescription.Text("");
+    cmdAccept.Caption("Accept");
+}
+
+std::shared_ptr<clsL> frmSample::ChosenCompound() const {
+    return Globals().CurrentR->recL.Item(static_cast<std::size_t>(cboSubst.Index() + 1));
+}
+
+void frmSample::SubstClick() {
+    if (Filling || cboSubst.Index() < 0) return;
+    if (!editing_ && cboSubst.Index() == cboSubst.Count() - 1) NewCompound();
+    if (cboSubst.Index() == chosen_) return;
+    chosen_ = cboSubst.Index();
+    const auto compound = ChosenCompound();
+    if (!compound) {
+        if (chosen_ >= 0) ui::Say("Substance internal error");
+        return;
+    }
+    stored_ = nullptr; // what stands on the form now describes a sample of this compound
+    txtSampleNo.Text(std::to_string(compound->NextSampleNumber()));
+    Compose();
+}
+
+/// Lets the operator enter a compound first; the one that joined the source is chosen then.
+void frmSample::NewCompound() {
+    auto& compounds = Globals().CurrentR->recL;
+    const std::size_t before = compounds.Count();
+    if (!Globals().IsEditingInPlace()) Globals().OpenForms.push_back(Name());
+    ui::Forms::Current().Get("frmSubst").ShowModal();
+    FillCompounds();
+    const ui::FillingScope filling(*this);
+    cboSubst.Index(compounds.Count() > before ? static_cast<int>(compounds.Count()) - 1 : chosen_);
+}
+
+void frmSample::AvailabilityClick() {
+    FollowAvailability();
+    Compose();
+}
+
+void frmSample::PurifyClick() {
+    const int other = lstPurify.Find(otherEntry);
+    if (!Filling && lstPurify.Selected(other)) {
+        const ui::FillingScope filling(*this);
+        lstPurify.Selected(other, false);
+        const std::string text = AskMethod();
+        lstPurify.Selected(PlaceOfMethod(lstPurify, text), true);
+    }
+    Compose();
+}
+
+void frmSample::MethodClick(ui::ComboBox& method) {
+    if (!Filling && method.Chosen() == otherEntry) {
+        const ui::FillingScope filling(*this);
+        const std::string text = AskMethod();
+        method.Index(PlaceOfMethod(method, text));
+    }
+    Compose();
+}
+
+void frmSample::Compose() {
+    if (Filling) return;
+    changed_ = true;
+    cmdAccept.Caption("Accept");
+    txtSmplDescription.Text(lstDescAvail.Index() < 0 ? std::string() : ComposeDescription(Read()));
+}
+
+} // namespace vexora

@@ -1,0 +1,128 @@
+#include "compounds/frmSample.h"
+#include "records/clsS.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+using NameLookUp = std::string (*)(std::string_view);
+
+/// The words of a code as a list shows them; free text keeps its brackets.
+std::string ListText(const std::string& code, NameLookUp nameOf) {
+    return code.starts_with('(') ? code : nameOf(code);
+}
+
+std::string UnitCode(std::string_view text) {
+    for (const PurityUnit& unit : PurityUnits())
+        if (unit.text == text) return std::string(unit.code);
+    return {};
+}
+
+PurityStatement ReadPurity(const ui::TextBox& value, const ui::ComboBox& unit,
+                           const ui::ComboBox& method) {
+    return {NormalizeNumber(value.Text()), UnitCode(unit.Chosen()),
+            DeterminationCode(method.Chosen())};
+}
+
+} // namespace
+
+SampleDescription frmSample::Read() const {
+    SampleDescription description;
+    description.Availability = CodeOfText(SampleAvailabilities(), lstDescAvail.Chosen());
+    description.Source = CodeOfText(SampleSources(), lstSmpSrc.Chosen());
+    description.Initial = ReadPurity(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
+    for (int i = 0; i < lstPurify.Count(); ++i)
+        if (lstPurify.Selected(i))
+            description.Purification.push_back(PurificationCode(lstPurify.Item(i)));
+    for (int i = 0; i < finalRows; ++i)
+        description.Final.push_back(
+            ReadPurity(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)));
+    return description;
+}
+
+/// Shows the sample's description. One that cannot be taken apart is given to the operator to mend,
+/// again and again until it can; on Cancel it stays as it is and the lists stay empty.
+void frmSample::Fill() {
+    std::string text = stored_->SMPDESC;
+    while (true) {
+        txtSmplDescription.Text(text);
+        const auto description = ParseDescription(text);
+        if (description && ShowDescription(*description)) return;
+        ClearDescription();
+        const std::string title = "Please correct sample description";
+        ui::Say("Error: Sample description cannot be interpreted", title);
+        const auto mended = ui::TheDesktop().Ask({"Sample description:", title, text});
+        if (!mended) break;
+        text = *mended;
+    }
+    txtSmplDescription.Text(stored_->SMPDESC);
+}
+
+/// False when a code is unknown or there are more statements than boxes.
+bool frmSample::ShowDescription(const SampleDescription& description) {
+    ClearDescription();
+    lstDescAvail.Index(IndexOfCode(SampleAvailabilities(), description.Availability));
+    FollowAvailability();
+    if (!IsDescribed()) return true;
+    lstSmpSrc.Index(IndexOfCode(SampleSources(), description.Source));
+    if (!ShowPurity(description.Initial, txtSrcPurity, lstSrcPurity, lstSrsDetBy)) return false;
+    for (const std::string& code : description.Purification) {
+        const int place = PlaceOfMethod(lstPurify, ListText(code, PurificationName));
+        if (place < 0) return false;
+        lstPurify.Selected(place, true);
+    }
+    if (description.Final.size() > static_cast<std::size_t>(finalRows)) return false;
+    int i = 0;
+    for (const PurityStatement& statement : description.Final) {
+        if (!ShowPurity(statement, txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)))
+            return false;
+        ++i;
+    }
+    return true;
+}
+
+bool frmSample::ShowPurity(const PurityStatement& statement, ui::TextBox& value, ui::ComboBox& unit,
+                           ui::ComboBox& method) {
+    if (statement.Value.empty()) return true;
+    value.Text(statement.Value);
+    if (const PurityUnit* row = PurityUnitByCode(statement.Unit)) unit.Choose(row->text);
+    if (statement.Method.empty()) return true;
+    method.Index(PlaceOfMethod(method, ListText(statement.Method, DeterminationName)));
+    return method.Index() >= 0;
+}
+
+void frmSample::ClearDescription() {
+    lstDescAvail.Index(-1);
+    lstSmpSrc.Index(-1);
+    for (int i = 0; i < lstPurify.Count(); ++i)
+        lstPurify.Selected(i, false);
+    const auto clear = [](ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
+        value.Text("");
+        unit.Index(0); // most purities are reported in mol %
+        method.Index(-1);
+    };
+    clear(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
+    for (int i = 0; i < finalRows; ++i)
+        clear(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i));
+    FollowAvailability();
+}
+
+/// Source and purity are asked for only while there is something to describe.
+void frmSample::FollowAvailability() {
+    const bool described = lstDescAvail.Index() <= 0;
+    fraInitial.Enabled(described);
+    fraFinal.Enabled(described);
+}
+
+/// The entry's place in a list of methods; free text that the list lacks is added in front of
+/// "Other". -1 for none.
+int frmSample::PlaceOfMethod(ui::ItemList& list, const std::string& text) {
+    if (text.starts_with('(') && list.Find(text) < 0) list.Insert(list.Find(otherEntry), text);
+    return text.empty() ? -1 : list.Find(text);
+}
+
+} // namespace vexora

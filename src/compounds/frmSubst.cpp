@@ -1,0 +1,226 @@
+#include "compounds/frmSubst.h"
+
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr int helpEnter = 240;
+constexpr int helpDisplay = 140;
+constexpr int helpBio = 145;
+
+bool Writes(const ui::Key& key) {
+    return key.character >= U' ' && !key.control && !key.alt;
+}
+
+bool IsDigitKey(const ui::Key& key) {
+    return key.character >= U'0' && key.character <= U'9';
+}
+
+bool IsSeparatorKey(const ui::Key& key) {
+    return key.character == U' ' || key.character == U'-';
+}
+
+/// Characters that stay when the selection is typed over.
+std::size_t KeptCharacters(const ui::TextBox& box) {
+    return CodePointCount(box.Text()) - box.SelectionLength();
+}
+
+bool OpenedByBioDialog() {
+    const auto& openers = Globals().OpenForms;
+    return !openers.empty() && openers.back().starts_with("frmBio");
+}
+
+} // namespace
+
+frmSubst::frmSubst() : Form("frmSubst", "Substance") {
+    ArrangeControls();
+    WireEvents();
+    DefaultButton = &cmdAccept;
+    CancelButton = &cmdCancel;
+    HelpContext = helpEnter;
+    cmdFind.ToolTip("Find a substance in the database by a formula and/or name (fragment of the "
+                    "name) and/or CAS Registry Number");
+    cmdUseRN.ToolTip("Take the registry number of the database instead of a made-up one");
+    txtMMass.Locked(true);
+    cmdUseRN.Enabled(false);
+}
+
+void frmSubst::ArrangeControls() {
+    using namespace ui;
+    Arrangement = Column(
+        {Field("Name:", txtName),
+         Note("Use % or * symbols to indicate variable fragments of the name, for example: "
+              "*qiunone"),
+         Field("CAS Registry Number:",
+               Row({Narrow(txtRN2, 8), lblDash1, Narrow(txtRN1, 3), lblDash2, Narrow(txtCASD, 2)})),
+         Field("Empirical  formula (Case sensitive):", Row({txtFormula, cmdFind})),
+         Note("Upper and lower case matter: type CHBr3, not Chbr3"),
+         Field("Molar Mass:", Narrow(txtMMass, 14)),
+         Group(fraBio,
+               {Field("Charge:", Narrow(thtCharge, 14)), Field("EC Number:", Narrow(txtEC, 14)),
+                Field("PDB Number:", Narrow(txtPDB, 14))}),
+         Field("Search results:", lstNames),
+         Field("CAS Registry Number of the entry:", Row({lblRN, cmdUseRN})),
+         ButtonRow({cmdAccept, cmdCancel})});
+    PreferredColumns = 76;
+}
+
+void frmSubst::WireEvents() {
+    txtName.OnChange = [this] { NameChanged(); };
+    txtRN2.OnChange = [this] { FrontChanged(); };
+    txtRN1.OnChange = [this] { RegistryNumberChanged(); };
+    txtCASD.OnChange = [this] { CheckDigitChanged(); };
+    txtFormula.OnChange = [this] { FormulaChanged(); };
+    for (ui::TextBox* box : {&thtCharge, &txtEC, &txtPDB})
+        box->OnChange = [this] { Touch(); };
+    txtRN2.OnKey = [this](ui::Key& key) { FrontKey(key); };
+    txtRN1.OnKey = [this](ui::Key& key) { MiddleKey(key); };
+    txtCASD.OnKey = [this](ui::Key& key) { CheckDigitKey(key); };
+    txtCASD.OnGotFocus = [this] { txtCASD.SelectAll(); };
+    cmdFind.OnClick = [this] { FindSubstance(); };
+    lstNames.OnClick = [this] { NamesClick(); };
+    cmdUseRN.OnClick = [this] { UseRegistryNumber(); };
+    cmdAccept.OnClick = [this] { Accept(); };
+    cmdCancel.OnClick = [this] { Close(); };
+    mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(helpEnter); };
+    mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(helpDisplay); };
+    mnuHelpBio.OnClick = [] { ui::TheDesktop().ShowHelp(helpBio); };
+}
+
+void frmSubst::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    editing_ = globals.EditCompound && globals.CurrentL != nullptr;
+    forBioData_ = !editing_ && OpenedByBioDialog();
+    fraBio.Visible(globals.BioEnabled || forBioData_);
+    if (editing_) PrepareEdit();
+}
+
+void frmSubst::Unload() {
+    CloseForm();
+}
+
+/// The registry number is what mixtures, reactions and data know a compound by, so it stays.
+void frmSubst::PrepareEdit() {
+    const clsL& compound = *Globals().CurrentL;
+    cmdAccept.Caption("OK");
+    cmdUseRN.Visible(false);
+    ShowEntryNumber("");
+    for (ui::TextBox* box : {&txtRN2, &txtRN1, &txtCASD})
+        box->Locked(true);
+    for (ui::TextBox* box : {&txtName, &txtFormula})
+        box->Locked(!compound.isNew);
+    cmdFind.Enabled(compound.isNew);
+    lstNames.Enabled(compound.isNew);
+    if (compound.isBio) fraBio.Visible(true);
+    Fill(compound);
+    if (compound.isNew) FindSubstance();
+}
+
+void frmSubst::Fill(const clsL& compound) {
+    const ui::FillingScope filling(*this);
+    ShowParts(SplitRegistryNumber(compound.RN));
+    txtName.Text(compound.Name);
+    txtFormula.Text(compound.Formula);
+    if (compound.MMass > 0) txtMMass.Text(NumberText(compound.MMass));
+    if (compound.Charge != 0) thtCharge.Text(std::to_string(compound.Charge));
+    if (compound.EC != "&") txtEC.Text(compound.EC);
+    if (compound.PDB != "&") txtPDB.Text(compound.PDB);
+    isNew_ = compound.isNew;
+}
+
+void frmSubst::NameChanged() {
+    if (Filling) return;
+    nameEdited_ = true;
+    Touch();
+}
+
+/// A whole number that is pasted into the first box is spread over the three, its check digit left
+/// as it is: a slip in the number then shows against the database.
+void frmSubst::FrontChanged() {
+    const auto pasted = Filling ? std::nullopt : PrintedRegistryNumber(txtRN2.Text());
+    if (!pasted) {
+        RegistryNumberChanged();
+        return;
+    }
+    {
+        const ui::FillingScope filling(*this);
+        ShowParts(*pasted);
+    }
+    CheckDigitChanged();
+}
+
+void frmSubst::RegistryNumberChanged() {
+    {
+        const ui::FillingScope filling(*this);
+        txtCASD.Text(CheckDigitText(txtRN2.Text(), txtRN1.Text()));
+    }
+    CheckDigitChanged();
+}
+
+void frmSubst::CheckDigitChanged() {
+    if (Filling) return;
+    rnEdited_ = true;
+    typedRN_ = !TypedParts().IsEmpty();
+    isNew_ = false;
+    Touch();
+}
+
+void frmSubst::FormulaChanged() {
+    if (Filling) return;
+    formulaEdited_ = true;
+    ShowMass();
+    Touch();
+}
+
+void frmSubst::Touch() {
+    if (Filling) return;
+    changed_ = true;
+    cmdAccept.Caption(editing_ ? "OK" : "Accept");
+    cmdCancel.Caption("Cancel");
+    cmdFind.Enabled(true);
+    lstNames.Enabled(true);
+}
+
+void frmSubst::FrontKey(ui::Key& key) {
+    if (!Writes(key)) return;
+    const std::size_t kept = KeptCharacters(txtRN2);
+    if (IsSeparatorKey(key) || kept >= 6) txtRN1.SetFocus();
+    key.swallowed = !IsDigitKey(key) || kept >= 7;
+}
+
+void frmSubst::MiddleKey(ui::Key& key) {
+    if (!Writes(key) || !IsSeparatorKey(key)) return;
+    txtCASD.SetFocus();
+    key.swallowed = true;
+}
+
+void frmSubst::CheckDigitKey(ui::Key& key) {
+    if (Writes(key)) key.swallowed = !IsDigitKey(key) || KeptCharacters(txtCASD) >= 1;
+}
+
+void frmSubst::NamesClick() {
+    const int index = lstNames.Index();
+    if (Filling || index < 0) return;
+    TakeRow(rows_.at(static_cast<std::size_t>(index)));
+}
+
+void frmSubst::UseRegistryNumber() {
+    if (rowRN_.empty()) return;
+    {
+        const ui::FillingScope filling(*this);
+        ShowParts(SplitRegistryNumber(rowRN_));
+    }
+    RegistryNumberChanged();
+    cmdUseRN.Enabled(false);
+    cmdAccept.SetFocus();
+}
+
+} // namespace vexora

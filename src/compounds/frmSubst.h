@@ -1,0 +1,109 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "compounds/RegistryNumber.h"
+#include "reference/Vocabulary.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsL;
+
+/// Finds a compound in the reference database or registers a new one, and puts it into the source;
+/// or edits the compound in hand. Opened from the shell it stays open for the next compound; opened
+/// by another dialog it closes after one.
+class frmSubst : public ui::Form {
+public:
+    frmSubst();
+
+    ui::TextBox txtName{*this, "txtName"};
+    ui::TextBox txtRN2{*this, "txtRN2"};
+    ui::TextBox txtRN1{*this, "txtRN1"};
+    ui::TextBox txtCASD{*this, "txtCASD"};
+    ui::TextBox txtFormula{*this, "txtFormula"};
+    ui::TextBox txtMMass{*this, "txtMMass"};
+    ui::Frame fraBio{*this, "fraBio", "Bio compound"};
+    ui::TextBox thtCharge{*this, "thtCharge"};
+    ui::TextBox txtEC{*this, "txtEC"};
+    ui::TextBox txtPDB{*this, "txtPDB"};
+    ui::CommandButton cmdFind{*this, "cmdFind", "Find"};
+    ui::ListBox lstNames{*this, "lstNames"};
+    ui::Label lblRN{*this, "lblRN"};
+    ui::CommandButton cmdUseRN{*this, "cmdUseRN", "Use this registry number"};
+    ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
+    ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
+    ui::Label lblDash1{*this, "lblDash1", "-"};
+    ui::Label lblDash2{*this, "lblDash2", "-"};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpEnter{*this, "mnuHelpEnter", "How to enter a compound", &mnuHelp};
+    ui::MenuItem mnuHelpDisplay{*this, "mnuHelpDisplay", "Compound Display Option", &mnuHelp};
+    ui::MenuItem mnuHelpBio{*this, "mnuHelpBio", "Bio compound specification", &mnuHelp};
+
+    void Load() override;
+    void Unload() override;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+    void PrepareEdit();
+    void Fill(const clsL& compound);
+
+    void NameChanged();
+    void FrontChanged();
+    void RegistryNumberChanged();
+    void CheckDigitChanged();
+    void FormulaChanged();
+    void Touch();
+    void FrontKey(ui::Key& key);
+    void MiddleKey(ui::Key& key);
+    void CheckDigitKey(ui::Key& key);
+    void NamesClick();
+    void UseRegistryNumber();
+
+    // The search (frmSubst_search.cpp).
+    void FindSubstance();
+    bool RNCheck();
+    void ShowRows(std::vector<CompoundRow> rows);
+    void TakeRow(const CompoundRow& row);
+    void NewSubstance();
+    void AddNewSubstance();
+    RegistryParts TypedParts() const;
+    void ShowParts(const RegistryParts& parts);
+    void ShowMass();
+    void ShowEntryNumber(const std::string& number);
+
+    // Accepting (frmSubst_accept.cpp).
+    void Accept();
+    void AcceptNew();
+    void AcceptEdit();
+    bool IdentifySubstance();
+    bool AgreesWithNumber();
+    bool AgreesWithName();
+    bool RegisterSubstance();
+    bool CheckKept();
+    bool CheckFree();
+    bool CheckCharge();
+    void CorrectBy(std::vector<CompoundRow> rows);
+    void Store();
+    void StoreBio(clsL& compound) const;
+    bool IsGuided() const;
+    void Finish();
+    void ClearBoxes();
+
+    bool editing_ = false;
+    bool forBioData_ = false; // opened by a dialog for bio data
+    // Marks of the boxes since the last search or store.
+    bool rnEdited_ = false;
+    bool nameEdited_ = false;
+    bool formulaEdited_ = false;
+    bool typedRN_ = false;          // the number in the boxes is the operator's own
+    bool isNew_ = false;            // the compound in the boxes is not in the reference database
+    bool changed_ = true;           // anything changed since the last store
+    std::vector<CompoundRow> rows_; // behind the entries of lstNames
+    std::string rowRN_;             // registry number of the row that was picked
+};
+
+} // namespace vexora

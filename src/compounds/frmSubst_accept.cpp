@@ -1,0 +1,223 @@
+#include <algorithm>
+#include <limits>
+
+#include "chem/clsAtom.h"
+#include "compounds/SubstanceSearch.h"
+#include "compounds/frmSubst.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+std::string Trimmed(const ui::TextBox& box) {
+    return std::string(TrimBlanks(box.Text()));
+}
+
+} // namespace
+
+void frmSubst::Accept() {
+    if (editing_)
+        AcceptEdit();
+    else if (!changed_)
+        Close();
+    else
+        AcceptNew();
+}
+
+void frmSubst::AcceptNew() {
+    if (!CheckCharge() || !RNCheck()) return;
+    if (!rnEdited_ && (nameEdited_ || formulaEdited_)) FindSubstance();
+    // Nobody typed a number, but one was made up for the row that was picked.
+    const bool kept = !rnEdited_ && !typedRN_ && !TypedParts().IsEmpty();
+    if (kept ? !CheckKept() : !IdentifySubstance()) return;
+    if (!CheckFree()) return;
+    Store();
+    Finish();
+}
+
+bool frmSubst::CheckKept() {
+    if (Trimmed(txtName).empty()) {
+        ui::Say("Enter the substance name");
+        txtName.SetFocus();
+        return false;
+    }
+    const bool asPicked = std::any_of(rows_.begin(), rows_.end(), [this](const CompoundRow& row) {
+        return row.FORMULA == Trimmed(txtFormula);
+    });
+    if (!asPicked && CanonicalFormula(Trimmed(txtFormula)).empty()) {
+        ui::Say("Enter a valid empirical formula");
+        txtFormula.SetFocus();
+        return false;
+    }
+    return true;
+}
+
+/// Compares what was typed with the reference database; false stops the acceptance.
+bool frmSubst::IdentifySubstance() {
+    {
+        const ui::FillingScope filling(*this);
+        const std::string canonical = CanonicalFormula(Trimmed(txtFormula));
+        if (!canonical.empty()) txtFormula.Text(canonical);
+        txtName.Text(Trimmed(txtName));
+        ShowMass();
+    }
+    if (!AgreesWithNumber()) return false;
+    if (txtName.IsEmpty()) {
+        ui::Say("Enter the substance name");
+        txtName.SetFocus();
+        return false;
+    }
+    return CompoundsNamed(txtName.Text()).empty() ? RegisterSubstance() : AgreesWithName();
+}
+
+bool frmSubst::AgreesWithNumber() {
+    const RegistryParts parts = TypedParts();
+    if (parts.IsEmpty()) return true;
+    const std::vector<CompoundRow> rows = CompoundsOf(ParseInteger(parts.Joined()).value_or(0));
+    const bool agrees = std::any_of(rows.begin(), rows.end(), [this](const CompoundRow& row) {
+        return row.NAME == txtName.Text() && row.FORMULA == txtFormula.Text();
+    });
+    if (rows.empty() || agrees) return true;
+    CorrectBy(rows);
+    return false;
+}
+
+/// Several compounds may share a name (isomers): one that agrees in all is enough.
+bool frmSubst::AgreesWithName() {
+    const std::vector<CompoundRow> rows = CompoundsNamed(txtName.Text());
+    const std::string rn = TypedParts().Joined();
+    const bool agrees = std::any_of(rows.begin(), rows.end(), [&](const CompoundRow& row) {
+        return std::to_string(row.RN) == rn && row.FORMULA == txtFormula.Text();
+    });
+    if (agrees) {
+        isNew_ = false;
+        return true;
+    }
+    CorrectBy(rows);
+    return false;
+}
+
+bool frmSubst::RegisterSubstance() {
+    if (!ui::AskYesNo("Do you want to add a new substance not registered in the database?"))
+        return false;
+    if (CanonicalFormula(txtFormula.Text()).empty()) {
+        ui::Say("Enter a valid empirical formula");
+        txtFormula.SetFocus();
+        return false;
+    }
+    AddNewSubstance();
+    return true;
+}
+
+void frmSubst::CorrectBy(std::vector<CompoundRow> rows) {
+    ui::Say("Substance information will be corrected", "Incomplete match to the database");
+    ShowRows(std::move(rows));
+    lstNames.Index(0);
+}
+
+/// A made-up number gives way to a compound that has it already; a typed one is refused.
+bool frmSubst::CheckFree() {
+    const clsR& source = *Globals().CurrentR;
+    const std::string rn = TypedParts().Joined();
+    if (!source.FindL(rn)) return true;
+    if (typedRN_ || !isNew_) {
+        ui::Say("The substance with this RN has already been entered");
+        txtRN2.SetFocus();
+        return false;
+    }
+    const ui::FillingScope filling(*this);
+    ShowParts(SplitRegistryNumber(FreeSubstanceRN(source, rn)));
+    return true;
+}
+
+bool frmSubst::CheckCharge() {
+    const std::string text = Trimmed(thtCharge);
+    const auto charge = ParseInteger(text);
+    if (text.empty() || (charge && *charge >= std::numeric_limits<std::int32_t>::min() &&
+                         *charge <= std::numeric_limits<std::int32_t>::max()))
+        return true;
+    ui::Say("Enter a valid charge");
+    thtCharge.SetFocus();
+    return false;
+}
+
+void frmSubst::Store() {
+    KVOGlobal& globals = Globals();
+    auto compound = std::make_shared<clsL>();
+    const std::string formula = Trimmed(txtFormula);
+    const std::string canonical = CanonicalFormula(formula);
+    compound->RN = TypedParts().Joined();
+    compound->Name = Trimmed(txtName);
+    compound->Formula = canonical.empty() ? formula : canonical;
+    compound->MMass = MolarMassOfFormula(formula);
+    compound->isNew = isNew_;
+    StoreBio(*compound);
+    compound->AttachTo(*globals.CurrentR);
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+/// Only the line of a bio compound has room for what these boxes hold.
+void frmSubst::StoreBio(clsL& compound) const {
+    compound.EC = Trimmed(txtEC);
+    compound.PDB = Trimmed(txtPDB);
+    compound.Charge = static_cast<std::int32_t>(ParseInteger(thtCharge.Text()).value_or(0));
+    if (forBioData_ || !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0)
+        compound.isBio = compound.isNew = true;
+}
+
+/// Another dialog than the shell waits for one compound.
+bool frmSubst::IsGuided() const {
+    const auto& openers = Globals().OpenForms;
+    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
+}
+
+void frmSubst::Finish() {
+    if (IsGuided()) {
+        Close();
+        return;
+    }
+    ClearBoxes();
+    Globals().DataContext = "Pure";
+    cmdAccept.Caption("Done");
+    txtName.SetFocus();
+}
+
+void frmSubst::ClearBoxes() {
+    const ui::FillingScope filling(*this);
+    for (ui::TextBox* box : {&txtName, &txtRN2, &txtRN1, &txtCASD, &txtFormula, &txtMMass,
+                             &thtCharge, &txtEC, &txtPDB})
+        box->Text("");
+    ShowRows({});
+    rnEdited_ = nameEdited_ = formulaEdited_ = false;
+    typedRN_ = isNew_ = changed_ = false;
+}
+
+void frmSubst::AcceptEdit() {
+    clsL& compound = *Globals().CurrentL;
+    if (!CheckCharge()) return;
+    if (compound.isNew) {
+        const std::string formula = CanonicalFormula(Trimmed(txtFormula));
+        if (formula.empty() && !ui::AskYesNo("Formula is empty\nIs that OK?")) {
+            txtFormula.SetFocus();
+            return;
+        }
+        compound.Formula = formula;
+        compound.MMass = 0; // else the mass of the formula before would stand
+        compound.MMass = MolarMassOfRN(compound.RN);
+        if (const std::string name = Trimmed(txtName); !name.empty()) compound.Name = name;
+    }
+    StoreBio(compound);
+    compound.Refresh();
+    Globals().Saved = false;
+    Globals().DialogAccepted = true;
+    Close();
+}
+
+} // namespace vexora

@@ -1,0 +1,120 @@
+#include "chem/clsAtom.h"
+#include "compounds/SubstanceSearch.h"
+#include "compounds/frmSubst.h"
+#include "records/clsL.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+/// Searches by name and formula. A registry number takes part only when it is all that was given.
+void frmSubst::FindSubstance() {
+    std::string formula(TrimBlanks(txtFormula.Text()));
+    const std::string pattern = NamePattern(TrimBlanks(txtName.Text()));
+    {
+        const ui::FillingScope filling(*this);
+        // A text that is no formula stays to be mended; it finds nothing.
+        if (const std::string canonical = CanonicalFormula(formula);
+            !IsFormulaPattern(formula) && !canonical.empty()) {
+            formula = canonical;
+            txtFormula.Text(formula);
+        }
+        if (pattern.empty()) txtName.Text("");
+    }
+    const RegistryParts parts = TypedParts();
+    if (pattern.empty() && formula.empty() && parts.IsEmpty()) return;
+    if (!editing_ && !RNCheck()) return; // in edit mode the number is locked
+
+    const bool onlyNumber = pattern.empty() && formula.empty();
+    ShowRows(onlyNumber ? CompoundsOf(ParseInteger(parts.Joined()).value_or(0))
+                        : FindCompounds(pattern, formula));
+    if (!rows_.empty()) {
+        lstNames.SetFocus();
+        rnEdited_ = nameEdited_ = formulaEdited_ = false;
+    } else if (!editing_) {
+        ui::Say("Substance not found in the database");
+    }
+}
+
+bool frmSubst::RNCheck() {
+    const auto finding = CheckRegistryNumber(TypedParts());
+    if (!finding) return true;
+    ui::Say(finding->Text, "Invalid RN");
+    ui::TextBox& box = finding->Part == 0 ? txtRN2 : txtRN1;
+    box.SetFocus();
+    box.Select(finding->Start, finding->Length);
+    return false;
+}
+
+void frmSubst::ShowRows(std::vector<CompoundRow> rows) {
+    const ui::FillingScope filling(*this);
+    rows_ = std::move(rows);
+    std::vector<std::string> names;
+    for (const CompoundRow& row : rows_)
+        names.push_back(row.NAME);
+    lstNames.Assign(std::move(names));
+    rowRN_.clear();
+    ShowEntryNumber("");
+    cmdUseRN.Enabled(false);
+}
+
+/// An edited compound keeps its number; only a picked entry has one to show.
+void frmSubst::ShowEntryNumber(const std::string& number) {
+    lblRN.Caption(number);
+    lblRN.Visible(!editing_ || !number.empty());
+}
+
+/// A picked row fills name and formula. It brings no number with it but a made-up one, unless the
+/// operator has typed one or asks for the row's own (cmdUseRN).
+void frmSubst::TakeRow(const CompoundRow& row) {
+    {
+        const ui::FillingScope filling(*this);
+        txtName.Text(row.NAME);
+        txtFormula.Text(row.FORMULA);
+        ShowMass();
+    }
+    rowRN_ = std::to_string(row.RN);
+    ShowEntryNumber(DashedRegistryNumber(rowRN_));
+    cmdUseRN.Enabled(TypedParts().Joined() != rowRN_);
+    nameEdited_ = true;
+    rnEdited_ = typedRN_;
+    if (!typedRN_ && !editing_) NewSubstance();
+    Touch();
+}
+
+void frmSubst::NewSubstance() {
+    const ui::FillingScope filling(*this);
+    ShowParts(SplitRegistryNumber(NewSubstanceRN()));
+    isNew_ = true;
+}
+
+/// A number that the operator typed stands, with its check digit computed.
+void frmSubst::AddNewSubstance() {
+    const RegistryParts typed = TypedParts();
+    if (typed.IsEmpty()) {
+        NewSubstance();
+        return;
+    }
+    const ui::FillingScope filling(*this);
+    ShowParts({typed.Front, typed.Middle, CheckDigitText(typed.Front, typed.Middle)});
+    isNew_ = true;
+}
+
+RegistryParts frmSubst::TypedParts() const {
+    return {txtRN2.Text(), txtRN1.Text(), txtCASD.Text()};
+}
+
+void frmSubst::ShowParts(const RegistryParts& parts) {
+    txtRN2.Text(parts.Front);
+    txtRN1.Text(parts.Middle);
+    txtCASD.Text(parts.Check);
+}
+
+/// Shown to six decimals, so that sums of atomic masses show no noise of the arithmetic.
+void frmSubst::ShowMass() {
+    const double mass = MolarMassOfFormula(txtFormula.Text());
+    txtMMass.Text(mass > 0 ? NumberText(Val(FormatFixed(mass, 6))) : std::string());
+}
+
+} // namespace vexora

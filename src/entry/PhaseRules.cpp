@@ -1,0 +1,64 @@
+#include "entry/PhaseRules.h"
+
+#include <algorithm>
+#include <array>
+
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+using Codes = std::vector<std::string>;
+
+bool IsOneOf(std::string_view code, std::initializer_list<std::string_view> codes) {
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+/// Codes of the phases of a context that pass a test, in table order.
+template <class Test>
+Codes PhasesThat(std::string_view context, Test test) {
+    Codes codes;
+    for (const std::string& name : PhaseList(context)) {
+        std::string code = PhaseCode(name);
+        if (test(code)) codes.push_back(std::move(code));
+    }
+    return codes;
+}
+
+bool IsAnyPhase(std::string_view code) {
+    return code != "air"; // an atmosphere, never a phase of the compound
+}
+
+bool IsCondensed(std::string_view code) {
+    return !IsOneOf(code, {"G", "IG", "FL", "air"});
+}
+
+bool IsLiquidOrCrystal(std::string_view code) {
+    return code == "L" || IsCrystalPhase(code);
+}
+
+PhaseOffer OfferAll(std::string_view code, std::string_view context) {
+    const auto phasesThat = [context](auto test) { return PhasesThat(context, test); };
+    if (IsOneOf(code, {"TC", "PC", "VC", "VDC", "VSC", "ZC", "IST"})) return {{"L"}, {"G"}, {}};
+    if (IsOneOf(code, {"TBN", "TB", "PV", "HVP"}))
+        return {phasesThat(IsLiquidOrCrystal), {"G"}, {}};
+    if (code == "TMN") return {phasesThat(IsCrystalPhase), {"L"}, {"air"}};
+    if (IsOneOf(code, {"TF", "YRC"})) return {phasesThat(IsCrystalPhase), {"L"}, {}};
+    if (code == "HTR") return {phasesThat(IsCondensed), phasesThat(IsCondensed), {}};
+    if (IsOneOf(code, {"TTP", "PTP"}))
+        return {phasesThat(IsCondensed), phasesThat(IsCondensed), {"G"}};
+    return {phasesThat(IsAnyPhase), {}, {}};
+}
+
+} // namespace
+
+PhaseOffer OfferPhases(std::string_view propertyCode, int variableCount, std::string_view phase1,
+                       std::string_view context) {
+    PhaseOffer offer = OfferAll(propertyCode, context);
+    std::erase(offer.Phase2, phase1);
+    if (variableCount == 0) return offer;
+    return {offer.Phase1, {}, {}};
+}
+
+} // namespace vexora

@@ -1,0 +1,104 @@
+#include "entry/PropertyContext.h"
+
+#include "chem/CommentTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "entry/PropertyRules.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsA.h"
+#include "records/clsR.h"
+#include "reference/Conversions.h"
+#include "reference/UnitText.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+/// What a review of property and method can change.
+std::string ChoiceInForce() {
+    const KVOGlobal& globals = Globals();
+    const clsMethod& method = *globals.CurrentMethod;
+    std::string text;
+    for (const std::string& part :
+         {globals.PropertyCode, globals.PropertyUnit, globals.PropertyText, globals.ExpPurpose,
+          globals.PropertyFlags, globals.PropertyComment, globals.KeyRest, method.Method,
+          method.sMethod, std::to_string(method.f)}) {
+        text += part + "\n";
+    }
+    return text;
+}
+
+std::string DateText(const ui::Date& date) {
+    return std::to_string(date.month) + "/" + std::to_string(date.day) + "/" +
+           std::to_string(date.year);
+}
+
+} // namespace
+
+void TakeProperty(const StoredProperty& stored, const clsA& header) {
+    KVOGlobal& globals = Globals();
+    const auto found = FindProperty(stored.code, globals.DataContext);
+    PropertyRow row = found.value_or(PropertyRow());
+    if (!found) row.Property = stored.code;
+    const std::string unit = stored.isOriginalUnit ? stored.unit : "S";
+    const double factor = stored.isOriginalUnit ? stored.factor : 0;
+    globals.PropertyCode = stored.code;
+    globals.PropertyUnit = stored.unit;
+    globals.OriginalUnits = stored.isOriginalUnit;
+    globals.VariableCount = stored.nVar;
+    globals.ExpPurpose = header.EXPPURPOSE;
+    globals.PropertyFlags = header.PRPFLAG;
+    globals.CurrentMethod->Factor = stored.factor;
+    globals.PropertyText = UnitText(row.Unit, unit, factor);
+    globals.CurrentProperty = std::make_shared<clsProperty>();
+    clsProperty& head = *globals.CurrentProperty;
+    head.PropertyCode = stored.code;
+    head.ConversionCode = unit;
+    head.Factor = factor;
+    head.Relation = "A";
+    head.Name = PropertyInWords(row);
+}
+
+std::string TakeComment(std::string_view comment) {
+    KVOGlobal& globals = Globals();
+    const std::string others = TakeSMethod(comment);
+    globals.CurrentMethod->Method.clear();
+    globals.CurrentMethod->KeySaved = CommentTagPart(others);
+    SplitCommentTags();
+    DecodePrecisionTags(*globals.CurrentProperty);
+    return CommentText(others);
+}
+
+bool ReviewProperty(const std::string& comment) {
+    Globals().PropertyComment = comment;
+    const std::string before = ChoiceInForce();
+    ui::Forms::Current().Get("frmProperty").ShowModal();
+    return ChoiceInForce() != before;
+}
+
+void FillHeader(clsA& header, bool isNew, const std::string& comment) {
+    const KVOGlobal& globals = Globals();
+    if (isNew) {
+        header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
+        header.COMPILER = globals.CompilerCode;
+        header.CONTRIBUTOR = globals.ContributorCode;
+        header.DATEADDED = DateText(ui::TheDesktop().Today());
+    }
+    header.EXPPURPOSE = globals.ExpPurpose;
+    header.PRPFLAG = globals.PropertyFlags;
+    header.DATACOMMENT = comment;
+}
+
+std::string UnitFault(const clsProperty& head) {
+    if (head.Factor > 0) return {};
+    const std::string& code = head.ConversionCode;
+    if (code == "*" || !IsKnownConversion(code) || ConversionFactor(code) <= 0)
+        return "Invalid conversion factor";
+    if (IsMassBased(code) && Globals().CurrentMethod->MMass <= 0)
+        return "Molar mass of the compound is not known";
+    return {};
+}
+
+} // namespace vexora

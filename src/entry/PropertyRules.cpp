@@ -1,0 +1,62 @@
+#include "entry/PropertyRules.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr std::size_t rejection = 2; // place of "recommends rejection" among the statements
+constexpr int keptBits = 0x7FFB;     // what a reading keeps of a flag word
+constexpr const char* unitOne = "1"; // system unit of a dimensionless quantity
+
+bool LetterApplies(std::string_view letter, std::string_view code) {
+    if (letter == "m") return true;
+    if (letter == "H") return code == "HTR" || code == "HVP";
+    if (letter == "S") return code == "CP" || code == "VPA";
+    return false;
+}
+
+} // namespace
+
+std::vector<Statement> StatementsFor(std::string_view propertyCode) {
+    std::vector<Statement> statements;
+    const CodeTexts flags = ValueStatements();
+    for (std::size_t i = 0; i < flags.size(); ++i) {
+        if (i != rejection) statements.push_back({std::string(flags[i].text), 1 << i, {}});
+    }
+    for (const CodeText& entry : LetteredStatements()) {
+        if (LetterApplies(entry.code, propertyCode))
+            statements.push_back({std::string(entry.text), 0, std::string(entry.code)});
+    }
+    return statements;
+}
+
+bool AllowsSingleValue(const PropertyRow& row, int variableCount) {
+    return variableCount == 0 ? row.Single : row.Fixed;
+}
+
+bool AllowsTable(const PropertyRow& row, int variableCount) {
+    return variableCount == 1 ? row.One : row.Two;
+}
+
+int FlagBits(std::string_view flags) {
+    return static_cast<int>(ParseInteger(flags).value_or(0) & keptBits);
+}
+
+std::string UnitCode(const PropertyRow& row, std::string_view text) {
+    if (text == "Dimensionless") return "D";
+    return text == row.Unit ? "S" : ConversionCodeOf(text, row.Unit);
+}
+
+std::string PropertyInWords(const PropertyRow& row) {
+    return row.Unit == unitOne ? row.Property : row.Property + ", " + row.Unit;
+}
+
+} // namespace vexora

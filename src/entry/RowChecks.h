@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "entry/TableColumns.h"
+#include "ui/Grid.h"
+
+namespace vexora {
+
+class clsProperty;
+
+/// What is wrong, or only doubtful, in one cell of a table. Marks in the table, the list below it
+/// and the boxes of Accept all show the same findings.
+struct Finding {
+    int row = 0, column = 0; // as the grid counts them
+    std::string text;        // as a box shows it
+    bool isFault = true;     // else a question
+    bool operator==(const Finding&) const = default;
+};
+
+/// A cell without the blanks and commas of pasting, a "%" at its end kept.
+std::string CleanCell(const TableColumn& column, const std::string& cell);
+/// Nothing stands in the row but, at most, that its evaluation has failed.
+bool IsEmptyRow(const ui::Grid& grid, const TableColumns& columns, int row);
+
+/// The entries of one row that are missing or no numbers, first those of the values and then those
+/// of the statements; none for an empty row.
+std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns, int row);
+/// The values of a row that cannot be true, or hardly. The chain says codes and units; molarMass in
+/// g/mol. Nothing is asked and nothing changes.
+std::vector<Finding> CheckLimits(const ui::Grid& grid, const TableColumns& columns, int row,
+                                 const clsProperty& chain, double molarMass);
+/// Cells with a comma or a blank that may be read otherwise than they were meant.
+std::vector<Finding> CheckReading(const ui::Grid& grid, const TableColumns& columns, int row);
+/// The evaluation of the row has failed.
+std::vector<Finding> CheckEvaluation(const ui::Grid& grid, const TableColumns& columns, int row);
+
+} // namespace vexora

@@ -1,0 +1,40 @@
+#include "entry/frmKey.h"
+
+#include "chem/KeyTags.h"
+#include "chem/clsMethod.h"
+#include "globals/KVOGlobal.h"
+
+namespace vexora {
+
+frmKey::frmKey() : Form("frmKey", "Experiment details") {
+    Arrangement =
+        ui::Column({ui::Note("Select the statements, which are true for the reported measurement"),
+                    lstKey, ui::ButtonRow({cmdAccept, cmdCancel})});
+    DefaultButton = &cmdAccept;
+    CancelButton = &cmdCancel;
+    HelpContext = 315;
+    PreferredColumns = 80;
+    cmdAccept.OnClick = [this] { Accept(); };
+    cmdCancel.OnClick = [this] { Close(); };
+}
+
+void frmKey::Load() {
+    KVOGlobal& globals = Globals();
+    rows_ = Questions(globals.CurrentMethod->Method, globals.DataContext);
+    for (const QuestionRow& row : rows_) {
+        lstKey.Add(row.Question);
+        lstKey.Selected(lstKey.Count() - 1, HasKeyTag(globals.KeyRest, row.Key));
+    }
+    if (!rows_.empty()) return;
+    if (globals.KeyRest.empty()) globals.KeyRest = ":";
+    Close();
+}
+
+void frmKey::Accept() {
+    std::string& tags = Globals().KeyRest;
+    for (int i = 0; i < lstKey.Count(); ++i)
+        tags = SetKeyTag(tags, rows_[static_cast<std::size_t>(i)].Key, lstKey.Selected(i));
+    Close();
+}
+
+} // namespace vexora

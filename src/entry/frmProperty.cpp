@@ -1,0 +1,139 @@
+#include "entry/frmProperty.h"
+
+#include "chem/clsMethod.h"
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+const std::string title = "Property and experimental method";
+constexpr int helpPropertyList = 30;
+
+} // namespace
+
+frmProperty::frmProperty() : Form("frmProperty", title) {
+    ArrangeControls();
+    WireEvents();
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdFinish;
+    HelpContext = helpPropertyList;
+}
+
+void frmProperty::ArrangeControls() {
+    using namespace ui;
+    Arrangement = Column(
+        {Field("Property group:", lstPropGroup), Field("Property:", lstProp),
+         Field("Original units:", lstConv), Group(fraData, {Row({optOriginal, optSystem})}),
+         Field("Method of measurement:", Row({lstMethod, cmdDetails})),
+         Field("Method description:", txtMethod), Field("Experimental purpose:", lstExpPurpose),
+         Field("Uncertainty factor:", Narrow(txtFactor, 8)),
+         Group("Select any applicable statements", {lstNote}),
+         Field("Comment (optional)", txtComment),
+         Row({Group(fraInvariant, {Row({cmdSingle, cmdFixed})}),
+              Group(fraVariable, {Row({cmdOne, cmdTwo, cmdThree})})}),
+         ButtonRow({cmdOK, cmdFinish})});
+    PreferredColumns = 100;
+}
+
+void frmProperty::WireEvents() {
+    lstPropGroup.OnClick = [this] { GroupClick(); };
+    lstProp.OnClick = [this] { PropertyClick(); };
+    lstConv.OnClick = [this] { ConvClick(); };
+    lstMethod.OnClick = [this] { MethodClick(); };
+    cmdDetails.OnClick = [this] { Details(); };
+    cmdSingle.OnClick = [this] { Enter(0, "frmSingle"); };
+    cmdFixed.OnClick = [this] { Enter(1, "frmSingle"); };
+    cmdOne.OnClick = [this] { Enter(1, "frmTwo"); };
+    cmdTwo.OnClick = [this] { Enter(2, "frmTwo"); };
+    cmdThree.OnClick = [this] { Enter(3, "frmTwo"); };
+    cmdOK.OnClick = [this] { Accept(); };
+    cmdFinish.OnClick = [this] { Close(); };
+    mnuList.OnClick = [] { ui::TheDesktop().ShowHelp(helpPropertyList); };
+}
+
+void frmProperty::Load() {
+    KVOGlobal& globals = Globals();
+    inChain_ = !IsModal();
+    if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
+    if (inChain_) BeginSelection();
+}
+
+// Also when the form is shown again behind an entry dialog, or by one that wants a review.
+void frmProperty::Activate() {
+    KVOGlobal& globals = Globals();
+    accepted_ = false;
+    Caption(title + (globals.CurrentL ? " for " + globals.CurrentL->ShowKey() : ""));
+    if (IsModal()) {
+        before_ = {globals.CurrentMethod->Method, globals.KeyRest};
+        Fill();
+    }
+    ShowEntries();
+}
+
+bool frmProperty::QueryUnload() {
+    if (!IsModal()) return true;
+    if (!accepted_) {
+        Globals().CurrentMethod->Method = before_.Method;
+        Globals().KeyRest = before_.KeyRest;
+    }
+    if (inChain_) Hide(); // it is to come back when the entry dialog has closed
+    return !inChain_;
+}
+
+void frmProperty::Unload() {
+    if (inChain_) CloseForm();
+}
+
+void frmProperty::GroupClick() {
+    rows_.clear();
+    std::vector<std::string> names = {"SELECT THE PROPERTY"};
+    const int group = lstPropGroup.Index();
+    if (group > 0) rows_ = OfferedIn(groups_[static_cast<std::size_t>(group - 1)]);
+    for (const PropertyRow& row : rows_)
+        names.push_back(row.Property);
+    lstProp.Assign(std::move(names));
+    lstProp.Index(0);
+}
+
+void frmProperty::PropertyClick() {
+    lstConv.Clear();
+    lstMethod.Clear();
+    methods_.clear();
+    if (const PropertyRow* row = Chosen()) {
+        FillUnits(*row);
+        FillMethods(*row);
+    }
+    NoteList();
+    MethodClick();
+    ShowEntries();
+}
+
+void frmProperty::ConvClick() {
+    const PropertyRow* row = Chosen();
+    if (Filling || !row) return;
+    if (lstConv.Chosen() == allOtherUnits) {
+        const auto factor = AskFactor(*row);
+        const ui::FillingScope filling(*this);
+        lstConv.Index(unitBefore_);
+        if (factor) OfferFactor(*factor);
+    }
+    unitBefore_ = lstConv.Index();
+}
+
+void frmProperty::MethodClick() {
+    ShowMethod();
+    Details_Check();
+}
+
+void frmProperty::Details() {
+    DropForeignTags();
+    Globals().CurrentMethod->Method = ChosenMethod();
+    ui::Forms::Current().Get("frmKey").ShowModal();
+}
+
+} // namespace vexora

@@ -1,0 +1,122 @@
+#include "entry/frmProperty.h"
+
+#include "chem/KeyTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/UnitText.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+void frmProperty::Enter(int variableCount, const std::string& dialog) {
+    if (!Check()) return;
+    Store(variableCount);
+    LeadOn(Name(), dialog);
+}
+
+void frmProperty::Accept() {
+    if (!IsModal() && Chosen()) {
+        if (ui::CommandButton* entry = OnlyEntry()) entry->UserClick();
+        return;
+    }
+    if (!Check()) return;
+    Store(Globals().VariableCount);
+    accepted_ = true;
+    Close();
+}
+
+bool frmProperty::Refuse(ui::Control& control, const std::string& text) {
+    ui::Say(text);
+    control.SetFocus();
+    return false;
+}
+
+bool frmProperty::Check() {
+    txtFactor.Text(NormalizeNumber(txtFactor.Text()));
+    if (!Chosen()) return Refuse(lstProp, "Please select the property");
+    if (optOriginal.Value() && lstConv.Index() < 0)
+        return Refuse(lstConv, "Please select original units of the property");
+    if (lstExpPurpose.Index() <= 0)
+        return Refuse(lstExpPurpose, "Please select the experiment purpose");
+    if (lstMethod.Index() < 0) return Refuse(lstMethod, "Select the method of measurement");
+    if (ChosenMethod() == "OTHER" && Trim(txtMethod.Text()).empty())
+        return Refuse(txtMethod, "Please describe the method of measurement in comment");
+    const std::string& factor = txtFactor.Text();
+    if (!factor.empty() && !(IsNumeric(factor) && Val(factor) > 0))
+        return Refuse(txtFactor, "The uncertainty factor is a number greater than 0");
+    return true;
+}
+
+void frmProperty::Store(int variableCount) {
+    KVOGlobal& globals = Globals();
+    clsMethod& method = *globals.CurrentMethod;
+    const PropertyRow& row = *Chosen();
+    DropForeignTags();
+    globals.VariableCount = variableCount;
+    globals.OriginalUnits = optOriginal.Value();
+    globals.ExpPurpose =
+        CodeAt(ExperimentPurposes(), static_cast<std::size_t>(lstExpPurpose.Index()));
+    globals.PropertyComment = txtComment.Text();
+    method.Method = ChosenMethod();
+    method.sMethod = method.Method == "OTHER" ? std::string(Trim(txtMethod.Text())) : "";
+    method.f = txtFactor.IsEmpty() ? 1 : Val(txtFactor.Text());
+    method.Context = globals.DataContext;
+    StoreStatements();
+    StoreUnit(row);
+}
+
+/// The unit and with it the head of the property chain, which keeps its precision as long as it is
+/// the same property.
+void frmProperty::StoreUnit(const PropertyRow& row) {
+    KVOGlobal& globals = Globals();
+    clsMethod& method = *globals.CurrentMethod;
+    const bool ownUnit = factor_ > 0 && lstConv.Index() == lstConv.Count() - 2;
+    method.Factor = ownUnit ? factor_ : 0;
+    globals.PropertyUnit = ownUnit ? "*" : UnitCode(row, lstConv.Chosen());
+    globals.PropertyText = globals.OriginalUnits
+                               ? UnitText(row.Unit, globals.PropertyUnit, method.Factor)
+                               : UnitText(row.Unit, "S", 0);
+    if (!globals.CurrentProperty || globals.PropertyCode != row.Code)
+        globals.CurrentProperty = std::make_shared<clsProperty>();
+    globals.PropertyCode = row.Code;
+    clsProperty& head = *globals.CurrentProperty;
+    head.PropertyCode = row.Code;
+    head.ConversionCode = globals.OriginalUnits ? globals.PropertyUnit : "S";
+    head.Factor = globals.OriginalUnits ? method.Factor : 0;
+    head.Relation = "A";
+    head.Name = PropertyInWords(row);
+}
+
+void frmProperty::StoreStatements() {
+    KVOGlobal& globals = Globals();
+    int bits = FlagBits(globals.PropertyFlags);
+    for (std::size_t i = 0; i < statements_.size(); ++i) {
+        const Statement& statement = statements_[i];
+        const bool on = lstNote.Selected(static_cast<int>(i));
+        if (statement.flag == 0)
+            globals.KeyRest = SetKeyTag(globals.KeyRest, statement.key, on);
+        else
+            bits = on ? bits | statement.flag : bits & ~statement.flag;
+    }
+    globals.PropertyFlags = std::to_string(bits);
+}
+
+/// Tags belong to a property and a method: another choice starts without any.
+void frmProperty::DropForeignTags() {
+    const PropertyRow* row = Chosen();
+    const std::string code = row ? row->Code : std::string();
+    const auto differs = [](const std::string& before, const std::string& now) {
+        return !before.empty() && now != before;
+    };
+    if (differs(tagsProperty_, code) || differs(tagsMethod_, ChosenMethod()))
+        Globals().KeyRest = ":";
+    tagsProperty_ = code;
+    tagsMethod_ = ChosenMethod();
+}
+
+} // namespace vexora

@@ -1,0 +1,224 @@
+#include "entry/frmProperty.h"
+
+#include <algorithm>
+
+#include "chem/KeyTags.h"
+#include "chem/clsMethod.h"
+#include "globals/KVOGlobal.h"
+#include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/UnitText.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* otherMethod = "Other experimental method (please, describe below)";
+constexpr const char* methodNotStated = "The method is not stated in the document";
+
+/// A button is offered by the columns of the property and lives when its dialog exists.
+void OfferEntry(ui::CommandButton& button, bool offered, std::string_view dialog) {
+    const bool exists = ui::Forms::Current().Knows(dialog);
+    button.Visible(offered);
+    button.Enabled(exists);
+    button.ToolTip(exists ? "" : "Data tables come with a later edition");
+}
+
+} // namespace
+
+void frmProperty::BeginSelection() {
+    KVOGlobal& globals = Globals();
+    globals.KeyRest = ":";
+    globals.PropertyCode.clear();
+    globals.PropertyFlags = "0";
+    globals.PropertyComment.clear();
+    globals.CurrentProperty = nullptr;
+    FillGroups();
+    lstPropGroup.Index(0);
+    optOriginal.Value(true);
+    lstExpPurpose.Index(0);
+    txtFactor.Text("1");
+}
+
+void frmProperty::FillGroups() {
+    groups_ = PropertyGroups(Globals().DataContext);
+    std::erase_if(groups_, [this](const auto& group) { return OfferedIn(group).empty(); });
+    lstPropGroup.Assign({"SELECT PROPERTY GROUP"});
+    for (const PropertyGroupRow& group : groups_)
+        lstPropGroup.Add(group.GroupName);
+    lstExpPurpose.Clear();
+    for (const CodeText& purpose : ExperimentPurposes())
+        lstExpPurpose.Add(std::string(purpose.text));
+}
+
+/// A review offers what suits the entry dialog that asked for it, and what it came with.
+std::vector<PropertyRow> frmProperty::OfferedIn(const PropertyGroupRow& group) const {
+    const KVOGlobal& globals = Globals();
+    auto rows = PropertiesOfGroup(group.GROUP, globals.DataContext);
+    if (!IsModal()) return rows;
+    const bool ofTable = ui::Forms::Current().Find("frmTwo") != nullptr;
+    const auto allows = ofTable ? AllowsTable : AllowsSingleValue;
+    std::erase_if(rows, [&](const PropertyRow& row) {
+        return row.Code != globals.PropertyCode && !allows(row, globals.VariableCount);
+    });
+    return rows;
+}
+
+/// Shows the choice that is in force.
+void frmProperty::Fill() {
+    const KVOGlobal& globals = Globals();
+    const clsMethod& method = *globals.CurrentMethod;
+    const ui::FillingScope filling(*this);
+    FillGroups();
+    const auto property = FindProperty(globals.PropertyCode, globals.DataContext);
+    const auto isGroup = [&](const auto& group) {
+        return property && group.GROUP == property->GROUP;
+    };
+    const auto group = std::find_if(groups_.begin(), groups_.end(), isGroup);
+    lstPropGroup.Index(group == groups_.end() ? 0 : static_cast<int>(group - groups_.begin()) + 1);
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        if (rows_[i].Code == globals.PropertyCode) lstProp.Index(static_cast<int>(i) + 1);
+    }
+    optOriginal.Value(globals.OriginalUnits);
+    optSystem.Value(!globals.OriginalUnits);
+    lstExpPurpose.Index(std::max(0, IndexOfCode(ExperimentPurposes(), globals.ExpPurpose)));
+    txtMethod.Text(method.sMethod);
+    txtFactor.Text(NumberText(method.f));
+    txtComment.Text(globals.PropertyComment);
+    if (const PropertyRow* row = Chosen()) ShowUnit(*row);
+    SelectMethod(method.Method.empty() && !method.sMethod.empty() ? "OTHER" : method.Method);
+    tagsProperty_ = globals.PropertyCode;
+    tagsMethod_ = ChosenMethod();
+    for (std::size_t i = 0; i < statements_.size(); ++i) {
+        const Statement& statement = statements_[i];
+        const bool on = statement.flag != 0 ? (FlagBits(globals.PropertyFlags) & statement.flag)
+                                            : HasKeyTag(globals.KeyRest, statement.key);
+        lstNote.Selected(static_cast<int>(i), on);
+    }
+}
+
+void frmProperty::FillUnits(const PropertyRow& row) {
+    const ui::FillingScope filling(*this);
+    factor_ = 0;
+    lstConv.Assign(UnitList(row.Unit));
+    const bool only = lstConv.Count() == 1;
+    lstConv.Add(allOtherUnits);
+    lstConv.Index(only ? 0 : -1);
+    unitBefore_ = lstConv.Index();
+}
+
+void frmProperty::FillMethods(const PropertyRow& row) {
+    methods_ = MethodsOf(row.Code);
+    methods_.push_back({"UNKNOWN", methodNotStated});
+    methods_.push_back({"OTHER", otherMethod});
+    for (const MethodRow& method : methods_)
+        lstMethod.Add(method.Method);
+}
+
+/// A method that the table does not list, as a file may have it, is offered under its code.
+void frmProperty::SelectMethod(const std::string& code) {
+    if (code.empty()) return;
+    const auto found = std::find_if(methods_.begin(), methods_.end(), [&code](const auto& method) {
+        return method.MethodCode == code;
+    });
+    const int index = static_cast<int>(found - methods_.begin());
+    if (found == methods_.end()) {
+        methods_.insert(methods_.begin(), {code, code});
+        lstMethod.Insert(0, code);
+        lstMethod.Index(0);
+    } else {
+        lstMethod.Index(index);
+    }
+}
+
+void frmProperty::NoteList() {
+    lstNote.Clear();
+    statements_.clear();
+    if (const PropertyRow* row = Chosen()) statements_ = StatementsFor(row->Code);
+    for (const Statement& statement : statements_)
+        lstNote.Add(statement.text);
+}
+
+void frmProperty::Details_Check() {
+    const bool any = !Questions(ChosenMethod(), Globals().DataContext).empty();
+    cmdDetails.Enabled(any && ui::Forms::Current().Knows("frmKey"));
+}
+
+void frmProperty::ShowEntries() {
+    const PropertyRow* row = Chosen();
+    OfferEntry(cmdSingle, !row || row->Single, "frmSingle");
+    OfferEntry(cmdFixed, !row || row->Fixed, "frmSingle");
+    OfferEntry(cmdOne, !row || row->One, "frmTwo");
+    OfferEntry(cmdTwo, !row || row->Two, "frmTwo");
+    cmdThree.Visible(!row);
+    cmdThree.Enabled(false);
+    cmdThree.ToolTip("A pure compound has no more than two state variables");
+    fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
+    fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
+    const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
+    cmdOK.Enabled(clear);
+    cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");
+}
+
+/// The one button that leads on, or null when there is none or a choice of several.
+ui::CommandButton* frmProperty::OnlyEntry() {
+    ui::CommandButton* only = nullptr;
+    for (ui::CommandButton* button : {&cmdSingle, &cmdFixed, &cmdOne, &cmdTwo, &cmdThree}) {
+        if (!button->Visible() || !button->Enabled()) continue;
+        if (only) return nullptr;
+        only = button;
+    }
+    return only;
+}
+
+void frmProperty::ShowUnit(const PropertyRow& row) {
+    const KVOGlobal& globals = Globals();
+    const std::string& code = globals.PropertyUnit;
+    const double factor = globals.CurrentMethod->Factor;
+    if (!lstConv.Choose(UnitText(row.Unit, code, factor)) && FactorInUnit(code, factor) > 0)
+        OfferFactor(FactorInUnit(code, factor));
+    unitBefore_ = lstConv.Index();
+}
+
+/// Only a method that no list knows is described in words.
+void frmProperty::ShowMethod() {
+    txtMethod.Enabled(ChosenMethod() == "OTHER");
+}
+
+void frmProperty::OfferFactor(double factor) {
+    const int last = lstConv.Count() - 1;
+    if (factor_ > 0) lstConv.Remove(last - 1);
+    factor_ = factor;
+    lstConv.Insert(lstConv.Count() - 1, UnitText(Chosen()->Unit, "*", factor));
+    lstConv.Index(lstConv.Count() - 2);
+}
+
+std::optional<double> frmProperty::AskFactor(const PropertyRow& row) const {
+    const std::string prompt =
+        "Property value in the original units multiplied by a conversion "
+        "factor is property value in " +
+        row.Unit + "\n(Original Value) * (Conversion Factor) = (Converted Value) in " + row.Unit;
+    const auto answer = ui::TheDesktop().Ask(
+        {prompt, "Non-standard conversion factor", "Enter the Conversion Factor here"});
+    const std::string text = NormalizeNumber(answer.value_or(""));
+    if (text.empty()) return std::nullopt;
+    if (IsNumeric(text) && Val(text) > 0) return Val(text);
+    ui::Say("Invalid conversion factor");
+    return std::nullopt;
+}
+
+const PropertyRow* frmProperty::Chosen() const {
+    const int index = lstProp.Index();
+    return index > 0 ? &rows_[static_cast<std::size_t>(index - 1)] : nullptr;
+}
+
+std::string frmProperty::ChosenMethod() const {
+    const int index = lstMethod.Index();
+    return index < 0 ? std::string() : methods_[static_cast<std::size_t>(index)].MethodCode;
+}
+
+} // namespace vexora

@@ -1,0 +1,177 @@
+#include "entry/frmUnc.h"
+
+#include <cmath>
+
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "reference/Numbers.h"
+#include "reference/UnitText.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* invalid = "Invalid numerical value";
+constexpr int shownDigits = 3;
+
+/// Single values state all of it at once; in a table the rows may do it.
+bool IsSingleValue() {
+    const std::string& key = Globals().CurrentKey;
+    return key == "RMZ" || key == "RLSZ" || key == "RQC";
+}
+
+double Level(const std::string& text) {
+    return IsNumeric(text) ? Val(text) : 0;
+}
+
+} // namespace
+
+bool frmUnc::Refuse(ui::Control& control, const std::string& text) {
+    ui::Say(text);
+    control.SetFocus();
+    return false;
+}
+
+bool frmUnc::CheckValue(ui::TextBox& box) {
+    if (!box.Enabled()) return true;
+    box.Text(NormalizeNumber(box.Text()));
+    if (box.IsEmpty()) return !IsSingleValue() || Refuse(box, "Please enter the value");
+    return IsNumeric(box.Text()) || Refuse(box, invalid);
+}
+
+bool frmUnc::CheckLevel(ui::TextBox& box) {
+    if (!box.Enabled()) return true;
+    box.Text(NormalizeNumber(box.Text()));
+    return box.IsEmpty() || IsNumeric(box.Text()) || Refuse(box, invalid);
+}
+
+bool frmUnc::CheckRepetitions(ui::TextBox& box) {
+    if (!CheckLevel(box)) return false;
+    if (box.Enabled() && box.IsEmpty() && IsSingleValue()) box.Text("1");
+    return true;
+}
+
+bool frmUnc::CheckEntries() {
+    if (!CheckValue(txtCUValue) || !CheckLevel(txtCULevel) || !CheckValue(txtRMS)) return false;
+    if (txtCalibrError.Enabled()) {
+        txtCalibrError.Text(NormalizeNumber(txtCalibrError.Text()));
+        if (!IsNumeric(txtCalibrError.Text()))
+            return Refuse(txtCalibrError, "Invalid calibration constant uncertainty");
+    }
+    for (int i = 0; i < frameCount; ++i) {
+        if (Frame(i).Visible() && !CheckFrame(i)) return false;
+    }
+    return true;
+}
+
+bool frmUnc::CheckFrame(int i) {
+    const ui::ComboBox& type = cboRType(i);
+    if (type.Enabled() && (type.Index() < 0 || type.Chosen().starts_with("SELECT ")))
+        return Refuse(cboRType(i), "SELECT REPRESENTATION OF REPEATABILITY");
+    return CheckValue(txtUValue(i)) && CheckLevel(txtULevel(i)) && CheckValue(txtDSValue(i)) &&
+           CheckLevel(txtDSLevel(i)) && CheckValue(txtRValue(i)) &&
+           CheckRepetitions(txtRepetitions(i));
+}
+
+/// Evaluates a copy of the chain, so that giving up leaves it as it was.
+void frmUnc::Calculate() {
+    if (!CheckEntries()) return;
+    lblFigures.Caption("");
+    const auto& given = Globals().CurrentProperty;
+    if (!given || given->Text.empty()) {
+        lblFigures.Caption("The figures are those of a value: enter one first");
+        return;
+    }
+    clsProperty head;
+    head.Copy(*given);
+    clsProperty* quantity = &head;
+    for (int i = 0; quantity && i < frameCount; ++i) {
+        TakeEntries(*quantity, i);
+        quantity = quantity->isLast ? nullptr : quantity->NextItem.get();
+    }
+    const auto& method = Globals().CurrentMethod;
+    const std::string result = EvaluateUncertainty(head, method ? method->MMass : 0);
+    TakeEvaluated(head);
+    ShowFigures(head, result);
+}
+
+/// The evaluated figure of the value: that of a file stays until the operator's combined
+/// uncertainty is the larger one.
+void frmUnc::TakeEvaluated(const clsProperty& head) {
+    const clsX item = FromControls(0);
+    if (!item.iCU || item.CValue.empty()) return;
+    const double stated = std::abs(StatedFigure(item.CValue, head.Value));
+    if (Val(txtKVOU.Text()) >= stated) return;
+    txtKVOU.Text(item.CValue.ends_with('%') ? NumberText(stated) : item.CValue);
+}
+
+void frmUnc::TakeEntries(clsProperty& quantity, int i) const {
+    const clsX item = FromControls(i);
+    quantity.masterds = quantity.masterrep = quantity.masterunc = "";
+    quantity.masternrep = 0;
+    quantity.DS = item.DSValue;
+    quantity.DSLevel = Level(item.DSLevel);
+    if (IsCalibrated(i) && item.iDS) {
+        const double constant = Val(item.DSValue);
+        const bool known = IsNumeric(item.DSEvaluator) && constant > 0;
+        quantity.DS = known ? NumberText(Val(item.DSEvaluator) * 100 / constant) + "%" : "";
+    }
+    quantity.Rep = item.iRep ? item.RValue : "";
+    quantity.nRep = item.iRep && IsNumeric(item.Repetitions) ? item.Repetitions : "";
+    quantity.replevel = item.iRep && item.RType > 0 ? item.RType : 0;
+    quantity.Unc = item.UValue;
+    quantity.unclevel = Level(item.ULevel);
+    quantity.CD = "";
+    quantity.Der = 0;
+}
+
+/// The combined uncertainty of the operator stands for the evaluated one when it is the larger.
+void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
+    if (!result.empty()) {
+        lblFigures.Caption(result);
+        return;
+    }
+    const clsX item = FromControls(0);
+    const double stated = item.iCU ? std::abs(StatedFigure(item.CValue, head.Value)) : 0;
+    if (stated > head.PRECISION) {
+        lblFigures.Caption("Combined uncertainty as stated: " +
+                           NumberWithUnit(FormatValue(stated, shownDigits), item.Unit));
+        return;
+    }
+    if (head.PRECISION == 0) {
+        lblFigures.Caption("No figure follows for the property: nothing is stated about it");
+        return;
+    }
+    const auto row = FindProperty(item.PRPCODE);
+    const std::string systemUnit = row && head.Relation != "R" ? row->Unit : std::string();
+    lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
+                       NumberWithUnit(FormatValue(head.PRECISION, shownDigits), item.Unit) +
+                       "; in the system unit " +
+                       NumberWithUnit(FormatValue(head.SystemPrecision, shownDigits), systemUnit));
+}
+
+void frmUnc::Accept() {
+    if (!CheckEntries()) return;
+    const bool typeOpen = cboCUType.Index() < 0 || cboCUType.Chosen().starts_with("SELECT ");
+    if (chkComb.Value() && typeOpen) {
+        Refuse(cboCUType, "SELECT TYPE OF EVALUATION");
+        return;
+    }
+    if (txtKVOU.Enabled() && !IsNumeric(txtKVOU.Text())) {
+        Refuse(txtKVOU, invalid);
+        return;
+    }
+    std::vector<clsX>& stated = *Globals().CurrentUX;
+    for (std::size_t k = 0; k < stated.size(); ++k) {
+        if (!HasFrame(items_[k])) continue;
+        const clsX item = FromControls(items_[k].N);
+        if (item != shown_[k]) stated[k] = item; // else it keeps the unit that it was read in
+    }
+    Globals().DialogAccepted = true;
+    Close();
+}
+
+} // namespace vexora

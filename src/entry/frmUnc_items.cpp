@@ -1,0 +1,190 @@
+#include "entry/frmUnc.h"
+
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* ofTheMean = "Standard Deviation of the Mean";
+constexpr const char* ofSingleMeasurement = "Standard Deviation of a Single Measurement";
+constexpr const char* propagation = "Propagation of Assessed Std. Deviations";
+constexpr const char* comparison = "Comparison with Other Measurements";
+
+/// Shows a statement; the sign of per cent stands beside it.
+void ShowStatement(std::string_view text, ui::TextBox& box, ui::CheckBox& perCent) {
+    text = TrimBlanks(text);
+    const bool isPerCent = text.ends_with('%');
+    if (isPerCent) text.remove_suffix(1);
+    box.Text(std::string(TrimBlanks(text)));
+    perCent.Value(isPerCent);
+}
+
+std::string Statement(const ui::TextBox& box, const ui::CheckBox& perCent) {
+    const std::string text = NormalizeNumber(box.Text());
+    return perCent.Value() && !text.empty() ? text + "%" : text;
+}
+
+/// The unit of a quantity in the chain, the head being item 0.
+std::string UnitInChain(int i) {
+    const clsProperty* item = Globals().CurrentProperty.get();
+    for (; item && i > 0; --i)
+        item = item->isLast ? nullptr : item->NextItem.get();
+    return item ? item->ConversionCode : std::string();
+}
+
+void ShowEvaluator(ui::ComboBox& list, const std::string& evaluator) {
+    const int index = IsNumeric(evaluator) ? static_cast<int>(Val(evaluator)) : -1;
+    if (index >= 0 && index < list.Count())
+        list.Index(index);
+    else
+        list.Text(evaluator);
+}
+
+std::string Evaluator(const ui::ComboBox& list) {
+    if (list.Index() >= 0) return std::to_string(list.Index());
+    return std::string(TrimBlanks(list.Text()));
+}
+
+} // namespace
+
+void frmUnc::FillLists() {
+    for (int i = 0; i < frameCount; ++i) {
+        Frame(i).Caption(i == 0 ? "Property" : "Variable " + std::to_string(i));
+        cboRType(i).Assign(
+            {"SELECT REPRESENTATION OF REPEATABILITY", ofTheMean, ofSingleMeasurement});
+        cboRType(i).Index(0);
+        cboDSEvaluator(i).Assign({"Manufacturer", "Third party", "Author"});
+    }
+    cboCUType.Assign({"SELECT TYPE OF EVALUATION", propagation, comparison});
+    cboCUType.Index(0);
+}
+
+void frmUnc::ShowItems() {
+    const auto stated = Globals().CurrentUX;
+    for (int i = 0; i < frameCount; ++i)
+        Frame(i).Visible(false);
+    if (!stated) return;
+    for (const clsX& item : *stated)
+        items_.push_back(HasFrame(item) ? InEnteredUnit(item, UnitInChain(item.N)) : item);
+    for (const clsX& item : items_) {
+        if (HasFrame(item)) ShowItem(item);
+    }
+    for (const clsX& item : items_)
+        shown_.push_back(HasFrame(item) ? FromControls(item.N) : item);
+}
+
+void frmUnc::ShowItem(const clsX& item) {
+    const int i = item.N;
+    ShowCaption(item);
+    Frame(i).Visible(true);
+    if (IsCalibrated(i)) {
+        chkDS(i).Caption("Calibration constant");
+        lblDSEvaluator(i).Caption("Uncertainty of the constant:");
+        txtCalibrError.Text(item.DSEvaluator);
+    } else {
+        ShowEvaluator(cboDSEvaluator(i), item.DSEvaluator);
+    }
+    chkDS(i).Value(item.iDS);
+    ShowStatement(item.DSValue, txtDSValue(i), chkDSPerCent(i));
+    txtDSLevel(i).Text(item.DSLevel);
+    chkRep(i).Value(item.iRep);
+    ShowStatement(item.RValue, txtRValue(i), chkRPerCent(i));
+    txtRepetitions(i).Text(item.Repetitions);
+    if (item.RType == 0 || item.RType == 1)
+        cboRType(i).Choose(item.RType == 0 ? ofTheMean : ofSingleMeasurement);
+    chkUnc(i).Value(item.iUnc);
+    ShowStatement(item.UValue, txtUValue(i), chkUPerCent(i));
+    txtULevel(i).Text(item.ULevel);
+    if (i == 0) ShowPropertyItem(item);
+}
+
+void frmUnc::ShowCaption(const clsX& item) {
+    ui::Frame& frame = Frame(item.N);
+    if (item.Constr) {
+        frame.Caption("Constraint");
+        frame.ToolTip(item.Name + ", " + item.Unit);
+        return;
+    }
+    frame.Caption(frame.Caption() + ": " + item.Name + " (" + item.Unit + ")");
+}
+
+void frmUnc::ShowPropertyItem(const clsX& item) {
+    chkComb.Value(item.iCU);
+    ShowStatement(item.CValue, txtCUValue, chkCUPerCent);
+    txtCULevel.Text(item.CLevel);
+    if (item.CType == "A") cboCUType.Choose(propagation);
+    if (item.CType == "B") cboCUType.Choose(comparison);
+    if (item.CType == "C")
+        ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
+                "External mode");
+    chkCD.Value(item.iCD);
+    txtKVOU.Text(item.KVOUValue);
+    txtEq.Text(item.CDSpec);
+    ShowStatement(item.CDRms, txtRMS, chkRMSPerCent);
+}
+
+/// The item as the controls of its frame say it.
+clsX frmUnc::FromControls(int i) const {
+    clsX item;
+    for (const clsX& known : items_) {
+        if (known.N == i) item = known;
+    }
+    item.iDS = chkDS(i).Value();
+    item.DSEvaluator = item.DSLevel = item.DSValue = "";
+    if (item.iDS) {
+        item.DSEvaluator =
+            IsCalibrated(i) ? NormalizeNumber(txtCalibrError.Text()) : Evaluator(cboDSEvaluator(i));
+        item.DSLevel = NormalizeNumber(txtDSLevel(i).Text());
+        item.DSValue = Statement(txtDSValue(i), chkDSPerCent(i));
+    }
+    item.iRep = chkRep(i).Value();
+    if (item.iRep || !item.repOfValueLine) {
+        item.Repetitions = item.iRep ? NormalizeNumber(txtRepetitions(i).Text()) : "";
+        item.RValue = item.iRep ? Statement(txtRValue(i), chkRPerCent(i)) : "";
+    }
+    const std::string& type = cboRType(i).Chosen();
+    item.RType = !item.iRep ? -1 : type == ofTheMean ? 0 : type == ofSingleMeasurement ? 1 : -1;
+    item.iUnc = chkUnc(i).Value();
+    item.ULevel = item.iUnc ? NormalizeNumber(txtULevel(i).Text()) : "";
+    item.UValue = item.iUnc ? Statement(txtUValue(i), chkUPerCent(i)) : "";
+    if (i == 0) ReadPropertyBlocks(item);
+    return item;
+}
+
+void frmUnc::ReadPropertyBlocks(clsX& item) const {
+    item.iCU = chkComb.Value();
+    item.CLevel = item.iCU ? NormalizeNumber(txtCULevel.Text()) : "";
+    item.CValue = item.iCU ? Statement(txtCUValue, chkCUPerCent) : "";
+    const std::string& type = cboCUType.Chosen();
+    item.CType = !item.iCU ? "" : type == propagation ? "A" : type == comparison ? "B" : item.CType;
+    item.KVOUValue = txtKVOU.Text();
+    item.iCD = chkCD.Value();
+    item.CDSpec = item.iCD ? std::string(TrimBlanks(txtEq.Text())) : "";
+    item.CDRms = item.iCD ? Statement(txtRMS, chkRMSPerCent) : "";
+}
+
+/// An item without a name has no quantity in the set.
+bool frmUnc::HasFrame(const clsX& item) {
+    return item.N >= 0 && item.N < frameCount && !item.Name.empty();
+}
+
+clsX* frmUnc::ItemOf(int i) {
+    for (clsX& item : items_) {
+        if (item.N == i) return &item;
+    }
+    return nullptr;
+}
+
+/// A calorimeter is stated by its calibration constant: heats of reactions.
+bool frmUnc::IsCalibrated(int i) const {
+    if (i != 0 || Globals().DataContext != "React" || items_.empty()) return false;
+    return items_.front().N == 0 && items_.front().PRPCODE.starts_with('H');
+}
+
+} // namespace vexora

@@ -1,0 +1,13 @@
+#include "plot/PlotForms.h"
+
+#include "plot/frmBox.h"
+#include "plot/frmGraph.h"
+
+namespace vexora {
+
+void RegisterPlotForms(ui::Forms& forms) {
+    forms.Register<frmBox>("frmBox");
+    forms.Register<frmGraph>("frmGraph");
+}
+
+} // namespace vexora

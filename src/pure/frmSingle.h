@@ -1,0 +1,95 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "entry/PropertyRules.h"
+#include "entry/SampleChoice.h"
+#include "records/clsX.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsProperty;
+class clsZ;
+
+/// One value of a property of a sample, by itself or at a fixed value of one variable. Behind
+/// frmProperty it takes value after value until it is closed; on an existing record (EditSingle) it
+/// closes after the one. The property in hand stands in the globals.
+class frmSingle : public ui::Form {
+public:
+    frmSingle();
+
+    ui::ComboBox cboSubst{*this, "cboSubst"};
+    ui::ComboBox cboSample{*this, "cboSample"};
+    ui::TextBox txtPrpSetNo{*this, "txtPrpSetNo"};
+    ui::ComboBox lstPhase1{*this, "lstPhase1"};
+    ui::ComboBox lstPhase2{*this, "lstPhase2"};
+    ui::ComboBox lstPhase3{*this, "lstPhase3"};
+    ui::Frame frmIndVar{*this, "frmIndVar", "Independent variable:"};
+    ui::TextBox txtIndVariable{*this, "txtIndVariable"};
+    ui::ComboBox lstVariable_Unit{*this, "lstVariable_Unit"};
+    ui::TextBox txtValue{*this, "txtValue"};
+    ui::Label lblUnit{*this, "lblUnit"};
+    ui::Frame frmConstraint{*this, "frmConstraint", "The value was obtained:"};
+    ui::OptionButton optPB{*this, "optPB", "In equilibrium with gas"};
+    ui::OptionButton optFP{*this, "optFP", "At fixed pressure 1 atm"};
+    ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
+    ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
+    ui::CommandButton cmdCheck{*this, "cmdCheck", "Calculate average value..."};
+    ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainty..."};
+    ui::CommandButton cmdAccept{*this, "cmdAccept", "Next"};
+    ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
+
+    void Load() override;
+    void Unload() override;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+
+    void CompoundClick();
+    void SampleClick();
+    void Phase1Click();
+    void Method();
+    void Uncertainty();
+    std::shared_ptr<clsProperty> ChainToEvaluate() const;
+    void Touch();
+
+    // What stands on the form (frmSingle_fill.cpp).
+    void UseSample();
+    void ShowProperty();
+    void ShowVariable();
+    void ShowPhases();
+    void ShowUnit();
+    void ProposeSetNumber();
+    void TakeRecord(const clsZ& record);
+    void ShowComment(const clsZ& record);
+    void ShowRecord(const clsZ& record);
+    bool IsFixed() const;
+
+    // Accepting (frmSingle_accept.cpp).
+    void Accept();
+    bool Check();
+    bool CheckPhases();
+    bool CheckVariable();
+    bool CheckUnit();
+    bool CheckValue();
+    bool Refuse(ui::Control& control, const std::string& text, const std::string& title = {});
+    void Store();
+    void StoreHeader(clsZ& record) const;
+    void StoreValues(clsZ& record) const;
+    void StoreStatements(clsZ& record) const;
+    void TakeTexts() const;
+
+    SampleChoice choice_{*this, cboSubst, cboSample};
+    PropertyRow row_;                // the property in hand
+    std::string variable_;           // code of the fixed variable
+    std::string variableUnit_;       // system unit of it
+    std::array<clsX, 2> statements_; // of the property and of the fixed variable
+    bool editing_ = false;
+    bool stored_ = false; // nothing has changed since the last store
+};
+
+} // namespace vexora

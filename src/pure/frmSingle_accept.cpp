@@ -1,0 +1,159 @@
+#include "pure/frmSingle.h"
+
+#include "chem/CommentTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "entry/PhaseLists.h"
+#include "entry/PropertyContext.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+void frmSingle::Accept() {
+    if (stored_) {
+        Close();
+        return;
+    }
+    if (!Check()) return;
+    Store();
+    if (editing_) {
+        Close();
+        return;
+    }
+    const ui::FillingScope filling(*this);
+    txtValue.Text("");
+    statements_ = {}; // they were of the value that has been stored
+    ProposeSetNumber();
+    cmdAccept.Caption("Done");
+    stored_ = true;
+    txtValue.SetFocus();
+}
+
+bool frmSingle::Refuse(ui::Control& control, const std::string& text, const std::string& title) {
+    ui::Say(text, title);
+    control.SetFocus();
+    return false;
+}
+
+bool frmSingle::Check() {
+    const KVOGlobal& globals = Globals();
+    if (globals.PropertyCode.empty() || !globals.CurrentProperty)
+        return Refuse(cmdMethod, "Please review the property selection");
+    if (!choice_.Sample()) return Refuse(cboSample, "Select the sample");
+    return CheckPhases() && CheckVariable() && CheckValue();
+}
+
+bool frmSingle::CheckPhases() {
+    for (ui::ComboBox* list : {&lstPhase1, &lstPhase2, &lstPhase3}) {
+        if (list->Enabled() && list->Index() < 0)
+            return Refuse(*list, "Select the phase", "Phase of the substance");
+    }
+    return true;
+}
+
+bool frmSingle::CheckVariable() {
+    if (!IsFixed()) return true;
+    txtIndVariable.Text(NormalizeNumber(txtIndVariable.Text()));
+    if (!IsNumeric(txtIndVariable.Text()))
+        return Refuse(txtIndVariable, "Enter the value of independent variable");
+    if (lstVariable_Unit.Index() < 0)
+        return Refuse(lstVariable_Unit, "Select units for the independent variable");
+    TakeTexts();
+    bool ok = true;
+    Globals().CurrentProperty->NextItem->Convert(ok, 0);
+    if (!ok) txtIndVariable.SetFocus();
+    return ok;
+}
+
+bool frmSingle::CheckValue() {
+    constexpr const char* illegal = "Illegal property value";
+    txtValue.Text(NormalizeNumber(txtValue.Text()));
+    if (!IsNumeric(txtValue.Text())) return Refuse(txtValue, "Enter the property value", illegal);
+    if (!CheckUnit()) return false;
+    TakeTexts();
+    bool ok = true;
+    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass);
+    return ok || Refuse(txtValue, "Invalid property value");
+}
+
+/// A value whose unit cannot be converted is never stored.
+bool frmSingle::CheckUnit() {
+    const std::string fault = UnitFault(*Globals().CurrentProperty);
+    if (fault.empty()) return true;
+    const bool ofUnit = fault == "Invalid conversion factor";
+    return Refuse(ofUnit ? static_cast<ui::Control&>(cmdMethod) : txtValue, fault);
+}
+
+void frmSingle::Store() {
+    KVOGlobal& globals = Globals();
+    const auto record = editing_ ? globals.CurrentZ : std::make_shared<clsZ>();
+    StoreValues(*record);
+    StoreStatements(*record);
+    StoreHeader(*record);
+    if (editing_)
+        record->Rekey();
+    else
+        record->AttachTo(*choice_.Sample());
+    globals.CurrentZ = record;
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+void frmSingle::StoreHeader(clsZ& record) const {
+    const bool asked = frmConstraint.Visible();
+    const std::string state = asked && optFP.Value() ? "FP" : asked && optPB.Value() ? "PB" : "";
+    FillHeader(record.Header, !editing_,
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, state));
+}
+
+void frmSingle::StoreValues(clsZ& record) const {
+    const KVOGlobal& globals = Globals();
+    const bool original = globals.OriginalUnits;
+    record.nVar = globals.VariableCount;
+    record.SMPNM = choice_.Sample()->SMPNM;
+    record.PRPCODE = row_.Code;
+    record.PRPSETNO = txtPrpSetNo.Text();
+    record.isOriginalUnit = original;
+    record.Factor = original ? globals.CurrentMethod->Factor : 0;
+    record.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    record.PHASE1 = OrPlaceholder(PhaseChosen(lstPhase1));
+    record.PHASE2 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase2));
+    record.PHASE3 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase3));
+    if (row_.Code == "TBN") record.PHASE3 = "&";
+    if (row_.Code == "TMN") record.PHASE3 = "air";
+    record.PRPVALUE = txtValue.Text();
+    if (!IsFixed()) return;
+    record.INDVARIABLE = txtIndVariable.Text();
+    if (original || record.VARIABLE_UNIT.empty())
+        record.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
+}
+
+/// What is stated goes with its quantity, which the item names besides.
+void frmSingle::StoreStatements(clsZ& record) const {
+    record.UX = statements_;
+    for (int n = 0; n <= Globals().VariableCount; ++n) {
+        clsX& item = record.UX[static_cast<std::size_t>(n)];
+        item.N = n;
+        item.PRPCODE = n == 0 ? row_.Code : variable_;
+        item.PHASE = OrPlaceholder(PhaseChosen(lstPhase1));
+    }
+}
+
+/// The chain as the form stands.
+void frmSingle::TakeTexts() const {
+    clsProperty& head = *Globals().CurrentProperty;
+    head.Text = NormalizeNumber(txtValue.Text());
+    if (!IsFixed() || !head.NextItem) return;
+    clsProperty& item = *head.NextItem;
+    item.Text = NormalizeNumber(txtIndVariable.Text());
+    item.ConversionCode =
+        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
+}
+
+} // namespace vexora

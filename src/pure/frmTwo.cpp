@@ -1,0 +1,165 @@
+#include "pure/frmTwo.h"
+
+#include <utility>
+
+#include "chem/clsMethod.h"
+#include "entry/PropertyContext.h"
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsTwo.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr int helpTwo = 335;
+
+} // namespace
+
+frmTwo::frmTwo() : Form("frmTwo", "Property as function of state variables") {
+    ArrangeControls();
+    WireEvents();
+    DefaultButton = &cmdOK;
+    CancelButton = &cmdFinish;
+    HelpContext = helpTwo;
+    txtPrpSetNo.Locked(true);
+}
+
+void frmTwo::ArrangeControls() {
+    using namespace ui;
+    Arrangement = Column(
+        {Row({Field("Compound:", cboSubst), Field("Sample #", cboSample),
+              Field("Property set #", txtPrpSetNo)}),
+         Field(lblVar1, Row({cboVar1, Field("Units:", lstVariable_Unit)})),
+         Field(lblVar2, Row({cboVar2, Field("Units:", lstVar2_Unit)})),
+         Field(lblVar3, Row({Narrow(txtVar3, 20), lblUnit3})), Field("Constraint:", lstCONSTRAINT),
+         Row({Field("Phase 1:", lstPhase1), Field(lblPhase2, lstPhase2)}),
+         Group(fraDefinition,
+               {Field("Results:", lstPROPERTY_FUNCT), Field("Relation:", lstRelation),
+                Row({Field("Reference T:", txtREF_TEMP), Note("K"),
+                     Field("Reference pressure:", txtREF_PRESSURE), Note("kPa"),
+                     Field("Reference phase:", lstREF_PHASE)})}),
+         Group(fraPresentation,
+               {Field("Numerical", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+         chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
+    PreferredColumns = 100;
+}
+
+void frmTwo::WireEvents() {
+    cboSubst.OnClick = [this] { CompoundClick(); };
+    cboSample.OnClick = [this] { SampleClick(); };
+    cboVar1.OnClick = [this] { Variable1Click(); };
+    cboVar2.OnClick = [this] { Variable2Click(); };
+    lstCONSTRAINT.OnClick = [this] { ConstraintClick(); };
+    lstPhase1.OnClick = [this] { PhaseClick(); };
+    lstPhase2.OnClick = [this] { PhaseClick(); };
+    lstPROPERTY_FUNCT.OnClick = [this] { DefinitionClick(); };
+    lstRelation.OnClick = [this] { DefinitionClick(); };
+    lstNumerical.OnClick = [this] { NumericalClick(); };
+    chkIncludeDigit.OnClick = [this] { ShowDigits(); };
+    cmdMethod.OnClick = [this] { Method(); };
+    cmdOK.OnClick = [this] { Accept(); };
+    cmdFinish.OnClick = [this] { Close(); };
+}
+
+void frmTwo::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    as_ = std::exchange(globals.SetToRepeat, nullptr);
+    if (globals.EditTwo) as_ = record_ = globals.CurrentTwo;
+    if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
+    {
+        const ui::FillingScope filling(*this);
+        if (as_) {
+            TakeProperty(
+                {as_->PRPCODE, as_->PROPERTY_UNIT, as_->Factor, as_->isOriginalUnit, as_->nVar},
+                as_->Header);
+        }
+        FillLists();
+        choice_.Fill();
+        if (record_) choice_.Lock();
+        UseSample();
+        ShowProperty();
+        if (as_)
+            ShowRecord(*as_);
+        else
+            txtComment.Text(globals.PropertyComment);
+        openAtFirst_ = OpenVariable(Draft()).code;
+    }
+    cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
+    ShowCaption();
+    if (record_) cboVar1.SetFocus(); // compound and sample are closed, the number is no input
+    if (row_.Property == row_.Code) ui::Say("Property Code Error");
+}
+
+void frmTwo::Unload() {
+    CloseForm();
+}
+
+void frmTwo::CompoundClick() {
+    if (Filling) return;
+    choice_.FillSamples();
+    UseSample();
+}
+
+void frmTwo::SampleClick() {
+    if (Filling) return;
+    choice_.SampleClick();
+    UseSample();
+}
+
+void frmTwo::Variable1Click() {
+    ShowUnits(1);
+    ShowVar3();
+    ShowCaption();
+}
+
+void frmTwo::Variable2Click() {
+    ShowUnits(2);
+    ShowVar3();
+    ShowCaption();
+}
+
+void frmTwo::ConstraintClick() {
+    ShowPhases();
+    ShowVar3();
+    const TwoDraft draft = Draft();
+    const bool ofOnePhase = PresetTwo(row_.Code).constraint == "FP";
+    const int gas = lstPhase2.Find(PhaseName("G"));
+    if (!Filling && ofOnePhase && draft.constraint == "PB" && draft.phase2.empty() && gas > 0)
+        lstPhase2.Index(gas);
+    if (!Filling) ProposeSetNumber();
+}
+
+void frmTwo::PhaseClick() {
+    if (Filling) return;
+    ShowPhases();
+    ProposeSetNumber();
+}
+
+void frmTwo::DefinitionClick() {
+    ShowDefinition();
+}
+
+void frmTwo::NumericalClick() {
+    cmdOK.Caption(Draft().numerical == "N" ? "Accept" : "Numerical Data");
+}
+
+/// Lets property and method be reviewed; another property starts its definition anew.
+void frmTwo::Method() {
+    const std::string before = Globals().PropertyCode;
+    if (!ReviewProperty(txtComment.Text())) return;
+    const ui::FillingScope filling(*this);
+    txtComment.Text(Globals().PropertyComment);
+    if (Globals().PropertyCode == before) {
+        ShowUnits(1);
+        ShowUnits(2);
+    } else {
+        ShowProperty();
+    }
+    ShowCaption();
+}
+
+} // namespace vexora

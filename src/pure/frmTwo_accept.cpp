@@ -1,0 +1,339 @@
+#include "pure/frmTwo.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "chem/CommentTags.h"
+#include "chem/KeyTags.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "entry/PropertyContext.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/PropertyChain.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* table = "frmData2";
+constexpr const char* noNumbers = "N"; // no numerical data
+
+/// The tags without those that begin with these words and end at the next colon.
+std::string WithoutTag(std::string tags, const std::string& beginning) {
+    const std::string mark = ":" + beginning;
+    for (std::size_t at = tags.find(mark); at != std::string::npos; at = tags.find(mark)) {
+        const std::size_t end = tags.find(':', at + mark.size());
+        tags.erase(at, (end == std::string::npos ? tags.size() : end) - at);
+    }
+    return tags.empty() ? ":" : tags;
+}
+
+/// A set with rows of its own, so that a table that is given up has changed nothing.
+std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
+    auto copy = std::make_shared<clsTwo>(record);
+    copy->tNode = nullptr;
+    copy->recData.Clear();
+    for (const auto& row : record.recData)
+        copy->recData.Add(std::make_shared<clsData>(*row));
+    return copy;
+}
+
+/// A new set of the same definition: what is stated about all its rows, without any of them.
+std::shared_ptr<clsTwo> DefinitionOf(const clsTwo& pattern) {
+    auto set = std::make_shared<clsTwo>();
+    set->DATATYPE = pattern.DATATYPE;
+    set->commentInSystemUnits = pattern.commentInSystemUnits;
+    set->FallbackMolarMass = pattern.FallbackMolarMass;
+    set->UX = pattern.UX;
+    for (clsX& item : set->UX)
+        item.KVOUValue.clear();
+    return set;
+}
+
+/// The working context as it was before the table opened; the table makes its own.
+class ContextScope {
+public:
+    ContextScope()
+        : set_(Globals().CurrentTwo), head_(Globals().CurrentProperty),
+          depth_(Globals().OpenForms.size()) {}
+    ~ContextScope() {
+        KVOGlobal& globals = Globals();
+        globals.CurrentTwo = set_;
+        globals.CurrentProperty = head_;
+        if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
+    }
+    ContextScope(const ContextScope&) = delete;
+    ContextScope& operator=(const ContextScope&) = delete;
+
+private:
+    std::shared_ptr<clsTwo> set_;
+    std::shared_ptr<clsProperty> head_;
+    std::size_t depth_;
+};
+
+} // namespace
+
+void frmTwo::Accept() {
+    if (!Check()) return;
+    const auto set = MakeSet();
+    if (TurnsRows()) ui::Say("The rows of the table are brought to system units");
+    if (Draft().numerical == noNumbers ? !DropNumbers(*set) : !EnterNumbers(set)) return;
+    Store(set);
+    Close();
+}
+
+bool frmTwo::Refuse(ui::Control& control, const std::string& text) {
+    ui::Say(text);
+    control.SetFocus();
+    return false;
+}
+
+ui::Control& frmTwo::FieldOf(TwoField field) {
+    switch (field) {
+    case TwoField::Sample:
+        return cboSample;
+    case TwoField::Variable1:
+        return cboVar1;
+    case TwoField::Unit1:
+        return lstVariable_Unit;
+    case TwoField::Variable2:
+        return cboVar2;
+    case TwoField::Unit2:
+        return lstVar2_Unit;
+    case TwoField::Constant:
+        return txtVar3;
+    case TwoField::Function:
+        return lstPROPERTY_FUNCT;
+    case TwoField::Relation:
+        return lstRelation;
+    case TwoField::RefPhase:
+        return lstREF_PHASE;
+    case TwoField::RefTemp:
+        return txtREF_TEMP;
+    case TwoField::RefPressure:
+        return txtREF_PRESSURE;
+    case TwoField::Constraint:
+        return lstCONSTRAINT;
+    case TwoField::Phase1:
+        return lstPhase1;
+    case TwoField::Phase2:
+        return lstPhase2;
+    case TwoField::Numerical:
+        break;
+    }
+    return lstNumerical;
+}
+
+bool frmTwo::Check() {
+    NormalizeNumbers();
+    const auto findings = CheckTwo(Draft());
+    if (!findings.empty()) return Refuse(FieldOf(findings.front().field), findings.front().text);
+    const std::string fault = UnitFault(*Globals().CurrentProperty);
+    if (!fault.empty()) return Refuse(cmdMethod, fault);
+    if (TurnsRows() && !CopyOf(*record_)->AdjustUnits())
+        return Refuse(cmdMethod, "Invalid conversion factor");
+    return CheckUnits();
+}
+
+/// The set is to stand in system units, and its rows stand in those of the paper.
+bool frmTwo::TurnsRows() const {
+    return record_ && record_->isOriginalUnit && !Globals().OriginalUnits &&
+           !record_->recData.IsEmpty();
+}
+
+/// Values of a variable whose unit cannot be converted are never stored.
+bool frmTwo::CheckUnits() {
+    if (!Globals().OriginalUnits) return true;
+    for (int n = 1; n <= Globals().VariableCount; ++n) {
+        const std::string code = UnitCodeOf(n);
+        if (IsKnownConversion(code) && ConversionFactor(code) > 0) continue;
+        return Refuse(n == 1 ? lstVariable_Unit : lstVar2_Unit, "Invalid conversion factor");
+    }
+    return true;
+}
+
+void frmTwo::NormalizeNumbers() {
+    for (ui::TextBox* box : {&txtVar3, &txtREF_TEMP, &txtREF_PRESSURE})
+        box->Text(NormalizeNumber(box->Text()));
+}
+
+std::shared_ptr<clsTwo> frmTwo::MakeSet() const {
+    auto set = record_ ? CopyOf(*record_) : as_ ? DefinitionOf(*as_) : std::make_shared<clsTwo>();
+    if (TurnsRows()) set->AdjustUnits(); // while it still knows the units that they were typed in
+    set->Parent = choice_.Sample().get();
+    WriteDefinition(*set);
+    WriteVariables(*set);
+    WriteResults(*set);
+    WriteComment(*set);
+    NameStatements(*set);
+    return set;
+}
+
+void frmTwo::WriteDefinition(clsTwo& set) const {
+    const KVOGlobal& globals = Globals();
+    const TwoDraft draft = Draft();
+    const bool original = globals.OriginalUnits;
+    set.nVar = draft.nVar;
+    set.SMPNM = choice_.Sample()->SMPNM;
+    set.PRPCODE = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
+    set.PRPSETNO = txtPrpSetNo.Text();
+    set.isOriginalUnit = original;
+    set.Factor = original ? globals.CurrentMethod->Factor : 0;
+    set.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    set.CONSTRAINT = draft.constraint;
+    set.PHASE1 = draft.phase1;
+    const bool asBefore = as_ && as_->CONSTRAINT == draft.constraint && as_->PHASE1 == draft.phase1;
+    const bool unseen = asBefore && !lstPhase2.Visible(); // of a file: not asked for, not lost
+    set.PHASE2 = unseen ? as_->PHASE2 : OrPlaceholder(draft.phase2);
+    Presentation presentation = ParsePresentation(set.DATATYPE);
+    presentation.numerical = draft.numerical;
+    presentation.calculated = chkCalc.Value();
+    presentation.equation = chkEqu.Value();
+    presentation.graph = chkGraph.Value();
+    set.DATATYPE = PresentationCode(presentation);
+}
+
+void frmTwo::WriteVariables(clsTwo& set) const {
+    const TwoDraft draft = Draft();
+    set.VARIABLE1 = draft.variable1;
+    set.VAR1_UNIT = UnitCodeOf(1);
+    set.VARIABLE2 = set.nVar > 1 ? draft.variable2 : "";
+    set.VAR2_UNIT = set.nVar > 1 ? UnitCodeOf(2) : "";
+    for (int n = 1; n <= set.nVar; ++n) {
+        clsX& item = set.UX[static_cast<std::size_t>(n)];
+        const bool another = !item.PRPCODE.empty() && item.PRPCODE != set.VARIABLE(n);
+        if (another) item = clsX(); // what was stated about another quantity is not true of this
+        item.PHASE = set.PHASE1;
+    }
+    if (as_ && Globals().PropertyCode != as_->PRPCODE) set.UX[0] = clsX();
+    set.UX[0].PHASE = set.PHASE1;
+}
+
+/// The code of a variable's unit. One that the form came with is kept as it is, also where no table
+/// knows it, or where values in system units bear it as the memory of the paper's unit.
+std::string frmTwo::UnitCodeOf(int n) const {
+    const ui::ComboBox& units = n == 1 ? lstVariable_Unit : lstVar2_Unit;
+    const std::string variable = VariableOf(n == 1 ? cboVar1 : cboVar2);
+    const bool original = Globals().OriginalUnits;
+    const bool same = as_ && as_->VARIABLE(n) == variable && as_->isOriginalUnit == original;
+    if (same && units.Chosen() == UnitShown(*as_, n)) return as_->VAR_UNIT(n);
+    const auto row = FindVariable(variable);
+    return row && original ? ConversionCodeOf(units.Chosen(), row->Unit) : "S";
+}
+
+void frmTwo::WriteResults(clsTwo& set) const {
+    const TwoDraft draft = Draft();
+    const bool relative = NeedsRelation(draft.function);
+    const ResultDefinition before = as_ ? ParseDefinition(as_->PROPERTY_FUNCT) : ResultDefinition();
+    const std::string relation =
+        before.relation == "FX" && draft.relation == "TF" ? "FX" : draft.relation;
+    const ResultDefinition definition = {draft.function, relative ? relation : std::string()};
+    const bool same = as_ && definition == before; // what a file states besides is kept
+    set.PROPERTY_FUNCT = definition.function + definition.relation;
+    const bool fixedT = relative && FixesTemperature(draft.relation);
+    const bool fixedP = relative && FixesPressure(draft.relation);
+    const bool phase = relative && NamesReferencePhase(draft.relation);
+    set.REF_TEMP = fixedT || same ? draft.refTemp : "";
+    set.REF_PRESSURE = fixedP || same ? draft.refPressure : "";
+    set.REF_PHASE = phase || same ? draft.refPhase : "";
+}
+
+/// The value that all rows have in common stands among the tags. The variable of a set of one is
+/// written there by the set itself where it needs to.
+void frmTwo::WriteComment(clsTwo& set) const {
+    std::string& tags = Globals().KeyRest;
+    const std::string open = OpenVariable(Draft()).code;
+    const std::string constant = open + " = " + txtVar3.Text();
+    const bool stated = !open.empty() && !txtVar3.IsEmpty();
+    if (!stated || !HasKeyTag(tags, constant)) DropConstants();
+    if (as_ && (set.nVar > 1 || as_->VARIABLE1 != set.VARIABLE1))
+        tags = WithoutTag(tags, "V1:" + as_->VARIABLE1);
+    if (stated) tags = SetKeyTag(tags, constant, true);
+    BuildPropertyChain();
+    FillHeader(set.Header, !record_,
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));
+}
+
+/// Takes the constant values out of the tags, but for those of a file that the form never showed.
+void frmTwo::DropConstants() const {
+    const TwoDraft draft = Draft();
+    const std::string open = OpenVariable(draft).code;
+    for (const std::string code : {"WL", "WF", "P", "T"}) {
+        const bool seen = code == open || code == openAtFirst_;
+        const bool varies = code == draft.variable1 || (draft.nVar > 1 && code == draft.variable2);
+        if (as_ && !seen && !varies) continue;
+        std::string& tags = Globals().KeyRest;
+        tags = WithoutTag(tags, code + " = ");
+    }
+}
+
+/// The items of variables that are no longer there go, with the precisions stated for them.
+void frmTwo::BuildPropertyChain() const {
+    clsProperty* last = Globals().CurrentProperty.get();
+    const TwoDraft draft = Draft();
+    for (int n = 1; n <= draft.nVar; ++n) {
+        const std::string& code = n == 1 ? draft.variable1 : draft.variable2;
+        const bool same = !last->isLast && last->NextItem && last->NextItem->PropertyCode == code;
+        if (!same) last->NextItem = std::make_shared<clsProperty>();
+        last->isLast = false;
+        last = last->NextItem.get();
+        if (!same) last->PropertyCode = code;
+    }
+    last->isLast = true;
+    last->NextItem = nullptr;
+}
+
+/// A set that had numbers and is said to have none loses its rows, if that is meant. What a file
+/// says in that way is kept as it stands.
+bool frmTwo::DropNumbers(clsTwo& set) {
+    if (set.recData.IsEmpty() || ParsePresentation(as_->DATATYPE).numerical == noNumbers)
+        return true;
+    const std::size_t rows = set.recData.Count();
+    if (!ui::AskYesNo("The table of this set has " + std::to_string(rows) +
+                      (rows == 1 ? " row" : " rows") +
+                      " of numerical data.\nAre they to be deleted?")) {
+        lstNumerical.SetFocus();
+        return false;
+    }
+    set.recData.Clear();
+    return true;
+}
+
+/// The table works on the set as the current one; true when it was accepted.
+bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
+    KVOGlobal& globals = Globals();
+    if (!ui::Forms::Current().Knows(table)) return Refuse(cmdOK, "There is no table dialog");
+    const ContextScope scope;
+    globals.CurrentTwo = set;
+    globals.DialogAccepted = false;
+    const auto isDigit = [](const auto& row) { return row->isDigit; };
+    globals.IncludeDigits =
+        chkIncludeDigit.Value() || (TurnsRows() && std::ranges::any_of(set->recData, isDigit));
+    globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one
+    ui::Forms::Current().Get(table).ShowModal();
+    return std::exchange(globals.DialogAccepted, false);
+}
+
+void frmTwo::Store(const std::shared_ptr<clsTwo>& set) {
+    KVOGlobal& globals = Globals();
+    if (record_) {
+        record_->Replace(*set);
+        globals.CurrentTwo = record_;
+    } else {
+        set->AttachTo(*choice_.Sample());
+        globals.CurrentTwo = set;
+    }
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+} // namespace vexora

@@ -1,0 +1,315 @@
+#include "pure/frmTwo.h"
+
+#include <algorithm>
+
+#include "chem/KeyTags.h"
+#include "chem/clsMethod.h"
+#include "entry/PhaseLists.h"
+#include "entry/PropertyContext.h"
+#include "entry/PropertyRules.h"
+#include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/UnitText.h"
+
+namespace vexora {
+
+namespace {
+
+// First entries of the lists in which nothing is chosen at first.
+constexpr const char* selectVariable = "SELECT VARIABLE";
+
+std::vector<std::string> Texts(CodeTexts table) {
+    std::vector<std::string> texts;
+    for (const CodeText& entry : table)
+        texts.emplace_back(entry.text);
+    return texts;
+}
+
+std::vector<std::string> PhaseNames(const std::vector<std::string>& codes) {
+    std::vector<std::string> names = {selectPhase};
+    for (const std::string& code : codes)
+        names.push_back(PhaseName(code));
+    return names;
+}
+
+/// Puts new phases into a list and keeps the one chosen; one phase alone is chosen by itself.
+void OfferPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
+    const std::string chosen = list.Chosen();
+    std::vector<std::string> names = PhaseNames(codes);
+    const bool keep = list.Index() > 0;
+    if (keep && std::find(names.begin(), names.end(), chosen) == names.end())
+        names.push_back(chosen);
+    if (names != list.Items()) list.Assign(std::move(names));
+    list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
+}
+
+/// Chooses an entry by its code; one that no table knows is offered as it is.
+void ChooseCode(ui::ComboBox& list, CodeTexts table, std::string_view code) {
+    if (IsBlankField(code)) {
+        list.Index(-1);
+        return;
+    }
+    std::string text = TextOfCode(table, code);
+    if (text.empty()) text = code;
+    if (list.Find(text) < 0) list.Add(text);
+    list.Choose(text);
+}
+
+std::string CodeChosen(const ui::ComboBox& list, CodeTexts table) {
+    const std::string code = CodeOfText(table, list.Chosen());
+    return code.empty() ? list.Chosen() : code;
+}
+
+/// The value of a tag like ":P = 101.325:", empty when it is not there.
+std::string ConstantIn(std::string_view tags, const std::string& code) {
+    const std::string mark = ":" + code + " = ";
+    const std::size_t at = tags.find(mark);
+    if (at == std::string_view::npos) return {};
+    const std::size_t from = at + mark.size();
+    return std::string(tags.substr(from, tags.find(':', from) - from));
+}
+
+} // namespace
+
+void frmTwo::FillLists() {
+    lstCONSTRAINT.Assign(Texts(ConstraintKinds()));
+    lstPROPERTY_FUNCT.Assign(Texts(ResultFunctions()));
+    lstRelation.Assign(Texts(ResultRelations()));
+    lstNumerical.Assign(Texts(NumericalKinds()));
+    lstREF_PHASE.Assign({});
+    for (const std::string& code : OfferPhases({}, 0, {}, Globals().DataContext).Phase1)
+        lstREF_PHASE.Add(PhaseName(code));
+}
+
+void frmTwo::UseSample() {
+    choice_.PutInContext(record_ ? record_->MolarMass() : as_ ? as_->FallbackMolarMass : 0);
+    ProposeSetNumber();
+}
+
+/// Brings the form in line with the property in force.
+void frmTwo::ShowProperty() {
+    const KVOGlobal& globals = Globals();
+    const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
+    row_ = row.value_or(PropertyRow());
+    if (!row) row_.Code = row_.Property = globals.PropertyCode;
+    variables_ = VariablesOf(globals.DataContext);
+    std::erase_if(variables_,
+                  [this](const auto& v) { return IsSameQuantity(row_.Code, v.IndVarCode); });
+    const bool two = globals.VariableCount > 1;
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&lblVar2, &cboVar2, &lstVar2_Unit})
+        control->Visible(two);
+    OfferVariables(cboVar1);
+    OfferVariables(cboVar2);
+    PreSet();
+    ProposeSetNumber();
+}
+
+void frmTwo::ShowCaption() {
+    std::string variables = VariableName(VariableOf(cboVar1));
+    const std::string second = cboVar2.Visible() ? VariableName(VariableOf(cboVar2)) : "";
+    if (!variables.empty() && !second.empty()) variables += " and ";
+    variables += second;
+    if (variables.empty()) variables = "state variables";
+    Caption((record_ ? "Edit: " : "") + row_.Property + " (" + Globals().PropertyText +
+            ") as function of " + variables);
+}
+
+void frmTwo::OfferVariables(ui::ComboBox& list) const {
+    std::vector<std::string> names = {selectVariable};
+    for (const VariableRow& row : variables_)
+        names.push_back(row.IndVariable);
+    list.Assign(std::move(names));
+    list.Index(0);
+}
+
+/// The units of the paper or the system unit alone; one that the form came with stays on offer.
+void frmTwo::ShowUnits(int n) {
+    ui::ComboBox& units = n == 1 ? lstVariable_Unit : lstVar2_Unit;
+    const std::string chosen = units.Chosen();
+    const std::string code = VariableOf(n == 1 ? cboVar1 : cboVar2);
+    const bool original = Globals().OriginalUnits;
+    units.Clear();
+    if (code.empty()) return;
+    if (const auto row = FindVariable(code))
+        units.Assign(original ? UnitList(row->Unit) : FixedUnitList(row->Unit));
+    if (as_ && as_->VARIABLE(n) == code && as_->isOriginalUnit == original) {
+        const std::string own = UnitShown(*as_, n);
+        if (!own.empty() && units.Find(own) < 0) units.Add(own);
+    }
+    units.Index(units.Count() == 1 ? 0 : units.Find(chosen));
+}
+
+/// A single phase has no second one; a phase chosen here is not offered there.
+void frmTwo::ShowPhases() {
+    const ui::FillingScope filling(*this);
+    const TwoDraft draft = Draft();
+    const bool boundary = draft.constraint == "PB" || draft.constraint.empty();
+    lblPhase2.Visible(boundary);
+    lstPhase2.Visible(boundary);
+    const PhaseOffer offer = OfferSetPhases(draft);
+    OfferPhaseList(lstPhase1, offer.Phase1);
+    OfferPhaseList(lstPhase2, offer.Phase2);
+}
+
+void frmTwo::ShowVar3() {
+    const ConstantVariable open = OpenVariable(Draft());
+    const QuantityText* quantity = QuantityByCode(StateVariables(), open.code);
+    const bool same = quantity && lblVar3.Caption() == std::string(quantity->text) + ":";
+    for (ui::Control* control : std::initializer_list<ui::Control*>{&lblVar3, &txtVar3, &lblUnit3})
+        control->Visible(quantity != nullptr);
+    lblVar3.Caption(quantity ? std::string(quantity->text) + ":" : "");
+    lblUnit3.Caption(quantity ? std::string(quantity->unit) : "");
+    txtVar3.ToolTip(open.isObligatory ? "The value that all rows have in common"
+                                      : "The value that all rows have in common, if it is stated");
+    if (!same) txtVar3.Text(ConstantIn(Globals().KeyRest, open.code));
+}
+
+/// The columns of digits follow in the table, those of both variables together.
+void frmTwo::ShowDigits() {
+    chkIncludeDigit.ToolTip(chkIncludeDigit.Value()
+                                ? "The table shows a column of digits for each quantity"
+                                : "The digits are counted on the typed texts");
+}
+
+/// What a definition does not ask for cannot be entered.
+void frmTwo::ShowDefinition() {
+    const TwoDraft draft = Draft();
+    const bool relative = NeedsRelation(draft.function);
+    lstRelation.Enabled(relative);
+    txtREF_TEMP.Enabled(relative && FixesTemperature(draft.relation));
+    txtREF_PRESSURE.Enabled(relative && FixesPressure(draft.relation));
+    lstREF_PHASE.Enabled(relative && NamesReferencePhase(draft.relation));
+}
+
+void frmTwo::PreSet() {
+    const TwoDraft preset = PresetTwo(row_.Code);
+    cboVar1.Choose(VariableName(preset.variable1));
+    if (cboVar1.Index() < 0) cboVar1.Index(0);
+    for (ui::ComboBox* list : {&lstPhase1, &lstPhase2})
+        list->Clear();
+    ChooseCode(lstCONSTRAINT, ConstraintKinds(), preset.constraint);
+    ShowPhases();
+    ChoosePhase(lstPhase2, preset.phase2);
+    ShowPhases();
+    ChooseCode(lstPROPERTY_FUNCT, ResultFunctions(), preset.function);
+    ChooseCode(lstRelation, ResultRelations(), preset.relation);
+    lstREF_PHASE.Index(-1);
+    ChoosePhase(lstREF_PHASE, preset.refPhase);
+    txtREF_TEMP.Text(preset.refTemp);
+    txtREF_PRESSURE.Text(preset.refPressure);
+    ShowDefinition();
+    ShowVar3();
+    ShowDigits();
+}
+
+/// The number of a set that keeps its property does not change.
+void frmTwo::ProposeSetNumber() {
+    const auto sample = choice_.Sample();
+    const TwoDraft draft = Draft();
+    const std::string code = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
+    if (!sample || code.empty())
+        txtPrpSetNo.Text("");
+    else if (record_ && record_->PRPCODE == code)
+        txtPrpSetNo.Text(record_->PRPSETNO);
+    else
+        txtPrpSetNo.Text(std::to_string(sample->NextTwoNumber(code, draft.nVar)));
+}
+
+void frmTwo::ShowRecord(const clsTwo& record) {
+    Globals().CurrentProperty = BuildChain(record); // the tags of the comment name its quantities
+    txtComment.Text(TakeComment(record.Header.DATACOMMENT));
+    ShowVariables(record);
+    ChooseCode(lstCONSTRAINT, ConstraintKinds(), record.CONSTRAINT);
+    lstPhase1.Index(0);
+    lstPhase2.Index(0);
+    ChoosePhase(lstPhase1, record.PHASE1);
+    ShowPhases();
+    ChoosePhase(lstPhase2, record.PHASE2);
+    ShowDefinitionOf(record);
+    ShowPresentation(record);
+    txtVar3.Text("");
+    lblVar3.Caption("");
+    ShowVar3();
+    ProposeSetNumber();
+}
+
+void frmTwo::ShowVariables(const clsTwo& record) {
+    for (int n = 1; n <= record.nVar && n <= 2; ++n) {
+        ui::ComboBox& variable = n == 1 ? cboVar1 : cboVar2;
+        std::string name = VariableName(record.VARIABLE(n));
+        if (name.empty()) name = record.VARIABLE(n);
+        if (variable.Find(name) < 0) variable.Add(name);
+        variable.Choose(name);
+        ShowUnits(n);
+        (n == 1 ? lstVariable_Unit : lstVar2_Unit).Choose(UnitShown(record, n));
+    }
+}
+
+/// The unit of a variable as the list shows it; what no table knows is shown as its code.
+std::string frmTwo::UnitShown(const clsTwo& record, int n) const {
+    const std::string& code = record.VAR_UNIT(n);
+    const auto row = FindVariable(record.VARIABLE(n));
+    if (!row) return code;
+    return UnitText(row->Unit, record.isOriginalUnit ? code : "S", 0);
+}
+
+void frmTwo::ShowDefinitionOf(const clsTwo& record) {
+    const ResultDefinition definition = ParseDefinition(record.PROPERTY_FUNCT);
+    ChooseCode(lstPROPERTY_FUNCT, ResultFunctions(), definition.function);
+    const bool isFixed = definition.relation == "FX"; // another code of the same relation
+    ChooseCode(lstRelation, ResultRelations(), isFixed ? "TF" : definition.relation);
+    txtREF_TEMP.Text(IsBlankField(record.REF_TEMP) ? "" : record.REF_TEMP);
+    txtREF_PRESSURE.Text(IsBlankField(record.REF_PRESSURE) ? "" : record.REF_PRESSURE);
+    lstREF_PHASE.Index(-1);
+    ChoosePhase(lstREF_PHASE, record.REF_PHASE);
+    ShowDefinition();
+}
+
+void frmTwo::ShowPresentation(const clsTwo& record) {
+    const Presentation presentation = ParsePresentation(record.DATATYPE);
+    ChooseCode(lstNumerical, NumericalKinds(), presentation.numerical);
+    chkCalc.Value(presentation.calculated);
+    chkEqu.Value(presentation.equation);
+    chkGraph.Value(presentation.graph);
+    chkIncludeDigit.Value(std::any_of(record.recData.begin(), record.recData.end(),
+                                      [](const auto& row) { return row->isDigit; }));
+    ShowDigits();
+}
+
+/// Code of the variable chosen behind the first entry, empty for none.
+std::string frmTwo::VariableOf(const ui::ComboBox& list) const {
+    if (list.Index() <= 0) return {};
+    const std::string code = VariableCode(list.Chosen());
+    return code.empty() ? list.Chosen() : code;
+}
+
+TwoDraft frmTwo::Draft() const {
+    TwoDraft draft;
+    draft.nVar = Globals().VariableCount;
+    draft.context = Globals().DataContext;
+    draft.property = row_.Code;
+    draft.hasSample = choice_.Sample() != nullptr;
+    draft.variable1 = VariableOf(cboVar1);
+    draft.unit1 = lstVariable_Unit.Chosen();
+    draft.variable2 = VariableOf(cboVar2);
+    draft.unit2 = lstVar2_Unit.Chosen();
+    draft.constant = txtVar3.Text();
+    draft.function = CodeChosen(lstPROPERTY_FUNCT, ResultFunctions());
+    draft.relation = CodeChosen(lstRelation, ResultRelations());
+    draft.refPhase = PhaseChosen(lstREF_PHASE);
+    draft.refTemp = txtREF_TEMP.Text();
+    draft.refPressure = txtREF_PRESSURE.Text();
+    draft.constraint = CodeChosen(lstCONSTRAINT, ConstraintKinds());
+    draft.phase1 = PhaseChosen(lstPhase1);
+    draft.phase2 = lstPhase2.Visible() ? PhaseChosen(lstPhase2) : std::string();
+    draft.numerical = CodeChosen(lstNumerical, NumericalKinds());
+    return draft;
+}
+
+} // namespace vexora

@@ -1,0 +1,159 @@
+#include "sources/frmDocument.h"
+
+#include "globals/FormChain.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsAuthor.h"
+#include "records/clsR.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Text.h"
+#include "sources/DocumentTypes.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+const std::string kSourcePrompt = "CLICK HERE TO ENTER SOURCE DETAILS";
+const std::string kAuthorsPrompt = "CLICK HERE TO ENTER THE AUTHORS";
+
+const DocumentType* TypeAt(int entry) {
+    const auto index = static_cast<std::size_t>(entry - 1);
+    return entry >= 1 && index < kDocumentTypes.size() ? &kDocumentTypes[index] : nullptr;
+}
+
+/// A field that is filled by a dialog answers to the space bar as it does to a click.
+void ClickBySpace(ui::TextBox& field) {
+    field.Locked(true);
+    field.OnKey = [&field](ui::Key& key) {
+        if (key.name != "Space") return;
+        key.swallowed = true;
+        field.UserClick();
+    };
+}
+
+} // namespace
+
+frmDocument::frmDocument() : Form("frmDocument", "Literature source description") {
+    Arrangement =
+        ui::Column({ui::Field("Type of document:", cboTypeDoc), ui::Field("Title:", txtTitle),
+                    ui::Field("Source:", txtSource), ui::Field("Year:", ui::Narrow(txtYear, 6)),
+                    ui::Field("Authors:", txtAuthors), ui::Field("Source of data:", lstSourceDoc),
+                    ui::Field("Key words:", txtKeyWords),
+                    ui::Field("    Abstract     (if available):", txtAbstract),
+                    ui::ButtonRow({cmdAccept, cmdCalcel})});
+    DefaultButton = &cmdAccept;
+    CancelButton = &cmdCalcel;
+    HelpContext = 225;
+    PreferredColumns = 110;
+    mnuHowTo.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
+    cboTypeDoc.OnClick = [this] { cboTypeDoc_Click(); };
+    txtSource.OnClick = [this] { txtSource_Click(); };
+    txtAuthors.OnClick = [this] { txtAuthors_Click(); };
+    cmdAccept.OnClick = [this] { cmdAccept_Click(); };
+    cmdCalcel.OnClick = [this] { Close(); };
+    ClickBySpace(txtSource);
+    ClickBySpace(txtAuthors);
+}
+
+void frmDocument::Load() {
+    const ui::FillingScope filling(*this);
+    Globals().DialogAccepted = false;
+    FillLists();
+    txtSource.Text(kSourcePrompt);
+    txtAuthors.Text(kAuthorsPrompt);
+    if (Globals().EditSource && Globals().CurrentR) Fill(*Globals().CurrentR);
+}
+
+void frmDocument::Unload() {
+    CloseForm();
+}
+
+void frmDocument::FillLists() {
+    cboTypeDoc.Add("SELECT TYPE OF DOCUMENT HERE");
+    for (const DocumentType& type : kDocumentTypes)
+        cboTypeDoc.Add(std::string(type.text));
+    cboTypeDoc.Index(0);
+    lstSourceDoc.Add("SELECT THE SOURCE OF INFORMATION HERE");
+    for (const CodeText& kind : SourceKinds()) {
+        if (!kind.text.empty()) lstSourceDoc.Add(std::string(kind.text));
+    }
+    lstSourceDoc.Index(0);
+}
+
+void frmDocument::Fill(const clsR& source) {
+    FillType(source);
+    txtTitle.Enter(source.TTITLE);
+    Source(source.SSOURCE);
+    txtYear.Text(source.YEARPUB);
+    authors_.assign(source.recAuthor.begin(), source.recAuthor.end());
+    ShowAuthors();
+    lstSourceDoc.Index(0);
+    const std::string kind = TextOfCode(SourceKinds(), source.SOURCEDOC);
+    if (!kind.empty()) lstSourceDoc.Choose(kind);
+    txtKeyWords.Enter(source.KEYWORDS);
+    txtAbstract.Enter(source.ABSTRACT);
+}
+
+void frmDocument::FillType(const clsR& source) {
+    for (const DocumentType& type : kDocumentTypes) {
+        if (type.code != source.TYPDOC) continue;
+        if (type.code == "C" && type.text != source.SSOURCE) continue;
+        cboTypeDoc.Choose(type.text);
+    }
+    if (source.TYPDOC == "C" && cboTypeDoc.Index() == 0) cboTypeDoc.Choose(kPersonalCommunication);
+    type_ = cboTypeDoc.Index();
+}
+
+void frmDocument::cboTypeDoc_Click() {
+    if (Filling || cboTypeDoc.Index() == type_) return;
+    type_ = cboTypeDoc.Index();
+    const bool personal = cboTypeDoc.Chosen() == kPersonalCommunication;
+    txtSource.Text(personal ? std::string(kPersonalCommunication) : kSourcePrompt);
+}
+
+void frmDocument::txtSource_Click() {
+    const DocumentType* type = TypeAt(cboTypeDoc.Index());
+    if (type == nullptr) {
+        ui::Say("Select type of document before");
+        return;
+    }
+    if (type->detailForm.empty()) {
+        txtSource.Text(std::string(type->text));
+        return;
+    }
+    if (ui::Forms::Current().Find(type->detailForm) == nullptr)
+        ui::Forms::Current().Get(type->detailForm).ShowModal();
+}
+
+void frmDocument::txtAuthors_Click() {
+    if (ui::Forms::Current().Find("frmAuthor") == nullptr)
+        ui::Forms::Current().Get("frmAuthor").ShowModal();
+}
+
+std::string frmDocument::Source() const {
+    return txtSource.Text() == kSourcePrompt ? std::string() : txtSource.Text();
+}
+
+void frmDocument::Source(const std::string& text) {
+    txtSource.Text(text.empty() ? kSourcePrompt : text);
+}
+
+bool frmDocument::IsManuscript() const {
+    const DocumentType* type = TypeAt(cboTypeDoc.Index());
+    return type != nullptr && type->code == "S";
+}
+
+void frmDocument::Authors(const std::vector<std::shared_ptr<clsAuthor>>& authors) {
+    authors_ = authors;
+    ShowAuthors();
+}
+
+void frmDocument::ShowAuthors() {
+    std::string names;
+    for (const auto& author : authors_)
+        names += (names.empty() ? "" : "; ") + std::string(TrimBlanks(author->FULLNM));
+    txtAuthors.Text(names.empty() ? kAuthorsPrompt : names);
+}
+
+} // namespace vexora

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "sources/EntryFields.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsAuthor;
+class clsR;
+
+/// "Literature source description": the first dialog of a new document and the edit dialog of its
+/// root. It fills the citation fields of the source, derives the author codes, and registers a new
+/// source in the reference database. The details of the publication and the authors come from
+/// helper dialogs that hand their result back here.
+class frmDocument : public ui::Form {
+public:
+    frmDocument();
+
+    ui::MenuItem mnuHowTo{*this, "mnuHowTo", "How to use this form"};
+    ui::ComboBox cboTypeDoc{*this, "cboTypeDoc"};
+    PromptedTextBox txtTitle{*this, "txtTitle", "ENTER OR PASTE TITLE HERE",
+                             ui::TextBox::Lines::Many};
+    ui::TextBox txtSource{*this, "txtSource"};
+    ui::TextBox txtYear{*this, "txtYear"};
+    ui::TextBox txtAuthors{*this, "txtAuthors"};
+    ui::ListBox lstSourceDoc{*this, "lstSourceDoc"};
+    PromptedTextBox txtKeyWords{*this, "txtKeyWords",
+                                "ENTER KEYWORDS SEPARATED BY COMMAS OR SEMICOLONS",
+                                ui::TextBox::Lines::Many};
+    PromptedTextBox txtAbstract{*this, "txtAbstract", "ENTER OR PASTE ABSTRACT HERE",
+                                ui::TextBox::Lines::Many};
+    ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
+    ui::CommandButton cmdCalcel{*this, "cmdCalcel", "Cancel"};
+
+    void Load() override;
+    void Unload() override;
+
+    /// The details of the publication in one text, "" while none are entered.
+    std::string Source() const;
+    /// Takes the text that a detail form has built.
+    void Source(const std::string& text);
+    /// The chosen type is a manuscript that is not printed yet.
+    bool IsManuscript() const;
+    /// Takes the list of authors, in place of the one before.
+    void Authors(const std::vector<std::shared_ptr<clsAuthor>>& authors);
+
+private:
+    void cboTypeDoc_Click();
+    void txtSource_Click();
+    void txtAuthors_Click();
+    void cmdAccept_Click();
+
+    void FillLists();
+    void Fill(const clsR& source);
+    void FillType(const clsR& source);
+    void ShowAuthors();
+
+    bool CheckFields();
+    bool CheckCitation();
+    bool CheckYear();
+    bool CheckAuthorCodes();
+    void Store(clsR& source);
+    void StoreAuthors(clsR& source) const;
+    void StoreNew();
+    void StoreEdited(clsR& source);
+    bool IsSameIdentity(const clsR& source) const;
+    std::string ChosenSourceKind(const std::string& before) const;
+
+    std::vector<std::shared_ptr<clsAuthor>> authors_;
+    std::string code1_; // of the first author: three lower-case letters at most
+    std::string code2_; // of the second, "&" when there is none
+    int type_ = 0;      // entry of cboTypeDoc for which txtSource was filled
+};
+
+} // namespace vexora

@@ -1,0 +1,193 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "entry/RowChecks.h"
+#include "grid/TablePaste.h"
+#include "grid/TableUndo.h"
+#include "records/clsX.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class clsData;
+class clsProperty;
+class clsTwo;
+struct PlotTable;
+
+/// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
+/// filled, stored when it is accepted. It works on the current set; a table that is cancelled
+/// leaves the set as it was.
+class frmData2 : public ui::Form {
+public:
+    frmData2();
+    ~frmData2() override;
+
+    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
+    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
+    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
+    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
+    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
+    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
+    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
+    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
+    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
+                               "Ctrl+Shift+V"};
+    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
+    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
+    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
+    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
+    ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
+    ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
+    ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
+    ui::MenuItem mnuSystemUnits{*this, "mnuSystemUnits", "To &system units", &mnuTable};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
+    ui::MenuItem mnuHelpSeq{*this, "mnuHelpSeq", "&Sequence of work", &mnuHelp};
+    ui::MenuItem mnuHelpList{*this, "mnuHelpList", "&Keys of the table", &mnuHelp};
+    ui::MenuItem mnuHelpHow{*this, "mnuHelpHow", "&How to enter a table", &mnuHelp};
+    ui::MenuItem mnuUnc{*this, "mnuUnc", "&Uncertainty Definitions", &mnuHelp};
+
+    ui::Label lblColumns{*this, "lblColumns"};
+    ui::Grid tblData{*this, "tblData", 2, 1};
+    ui::TextBox txtCell{*this, "txtCell"};
+    ui::Label lblNotice{*this, "lblNotice"};
+    ui::ListBox lstFindings{*this, "lstFindings"};
+    ui::CheckBox chkSup{*this, "chkSup", "Suppress calculation of derivatives"};
+    ui::CommandButton cmdView{*this, "cmdView", "View plot"};
+    ui::CommandButton cmdAssign{*this, "cmdAssign", "Evaluate Uncertainties"};
+    ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
+    ui::CommandButton cmdSave{*this, "cmdSave", "Accept"};
+    ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
+
+    void Load() override;
+    void Activate() override;
+    bool QueryUnload() override;
+    void Unload() override;
+
+    /// The rows down to the last one that holds something, cells parted by tabs.
+    std::string TableText() const;
+
+private:
+    void ArrangeControls();
+    void WireEvents();
+    void WireMenus();
+
+    // What the table shows at first (frmData2_fill.cpp).
+    void TakeSet();
+    void TakeRows();
+    void AnalyseCurrentProperty();
+    void FillHeader();
+    void FillRows();
+    bool IsChanged() const;
+    std::string CaptionText() const;
+    std::string ColumnsText() const;
+    std::shared_ptr<clsTwo> Set() const { return set_; }
+
+    // Work in the table (frmData2_grid.cpp).
+    void ToEditMode(const std::string& text);
+    void ToStandardMode();
+    void GridKeys(ui::Key& key);
+    void CellKeys(ui::Key& key);
+    void LeaveCell(const ui::Key& key);
+    void PasteInCell();
+    void MoveTo(int row, int column);
+    bool MoveAlong(int row, int column, bool backwards);
+    void Enter(int firstColumn, int lastColumn, const std::function<void()>& enters);
+    void FollowCell(TableEdit& edit, int row, int column, const std::string& before);
+
+    // Whole blocks (frmData2_blocks.cpp).
+    void Paste(const std::string& text);
+    bool FillSelection(const PastedTable& block);
+    void PasteShown();
+    PastedTable BesideStatements(PastedTable block, int column) const;
+    void PutIn(const PastedTable& block, int row, int column);
+    bool MakesRoomFor(const PastedTable& block, int row, int column, bool isEmpty);
+    void EmptyCells();
+    void StepBack(bool can, const std::function<void()>& step);
+    void InsertRows();
+    void RemoveRows();
+    void OpenFile();
+    void SaveFile();
+    void Action2D();
+    void Split();
+    void Clear();
+    void ShowNotice(std::vector<PasteNotice> told);
+    void MoveNotices(int row, int count);
+    int LastRow() const;
+
+    // The units of the cells (frmData2_units.cpp).
+    void AdjustUnits();
+    std::shared_ptr<clsTwo> Adjusted(const std::vector<int>& rows) const;
+    void TakeUnits(const std::shared_ptr<clsTwo>& adjusted, const std::array<clsX, 5>& statements,
+                   const std::vector<std::shared_ptr<clsData>>& rows);
+    void ShowUnits();
+
+    // Marks and findings (frmData2_findings.cpp, frmData2_look.cpp).
+    void TableChanged();
+    void FindAgain(int firstRow, int lastRow);
+    void ShowFindings();
+    void StepFinding(int step);
+    void GoTo(const Finding& finding);
+    void LookAgain();
+    std::vector<int> FarRowsOfTable() const;
+
+    // Checks, evaluation and storing (frmData2_accept.cpp).
+    bool Check();
+    bool CheckUnits();
+    bool CheckUnc();
+    void CleanCells();
+    void Calc_unc(int row, bool& ok);
+    void TakeStatements(clsProperty& item, int place, int row) const;
+    bool Refuse(const Finding& finding, const std::string& title = {});
+    void Assign();
+    bool AssignAccepted();
+    bool MayLoseColumns() const;
+    void UseStatements(const std::array<clsX, 5>& statements);
+    void TakeSelectedRow();
+    void Save();
+    void Store();
+    std::vector<const clsData*> OldRows() const;
+    const clsData* OldRowHere(int row) const;
+    std::string VariablesOf(const clsData& row) const;
+    std::string VariablesOf(int row) const;
+    std::shared_ptr<clsData> NewRow(int row, const clsData* old) const;
+
+    // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
+    void View();
+    PlotTable PointsOfTable() const;
+    void NamePlot(PlotTable& table) const;
+    double UncertaintyOf(int row) const;
+    double CombinedOf(int row, double value) const;
+
+    std::shared_ptr<clsTwo> set_;
+    std::shared_ptr<clsTwo> adjusted_;           // the set as brought to system units, or null
+    std::array<clsX, 5> statementsBefore_;       // restored when the table is cancelled
+    std::array<clsX, 5> firstStatements_;        // as first shown, with their names
+    std::string firstText_;                      // of the table, to tell whether it has changed
+    std::vector<std::shared_ptr<clsData>> rows_; // as they stood at the beginning
+    std::shared_ptr<clsProperty> chain_;
+    double molarMass_ = 0;  // [g/mol]
+    bool original_ = true;  // cells stand in the units of the paper
+    bool assigned_ = false; // uncertainties have been looked at
+    bool stored_ = false;
+    TableColumns columns_;
+    TableColumns firstColumns_; // those that the table began with
+    TableUndo undo_{tblData};
+    std::optional<std::pair<int, int>> entered_;   // columns that are being typed or pasted into
+    std::map<int, std::vector<Finding>> findings_; // by row
+    std::vector<Finding> listed_;                  // as the list shows them
+    std::vector<PasteNotice> told_;                // what the last paste had to guess
+    std::vector<int> lookAgain_;                   // rows far from their neighbours
+    int editRow_ = 0, editColumn_ = 0;
+};
+
+} // namespace vexora

@@ -1,0 +1,286 @@
+#include "tables/frmData2.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include "chem/clsProperty.h"
+#include "entry/EditStatements.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+using Kind = TableColumn::Kind;
+
+/// A cell of a column of per cent is that share of the row's value.
+std::string AsFigure(const TableColumn& column, const std::string& cell, double value) {
+    if (!column.percent || !IsNumeric(cell)) return cell;
+    return NumberText(Val(cell) * 0.01 * value);
+}
+
+} // namespace
+
+bool frmData2::Refuse(const Finding& finding, const std::string& title) {
+    GoTo(finding);
+    ui::Say(finding.text, title);
+    return false;
+}
+
+/// Cells lose the blanks and commas that came with typing and pasting.
+void frmData2::CleanCells() {
+    undo_.Do([this](TableEdit& edit) {
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+            for (int column = 0; column < columns_.Count(); ++column)
+                edit.Cell(row, column, CleanCell(columns_[column], tblData.Cell(row, column)));
+        }
+    });
+}
+
+bool frmData2::Check() {
+    ToStandardMode();
+    CleanCells();
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        const auto findings = CheckRow(tblData, columns_, row);
+        if (!findings.empty()) return Refuse(findings.front());
+    }
+    return true;
+}
+
+/// Values whose unit cannot be converted are never stored.
+bool frmData2::CheckUnits() {
+    if (!original_) return true;
+    for (const clsProperty* item = chain_.get(); item; item = item->NextItem.get()) {
+        const std::string& code = item->ConversionCode;
+        const bool known = item->Factor > 0 ||
+                           (code != "*" && IsKnownConversion(code) && ConversionFactor(code) > 0);
+        if (known) continue;
+        ui::Say("Invalid conversion factor");
+        return false;
+    }
+    if (chain_->Factor > 0 || !IsMassBased(chain_->ConversionCode) || molarMass_ > 0) return true;
+    ui::Say("Molar mass of the compound is not known");
+    return false;
+}
+
+void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
+    const double value = Val(item.Text);
+    const auto cell = [&](Kind kind) {
+        const int column = columns_.Find(kind, place);
+        if (column < 0) return std::string();
+        return AsFigure(columns_[column], tblData.Cell(row, column), value);
+    };
+    item.DS = cell(Kind::DS);
+    item.Rep = cell(Kind::Rep);
+    item.nRep = IsNumeric(cell(Kind::Repetitions)) ? cell(Kind::Repetitions) : "";
+    item.Unc = cell(Kind::Unc);
+    item.CD = place == 0 ? cell(Kind::CD) : "";
+    const clsX& ofSet = set_->UX[0];
+    if (place == 0 && item.CD.empty() && ofSet.iCD) item.CD = ofSet.CDRms;
+}
+
+/// Evaluates one row; its last cell shows "Error" when that fails.
+void frmData2::Calc_unc(int row, bool& ok) {
+    int place = 0;
+    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get(), ++place) {
+        item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place));
+        item->Value = item->PRECISION = item->Der = 0;
+        TakeStatements(*item, place, row);
+    }
+    const std::string result = EvaluateUncertainty(*chain_, molarMass_);
+    const int figure = columns_.Find(Kind::KVO);
+    if (tblData.Cell(row, figure) == "Error" || !result.empty())
+        undo_.Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
+    ok = result.empty() || IsNumeric(result);
+}
+
+bool frmData2::CheckUnc() {
+    SuspicionsOfRun suspicions;
+    const int figure = columns_.Find(Kind::KVO);
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        if (tblData.Cell(row, 0).empty()) continue;
+        bool ok = true;
+        Calc_unc(row, ok);
+        const auto findings = CheckEvaluation(tblData, columns_, row);
+        if (!ok || !findings.empty())
+            return Refuse(findings.empty() ? Finding{row, figure,
+                                                     "Erroneous data combination\n"
+                                                     "Please correct it"}
+                                           : findings.front(),
+                          "Error");
+    }
+    return true;
+}
+
+void frmData2::Assign() {
+    if (Check()) AssignAccepted();
+}
+
+/// The statements of the set; what they ask for in every row gets its column. It is a step of the
+/// history, for what was typed before stood in other columns. False on Cancel.
+bool frmData2::AssignAccepted() {
+    if (!ui::Forms::Current().Knows("frmUnc")) return true;
+    KVOGlobal& globals = Globals();
+    TakeSelectedRow();
+    globals.CurrentProperty = chain_;
+    const std::string key = std::exchange(globals.CurrentKey, "RLS1");
+    const std::array<clsX, 5> before = set_->UX;
+    const bool accepted = EditStatements(set_->UX);
+    globals.CurrentKey = key;
+    if (!accepted) return false;
+    if (!MayLoseColumns()) {
+        set_->UX = before;
+        return false;
+    }
+    const bool assignedBefore = std::exchange(assigned_, true);
+    if (set_->UX == before) return true;
+    const auto emptiesColumns = [this](TableEdit& edit) {
+        const TableColumns next(*set_, Globals().IncludeDigits);
+        const std::vector<int> places = columns_.PlacesIn(next);
+        for (int column = 0; column < columns_.Count(); ++column) {
+            if (places[static_cast<std::size_t>(column)] >= 0) continue;
+            for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
+                edit.Cell(row, column, {});
+        }
+    };
+    undo_.Do(emptiesColumns, [this, before, assignedBefore, after = set_->UX](bool done) {
+        UseStatements(done ? after : before);
+        assigned_ = done || assignedBefore;
+    });
+    return true;
+}
+
+void frmData2::UseStatements(const std::array<clsX, 5>& statements) {
+    set_->UX = statements;
+    AnalyseCurrentProperty();
+    FillHeader();
+    FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+}
+
+/// Entries of rows whose column goes with its statement are not thrown away unasked.
+bool frmData2::MayLoseColumns() const {
+    const TableColumns next(*set_, Globals().IncludeDigits);
+    const std::vector<int> places = columns_.PlacesIn(next);
+    for (int column = 0; column < columns_.Count(); ++column) {
+        if (places[static_cast<std::size_t>(column)] >= 0) continue;
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+            if (tblData.Cell(row, column).empty()) continue;
+            return ui::AskYesNo("The entries in the column " + columns_[column].head +
+                                " go with its statement\nGo on?");
+        }
+    }
+    return true;
+}
+
+/// The values by which the dialog of statements shows the figures that follow.
+void frmData2::TakeSelectedRow() {
+    const int property = columns_.Find(Kind::Value, 0);
+    int row = tblData.Selection().top;
+    if (row < tblData.FixedRows() || tblData.Cell(row, property).empty()) row = tblData.FixedRows();
+    int place = 0;
+    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
+        item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place++));
+}
+
+void frmData2::Save() {
+    if (!Check() || !CheckUnits()) return;
+    if (!assigned_ && !AssignAccepted()) return;
+    if (!CheckUnc()) return;
+    Store();
+    Close();
+}
+
+/// All new rows are made before they take the place of the old ones.
+void frmData2::Store() {
+    const std::vector<const clsData*> sources = OldRows();
+    ui::Collection<clsData> fresh;
+    const int property = columns_.Find(Kind::Value, 0);
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        if (tblData.Cell(row, property).empty()) continue;
+        fresh.Add(NewRow(row, sources[static_cast<std::size_t>(row)]));
+    }
+    std::swap(set_->recData, fresh);
+    set_->isOriginalUnit = original_;
+    if (adjusted_) {
+        set_->Header.DATACOMMENT = adjusted_->Header.DATACOMMENT;
+        set_->commentInSystemUnits = true;
+    }
+    KVOGlobal& globals = Globals();
+    stored_ = true;
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+/// For each row of the table the old row whose unseen parts it keeps: the one that stood here, else
+/// the one with the same variables when they have changed; null for a new row.
+std::vector<const clsData*> frmData2::OldRows() const {
+    std::vector<const clsData*> sources(static_cast<std::size_t>(tblData.Rows()));
+    std::multimap<std::string, const clsData*> left; // by their variables
+    for (const auto& row : rows_)
+        left.emplace(VariablesOf(*row), row.get());
+    const auto take = [&](int row, const std::string& variables, const clsData* wanted) {
+        auto [at, end] = left.equal_range(variables);
+        while (at != end && wanted && at->second != wanted)
+            ++at;
+        if (at == end) return;
+        sources[static_cast<std::size_t>(row)] = at->second;
+        left.erase(at);
+    };
+    const auto eachWithoutOne = [&](const auto& action) {
+        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
+            if (!sources[static_cast<std::size_t>(row)]) action(row);
+    };
+    eachWithoutOne([&](int row) {
+        if (const clsData* here = OldRowHere(row)) take(row, VariablesOf(row), here);
+    });
+    eachWithoutOne([&](int row) { take(row, VariablesOf(row), nullptr); });
+    eachWithoutOne([&](int row) {
+        if (const clsData* here = OldRowHere(row)) take(row, VariablesOf(*here), here);
+    });
+    return sources;
+}
+
+/// The row as it stood at the beginning, wherever it has been moved; null for a new one.
+const clsData* frmData2::OldRowHere(int row) const {
+    const int first = undo_.FirstPlaceOf(row) - tblData.FixedRows();
+    const bool old = first >= 0 && first < static_cast<int>(rows_.size());
+    return old ? rows_[static_cast<std::size_t>(first)].get() : nullptr;
+}
+
+std::string frmData2::VariablesOf(const clsData& row) const {
+    std::string text;
+    for (int n = 1; n <= set_->nVar; ++n)
+        text += columns_.CellOf(row, columns_.Find(Kind::Value, n)) + "\n";
+    return text;
+}
+
+std::string frmData2::VariablesOf(int row) const {
+    std::string text;
+    for (int n = 1; n <= set_->nVar; ++n)
+        text += tblData.Cell(row, columns_.Find(Kind::Value, n)) + "\n";
+    return text;
+}
+
+std::shared_ptr<clsData> frmData2::NewRow(int row, const clsData* old) const {
+    auto data = old ? std::make_shared<clsData>(*old) : std::make_shared<clsData>();
+    for (int column = 0; column < firstColumns_.Count(); ++column) {
+        const TableColumn& gone = firstColumns_[column]; // its entries went with the statement
+        if (gone.IsStatement() && gone.kind != Kind::Digits &&
+            columns_.Find(gone.kind, gone.item) < 0)
+            firstColumns_.Store(*data, column, {});
+    }
+    data->nVar = static_cast<signed char>(set_->nVar);
+    data->isDigit = Globals().IncludeDigits;
+    data->inOriginalUnits = original_;
+    for (int column = 0; column < columns_.Count(); ++column)
+        columns_.Store(*data, column, tblData.Cell(row, column));
+    return data;
+}
+
+} // namespace vexora

@@ -1,0 +1,148 @@
+#include "tables/frmData2.h"
+
+#include <algorithm>
+
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "globals/PlotTable.h"
+#include "records/PropertyChain.h"
+#include "records/clsTwo.h"
+#include "reference/Conversions.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+/// A unit that needs a look into the tables becomes its factor here, not for every row.
+void TakeFactor(clsProperty& item) {
+    if (item.Factor <= 0 && IsUnitLong(item.ConversionCode))
+        item.Factor = ConversionFactor(item.ConversionCode);
+}
+
+} // namespace
+
+void frmData2::TakeSet() {
+    set_ = Globals().CurrentTwo;
+    if (!set_) return;
+    statementsBefore_ = set_->UX;
+    molarMass_ = set_->MolarMass();
+    TakeRows();
+    AnalyseCurrentProperty();
+    NameStatements(*set_, original_);
+    ShowUnits();
+    FillHeader();
+    FillRows();
+}
+
+/// Rows in the units of the paper and rows in system units cannot stand in one table.
+void frmData2::TakeRows() {
+    rows_.assign(set_->recData.begin(), set_->recData.end());
+    const auto isOriginal = [](const auto& row) { return row->inOriginalUnits; };
+    const bool all = std::all_of(rows_.begin(), rows_.end(), isOriginal);
+    const bool none = !rows_.empty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
+    original_ = set_->isOriginalUnit && all;
+    if (set_->isOriginalUnit && none) told_ = {{0, "The rows of this set stand in system units"}};
+    if (original_ || rows_.empty() || none) return;
+    adjusted_ = std::make_shared<clsTwo>(*set_);
+    adjusted_->recData.Clear();
+    for (const auto& row : rows_)
+        adjusted_->recData.Add(std::make_shared<clsData>(*row));
+    adjusted_->isOriginalUnit = true;
+    adjusted_->AdjustUnits();
+    rows_.assign(adjusted_->recData.begin(), adjusted_->recData.end());
+    set_->UX = adjusted_->UX;
+    told_ = {{0, "Rows in the units of the paper were brought to system units"}};
+}
+
+/// The chain that checks and evaluates a row: the property, then its variables.
+void frmData2::AnalyseCurrentProperty() {
+    if (adjusted_) adjusted_->UX = set_->UX;
+    chain_ = BuildChain(adjusted_ ? *adjusted_ : *set_, original_);
+    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
+        TakeFactor(*item);
+    Globals().CurrentProperty = chain_;
+}
+
+std::string frmData2::CaptionText() const {
+    const clsX& property = set_->UX[0];
+    std::string text = property.Name + " (" + property.Unit + ") as function of ";
+    for (int n = 1; n <= set_->nVar; ++n)
+        text += (n > 1 ? ", " : "") + set_->UX[static_cast<std::size_t>(n)].Name;
+    return text;
+}
+
+void frmData2::NamePlot(PlotTable& table) const {
+    const auto named = [](const clsX& item) {
+        return item.Name + (item.Unit.empty() ? "" : " (" + item.Unit + ")");
+    };
+    table.YName = named(set_->UX[0]);
+    table.VarNames[0] = "Point number";
+    for (int n = 1; n <= set_->nVar; ++n)
+        table.VarNames[static_cast<std::size_t>(n - 1)] =
+            named(set_->UX[static_cast<std::size_t>(n)]);
+}
+
+std::string frmData2::ColumnsText() const {
+    std::string text;
+    for (int n = 1; n <= set_->nVar; ++n) {
+        const clsX& variable = set_->UX[static_cast<std::size_t>(n)];
+        text += "Var" + std::to_string(n) + ": " + variable.Name + ", " + variable.Unit + "    ";
+    }
+    return text + "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
+}
+
+/// Lays the columns out anew; cells keep their texts, and the empty columns of a printed table that
+/// stood beside the others stay beside them.
+void frmData2::FillHeader() {
+    const TableColumns before = columns_;
+    const ui::Grid::Block selected = tblData.Selection();
+    columns_ = TableColumns(*set_, Globals().IncludeDigits);
+    if (before.All() == columns_.All()) return;
+    const ui::Grid::Batch batch(tblData);
+    std::vector<int> places = before.PlacesIn(columns_);
+    const int beside = before.Count() > 0 ? std::max(tblData.Columns() - before.Count(), 0) : 0;
+    for (int i = 0; i < beside; ++i)
+        places.push_back(columns_.Count() + i);
+    const int wide = columns_.Count() + beside;
+    std::vector<std::vector<std::string>> cells;
+    for (int row = 1; row < tblData.Rows(); ++row) {
+        std::vector<std::string> moved(static_cast<std::size_t>(wide));
+        for (std::size_t from = 0; from < places.size(); ++from) {
+            if (places[from] >= 0)
+                moved[static_cast<std::size_t>(places[from])] =
+                    tblData.Cell(row, static_cast<int>(from));
+        }
+        cells.push_back(std::move(moved));
+    }
+    tblData.Resize(tblData.Rows(), wide);
+    for (int column = 0; column < wide; ++column) {
+        tblData.Cell(0, column, column < columns_.Count() ? columns_[column].head : "");
+        for (std::size_t row = 0; row < cells.size(); ++row)
+            tblData.Cell(static_cast<int>(row) + 1, column,
+                         cells[row][static_cast<std::size_t>(column)]);
+    }
+    const bool stays = selected.left < static_cast<int>(places.size()) &&
+                       selected.top < tblData.Rows() && selected.top >= tblData.FixedRows();
+    const int column = stays ? places[static_cast<std::size_t>(selected.left)] : -1;
+    MoveTo(stays ? selected.top : tblData.FixedRows(), std::max(column, 0));
+}
+
+void frmData2::FillRows() {
+    {
+        const ui::Grid::Batch batch(tblData);
+        tblData.Resize(static_cast<int>(rows_.size()) + 2, columns_.Count());
+        for (std::size_t i = 0; i < rows_.size(); ++i) {
+            for (int column = 0; column < columns_.Count(); ++column)
+                tblData.Cell(static_cast<int>(i) + 1, column, columns_.CellOf(*rows_[i], column));
+        }
+    }
+    undo_.Clear();
+    firstText_ = TableText();
+    firstStatements_ = set_->UX;
+    firstColumns_ = columns_;
+    FindAgain(1, tblData.Rows() - 1);
+    ShowNotice(told_);
+}
+
+} // namespace vexora

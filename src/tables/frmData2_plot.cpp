@@ -1,0 +1,85 @@
+#include "tables/frmData2.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "chem/clsProperty.h"
+#include "globals/KVOGlobal.h"
+#include "globals/PlotTable.h"
+#include "records/clsTwo.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+using Kind = TableColumn::Kind;
+
+/// The table as it stands, in the units of its cells.
+void frmData2::View() {
+    if (!Check()) return;
+    KVOGlobal& globals = Globals();
+    globals.Plot = std::make_shared<PlotTable>(PointsOfTable());
+    const std::size_t count = globals.Plot->PointTable.size();
+    if (count > PlotTable::MostPoints) {
+        ui::Say("The table holds " + std::to_string(count) + " points; the plot shows the first " +
+                std::to_string(PlotTable::MostPoints));
+        globals.Plot->Cut();
+    }
+    ui::Forms::Current().Get("frmGraph").ShowModal();
+    const int row = std::exchange(globals.Plot, nullptr)->ChosenRow;
+    if (row == 0) return;
+    MoveTo(row, columns_.Find(Kind::Value, 0));
+    tblData.SetFocus();
+}
+
+/// A table without variables is plotted against the number of the row.
+PlotTable frmData2::PointsOfTable() const {
+    PlotTable table;
+    if (set_->nVar > 0) table.nVar = set_->nVar;
+    NamePlot(table);
+    const int property = columns_.Find(Kind::Value, 0);
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
+        if (!IsNumeric(tblData.Cell(row, property))) continue;
+        PlotTable::Row point{};
+        point[0] = Val(tblData.Cell(row, property));
+        point[1] = row - tblData.FixedRows() + 1;
+        for (int n = 1; n <= set_->nVar; ++n)
+            point[static_cast<std::size_t>(n)] =
+                Val(tblData.Cell(row, columns_.Find(Kind::Value, n)));
+        table.Add(point, UncertaintyOf(row), row,
+                  std::binary_search(lookAgain_.begin(), lookAgain_.end(), row));
+    }
+    return table;
+}
+
+/// What the statements of the row come to, or its combined uncertainty where that is larger, else
+/// the figure typed for it; 0 for none. The head of the chain is evaluated alone and without
+/// conversion, so that no limits are asked about.
+double frmData2::UncertaintyOf(int row) const {
+    clsProperty item = *chain_;
+    item.NextItem = nullptr;
+    item.isLast = true;
+    item.Relation = "as typed";
+    item.Text = tblData.Cell(row, columns_.Find(Kind::Value, 0));
+    TakeStatements(item, 0, row);
+    bool ok = true;
+    item.Convert(ok, molarMass_);
+    const double uncertainty = std::max(item.PRECISION, CombinedOf(row, item.Value));
+    return uncertainty > 0 ? uncertainty : Val(tblData.Cell(row, columns_.Find(Kind::KVO)));
+}
+
+/// The combined uncertainty of a row, else that of the set; 0 for none.
+double frmData2::CombinedOf(int row, double value) const {
+    const int column = columns_.Find(Kind::CU);
+    if (column < 0) return 0;
+    std::string stated = tblData.Cell(row, column);
+    if (stated.empty())
+        stated = set_->UX[0].CValue;
+    else if (columns_[column].percent && !stated.ends_with('%'))
+        stated += "%";
+    return std::abs(StatedFigure(stated, value));
+}
+
+} // namespace vexora

@@ -1,0 +1,90 @@
+#include "tables/frmData2.h"
+
+#include <algorithm>
+
+#include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
+#include "records/clsTwo.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+bool AnyUnitChanges(const clsTwo& set) {
+    bool any = set.PropertyConversion().ChangesValues();
+    for (int n = 1; n <= set.nVar; ++n)
+        any = any || set.VariableConversion(n).ChangesValues();
+    return any;
+}
+
+} // namespace
+
+/// Brings the table from the units of the paper to system units, in one step that can be undone.
+void frmData2::AdjustUnits() {
+    if (!Check() || !CheckUnits()) return;
+    std::vector<int> rows;
+    for (int row = tblData.FixedRows(); row <= LastRow(); ++row)
+        if (!IsEmptyRow(tblData, columns_, row)) rows.push_back(row);
+    const std::shared_ptr<clsTwo> adjusted = Adjusted(rows);
+    if (!adjusted) return;
+    std::vector<std::shared_ptr<clsData>> all(adjusted->recData.begin(), adjusted->recData.end());
+    const auto firstOld = all.begin() + static_cast<std::ptrdiff_t>(rows.size());
+    const std::vector<std::shared_ptr<clsData>> old(firstOld, all.end());
+    all.erase(firstOld, all.end());
+    const bool needsDigits =
+        std::any_of(all.begin(), all.end(), [](auto& row) { return row->isDigit; });
+    if (needsDigits && !Globals().IncludeDigits) { // counts that the texts would not tell
+        undo_.Do([](TableEdit&) {},
+                 [this](bool done) {
+                     Globals().IncludeDigits = done;
+                     FillHeader();
+                 });
+    }
+    const auto before = [this, statements = set_->UX, typed = rows_] {
+        TakeUnits(nullptr, statements, typed);
+    };
+    const auto after = [this, adjusted, old] { TakeUnits(adjusted, adjusted->UX, old); };
+    undo_.Do(
+        [&](TableEdit& edit) {
+            for (std::size_t i = 0; i < rows.size(); ++i)
+                for (int column = 0; column < columns_.Count(); ++column)
+                    edit.Cell(rows[i], column, columns_.CellOf(*all[i], column));
+        },
+        [before, after](bool done) { done ? after() : before(); });
+}
+
+/// The set in system units: first these rows of the table, then the rows as they stood; null when
+/// they cannot be converted.
+std::shared_ptr<clsTwo> frmData2::Adjusted(const std::vector<int>& rows) const {
+    auto adjusted = std::make_shared<clsTwo>(*set_);
+    adjusted->recData.Clear();
+    for (const int row : rows)
+        adjusted->recData.Add(NewRow(row, nullptr));
+    for (const auto& row : rows_)
+        adjusted->recData.Add(std::make_shared<clsData>(*row));
+    adjusted->isOriginalUnit = true;
+    return adjusted->AdjustUnits() ? adjusted : nullptr;
+}
+
+/// Takes the set in system units, or with null goes back to the units of the paper.
+void frmData2::TakeUnits(const std::shared_ptr<clsTwo>& adjusted,
+                         const std::array<clsX, 5>& statements,
+                         const std::vector<std::shared_ptr<clsData>>& rows) {
+    adjusted_ = adjusted;
+    original_ = adjusted == nullptr;
+    rows_ = rows;
+    set_->UX = statements;
+    AnalyseCurrentProperty();
+    NameStatements(*set_, original_);
+    ShowUnits();
+    FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+}
+
+void frmData2::ShowUnits() {
+    Caption(CaptionText());
+    lblColumns.Caption(ColumnsText());
+    mnuSystemUnits.Enabled(original_ && AnyUnitChanges(*set_));
+}
+
+} // namespace vexora

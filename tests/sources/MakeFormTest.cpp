@@ -1,0 +1,242 @@
+#include "sources/frmMakeJournal.h"
+#include "sources/frmMakeThesis.h"
+#include "support/SourceFixture.h"
+
+namespace vexora::test {
+
+namespace {
+
+using Entries = std::vector<std::pair<std::string, std::string>>;
+
+struct Case {
+    std::string type;
+    std::string form;
+    Entries entries;
+    std::string text;
+};
+
+const std::vector<Case> kCases{
+    {"Journal article",
+     "frmMakeJournal",
+     {{"cboJournal", "J. Phys. Chem. Ref. Data"}, {"txtVolume", "31"}, {"txtPages", "387-535"}},
+     "@J. Phys. Chem. Ref. Data@ $31$, 387-535"},
+    {"Journal article",
+     "frmMakeJournal",
+     {{"cboJournal", "New J."}, {"txtVolume", "31"}, {"txtIssue", "2"}, {"txtPages", "7"}},
+     "@New J.@ $31$(2), 7"},
+    {"Journal article",
+     "frmMakeJournal",
+     {{"cboJournal", "New J."}, {"txtIssue", "2"}, {"txtPages", "7"}},
+     "@New J.@ No. 2, 7"},
+    {"Journal article",
+     "frmMakeJournal",
+     {{"cboJournal", "New J."}, {"txtPages", "7, 9"}},
+     "@New J.@, 7, 9"},
+    {"Submitted manuscript",
+     "frmMakeJournal",
+     {{"cboJournal", "New J."}, {"txtPages", "je000490a"}},
+     "@New J.@, je000490a"},
+    {"Book or portion of a book",
+     "frmMakeBook",
+     {{"txtTitle", "Water, a Matrix"},
+      {"txtEdition", "2nd"},
+      {"txtVolume", "1"},
+      {"txtChapter", "3"},
+      {"txtPages", "11-40"},
+      {"txtEditor", "Franks, F."},
+      {"cboPublisher", "Plenum, New York"}},
+     "@Water, a Matrix@, 2nd ed., Vol. 1, Ch. 3, Pg. 11-40, Franks, F., Ed., Plenum, New York"},
+    {"Book or portion of a book",
+     "frmMakeBook",
+     {{"txtTitle", "Ice"}, {"cboPublisher", "Academic Press"}},
+     "@Ice@, Academic Press"},
+    {"Report",
+     "frmMakeReport",
+     {{"txtName", "Release"}, {"txtNo", "R6-95"}, {"txtInst", "Board"}, {"txtLoc", "Bonn, DE"}},
+     "@Release@ R6-95@ Board, Bonn, DE"},
+    {"Patent",
+     "frmMakePatent",
+     {{"txtCountry", "US"}, {"txtNo", "4,123"}, {"txtOwner", "Works"}, {"txtDate", "2001"}},
+     "US Patent 4,123, Works, 2001"},
+    {"Patent",
+     "frmMakePatent",
+     {{"txtCountry", "US"}, {"txtNo", "4123"}, {"txtDate", "2001"}},
+     "US Patent 4123, 2001"},
+    {"Thesis/Dissertation",
+     "frmMakeThesis",
+     {{"txtDegree", "Ph.D."}, {"txtInst", "Univ. of Idaho"}, {"txtLoc", "Moscow, ID"}},
+     "Ph.D. Thesis, Univ. of Idaho, Moscow, ID"},
+    {"Conference proceedings",
+     "frmMakeConf",
+     {{"txtName", "Steam"}, {"txtLoc", "Prague"}, {"txtDate", "1995"}, {"txtPages", "5"}},
+     "@Steam@, Prague, 1995, pp 5"},
+    {"Conference proceedings",
+     "frmMakeConf",
+     {{"txtName", "Steam"}, {"txtDate", "June 1995"}},
+     "@Steam@, June 1995"},
+    {"Deposited document",
+     "frmMakeDeposited",
+     {{"txtNo", "1234-80"}, {"txtInst", "Archive of Data"}, {"txtPages", "12"}},
+     "@Deposited Document@ 1234-80 Archive of Data, pp12"},
+};
+
+class MakeFormTest : public SourceFixture {
+protected:
+    void ExpectShown(ui::Form& opened, const Entries& entries) {
+        for (const auto& [field, text] : entries)
+            EXPECT_EQ(opened.Find(field)->Display(), text) << opened.Name() << "." << field;
+    }
+};
+
+TEST_F(MakeFormTest, EachFormBuildsItsTextAndTakesItApartAgain) {
+    frmDocument& document = OpenNew();
+    for (const Case& sample : kCases) {
+        document.cboTypeDoc.UserChoose(0);
+        Choose(document.cboTypeDoc, sample.type);
+        desktop.ExpectModal(sample.form, [&](ui::Form& opened) {
+            for (const auto& [field, text] : sample.entries)
+                Set(opened, field, text);
+            Click(opened, "cmdAccept");
+        });
+        document.txtSource.UserClick();
+        EXPECT_EQ(document.txtSource.Text(), sample.text);
+        desktop.ExpectModal(sample.form, [&](ui::Form& opened) {
+            ExpectShown(opened, sample.entries);
+            Click(opened, "cmdAccept");
+        });
+        document.txtSource.UserClick();
+        EXPECT_EQ(document.txtSource.Text(), sample.text) << "opened again and accepted";
+        forms.DropClosed();
+    }
+}
+
+TEST_F(MakeFormTest, MissingPartsAreToldInOrder) {
+    struct Missing {
+        std::string type, form;
+        Entries messages; // the field that gets the focus, the message
+    };
+    const std::vector<Missing> samples{
+        {"Book or portion of a book",
+         "frmMakeBook",
+         {{"txtTitle", "Enter book title"}, {"cboPublisher", "Select or type the publisher"}}},
+        {"Journal article",
+         "frmMakeJournal",
+         {{"cboJournal", "Enter journal title"}, {"txtPages", "Enter page(s)"}}},
+        {"Submitted manuscript",
+         "frmMakeJournal",
+         {{"cboJournal", "Enter journal title"}, {"txtPages", "Enter manucsript ID"}}},
+        {"Report",
+         "frmMakeReport",
+         {{"txtName", "Enter report name"},
+          {"txtNo", "Enter report No"},
+          {"txtInst", "Enter institution name"}}},
+        {"Patent",
+         "frmMakePatent",
+         {{"txtCountry", "Enter country"}, {"txtNo", "Enter patent No"}}},
+        {"Thesis/Dissertation",
+         "frmMakeThesis",
+         {{"txtDegree", "Enter degree"}, {"txtInst", "Enter institution name"}}},
+        {"Conference proceedings", "frmMakeConf", {{"txtName", "Enter conference name"}}},
+        {"Deposited document",
+         "frmMakeDeposited",
+         {{"txtNo", "Enter document No"}, {"txtInst", "Enter institution name"}}},
+    };
+    frmDocument& document = OpenNew();
+    for (const Missing& sample : samples) {
+        Choose(document.cboTypeDoc, sample.type);
+        desktop.ExpectModal(sample.form, [&](ui::Form& opened) {
+            for (const auto& [field, message] : sample.messages) {
+                desktop.Expect(message);
+                Click(opened, "cmdAccept");
+                EXPECT_EQ(opened.ActiveControl(), opened.Find(field)) << message;
+                Set(opened, field, "x");
+            }
+            Click(opened, "cmdCancel");
+        });
+        document.txtSource.UserClick();
+        EXPECT_EQ(document.txtSource.Text(), "CLICK HERE TO ENTER SOURCE DETAILS");
+        forms.DropClosed();
+    }
+}
+
+TEST_F(MakeFormTest, MarksOfTheSourceTextAreKeptOut) {
+    frmDocument& document = OpenNew();
+    Choose(document.cboTypeDoc, "Journal article");
+    desktop.ExpectModal("frmMakeJournal", [](ui::Form& opened) {
+        Set(opened, "cboJournal", "New @ J.");
+        Set(opened, "txtVolume", "$3@1");
+        EXPECT_EQ(opened.Find("txtVolume")->Display(), "31");
+        Set(opened, "txtPages", "1");
+        Click(opened, "cmdAccept");
+    });
+    document.txtSource.UserClick();
+    EXPECT_EQ(document.txtSource.Text(), "@New  J.@ $31$, 1");
+}
+
+TEST_F(MakeFormTest, ADissertationIsToldFromAThesis) {
+    frmDocument& document = OpenNew();
+    Choose(document.cboTypeDoc, "Thesis/Dissertation");
+    for (int time = 0; time < 2; ++time) {
+        desktop.ExpectModal("frmMakeThesis", [time](ui::Form& opened) {
+            auto& thesis = dynamic_cast<frmMakeThesis&>(opened);
+            EXPECT_EQ(thesis.optD.Value(), time == 1);
+            Set(thesis.txtDegree, "Ph.D.");
+            Set(thesis.txtInst, "MIT");
+            thesis.optD.UserClick();
+            thesis.cmdAccept.UserClick();
+        });
+        document.txtSource.UserClick();
+        EXPECT_EQ(document.txtSource.Text(), "Ph.D. Dissertation, MIT");
+        forms.DropClosed();
+    }
+}
+
+TEST_F(MakeFormTest, AKnownContributorGetsHisJournalForAManuscript) {
+    globals.ContributorCode = "JCE";
+    frmDocument& document = OpenComplete();
+    Choose(document.cboTypeDoc, "Submitted manuscript");
+    desktop.ExpectModal("frmMakeJournal", [](ui::Form& opened) {
+        auto& journal = dynamic_cast<frmMakeJournal&>(opened);
+        EXPECT_EQ(journal.cboJournal.Text(), "J.Chem.Eng.Data");
+        EXPECT_EQ(journal.lblPages.Caption(), "Manuscript ID: (e.g., je000490a)");
+        Set(journal.txtPages, "je000490a");
+        journal.cmdAccept.UserClick();
+    });
+    document.txtSource.UserClick();
+    document.cmdAccept.UserClick();
+    EXPECT_EQ(globals.recR.Item(1)->SSOURCE, "@J.Chem.Eng.Data@, je000490a");
+    EXPECT_EQ(globals.recR.Item(1)->TYPDOC, "S");
+    EXPECT_EQ(globals.recR.Item(1)->ManuscriptID, "je000490a");
+}
+
+TEST_F(MakeFormTest, TypingInTheListOfJournalsCompletesIt) {
+    frmDocument& document = OpenNew();
+    Choose(document.cboTypeDoc, "Journal article");
+    desktop.ExpectModal("frmMakeJournal", [](ui::Form& opened) {
+        auto& journal = dynamic_cast<frmMakeJournal&>(opened).cboJournal;
+        EXPECT_EQ(journal.Text(), "SELECT OR TYPE JOURNAL TITLE HERE");
+        EXPECT_EQ(journal.SelectedFrom(), 0U) << "typing replaces the prompt";
+        Type(journal, "j. phys. chem. r");
+        EXPECT_EQ(journal.Text(), "J. Phys. Chem. Ref. Data");
+        EXPECT_EQ(journal.SelectedFrom(), 16U);
+        opened.UserKey(ui::ParseKey("Backspace"));
+        EXPECT_EQ(journal.Text(), "J. Phys. Chem. R") << "the completion goes, and stays away";
+        Type(journal, "x");
+        EXPECT_EQ(journal.Text(), "J. Phys. Chem. Rx");
+        Set(opened, "cboJournal", "J. Ph");
+        EXPECT_EQ(journal.Text(), "J. Ph") << "what is pasted stays as it is";
+        Set(opened, "cboJournal", "");
+        EXPECT_EQ(journal.Text(), "SELECT OR TYPE JOURNAL TITLE HERE");
+        journal.SetFocus();
+        journal.UserEdited("SELECT OR TYPE XJOURNAL TITLE HERE");
+        EXPECT_EQ(journal.Text(), "X") << "typed with the caret inside the prompt";
+        Type(journal, "y");
+        EXPECT_EQ(journal.Text(), "Xy");
+        opened.UserKey(ui::ParseKey("Escape"));
+    });
+    document.txtSource.UserClick();
+}
+
+} // namespace
+
+} // namespace vexora::test

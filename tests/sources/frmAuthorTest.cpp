@@ -1,0 +1,135 @@
+#include "support/SourceFixture.h"
+
+namespace vexora::test {
+
+namespace {
+
+class frmAuthorTest : public SourceFixture {
+protected:
+    /// The opened of authors, opened without a description behind it.
+    frmAuthor& Open() {
+        auto& authors = forms.Get<frmAuthor>("frmAuthor");
+        authors.Show();
+        return authors;
+    }
+    void Add(frmAuthor& authors, const std::string& last, const std::string& first) {
+        Set(authors.txtLast, last);
+        Set(authors.txtFirst, first);
+        authors.cmdAdd.UserClick();
+    }
+    std::string Rows(const std::string& lastName) const {
+        std::string text;
+        auto rows = Globals().CompoundDb().Query(
+            "select * from SOURCE_AUTHOR where LASTNM=? order by rowid", {lastName});
+        for (; !rows.IsEnd(); rows.MoveNext())
+            text += rows.Text("INITNM") + "/" + rows.Text("FULLNM") + "/" + rows.Text("NEW") + "\n";
+        return text;
+    }
+};
+
+TEST_F(frmAuthorTest, AKnownAuthorIsTakenFromTheTable) {
+    frmDocument& document = OpenNew();
+    desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
+        auto& authors = dynamic_cast<frmAuthor&>(opened);
+        Set(authors.txtLast, "wagn");
+        authors.cmdVerify.UserClick();
+        EXPECT_EQ(authors.cboAuthor.Item(0), "CLICK selection, then CLICK \"Add\"");
+        EXPECT_EQ(authors.cboAuthor.Item(authors.cboAuthor.Count() - 1), "None of listed");
+        Choose(authors.cboAuthor, "Wagner, W.");
+        authors.cmdAdd.UserClick();
+        EXPECT_EQ(authors.cmdFinish.Caption(), "Done");
+        EXPECT_EQ(authors.txtLast.Text() + authors.txtFirst.Text(), "");
+        EXPECT_TRUE(authors.txtLast.HasFocus());
+        authors.cmdFinish.UserClick();
+    });
+    document.txtAuthors.UserClick();
+    EXPECT_EQ(document.txtAuthors.Text(), "Wagner, W.");
+    EXPECT_EQ(Rows("wagner"), "w  /Wagner, W./0\n");
+}
+
+TEST_F(frmAuthorTest, AnAuthorRegisteredHereStaysNewToEveryOtherWorkplace) {
+    frmDocument& document = OpenComplete();
+    desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
+        auto& authors = dynamic_cast<frmAuthor&>(opened);
+        for (const char* name : {"Zymurgist,Q.", "Wagner, W."}) {
+            Set(authors.txtLast, std::string(name).substr(0, 4));
+            authors.cmdVerify.UserClick();
+            Choose(authors.cboAuthor, name);
+            authors.cmdAdd.UserClick();
+        }
+        authors.cmdFinish.UserClick();
+    });
+    document.txtAuthors.UserClick();
+    document.cmdAccept.UserClick();
+    const auto& stored = globals.recR.Item(1)->recAuthor;
+    ASSERT_EQ(stored.Count(), 2U);
+    EXPECT_TRUE(stored.Item(1)->isNew);
+    EXPECT_FALSE(stored.Item(2)->isNew);
+}
+
+TEST_F(frmAuthorTest, ASearchWithoutResultKeepsWhatWasTyped) {
+    frmAuthor& authors = Open();
+    desktop.Expect("Enter author's last name");
+    authors.cmdAdd.UserClick();
+    EXPECT_TRUE(authors.txtLast.HasFocus());
+    Set(authors.txtLast, "Zymurgist;");
+    Set(authors.txtFirst, "Q.,");
+    desktop.Expect("Author not found\n\n"
+                   "Please complete the Last Name and First Name, then CLICK \"Add\"");
+    authors.cmdVerify.UserClick();
+    EXPECT_EQ(authors.txtLast.Text() + "/" + authors.txtFirst.Text(), "Zymurgist/Q.");
+}
+
+TEST_F(frmAuthorTest, AChangedNameDropsThePickedOne) {
+    frmAuthor& authors = Open();
+    Set(authors.txtLast, "Wagner");
+    authors.cmdVerify.UserClick();
+    Choose(authors.cboAuthor, "Wagner, W.");
+    Set(authors.txtLast, "Wagnerova");
+    authors.cmdAdd.UserClick();
+    EXPECT_EQ(Rows("wagner"), "w  /Wagner, W./0\nzz /Wagnerova,/1\n");
+}
+
+TEST_F(frmAuthorTest, NamesakesGetMarksFromOneToNineThenLetters) {
+    frmAuthor& authors = Open();
+    for (int i = 0; i < 11; ++i)
+        Add(authors, "Zymurgist", "Quentin R.");
+    Add(authors, "Zymurgist", "Quentin");
+    std::string marks;
+    auto rows =
+        globals.CompoundDb().Query("select * from SOURCE_AUTHOR where NEW<>0 order by rowid");
+    for (; !rows.IsEnd(); rows.MoveNext())
+        marks += rows.Text("LASTNM") + rows.Text("INITNM") + ",";
+    EXPECT_EQ(marks, "zymurgqr ,zymurgqr1,zymurgqr2,zymurgqr3,zymurgqr4,zymurgqr5,zymurgqr6,"
+                     "zymurgqr7,zymurgqr8,zymurgqr9,zymurgqrA,zymurgq  ,");
+}
+
+TEST_F(frmAuthorTest, TheMarkStopsAtZ) {
+    globals.CompoundDb().Insert("SOURCE_AUTHOR",
+                                {{"LASTNM", "zymurg"}, {"INITNM", "q Z"}, {"FULLNM", "x"}});
+    Add(Open(), "Zymurgist", "Q.");
+    EXPECT_EQ(Rows("zymurg"), "q Z/x/0\nq Z/Zymurgist,Q./1\n");
+}
+
+TEST_F(frmAuthorTest, ADatabaseThatCannotBeWrittenLosesNoAuthor) {
+    frmDocument& document = OpenNew();
+    globals.CompoundDb().Execute("create trigger Refuse before insert on SOURCE_AUTHOR "
+                                 "begin select raise(abort, 'no room'); end");
+    desktop.ExpectModal("frmAuthor", [this](ui::Form& opened) {
+        auto& authors = dynamic_cast<frmAuthor&>(opened);
+        Set(authors.txtLast, "Zymurgist");
+        try {
+            globals.CompoundDb().Insert("SOURCE_AUTHOR", {{"LASTNM", "x"}});
+        } catch (const DatabaseError& error) {
+            desktop.Expect(error.what());
+        }
+        authors.cmdAdd.UserClick();
+        authors.cmdFinish.UserClick();
+    });
+    document.txtAuthors.UserClick();
+    EXPECT_EQ(document.txtAuthors.Text(), "Zymurgist,");
+}
+
+} // namespace
+
+} // namespace vexora::test
