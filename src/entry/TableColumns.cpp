@@ -110,17 +110,17 @@ void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
     const auto item = static_cast<std::size_t>(column.item);
     if (column.kind == Kind::Value && !cell.empty() && CellOf(row, at) == cell) {
         if (Find(Kind::Digits, column.item) < 0)
-            row.Digits[item] = static_cast<short>(row.DigitCount(column.item));
+            row.Digits[item] = static_cast<std::uint8_t>(row.DigitCount(column.item));
         return; // what was typed stays behind what its digits let show
     }
     if (column.kind == Kind::Value) {
         row.Values[item] = cell;
         if (Find(Kind::Digits, column.item) < 0)
-            row.Digits[item] = static_cast<short>(SignificantDigits(cell));
+            row.Digits[item] = static_cast<std::uint8_t>(SignificantDigits(cell));
     } else if (column.kind == Kind::Digits) {
         const int typed = static_cast<int>(std::clamp(Val(cell), 0.0, 99.0));
         row.Digits[item] =
-            static_cast<short>(typed > 0 ? typed : SignificantDigits(row.Values[item]));
+            static_cast<std::uint8_t>(typed > 0 ? typed : SignificantDigits(row.Values[item]));
     } else if (column.kind == Kind::KVO) {
         if (IsNumeric(cell) || cell.empty()) row.PRPUNCERTY = cell;
     } else if (!cell.empty() || row.Extras) {

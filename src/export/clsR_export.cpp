@@ -4,11 +4,11 @@
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/OpenRecord.h"
+#include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
-#include "records/clsTwo.h"
-#include "records/clsZ.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
@@ -110,18 +110,12 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     for (const auto& compound : recL)
         compound->ExportAll(xml);
     Globals().DataContext = "Pure";
-    for (const auto& compound : recL) {
-        for (const auto& sample : compound->recS) {
-            for (const auto& value : sample->recZ) {
-                Globals().LineInHand = value->Line;
-                value->ExportZ(xml);
-            }
-            for (const auto& set : sample->recTwo) {
-                Globals().LineInHand = set->Line;
-                set->ExportAll(xml);
-            }
-        }
-    }
+    Walk(*this, [&xml](const Record& record) {
+        const auto* const data = dynamic_cast<const OpenRecord*>(&record);
+        if (!data) return;
+        Globals().LineInHand = data->Line; // the place that is named with what is said of the data
+        data->ExportAll(xml);
+    });
     Globals().LineInHand = 0;
 }
 

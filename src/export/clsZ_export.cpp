@@ -1,8 +1,9 @@
 #include "records/clsZ.h"
 
-#include "export/PureData.h"
+#include "export/DataHead.h"
 #include "export/Statements.h"
 #include "export/XmlWriter.h"
+#include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -22,9 +23,9 @@ bool IsUnderOneAtmosphere(const clsZ& value) {
 
 void ExportProperty(XmlWriter& xml, const clsZ& value, const std::string& group) {
     xml.Open("Property");
-    ExportPropertyHead(xml, value.PRPCODE, group, value.PHASE1, value.Header);
+    ExportPropertyHead(xml, NameOf(value), group, value.PHASE1, value.Header);
     xml.Element("ePresentation", "Direct value, X");
-    value.UX[0].ExportX(xml, "Prop");
+    value.Statements(0).ExportX(xml, "Prop");
     xml.Close();
 }
 
@@ -53,14 +54,16 @@ void ExportValues(XmlWriter& xml, const clsZ& value) {
     xml.Open("NumValues");
     if (value.nVar == 1) {
         xml.Open("VariableValue");
-        whole = ExportQuantity(xml, "Var", value.INDVARIABLE, value.UX[1], VariableUnitOf(value));
+        whole = ExportQuantity(xml, "Var", value.INDVARIABLE, value.Statements(1),
+                               VariableUnitOf(value));
         xml.Close();
     }
     xml.Open("PropertyValue");
-    whole &= ExportQuantity(xml, "Prop", value.PRPVALUE, value.UX[0], PropertyUnitOf(value));
+    whole &=
+        ExportQuantity(xml, "Prop", value.PRPVALUE, value.Statements(0), PropertyUnitOf(value));
     xml.Close();
     xml.Close();
-    if (!whole) TellDataError(*value.Parent, value.PRPCODE, "Missing repeatability in ");
+    if (!whole) TellDataError(NameOf(value), "Missing repeatability in ");
 }
 
 // Why the value cannot leave, in words for the user; empty when it can.
@@ -81,15 +84,16 @@ std::string FaultOf(const clsZ& value, const std::string& group) {
 
 void clsZ::ExportZ(XmlWriter& xml) const {
     if (Parent == nullptr || Parent->Parent == nullptr) return;
-    const std::string group = XMLPropertyGroup(PRPCODE, "Pure");
+    const std::string group = XMLPropertyGroup(PRPCODE, DataContext());
     const std::string fault = FaultOf(*this, group);
-    if (!fault.empty()) return TellDataError(*Parent, PRPCODE, fault);
+    if (!fault.empty()) return TellDataError(NameOf(*this), fault);
     xml.Open("PureOrMixtureData");
-    ExportOrigin(xml, *Parent, Header);
+    ExportComponent(xml, *Parent->Parent, SMPNM);
+    ExportOrigin(xml, Header);
     ExportProperty(xml, *this, group);
     ExportPhases(xml, PRPCODE, Header, {PHASE1, PHASE2, PHASE3});
     if (IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml);
-    if (nVar == 1) ExportVariable(xml, 1, Variable(), PHASE1, UX[1]);
+    if (nVar == 1) ExportVariable(xml, 1, Variable(), PHASE1, Statements(1));
     ExportValues(xml, *this);
     xml.Close();
 }

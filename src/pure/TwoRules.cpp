@@ -10,9 +10,6 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view noNumbers = "N";
-constexpr std::string_view numberLetters = "YSCN";
-
 bool IsOneOf(std::string_view code, std::initializer_list<std::string_view> codes) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
@@ -47,13 +44,6 @@ bool HasLimits(const TwoDraft& draft) {
     return false;
 }
 
-ResultDefinition ParseDefinition(std::string_view code) {
-    if (IsOneOf(code, {"DIR", "DT", "DX", "MN"})) return {std::string(code), {}};
-    if (code.empty() || !IsOneOf(code.substr(0, 1), {"D", "R", "K"}))
-        return {std::string(code), {}};
-    return {std::string(code.substr(0, 1)), std::string(code.substr(1))};
-}
-
 std::vector<CodeText> ResultFunctions() {
     std::vector<CodeText> functions = {PureReferenceStates()[0]};
     for (const CodeText& entry : ReferenceRelations())
@@ -70,55 +60,6 @@ std::vector<CodeText> ResultRelations() {
         if (!IsOneOf(entry.code, {"DIR", "DT", "DX", "MN"})) relations.push_back(entry);
     }
     return relations;
-}
-
-bool NeedsRelation(std::string_view function) {
-    return IsOneOf(function, {"D", "R", "K"});
-}
-
-bool NamesReferencePhase(std::string_view relation) {
-    return !relation.empty() && relation != "RX";
-}
-
-bool FixesTemperature(std::string_view relation) {
-    return IsOneOf(relation, {"FR", "PF"});
-}
-
-bool FixesPressure(std::string_view relation) {
-    return IsOneOf(relation, {"FR", "TF", "FX"});
-}
-
-Presentation ParsePresentation(std::string_view dataType) {
-    Presentation result;
-    if (dataType == "&") return result;
-    if (!dataType.empty() && numberLetters.find(dataType.front()) != std::string_view::npos) {
-        result.numerical = dataType.substr(0, 1);
-        dataType.remove_prefix(1);
-    }
-    for (const char letter : dataType) {
-        if (letter == 'C')
-            result.calculated = true;
-        else if (letter == 'E')
-            result.equation = true;
-        else if (letter == 'G')
-            result.graph = true;
-        else
-            result.others += letter;
-    }
-    return result;
-}
-
-std::string PresentationCode(const Presentation& presentation) {
-    return presentation.numerical + (presentation.calculated ? "C" : "") +
-           (presentation.equation ? "E" : "") + (presentation.graph ? "G" : "") +
-           presentation.others;
-}
-
-std::vector<CodeText> NumericalKinds() {
-    const CodeTexts types = DataTypes();
-    std::vector<CodeText> kinds(types.begin(), types.end());
-    kinds.push_back({"No numerical data", noNumbers});
-    return kinds;
 }
 
 // Temperature and pressure fix the state of one phase, one of them that of a phase boundary; a

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "entry/PhaseRules.h"
+#include "records/Presentation.h"
+#include "records/ResultDefinition.h"
 #include "reference/KVODefinitions.h"
 
 namespace vexora {
@@ -21,6 +23,7 @@ struct TwoDraft {
     std::string variable1, unit1, variable2, unit2; // units as listed
     std::string constant;                           // value of the third variable
     std::string function, relation;                 // see ResultDefinition
+    ResultDefinition Definition() const { return {function, relation}; }
     std::string refPhase, refTemp, refPressure;
     std::string constraint, phase1, phase2;
     std::string numerical;
@@ -53,34 +56,9 @@ struct TwoFinding {
 /// All findings in the order in which they are told.
 std::vector<TwoFinding> CheckTwo(const TwoDraft& draft);
 
-/// How the stored number relates to the property: "DIR", "DT", "DX", "MN", or "D", "R", "K" with
-/// the relation to a reference ("FR", "PF", ...).
-struct ResultDefinition {
-    std::string function, relation;
-    bool operator==(const ResultDefinition&) const = default;
-};
-ResultDefinition ParseDefinition(std::string_view code);
 /// Texts and codes of the lists of definitions and of relations.
 std::vector<CodeText> ResultFunctions();
 std::vector<CodeText> ResultRelations();
-bool NeedsRelation(std::string_view function);
-/// What a relation to a reference asks for.
-bool NamesReferencePhase(std::string_view relation);
-bool FixesTemperature(std::string_view relation);
-bool FixesPressure(std::string_view relation);
-
-/// How the source presents the data: the letter of the numbers, then C, E, G. Letters of other
-/// meaning are kept.
-struct Presentation {
-    std::string numerical; // "Y", "S", "C", "N" (no numbers), or empty
-    bool calculated = false, equation = false, graph = false;
-    std::string others;
-    bool operator==(const Presentation&) const = default;
-};
-Presentation ParsePresentation(std::string_view dataType);
-std::string PresentationCode(const Presentation& presentation);
-/// The list of how the numbers came about, "No numerical data" last.
-std::vector<CodeText> NumericalKinds();
 
 /// Whether the variable is one of those of the set.
 bool HasVariable(const TwoDraft& draft, std::string_view code);

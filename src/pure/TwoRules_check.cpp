@@ -85,7 +85,7 @@ Finding Relation(const TwoDraft& draft) {
 }
 
 Finding ReferencePhase(const TwoDraft& draft) {
-    if (!NeedsRelation(draft.function) || !NamesReferencePhase(draft.relation)) return {};
+    if (!NeedsRelation(draft.function) || !draft.Definition().NamesPhase()) return {};
     if (!draft.refPhase.empty()) return {};
     return TwoFinding{TwoField::RefPhase, "Select Reference Phase"};
 }
@@ -117,9 +117,9 @@ Finding BetweenLimits(const TwoDraft& draft) {
 
 Finding ReferenceState(const TwoDraft& draft) {
     if (!NeedsRelation(draft.function)) return {};
-    if (FixesTemperature(draft.relation) && !IsNumeric(draft.refTemp))
+    if (draft.Definition().FixesTemperature() && !IsNumeric(draft.refTemp))
         return TwoFinding{TwoField::RefTemp, "Select Reference Temperature"};
-    if (FixesPressure(draft.relation) && !IsNumeric(draft.refPressure))
+    if (draft.Definition().FixesPressure() && !IsNumeric(draft.refPressure))
         return TwoFinding{TwoField::RefPressure, "Select Reference Pressure"};
     return {};
 }

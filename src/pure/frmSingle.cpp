@@ -137,15 +137,14 @@ void frmSingle::Uncertainty() {
     named.Factor = globals.CurrentProperty->Factor;
     if (IsFixed()) named.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
     StoreStatements(named);
-    NameStatements(named);
+    std::vector<clsX> items = NamedStatements(named);
     const auto chain = std::exchange(globals.CurrentProperty, ChainToEvaluate());
     const std::string key = std::exchange(globals.CurrentKey, "RLSZ");
-    const auto count = static_cast<std::size_t>(IsFixed() ? 2 : 1);
-    const bool accepted = EditStatements(std::span(named.UX).first(count));
+    const bool accepted = EditStatements(items);
     globals.CurrentKey = key;
     globals.CurrentProperty = chain;
     if (!accepted) return;
-    statements_ = named.UX;
+    std::ranges::copy(items, statements_.begin());
     Touch();
 }
 

@@ -136,12 +136,12 @@ void frmSingle::StoreValues(clsZ& record) const {
 
 /// What is stated goes with its quantity, which the item names besides.
 void frmSingle::StoreStatements(clsZ& record) const {
-    record.UX = statements_;
     for (int n = 0; n <= Globals().VariableCount; ++n) {
-        clsX& item = record.UX[static_cast<std::size_t>(n)];
+        clsX item = statements_[static_cast<std::size_t>(n)];
         item.N = n;
         item.PRPCODE = n == 0 ? row_.Code : variable_;
         item.PHASE = OrPlaceholder(PhaseChosen(lstPhase1));
+        record.Statements(n, item);
     }
 }
 

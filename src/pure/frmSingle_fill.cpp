@@ -125,7 +125,7 @@ void frmSingle::ShowComment(const clsZ& record) {
 }
 
 void frmSingle::ShowRecord(const clsZ& record) {
-    statements_ = record.UX;
+    statements_ = {record.Statements(0), record.Statements(1)};
     ShowComment(record);
     ChoosePhase(lstPhase1, record.PHASE1);
     ShowPhases();

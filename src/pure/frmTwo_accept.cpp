@@ -25,7 +25,6 @@ namespace vexora {
 namespace {
 
 constexpr const char* table = "frmData2";
-constexpr const char* noNumbers = "N"; // no numerical data
 
 /// The tags without those that begin with these words and end at the next colon.
 std::string WithoutTag(std::string tags, const std::string& beginning) {
@@ -39,12 +38,7 @@ std::string WithoutTag(std::string tags, const std::string& beginning) {
 
 /// A set with rows of its own, so that a table that is given up has changed nothing.
 std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
-    auto copy = std::make_shared<clsTwo>(record);
-    copy->tNode = nullptr;
-    copy->recData.Clear();
-    for (const auto& row : record.recData)
-        copy->recData.Add(std::make_shared<clsData>(*row));
-    return copy;
+    return std::static_pointer_cast<clsTwo>(record.Copy());
 }
 
 /// A new set of the same definition: what is stated about all its rows, without any of them.
@@ -86,7 +80,8 @@ void frmTwo::Accept() {
     if (!Check()) return;
     const auto set = MakeSet();
     if (TurnsRows()) ui::Say("The rows of the table are brought to system units");
-    if (Draft().numerical == noNumbers ? !DropNumbers(*set) : !EnterNumbers(set)) return;
+    if (Draft().numerical == Presentation::NoNumbers ? !DropNumbers(*set) : !EnterNumbers(set))
+        return;
     Store(set);
     Close();
 }
@@ -194,12 +189,12 @@ void frmTwo::WriteDefinition(clsTwo& set) const {
     const bool asBefore = as_ && as_->CONSTRAINT == draft.constraint && as_->PHASE1 == draft.phase1;
     const bool unseen = asBefore && !lstPhase2.Visible(); // of a file: not asked for, not lost
     set.PHASE2 = unseen ? as_->PHASE2 : OrPlaceholder(draft.phase2);
-    Presentation presentation = ParsePresentation(set.DATATYPE);
+    Presentation presentation = Presentation::Of(set.DATATYPE);
     presentation.numerical = draft.numerical;
     presentation.calculated = chkCalc.Value();
     presentation.equation = chkEqu.Value();
     presentation.graph = chkGraph.Value();
-    set.DATATYPE = PresentationCode(presentation);
+    set.DATATYPE = presentation.Code();
 }
 
 void frmTwo::WriteVariables(clsTwo& set) const {
@@ -233,15 +228,16 @@ std::string frmTwo::UnitCodeOf(int n) const {
 void frmTwo::WriteResults(clsTwo& set) const {
     const TwoDraft draft = Draft();
     const bool relative = NeedsRelation(draft.function);
-    const ResultDefinition before = as_ ? ParseDefinition(as_->PROPERTY_FUNCT) : ResultDefinition();
+    const ResultDefinition before =
+        as_ ? ResultDefinition::Of(as_->PROPERTY_FUNCT) : ResultDefinition();
     const std::string relation =
         before.relation == "FX" && draft.relation == "TF" ? "FX" : draft.relation;
     const ResultDefinition definition = {draft.function, relative ? relation : std::string()};
     const bool same = as_ && definition == before; // what a file states besides is kept
-    set.PROPERTY_FUNCT = definition.function + definition.relation;
-    const bool fixedT = relative && FixesTemperature(draft.relation);
-    const bool fixedP = relative && FixesPressure(draft.relation);
-    const bool phase = relative && NamesReferencePhase(draft.relation);
+    set.PROPERTY_FUNCT = definition.Code();
+    const bool fixedT = relative && draft.Definition().FixesTemperature();
+    const bool fixedP = relative && draft.Definition().FixesPressure();
+    const bool phase = relative && draft.Definition().NamesPhase();
     set.REF_TEMP = fixedT || same ? draft.refTemp : "";
     set.REF_PRESSURE = fixedP || same ? draft.refPressure : "";
     set.REF_PHASE = phase || same ? draft.refPhase : "";
@@ -295,8 +291,7 @@ void frmTwo::BuildPropertyChain() const {
 /// A set that had numbers and is said to have none loses its rows, if that is meant. What a file
 /// says in that way is kept as it stands.
 bool frmTwo::DropNumbers(clsTwo& set) {
-    if (set.recData.IsEmpty() || ParsePresentation(as_->DATATYPE).numerical == noNumbers)
-        return true;
+    if (set.recData.IsEmpty() || !Presentation::Of(as_->DATATYPE).HasNumbers()) return true;
     const std::size_t rows = set.recData.Count();
     if (!ui::AskYesNo("The table of this set has " + std::to_string(rows) +
                       (rows == 1 ? " row" : " rows") +
@@ -315,7 +310,7 @@ bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
     const ContextScope scope;
     globals.CurrentTwo = set;
     globals.DialogAccepted = false;
-    const auto isDigit = [](const auto& row) { return row->isDigit; };
+    const auto isDigit = [](const clsData& row) { return row.isDigit; };
     globals.IncludeDigits =
         chkIncludeDigit.Value() || (TurnsRows() && std::ranges::any_of(set->recData, isDigit));
     globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one

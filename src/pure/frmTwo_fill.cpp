@@ -80,7 +80,7 @@ void frmTwo::FillLists() {
     lstCONSTRAINT.Assign(Texts(ConstraintKinds()));
     lstPROPERTY_FUNCT.Assign(Texts(ResultFunctions()));
     lstRelation.Assign(Texts(ResultRelations()));
-    lstNumerical.Assign(Texts(NumericalKinds()));
+    lstNumerical.Assign(Texts(Presentation::Kinds()));
     lstREF_PHASE.Assign({});
     for (const std::string& code : OfferPhases({}, 0, {}, Globals().DataContext).Phase1)
         lstREF_PHASE.Add(PhaseName(code));
@@ -182,9 +182,9 @@ void frmTwo::ShowDefinition() {
     const TwoDraft draft = Draft();
     const bool relative = NeedsRelation(draft.function);
     lstRelation.Enabled(relative);
-    txtREF_TEMP.Enabled(relative && FixesTemperature(draft.relation));
-    txtREF_PRESSURE.Enabled(relative && FixesPressure(draft.relation));
-    lstREF_PHASE.Enabled(relative && NamesReferencePhase(draft.relation));
+    txtREF_TEMP.Enabled(relative && draft.Definition().FixesTemperature());
+    txtREF_PRESSURE.Enabled(relative && draft.Definition().FixesPressure());
+    lstREF_PHASE.Enabled(relative && draft.Definition().NamesPhase());
 }
 
 void frmTwo::PreSet() {
@@ -260,7 +260,7 @@ std::string frmTwo::UnitShown(const clsTwo& record, int n) const {
 }
 
 void frmTwo::ShowDefinitionOf(const clsTwo& record) {
-    const ResultDefinition definition = ParseDefinition(record.PROPERTY_FUNCT);
+    const ResultDefinition definition = ResultDefinition::Of(record.PROPERTY_FUNCT);
     ChooseCode(lstPROPERTY_FUNCT, ResultFunctions(), definition.function);
     const bool isFixed = definition.relation == "FX"; // another code of the same relation
     ChooseCode(lstRelation, ResultRelations(), isFixed ? "TF" : definition.relation);
@@ -272,13 +272,13 @@ void frmTwo::ShowDefinitionOf(const clsTwo& record) {
 }
 
 void frmTwo::ShowPresentation(const clsTwo& record) {
-    const Presentation presentation = ParsePresentation(record.DATATYPE);
-    ChooseCode(lstNumerical, NumericalKinds(), presentation.numerical);
+    const Presentation presentation = Presentation::Of(record.DATATYPE);
+    ChooseCode(lstNumerical, Presentation::Kinds(), presentation.numerical);
     chkCalc.Value(presentation.calculated);
     chkEqu.Value(presentation.equation);
     chkGraph.Value(presentation.graph);
     chkIncludeDigit.Value(std::any_of(record.recData.begin(), record.recData.end(),
-                                      [](const auto& row) { return row->isDigit; }));
+                                      [](const clsData& row) { return row.isDigit; }));
     ShowDigits();
 }
 
@@ -308,7 +308,7 @@ TwoDraft frmTwo::Draft() const {
     draft.constraint = CodeChosen(lstCONSTRAINT, ConstraintKinds());
     draft.phase1 = PhaseChosen(lstPhase1);
     draft.phase2 = lstPhase2.Visible() ? PhaseChosen(lstPhase2) : std::string();
-    draft.numerical = CodeChosen(lstNumerical, NumericalKinds());
+    draft.numerical = CodeChosen(lstNumerical, Presentation::Kinds());
     return draft;
 }
 

@@ -77,50 +77,49 @@ std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
     record->AttachTo(*sample);
     state.pendingLines = 0;
     state.lastNotKept = false;
-    state.CloseRecord();
+    state.open = record;
     return record;
+}
+
+void ReadPureValue(ReaderState& state, std::string_view line) {
+    Attached<clsZ>(state, line);
+}
+
+void ReadPureSet(ReaderState& state, std::string_view line) {
+    if (line.starts_with("^3")) return state.AbandonIncomplete(line);
+    if (auto set = Attached<clsTwo>(state, line)) Globals().CurrentTwo = std::move(set);
 }
 
 } // namespace
 
+const DataLines PureLines = {"Pure", ReadPureValue, ReadPureSet};
+
 void ReadValue(ReaderState& state, std::string_view line) {
-    if (!state.inPure) return state.PassOver();
-    state.value = Attached<clsZ>(state, line);
+    state.lines ? state.lines->value(state, line) : state.PassOver();
 }
 
 void ReadSet(ReaderState& state, std::string_view line) {
-    if (!state.inPure) return state.PassOver();
-    if (line.starts_with("^3")) return state.AbandonIncomplete(line);
-    state.set = Attached<clsTwo>(state, line);
-    Globals().CurrentTwo = state.set;
+    state.lines ? state.lines->set(state, line) : state.PassOver();
 }
 
 void ReadRow(ReaderState& state, std::string_view line) {
-    if (!state.inPure || (!state.set && state.lastNotKept)) return state.PassOver();
-    auto row = std::make_shared<clsData>();
-    if (!state.set || !row->Load(line, state.set->nVar)) return state.AbandonIncomplete(line);
-    state.set->AddRow(row);
-    state.row = std::move(row);
+    if (!state.lines || (!state.open && state.lastNotKept)) return state.PassOver();
+    const auto taken = state.open ? state.open->LoadRow(line) : OpenRecord::Taken::NoRows;
+    if (taken != OpenRecord::Taken::Yes) state.AbandonIncomplete(line);
 }
 
 void ReadRowStatements(ReaderState& state, std::string_view line) {
-    if (state.row)
-        state.row->LoadExtras(line);
-    else
-        ++state.linesNotKept;
+    if (!state.open || !state.open->LoadRowStatements(line)) ++state.linesNotKept;
 }
 
 void ReadStatement(ReaderState& state, std::string_view line) {
-    if (!state.value && !state.set) {
+    if (!state.open) {
         ++state.linesNotKept;
         return;
     }
     clsX item;
     item.Load(line);
-    if (state.value)
-        state.value->AddX(item);
-    else
-        state.set->AddX(item);
+    state.open->AddX(item);
 }
 
 } // namespace vexora

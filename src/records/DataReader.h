@@ -7,11 +7,20 @@ namespace vexora {
 
 struct ReaderState;
 
-/// ^Z ^z ^F ^f: a single value joins its sample.
+/// The same tags stand for records of other classes behind a compound, a mixture or a reaction.
+struct DataLines {
+    std::string_view context; // "Pure", ...
+    void (*value)(ReaderState& state, std::string_view line);
+    void (*set)(ReaderState& state, std::string_view line);
+};
+/// Values and sets of the samples of a compound, which have no third variable.
+extern const DataLines PureLines;
+
+/// ^Z ^z ^F ^f: a single value joins its owner.
 void ReadValue(ReaderState& state, std::string_view line);
-/// ^1 ^2 ^3: a data set joins its sample. Pure data have no third variable.
+/// ^1 ^2 ^3: a data set joins its owner.
 void ReadSet(ReaderState& state, std::string_view line);
-/// ^D ^d ^G ^g: a row joins the set just read.
+/// ^D ^d ^G ^g: a row joins the record just read.
 void ReadRow(ReaderState& state, std::string_view line);
 /// ^Y: statements of the row just read.
 void ReadRowStatements(ReaderState& state, std::string_view line);

@@ -1,8 +1,9 @@
 #include "records/DocumentCheck.h"
 
 #include "chem/PropertyLimits.h"
-#include "globals/KVOGlobal.h"
+#include "records/Presentation.h"
 #include "records/SampleDescription.h"
+#include "records/Walk.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
@@ -77,8 +78,8 @@ bool IsUsableUnit(const std::string& code) {
 }
 
 void CheckVariable(const clsZ& value, Remarks& remarks, const std::string& property) {
-    const std::string name = property + ": " + VariableName(value.Variable(), "Pure");
-    const std::string unit = value.isOriginalUnit ? value.VARIABLE_UNIT : "S";
+    const std::string name = property + ": " + VariableName(value.Variable(), value.DataContext());
+    const std::string unit = value.isOriginalUnit ? value.VAR_UNIT(1) : "S";
     if (!IsNumeric(value.INDVARIABLE)) {
         remarks.Error(property + ": the variable is no number: " + value.INDVARIABLE);
     } else if (!IsUsableUnit(unit)) {
@@ -95,7 +96,7 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
         remarks.Error("Unknown property " + value.PRPCODE);
         return;
     }
-    const std::string name = PropertyName(value.PRPCODE, "Pure");
+    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
     CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
     if (value.nVar == 1) CheckVariable(value, remarks, name);
     if (!IsNumeric(value.PRPVALUE)) {
@@ -130,9 +131,10 @@ struct RowFindings {
     RowTally noNumber, invalid, suspicious;
 };
 
-void CheckNumber(std::size_t place, const std::string& typed, const std::string& code,
+void CheckNumber(std::size_t place, std::string_view typed, const std::string& code,
                  const UnitConversion& unit, RowFindings& found) {
-    if (!IsNumeric(typed)) return found.noNumber.Add(place, "this is no number: " + typed);
+    if (!IsNumeric(typed))
+        return found.noNumber.Add(place, "this is no number: " + std::string(typed));
     const double system = unit.Absolute(Val(typed));
     const std::string value = "value " + NumberText(system);
     if (!IsValidValue(code, system))
@@ -142,25 +144,24 @@ void CheckNumber(std::size_t place, const std::string& typed, const std::string&
 }
 
 // Quantity n of all rows. Differences and ratios have no limits.
-void CheckColumn(const clsTwo& set, int n, const std::string& name, Remarks& remarks) {
+void CheckColumn(const DataSet& set, int n, const std::string& name, Remarks& remarks) {
     const bool hasLimits = n > 0 || set.Relation() == "A";
     const std::string code = !hasLimits ? "" : n == 0 ? set.PRPCODE : set.VARIABLE(n);
-    const UnitConversion entered = n == 0 ? set.PropertyConversion() : set.VariableConversion(n);
+    const bool byRow = n == 0 && set.MolarMassFollowsRows() && set.NeedsMolarMass();
+    const UnitConversion ofSet = set.Conversion(n);
     RowFindings found;
     std::size_t place = 0;
-    for (const auto& row : set.recData)
-        CheckNumber(++place, row->Values[static_cast<std::size_t>(n)], code,
-                    row->inOriginalUnits ? entered : UnitConversion(), found);
+    for (const clsData& row : set.recData) {
+        const UnitConversion entered = byRow ? set.PropertyConversion(row) : ofSet;
+        CheckNumber(++place, row.Values[static_cast<std::size_t>(n)], code,
+                    row.inOriginalUnits ? entered : UnitConversion(), found);
+    }
     if (!found.noNumber.IsEmpty()) remarks.Error(name + ": " + found.noNumber.Text());
     if (!found.invalid.IsEmpty()) remarks.Error(name + ": " + found.invalid.Text());
     if (!found.suspicious.IsEmpty()) remarks.Warn(name + ": " + found.suspicious.Text());
 }
 
-bool IsKnownDefinition(const clsTwo& set) {
-    return set.PROPERTY_FUNCT == "DIR" || set.PROPERTY_FUNCT == "MN" || set.Relation() != "A";
-}
-
-void CheckUnit(const clsTwo& set, int n, const std::string& name, Remarks& remarks) {
+void CheckUnit(const DataSet& set, int n, const std::string& name, Remarks& remarks) {
     const std::string& unit = n == 0 ? set.PROPERTY_UNIT : set.VAR_UNIT(n);
     const bool isFree = !set.isOriginalUnit || (n == 0 && set.Factor > 0);
     if (isFree || IsKnownConversion(unit))
@@ -169,16 +170,11 @@ void CheckUnit(const clsTwo& set, int n, const std::string& name, Remarks& remar
         remarks.Error(name + ": unknown unit " + unit);
 }
 
-void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
-    Remarks remarks(findings, set);
-    if (!PropertyValid(set.PRPCODE)) return remarks.Error("Unknown property " + set.PRPCODE);
-    const std::string name = PropertyName(set.PRPCODE, "Pure");
-    CheckPhases({set.PHASE1, set.PHASE2}, remarks);
-    if (IndexOfCode(ConstraintKinds(), set.CONSTRAINT) < 0)
-        remarks.Error(name + ": unknown constraint " + set.CONSTRAINT);
-    if (!IsKnownDefinition(set))
+/// What all kinds of sets are checked for, once their own line has been.
+void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
+    if (!set.Definition().IsKnown())
         remarks.Error(name + ": unknown definition of results " + set.PROPERTY_FUNCT);
-    if (set.recData.IsEmpty() && !set.DATATYPE.starts_with('N'))
+    if (set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers())
         remarks.Warn(name + ": the data set has no rows");
     CheckUnit(set, 0, name, remarks);
     for (int n = 1; n <= set.nVar; ++n) {
@@ -189,23 +185,33 @@ void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
     }
 }
 
+void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
+    Remarks remarks(findings, set);
+    if (!PropertyValid(set.PRPCODE)) return remarks.Error("Unknown property " + set.PRPCODE);
+    const std::string name = PropertyName(set.PRPCODE, set.DataContext());
+    CheckPhases({set.PHASE1, set.PHASE2}, remarks);
+    if (IndexOfCode(ConstraintKinds(), set.CONSTRAINT) < 0)
+        remarks.Error(name + ": unknown constraint " + set.CONSTRAINT);
+    CheckRows(set, name, remarks);
+}
+
+using Findings = std::vector<DocumentFinding>;
+
+const ByClass<void, Findings&>& Checks() {
+    static const auto checks = ByClass<void, Findings&>()
+                                   .On<clsR>(CheckSource)
+                                   .On<clsL>(CheckCompound)
+                                   .On<clsS>(CheckSample)
+                                   .On<clsZ>(CheckValue)
+                                   .On<clsTwo>(CheckSet);
+    return checks;
+}
+
 } // namespace
 
 std::vector<DocumentFinding> CheckDocument() {
     std::vector<DocumentFinding> findings;
-    for (const auto& source : Globals().recR) {
-        CheckSource(*source, findings);
-        for (const auto& compound : source->recL) {
-            CheckCompound(*compound, findings);
-            for (const auto& sample : compound->recS) {
-                CheckSample(*sample, findings);
-                for (const auto& value : sample->recZ)
-                    CheckValue(*value, findings);
-                for (const auto& set : sample->recTwo)
-                    CheckSet(*set, findings);
-            }
-        }
-    }
+    WalkDocument([&findings](const Record& record) { Checks()(record, findings); });
     return findings;
 }
 

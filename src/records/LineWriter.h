@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vexora {
@@ -18,11 +19,15 @@ public:
     /// The same, and behind them the rest of the line as it stands ("&" when empty).
     void Fields(const std::vector<std::string>& fields, std::string_view rest);
     void Blank();
+    /// What a record has to say to the user about its lines; writing goes on.
+    void Tell(std::string notice) { notices_.push_back(std::move(notice)); }
 
     const std::string& Text() const { return text_; }
+    const std::vector<std::string>& Notices() const { return notices_; }
 
 private:
     std::string text_;
+    std::vector<std::string> notices_;
 };
 
 /// A record that cannot be written without falsifying it; the text names it for the user. Saving

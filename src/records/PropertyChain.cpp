@@ -2,9 +2,9 @@
 
 #include "chem/CommentTags.h"
 #include "chem/clsProperty.h"
+#include "records/DataSet.h"
+#include "records/SingleValue.h"
 #include "records/UnitConversion.h"
-#include "records/clsTwo.h"
-#include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
@@ -75,7 +75,7 @@ void NameVariable(clsX& item, int n, const std::string& code, const std::string&
 }
 
 /// What stays the same for all rows has its statements behind those of the variables.
-void NameConstraints(clsTwo& set) {
+void NameConstraints(DataSet& set) {
     const std::span<clsX> places =
         std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
     const auto take = [&set](clsX& item, const std::string& code) {
@@ -83,7 +83,7 @@ void NameConstraints(clsTwo& set) {
         item.PRPCODE = code;
         item.Name = row ? row->IndVariable : code;
         item.Unit = row ? row->Unit : std::string();
-        if (item.PHASE.empty()) item.PHASE = set.PHASE1;
+        if (item.PHASE.empty()) item.PHASE = set.PhaseFor(0);
     };
     for (clsX& item : places) {
         item.Constr = true;
@@ -139,11 +139,11 @@ void TakeMasters(clsProperty& item, const clsX& statements) {
     item.unclevel = stated.iUnc ? Val(stated.ULevel) : 0;
 }
 
-std::shared_ptr<clsProperty> BuildChain(const clsTwo& set) {
+std::shared_ptr<clsProperty> BuildChain(const DataSet& set) {
     return BuildChain(set, set.isOriginalUnit);
 }
 
-std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original) {
+std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original) {
     const std::string& comment = set.Header.DATACOMMENT;
     auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
     head->Relation = set.Relation();
@@ -158,26 +158,27 @@ std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original) {
     return head;
 }
 
-std::shared_ptr<clsProperty> BuildChain(const clsZ& value) {
+std::shared_ptr<clsProperty> BuildChain(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     const std::string& comment = value.Header.DATACOMMENT;
     auto head =
         HeadOf(value.PRPCODE, original ? value.PROPERTY_UNIT : "S", original ? value.Factor : 0);
-    TakeMasters(*head, value.UX[0]);
+    TakeMasters(*head, value.Statements(0));
     TakePrecision(*head, comment, value.commentInSystemUnits, value.MolarMass());
-    if (value.nVar == 0) return head;
-    clsProperty& item =
-        Append(*head, VariableItem(value.Variable(), original ? value.VARIABLE_UNIT : "S"));
-    TakeMasters(item, value.UX[1]);
-    TakePrecision(item, comment, value.commentInSystemUnits);
+    clsProperty* last = head.get();
+    for (int n = 1; n <= value.VariableCount(); ++n) {
+        last = &Append(*last, VariableItem(value.VARIABLE(n), original ? value.VAR_UNIT(n) : "S"));
+        TakeMasters(*last, value.Statements(n));
+        TakePrecision(*last, comment, value.commentInSystemUnits);
+    }
     return head;
 }
 
-void NameStatements(clsTwo& set) {
+void NameStatements(DataSet& set) {
     NameStatements(set, set.isOriginalUnit);
 }
 
-void NameStatements(clsTwo& set, bool original) {
+void NameStatements(DataSet& set, bool original) {
     NameProperty(set.UX[0], set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
                  original ? set.Factor : 0);
     for (int n = 1; n <= set.nVar; ++n) {
@@ -187,12 +188,16 @@ void NameStatements(clsTwo& set, bool original) {
     NameConstraints(set);
 }
 
-void NameStatements(clsZ& value) {
+std::vector<clsX> NamedStatements(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
-    NameProperty(value.UX[0], value.PRPCODE, original ? value.PROPERTY_UNIT : "S",
+    std::vector<clsX> items = {value.Statements(0)};
+    NameProperty(items[0], value.PRPCODE, original ? value.PROPERTY_UNIT : "S",
                  original ? value.Factor : 0);
-    if (value.nVar == 1)
-        NameVariable(value.UX[1], 1, value.Variable(), original ? value.VARIABLE_UNIT : "S");
+    for (int n = 1; n <= value.VariableCount(); ++n) {
+        items.push_back(value.Statements(n));
+        NameVariable(items.back(), n, value.VARIABLE(n), original ? value.VAR_UNIT(n) : "S");
+    }
+    return items;
 }
 
 } // namespace vexora

@@ -6,20 +6,21 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexora {
 
 class clsProperty;
-class clsTwo;
+class DataSet;
+class SingleValue;
 class clsX;
-class clsZ;
 
 /// The chain of a set: units and relations of its quantities, its statements and the precisions of
 /// its comment, all in the units in which the rows are entered. Texts and values are empty.
-std::shared_ptr<clsProperty> BuildChain(const clsTwo& set);
+std::shared_ptr<clsProperty> BuildChain(const DataSet& set);
 /// The same with the rows in the units of the paper or not, whatever the set says.
-std::shared_ptr<clsProperty> BuildChain(const clsTwo& set, bool original);
-std::shared_ptr<clsProperty> BuildChain(const clsZ& value);
+std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original);
+std::shared_ptr<clsProperty> BuildChain(const SingleValue& value);
 
 /// The statements of an item become the defaults of its quantity; what is not stated is emptied.
 void TakeMasters(clsProperty& item, const clsX& statements);
@@ -35,8 +36,9 @@ std::string EnteredStatement(std::string_view text, std::string_view unitCode, b
 clsX InEnteredUnit(const clsX& item, std::string_view unitCode);
 
 /// Codes, names and units of the items of a set, for the dialog that edits them.
-void NameStatements(clsTwo& set);
-void NameStatements(clsTwo& set, bool original);
-void NameStatements(clsZ& value);
+void NameStatements(DataSet& set);
+void NameStatements(DataSet& set, bool original);
+/// The items of a single value, the property first, with their codes, names and units.
+std::vector<clsX> NamedStatements(const SingleValue& value);
 
 } // namespace vexora

@@ -1,7 +1,7 @@
 #include "records/PropertyLabels.h"
 
-#include "records/clsTwo.h"
-#include "records/clsZ.h"
+#include "records/DataSet.h"
+#include "records/SingleValue.h"
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
@@ -22,15 +22,15 @@ std::string UnitOf(const Set& value) {
 
 template <class Set>
 PropertyLabel LookUp(const Set& value) {
-    const std::string name = PropertyName(value.PRPCODE, "Pure");
-    return {name.empty() ? value.PRPCODE : name, UnitOf(value)};
+    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
+    return {name.empty() ? std::string(value.PRPCODE) : name, UnitOf(value)};
 }
 
 template <class Set>
 std::string KindOf(const Set& value) {
     const std::string factor =
         value.isOriginalUnit ? value.PROPERTY_UNIT + " " + NumberText(value.Factor) : "";
-    return value.PRPCODE + " " + factor;
+    return std::string(value.DataContext()) + " " + value.PRPCODE + " " + factor;
 }
 
 } // namespace
@@ -50,11 +50,11 @@ PropertyLabel PropertyLabels::LabelOf(const Set& value) {
     return entry->second;
 }
 
-PropertyLabel PropertyLabels::Of(const clsZ& value) {
+PropertyLabel PropertyLabels::Of(const SingleValue& value) {
     return LabelOf(value);
 }
 
-PropertyLabel PropertyLabels::Of(const clsTwo& set) {
+PropertyLabel PropertyLabels::Of(const DataSet& set) {
     return LabelOf(set);
 }
 

@@ -5,8 +5,8 @@
 
 namespace vexora {
 
-class clsTwo;
-class clsZ;
+class DataSet;
+class SingleValue;
 
 /// How the property of a set and the unit of its values read in the tree.
 struct PropertyLabel {
@@ -23,8 +23,8 @@ public:
     PropertyLabels(const PropertyLabels&) = delete;
     PropertyLabels& operator=(const PropertyLabels&) = delete;
 
-    static PropertyLabel Of(const clsZ& value);
-    static PropertyLabel Of(const clsTwo& set);
+    static PropertyLabel Of(const SingleValue& value);
+    static PropertyLabel Of(const DataSet& set);
 
 private:
     template <class Set>

@@ -4,6 +4,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/DataReader.h"
 #include "records/LineWriter.h"
+#include "records/OpenRecord.h"
 #include "records/RegistryNumbers.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
@@ -65,8 +66,8 @@ void ReadAuthor(ReaderState& state, std::string_view line) {
 void ReadCompound(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
     ForgetPending(state);
-    state.inPure = true;
-    globals.DataContext = "Pure";
+    state.lines = &PureLines;
+    globals.DataContext = PureLines.context;
     if (!globals.CurrentR) return state.AbandonIncomplete(line);
     auto compound = std::make_shared<clsL>();
     compound->Line = state.lineNumber;
@@ -155,7 +156,7 @@ void ReadFactor(ReaderState& state, std::string_view line) {
 void PassOverSystem(ReaderState& state, std::string_view) {
     state.PassOver();
     state.pending.Factor = 0;
-    state.inPure = false;
+    state.lines = nullptr;
 }
 
 void PassOverLine(ReaderState& state, std::string_view) {
@@ -190,9 +191,7 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
 } // namespace
 
 void ReaderState::CloseRecord() {
-    value = nullptr;
-    set = nullptr;
-    row = nullptr;
+    open = nullptr;
 }
 
 void ReaderState::PassOver() {

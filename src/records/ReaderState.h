@@ -11,11 +11,10 @@
 
 namespace vexora {
 
-class clsData;
 class clsL;
 class clsS;
-class clsTwo;
-class clsZ;
+class OpenRecord;
+struct DataLines;
 
 /// What the reader of a record file remembers from one line to the next. One lives for one read.
 struct ReaderState {
@@ -24,12 +23,12 @@ struct ReaderState {
     int lineNumber = 0;
     int linesNotKept = 0;
     int pendingLines = 0;     // lines of the header since the last data record
-    bool inPure = false;      // data lines belong to a sample, not to a mixture or a reaction
     bool lastNotKept = false; // the last data record is one that this edition does not keep
-    // The record to which ^X lines belong: a value or a set, whose row takes a ^Y line.
-    std::shared_ptr<clsZ> value;
-    std::shared_ptr<clsTwo> set;
-    std::shared_ptr<clsData> row;
+    /// How lines of data are read in the system that is being read (a compound, a mixture, a
+    /// reaction); null behind one that this edition does not keep.
+    const DataLines* lines = nullptr;
+    /// The record to which ^X lines, rows and ^Y lines belong, null for none.
+    std::shared_ptr<OpenRecord> open;
 
     bool isAbandoned = false;
     bool endsProgram = false;

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
 #include "ui/TreeView.h"
 
 namespace vexora {
+
+class LineWriter;
 
 /// What every record class of the document has: an identity among its siblings, a label in the
 /// tree, and the step that makes it the current one. A parent's collection owns its records; the
@@ -24,6 +27,10 @@ public:
     virtual std::string ShowKey() const = 0;
     /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
     virtual void SetMe() = 0;
+    /// Its own lines in the record file, without those of the records below it.
+    virtual void Print(LineWriter&) const {}
+    /// The records below it, in the order of the record file.
+    virtual void EachChild(const std::function<void(Record&)>&) const {}
 
     /// Brings the node's text and key back in line with the record.
     void Refresh();

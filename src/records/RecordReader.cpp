@@ -4,11 +4,8 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/ReaderState.h"
-#include "records/clsL.h"
+#include "records/Walk.h"
 #include "records/clsR.h"
-#include "records/clsS.h"
-#include "records/clsTwo.h"
-#include "records/clsZ.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 
@@ -109,8 +106,10 @@ ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
 
 std::string PrintDocument() {
     LineWriter out;
-    for (const auto& source : Globals().recR)
-        source->PrintAll(out);
+    for (const auto& source : Globals().recR) {
+        source->PrepareOutput();
+        Walk(*source, [&out](const Record& record) { record.Print(out); });
+    }
     return out.Text();
 }
 
@@ -118,19 +117,7 @@ void RefreshLabels() {
     if (!Globals().tvwTree) return;
     const ui::HourglassScope hourglass;
     const PropertyLabels labels;
-    for (const auto& source : Globals().recR) {
-        source->Synchronize();
-        for (const auto& compound : source->recL) {
-            compound->Refresh();
-            for (const auto& sample : compound->recS) {
-                sample->Refresh();
-                for (const auto& value : sample->recZ)
-                    value->Refresh();
-                for (const auto& set : sample->recTwo)
-                    set->Refresh();
-            }
-        }
-    }
+    WalkDocument([](Record& record) { record.Refresh(); });
 }
 
 } // namespace vexora

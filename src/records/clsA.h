@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "reference/ShortText.h"
+
 namespace vexora {
 
 class LineWriter;
@@ -16,8 +18,8 @@ class LineWriter;
 /// Each field is one word, "&" when empty; PRPFLAG is "&" when it is 0; the comment is the rest.
 class clsA {
 public:
-    std::string NOTE, SOURCEDOC, EXPPURPOSE, PRPFLAG = "0", COMPILER, CONTRIBUTOR, DATEADDED,
-                                             DATACOMMENT;
+    ShortText NOTE, SOURCEDOC, EXPPURPOSE, PRPFLAG = "0", COMPILER, CONTRIBUTOR, DATEADDED;
+    std::string DATACOMMENT;
     double Factor = 0; // pending factor of a ^M line, 0 when none
 
     /// Reads a ^A or ^a line. A flag word that is no number is told and stops being read.

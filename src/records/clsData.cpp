@@ -34,7 +34,7 @@ int WrittenCount(std::string_view digits) {
 
 /// Digits of an entered value once it is converted: the offset of a temperature unit may add some
 /// in front of the point.
-int ShownDigits(const std::string& typed, int count, const std::string& unit, double converted) {
+int ShownDigits(std::string_view typed, int count, const std::string& unit, double converted) {
     const int shown = ConvertedDigits(typed, unit, converted);
     const int ofText = SignificantDigits(typed);
     return ofText == 0 ? shown : count + shown - ofText;
@@ -47,26 +47,18 @@ bool RowStatements::IsEmpty() const {
 }
 
 clsData::clsData(const clsData& other)
-    : Values(other.Values), Digits(other.Digits), PRPUNCERTY(other.PRPUNCERTY),
-      TIELINE(other.TIELINE), isDigit(other.isDigit), inOriginalUnits(other.inOriginalUnits),
+    : Values(other.Values), PRPUNCERTY(other.PRPUNCERTY), TIELINE(other.TIELINE),
+      Digits(other.Digits), isDigit(other.isDigit), inOriginalUnits(other.inOriginalUnits),
       nVar(other.nVar),
       Extras(other.Extras ? std::make_unique<RowExtras>(*other.Extras) : nullptr) {}
 
 clsData& clsData::operator=(const clsData& other) {
-    if (this == &other) return *this;
-    Values = other.Values;
-    Digits = other.Digits;
-    PRPUNCERTY = other.PRPUNCERTY;
-    TIELINE = other.TIELINE;
-    isDigit = other.isDigit;
-    inOriginalUnits = other.inOriginalUnits;
-    nVar = other.nVar;
-    Extras = other.Extras ? std::make_unique<RowExtras>(*other.Extras) : nullptr;
+    if (this != &other) *this = clsData(other);
     return *this;
 }
 
-const std::string& clsData::VARIABLE(int n) const {
-    static const std::string none;
+const ShortText& clsData::VARIABLE(int n) const {
+    static const ShortText none;
     return n >= 1 && IsPlace(n) ? Values[static_cast<std::size_t>(n)] : none;
 }
 
@@ -92,7 +84,7 @@ bool clsData::Load(std::string_view line, int variables) {
     const std::string_view tag = words.NextWord();
     isDigit = tag == "^G" || tag == "^g";
     inOriginalUnits = tag == "^d" || tag == "^g";
-    nVar = static_cast<signed char>(variables);
+    nVar = static_cast<std::int8_t>(variables);
     for (const std::size_t n : ItemOrder(variables)) {
         if (words.AtEnd()) return false;
         const std::string_view text = words.NextWord();
@@ -108,7 +100,7 @@ void clsData::LoadValue(std::string_view text, std::string_view digits, std::siz
     Values[n] = text == "&" ? std::string_view() : text;
     if (!isDigit) return;
     const int count = WrittenCount(digits);
-    Digits[n] = static_cast<short>(count > 0 ? count : SignificantDigits(Values[n]));
+    Digits[n] = static_cast<std::uint8_t>(count > 0 ? count : SignificantDigits(Values[n]));
 }
 
 void clsData::LoadExtras(std::string_view line) {
@@ -168,7 +160,7 @@ void clsData::Convert(int n, const UnitConversion& unit, bool isDifference) {
         if (Extras) Extras->userCU = unit.DifferenceText(Extras->userCU);
         if (Extras) Extras->CD = unit.DifferenceText(Extras->CD);
     }
-    std::string& text = Values[place];
+    ShortText& text = Values[place];
     if (!IsNumeric(text)) return;
     const double typed = Val(text);
     const double system = isDifference ? unit.Difference(typed) : unit.Absolute(typed);
@@ -183,10 +175,10 @@ void clsData::RecordDigits(std::size_t n, int digits) {
     if (!isDigit) {
         if (SignificantDigits(Values[n]) == digits) return;
         for (std::size_t i = 0; i < Digits.size(); ++i)
-            Digits[i] = static_cast<short>(DigitCount(static_cast<int>(i)));
+            Digits[i] = static_cast<std::uint8_t>(DigitCount(static_cast<int>(i)));
         isDigit = true;
     }
-    Digits[n] = static_cast<short>(digits);
+    Digits[n] = static_cast<std::uint8_t>(digits);
 }
 
 } // namespace vexora

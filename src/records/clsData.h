@@ -1,15 +1,18 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include "reference/ShortText.h"
 
 namespace vexora {
 
 class LineWriter;
 class XmlWriter;
-struct RowExport;
+struct SetRows;
 struct UnitConversion;
 
 /// The uncertainty statements of one quantity in one row, as typed; "%" at the end is per cent of
@@ -40,21 +43,23 @@ struct RowExtras {
 /// and stands only where something is stated.
 class clsData {
 public:
-    std::array<std::string, 4> Values; // 0 the property, 1 to 3 the variables, as typed
-    std::array<short, 4> Digits{};     // counts of significant digits
-    std::string PRPUNCERTY, TIELINE;
-    bool isDigit = false;         // counts of digits stand in the line
-    bool inOriginalUnits = false; // values stand in the units of the paper
-    signed char nVar = 1;
+    std::array<ShortText, 4> Values; // 0 the property, 1 to 3 the variables, as typed
+    ShortText PRPUNCERTY, TIELINE;
+    std::array<std::uint8_t, 4> Digits{}; // counts of significant digits
+    bool isDigit = false;                 // counts of digits stand in the line
+    bool inOriginalUnits = false;         // values stand in the units of the paper
+    std::int8_t nVar = 1;
     std::unique_ptr<RowExtras> Extras; // empty for nearly all rows
 
     clsData() = default;
     clsData(const clsData& other);
+    clsData(clsData&& other) noexcept = default;
     clsData& operator=(const clsData& other);
+    clsData& operator=(clsData&& other) noexcept = default;
 
-    const std::string& PRPVALUE() const { return Values[0]; }
+    const ShortText& PRPVALUE() const { return Values[0]; }
     /// Value of variable n, 1 to 3; empty outside.
-    const std::string& VARIABLE(int n) const;
+    const ShortText& VARIABLE(int n) const;
     /// The statements of item n (0 the property), made on the first writing access.
     RowStatements& Statements(int n);
     const RowStatements& StatementsOf(int n) const;
@@ -74,10 +79,10 @@ public:
     /// stays, and goes into the line where the new text would tell another one.
     void Convert(int n, const UnitConversion& unit, bool isDifference = false);
 
-    /// One NumValues element; see RowExport for what the set gives.
-    void ExportData(XmlWriter& xml, RowExport& set) const;
-    void ExportPropUnc(XmlWriter& xml, RowExport& set) const;
-    void ExportVarUnc(XmlWriter& xml, int n, RowExport& set) const;
+    /// One NumValues element; see SetRows for what the set gives.
+    void ExportData(XmlWriter& xml, SetRows& rows) const;
+    void ExportPropUnc(XmlWriter& xml, SetRows& rows) const;
+    void ExportVarUnc(XmlWriter& xml, int n, SetRows& rows) const;
 
 private:
     void LoadValue(std::string_view text, std::string_view digits, std::size_t n);

@@ -120,23 +120,26 @@ void clsL::LoadBio(WordReader& words) {
     MMass = MolarMassOfFormula(Formula);
 }
 
-void clsL::PrintL(LineWriter& out) {
+void clsL::PrintL(LineWriter& out) const {
     if (isNew && isBio) {
         out.Fields({"BL", RN, BlanksToUnderscores(EC), BlanksToUnderscores(PDB), Formula,
                     std::to_string(Charge)},
                    Name);
         return;
     }
-    if (REFPROP.empty()) REFPROP = "&";
-    if (!SYSTYPES.starts_with('N') && REFPROP == "&") ui::Say("REFPROP internal error");
-    out.Fields({"^L", RN, SYSTYPES, REFPROP});
+    const std::string letters = OrPlaceholder(REFPROP);
+    if (!SYSTYPES.starts_with('N') && letters == "&") out.Tell("REFPROP internal error");
+    out.Fields({"^L", RN, SYSTYPES, letters});
     if (isNew) out.Fields({"^N", RN, Formula}, Name);
 }
 
-void clsL::PrintAll(LineWriter& out) {
-    PrintL(out);
+void clsL::Print(LineWriter& out) const {
+    if (isNew || !recS.IsEmpty()) PrintL(out);
+}
+
+void clsL::EachChild(const std::function<void(Record&)>& visit) const {
     for (const auto& sample : recS)
-        sample->PrintAll(out);
+        visit(*sample);
 }
 
 std::shared_ptr<clsS> clsL::FindS(int number, std::size_t* index) const {

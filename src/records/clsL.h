@@ -50,8 +50,10 @@ public:
     /// mended number. False for a line without a number, and with a notice for one that is not
     /// numeric.
     bool Load(std::string_view line);
-    void PrintL(LineWriter& out);
-    void PrintAll(LineWriter& out);
+    void PrintL(LineWriter& out) const;
+    /// Of compounds without samples only those that are new to the reference database.
+    void Print(LineWriter& out) const override;
+    void EachChild(const std::function<void(Record&)>& visit) const override;
     /// The sample whose SMPNM has this value, or null; its place from 1 goes into index.
     std::shared_ptr<clsS> FindS(int number, std::size_t* index = nullptr) const;
     /// Brings the first letter of SYSTYPES and REFPROP in line with the data.

@@ -2,11 +2,11 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/OpenRecord.h"
+#include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
-#include "records/clsTwo.h"
-#include "records/clsZ.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 
@@ -36,15 +36,12 @@ std::string ForFileName(std::string name) {
     return name;
 }
 
+/// Every header in the document says where the document comes from.
 void Stamp(clsR& source) {
-    for (const auto& compound : source.recL) {
-        for (const auto& sample : compound->recS) {
-            for (const auto& value : sample->recZ)
-                value->Header.SOURCEDOC = source.SOURCEDOC;
-            for (const auto& set : sample->recTwo)
-                set->Header.SOURCEDOC = source.SOURCEDOC;
-        }
-    }
+    Walk(source, [&source](Record& record) {
+        if (auto* const data = dynamic_cast<OpenRecord*>(&record))
+            data->Header.SOURCEDOC = source.SOURCEDOC;
+    });
 }
 
 } // namespace
@@ -92,8 +89,7 @@ void clsR::PrepareOutput() {
     UpdateRefInfo();
 }
 
-void clsR::PrintR(LineWriter& out) {
-    PrepareOutput();
+void clsR::PrintR(LineWriter& out) const {
     out.Blank();
     out.Fields({"^R", YEARPUB, AUTHOR1, AUTHOR2}, AUTHORN);
     if (isNew) PrintDescription(out);
@@ -127,12 +123,9 @@ void clsR::AskSourceOfDocument() {
     if (isKnown(letter)) Stamp(*this);
 }
 
-void clsR::PrintAll(LineWriter& out) {
-    PrintR(out);
-    for (const auto& compound : recL) {
-        // Of compounds without samples only those stay that some record names.
-        if (compound->isNew || !compound->recS.IsEmpty()) compound->PrintAll(out);
-    }
+void clsR::EachChild(const std::function<void(Record&)>& visit) const {
+    for (const auto& compound : recL)
+        visit(*compound);
 }
 
 void clsR::UpdateRefInfo() {

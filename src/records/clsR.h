@@ -62,8 +62,9 @@ public:
     /// be added there (toRegister) once the whole file is read; one of the same identity but
     /// another text is asked about, and gets the next free number when it is another source.
     void LoadJ(std::string_view line);
-    void PrintR(LineWriter& out);
-    void PrintAll(LineWriter& out);
+    void PrintR(LineWriter& out) const;
+    void Print(LineWriter& out) const override { PrintR(out); }
+    void EachChild(const std::function<void(Record&)>& visit) const override;
     /// Composes PRPCLASS and the letters of every compound from what the document holds.
     void UpdateRefInfo();
     /// Every compound that a mixture or a reaction names exists; missing ones are made.

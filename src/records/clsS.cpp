@@ -106,16 +106,11 @@ void clsS::PrintS(LineWriter& out) const {
     out.Fields({"^S", SMPNM}, SMPDESC);
 }
 
-void clsS::PrintAll(LineWriter& out) {
-    PrintS(out);
-    for (const auto& value : recZ) {
-        if (value->NeedsMolarMass()) out.Line("^M " + NumberText(value->MolarMass()));
-        value->PrintZ(out);
-    }
-    for (const auto& set : recTwo) {
-        if (set->NeedsMolarMass()) out.Line("^M " + NumberText(set->MolarMass()));
-        set->PrintAll(out);
-    }
+void clsS::EachChild(const std::function<void(Record&)>& visit) const {
+    for (const auto& value : recZ)
+        visit(*value);
+    for (const auto& set : recTwo)
+        visit(*set);
 }
 
 void clsS::AssessPurity() {

@@ -35,7 +35,8 @@ public:
 
     void Load(std::string_view line);
     void PrintS(LineWriter& out) const;
-    void PrintAll(LineWriter& out);
+    void Print(LineWriter& out) const override { PrintS(out); }
+    void EachChild(const std::function<void(Record&)>& visit) const override;
     /// Derives Purity from SMPDESC: the statement of the best rated method counts.
     void AssessPurity();
     std::string Formula() const;

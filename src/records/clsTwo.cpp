@@ -5,13 +5,14 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
+#include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
-#include <utility>
+#include <initializer_list>
 
 namespace vexora {
 
@@ -19,21 +20,20 @@ namespace {
 
 const std::string NoText;
 
-constexpr std::string_view ReferenceRelationCodes[] = {"FR", "PF", "TF", "FX", "TP", "PH",
-                                                       "RX", "EQ", "PC", "PR", "PS", "PT"};
+/// The code of a property as lines of a gas bear it.
+std::string_view CodeInLine(std::string_view code, bool hasGas) {
+    if (hasGas && code == "PV") return "P";
+    return hasGas && code == "HVP" ? "HTR" : code;
+}
 
-bool IsReferenceRelation(std::string_view code) {
-    for (const std::string_view known : ReferenceRelationCodes)
-        if (code == known) return true;
-    return false;
+std::string Joined(std::initializer_list<std::string_view> fields) {
+    std::string line;
+    for (const std::string_view field : fields)
+        AppendField(line, field);
+    return line;
 }
 
 } // namespace
-
-clsTwo::clsTwo() {
-    for (std::size_t n = 0; n < UX.size(); ++n)
-        UX[n].N = static_cast<int>(n);
-}
 
 const std::string& clsTwo::VARIABLE(int n) const {
     return n == 1 ? VARIABLE1 : n == 2 ? VARIABLE2 : NoText;
@@ -43,42 +43,27 @@ const std::string& clsTwo::VAR_UNIT(int n) const {
     return n == 1 ? VAR1_UNIT : n == 2 ? VAR2_UNIT : NoText;
 }
 
-std::string clsTwo::ConstantOf(std::string_view code) const {
-    if (VARIABLE1 == code || (nVar == 2 && VARIABLE2 == code)) return {};
-    const std::string tags = CommentTagPart(Header.DATACOMMENT);
-    const std::string mark = ":" + std::string(code) + " = ";
-    const std::size_t at = tags.find(mark);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + mark.size();
-    const std::string value = tags.substr(from, tags.find(':', from) - from);
-    return IsNumeric(value) ? value : std::string();
+const std::string& clsTwo::PhaseFor(int n) const {
+    return n >= 0 && n <= nVar ? PHASE1 : NoText;
 }
 
-std::string clsTwo::Relation() const {
-    const std::string& code = PROPERTY_FUNCT;
-    if (code == "DT" || code == "DX") return "D";
-    if (code.size() < 2 || code == "DIR" || code == "MN") return "A";
-    if (!IsReferenceRelation(std::string_view(code).substr(1))) return "A";
-    if (code.front() == 'D') return "D";
-    return code.front() == 'R' || code.front() == 'K' ? "R" : "A";
+std::string clsTwo::SystemName() const {
+    return Parent && Parent->Parent ? Parent->Parent->ShowKey() : std::string();
 }
 
-void clsTwo::AddX(const clsX& item) {
-    clsX added = item;
-    if (added.N < 0 && added.PRPCODE == PRPCODE) added.N = 0;
-    for (int n = 1; n <= nVar && added.N < 0; ++n)
-        if (added.PRPCODE == VARIABLE(n)) added.N = n;
-    if (added.N < 0 || added.N >= static_cast<int>(UX.size())) {
-        OtherX.push_back(added);
-        return;
-    }
-    added.Constr = added.N > nVar;
-    UX[static_cast<std::size_t>(added.N)] = added;
+const Record* clsTwo::Owner() const {
+    return Parent;
 }
 
-void clsTwo::AddRow(std::shared_ptr<clsData> row) {
-    isOriginalUnit = row->inOriginalUnits || (isOriginalUnit && !recData.IsEmpty());
-    recData.Add(std::move(row));
+double clsTwo::MolarMass(const clsData&) const {
+    const double mass = Parent ? Parent->MolarMass() : 0;
+    return mass > 0 ? mass : FallbackMolarMass;
+}
+
+std::shared_ptr<DataSet> clsTwo::Copy() const {
+    auto copy = std::make_shared<clsTwo>(*this);
+    copy->tNode = nullptr;
+    return copy;
 }
 
 bool clsTwo::HasGas() const {
@@ -118,12 +103,9 @@ bool clsTwo::Load(std::string_view line) {
 }
 
 void clsTwo::TakePending(const clsA& pending) {
-    Header.TakeHeader(pending);
+    DataSet::TakePending(pending);
     const std::string stated = CommentTag(Header.DATACOMMENT, "V1");
     if (nVar == 1 && !stated.empty()) VARIABLE1 = stated;
-    if (pending.Factor <= 0) return;
-    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
-    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 
 std::string clsTwo::Key() const {
@@ -160,13 +142,33 @@ void clsTwo::Replace(const clsTwo& other) {
     if (Parent) Parent->recTwo.Rekey(this, Key());
 }
 
-double clsTwo::MolarMass() const {
-    const double mass = Parent ? Parent->MolarMass() : 0;
-    return mass > 0 ? mass : FallbackMolarMass;
+std::string clsTwo::DefinitionLine() const {
+    std::string line = Joined({nVar == 2 ? "^2" : "^1", SMPNM, CodeInLine(PRPCODE, HasGas()),
+                               PropertyUnitField(), PROPERTY_FUNCT, PRPSETNO});
+    line += '\t' + Joined({DATATYPE, PHASE1, PHASE2, CONSTRAINT});
+    if (nVar == 2) AppendField(line, VARIABLE1);
+    AppendField(line, UnitField(VAR1_UNIT));
+    if (nVar == 2) {
+        AppendField(line, VARIABLE2);
+        AppendField(line, UnitField(VAR2_UNIT));
+    }
+    AppendField(line, REF_TEMP);
+    AppendField(line, REF_PRESSURE);
+    return line + " " + OrPlaceholder(Trim(REF_PHASE));
 }
 
-bool clsTwo::NeedsMolarMass() const {
-    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
+/// The comment, whose tag "V1:" tells the variable of a ^1 line where nothing else does.
+std::string clsTwo::CommentOfLine() const {
+    std::string comment = Header.DATACOMMENT;
+    if (nVar != 1 || VARIABLE1.empty()) return comment;
+    const std::string stated = CommentTag(comment, "V1");
+    if (VARIABLE1 == (stated.empty() ? DerivedVariable() : stated)) return comment;
+    const std::string tag = ":V1:" + stated + ":";
+    if (!stated.empty()) comment.replace(comment.find(tag, comment.find("::")), tag.size(), ":");
+    if (VARIABLE1 == DerivedVariable()) return comment;
+    if (comment.find("::") == std::string::npos) comment += comment.empty() ? "::" : " ::";
+    if (!comment.ends_with(':')) comment += ':';
+    return comment + "V1:" + VARIABLE1 + ":";
 }
 
 } // namespace vexora

@@ -5,36 +5,31 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
+#include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
-#include <cmath>
+#include <utility>
 
 namespace vexora {
 
-void clsZ::AddX(const clsX& item) {
-    clsX added = item;
-    if (added.N < 0 && added.PRPCODE == PRPCODE)
-        added.N = 0;
-    else if (added.N < 0 && nVar == 1 && added.PRPCODE == Variable())
-        added.N = 1;
-    if (added.N < 0 || added.N > nVar) {
-        OtherX.push_back(added);
-        return;
-    }
-    clsX& place = UX[static_cast<std::size_t>(added.N)];
-    // The line of an item does not carry these; they came with the value line.
-    added.KVOUValue = place.KVOUValue;
-    if (!added.iRep && added.RValue.empty() && added.Repetitions.empty()) {
-        added.RValue = place.RValue;
-        added.Repetitions = place.Repetitions;
-        added.repOfValueLine = true;
-    }
-    place = added;
+namespace {
+
+/// The fixed variable and its unit as they stand in the line. A unit without a letter cannot stand
+/// there, so the value is brought to the system unit.
+std::pair<std::string, std::string> VariableFields(const clsZ& value) {
+    const ShortText& code = value.VARIABLE_UNIT;
+    if (!IsUnitLong(code)) return {value.INDVARIABLE, code};
+    if (!value.isOriginalUnit) return {value.INDVARIABLE, "S"};
+    FactorOfLongUnit(code, value, value.Parent);
+    const double system = ToSystem(code, Val(value.INDVARIABLE), 0, 0);
+    return {FormatConverted(value.INDVARIABLE, code, system), "S"};
 }
+
+} // namespace
 
 bool clsZ::Load(std::string_view line) {
     WordReader words(line);
@@ -54,28 +49,22 @@ bool clsZ::Load(std::string_view line) {
         VARIABLE_UNIT = NextField(words);
     }
     if (words.AtEnd()) return false;
-    PRPVALUE = NextField(words);
-    PRPUNCERTY = NextField(words);
-    PRECIS = NextField(words);
-    DETERMNM = WithoutPlaceholder(Trim(words.Rest()));
-    Factor = 0;
-    commentInSystemUnits = true;
+    LoadValue(words);
     if (PRPCODE == "TBN") PHASE3 = "&";
     if (PRPCODE == "TMN") PHASE3 = "air";
-    UX[0].N = 0;
-    UX[1].N = 1;
-    UX[0].KVOUValue = PRPUNCERTY;
-    UX[0].RValue = PRECIS;
-    UX[0].Repetitions = DETERMNM;
-    UX[0].repOfValueLine = true;
     return true;
 }
 
-void clsZ::TakePending(const clsA& pending) {
-    Header.TakeHeader(pending);
-    if (pending.Factor <= 0 || !isOriginalUnit) return;
-    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
-    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+std::vector<std::string> clsZ::LineFields(std::string unitField) const {
+    const char* tag = nVar == 0 ? (isOriginalUnit ? "^z" : "^Z") : (isOriginalUnit ? "^f" : "^F");
+    std::vector<std::string> fields = {tag, SMPNM, PRPCODE, std::move(unitField), PRPSETNO, PHASE1};
+    if (nVar == 0) {
+        fields.insert(fields.end(), {PHASE2, PHASE3});
+    } else {
+        const auto [variable, unit] = VariableFields(*this);
+        fields.insert(fields.end(), {variable, unit});
+    }
+    return fields;
 }
 
 std::string clsZ::Key() const {
@@ -108,18 +97,17 @@ void clsZ::Rekey() {
     if (Parent) Parent->recZ.Rekey(this, Key());
 }
 
-double clsZ::SystemValue() const {
-    if (!isOriginalUnit) return Val(PRPVALUE);
-    return ToSystem(PROPERTY_UNIT, Val(PRPVALUE), Factor, NeedsMolarMass() ? MolarMass() : 0);
+std::string clsZ::SystemName() const {
+    return Parent && Parent->Parent ? Parent->Parent->ShowKey() : std::string();
+}
+
+const Record* clsZ::Owner() const {
+    return Parent;
 }
 
 double clsZ::MolarMass() const {
     const double mass = Parent ? Parent->MolarMass() : 0;
     return mass > 0 ? mass : FallbackMolarMass;
-}
-
-bool clsZ::NeedsMolarMass() const {
-    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
 }
 
 std::string clsZ::Variable() const {

@@ -4,6 +4,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
+#include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -51,7 +52,7 @@ std::string WithDashes(const std::string& rn) {
 
 /// What is stated about the uncertainty of a value, the most telling statement first.
 std::string UncertaintyText(const clsZ& value) {
-    const clsX& stated = value.UX[0];
+    const clsX stated = value.Statements(0);
     const auto with = [](const std::string& text, const std::string& level) {
         return IsBlankField(level) ? text : text + " (" + level + " % confidence)";
     };
@@ -59,7 +60,7 @@ std::string UncertaintyText(const clsZ& value) {
     if (stated.iUnc && !IsBlankField(stated.UValue)) return with(stated.UValue, stated.ULevel);
     if (!IsBlankField(value.PRPUNCERTY)) return value.PRPUNCERTY;
     if (stated.iRep && !IsBlankField(stated.RValue)) return stated.RValue;
-    return IsBlankField(value.PRECIS) ? std::string() : value.PRECIS;
+    return IsBlankField(value.PRECIS) ? std::string() : std::string(value.PRECIS);
 }
 
 std::string ValueText(const clsZ& value) {
@@ -70,14 +71,14 @@ std::string ValueText(const clsZ& value) {
 
 /// The value in the system unit, where it was entered in another one.
 std::string ConvertedText(const clsZ& value) {
-    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, "Pure"));
+    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, value.DataContext()));
     if (PropertyLabels::Of(value).unit == unit || !IsNumeric(value.PRPVALUE)) return {};
     return NumberWithUnit(FormatConverted(value.PRPVALUE, value.PROPERTY_UNIT, value.SystemValue()),
                           unit);
 }
 
 std::string VariableText(const clsZ& value) {
-    const std::string unit = DefaultUnit(VariableName(value.Variable(), "Pure"));
+    const std::string unit = DefaultUnit(VariableName(value.Variable(), value.DataContext()));
     const std::string& code = value.VARIABLE_UNIT;
     return NumberWithUnit(value.INDVARIABLE, UnitText(unit, code, 0));
 }
@@ -140,21 +141,21 @@ std::string ReadingOf(const clsS& sample) {
     page.Line("Holds:", Counted(sample.recZ.Count(), "single value", "single values") + ", " +
                             Counted(sample.recTwo.Count(), "data set", "data sets"));
     for (const auto& value : sample.recZ)
-        page.Line(PropertyName(value->PRPCODE, "Pure") + ":", ValueText(*value));
+        page.Line(PropertyName(value->PRPCODE, value->DataContext()) + ":", ValueText(*value));
     for (const auto& set : sample.recTwo)
-        page.Line(PropertyName(set->PRPCODE, "Pure") + ":",
+        page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
                   Counted(set->recData.Count(), "row", "rows"));
     page.Need(sample.recZ.IsEmpty() && sample.recTwo.IsEmpty(), "Data");
     return page.Html();
 }
 
 std::string ReadingOf(const clsZ& value) {
-    const std::string name = PropertyName(value.PRPCODE, "Pure");
-    ReadingPage page(name.empty() ? value.PRPCODE : name);
+    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
+    ReadingPage page(name.empty() ? value.PRPCODE.View() : name);
     page.Line("Value:", ValueText(value));
     page.Line("In system units:", ConvertedText(value));
     if (value.nVar == 1)
-        page.Line("At " + LowerAscii(VariableName(value.Variable(), "Pure")) + ":",
+        page.Line("At " + LowerAscii(VariableName(value.Variable(), value.DataContext())) + ":",
                   VariableText(value));
     page.Line("Phase:", PhaseText(value.PHASE1));
     page.Line("In equilibrium with:", PhaseText(value.PHASE2));
@@ -168,14 +169,22 @@ std::string ReadingOf(const clsZ& value) {
     return page.Html();
 }
 
+/// What the pane shows of a record, by its class.
+const ByClass<std::string>& Readings() {
+    static const auto readings = ByClass<std::string>()
+                                     .On<clsR>([](const clsR& one) { return ReadingOf(one); })
+                                     .On<clsL>([](const clsL& one) { return ReadingOf(one); })
+                                     .On<clsS>([](const clsS& one) { return ReadingOf(one); })
+                                     .On<clsZ>([](const clsZ& one) { return ReadingOf(one); })
+                                     .On<clsTwo>(ReadingOfSet);
+    return readings;
+}
+
 } // namespace
 
 std::string ReadingHtml(const ui::TreeTag* record) {
-    if (const auto* source = dynamic_cast<const clsR*>(record)) return ReadingOf(*source);
-    if (const auto* compound = dynamic_cast<const clsL*>(record)) return ReadingOf(*compound);
-    if (const auto* sample = dynamic_cast<const clsS*>(record)) return ReadingOf(*sample);
-    if (const auto* value = dynamic_cast<const clsZ*>(record)) return ReadingOf(*value);
-    if (const auto* set = dynamic_cast<const clsTwo*>(record)) return ReadingOfSet(*set);
+    const auto* const selected = dynamic_cast<const Record*>(record);
+    if (selected && Readings().Knows(*selected)) return Readings()(*selected);
     ReadingPage page("No record is selected");
     if (Globals().recR.IsEmpty())
         page.Item("Press \"Start\" to describe a document, or open one from the File menu.");

@@ -1,7 +1,7 @@
 #include "shell/SetReading.h"
 
 #include "chem/CommentTags.h"
-#include "pure/TwoRules.h"
+#include "records/Presentation.h"
 #include "records/PropertyLabels.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
@@ -20,21 +20,22 @@ namespace vexora {
 namespace {
 
 // A set that holds rows of both kinds is read in system units.
-bool HasBothKinds(const clsTwo& set) {
-    return set.isOriginalUnit && std::any_of(set.recData.begin(), set.recData.end(),
-                                             [](const auto& row) { return !row->inOriginalUnits; });
+bool HasBothKinds(const DataSet& set) {
+    return set.isOriginalUnit &&
+           std::any_of(set.recData.begin(), set.recData.end(),
+                       [](const clsData& row) { return !row.inOriginalUnits; });
 }
 
 // The least and the greatest value of quantity n (0 the property) as typed.
-std::string RangeOf(const clsTwo& set, int n) {
+std::string RangeOf(const DataSet& set, int n) {
     const bool inSystem = HasBothKinds(set);
-    const UnitConversion entered = n == 0 ? set.PropertyConversion() : set.VariableConversion(n);
+    const UnitConversion entered = set.Conversion(n);
     std::string least, greatest;
     double low = 0, high = 0;
-    for (const auto& row : set.recData) {
-        const std::string& typed = row->Values[static_cast<std::size_t>(n)];
+    for (const clsData& row : set.recData) {
+        const std::string typed = row.Values[static_cast<std::size_t>(n)];
         if (!IsNumeric(typed)) continue;
-        const bool converts = inSystem && row->inOriginalUnits;
+        const bool converts = inSystem && row.inOriginalUnits;
         const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
         const std::string& text = converts ? FormatConverted(typed, entered.code, value) : typed;
         if (least.empty() || value < low) {
@@ -53,39 +54,40 @@ std::string WithUnitIfAny(const std::string& text, const std::string& unit) {
     return text.empty() ? text : NumberWithUnit(text, unit);
 }
 
-std::string VariableUnitText(const clsTwo& set, int n) {
-    const std::string unit = DefaultUnit(VariableName(set.VARIABLE(n), "Pure"));
+std::string VariableUnitText(const DataSet& set, int n) {
+    const std::string unit = DefaultUnit(VariableName(set.VARIABLE(n), set.DataContext()));
     const std::string& code = set.VAR_UNIT(n);
     return !set.isOriginalUnit || HasBothKinds(set) ? unit : UnitText(unit, code, 0);
 }
 
-std::string PropertyUnitText(const clsTwo& set) {
+std::string PropertyUnitText(const DataSet& set) {
     if (set.Relation() == "R") return {};
-    if (HasBothKinds(set)) return DefaultUnit(PropertyName(set.PRPCODE, "Pure"));
+    if (HasBothKinds(set)) return DefaultUnit(PropertyName(set.PRPCODE, set.DataContext()));
     return PropertyLabels::Of(set).unit;
 }
 
-std::string DefinitionText(const clsTwo& set) {
+std::string DefinitionText(const DataSet& set) {
     const std::string& code = set.PROPERTY_FUNCT;
     if (code == "DIR") return {};
     const std::string whole = TextOfCode(PureReferenceStates(), code);
     if (!whole.empty() || code.size() < 2) return whole.empty() ? code : whole;
-    const std::string relation = TextOfCode(ReferenceRelations(), code.substr(0, 1));
-    const std::string reference = TextOfCode(PureReferenceStates(), code.substr(1));
+    const ResultDefinition definition = set.Definition();
+    const std::string relation = TextOfCode(ReferenceRelations(), definition.function);
+    const std::string reference = TextOfCode(PureReferenceStates(), definition.relation);
     return relation.empty() ? code : relation + "; " + reference;
 }
 
-bool StatesUncertainty(const clsTwo& set) {
+bool StatesUncertainty(const DataSet& set) {
     const clsX& property = set.UX[0];
     if (property.iDS || property.iRep || property.iUnc || property.iCU) return true;
-    return std::any_of(set.recData.begin(), set.recData.end(), [](const auto& row) {
-        return !IsBlankField(row->PRPUNCERTY) || row->Extras != nullptr;
+    return std::any_of(set.recData.begin(), set.recData.end(), [](const clsData& row) {
+        return !IsBlankField(row.PRPUNCERTY) || row.Extras != nullptr;
     });
 }
 
-void DescribeRows(ReadingPage& page, const clsTwo& set) {
+void DescribeRows(ReadingPage& page, const DataSet& set) {
     for (int n = 1; n <= set.nVar; ++n) {
-        const std::string name = VariableName(set.VARIABLE(n), "Pure");
+        const std::string name = VariableName(set.VARIABLE(n), set.DataContext());
         const std::string range = WithUnitIfAny(RangeOf(set, n), VariableUnitText(set, n));
         page.Line("Against " + LowerAscii(name.empty() ? set.VARIABLE(n) : name) + ":",
                   range.empty() ? VariableUnitText(set, n) : range);
@@ -119,9 +121,9 @@ void DescribeConstants(ReadingPage& page, const clsTwo& set) {
 }
 
 /// How the numbers came about, and in what other forms the source has them.
-void DescribePresentation(ReadingPage& page, const clsTwo& set) {
-    const Presentation presentation = ParsePresentation(set.DATATYPE);
-    for (const CodeText& kind : NumericalKinds())
+void DescribePresentation(ReadingPage& page, const DataSet& set) {
+    const Presentation presentation = Presentation::Of(set.DATATYPE);
+    for (const CodeText& kind : Presentation::Kinds())
         if (kind.code == presentation.numerical) page.Line("Data are:", kind.text);
     page.Line("Also given:",
               Listed({presentation.calculated ? "calculated values" : "",
@@ -131,7 +133,7 @@ void DescribePresentation(ReadingPage& page, const clsTwo& set) {
 } // namespace
 
 std::string ReadingOfSet(const clsTwo& set) {
-    const std::string name = PropertyName(set.PRPCODE, "Pure");
+    const std::string name = PropertyName(set.PRPCODE, set.DataContext());
     ReadingPage page(name.empty() ? set.PRPCODE : name);
     DescribeRows(page, set);
     page.Line("Results are:", DefinitionText(set));
@@ -145,7 +147,7 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("Comment:", CommentText(set.Header.DATACOMMENT));
     page.Line("Set:", set.PRPSETNO);
     page.Line("Entered:", set.Header.DATEADDED);
-    page.Need(set.recData.IsEmpty() && !set.DATATYPE.starts_with('N'), "Rows");
+    page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");
     page.Need(!StatesUncertainty(set), "A statement of uncertainty");
     return page.Html();
 }

@@ -12,12 +12,12 @@
 #include "entry/RowChecks.h"
 #include "grid/TablePaste.h"
 #include "grid/TableUndo.h"
+#include "records/RowList.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
-class clsData;
 class clsProperty;
 class clsTwo;
 struct PlotTable;
@@ -128,7 +128,7 @@ private:
     void AdjustUnits();
     std::shared_ptr<clsTwo> Adjusted(const std::vector<int>& rows) const;
     void TakeUnits(const std::shared_ptr<clsTwo>& adjusted, const std::array<clsX, 5>& statements,
-                   const std::vector<std::shared_ptr<clsData>>& rows);
+                   const RowList& rows);
     void ShowUnits();
 
     // Marks and findings (frmData2_findings.cpp, frmData2_look.cpp).
@@ -159,7 +159,7 @@ private:
     const clsData* OldRowHere(int row) const;
     std::string VariablesOf(const clsData& row) const;
     std::string VariablesOf(int row) const;
-    std::shared_ptr<clsData> NewRow(int row, const clsData* old) const;
+    clsData NewRow(int row, const clsData* old) const;
 
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
     void View();
@@ -169,11 +169,11 @@ private:
     double CombinedOf(int row, double value) const;
 
     std::shared_ptr<clsTwo> set_;
-    std::shared_ptr<clsTwo> adjusted_;           // the set as brought to system units, or null
-    std::array<clsX, 5> statementsBefore_;       // restored when the table is cancelled
-    std::array<clsX, 5> firstStatements_;        // as first shown, with their names
-    std::string firstText_;                      // of the table, to tell whether it has changed
-    std::vector<std::shared_ptr<clsData>> rows_; // as they stood at the beginning
+    std::shared_ptr<clsTwo> adjusted_;     // the set as brought to system units, or null
+    std::array<clsX, 5> statementsBefore_; // restored when the table is cancelled
+    std::array<clsX, 5> firstStatements_;  // as first shown, with their names
+    std::string firstText_;                // of the table, to tell whether it has changed
+    RowList rows_;                         // as they stood at the beginning
     std::shared_ptr<clsProperty> chain_;
     double molarMass_ = 0;  // [g/mol]
     bool original_ = true;  // cells stand in the units of the paper

@@ -199,7 +199,7 @@ void frmData2::Save() {
 /// All new rows are made before they take the place of the old ones.
 void frmData2::Store() {
     const std::vector<const clsData*> sources = OldRows();
-    ui::Collection<clsData> fresh;
+    RowList fresh;
     const int property = columns_.Find(Kind::Value, 0);
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
         if (tblData.Cell(row, property).empty()) continue;
@@ -222,8 +222,8 @@ void frmData2::Store() {
 std::vector<const clsData*> frmData2::OldRows() const {
     std::vector<const clsData*> sources(static_cast<std::size_t>(tblData.Rows()));
     std::multimap<std::string, const clsData*> left; // by their variables
-    for (const auto& row : rows_)
-        left.emplace(VariablesOf(*row), row.get());
+    for (const clsData& row : rows_)
+        left.emplace(VariablesOf(row), &row);
     const auto take = [&](int row, const std::string& variables, const clsData* wanted) {
         auto [at, end] = left.equal_range(variables);
         while (at != end && wanted && at->second != wanted)
@@ -249,8 +249,7 @@ std::vector<const clsData*> frmData2::OldRows() const {
 /// The row as it stood at the beginning, wherever it has been moved; null for a new one.
 const clsData* frmData2::OldRowHere(int row) const {
     const int first = undo_.FirstPlaceOf(row) - tblData.FixedRows();
-    const bool old = first >= 0 && first < static_cast<int>(rows_.size());
-    return old ? rows_[static_cast<std::size_t>(first)].get() : nullptr;
+    return first >= 0 ? rows_.Item(static_cast<std::size_t>(first) + 1) : nullptr;
 }
 
 std::string frmData2::VariablesOf(const clsData& row) const {
@@ -267,19 +266,19 @@ std::string frmData2::VariablesOf(int row) const {
     return text;
 }
 
-std::shared_ptr<clsData> frmData2::NewRow(int row, const clsData* old) const {
-    auto data = old ? std::make_shared<clsData>(*old) : std::make_shared<clsData>();
+clsData frmData2::NewRow(int row, const clsData* old) const {
+    clsData data = old ? *old : clsData();
     for (int column = 0; column < firstColumns_.Count(); ++column) {
         const TableColumn& gone = firstColumns_[column]; // its entries went with the statement
         if (gone.IsStatement() && gone.kind != Kind::Digits &&
             columns_.Find(gone.kind, gone.item) < 0)
-            firstColumns_.Store(*data, column, {});
+            firstColumns_.Store(data, column, {});
     }
-    data->nVar = static_cast<signed char>(set_->nVar);
-    data->isDigit = Globals().IncludeDigits;
-    data->inOriginalUnits = original_;
+    data.nVar = static_cast<std::int8_t>(set_->nVar);
+    data.isDigit = Globals().IncludeDigits;
+    data.inOriginalUnits = original_;
     for (int column = 0; column < columns_.Count(); ++column)
-        columns_.Store(*data, column, tblData.Cell(row, column));
+        columns_.Store(data, column, tblData.Cell(row, column));
     return data;
 }
 

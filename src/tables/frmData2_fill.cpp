@@ -37,20 +37,17 @@ void frmData2::TakeSet() {
 
 /// Rows in the units of the paper and rows in system units cannot stand in one table.
 void frmData2::TakeRows() {
-    rows_.assign(set_->recData.begin(), set_->recData.end());
-    const auto isOriginal = [](const auto& row) { return row->inOriginalUnits; };
+    rows_ = set_->recData;
+    const auto isOriginal = [](const clsData& row) { return row.inOriginalUnits; };
     const bool all = std::all_of(rows_.begin(), rows_.end(), isOriginal);
-    const bool none = !rows_.empty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
+    const bool none = !rows_.IsEmpty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
     original_ = set_->isOriginalUnit && all;
     if (set_->isOriginalUnit && none) told_ = {{0, "The rows of this set stand in system units"}};
-    if (original_ || rows_.empty() || none) return;
+    if (original_ || rows_.IsEmpty() || none) return;
     adjusted_ = std::make_shared<clsTwo>(*set_);
-    adjusted_->recData.Clear();
-    for (const auto& row : rows_)
-        adjusted_->recData.Add(std::make_shared<clsData>(*row));
     adjusted_->isOriginalUnit = true;
     adjusted_->AdjustUnits();
-    rows_.assign(adjusted_->recData.begin(), adjusted_->recData.end());
+    rows_ = adjusted_->recData;
     set_->UX = adjusted_->UX;
     told_ = {{0, "Rows in the units of the paper were brought to system units"}};
 }
@@ -131,10 +128,12 @@ void frmData2::FillHeader() {
 void frmData2::FillRows() {
     {
         const ui::Grid::Batch batch(tblData);
-        tblData.Resize(static_cast<int>(rows_.size()) + 2, columns_.Count());
-        for (std::size_t i = 0; i < rows_.size(); ++i) {
+        tblData.Resize(static_cast<int>(rows_.Count()) + 2, columns_.Count());
+        int row = tblData.FixedRows();
+        for (const clsData& data : rows_) {
             for (int column = 0; column < columns_.Count(); ++column)
-                tblData.Cell(static_cast<int>(i) + 1, column, columns_.CellOf(*rows_[i], column));
+                tblData.Cell(row, column, columns_.CellOf(data, column));
+            ++row;
         }
     }
     undo_.Clear();

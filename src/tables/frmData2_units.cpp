@@ -28,12 +28,12 @@ void frmData2::AdjustUnits() {
         if (!IsEmptyRow(tblData, columns_, row)) rows.push_back(row);
     const std::shared_ptr<clsTwo> adjusted = Adjusted(rows);
     if (!adjusted) return;
-    std::vector<std::shared_ptr<clsData>> all(adjusted->recData.begin(), adjusted->recData.end());
-    const auto firstOld = all.begin() + static_cast<std::ptrdiff_t>(rows.size());
-    const std::vector<std::shared_ptr<clsData>> old(firstOld, all.end());
-    all.erase(firstOld, all.end());
-    const bool needsDigits =
-        std::any_of(all.begin(), all.end(), [](auto& row) { return row->isDigit; });
+    RowList old; // those that stood here at the beginning
+    for (std::size_t place = rows.size() + 1; place <= adjusted->recData.Count(); ++place)
+        old.Add(*adjusted->recData.Item(place));
+    bool needsDigits = false;
+    for (std::size_t place = 1; place <= rows.size(); ++place)
+        needsDigits = needsDigits || adjusted->recData.Item(place)->isDigit;
     if (needsDigits && !Globals().IncludeDigits) { // counts that the texts would not tell
         undo_.Do([](TableEdit&) {},
                  [this](bool done) {
@@ -49,7 +49,8 @@ void frmData2::AdjustUnits() {
         [&](TableEdit& edit) {
             for (std::size_t i = 0; i < rows.size(); ++i)
                 for (int column = 0; column < columns_.Count(); ++column)
-                    edit.Cell(rows[i], column, columns_.CellOf(*all[i], column));
+                    edit.Cell(rows[i], column,
+                              columns_.CellOf(*adjusted->recData.Item(i + 1), column));
         },
         [before, after](bool done) { done ? after() : before(); });
 }
@@ -61,16 +62,15 @@ std::shared_ptr<clsTwo> frmData2::Adjusted(const std::vector<int>& rows) const {
     adjusted->recData.Clear();
     for (const int row : rows)
         adjusted->recData.Add(NewRow(row, nullptr));
-    for (const auto& row : rows_)
-        adjusted->recData.Add(std::make_shared<clsData>(*row));
+    for (const clsData& row : rows_)
+        adjusted->recData.Add(row);
     adjusted->isOriginalUnit = true;
     return adjusted->AdjustUnits() ? adjusted : nullptr;
 }
 
 /// Takes the set in system units, or with null goes back to the units of the paper.
 void frmData2::TakeUnits(const std::shared_ptr<clsTwo>& adjusted,
-                         const std::array<clsX, 5>& statements,
-                         const std::vector<std::shared_ptr<clsData>>& rows) {
+                         const std::array<clsX, 5>& statements, const RowList& rows) {
     adjusted_ = adjusted;
     original_ = adjusted == nullptr;
     rows_ = rows;

@@ -210,7 +210,9 @@ TEST_F(ValueExport, FiguresAreBroughtToTheUnitOfTheValueOnce) {
                         ->recL.Item(std::size_t{1})
                         ->recS.Item(std::size_t{1})
                         ->recZ.Item(std::size_t{1});
-    record.UX[1].inSystemUnits = false;
+    clsX item = record.Statements(1);
+    item.inSystemUnits = false;
+    record.Statements(1, item);
     const std::string text = ExportDocument({2026, 1, 5});
     EXPECT_NE(text.find("<nExpandUncertValue>0.10<"), std::string::npos) << text;
 }

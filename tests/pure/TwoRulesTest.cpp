@@ -178,15 +178,15 @@ TEST(TwoRulesTest, OpenVariableIsTheFirstThatTheStateLacks) {
 
 TEST(TwoRulesTest, CodesOfDefinitionAndPresentationReadBack) {
     for (const char* code : {"DIR", "DT", "DX", "MN", "DFR", "RTP", "KRX", "DFX", "PU", ""}) {
-        const ResultDefinition definition = ParseDefinition(code);
-        EXPECT_EQ(definition.function + definition.relation, code);
+        const ResultDefinition definition = ResultDefinition::Of(code);
+        EXPECT_EQ(definition.Code(), code);
     }
-    EXPECT_EQ(ParseDefinition("DT"), (ResultDefinition{"DT", ""}));
-    EXPECT_EQ(ParseDefinition("DTP"), (ResultDefinition{"D", "TP"}));
-    EXPECT_EQ(ParsePresentation("CCG"), (Presentation{"C", true, false, true, ""}));
-    EXPECT_EQ(ParsePresentation("EQ"), (Presentation{"", false, true, false, "Q"}));
+    EXPECT_EQ(ResultDefinition::Of("DT"), (ResultDefinition{"DT", ""}));
+    EXPECT_EQ(ResultDefinition::Of("DTP"), (ResultDefinition{"D", "TP"}));
+    EXPECT_EQ(Presentation::Of("CCG"), (Presentation{"C", true, false, true, ""}));
+    EXPECT_EQ(Presentation::Of("EQ"), (Presentation{"", false, true, false, "Q"}));
     for (const char* code : {"Y", "CC", "SEG", "NCEG", "YCx", "E", ""})
-        EXPECT_EQ(PresentationCode(ParsePresentation(code)), code);
+        EXPECT_EQ(Presentation::Of(code).Code(), code);
 }
 
 TEST(TwoRulesTest, PresetsFollowTheProperty) {

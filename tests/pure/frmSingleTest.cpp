@@ -90,7 +90,7 @@ protected:
     }
     std::string ValueLines(std::size_t position = 1) const {
         const std::string text = Lines(*Stored(position));
-        return text.substr(text.find('\n') + 1);
+        return text.substr(text.find('\n', text.find("^A")) + 1); // behind the header
     }
 };
 

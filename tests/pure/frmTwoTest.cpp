@@ -16,13 +16,13 @@ class frmTable : public ui::Form {
 public:
     frmTable() : Form("frmData2", "Table") {}
     void Enter(const std::string& value) {
-        auto row = std::make_shared<clsData>();
-        row->nVar = static_cast<signed char>(Globals().CurrentTwo->nVar);
-        row->inOriginalUnits = true;
-        row->Values = {value, "300.0", "101.325", ""};
-        row->isDigit = Globals().IncludeDigits;
-        Globals().CurrentTwo->recData.Clear();
-        Globals().CurrentTwo->recData.Add(row);
+        clsTwo& set = *Globals().CurrentTwo;
+        set.recData.Clear();
+        clsData& row = set.recData.Add({});
+        row.nVar = static_cast<std::int8_t>(set.nVar);
+        row.inOriginalUnits = true;
+        row.Values = {value, "300.0", "101.325", ""};
+        row.isDigit = Globals().IncludeDigits;
         Globals().CurrentTwo->UX[0].iUnc = true;
         Globals().CurrentTwo->UX[0].UValue = "1%";
     }
@@ -269,9 +269,7 @@ TEST_F(frmTwoTest, EditThatChangesNothingKeepsEveryByteAndCancelToo) {
     header.Load("^A note O C 9 xyz UUU 3/4/2001 sealed ::Method:REFR:future tag:V1:WL:T = 293.15:"
                 "UFactor:2:dRIX:0.5%:");
     set->TakePending(header);
-    auto row = std::make_shared<clsData>();
-    ASSERT_TRUE(row->Load("^d 5893 1.3330 &", 1));
-    set->recData.Add(row);
+    ASSERT_TRUE(set->recData.Add({}).Load("^d 5893 1.3330 &", 1));
     set->AttachTo(*globals.CurrentS);
     const std::string before = Lines(*set);
     {
@@ -378,9 +376,7 @@ TEST_F(frmTwoTest, RepeatedSetTakesTheDefinitionAndNoMore) {
     set->AddX(Statement("^X 0 VDN L - & & & + 1 0.1% 5 - & & - & & - & & &"));
     set->AddX(Statement("^X 2 P L - & & & - & & & + 95 0.2 - & & - & & &"));
     set->UX[0].KVOUValue = "0.003";
-    auto row = std::make_shared<clsData>();
-    ASSERT_TRUE(row->Load("^g 20.0 3 14.7 3 62.3 5 0.0001", 2));
-    set->AddRow(row);
+    ASSERT_EQ(set->LoadRow("^g 20.0 3 14.7 3 62.3 5 0.0001"), clsTwo::Taken::Yes);
     set->AttachTo(*globals.CurrentS);
     const std::string before = Lines(*set);
     globals.SetToRepeat = set;

@@ -178,7 +178,7 @@ TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
     const auto water = source->FindL("7732185")->FindS(1);
     ASSERT_EQ(water->recZ.Count(), 1U);
     EXPECT_EQ(water->recZ.Item(std::size_t{1})->Header.DATACOMMENT, "");
-    EXPECT_FALSE(water->recZ.Item(std::size_t{1})->UX[0].IsStated());
+    EXPECT_FALSE(water->recZ.Item(std::size_t{1})->Statements(0).IsStated());
     const auto value = source->FindL("64175")->FindS(1)->recZ.Item(std::size_t{1});
     EXPECT_EQ(value->Factor, 0);
     EXPECT_EQ(value->Header.DATACOMMENT, "");

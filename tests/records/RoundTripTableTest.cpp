@@ -58,13 +58,23 @@ std::vector<std::string> NumbersOf(const std::string& document) {
 
 class RoundTrips : public test::RoundTripFixture, public testing::WithParamInterface<std::string> {
 protected:
+    static void LeaveAsADialogDoes(clsTwo& set) {
+        set.commentInSystemUnits = false;
+        for (clsX& item : set.UX)
+            item.inSystemUnits = false;
+    }
+    static void LeaveAsADialogDoes(clsZ& value) {
+        value.commentInSystemUnits = false;
+        for (int n = 0; n <= value.VariableCount(); ++n) {
+            clsX item = value.Statements(n);
+            item.inSystemUnits = false;
+            value.Statements(n, item);
+        }
+    }
     template <class Sets>
     static void LeaveAsADialogDoes(Sets& sets) {
-        for (const auto& set : sets) {
-            set->commentInSystemUnits = false;
-            for (clsX& item : set->UX)
-                item.inSystemUnits = false;
-        }
+        for (const auto& set : sets)
+            LeaveAsADialogDoes(*set);
     }
 };
 

@@ -91,10 +91,11 @@ TEST_F(RoundTrip, AFixedVariableInAUnitWithoutALetterIsConvertedOnce) {
     const std::string head = "^A & & & & & & & &\n";
     Read(kHead + head + "^f 1 TB S 1 L 25 S 300.1 & & &\n");
     Value().VARIABLE_UNIT = "bar";
-    Value().UX[1].iUnc = true;
-    Value().UX[1].PRPCODE = "P";
-    Value().UX[1].UValue = "0.10";
-    Value().UX[1].inSystemUnits = false;
+    clsX item;
+    item.iUnc = true;
+    item.PRPCODE = "P";
+    item.UValue = "0.10";
+    Value().Statements(1, item);
     const std::string saved = PrintDocument();
     EXPECT_EQ(saved.substr(saved.find(head)),
               head + "^f 1 TB S 1 L 2500 S 300.1 & & &\n"
@@ -133,13 +134,13 @@ TEST_F(RoundTrip, StatementsKeepTheirPlaceAndTheirText) {
                                    "^X 3 X1 L + & & 1 - & & & - & & - & & - & & &\n";
     const std::string saved = LoadAndSave(kHead + value + statements);
     EXPECT_NE(saved.find(value + statements), std::string::npos) << saved;
-    EXPECT_EQ(Value().UX[1].DSEvaluator, "the authors");
-    EXPECT_EQ(Value().UX[0].KVOUValue, "0.5");
-    EXPECT_EQ(Value().UX[0].Repetitions, "3");
+    EXPECT_EQ(Value().Statements(1).DSEvaluator, "the authors");
+    EXPECT_EQ(Value().Statements(0).KVOUValue, "0.5");
+    EXPECT_EQ(Value().Statements(0).Repetitions, "3");
     // A line that names its quantity by the code only finds its place.
     Read(kHead + value + "^X & VDN L - & & & - 7 & few + & 0.1% - & & - & & &\n");
-    EXPECT_EQ(Value().UX[0].UValue, "0.1%");
-    EXPECT_EQ(Value().UX[0].RType, -1);
+    EXPECT_EQ(Value().Statements(0).UValue, "0.1%");
+    EXPECT_EQ(Value().Statements(0).RType, -1);
 }
 
 TEST_F(RoundTrip, ValuesOfEveryUnitAndTagComeBackUnchanged) {

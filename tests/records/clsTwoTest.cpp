@@ -199,7 +199,7 @@ TEST_F(Sets, DifferencesLoseNoOffsetAndRatiosAreNotConverted) {
         clsTwo& set = Read1(kHeader + "^1 1 TB C " + function +
                             " 1\tY L & PB S 298.15 101.325 L\n^d 100.0 25.5 0.5\n" + kEnd);
         EXPECT_TRUE(set.AdjustUnits());
-        return set.Relation() + " " + Row().PRPVALUE() + " " + Row().PRPUNCERTY;
+        return std::string(set.Relation()) + " " + Row().PRPVALUE() + " " + Row().PRPUNCERTY;
     };
     EXPECT_EQ(adjusted("DIR"), "A 298.7 0.5");
     EXPECT_EQ(adjusted("MN"), "A 298.7 0.5");

@@ -282,8 +282,8 @@ TEST_F(frmData2EditTest, CountsOfDigitsFollowATextThatIsTypedAnew) {
     globals.IncludeDigits = true;
     AddRow("275.0", "999.8");
     AddRow("285", "1000");
-    for (const auto& row : set->recData)
-        row->isDigit = true;
+    for (clsData& row : set->recData)
+        row.isDigit = true;
     set->recData.Item(2)->Digits[0] = 2; // stated by a person
     OpenTable();
     form_->tblData.UserCell(1, 2, "999.80");

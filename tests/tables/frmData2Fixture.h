@@ -64,10 +64,10 @@ protected:
     }
     std::string Rows() const {
         std::string text;
-        for (const auto& row : set->recData) {
+        for (const clsData& row : set->recData) {
             for (int n = 1; n <= set->nVar; ++n)
-                text += row->VARIABLE(n) + " ";
-            text += row->PRPVALUE() + " " + row->PRPUNCERTY + ";";
+                text += row.VARIABLE(n) + " ";
+            text += row.PRPVALUE() + " " + row.PRPUNCERTY + ";";
         }
         return text;
     }
@@ -78,12 +78,11 @@ protected:
         return text;
     }
     void AddRow(const std::string& t, const std::string& value, bool original = true) {
-        auto row = std::make_shared<clsData>();
-        row->Values = {value, t, "", ""};
-        row->PRPUNCERTY = "0.1";
-        row->TIELINE = "7";
-        row->inOriginalUnits = original;
-        set->recData.Add(row);
+        clsData& row = set->recData.Add({});
+        row.Values = {value, t, "", ""};
+        row.PRPUNCERTY = "0.1";
+        row.TIELINE = "7";
+        row.inOriginalUnits = original;
     }
 
     std::shared_ptr<clsTwo> set;

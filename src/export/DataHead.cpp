@@ -1,4 +1,4 @@
-#include "export/PureData.h"
+#include "export/DataHead.h"
 
 #include <algorithm>
 
@@ -9,7 +9,6 @@
 #include "globals/KVOGlobal.h"
 #include "records/clsA.h"
 #include "records/clsL.h"
-#include "records/clsS.h"
 #include "records/clsX.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
@@ -33,7 +32,7 @@ bool IsBoilingProperty(std::string_view code) {
     return code == "PV" || code == "TB" || code == "HVP";
 }
 
-void ExportMethod(XmlWriter& xml, const std::string& propertyCode, const clsA& header) {
+void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& header) {
     const std::string code = TagText(header, ":Method:");
     if (code == "UNKNOWN") return;
     if (code.empty() || code == "OTHER") {
@@ -45,9 +44,9 @@ void ExportMethod(XmlWriter& xml, const std::string& propertyCode, const clsA& h
 
 } // namespace
 
-void TellDataError(const clsS& sample, std::string_view propertyCode, const std::string& fault) {
-    ui::Say(fault + "\nSystem: " + sample.Parent->ShowKey() +
-                "\nProperty: " + PropertyName(propertyCode, "Pure"),
+void TellDataError(const DataName& data, const std::string& fault) {
+    ui::Say(fault + "\nSystem: " + data.system +
+                "\nProperty: " + PropertyName(data.propertyCode, data.context),
             "Data Error!");
 }
 
@@ -55,25 +54,28 @@ bool HasTag(const clsA& header, std::string_view tag) {
     return CommentTagPart(header.DATACOMMENT).find(tag) != std::string::npos;
 }
 
-void ExportOrigin(XmlWriter& xml, const clsS& sample, const clsA& header) {
+void ExportComponent(XmlWriter& xml, const clsL& compound, std::string_view sample) {
     xml.Open("Component");
-    ExportRegNum(xml, *sample.Parent);
-    xml.Element("nSampleNm", Trim(sample.SMPNM));
+    ExportRegNum(xml, compound);
+    xml.Element("nSampleNm", Trim(sample));
     xml.Close();
+}
+
+void ExportOrigin(XmlWriter& xml, const clsA& header) {
     xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes(), header.EXPPURPOSE));
     xml.ElementIfAny("sCompiler", Globals().UserName);
     xml.ElementIfAny("sContributor", Globals().Organization);
     xml.ElementIfAny("dateDateAdded", IsoDate(header.DATEADDED));
 }
 
-void ExportPropertyHead(XmlWriter& xml, const std::string& code, const std::string& group,
+void ExportPropertyHead(XmlWriter& xml, const DataName& data, const std::string& group,
                         std::string_view phase, const clsA& header) {
     xml.Element("nPropNumber", "1");
     xml.Open("Property-MethodID");
     xml.Open("PropertyGroup");
     xml.Open(group);
-    xml.Element("ePropName", XMLPropertyName(code, "Pure"));
-    ExportMethod(xml, code, header);
+    xml.Element("ePropName", XMLPropertyName(data.propertyCode, data.context));
+    ExportMethod(xml, data.propertyCode, header);
     xml.Close();
     xml.Close();
     xml.Close();
@@ -89,14 +91,14 @@ void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inne
     xml.Close();
 }
 
-void ExportPhases(XmlWriter& xml, const std::string& code, const clsA& header,
-                  std::initializer_list<std::string_view> phases) {
+void ExportPhases(XmlWriter& xml, std::string_view code, const clsA& header,
+                  const std::vector<std::string>& phases) {
     std::vector<std::string_view> known;
     const auto add = [&known](std::string_view phase) {
         const bool isKnown = std::find(known.begin(), known.end(), phase) != known.end();
         if (!IsBlankField(phase) && !isKnown) known.push_back(phase);
     };
-    for (const std::string_view phase : phases)
+    for (const std::string& phase : phases)
         add(phase);
     const bool boils = IsBoilingProperty(code) && !HasTag(header, ":FP:");
     if (HasTag(header, ":PB:") || boils) add("G");

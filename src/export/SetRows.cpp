@@ -1,0 +1,178 @@
+#include "export/SetRows.h"
+
+#include <algorithm>
+
+#include "chem/CommentTags.h"
+#include "export/DataHead.h"
+#include "export/XmlWriter.h"
+#include "records/DataSet.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr CodeText Presentations[] = {
+    {"Direct value, X", "DIR"},
+    {"Difference between upper and lower temperature, X(T2)-X(T1)", "DT"},
+    {"Difference between upper and lower pressure, X(P2)-X(P1)", "DX"},
+    {"Mean between upper and lower temperature, [X(T2)+X(T1)]/2", "MN"},
+};
+
+constexpr CodeText RelativePresentations[] = {
+    {"Difference with the reference state, X-X(REF)", "D"},
+    {"Ratio with the reference state, X/X(REF)", "R"},
+    {"Ratio of difference with the reference state to the reference state, [X-X(REF)]/X(REF)", "K"},
+};
+
+std::string PresentationOf(const ResultDefinition& definition) {
+    return definition.IsRelative() ? TextOfCode(RelativePresentations, definition.function)
+                                   : TextOfCode(Presentations, definition.Code());
+}
+
+void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::string& digits,
+                         const std::string& typed) {
+    if (!IsNumeric(typed)) return;
+    const ExportNumber number = ExportedValue(typed, {"S"});
+    xml.Element(element, number.text);
+    xml.Element(digits, std::to_string(number.digits));
+}
+
+/// What the set states about a variable that stays the same, or null.
+const clsX* StatementsOf(const DataSet& set, const std::string& code) {
+    const auto found = std::ranges::find_if(set.UX, [&](const clsX& item) {
+        return item.N > set.nVar && item.PRPCODE == code && item.IsStated();
+    });
+    return found == set.UX.end() ? nullptr : &*found;
+}
+
+ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
+    return {conversion.code, conversion.factor, conversion.molarMass, converts};
+}
+
+// What stands behind a mark that is off is not stated, and says nothing about the rows either.
+void DropUnstated(clsX& item) {
+    if (!item.iDS) item.DSEvaluator = item.DSLevel = item.DSValue = "";
+    if (!item.iRep) item.Repetitions = item.RValue = "";
+    if (!item.iRep) item.RType = -1;
+    if (!item.iUnc) item.ULevel = item.UValue = "";
+    if (!item.iCD) item.CDRms = "";
+}
+
+// Statements that only some rows make announce themselves like those of the set.
+void AnnounceRows(const DataSet& set, SetRows& rows) {
+    for (const clsData& row : set.recData) {
+        if (!row.Extras) continue;
+        for (int n = 0; n <= set.nVar; ++n) {
+            const RowStatements& own = row.StatementsOf(n);
+            clsX& item = rows.quantities[static_cast<std::size_t>(n)].item;
+            item.iDS = item.iDS || !own.DS.empty();
+            item.iRep = item.iRep || !own.Rep.empty();
+            item.iUnc = item.iUnc || !own.Unc.empty();
+        }
+        clsX& property = rows.quantities[0].item;
+        property.iCD = property.iCD || !row.Extras->CD.empty();
+    }
+}
+
+bool IsNumericRow(const clsData& row) {
+    for (int n = 0; n <= row.nVar; ++n)
+        if (!IsNumeric(row.Values[static_cast<std::size_t>(n)])) return false;
+    return true;
+}
+
+constexpr const char* NoValidRows = "Rows without a valid number in ";
+constexpr const char* NoRepeatability = "Missing repeatability in ";
+
+} // namespace
+
+SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
+    quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0]};
+    quantities[0].unit.difference = set.Relation() == "D";
+    for (int n = 1; n <= set.nVar; ++n) {
+        const auto place = static_cast<std::size_t>(n);
+        ExportUnit unit{set.VAR_UNIT(n), 0, 0, set.isOriginalUnit};
+        unit.wavelength = set.VARIABLE(n) == "WL";
+        if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
+        quantities[place] = {unit, set.UX[place]};
+    }
+    for (Quantity& quantity : quantities)
+        DropUnstated(quantity.item);
+    AnnounceRows(set, *this);
+}
+
+ExportUnit SetRows::UnitIn(const clsData& row, int n) const {
+    ExportUnit unit = quantities[static_cast<std::size_t>(n)].unit;
+    unit.converts = row.inOriginalUnits;
+    if (n == 0 && unit.converts && set.MolarMassFollowsRows()) unit.molarMass = set.MolarMass(row);
+    return unit;
+}
+
+std::string SetRows::Fault(const std::string& group) const {
+    bool hasPlace = IsXmlName(group);
+    for (int n = 1; n <= set.nVar; ++n)
+        hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n)));
+    if (!hasPlace) return NoPlaceInExport;
+    if (set.recData.IsEmpty()) return "No numerical data in ";
+    if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;
+    if (PresentationOf(set.Definition()).empty())
+        return "Unknown definition of results " + set.PROPERTY_FUNCT;
+    // Where the molar mass follows the rows, each row is asked for its own.
+    std::string fault =
+        set.MolarMassFollowsRows() ? std::string() : ConversionFault(quantities[0].unit);
+    for (int n = 1; n <= set.nVar && fault.empty(); ++n)
+        fault = ConversionFault(quantities[static_cast<std::size_t>(n)].unit);
+    return fault;
+}
+
+void SetRows::ExportDefinition(XmlWriter& xml, const std::string& temperature,
+                               const std::string& pressure, const std::string& phase) const {
+    const ResultDefinition definition = set.Definition();
+    xml.Element("ePresentation", PresentationOf(definition));
+    if (!definition.IsRelative()) return;
+    xml.ElementIfAny("eRefStateType", ReferenceStateText(definition.relation));
+    if (definition.FixesTemperature())
+        ExportNumberAsTyped(xml, "nRefTemp", "nRefTempDigits", temperature);
+    if (definition.FixesPressure())
+        ExportNumberAsTyped(xml, "nRefPressure", "nRefPressureDigits", pressure);
+    if (!IsBlankField(phase)) ExportPhase(xml, "RefPhaseID", "eRefPhase", phase);
+}
+
+void SetRows::ExportConstants(XmlWriter& xml) const {
+    for (const std::string code : {"T", "P", "WL", "WF"}) {
+        const std::string value = set.ConstantOf(code);
+        if (value.empty()) continue;
+        ExportUnit unit{"S"};
+        unit.wavelength = code == "WL";
+        const ExportNumber number = ExportedValue(value, unit);
+        const clsX* stated = StatementsOf(set, code);
+        ExportConstraint(xml, XMLVariableGroup(code), XMLVariableName(code), number.text,
+                         number.digits, [&] {
+                             if (stated && !ExportConstraintStatements(xml, *stated, value, unit))
+                                 TellDataError(NameOf(set), NoRepeatability);
+                         });
+    }
+}
+
+void SetRows::ExportVariables(XmlWriter& xml) const {
+    for (int n = 1; n <= set.nVar; ++n)
+        ExportVariable(xml, n, set.VARIABLE(n), set.PhaseFor(n),
+                       quantities[static_cast<std::size_t>(n)].item);
+}
+
+void SetRows::ExportRows(XmlWriter& xml) {
+    bool leftOut = false;
+    for (const clsData& row : set.recData) {
+        if (IsNumericRow(row))
+            row.ExportData(xml, *this);
+        else
+            leftOut = true;
+    }
+    if (leftOut) TellDataError(NameOf(set), NoValidRows);
+    if (lacksRepeatability) TellDataError(NameOf(set), NoRepeatability);
+}
+
+} // namespace vexora

@@ -1,0 +1,48 @@
+// The rows of any set in the export, and what the set says of its quantities in front of them.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "export/Statements.h"
+#include "records/clsX.h"
+
+namespace vexora {
+
+class DataSet;
+class clsData;
+class XmlWriter;
+
+/// What a set gives to the export of its rows: how values and statements of each quantity are
+/// converted (0 the property, 1 to 3 the variables), and its statements for rows without their own.
+struct SetRows {
+    struct Quantity {
+        ExportUnit unit; // converts tells of the statements of the set; a row has its own flag
+        clsX item;
+    };
+    const DataSet& set;
+    std::array<Quantity, 4> quantities;
+    bool lacksRepeatability = false; // announced, but without a figure in some row
+
+    /// Statements that only some rows make announce themselves like those of the set.
+    explicit SetRows(const DataSet& set);
+
+    /// The unit of quantity n in a row, with the molar mass that it goes by there.
+    ExportUnit UnitIn(const clsData& row, int n) const;
+    /// Why the rows cannot be exported, in words for the user, or empty. group is that of the
+    /// property.
+    std::string Fault(const std::string& group) const;
+
+    /// How the results are defined, and the state that they are relative to.
+    void ExportDefinition(XmlWriter& xml, const std::string& temperature,
+                          const std::string& pressure, const std::string& phase) const;
+    /// The state variables that the comment states for all rows.
+    void ExportConstants(XmlWriter& xml) const;
+    /// The heads of the variables.
+    void ExportVariables(XmlWriter& xml) const;
+    /// One NumValues element for each row with numbers only; tells of the others, and of an
+    /// announced repeatability that lacks its figure.
+    void ExportRows(XmlWriter& xml);
+};
+
+} // namespace vexora

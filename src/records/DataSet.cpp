@@ -1,0 +1,152 @@
+#include "records/DataSet.h"
+
+#include "chem/CommentTags.h"
+#include "records/LineWriter.h"
+#include "records/SetLines.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+DataSet::DataSet() {
+    for (std::size_t n = 0; n < UX.size(); ++n)
+        UX[n].N = static_cast<int>(n);
+}
+
+std::string DataSet::ConstantOf(std::string_view code) const {
+    if (HasVariable(code)) return {};
+    const std::string tags = CommentTagPart(Header.DATACOMMENT);
+    const std::string mark = ":" + std::string(code) + " = ";
+    const std::size_t at = tags.find(mark);
+    if (at == std::string::npos) return {};
+    const std::size_t from = at + mark.size();
+    const std::string value = tags.substr(from, tags.find(':', from) - from);
+    return IsNumeric(value) ? value : std::string();
+}
+
+bool DataSet::HasVariable(std::string_view code) const {
+    for (int n = 1; n <= nVar; ++n)
+        if (VARIABLE(n) == code) return true;
+    return false;
+}
+
+void DataSet::AddX(const clsX& item) {
+    clsX added = item;
+    if (added.N < 0 && added.PRPCODE == PRPCODE) added.N = 0;
+    for (int n = 1; n <= nVar && added.N < 0; ++n)
+        if (added.PRPCODE == VARIABLE(n)) added.N = n;
+    if (added.N < 0 || added.N >= Items) {
+        OtherX.push_back(added);
+        return;
+    }
+    added.Constr = added.N > nVar;
+    UX[static_cast<std::size_t>(added.N)] = added;
+}
+
+clsData& DataSet::AddRow(clsData row) {
+    isOriginalUnit = row.inOriginalUnits || (isOriginalUnit && !recData.IsEmpty());
+    return recData.Add(std::move(row));
+}
+
+OpenRecord::Taken DataSet::LoadRow(std::string_view line) {
+    clsData row;
+    if (!row.Load(line, nVar)) return Taken::Incomplete;
+    AddRow(std::move(row));
+    return Taken::Yes;
+}
+
+bool DataSet::LoadRowStatements(std::string_view line) {
+    clsData* const row = recData.Last();
+    if (row) row->LoadExtras(line);
+    return row != nullptr;
+}
+
+void DataSet::TakePending(const clsA& pending) {
+    Header.TakeHeader(pending);
+    if (pending.Factor <= 0) return;
+    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
+    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+}
+
+double DataSet::MolarMass() const {
+    return MolarMassFollowsRows() ? 0 : MolarMass(clsData());
+}
+
+bool DataSet::NeedsMolarMass() const {
+    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
+}
+
+void DataSet::PrintEnd(LineWriter& out) const {
+    out.Line("^M 0");
+}
+
+std::string DataSet::PropertyUnitField() const {
+    return isOriginalUnit && Factor > 0 ? std::string("S") : UnitField(PROPERTY_UNIT);
+}
+
+void DataSet::Print(LineWriter& out) const {
+    if (NeedsMolarMass() && !MolarMassFollowsRows()) out.Line("^M " + NumberText(MolarMass()));
+    PrintHead(out);
+    PrintStatements(out);
+    PrintRows(out);
+    PrintEnd(out);
+}
+
+void DataSet::PrintHead(LineWriter& out) const {
+    Header.PrintHeader(out, CommentForRecord());
+    if (isOriginalUnit) {
+        double factor = Factor;
+        if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
+            factor = FactorOfLongUnit(PROPERTY_UNIT, *this, Owner());
+        if (factor > 0) PrintFactor(out, factor);
+    }
+    out.Line(DefinitionLine());
+}
+
+void DataSet::PrintStatements(LineWriter& out) const {
+    for (int n = 1; n < Items; ++n) {
+        const bool inEnteredUnit = isOriginalUnit && n <= nVar; // a constraint is in system units
+        UX[static_cast<std::size_t>(n)].SaveX(out, inEnteredUnit ? VAR_UNIT(n) : "");
+    }
+    UX[0].SaveX(out, "");
+    SaveOthers(out, OtherX);
+}
+
+void DataSet::PrintRows(LineWriter& out) const {
+    std::array<UnitConversion, MostVariables + 1> units;
+    bool converts = false;
+    for (int n = 1; n <= nVar; ++n) {
+        const std::string& code = VAR_UNIT(n);
+        if (!isOriginalUnit || !IsUnitLong(code)) continue;
+        units[static_cast<std::size_t>(n)].factor = FactorOfLongUnit(code, *this, Owner());
+        converts = true;
+    }
+    for (const clsData& row : recData) {
+        if (!converts || !row.inOriginalUnits) {
+            row.PrintData(out);
+            continue;
+        }
+        clsData converted = row;
+        for (int n = 1; n <= nVar; ++n)
+            converted.Convert(n, units[static_cast<std::size_t>(n)]);
+        converted.PrintData(out);
+    }
+}
+
+/// The comment with the precisions that a dialog wrote brought to system units, as differences.
+std::string DataSet::CommentForRecord() const {
+    const std::string comment = CommentOfLine();
+    if (commentInSystemUnits || !isOriginalUnit) return comment;
+    return CommentInSystemUnits(comment, [this](const std::string& code, const std::string& typed) {
+        return SystemPrecision(code, typed);
+    });
+}
+
+std::string DataSet::SystemPrecision(const std::string& code, const std::string& typed) const {
+    if (code == PRPCODE) return PropertyConversion().DifferenceText(typed);
+    for (int n = 1; n <= nVar; ++n)
+        if (code == VARIABLE(n)) return VariableConversion(n).DifferenceText(typed);
+    return typed;
+}
+
+} // namespace vexora

@@ -1,0 +1,133 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/OpenRecord.h"
+#include "records/ResultDefinition.h"
+#include "records/RowList.h"
+#include "records/UnitConversion.h"
+#include "records/clsX.h"
+
+namespace vexora {
+
+class LineWriter;
+class XmlWriter;
+
+/// What every set with rows has in common: a property measured against one to three state
+/// variables, statements of uncertainty about each of them, and the rows. A kind of set is a class
+/// that adds its own line, says what its variables are, and knows the molar mass that its rows go
+/// by. Table, plot, checks, reading and export work on this.
+///
+/// On disk a set is a header ^A, a factor ^M where its unit has no letter, the line of its class, a
+/// ^X line for each item that is stated, the rows, and what closes it (^M 0).
+class DataSet : public OpenRecord {
+public:
+    static constexpr int MostVariables = 3;
+    static constexpr int Items = 5; // the property, the variables, and behind them constraints
+
+    int nVar = 1;
+    std::string PRPCODE, PROPERTY_UNIT, PROPERTY_FUNCT = "DIR", PRPSETNO, DATATYPE;
+    double Factor = 0; // factor of a non-standard unit to the system unit, 0 when none
+    bool isOriginalUnit = true;
+    /// Precision tags of the comment stand in system units (see clsX::inSystemUnits).
+    bool commentInSystemUnits = false;
+    std::array<clsX, Items> UX; // 0 the property, 1 to nVar the variables, then constraints
+    std::vector<clsX> OtherX;   // ^X lines with no place in the set, kept as read
+    RowList recData;
+    double FallbackMolarMass = 0; // [g/mol] of the file, where the formula gives none
+
+    DataSet();
+
+    // What a kind of set says of itself.
+
+    /// "Pure", "Bin", "Tern" or "React": the lists of the vocabulary that hold for it.
+    virtual std::string_view DataContext() const = 0;
+    /// The compound, mixture or reaction, as messages name it.
+    virtual std::string SystemName() const = 0;
+    /// Code and conversion code of variable n, 1 to nVar; empty outside.
+    virtual const std::string& VARIABLE(int n) const = 0;
+    virtual const std::string& VAR_UNIT(int n) const = 0;
+    /// The phase in which a quantity is meant: 0 the property, 1 to nVar the variables.
+    virtual const std::string& PhaseFor(int n) const = 0;
+    /// All phases that are there together, the main one first; "&" for none.
+    virtual std::vector<std::string> Phases() const = 0;
+    /// Rows may bear a number that ties them to rows of other sets.
+    virtual bool HasTies() const { return false; }
+    /// Molar mass [g/mol] that a unit by mass goes by in this row, 0 when it is not known. Of a
+    /// pure compound it is the same for all rows, in a mixture it follows the composition.
+    virtual double MolarMass(const clsData& row) const = 0;
+    virtual bool MolarMassFollowsRows() const { return false; }
+    /// The record that the set belongs to, as messages name it on refusal; null for none.
+    virtual const Record* Owner() const = 0;
+    /// A set of its own with the same definition, statements and rows, so that a table that is
+    /// given up has changed nothing. It has no node and stands in no collection, but knows its
+    /// owner.
+    virtual std::shared_ptr<DataSet> Copy() const = 0;
+
+    // What follows from that.
+
+    /// The value of a state variable that the comment states for all rows, in its system unit;
+    /// empty when there is none, or it varies.
+    std::string ConstantOf(std::string_view code) const;
+    ResultDefinition Definition() const { return ResultDefinition::Of(PROPERTY_FUNCT); }
+    /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
+    std::string_view Relation() const { return Definition().Relation(); }
+    bool HasVariable(std::string_view code) const;
+
+    /// By its number, else by its code; what has no place in the set is kept as read.
+    void AddX(const clsX& item) override;
+    /// Adds a row; the set is in original units as long as any of its rows is.
+    clsData& AddRow(clsData row);
+    Taken LoadRow(std::string_view line) override;
+    bool LoadRowStatements(std::string_view line) override;
+    /// Header fields and a pending factor of the reader.
+    virtual void TakePending(const clsA& pending);
+    /// Writes the set with its statements and rows. Values of variables in units without a letter
+    /// are brought to system units in the lines. Throws SaveRefused for a unit that has no factor.
+    void Print(LineWriter& out) const override;
+
+    /// Molar mass [g/mol] that the set stands under, 0 when it is not known or follows the rows.
+    double MolarMass() const;
+    /// The unit is based on mass, so that the molar mass stands in front of the set.
+    bool NeedsMolarMass() const;
+    /// The conversion of the property (none for a ratio) and of variable n, as entered. That of the
+    /// property takes the molar mass of the set or of a row.
+    UnitConversion PropertyConversion() const;
+    UnitConversion PropertyConversion(const clsData& row) const;
+    UnitConversion VariableConversion(int n) const;
+    /// The conversion of quantity n, 0 the property.
+    UnitConversion Conversion(int n) const {
+        return n == 0 ? PropertyConversion() : VariableConversion(n);
+    }
+    /// Brings all rows and statements to system units; the unit codes stay as the memory of the
+    /// paper's units. False, and nothing changes, when a unit or a molar mass is not known.
+    bool AdjustUnits();
+
+protected:
+    DataSet(const DataSet&) = default;
+    DataSet& operator=(const DataSet&) = default;
+
+    /// The line of the class.
+    virtual std::string DefinitionLine() const = 0;
+    /// The comment as the record bears it, with the tags that the line of the class leaves to it.
+    virtual std::string CommentOfLine() const { return Header.DATACOMMENT; }
+    /// What stands behind the rows, "^M 0" to close the factor.
+    virtual void PrintEnd(LineWriter& out) const;
+    /// The unit field of the property: a letter, or "S" where a factor stands in front.
+    std::string PropertyUnitField() const;
+
+private:
+    UnitConversion PropertyConversion(double molarMass) const;
+    std::string CommentForRecord() const;
+    std::string SystemPrecision(const std::string& code, const std::string& typed) const;
+    void PrintHead(LineWriter& out) const;
+    void PrintStatements(LineWriter& out) const;
+    void PrintRows(LineWriter& out) const;
+    void AdjustStatements();
+};
+
+} // namespace vexora

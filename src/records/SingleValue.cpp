@@ -1,0 +1,153 @@
+#include "records/SingleValue.h"
+
+#include "records/LineWriter.h"
+#include "records/SetLines.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+
+#include <cmath>
+
+namespace vexora {
+
+SingleValue::Stated& SingleValue::Rare() {
+    if (!stated_) stated_ = std::make_unique<Stated>();
+    return *stated_;
+}
+
+clsX SingleValue::Statements(int n) const {
+    const auto place = static_cast<std::size_t>(n);
+    clsX item;
+    item.repOfValueLine = n == 0;
+    if (stated_ && place < stated_->items.size()) item = stated_->items[place];
+    item.N = n;
+    if (n > 0) return item;
+    item.KVOUValue = PRPUNCERTY;
+    item.RValue = PRECIS;
+    item.Repetitions = DETERMNM;
+    return item;
+}
+
+void SingleValue::Statements(int n, const clsX& item) {
+    const auto place = static_cast<std::size_t>(n);
+    if (n == 0) {
+        PRPUNCERTY = item.KVOUValue;
+        PRECIS = item.RValue;
+        DETERMNM = item.Repetitions;
+    }
+    if (item == Statements(n)) return;
+    auto& items = Rare().items;
+    while (items.size() <= place) {
+        items.emplace_back();
+        items.back().repOfValueLine = items.size() == 1;
+    }
+    items[place] = item;
+}
+
+void SingleValue::AddX(const clsX& item) {
+    clsX added = item;
+    if (added.N < 0 && PRPCODE == added.PRPCODE) added.N = 0;
+    for (int n = 1; n <= VariableCount() && added.N < 0; ++n)
+        if (added.PRPCODE == VARIABLE(n)) added.N = n;
+    if (added.N < 0 || added.N > VariableCount()) {
+        Rare().others.push_back(added);
+        return;
+    }
+    if (added.N == 0) added.KVOUValue = PRPUNCERTY; // the line of an item does not carry it
+    if (!added.iRep && added.RValue.empty() && added.Repetitions.empty()) {
+        const clsX before = Statements(added.N);
+        added.RValue = before.RValue;
+        added.Repetitions = before.Repetitions;
+        added.repOfValueLine = true;
+    }
+    Statements(added.N, added);
+}
+
+void SingleValue::TakePending(const clsA& pending) {
+    Header.TakeHeader(pending);
+    if (pending.Factor <= 0 || !isOriginalUnit) return;
+    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
+    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+}
+
+void SingleValue::LoadValue(WordReader& words) {
+    PRPVALUE = NextField(words);
+    PRPUNCERTY = NextField(words);
+    PRECIS = NextField(words);
+    DETERMNM = WithoutPlaceholder(Trim(words.Rest()));
+    Factor = 0;
+    commentInSystemUnits = true;
+}
+
+UnitConversion SingleValue::PropertyConversion() const {
+    if (!isOriginalUnit) return {};
+    return {PROPERTY_UNIT, Factor, NeedsMolarMass() ? MolarMass() : 0};
+}
+
+double SingleValue::SystemValue() const {
+    return isOriginalUnit ? PropertyConversion().Absolute(Val(PRPVALUE)) : Val(PRPVALUE);
+}
+
+bool SingleValue::NeedsMolarMass() const {
+    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
+}
+
+void SingleValue::Print(LineWriter& out) const {
+    if (NeedsMolarMass()) out.Line("^M " + NumberText(MolarMass()));
+    Header.PrintHeader(out, CommentForRecord());
+    const bool factorStands = PrintFactor(out);
+    const bool bySystemUnit = isOriginalUnit && Factor > 0;
+    std::vector<std::string> fields =
+        LineFields(bySystemUnit ? std::string("S") : UnitField(PROPERTY_UNIT));
+    fields.insert(fields.end(), {PRPVALUE, PRPUNCERTY, PrecisionForRecord()});
+    out.Fields(fields, DETERMNM);
+    if (factorStands || NeedsMolarMass()) out.Line("^M 0");
+    PrintStatements(out);
+}
+
+/// Those of the variables, then that of the property.
+void SingleValue::PrintStatements(LineWriter& out) const {
+    if (!stated_) return;
+    for (int n = 1; n <= VariableCount(); ++n)
+        Statements(n).SaveX(out, isOriginalUnit ? VAR_UNIT(n) : "");
+    Statements(0).SaveX(out, "");
+    SaveOthers(out, stated_->others);
+}
+
+/// Writes the factor of a unit without a letter; true when it did.
+bool SingleValue::PrintFactor(LineWriter& out) const {
+    if (!isOriginalUnit) return false;
+    double factor = Factor;
+    if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
+        factor = FactorOfLongUnit(PROPERTY_UNIT, *this, Owner());
+    if (factor <= 0) return false;
+    vexora::PrintFactor(out, factor);
+    return true;
+}
+
+/// Per cent of the value becomes the figure itself; a sign alone says nothing.
+std::string SingleValue::PrecisionForRecord() const {
+    const std::string_view precision = PRECIS;
+    const std::size_t percent = precision.find('%');
+    if (percent == precision.npos) return PRECIS;
+    if (Trim(precision) == "%") return {};
+    return NumberText(std::abs(Val(precision.substr(0, percent)) * Val(PRPVALUE)) / 100);
+}
+
+/// The comment with the precisions that a dialog wrote brought to system units, as differences.
+std::string SingleValue::CommentForRecord() const {
+    if (commentInSystemUnits || !isOriginalUnit) return Header.DATACOMMENT;
+    return CommentInSystemUnits(Header.DATACOMMENT,
+                                [this](const std::string& code, const std::string& typed) {
+                                    return SystemPrecision(code, typed);
+                                });
+}
+
+std::string SingleValue::SystemPrecision(const std::string& code, const std::string& typed) const {
+    if (PRPCODE == code) return PropertyConversion().DifferenceText(typed);
+    for (int n = 1; n <= VariableCount(); ++n)
+        if (code == VARIABLE(n)) return UnitConversion{VAR_UNIT(n)}.DifferenceText(typed);
+    return typed;
+}
+
+} // namespace vexora
