@@ -1,165 +1,194 @@
 #include "chem/CommentTags.h"
 
-#include "chem/clsMethod.h"
-#include "chem/clsProperty.h"
-#include "globals/KVOGlobal.h"
-#include "reference/Numbers.h"
 #include "reference/Text.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <optional>
-#include <utility>
 
 namespace vexora {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kSampleFlags = {"fd", "db", "cm", "av"};
+constexpr std::string_view FirstTag = "::";
 
-clsMethod& Method() {
-    auto& method = Globals().CurrentMethod;
-    if (!method) method = std::make_shared<clsMethod>();
-    return *method;
-}
+constexpr std::array<std::string_view, 6> OwnWords = {"UFactor", "Method", "sMethod",
+                                                      "FP",      "PB",     "V1"};
 
-/// The text without the characters from position `first` to position `last`.
-std::string Cut(std::string_view text, std::size_t first, std::size_t last) {
-    return Substring(text, 1, first - 1) + Substring(text, last + 1);
-}
-
-/// Characters behind position `from` and in front of position `end`.
-std::string Between(std::string_view text, std::size_t from, std::size_t end) {
-    return end > from + 1 ? Substring(text, from + 1, end - from - 1) : std::string();
-}
-
-/// Position of the next colon from a position on, one behind the text when there is none.
-std::size_t ColonOrEnd(std::string_view text, std::size_t from) {
-    const std::size_t colon = Find(text, ":", from);
-    return colon ? colon : CodePointCount(text) + 1;
-}
-
-/// Takes the tag with this opening (":Name:") out of the text; its closing colon stays unless
-/// asked.
-std::optional<std::string> TakeTag(std::string& text, std::string_view opening, bool withColon) {
-    const std::size_t p = Find(text, opening);
-    if (p == 0) return std::nullopt;
-    const std::size_t lastOfOpening = p + CodePointCount(opening) - 1;
-    const std::size_t q = ColonOrEnd(text, lastOfOpening + 1);
-    const std::string value = Between(text, lastOfOpening, q);
-    text = Cut(text, p, withColon ? q : q - 1);
-    return value;
-}
-
-struct FreeMethod {
-    std::string text;   // free-text method
-    std::string others; // the comment without it
-};
-
-FreeMethod SplitSMethod(std::string_view comment) {
-    constexpr std::string_view opening = ":sMethod:";
-    const std::size_t p = Find(comment, opening);
-    if (p == 0) return {{}, std::string(comment)};
-    const std::size_t valueAt = p + opening.size();
-    const std::size_t length = CodePointCount(comment);
-    const std::size_t colon = Find(comment, ":", valueAt);
-    // A tag without its closing colon loses its last letter; stored comments are read that way.
-    const std::size_t q = colon ? colon : length;
-    const bool tagsFollow = colon != 0 && colon < length;
-    return {Between(comment, valueAt - 1, q), Cut(comment, p, tagsFollow ? q - 1 : q)};
-}
-
-/// A number, perhaps per cent: what may stand in a precision tag.
-bool IsPrecision(std::string_view text) {
-    text = TrimBlanks(text);
-    if (text.ends_with('%')) text.remove_suffix(1);
-    return IsNumeric(text);
-}
-
-void TakePrecision(clsProperty& item, std::string& tags) {
-    const std::string opening = ":d" + item.PropertyCode + ":";
-    const std::size_t p = Find(tags, opening);
-    if (p == 0) return;
-    const std::size_t q = p + CodePointCount(opening) - 1;
-    const std::size_t r = ColonOrEnd(tags, q + 1);
-    item.PrecisionText = Between(tags, q, r);
-    tags = Cut(tags, p + 1, r);
-    if (item.PrecisionText.empty()) return;
-    if (item.PrecisionText.find('%') == std::string::npos) {
-        item.PRECISION = Val(item.PrecisionText);
-        return;
-    }
-    const std::string percent =
-        Substring(item.PrecisionText, 1, CodePointCount(item.PrecisionText) - 1);
-    item.PRECISION = std::abs(Val(percent) * item.Value) / 100;
-}
-
-void DropStaleFactor(std::string& keyRest) {
-    for (std::size_t p = Find(keyRest, "UFactor"); p != 0; p = Find(keyRest, "UFactor")) {
-        const std::size_t q = Find(keyRest, ":", p + 8);
-        const std::string front = Substring(keyRest, 1, p - 1);
-        keyRest = q > p ? front + Substring(keyRest, q + 1) : front;
-    }
+std::string Enclosed(std::string_view word) {
+    return ":" + std::string(word) + ":";
 }
 
 } // namespace
 
-void SplitCommentTags() {
-    clsMethod& method = Method();
-    method.Method = TakeTag(method.KeySaved, ":Method:", false).value_or("");
-    const auto factor = TakeTag(method.KeySaved, ":UFactor:", false);
-    method.f = factor ? Val(*factor) : 1;
+CommentTags::CommentTags(std::string_view comment) {
+    const std::size_t at = std::min(comment.find(FirstTag), comment.size());
+    front_ = comment.substr(0, at);
+    tags_ = comment.substr(at);
 }
 
-void DecodePrecisionTags(clsProperty& head) {
-    clsMethod& method = Method();
-    if (method.KeySaved.empty()) method.KeySaved = "::";
-    if (method.KeyVolatile.empty()) method.KeyVolatile = "::";
-    for (clsProperty* item = &head; item; item = item->isLast ? nullptr : item->NextItem.get())
-        TakePrecision(*item, method.KeySaved);
-    if (const auto code = TakeTag(method.KeySaved, ":Method:", true)) method.Method = *code;
-    std::string& keyRest = Globals().KeyRest;
-    keyRest = method.KeySaved;
-    while (keyRest.starts_with("::"))
-        keyRest.erase(0, 1);
+CommentTags CommentTags::OfTags(std::string_view tags) {
+    CommentTags all;
+    all.tags_ = tags;
+    all.isComment_ = false;
+    return all;
 }
 
-void EncodeTags(const clsProperty& head) {
-    clsMethod& method = Method();
-    std::string& keyRest = Globals().KeyRest;
-    method.KeySaved = ":";
-    if (!method.Method.empty()) method.KeySaved += ":Method:" + method.Method;
-    if (keyRest.empty() || keyRest == "::") keyRest = ":";
-    DropStaleFactor(keyRest);
-    // Taking a free-text method off the end takes the colon of the tag in front of it as well.
-    if (!keyRest.ends_with(':')) keyRest += ':';
-    method.KeySaved += keyRest;
-    if (method.f > 0 && method.f != 1)
-        method.KeySaved += "UFactor:" + NumberText(Val(NumberText(method.f))) + ":";
-    for (const clsProperty* item = &head; item;
-         item = item->isLast ? nullptr : item->NextItem.get()) {
-        if (!IsPrecision(item->PrecisionText)) continue;
-        method.KeySaved +=
-            "d" + item->PropertyCode + ":" + std::string(TrimBlanks(item->PrecisionText)) + ":";
+bool CommentTags::IsOwnWord(std::string_view word) {
+    return std::ranges::find(OwnWords, word) != OwnWords.end();
+}
+
+std::string CommentTags::Text() const {
+    const std::string_view text = TrimBlanks(front_);
+    return text == "&" ? std::string() : std::string(text);
+}
+
+std::optional<CommentTags::Pair> CommentTags::Find(std::string_view opening) const {
+    Pair pair;
+    pair.begin = tags_.find(opening);
+    if (pair.begin == std::string::npos) return std::nullopt;
+    pair.valueAt = pair.begin + opening.size();
+    pair.end = tags_.find(':', pair.valueAt);
+    pair.isClosed = pair.end != std::string::npos;
+    if (!pair.isClosed) pair.end = tags_.size();
+    return pair;
+}
+
+std::string CommentTags::ValueOf(const Pair& pair) const {
+    return tags_.substr(pair.valueAt, pair.end - pair.valueAt);
+}
+
+bool CommentTags::Has(std::string_view word) const {
+    return !word.empty() && tags_.find(Enclosed(word)) != std::string::npos;
+}
+
+std::string CommentTags::Value(std::string_view name) const {
+    const auto pair = Find(Enclosed(name));
+    return pair ? ValueOf(*pair) : std::string();
+}
+
+std::string CommentTags::TrimmedValue(std::string_view name) const {
+    return std::string(Trim(Value(name)));
+}
+
+std::string CommentTags::Precision(std::string_view code) const {
+    return TrimmedValue("d" + std::string(code));
+}
+
+std::string CommentTags::Constant(std::string_view code) const {
+    const auto pair = Find(":" + std::string(code) + " = ");
+    return pair ? ValueOf(*pair) : std::string();
+}
+
+/// Makes sure that another tag can be put behind the last one.
+void CommentTags::Open() {
+    if (isComment_ && tags_.empty()) {
+        if (!front_.empty()) front_ += ' ';
+        tags_ = FirstTag;
+    }
+    if (!tags_.starts_with(':')) tags_.insert(0, ":");
+    Close();
+}
+
+void CommentTags::Close() {
+    if (!tags_.empty() && !tags_.ends_with(':')) tags_ += ':';
+}
+
+void CommentTags::Set(std::string_view word, bool on) {
+    Open();
+    if (word.empty() || Has(word) == on) return;
+    if (on) {
+        tags_ += std::string(word) + ":";
+        return;
+    }
+    const std::string tag = Enclosed(word);
+    for (std::size_t at = tags_.find(tag); at != std::string::npos; at = tags_.find(tag))
+        tags_.replace(at, tag.size(), ":");
+}
+
+void CommentTags::Add(std::string_view name, std::string_view value) {
+    Open();
+    tags_.append(name).append(":").append(value).append(":");
+}
+
+std::optional<std::string> CommentTags::Take(std::string_view name, Colon closing) {
+    const auto pair = Find(Enclosed(name));
+    if (!pair) return std::nullopt;
+    std::string value = ValueOf(*pair);
+    const std::size_t end = closing == Colon::Goes ? pair->end + 1 : pair->end;
+    tags_.erase(pair->begin, end - pair->begin);
+    return value;
+}
+
+std::optional<std::string> CommentTags::TakePrecision(std::string_view code) {
+    const auto pair = Find(":d" + std::string(code) + ":");
+    if (!pair) return std::nullopt;
+    std::string value = ValueOf(*pair);
+    tags_.erase(pair->begin + 1, pair->end - pair->begin);
+    return value;
+}
+
+std::string CommentTags::TakeFreeMethod() {
+    const auto pair = Find(Enclosed("sMethod"));
+    if (!pair) return {};
+    std::string text = ValueOf(*pair);
+    if (!pair->isClosed && !text.empty()) text = Substring(text, 1, CodePointCount(text) - 1);
+    const bool tagsFollow = pair->isClosed && pair->end + 1 < tags_.size();
+    tags_.erase(pair->begin, tagsFollow ? pair->end - pair->begin : std::string::npos);
+    return text;
+}
+
+std::string CommentTags::TakeState() {
+    for (const std::string_view state : {"PB", "FP"}) {
+        const std::string tag = Enclosed(state);
+        const std::size_t at = tags_.find(tag);
+        if (at == std::string::npos) continue;
+        tags_.replace(at, tag.size(), tags_.size() == tag.size() ? "" : ":");
+        return std::string(state);
+    }
+    return {};
+}
+
+void CommentTags::DropBeginning(std::string_view words) {
+    const std::string opening = ":" + std::string(words);
+    for (auto pair = Find(opening); pair; pair = Find(opening))
+        tags_.erase(pair->begin, pair->end - pair->begin);
+    if (tags_.empty()) tags_ = ":";
+}
+
+void CommentTags::DropFactors() {
+    constexpr std::string_view name = "UFactor";
+    for (std::size_t at = tags_.find(name); at != std::string::npos; at = tags_.find(name)) {
+        const std::size_t colon = tags_.find(':', at + name.size() + 1); // behind its own colon
+        tags_.erase(at, colon == std::string::npos ? colon : colon + 1 - at);
     }
 }
 
-std::string TakeSMethod(std::string_view comment) {
-    FreeMethod parts = SplitSMethod(comment);
-    Method().sMethod = std::move(parts.text);
-    return std::move(parts.others);
-}
-
-std::string AppendSMethod(std::string_view comment) {
-    const clsMethod& method = Method();
-    const bool asked = method.Method == "OTHER" || method.Method.empty();
-    if (method.sMethod.empty() || !asked) return std::string(comment);
-    return std::string(comment) + "sMethod:" + Replace(method.sMethod, ":", " ") + ":";
+void CommentTags::ChangePrecisions(
+    const std::function<std::string(const std::string&, const std::string&)>& changed) {
+    if (tags_.empty()) return;
+    std::string result = ":"; // the first of the two that open the tags
+    for (std::size_t at = 1; at < tags_.size();) {
+        const std::size_t codeEnd = tags_.find(':', at + 1);
+        const std::size_t valueEnd =
+            codeEnd == std::string::npos ? codeEnd : tags_.find(':', codeEnd + 1);
+        const bool isPrecision = tags_.compare(at, 2, ":d") == 0;
+        if (!isPrecision || valueEnd == std::string::npos) {
+            result += tags_.substr(at, codeEnd == std::string::npos ? codeEnd : codeEnd - at);
+            at = std::min(codeEnd, tags_.size());
+            continue;
+        }
+        const std::string code = tags_.substr(at + 2, codeEnd - at - 2);
+        const std::string typed = tags_.substr(codeEnd + 1, valueEnd - codeEnd - 1);
+        result += ":d" + code + ":" + changed(code, typed);
+        at = valueEnd;
+    }
+    tags_ = std::move(result);
 }
 
 std::string CommentDisplayText(std::string_view comment) {
-    std::string text = SplitSMethod(comment).others;
+    CommentTags tags = CommentTags::OfTags(comment);
+    tags.TakeFreeMethod();
+    std::string text = tags.Stored();
     const std::size_t firstPrecision = text.find(":d");
     for (std::size_t at = firstPrecision; at != std::string::npos; at = text.find(":d", at))
         text[at] = ' ';
@@ -169,63 +198,6 @@ std::string CommentDisplayText(std::string_view comment) {
     const std::size_t eighth = ByteOffset(text, 8);
     std::replace(text.begin() + static_cast<std::ptrdiff_t>(eighth), text.end(), ':', ' ');
     return text;
-}
-
-void SyncSampleFlags(std::string_view sampleDescription) {
-    std::string& tags = Method().KeyVolatile;
-    tags = ":";
-    for (const std::string_view word : kSampleFlags) {
-        const std::size_t tagAt = Find(tags, ":" + std::string(word) + ":");
-        const std::size_t wordAt = Find(sampleDescription, word);
-        // The positions are compared bit by bit; stored data were made so.
-        if ((~tagAt & wordAt) != 0) tags += std::string(word) + ":";
-    }
-    for (const std::string_view word : kSampleFlags) {
-        const std::size_t p = Find(tags, ":" + std::string(word) + ":");
-        if (p != 0 && Find(sampleDescription, word) == 0)
-            tags = Substring(tags, 1, p) + Substring(tags, p + 3);
-    }
-}
-
-std::string CommentText(std::string_view comment) {
-    const std::string_view text = TrimBlanks(comment.substr(0, comment.find("::")));
-    return text == "&" ? std::string() : std::string(text);
-}
-
-std::string CommentTagPart(std::string_view comment) {
-    const std::size_t at = comment.find("::");
-    return at == std::string_view::npos ? std::string() : std::string(comment.substr(at));
-}
-
-std::string CommentTag(std::string_view comment, std::string_view name) {
-    const std::string tags = CommentTagPart(comment);
-    const std::string mark = ":" + std::string(name) + ":";
-    const std::size_t at = tags.find(mark);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + mark.size();
-    return std::string(Trim(std::string_view(tags).substr(from, tags.find(':', from) - from)));
-}
-
-std::string TakeState(std::string& comment) {
-    for (const std::string_view tag : {":PB:", ":FP:"}) {
-        const std::size_t at = comment.find(tag);
-        if (at == std::string::npos) continue;
-        const bool alone = comment.size() == tag.size();
-        comment.replace(at, tag.size(), alone ? "" : ":");
-        return std::string(tag.substr(1, 2));
-    }
-    return {};
-}
-
-std::string BuildComment(std::string_view text, const clsProperty& head, std::string_view state) {
-    EncodeTags(head);
-    std::string tags = Method().KeySaved;
-    if (Method().Method.empty()) tags.insert(1, ":Method:");
-    std::string comment = CommentText(SingleLine(text));
-    if (!comment.empty()) comment += " ";
-    comment = AppendSMethod(comment + tags);
-    if (!state.empty()) comment += std::string(state) + ":";
-    return comment;
 }
 
 } // namespace vexora

@@ -1,44 +1,96 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace vexora {
 
-class clsProperty;
-
-/// The tags that ride in the comment of a data set behind "::". A comment reads
-///   text "::Method:" code KeyRest ["UFactor:" f ":"] ["d" code ":" precision ":"]...
+/// The tags that ride in the comment of a data set: words (":gasfree:") and pairs of name and value
+/// (":Method:PYC:") between colons, behind the first "::" of the comment. A comment reads
+///   text "::Method:" code tags ["UFactor:" f ":"] ["d" code ":" precision ":"]...
 ///   ["sMethod:" text ":"] ["FP:" | "PB:"]
-/// All functions work on CurrentMethod and KeyRest of the globals.
+/// Neighbours share their colon. Tags keep their order; what nobody asks for stays as it stands,
+/// odd or not, so that a comment that was only read comes back byte by byte.
+class CommentTags {
+public:
+    /// What happens to the closing colon of a pair that is taken out.
+    enum class Colon { Stays, Goes };
 
-/// Takes f and Method out of KeySaved, which begins at the "::" of the comment.
-void SplitCommentTags();
-/// Takes the precision of each item of the chain out of KeySaved; what is left goes into KeyRest.
-void DecodePrecisionTags(clsProperty& head);
-/// Composes KeySaved from Method, KeyRest, f and the precisions of the chain.
-void EncodeTags(const clsProperty& head);
-/// Takes the free-text method out of a comment into sMethod; the answer is the comment without it.
-std::string TakeSMethod(std::string_view comment);
-/// The comment with the free-text method behind it, when there is one and the method code asks for
-/// it.
-std::string AppendSMethod(std::string_view comment);
+    /// The tags of a stored comment; none when it has no "::".
+    explicit CommentTags(std::string_view comment);
+    /// A text that is tags from end to end, such as KeyRest. For a whole comment it means that tags
+    /// are found in the operator's text as well.
+    static CommentTags OfTags(std::string_view tags);
+    /// True for the words that mean something of their own, which no statement of a method may use.
+    static bool IsOwnWord(std::string_view word);
+
+    /// The operator's text: what stands in front of the tags, trimmed, "&" as empty.
+    std::string Text() const;
+    /// The tags with the "::" in front of them, or empty.
+    const std::string& Tags() const { return tags_; }
+    /// The whole text again.
+    std::string Stored() const { return front_ + tags_; }
+
+    /// Whether the word stands between two colons; never for the empty word.
+    bool Has(std::string_view word) const;
+    /// The value of the first pair of this name as it stands, up to the next colon or the end;
+    /// empty when there is none.
+    std::string Value(std::string_view name) const;
+    /// The same without white space at its ends.
+    std::string TrimmedValue(std::string_view name) const;
+    /// The precision stated for a quantity, trimmed.
+    std::string Precision(std::string_view code) const;
+    /// The value x of a tag ":P = x:", which all rows have in common, as it stands; empty when
+    /// there is none.
+    std::string Constant(std::string_view code) const;
+
+    /// Puts a word in behind the others unless it is there, or takes it out wherever it stands. The
+    /// tags then begin and end with a colon.
+    void Set(std::string_view word, bool on);
+    /// Puts a pair in behind the others, which are closed before.
+    void Add(std::string_view name, std::string_view value);
+    /// Gives tags that are there their last colon.
+    void Close();
+
+    /// Takes the first pair of this name out; the answer is its value as it stands. One that is not
+    /// closed reaches to the end and takes its leading colon along.
+    std::optional<std::string> Take(std::string_view name, Colon closing = Colon::Stays);
+    /// Takes the precision of a quantity out; its leading colon stays, also where it is not closed.
+    std::optional<std::string> TakePrecision(std::string_view code);
+    /// Takes the free-text method out, and at the end of the tags its closing colon too. One that
+    /// is not closed loses its last letter; stored comments are read that way.
+    std::string TakeFreeMethod();
+    /// Takes the first tag ":PB:", else ":FP:", out; the answer is "PB", "FP" or empty. It is to
+    /// run before TakeFreeMethod, which would cut the colon that both tags share.
+    std::string TakeState();
+    /// Takes out all tags that begin with these words, each to the next colon; ":" is left of none.
+    void DropBeginning(std::string_view words);
+    /// Takes out every "UFactor" and the value behind it, in a longer word too.
+    void DropFactors();
+
+    /// Puts `changed(code, typed)` in the place of each precision that is closed.
+    void ChangePrecisions(
+        const std::function<std::string(const std::string&, const std::string&)>& changed);
+
+private:
+    struct Pair {
+        std::size_t begin = 0, valueAt = 0, end = 0; // its leading colon, its value, the next colon
+        bool isClosed = false;                       // else `end` is the end of the tags
+    };
+
+    CommentTags() = default;
+    std::optional<Pair> Find(std::string_view opening) const;
+    std::string ValueOf(const Pair& pair) const;
+    void Open();
+
+    std::string front_; // operator's text as it stands, with the blank behind it
+    std::string tags_;
+    bool isComment_ = true; // else the text is tags from end to end
+};
+
 /// A stored comment as trees and reports show it.
 std::string CommentDisplayText(std::string_view comment);
-/// Brings the flag tags of KeyVolatile in line with the words of a sample's description.
-void SyncSampleFlags(std::string_view sampleDescription);
-
-/// The operator's text of a comment: what stands in front of the first "::", trimmed, "&" as empty.
-std::string CommentText(std::string_view comment);
-/// The tags of a comment from the first "::" on, or empty.
-std::string CommentTagPart(std::string_view comment);
-/// The text of one tag of a comment, such as "Method" or "sMethod"; empty when it is not there.
-std::string CommentTag(std::string_view comment, std::string_view name);
-/// Takes the tag ":PB:" or ":FP:" out of a comment; the answer is "PB", "FP" or empty. It is to run
-/// before TakeSMethod, which would cut the colon that both tags share.
-std::string TakeState(std::string& comment);
-/// Builds the comment of a data set from the operator's text, the globals and the chain. state is
-/// "FP", "PB" or empty. The operator's text is cut at "::".
-std::string BuildComment(std::string_view text, const clsProperty& head, std::string_view state);
 
 } // namespace vexora

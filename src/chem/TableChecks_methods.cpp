@@ -1,7 +1,6 @@
-#include <algorithm>
-#include <array>
 #include <set>
 
+#include "chem/CommentTags.h"
 #include "chem/TableChecks.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
@@ -11,13 +10,8 @@ namespace vexora {
 
 namespace {
 
-// Words that stand between colons in comments with a meaning of their own.
-constexpr std::array<std::string_view, 6> kTagWords{
-    {"UFactor", "Method", "sMethod", "FP", "PB", "V1"}};
-
 bool IsTagWord(std::string_view key) {
-    return std::ranges::find(kTagWords, key) != kTagWords.end() ||
-           IndexOfCode(LetteredStatements(), key) >= 0;
+    return CommentTags::IsOwnWord(key) || IndexOfCode(LetteredStatements(), key) >= 0;
 }
 
 void CheckMethodCode(TableRows& row, const std::string& code) {

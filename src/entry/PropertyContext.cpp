@@ -1,6 +1,7 @@
 #include "entry/PropertyContext.h"
 
 #include "chem/CommentTags.h"
+#include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PropertyRules.h"
@@ -63,12 +64,12 @@ void TakeProperty(const StoredProperty& stored, const clsA& header) {
 
 std::string TakeComment(std::string_view comment) {
     KVOGlobal& globals = Globals();
-    const std::string others = TakeSMethod(comment);
+    const CommentTags others(TakeSMethod(comment));
     globals.CurrentMethod->Method.clear();
-    globals.CurrentMethod->KeySaved = CommentTagPart(others);
+    globals.CurrentMethod->KeySaved = others.Tags();
     SplitCommentTags();
     DecodePrecisionTags(*globals.CurrentProperty);
-    return CommentText(others);
+    return others.Text();
 }
 
 bool ReviewProperty(const std::string& comment) {

@@ -1,6 +1,6 @@
 #include "entry/frmKey.h"
 
-#include "chem/KeyTags.h"
+#include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
 
@@ -21,9 +21,10 @@ frmKey::frmKey() : Form("frmKey", "Experiment details") {
 void frmKey::Load() {
     KVOGlobal& globals = Globals();
     rows_ = Questions(globals.CurrentMethod->Method, globals.DataContext);
+    const CommentTags tags = CommentTags::OfTags(globals.KeyRest);
     for (const QuestionRow& row : rows_) {
         lstKey.Add(row.Question);
-        lstKey.Selected(lstKey.Count() - 1, HasKeyTag(globals.KeyRest, row.Key));
+        lstKey.Selected(lstKey.Count() - 1, tags.Has(row.Key));
     }
     if (!rows_.empty()) return;
     if (globals.KeyRest.empty()) globals.KeyRest = ":";
@@ -31,9 +32,10 @@ void frmKey::Load() {
 }
 
 void frmKey::Accept() {
-    std::string& tags = Globals().KeyRest;
+    CommentTags tags = CommentTags::OfTags(Globals().KeyRest);
     for (int i = 0; i < lstKey.Count(); ++i)
-        tags = SetKeyTag(tags, rows_[static_cast<std::size_t>(i)].Key, lstKey.Selected(i));
+        tags.Set(rows_[static_cast<std::size_t>(i)].Key, lstKey.Selected(i));
+    Globals().KeyRest = tags.Stored();
     Close();
 }
 

@@ -1,6 +1,6 @@
 #include "entry/frmProperty.h"
 
-#include "chem/KeyTags.h"
+#include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "globals/FormChain.h"
@@ -94,15 +94,17 @@ void frmProperty::StoreUnit(const PropertyRow& row) {
 
 void frmProperty::StoreStatements() {
     KVOGlobal& globals = Globals();
+    CommentTags tags = CommentTags::OfTags(globals.KeyRest);
     int bits = FlagBits(globals.PropertyFlags);
     for (std::size_t i = 0; i < statements_.size(); ++i) {
         const Statement& statement = statements_[i];
         const bool on = lstNote.Selected(static_cast<int>(i));
         if (statement.flag == 0)
-            globals.KeyRest = SetKeyTag(globals.KeyRest, statement.key, on);
+            tags.Set(statement.key, on);
         else
             bits = on ? bits | statement.flag : bits & ~statement.flag;
     }
+    globals.KeyRest = tags.Stored();
     globals.PropertyFlags = std::to_string(bits);
 }
 

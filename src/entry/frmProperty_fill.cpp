@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "chem/KeyTags.h"
+#include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Conversions.h"
@@ -93,10 +93,11 @@ void frmProperty::Fill() {
     SelectMethod(method.Method.empty() && !method.sMethod.empty() ? "OTHER" : method.Method);
     tagsProperty_ = globals.PropertyCode;
     tagsMethod_ = ChosenMethod();
+    const CommentTags tags = CommentTags::OfTags(globals.KeyRest);
     for (std::size_t i = 0; i < statements_.size(); ++i) {
         const Statement& statement = statements_[i];
         const bool on = statement.flag != 0 ? (FlagBits(globals.PropertyFlags) & statement.flag)
-                                            : HasKeyTag(globals.KeyRest, statement.key);
+                                            : tags.Has(statement.key);
         lstNote.Selected(static_cast<int>(i), on);
     }
 }

@@ -19,24 +19,16 @@ namespace vexora {
 
 namespace {
 
-// The text of a tag behind ":Name:", up to the next colon.
-std::string TagText(const clsA& header, std::string_view tag) {
-    const std::string tags = CommentTagPart(header.DATACOMMENT);
-    const std::size_t at = tags.find(tag);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + tag.size();
-    return tags.substr(from, tags.find(':', from) - from);
-}
-
 bool IsBoilingProperty(std::string_view code) {
     return code == "PV" || code == "TB" || code == "HVP";
 }
 
 void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& header) {
-    const std::string code = TagText(header, ":Method:");
+    const CommentTags tags(header.DATACOMMENT);
+    const std::string code = tags.Value("Method");
     if (code == "UNKNOWN") return;
     if (code.empty() || code == "OTHER") {
-        xml.ElementIfAny("sMethodName", Trim(TagText(header, ":sMethod:")));
+        xml.ElementIfAny("sMethodName", tags.TrimmedValue("sMethod"));
     } else {
         xml.ElementIfAny("eMethodName", XMLMethod(code, propertyCode));
     }
@@ -51,7 +43,7 @@ void TellDataError(const DataName& data, const std::string& fault) {
 }
 
 bool HasTag(const clsA& header, std::string_view tag) {
-    return CommentTagPart(header.DATACOMMENT).find(tag) != std::string::npos;
+    return CommentTags(header.DATACOMMENT).Has(tag);
 }
 
 void ExportComponent(XmlWriter& xml, const clsL& compound, std::string_view sample) {
@@ -100,8 +92,8 @@ void ExportPhases(XmlWriter& xml, std::string_view code, const clsA& header,
     };
     for (const std::string& phase : phases)
         add(phase);
-    const bool boils = IsBoilingProperty(code) && !HasTag(header, ":FP:");
-    if (HasTag(header, ":PB:") || boils) add("G");
+    const bool boils = IsBoilingProperty(code) && !HasTag(header, "FP");
+    if (HasTag(header, "PB") || boils) add("G");
     for (const std::string_view phase : known)
         ExportPhase(xml, "PhaseID", "ePhase", phase);
 }

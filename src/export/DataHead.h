@@ -25,7 +25,7 @@ DataName NameOf(const Data& data) {
 }
 void TellDataError(const DataName& data, const std::string& fault);
 
-/// True when the tags of the comment hold this one (":PB:").
+/// True when the tags of the comment hold this one ("PB").
 bool HasTag(const clsA& header, std::string_view tag);
 
 /// One compound of the system with the number of its sample.

@@ -17,8 +17,8 @@ namespace {
 bool IsUnderOneAtmosphere(const clsTwo& set) {
     const bool isPressure = set.HasVariable("P") || set.PRPCODE == "PV" || set.PRPCODE == "P";
     if (isPressure || !set.ConstantOf("P").empty()) return false;
-    const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, ":PB:");
-    return boils || HasTag(set.Header, ":FP:");
+    const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, "PB");
+    return boils || HasTag(set.Header, "FP");
 }
 
 } // namespace

@@ -16,8 +16,8 @@ namespace {
 // A boiling temperature without a pressure was measured under one atmosphere, and so was what is
 // marked as being at fixed pressure.
 bool IsUnderOneAtmosphere(const clsZ& value) {
-    const bool boiling = value.PRPCODE == "TB" && value.nVar == 0 && !HasTag(value.Header, ":PB:");
-    if (!boiling && !HasTag(value.Header, ":FP:")) return false;
+    const bool boiling = value.PRPCODE == "TB" && value.nVar == 0 && !HasTag(value.Header, "PB");
+    if (!boiling && !HasTag(value.Header, "FP")) return false;
     return value.nVar == 0 || value.Variable() != "P";
 }
 

@@ -1,6 +1,6 @@
 #include "pure/frmSingle.h"
 
-#include "chem/CommentTags.h"
+#include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PhaseLists.h"

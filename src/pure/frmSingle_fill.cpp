@@ -117,11 +117,11 @@ void frmSingle::TakeRecord(const clsZ& record) {
 
 /// A state that the form does not ask for stays among the tags.
 void frmSingle::ShowComment(const clsZ& record) {
-    std::string comment = record.Header.DATACOMMENT;
-    const std::string state = frmConstraint.Visible() ? TakeState(comment) : "";
+    CommentTags tags = CommentTags::OfTags(record.Header.DATACOMMENT);
+    const std::string state = frmConstraint.Visible() ? tags.TakeState() : "";
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
-    txtComment.Text(TakeComment(comment));
+    txtComment.Text(TakeComment(tags.Stored()));
 }
 
 void frmSingle::ShowRecord(const clsZ& record) {

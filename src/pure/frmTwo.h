@@ -11,6 +11,7 @@
 
 namespace vexora {
 
+class CommentTags;
 class clsTwo;
 
 /// Defines a set of a property against one or two state variables and leads to its table
@@ -104,7 +105,7 @@ private:
     void WriteVariables(clsTwo& set) const;
     void WriteResults(clsTwo& set) const;
     void WriteComment(clsTwo& set) const;
-    void DropConstants() const;
+    void DropConstants(CommentTags& tags) const;
     void BuildPropertyChain() const;
     bool TurnsRows() const;
     bool DropNumbers(clsTwo& set);

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "chem/CommentTags.h"
-#include "chem/KeyTags.h"
+#include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PropertyContext.h"
@@ -25,16 +25,6 @@ namespace vexora {
 namespace {
 
 constexpr const char* table = "frmData2";
-
-/// The tags without those that begin with these words and end at the next colon.
-std::string WithoutTag(std::string tags, const std::string& beginning) {
-    const std::string mark = ":" + beginning;
-    for (std::size_t at = tags.find(mark); at != std::string::npos; at = tags.find(mark)) {
-        const std::size_t end = tags.find(':', at + mark.size());
-        tags.erase(at, (end == std::string::npos ? tags.size() : end) - at);
-    }
-    return tags.empty() ? ":" : tags;
-}
 
 /// A set with rows of its own, so that a table that is given up has changed nothing.
 std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
@@ -246,29 +236,29 @@ void frmTwo::WriteResults(clsTwo& set) const {
 /// The value that all rows have in common stands among the tags. The variable of a set of one is
 /// written there by the set itself where it needs to.
 void frmTwo::WriteComment(clsTwo& set) const {
-    std::string& tags = Globals().KeyRest;
+    CommentTags tags = CommentTags::OfTags(Globals().KeyRest);
     const std::string open = OpenVariable(Draft()).code;
     const std::string constant = open + " = " + txtVar3.Text();
     const bool stated = !open.empty() && !txtVar3.IsEmpty();
-    if (!stated || !HasKeyTag(tags, constant)) DropConstants();
+    if (!stated || !tags.Has(constant)) DropConstants(tags);
     if (as_ && (set.nVar > 1 || as_->VARIABLE1 != set.VARIABLE1))
-        tags = WithoutTag(tags, "V1:" + as_->VARIABLE1);
-    if (stated) tags = SetKeyTag(tags, constant, true);
+        tags.DropBeginning("V1:" + as_->VARIABLE1);
+    if (stated) tags.Set(constant, true);
+    Globals().KeyRest = tags.Stored();
     BuildPropertyChain();
     FillHeader(set.Header, !record_,
                BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));
 }
 
 /// Takes the constant values out of the tags, but for those of a file that the form never showed.
-void frmTwo::DropConstants() const {
+void frmTwo::DropConstants(CommentTags& tags) const {
     const TwoDraft draft = Draft();
     const std::string open = OpenVariable(draft).code;
     for (const std::string code : {"WL", "WF", "P", "T"}) {
         const bool seen = code == open || code == openAtFirst_;
         const bool varies = code == draft.variable1 || (draft.nVar > 1 && code == draft.variable2);
         if (as_ && !seen && !varies) continue;
-        std::string& tags = Globals().KeyRest;
-        tags = WithoutTag(tags, code + " = ");
+        tags.DropBeginning(code + " = ");
     }
 }
 

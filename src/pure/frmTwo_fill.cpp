@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "chem/KeyTags.h"
+#include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "entry/PhaseLists.h"
 #include "entry/PropertyContext.h"
@@ -63,15 +63,6 @@ void ChooseCode(ui::ComboBox& list, CodeTexts table, std::string_view code) {
 std::string CodeChosen(const ui::ComboBox& list, CodeTexts table) {
     const std::string code = CodeOfText(table, list.Chosen());
     return code.empty() ? list.Chosen() : code;
-}
-
-/// The value of a tag like ":P = 101.325:", empty when it is not there.
-std::string ConstantIn(std::string_view tags, const std::string& code) {
-    const std::string mark = ":" + code + " = ";
-    const std::size_t at = tags.find(mark);
-    if (at == std::string_view::npos) return {};
-    const std::size_t from = at + mark.size();
-    return std::string(tags.substr(from, tags.find(':', from) - from));
 }
 
 } // namespace
@@ -167,7 +158,7 @@ void frmTwo::ShowVar3() {
     lblUnit3.Caption(quantity ? std::string(quantity->unit) : "");
     txtVar3.ToolTip(open.isObligatory ? "The value that all rows have in common"
                                       : "The value that all rows have in common, if it is stated");
-    if (!same) txtVar3.Text(ConstantIn(Globals().KeyRest, open.code));
+    if (!same) txtVar3.Text(CommentTags::OfTags(Globals().KeyRest).Constant(open.code));
 }
 
 /// The columns of digits follow in the table, those of both variables together.

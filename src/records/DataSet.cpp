@@ -15,12 +15,7 @@ DataSet::DataSet() {
 
 std::string DataSet::ConstantOf(std::string_view code) const {
     if (HasVariable(code)) return {};
-    const std::string tags = CommentTagPart(Header.DATACOMMENT);
-    const std::string mark = ":" + std::string(code) + " = ";
-    const std::size_t at = tags.find(mark);
-    if (at == std::string::npos) return {};
-    const std::size_t from = at + mark.size();
-    const std::string value = tags.substr(from, tags.find(':', from) - from);
+    const std::string value = CommentTags(Header.DATACOMMENT).Constant(code);
     return IsNumeric(value) ? value : std::string();
 }
 

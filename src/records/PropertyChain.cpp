@@ -53,7 +53,7 @@ clsProperty& Append(clsProperty& last, std::shared_ptr<clsProperty> item) {
 /// The precision that a comment states for a quantity, in the unit of its values.
 void TakePrecision(clsProperty& item, std::string_view comment, bool inSystemUnit,
                    double molarMass = 0) {
-    item.PrecisionText = CommentTag(comment, "d" + item.PropertyCode);
+    item.PrecisionText = CommentTags(comment).Precision(item.PropertyCode);
     if (inSystemUnit) PrecisionInEnteredUnit(item, molarMass);
 }
 

@@ -1,5 +1,6 @@
 #include "records/clsA.h"
 
+#include "chem/CommentTags.h"
 #include "records/LineWriter.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -58,9 +59,9 @@ std::string SlashedDate(std::string_view text) {
 }
 
 std::string ClosedComment(std::string_view rest) {
-    std::string comment = WithoutPlaceholder(Trim(rest));
-    if (comment.find("::") != std::string::npos && !comment.ends_with(':')) comment += ':';
-    return comment;
+    CommentTags comment(WithoutPlaceholder(Trim(rest)));
+    comment.Close();
+    return comment.Stored();
 }
 
 } // namespace

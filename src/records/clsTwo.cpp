@@ -104,7 +104,7 @@ bool clsTwo::Load(std::string_view line) {
 
 void clsTwo::TakePending(const clsA& pending) {
     DataSet::TakePending(pending);
-    const std::string stated = CommentTag(Header.DATACOMMENT, "V1");
+    const std::string stated = CommentTags(Header.DATACOMMENT).TrimmedValue("V1");
     if (nVar == 1 && !stated.empty()) VARIABLE1 = stated;
 }
 
@@ -159,16 +159,13 @@ std::string clsTwo::DefinitionLine() const {
 
 /// The comment, whose tag "V1:" tells the variable of a ^1 line where nothing else does.
 std::string clsTwo::CommentOfLine() const {
-    std::string comment = Header.DATACOMMENT;
-    if (nVar != 1 || VARIABLE1.empty()) return comment;
-    const std::string stated = CommentTag(comment, "V1");
-    if (VARIABLE1 == (stated.empty() ? DerivedVariable() : stated)) return comment;
-    const std::string tag = ":V1:" + stated + ":";
-    if (!stated.empty()) comment.replace(comment.find(tag, comment.find("::")), tag.size(), ":");
-    if (VARIABLE1 == DerivedVariable()) return comment;
-    if (comment.find("::") == std::string::npos) comment += comment.empty() ? "::" : " ::";
-    if (!comment.ends_with(':')) comment += ':';
-    return comment + "V1:" + VARIABLE1 + ":";
+    if (nVar != 1 || VARIABLE1.empty()) return Header.DATACOMMENT;
+    CommentTags tags(Header.DATACOMMENT);
+    const std::string stated = tags.TrimmedValue("V1");
+    if (VARIABLE1 == (stated.empty() ? DerivedVariable() : stated)) return Header.DATACOMMENT;
+    if (!stated.empty()) tags.Take("V1");
+    if (VARIABLE1 != DerivedVariable()) tags.Add("V1", VARIABLE1);
+    return tags.Stored();
 }
 
 } // namespace vexora

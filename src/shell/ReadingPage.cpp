@@ -29,9 +29,9 @@ std::string ReadingPage::Html() const {
 }
 
 std::string MethodText(const clsA& header, const std::string& propertyCode) {
-    const std::string& comment = header.DATACOMMENT;
-    const std::string code = CommentTag(comment, "Method");
-    if (code.empty() || code == "OTHER") return CommentTag(comment, "sMethod");
+    const CommentTags tags(header.DATACOMMENT);
+    const std::string code = tags.TrimmedValue("Method");
+    if (code.empty() || code == "OTHER") return tags.TrimmedValue("sMethod");
     return code == "UNKNOWN" ? "not stated in the document" : XMLMethod(code, propertyCode);
 }
 

@@ -162,7 +162,7 @@ std::string ReadingOf(const clsZ& value) {
     page.Line("And with:", PhaseText(value.PHASE3));
     page.Line("Method:", MethodText(value.Header, value.PRPCODE));
     page.Line("Purpose:", TextOfCode(ExperimentPurposes(), value.Header.EXPPURPOSE));
-    page.Line("Comment:", CommentText(value.Header.DATACOMMENT));
+    page.Line("Comment:", CommentTags(value.Header.DATACOMMENT).Text());
     page.Line("Set:", value.PRPSETNO);
     page.Line("Entered:", value.Header.DATEADDED);
     page.Need(UncertaintyText(value).empty(), "A statement of uncertainty");

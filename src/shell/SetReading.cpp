@@ -144,7 +144,7 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("In equilibrium with:", PhaseText(set.PHASE2));
     page.Line("Method:", MethodText(set.Header, set.PRPCODE));
     page.Line("Purpose:", TextOfCode(ExperimentPurposes(), set.Header.EXPPURPOSE));
-    page.Line("Comment:", CommentText(set.Header.DATACOMMENT));
+    page.Line("Comment:", CommentTags(set.Header.DATACOMMENT).Text());
     page.Line("Set:", set.PRPSETNO);
     page.Line("Entered:", set.Header.DATEADDED);
     page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");

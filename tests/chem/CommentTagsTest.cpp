@@ -1,7 +1,11 @@
 #include "chem/CommentTags.h"
 
+#include <fstream>
+
+#include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
+#include "reference/Numbers.h"
 #include "support/DocumentFixture.h"
 
 namespace vexora {
@@ -18,13 +22,21 @@ protected:
         return item;
     }
     /// Reads a comment as a dialog does and writes it back.
-    std::string ReadAndWrite(std::string comment, clsProperty head) {
-        const std::string state = TakeState(comment);
-        comment = TakeSMethod(comment);
-        globals.CurrentMethod->KeySaved = CommentTagPart(comment);
+    std::string ReadAndWrite(const std::string& comment, clsProperty head) {
+        Reading read = Read(comment, head);
+        return BuildComment(read.text, head, read.state);
+    }
+    struct Reading {
+        std::string text, state;
+    };
+    Reading Read(const std::string& comment, clsProperty& head) {
+        CommentTags whole = CommentTags::OfTags(comment);
+        const std::string state = whole.TakeState();
+        const CommentTags others(TakeSMethod(whole.Stored()));
+        globals.CurrentMethod->KeySaved = others.Tags();
         SplitCommentTags();
         DecodePrecisionTags(head);
-        return BuildComment(CommentText(comment), head, state);
+        return {others.Text(), state};
     }
 };
 
@@ -56,6 +68,83 @@ TEST_F(Tags, OldAndMixedFormsAreReadAndWrittenInOneForm) {
     };
     for (const auto& [stored, written] : cases)
         EXPECT_EQ(ReadAndWrite(stored, Item("TC")), written) << stored;
+}
+
+// Comments as files hold them, with all that the program makes of each.
+TEST_F(Tags, OddCommentsAreReadWrittenAndShown) {
+    std::ifstream file(std::string(VEXORA_SOURCE_DIR) + "/tests/chem/comment_tags.tsv");
+    int cases = 0;
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with('#')) continue;
+        const std::string comment = line.substr(0, line.find('\t'));
+        globals.CurrentMethod = std::make_shared<clsMethod>();
+        clsProperty head = Item("TC");
+        head.isLast = false;
+        head.NextItem = std::make_shared<clsProperty>(Item("T"));
+        const Reading read = Read(comment, head);
+        const clsMethod& method = *globals.CurrentMethod;
+        std::string all = comment + "\t";
+        for (const std::string& part :
+             {read.text, method.Method, method.sMethod, NumberText(method.f), head.PrecisionText,
+              head.NextItem->PrecisionText, read.state})
+            all += part + "|";
+        all += globals.KeyRest + "\t";
+        all += BuildComment(read.text, head, read.state) + "\t"; // which puts KeyRest in order
+        all += CommentDisplayText(comment) + "\t";
+        CommentTags tags(comment);
+        tags.ChangePrecisions([](const std::string& code, const std::string& typed) {
+            return "<" + code + " " + typed + ">";
+        });
+        EXPECT_EQ(all + tags.Stored(), line);
+        ++cases;
+    }
+    EXPECT_GT(cases, 40);
+}
+
+TEST_F(Tags, WordsComeAndGoWithoutTouchingTheirNeighbours) {
+    const auto set = [](const char* text, const char* word, bool on) {
+        CommentTags tags = CommentTags::OfTags(text);
+        tags.Set(word, on);
+        return tags.Stored();
+    };
+    EXPECT_EQ(set("", "m", true), ":m:");
+    EXPECT_EQ(set(":m:", "m", true), ":m:");
+    EXPECT_EQ(set(":a:m:b:", "m", false), ":a:b:");
+    EXPECT_EQ(set(":m:m:", "m", false), ":");
+    EXPECT_EQ(set(":mm:", "m", false), ":mm:");
+    EXPECT_EQ(set("a", "", true), ":a:");
+    EXPECT_FALSE(CommentTags::OfTags(":mm:").Has("m"));
+    EXPECT_FALSE(CommentTags::OfTags("::").Has(""));
+}
+
+TEST_F(Tags, PairsAreFoundBehindTheTextAndAddedThere) {
+    const CommentTags tags("a :T = 5: b ::T = 300:V1: VM :P = 1");
+    EXPECT_EQ(tags.Constant("T"), "300");
+    EXPECT_EQ(tags.Constant("P"), "1");
+    EXPECT_EQ(tags.Constant("WL"), "");
+    EXPECT_EQ(tags.Value("V1"), " VM ");
+    EXPECT_EQ(tags.TrimmedValue("V1"), "VM");
+
+    const auto added = [](const char* comment) {
+        CommentTags with(comment);
+        with.Add("V1", "P");
+        return with.Stored();
+    };
+    EXPECT_EQ(added(""), "::V1:P:");
+    EXPECT_EQ(added("text"), "text ::V1:P:");
+    EXPECT_EQ(added("text::k"), "text::k:V1:P:");
+}
+
+TEST_F(Tags, WhatIsDroppedLeavesOneColon) {
+    const auto dropped = [](const char* text, const char* words) {
+        CommentTags tags = CommentTags::OfTags(text);
+        tags.DropBeginning(words);
+        return tags.Stored();
+    };
+    EXPECT_EQ(dropped(":k:P = 1:m:P = 2:", "P = "), ":k:m:");
+    EXPECT_EQ(dropped(":k:P = 1", "P = "), ":k");
+    EXPECT_EQ(dropped(":P = 1", "P = "), ":");
+    EXPECT_EQ(dropped("", "P = "), ":");
 }
 
 TEST_F(Tags, PrecisionOfEachItemIsFoundAndPerCentIsOfTheValue) {

@@ -1,6 +1,5 @@
 #include "entry/frmProperty.h"
 
-#include "chem/KeyTags.h"
 #include "chem/clsProperty.h"
 #include "entry/PhaseRules.h"
 #include "entry/frmKey.h"
@@ -328,15 +327,6 @@ TEST_F(frmPropertyTest, AdvancedModeComesBackForTheNextProperty) {
     EXPECT_TRUE(form.cmdSingle.IsShown());
     form.cmdFinish.UserClick();
     EXPECT_TRUE(globals.OpenForms.empty());
-}
-
-TEST(KeyTagsTest, TagsComeAndGoWithoutTouchingTheirNeighbours) {
-    EXPECT_EQ(SetKeyTag("", "m", true), ":m:");
-    EXPECT_EQ(SetKeyTag(":m:", "m", true), ":m:");
-    EXPECT_EQ(SetKeyTag(":a:m:b:", "m", false), ":a:b:");
-    EXPECT_EQ(SetKeyTag(":m:m:", "m", false), ":");
-    EXPECT_EQ(SetKeyTag(":mm:", "m", false), ":mm:");
-    EXPECT_FALSE(HasKeyTag(":mm:", "m"));
 }
 
 } // namespace

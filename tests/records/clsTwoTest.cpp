@@ -121,6 +121,8 @@ TEST_F(Sets, TheVariableOfOneIsDerivedOrTold) {
     Set().VARIABLE1 = "WL";
     EXPECT_EQ(Saved(),
               "^A & O & & & & & text ::Method:X:later:V1:WL:\n" + line("VDN", "FT") + kEnd);
+    Set().Header.DATACOMMENT = "text ::V1: VM :later:"; // as typed into a file
+    EXPECT_EQ(Saved(), "^A & O & & & & & text ::later:V1:WL:\n" + line("VDN", "FT") + kEnd);
 }
 
 TEST_F(Sets, VariablesInUnitsWithoutALetterAreConvertedOnce) {
