@@ -9,7 +9,6 @@
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -102,23 +101,24 @@ std::string ValueInWords(const clsProperty& item) {
     return "Value " + NumberText(item.SystemValue) + " " + item.Name;
 }
 
-bool PassesLimits(clsProperty& item) {
+bool Put(const ConfirmValue& confirm, const clsProperty& item, const std::string& text,
+         bool isQuestion) {
+    if (!confirm) return false;
+    return confirm({item.PropertyCode + " " + item.Name, item.SystemValue, text, isQuestion});
+}
+
+bool PassesLimits(clsProperty& item, const ConfirmValue& confirm) {
     bool ok = true;
     item.Validate(ok);
     if (!ok) {
-        ui::Say(ValueInWords(item) + " is not valid");
+        Put(confirm, item, ValueInWords(item) + " is not valid", false);
         item.SystemValue = 0;
         return false;
     }
     item.Check(ok);
-    if (ok) return true;
-    const std::string question = ValueInWords(item) + " is suspicious\nIs that all right?";
-    SuspicionsOfRun* run = SuspicionsOfRun::Current();
-    return run ? run->Confirm(item.PropertyCode + " " + item.Name, item.SystemValue, question)
-               : ui::AskYesNo(question);
+    return ok ||
+           Put(confirm, item, ValueInWords(item) + " is suspicious\nIs that all right?", true);
 }
-
-SuspicionsOfRun* currentRun = nullptr;
 
 } // namespace
 
@@ -126,27 +126,6 @@ double StatedFigure(std::string_view statement, double value) {
     const std::string_view text = Trim(statement);
     if (!text.ends_with('%')) return Val(text);
     return Val(text.substr(0, text.size() - 1)) * value / 100;
-}
-
-SuspicionsOfRun::SuspicionsOfRun() : before_(currentRun) {
-    currentRun = this;
-}
-
-SuspicionsOfRun::~SuspicionsOfRun() {
-    currentRun = before_;
-}
-
-SuspicionsOfRun* SuspicionsOfRun::Current() {
-    return currentRun;
-}
-
-bool SuspicionsOfRun::Confirm(const std::string& item, double value, const std::string& question) {
-    if (allOf_.contains(item) || confirmed_.contains({item, value})) return true;
-    const ui::Answer answer =
-        ui::TheDesktop().Show({question, {}, ui::MessageButtons::YesNoAll, ui::Answer::No});
-    if (answer == ui::Answer::YesToAll) allOf_.insert(item);
-    if (answer == ui::Answer::Yes) confirmed_.insert({item, value});
-    return answer == ui::Answer::Yes || answer == ui::Answer::YesToAll;
 }
 
 void clsProperty::Validate(bool& ok) const {
@@ -157,15 +136,15 @@ void clsProperty::Check(bool& ok) const {
     ok = Relation != "A" || IsPlausibleValue(PropertyCode, SystemValue);
 }
 
-void clsProperty::Convert(bool& ok, double molarMass) {
+void clsProperty::Convert(bool& ok, double molarMass, const ConfirmValue& confirm) {
     ok = true;
     Text = std::string(Trim(Text));
     if (!Text.empty()) Value = Val(Text);
-    if (Relation.empty()) ui::Say("No relation");
+    if (Relation.empty()) Put(confirm, *this, "No relation", false);
     SystemValue = Value;
     if (Relation == "A") SystemValue = ToSystem(ConversionCode, Value, Factor, molarMass);
     if (Relation == "D") SystemValue = Difference(*this, Value, molarMass);
-    if (Relation == "A" && !PassesLimits(*this)) {
+    if (Relation == "A" && !PassesLimits(*this, confirm)) {
         ok = false;
         if (SystemValue == 0) return;
     }
@@ -197,15 +176,15 @@ void clsProperty::Copy(const clsProperty& source) {
     NextItem = next;
 }
 
-std::string EvaluateUncertainty(clsProperty& head, double molarMass) {
+std::string EvaluateUncertainty(clsProperty& head, double molarMass, const ConfirmValue& confirm) {
     head.LastDigit = DecimalPlaces(head.Text);
     bool ok = true;
-    head.Convert(ok, molarMass);
+    head.Convert(ok, molarMass, confirm);
     if (!ok) return "Error";
     head.ConvertDer(molarMass);
     for (clsProperty* item = &head; !item->isLast && item->NextItem;) {
         item = item->NextItem.get();
-        item->Convert(ok, molarMass);
+        item->Convert(ok, molarMass, confirm);
         if (!ok) return "Error";
     }
     return {};

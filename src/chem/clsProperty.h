@@ -1,12 +1,23 @@
 #pragma once
 
+#include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace vexora {
+
+/// What an evaluation has to say about a value.
+struct ValueDoubt {
+    std::string item;        // code and name of the quantity
+    double value = 0;        // [system unit]
+    std::string text;        // as a box shows it
+    bool isQuestion = false; // the value may stand if the operator says so
+};
+
+/// Puts a doubt to the operator where it comes up, for what follows depends on the answer: true
+/// when a value in question may stand. The answer to what is no question does not count.
+using ConfirmValue = std::function<bool(const ValueDoubt&)>;
 
 /// One quantity of a row, from the text that was typed to the value in system units with its
 /// uncertainty. The items of a row form a chain: the head is the property, behind it stands one
@@ -42,8 +53,9 @@ public:
 
     /// Converts Text to SystemValue and merges the stated uncertainties into PRECISION and
     /// SystemPrecision. ok is false when the value is not valid, or suspicious and not confirmed;
-    /// both are told in a message box. molarMass in g/mol, 0 when not known.
-    void Convert(bool& ok, double molarMass);
+    /// without `confirm` nothing is told and nothing suspicious stands. molarMass in g/mol, 0 when
+    /// not known.
+    void Convert(bool& ok, double molarMass, const ConfirmValue& confirm = {});
     /// Derivatives of the items behind this one, brought to system units of this property.
     void ConvertDer(double molarMass);
     /// Hard limits on SystemValue; only an absolute value is tested.
@@ -54,33 +66,13 @@ public:
     void Copy(const clsProperty& source);
 };
 
-/// While one lives, which is for one run over many rows, the question about a suspicious value
-/// offers "Yes to All": it then holds for the same item until the end of the run, and the same
-/// value of an item is not asked about twice.
-class SuspicionsOfRun {
-public:
-    SuspicionsOfRun();
-    ~SuspicionsOfRun();
-    SuspicionsOfRun(const SuspicionsOfRun&) = delete;
-    SuspicionsOfRun& operator=(const SuspicionsOfRun&) = delete;
-
-    /// Asks, unless the answer is known.
-    bool Confirm(const std::string& item, double value, const std::string& question);
-    /// The run in progress, or null.
-    static SuspicionsOfRun* Current();
-
-private:
-    std::set<std::string> allOf_;
-    std::set<std::pair<std::string, double>> confirmed_;
-    SuspicionsOfRun* before_;
-};
-
 /// The figure of a statement [unit of the value]; per cent is of the value, with its sign. 0 for an
 /// empty text or a bare "%".
 double StatedFigure(std::string_view statement, double value);
 
 /// Evaluates the chain from its head: the empty text on success, "Error" on failure; the figures
-/// are in PRECISION and SystemPrecision of each item. molarMass in g/mol.
-std::string EvaluateUncertainty(clsProperty& head, double molarMass);
+/// are in PRECISION and SystemPrecision of each item. molarMass in g/mol; confirm as of Convert.
+std::string EvaluateUncertainty(clsProperty& head, double molarMass,
+                                const ConfirmValue& confirm = {});
 
 } // namespace vexora

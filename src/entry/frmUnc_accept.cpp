@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "chem/clsMethod.h"
-#include "chem/clsProperty.h"
+#include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
@@ -93,7 +93,7 @@ void frmUnc::Calculate() {
         quantity = quantity->isLast ? nullptr : quantity->NextItem.get();
     }
     const auto& method = Globals().CurrentMethod;
-    const std::string result = EvaluateUncertainty(head, method ? method->MMass : 0);
+    const std::string result = EvaluateUncertainty(head, method ? method->MMass : 0, ConfirmInBox);
     TakeEvaluated(head);
     ShowFigures(head, result);
 }

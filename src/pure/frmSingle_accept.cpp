@@ -2,9 +2,9 @@
 
 #include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
-#include "chem/clsProperty.h"
 #include "entry/PhaseLists.h"
 #include "entry/PropertyContext.h"
+#include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/clsS.h"
@@ -66,7 +66,7 @@ bool frmSingle::CheckVariable() {
         return Refuse(lstVariable_Unit, "Select units for the independent variable");
     TakeTexts();
     bool ok = true;
-    Globals().CurrentProperty->NextItem->Convert(ok, 0);
+    Globals().CurrentProperty->NextItem->Convert(ok, 0, ConfirmInBox);
     if (!ok) txtIndVariable.SetFocus();
     return ok;
 }
@@ -78,7 +78,7 @@ bool frmSingle::CheckValue() {
     if (!CheckUnit()) return false;
     TakeTexts();
     bool ok = true;
-    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass);
+    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass, ConfirmInBox);
     return ok || Refuse(txtValue, "Invalid property value");
 }
 

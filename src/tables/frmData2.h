@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "chem/clsProperty.h"
 #include "entry/RowChecks.h"
 #include "grid/TablePaste.h"
 #include "grid/TableUndo.h"
@@ -145,7 +146,7 @@ private:
     bool CheckUnits();
     bool CheckUnc();
     void CleanCells();
-    void Calc_unc(int row, bool& ok);
+    void Calc_unc(int row, bool& ok, const ConfirmValue& confirm);
     void TakeStatements(clsProperty& item, int place, int row) const;
     bool Refuse(const Finding& finding, const std::string& title = {});
     void Assign();

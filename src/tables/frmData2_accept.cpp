@@ -4,8 +4,8 @@
 #include <map>
 #include <utility>
 
-#include "chem/clsProperty.h"
 #include "entry/EditStatements.h"
+#include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
@@ -86,14 +86,14 @@ void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
 }
 
 /// Evaluates one row; its last cell shows "Error" when that fails.
-void frmData2::Calc_unc(int row, bool& ok) {
+void frmData2::Calc_unc(int row, bool& ok, const ConfirmValue& confirm) {
     int place = 0;
     for (clsProperty* item = chain_.get(); item; item = item->NextItem.get(), ++place) {
         item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place));
         item->Value = item->PRECISION = item->Der = 0;
         TakeStatements(*item, place, row);
     }
-    const std::string result = EvaluateUncertainty(*chain_, molarMass_);
+    const std::string result = EvaluateUncertainty(*chain_, molarMass_, confirm);
     const int figure = columns_.Find(Kind::KVO);
     if (tblData.Cell(row, figure) == "Error" || !result.empty())
         undo_.Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
@@ -102,11 +102,12 @@ void frmData2::Calc_unc(int row, bool& ok) {
 
 bool frmData2::CheckUnc() {
     SuspicionsOfRun suspicions;
+    const auto confirm = [&](const ValueDoubt& doubt) { return suspicions.Confirm(doubt); };
     const int figure = columns_.Find(Kind::KVO);
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
         if (tblData.Cell(row, 0).empty()) continue;
         bool ok = true;
-        Calc_unc(row, ok);
+        Calc_unc(row, ok, confirm);
         const auto findings = CheckEvaluation(tblData, columns_, row);
         if (!ok || !findings.empty())
             return Refuse(findings.empty() ? Finding{row, figure,

@@ -9,8 +9,6 @@
 #include "chem/PropertyLimits.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "support/StrictDesktop.h"
-#include "ui/Forms.h"
 
 namespace vexora {
 namespace {
@@ -118,52 +116,43 @@ TEST(Property, LimitsRefuseAndQuestionAtTheirBounds) {
     }
 }
 
-class Verdicts : public testing::Test {
-protected:
-    static std::string Evaluate(const std::string& code, const std::string& text) {
-        clsProperty head;
-        head.PropertyCode = head.Name = code;
-        head.ConversionCode = "S";
-        head.Relation = "A";
-        head.Text = text;
-        const std::string result = EvaluateUncertainty(head, 0);
-        return result.empty() ? NumberText(head.SystemValue) : result;
-    }
-    void Ask(const std::string& value, ui::Answer answer) {
-        desktop.Expect("Value " + value + " is suspicious\nIs that all right?", answer);
-    }
-    test::StrictDesktop desktop;
-    ui::Forms forms{desktop};
-};
-
-TEST_F(Verdicts, AnInvalidValueIsRefusedAndASuspiciousOneAsked) {
-    desktop.Expect("Value -1 VDN is not valid");
-    EXPECT_EQ(Evaluate("VDN", "-1"), "Error");
-    Ask("5001 VDN", ui::Answer::No);
-    EXPECT_EQ(Evaluate("VDN", "5001"), "Error");
-    Ask("5001 VDN", ui::Answer::Yes);
-    EXPECT_EQ(Evaluate("VDN", "5001"), "5001");
-    EXPECT_EQ(Evaluate("VDN", "5000"), "5000");
+clsProperty Absolute(const std::string& code, const std::string& text) {
+    clsProperty item;
+    item.PropertyCode = item.Name = code;
+    item.ConversionCode = "S";
+    item.Relation = "A";
+    item.Text = text;
+    return item;
 }
 
-TEST_F(Verdicts, AnswersHoldToTheEndOfARun) {
-    {
-        const SuspicionsOfRun run;
-        Ask("5001 VDN", ui::Answer::Yes);
-        EXPECT_EQ(Evaluate("VDN", "5001"), "5001");
-        EXPECT_EQ(Evaluate("VDN", "5001.0"), "5001");
-        Ask("5002 VDN", ui::Answer::YesToAll);
-        EXPECT_EQ(Evaluate("VDN", "5002"), "5002");
-        EXPECT_EQ(Evaluate("VDN", "6000"), "6000");
-        Ask("2500 T", ui::Answer::No); // of another quantity nothing was said
-        EXPECT_EQ(Evaluate("T", "2500"), "Error");
-        Ask("2500 T", ui::Answer::No); // and a No is no answer for the next row
-        EXPECT_EQ(Evaluate("T", "2500"), "Error");
-        desktop.Expect("Value -1 VDN is not valid"); // which no Yes covers
-        EXPECT_EQ(Evaluate("VDN", "-1"), "Error");
-    }
-    Ask("6000 VDN", ui::Answer::No);
-    EXPECT_EQ(Evaluate("VDN", "6000"), "Error");
+TEST(Property, DoubtsComeInTheOrderOfTheChainUntilOneIsRefused) {
+    std::string told;
+    bool answer = true;
+    const auto confirm = [&](const ValueDoubt& doubt) {
+        told += doubt.item + " " + NumberText(doubt.value) + (doubt.isQuestion ? "? " : "! ") +
+                doubt.text + "\n";
+        return answer;
+    };
+    const auto evaluate = [&] {
+        told.clear();
+        clsProperty head = Absolute("VDN", "5001");
+        head.isLast = false;
+        head.NextItem = std::make_shared<clsProperty>(Absolute("RID", "0.5"));
+        return EvaluateUncertainty(head, 0, confirm);
+    };
+    const std::string ofHead = "VDN VDN 5001? Value 5001 VDN is suspicious\nIs that all right?\n";
+    EXPECT_EQ(evaluate(), "Error"); // no answer makes a value that cannot be true stand
+    EXPECT_EQ(told, ofHead + "RID RID 0.5! Value 0.5 RID is not valid\n");
+    answer = false;
+    EXPECT_EQ(evaluate(), "Error");
+    EXPECT_EQ(told, ofHead);
+
+    clsProperty head = Absolute("VDN", "5001");
+    EXPECT_EQ(EvaluateUncertainty(head, 0), "Error"); // nobody is there to say that it may stand
+    head.Relation.clear();
+    told.clear();
+    EXPECT_EQ(EvaluateUncertainty(head, 0, confirm), "");
+    EXPECT_EQ(told, "VDN VDN 5001! No relation\n");
 }
 
 TEST(Property, CopyTakesTheWholeChainAndSharesNothing) {
