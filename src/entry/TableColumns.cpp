@@ -1,8 +1,8 @@
 #include "entry/TableColumns.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "records/clsTwo.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
@@ -24,38 +24,49 @@ std::string WithoutPercent(const std::string& text) {
     return text.ends_with('%') ? text.substr(0, text.size() - 1) : text;
 }
 
-std::string* StatementIn(clsData& row, const TableColumn& column) {
+/// The statement in a row's own part that a column shows; null for the other columns.
+template <class Extras>
+auto* StatementIn(Extras& extras, const TableColumn& column) {
+    auto& item = extras.items.at(static_cast<std::size_t>(column.item));
     switch (column.kind) {
     case Kind::DS:
-        return &row.Statements(column.item).DS;
+        return &item.DS;
     case Kind::Rep:
-        return &row.Statements(column.item).Rep;
+        return &item.Rep;
     case Kind::Repetitions:
-        return &row.Statements(column.item).Repetitions;
+        return &item.Repetitions;
     case Kind::Unc:
-        return &row.Statements(column.item).Unc;
+        return &item.Unc;
+    case Kind::CU:
+        return &extras.userCU;
     default:
-        break;
+        return &extras.CD;
     }
-    row.Statements(0); // makes the room for what only few rows carry
-    return column.kind == Kind::CU ? &row.Extras->userCU : &row.Extras->CD;
 }
 
 } // namespace
 
-TableColumns::TableColumns(const clsTwo& set, bool withDigits) {
-    for (int n = 1; n <= set.nVar; ++n)
-        AddItem(set, n, withDigits);
-    AddItem(set, 0, withDigits);
-    const clsX& property = set.UX[0];
-    if (property.iCU) Add(Kind::CU, 0, "Comb.Unc.", property.CValue);
-    if (property.iCD) Add(Kind::CD, 0, "Curve Dev.", property.CDRms);
+TableColumns::TableColumns(const std::vector<Quantity>& quantities, bool withDigits,
+                           bool withTies) {
+    const auto properties = std::ranges::count_if(quantities, &Quantity::isProperty);
+    if (withTies) Add(Kind::Tie, 0, "Tie");
+    int variable = 0;
+    int property = 0;
+    for (const Quantity& quantity : quantities) {
+        const bool single = quantity.isProperty && properties < 2;
+        AddQuantity(quantity,
+                    single                ? "Property"
+                    : quantity.isProperty ? "Property" + std::to_string(++property)
+                                          : "Var" + std::to_string(++variable),
+                    withDigits);
+    }
     Add(Kind::KVO, 0, "KVO Uncert.");
 }
 
-void TableColumns::AddItem(const clsTwo& set, int item, bool withDigits) {
-    const clsX& stated = set.UX[static_cast<std::size_t>(item)];
-    Add(Kind::Value, item, item == 0 ? "Property" : "Var" + std::to_string(item));
+void TableColumns::AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits) {
+    const clsX& stated = quantity.statements;
+    const int item = quantity.item;
+    Add(Kind::Value, item, head);
     if (withDigits) Add(Kind::Digits, item, "Digits");
     if (stated.iDS) Add(Kind::DS, item, "Dev.Spec.", stated.DSValue);
     if (stated.iRep) {
@@ -63,6 +74,9 @@ void TableColumns::AddItem(const clsTwo& set, int item, bool withDigits) {
         Add(Kind::Repetitions, item, "Repetitions");
     }
     if (stated.iUnc) Add(Kind::Unc, item, "Uncert.", stated.UValue);
+    if (!quantity.isProperty) return;
+    if (stated.iCU) Add(Kind::CU, item, "Comb.Unc.", stated.CValue);
+    if (stated.iCD) Add(Kind::CD, item, "Curve Dev.", stated.CDRms);
 }
 
 void TableColumns::Add(Kind kind, int item, const std::string& head, const std::string& setValue) {
@@ -86,47 +100,51 @@ std::vector<int> TableColumns::PlacesIn(const TableColumns& others) const {
 
 std::string TableColumns::CellOf(const clsData& row, int at) const {
     const TableColumn& column = (*this)[at];
-    const auto item = static_cast<std::size_t>(column.item);
-    const std::string& value = row.Values[item];
-    switch (column.kind) {
-    case Kind::Value:
-        return Shown(value, row.Digits[item], row.isDigit);
-    case Kind::Digits:
-        return std::to_string(row.isDigit && row.Digits[item] > 0 ? row.Digits[item]
-                                                                  : SignificantDigits(value));
-    case Kind::KVO:
-        return IsBlankField(row.PRPUNCERTY) ? "" : row.PRPUNCERTY;
-    default:
-        break;
+    if (column.kind == Kind::Tie) return IsBlankField(row.TIELINE) ? "" : row.TIELINE;
+    if (column.kind == Kind::KVO) return IsBlankField(row.PRPUNCERTY) ? "" : row.PRPUNCERTY;
+    if (column.kind == Kind::Value || column.kind == Kind::Digits) {
+        const auto item = static_cast<std::size_t>(column.item);
+        const std::string value = row.Values.at(item);
+        if (column.kind == Kind::Value) return Shown(value, row.Digits[item], row.isDigit);
+        return std::to_string(row.DigitCount(column.item));
     }
     if (!row.Extras) return {};
-    clsData copy = row;
-    const std::string text = *StatementIn(copy, column);
+    const std::string& text = *StatementIn(std::as_const(*row.Extras), column);
     return column.percent ? WithoutPercent(text) : text;
 }
 
 void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
     const TableColumn& column = (*this)[at];
-    const auto item = static_cast<std::size_t>(column.item);
-    if (column.kind == Kind::Value && !cell.empty() && CellOf(row, at) == cell) {
-        if (Find(Kind::Digits, column.item) < 0)
-            row.Digits[item] = static_cast<std::uint8_t>(row.DigitCount(column.item));
-        return; // what was typed stays behind what its digits let show
-    }
-    if (column.kind == Kind::Value) {
-        row.Values[item] = cell;
-        if (Find(Kind::Digits, column.item) < 0)
-            row.Digits[item] = static_cast<std::uint8_t>(SignificantDigits(cell));
-    } else if (column.kind == Kind::Digits) {
-        const int typed = static_cast<int>(std::clamp(Val(cell), 0.0, 99.0));
-        row.Digits[item] =
-            static_cast<std::uint8_t>(typed > 0 ? typed : SignificantDigits(row.Values[item]));
-    } else if (column.kind == Kind::KVO) {
+    if (column.kind == Kind::Tie)
+        row.TIELINE = cell;
+    else if (column.kind == Kind::Value)
+        StoreValue(row, at, cell);
+    else if (column.kind == Kind::Digits)
+        StoreDigits(row, column.item, cell);
+    else if (column.kind == Kind::KVO) {
         if (IsNumeric(cell) || cell.empty()) row.PRPUNCERTY = cell;
     } else if (!cell.empty() || row.Extras) {
+        row.Statements(0); // makes the room for what only few rows carry
         const bool addsPercent = column.percent && !cell.empty() && !cell.ends_with('%');
-        *StatementIn(row, column) = addsPercent ? cell + "%" : cell;
+        *StatementIn(*row.Extras, column) = addsPercent ? cell + "%" : cell;
     }
+}
+
+/// What was typed stays behind what its digits let show.
+void TableColumns::StoreValue(clsData& row, int at, const std::string& cell) const {
+    const int item = (*this)[at].item;
+    const bool asShown = !cell.empty() && CellOf(row, at) == cell;
+    if (!asShown) row.Values.at(static_cast<std::size_t>(item)) = cell;
+    if (Find(Kind::Digits, item) >= 0) return; // the count comes with its own cell
+    row.Digits.at(static_cast<std::size_t>(item)) =
+        static_cast<std::uint8_t>(asShown ? row.DigitCount(item) : SignificantDigits(cell));
+}
+
+void TableColumns::StoreDigits(clsData& row, int item, const std::string& cell) {
+    const auto place = static_cast<std::size_t>(item);
+    const int typed = static_cast<int>(std::clamp(Val(cell), 0.0, 99.0));
+    row.Digits.at(place) =
+        static_cast<std::uint8_t>(typed > 0 ? typed : SignificantDigits(row.Values.at(place)));
 }
 
 } // namespace vexora

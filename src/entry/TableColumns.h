@@ -3,31 +3,33 @@
 #include <string>
 #include <vector>
 
+#include "records/Quantity.h"
 #include "records/clsData.h"
 
 namespace vexora {
 
-class clsTwo;
-
-/// What one column of a data table holds. Item 0 is the property, 1 to 3 are the variables.
+/// What one column of a data table holds, and of which quantity (Quantity::item).
 struct TableColumn {
-    enum class Kind { Value, Digits, DS, Rep, Repetitions, Unc, CU, CD, KVO };
+    enum class Kind { Tie, Value, Digits, DS, Rep, Repetitions, Unc, CU, CD, KVO };
     Kind kind = Kind::Value;
     int item = 0;
     bool percent = false; // the cells are per cent of the value without saying so
     std::string head;
 
-    bool IsStatement() const { return kind != Kind::Value && kind != Kind::KVO; }
+    bool IsStatement() const {
+        return kind != Kind::Tie && kind != Kind::Value && kind != Kind::KVO;
+    }
     bool operator==(const TableColumn&) const = default;
 };
 
-/// The columns of a table from left to right: each variable, then the property, with its digits
-/// when they are shown and the statements that its set makes for every row; at last the figure of
-/// the evaluation.
+/// The columns of a table from left to right: the number of the tie where rows have one, then each
+/// quantity with its digits when they are shown and the statements that its set makes for every
+/// row; at last the figure of the evaluation. Any number of variables and properties has room.
 class TableColumns {
 public:
     TableColumns() = default;
-    TableColumns(const clsTwo& set, bool withDigits);
+    explicit TableColumns(const std::vector<Quantity>& quantities, bool withDigits = false,
+                          bool withTies = false);
 
     const std::vector<TableColumn>& All() const { return columns_; }
     int Count() const { return static_cast<int>(columns_.size()); }
@@ -39,13 +41,15 @@ public:
     /// For each column of these the place in the others, -1 when it is not there.
     std::vector<int> PlacesIn(const TableColumns& others) const;
 
-    /// The cell of a column for a row, as the table shows it.
+    /// The cell of a column for a row of a data set, as the table shows it.
     std::string CellOf(const clsData& row, int column) const;
     /// Puts a cell into the row.
     void Store(clsData& row, int column, const std::string& cell) const;
 
 private:
-    void AddItem(const clsTwo& set, int item, bool withDigits);
+    void StoreValue(clsData& row, int column, const std::string& cell) const;
+    static void StoreDigits(clsData& row, int item, const std::string& cell);
+    void AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits);
     void Add(TableColumn::Kind kind, int item, const std::string& head,
              const std::string& setValue = {});
 

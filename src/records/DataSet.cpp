@@ -25,6 +25,18 @@ bool DataSet::HasVariable(std::string_view code) const {
     return false;
 }
 
+std::vector<Quantity> DataSet::Quantities() const {
+    std::vector<Quantity> quantities;
+    const auto add = [&](int n) {
+        const clsX& item = UX[static_cast<std::size_t>(n)];
+        quantities.push_back({n, n == 0, item.Name, item.Unit, PhaseFor(n), item});
+    };
+    for (int n = 1; n <= nVar; ++n)
+        add(n);
+    add(0);
+    return quantities;
+}
+
 void DataSet::AddX(const clsX& item) {
     clsX added = item;
     if (added.N < 0 && added.PRPCODE == PRPCODE) added.N = 0;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/OpenRecord.h"
+#include "records/Quantity.h"
 #include "records/ResultDefinition.h"
 #include "records/RowList.h"
 #include "records/UnitConversion.h"
@@ -77,6 +78,9 @@ public:
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string_view Relation() const { return Definition().Relation(); }
     bool HasVariable(std::string_view code) const;
+    /// The quantities of a row from left to right: the variables, then the property, with the names
+    /// and units that their statements bear (NameStatements in PropertyChain.h).
+    std::vector<Quantity> Quantities() const;
 
     /// By its number, else by its code; what has no place in the set is kept as read.
     void AddX(const clsX& item) override;

@@ -86,6 +86,7 @@ private:
     void TakeSet();
     void TakeRows();
     void AnalyseCurrentProperty();
+    TableColumns ColumnsOfSet() const;
     void FillHeader();
     void FillRows();
     bool IsChanged() const;

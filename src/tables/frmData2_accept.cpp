@@ -105,7 +105,7 @@ bool frmData2::CheckUnc() {
     const auto confirm = [&](const ValueDoubt& doubt) { return suspicions.Confirm(doubt); };
     const int figure = columns_.Find(Kind::KVO);
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
-        if (tblData.Cell(row, 0).empty()) continue;
+        if (tblData.Cell(row, columns_.Find(Kind::Value, 1)).empty()) continue;
         bool ok = true;
         Calc_unc(row, ok, confirm);
         const auto findings = CheckEvaluation(tblData, columns_, row);
@@ -142,7 +142,7 @@ bool frmData2::AssignAccepted() {
     const bool assignedBefore = std::exchange(assigned_, true);
     if (set_->UX == before) return true;
     const auto emptiesColumns = [this](TableEdit& edit) {
-        const TableColumns next(*set_, Globals().IncludeDigits);
+        const TableColumns next = ColumnsOfSet();
         const std::vector<int> places = columns_.PlacesIn(next);
         for (int column = 0; column < columns_.Count(); ++column) {
             if (places[static_cast<std::size_t>(column)] >= 0) continue;
@@ -166,7 +166,7 @@ void frmData2::UseStatements(const std::array<clsX, 5>& statements) {
 
 /// Entries of rows whose column goes with its statement are not thrown away unasked.
 bool frmData2::MayLoseColumns() const {
-    const TableColumns next(*set_, Globals().IncludeDigits);
+    const TableColumns next = ColumnsOfSet();
     const std::vector<int> places = columns_.PlacesIn(next);
     for (int column = 0; column < columns_.Count(); ++column) {
         if (places[static_cast<std::size_t>(column)] >= 0) continue;

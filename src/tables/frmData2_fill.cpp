@@ -89,12 +89,16 @@ std::string frmData2::ColumnsText() const {
     return text + "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
 }
 
+TableColumns frmData2::ColumnsOfSet() const {
+    return TableColumns(set_->Quantities(), Globals().IncludeDigits, set_->HasTies());
+}
+
 /// Lays the columns out anew; cells keep their texts, and the empty columns of a printed table that
 /// stood beside the others stay beside them.
 void frmData2::FillHeader() {
     const TableColumns before = columns_;
     const ui::Grid::Block selected = tblData.Selection();
-    columns_ = TableColumns(*set_, Globals().IncludeDigits);
+    columns_ = ColumnsOfSet();
     if (before.All() == columns_.All()) return;
     const ui::Grid::Batch batch(tblData);
     std::vector<int> places = before.PlacesIn(columns_);
