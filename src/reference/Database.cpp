@@ -4,6 +4,8 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+
 namespace vexora {
 
 namespace {
@@ -62,8 +64,49 @@ std::string Quoted(std::string_view name) {
 
 } // namespace
 
-void Recordset::Finalizer::operator()(sqlite3_stmt* statement) const {
-    sqlite3_finalize(statement);
+/// The statements of one database that are prepared and not in use. One that is in use is not here,
+/// so that the same text asked for meanwhile gets a statement of its own.
+class PreparedStatements {
+public:
+    PreparedStatements() = default;
+    ~PreparedStatements() {
+        for (sqlite3_stmt* statement : statements_)
+            sqlite3_finalize(statement);
+    }
+    PreparedStatements(const PreparedStatements&) = delete;
+    PreparedStatements& operator=(const PreparedStatements&) = delete;
+
+    /// The statement with this text, which the caller then has to itself, or null.
+    sqlite3_stmt* Take(std::string_view sql) {
+        const auto found = std::ranges::find(statements_, sql, sqlite3_sql);
+        if (found == statements_.end()) return nullptr;
+        sqlite3_stmt* statement = *found;
+        statements_.erase(found);
+        return statement;
+    }
+
+    /// Takes a statement back; the one unused for longest goes when there are too many.
+    void Give(sqlite3_stmt* statement) {
+        // Without the reset its read lock would last. What it says was told when it was stepped.
+        sqlite3_reset(statement);
+        sqlite3_clear_bindings(statement);
+        statements_.push_back(statement);
+        if (statements_.size() <= MostKept) return;
+        sqlite3_finalize(statements_.front());
+        statements_.erase(statements_.begin());
+    }
+
+private:
+    static constexpr std::size_t MostKept = 24; // reading and filling in ask some ten texts
+
+    std::vector<sqlite3_stmt*> statements_; // in the order in which they came back
+};
+
+void Recordset::Release::operator()(sqlite3_stmt* statement) const {
+    if (const auto home = kept.lock())
+        home->Give(statement);
+    else
+        sqlite3_finalize(statement);
 }
 
 Recordset::Recordset(Statement statement) : statement_(std::move(statement)) {
@@ -108,6 +151,11 @@ std::int64_t Recordset::Integer(std::string_view field) const {
     return column < 0 ? 0 : sqlite3_column_int64(statement_.get(), column);
 }
 
+bool Recordset::IsNull(std::string_view field) const {
+    const int column = Column(field);
+    return column < 0 || sqlite3_column_type(statement_.get(), column) == SQLITE_NULL;
+}
+
 void Database::Closer::operator()(sqlite3* handle) const {
     sqlite3_close_v2(handle);
 }
@@ -123,24 +171,41 @@ Database::Handle Database::OpenHandle(const std::string& path, int flags) {
     return handle;
 }
 
-void Database::Open(const std::string& path, bool readOnly) {
-    handle_ = OpenHandle(path, readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+void Database::SetHandle(Handle handle, const std::string& path) {
+    kept_ = std::make_shared<PreparedStatements>();
+    handle_ = std::move(handle);
     path_ = path;
+    BeginEdition();
+}
+
+void Database::BeginEdition() {
+    static std::uint64_t last = 0;
+    edition_ = ++last;
+}
+
+void Database::Open(const std::string& path, bool readOnly) {
+    SetHandle(OpenHandle(path, readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE), path);
+}
+
+void Database::Close() {
+    kept_.reset();
+    handle_.reset();
 }
 
 void Database::Create(const std::string& path) {
     Close();
     std::remove(path.c_str());
-    handle_ = OpenHandle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    path_ = path;
+    SetHandle(OpenHandle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), path);
 }
 
 Recordset::Statement Database::Prepare(std::string_view sql, const SqlValues& values) const {
     if (!handle_) throw DatabaseError("The database is not open");
-    sqlite3_stmt* raw = nullptr;
-    const int code =
-        sqlite3_prepare_v2(handle_.get(), sql.data(), static_cast<int>(sql.size()), &raw, nullptr);
-    Recordset::Statement statement(raw);
+    sqlite3_stmt* raw = kept_->Take(sql);
+    int code = SQLITE_OK;
+    if (!raw)
+        code = sqlite3_prepare_v3(handle_.get(), sql.data(), static_cast<int>(sql.size()),
+                                  SQLITE_PREPARE_PERSISTENT, &raw, nullptr);
+    Recordset::Statement statement(raw, {kept_});
     if (code != SQLITE_OK || !raw) Fail(handle_.get(), path_);
     int index = 0;
     for (const SqlValue& value : values)
@@ -149,6 +214,7 @@ Recordset::Statement Database::Prepare(std::string_view sql, const SqlValues& va
 }
 
 void Database::Execute(std::string_view sql, const SqlValues& values) {
+    BeginEdition();
     Query(sql, values);
 }
 
@@ -223,6 +289,7 @@ BulkInsert::BulkInsert(Database& database, std::string_view table,
 }
 
 void BulkInsert::Add(const SqlValues& values) {
+    database_.BeginEdition();
     sqlite3_reset(statement_.get());
     int index = 0;
     for (const SqlValue& value : values)

@@ -1,7 +1,7 @@
 // The table store: SQLite files behind a small face. Values are always bound, never pasted into a
 // statement. Text columns compare without regard to case; whoever needs exact case says so in the
-// statement. Every statement that wants table order says "order by rowid". The two databases of a
-// run belong to ReferenceDatabases.
+// statement. Every statement that wants table order says "order by rowid". A statement is prepared
+// once and kept for its next use. The two databases of a run belong to ReferenceDatabases.
 #pragma once
 
 #include <cstdint>
@@ -48,6 +48,8 @@ private:
 using SqlValues = std::vector<SqlValue>;
 using SqlAssignments = std::vector<std::pair<std::string, SqlValue>>;
 
+class PreparedStatements;
+
 /// The rows of one query, stepped from the first to the last. Must not outlive its Database.
 /// Columns are found without regard to case; an absent column or a null reads as "" or 0.
 class Recordset {
@@ -59,14 +61,18 @@ public:
     double Number(std::string_view field) const;
     std::int64_t Integer(std::string_view field) const;
     bool Flag(std::string_view field) const { return Integer(field) != 0; }
+    /// True for a null and for an absent column.
+    bool IsNull(std::string_view field) const;
 
 private:
     friend class Database;
     friend class BulkInsert;
-    struct Finalizer {
+    /// Hands a statement back to where it is kept, if that is still there.
+    struct Release {
+        std::weak_ptr<PreparedStatements> kept;
         void operator()(sqlite3_stmt* statement) const;
     };
-    using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
+    using Statement = std::unique_ptr<sqlite3_stmt, Release>;
     explicit Recordset(Statement statement);
     int Column(std::string_view field) const;
 
@@ -81,9 +87,12 @@ public:
     void Open(const std::string& path, bool readOnly);
     /// Makes an empty database file in place of whatever stands there.
     void Create(const std::string& path);
-    void Close() { handle_.reset(); }
+    void Close();
     bool IsOpen() const { return handle_ != nullptr; }
     const std::string& Path() const { return path_; }
+    /// A number that no other opened file has, and another one after each change made through this
+    /// object: who keeps what was read here compares it.
+    std::uint64_t Edition() const { return edition_; }
 
     /// Runs one statement that returns no rows.
     void Execute(std::string_view sql, const SqlValues& values = {});
@@ -106,8 +115,13 @@ private:
     static Handle OpenHandle(const std::string& path, int flags);
     Recordset::Statement Prepare(std::string_view sql, const SqlValues& values) const;
 
+    void SetHandle(Handle handle, const std::string& path);
+    void BeginEdition();
+
     Handle handle_;
+    std::shared_ptr<PreparedStatements> kept_; // of the handle, between their uses
     std::string path_;
+    std::uint64_t edition_ = 0;
 };
 
 /// All or nothing: rolls back at the end of the scope unless committed.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace vexora {
 namespace {
 
@@ -94,6 +96,80 @@ TEST_F(DatabaseTest, AReadOnlyDatabaseRefusesWritesWithAMessage) {
                   folder.File("t.db") + ": attempt to write a readonly database");
     }
     EXPECT_THROW(Database().Query("select 1"), DatabaseError);
+}
+
+TEST_F(DatabaseTest, AStatementInUseIsNotLentTwice) {
+    for (const char* name : {"a", "b"})
+        database.Insert("T", {{"Name", name}});
+    const std::string sql = "select Name from T where Name>=? order by rowid";
+    EXPECT_EQ(database.Query(sql, {"b"}).Text("Name"), "b");
+    Recordset outer = database.Query(sql, {"a"});
+    Recordset inner = database.Query(sql, {"b"});
+    EXPECT_EQ(inner.Text("Name"), "b");
+    outer.MoveNext();
+    EXPECT_EQ(outer.Text("Name"), "b");
+    inner.MoveNext();
+    EXPECT_TRUE(inner.IsEnd());
+    EXPECT_TRUE(database.Query(sql).IsEnd()) << "the value of an earlier use";
+    EXPECT_EQ(outer.Text("Name"), "b");
+}
+
+TEST_F(DatabaseTest, KeptStatementsFollowTheTableAndStandInNobodysWay) {
+    database.Insert("T", {{"Name", "a"}});
+    const std::string sql = "select * from T order by rowid";
+    EXPECT_EQ(database.Query(sql).Text("Colour"), "");
+    database.Execute("alter table T add column Colour text default 'red'");
+    EXPECT_EQ(database.Query(sql).Text("Colour"), "red");
+    Database other;
+    other.Open(folder.File("t.db"), false);
+    other.Execute("drop table T"); // fails where a statement still reads
+    EXPECT_THROW(database.Query(sql), DatabaseError);
+    EXPECT_THROW(database.Query(sql), DatabaseError);
+    other.Execute("create table T (Name text)");
+    EXPECT_TRUE(database.Query(sql).IsEnd());
+}
+
+TEST_F(DatabaseTest, StatementsGoWithTheirDatabase) {
+    database.Insert("T", {{"Name", "first"}});
+    const std::string sql = "select Name from T";
+    database.Query(sql);
+    Database moved = std::move(database);
+    EXPECT_EQ(moved.Query(sql).Text("Name"), "first");
+    Database second;
+    second.Create(folder.File("second.db"));
+    second.Execute("create table T (Name text)");
+    EXPECT_TRUE(second.Query(sql).IsEnd());
+    moved = std::move(second);
+    EXPECT_TRUE(moved.Query(sql).IsEnd());
+    moved.Close();
+    EXPECT_THROW(moved.Query(sql), DatabaseError);
+}
+
+TEST_F(DatabaseTest, MoreTextsThanAreKeptAnswerAllTheSame) {
+    database.Insert("T", {{"Number", 7}});
+    for (int time = 0; time < 2; ++time)
+        for (int i = 0; i < 100; ++i)
+            EXPECT_EQ(database.Query("select Number + " + std::to_string(i) + " as n from T")
+                          .Integer("n"),
+                      7 + i);
+}
+
+TEST_F(DatabaseTest, EveryOpeningAndChangeBeginsAnEdition) {
+    std::uint64_t last = database.Edition();
+    const auto isAnother = [&] {
+        const std::uint64_t before = std::exchange(last, database.Edition());
+        return before != last;
+    };
+    database.Query("select * from T");
+    EXPECT_FALSE(isAnother());
+    const auto rowid = database.Insert("T", {{"Name", "a"}});
+    EXPECT_TRUE(isAnother());
+    database.Update("T", rowid, {{"Name", "b"}});
+    EXPECT_TRUE(isAnother());
+    BulkInsert(database, "T", {"Name"}).Add({"c"});
+    EXPECT_TRUE(isAnother());
+    database.Open(folder.File("t.db"), true);
+    EXPECT_TRUE(isAnother());
 }
 
 /// Two small good files and the bad ones beside them.
