@@ -1,7 +1,5 @@
 #include "chem/TableChecks.h"
 
-#include "reference/AtomicMasses.h"
-
 namespace vexora {
 
 namespace {
@@ -14,7 +12,6 @@ int Count(const Database& database, const std::string& what) {
 
 RowFindings CheckTables(const ReferenceDatabases& databases) {
     RowFindings findings;
-    const KeptAtomicMasses masses;
     CheckProperties(databases.LocalDb, findings);
     CheckVariables(databases.LocalDb, findings);
     CheckConversions(databases.LocalDb, findings);

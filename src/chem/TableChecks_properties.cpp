@@ -56,7 +56,7 @@ std::vector<std::string> ContextsOf(const TableRows& row) {
 
 /// Files have some codes without the number of the component: such a row only names what is read.
 bool IsShortForm(const std::string& code) {
-    return FindProperty(code + "1").has_value();
+    return FindProperty(code + "1") != nullptr;
 }
 
 void CheckOffer(TableRows& row) {

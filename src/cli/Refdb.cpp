@@ -4,7 +4,6 @@
 #include "chem/clsAtom.h"
 #include "cli/ExitCodes.h"
 #include "host/FindPlaces.h"
-#include "reference/AtomicMasses.h"
 #include "reference/RefdbBuild.h"
 
 #include <CLI/CLI.hpp>
@@ -79,7 +78,6 @@ int Import(const Arguments& arguments) {
         ReferenceDatabases databases;
         databases.LocalDb.Open(VocabularyFor(arguments), true);
         UseDatabases(&databases);
-        const KeptAtomicMasses masses;
         const ImportResult result = ImportCompounds(
             arguments.compounds, arguments.database,
             {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; }});

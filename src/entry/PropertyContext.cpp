@@ -41,7 +41,7 @@ std::string DateText(const ui::Date& date) {
 void TakeProperty(const StoredProperty& stored, const clsA& header) {
     KVOGlobal& globals = Globals();
     const auto found = FindProperty(stored.code, globals.DataContext);
-    PropertyRow row = found.value_or(PropertyRow());
+    PropertyRow row = found ? *found : PropertyRow();
     if (!found) row.Property = stored.code;
     const std::string unit = stored.isOriginalUnit ? stored.unit : "S";
     const double factor = stored.isOriginalUnit ? stored.factor : 0;

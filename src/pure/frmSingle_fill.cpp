@@ -45,7 +45,7 @@ void frmSingle::UseSample() {
 void frmSingle::ShowProperty() {
     const KVOGlobal& globals = Globals();
     const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
-    row_ = row.value_or(PropertyRow());
+    row_ = row ? *row : PropertyRow();
     if (!row) row_.Code = row_.Property = globals.PropertyCode;
     Caption((editing_ ? "Edit: " : "") + row_.Property +
             (IsFixed() ? " at fixed conditions" : " as single valued property"));
@@ -63,7 +63,8 @@ void frmSingle::ShowVariable() {
     frmIndVar.Visible(IsFixed());
     variable_ = IsFixed() ? IndVarFixed(row_.Code) : std::string();
     if (!IsFixed() || !globals.CurrentProperty) return;
-    const VariableRow row = FindVariable(variable_).value_or(VariableRow());
+    const VariableRow* found = FindVariable(variable_);
+    const VariableRow row = found ? *found : VariableRow();
     variableUnit_ = row.Unit;
     frmIndVar.Caption("Independent variable: " + row.IndVariable);
     const std::string chosen = lstVariable_Unit.Chosen();

@@ -86,7 +86,7 @@ void frmTwo::UseSample() {
 void frmTwo::ShowProperty() {
     const KVOGlobal& globals = Globals();
     const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
-    row_ = row.value_or(PropertyRow());
+    row_ = row ? *row : PropertyRow();
     if (!row) row_.Code = row_.Property = globals.PropertyCode;
     variables_ = VariablesOf(globals.DataContext);
     std::erase_if(variables_,

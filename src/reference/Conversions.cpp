@@ -1,8 +1,8 @@
 #include "reference/Conversions.h"
 
 #include "reference/Numbers.h"
-#include "reference/ReferenceDatabases.h"
 #include "reference/Text.h"
+#include "reference/VocabularyTables.h"
 
 #include <algorithm>
 #include <array>
@@ -122,15 +122,16 @@ double Backward(const BuiltIn& unit, double value, double molarMass) {
     return 0;
 }
 
+bool IsOfUnit(const ConversionRow& row, std::string_view unit) {
+    return unit.empty() || row.Unit == unit;
+}
+
 /// FACTOR of the row with exactly this code (and unit, when named).
 double RowFactor(std::string_view code, std::string_view unit) {
-    const ReferenceDatabases* databases = CurrentDatabases();
-    if (!databases) return 0;
-    const Recordset rows = databases->LocalDb.Query(
-        "select FACTOR from Conversions where ConversionCode=? collate binary"
-        " and (?='' or Unit=? collate binary) order by rowid",
-        {code, unit, unit});
-    return rows.Number("FACTOR");
+    for (const ConversionRow* row :
+         Kept(&VocabularyTables::Conversions).With(&ConversionRow::ConversionCode, code))
+        if (row->ConversionCode == code && IsOfUnit(*row, unit)) return row->FACTOR;
+    return 0;
 }
 
 double OuterFactor(std::string_view code) {
@@ -200,16 +201,14 @@ bool IsKnownConversion(std::string_view code) {
 
 std::string ConversionText(std::string& code, std::string_view unit, std::string_view context) {
     if (code == "X") return "*8.31451";
-    const ReferenceDatabases* databases = CurrentDatabases();
-    if (!databases) return {};
-    Recordset rows = databases->LocalDb.Query(
-        "select * from Conversions where ConversionCode=? and (?='' or Unit=? collate binary)"
-        " order by rowid",
-        {code, unit, unit});
-    const bool none = rows.IsEnd();
-    std::string text;
-    for (; !rows.IsEnd(); rows.MoveNext())
-        if (rows.Text("ConversionCode") == code) text = rows.Text("Conversion");
+    bool none = true;
+    std::string text; // of the last row, should there be several
+    for (const ConversionRow* row :
+         Kept(&VocabularyTables::Conversions).With(&ConversionRow::ConversionCode, code)) {
+        if (!IsOfUnit(*row, unit)) continue;
+        none = false;
+        if (row->ConversionCode == code) text = row->Conversion;
+    }
     if (none && context == "React" && code.find(' ') != std::string::npos) {
         if (code.front() == 'Z')
             code.front() = 'S';
@@ -220,23 +219,19 @@ std::string ConversionText(std::string& code, std::string_view unit, std::string
 }
 
 std::string ConversionCodeOf(std::string_view text, std::string_view unit) {
-    const ReferenceDatabases* databases = CurrentDatabases();
-    if (!databases || text.find('\'') != std::string_view::npos) return "S";
-    const Recordset rows = databases->LocalDb.Query(
-        "select ConversionCode from Conversions where Conversion=? collate binary"
-        " and (?='' or Unit=? collate binary) order by rowid",
-        {text, unit, unit});
-    return rows.IsEnd() ? "S" : rows.Text("ConversionCode");
+    if (text.find('\'') != std::string_view::npos) return "S";
+    for (const ConversionRow* row :
+         Kept(&VocabularyTables::Conversions).With(&ConversionRow::Conversion, text))
+        if (IsOfUnit(*row, unit)) return row->ConversionCode;
+    return "S";
 }
 
 std::vector<std::string> UnitList(std::string_view unit) {
     std::vector<std::string> list = FixedUnitList(unit);
-    const ReferenceDatabases* databases = CurrentDatabases();
-    if (unit == "1" || !databases) return list;
-    Recordset rows = databases->LocalDb.Query(
-        "select Conversion from Conversions where Unit=? collate binary order by rowid", {unit});
-    for (; !rows.IsEnd(); rows.MoveNext())
-        list.push_back(rows.Text("Conversion"));
+    if (unit == "1") return list;
+    for (const ConversionRow* row :
+         Kept(&VocabularyTables::Conversions).With(&ConversionRow::Unit, unit))
+        list.push_back(row->Conversion);
     return list;
 }
 

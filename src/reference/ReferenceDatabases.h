@@ -4,14 +4,18 @@
 
 #include "reference/Database.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace vexora {
 
+struct VocabularyTables;
+
 struct ReferenceDatabases {
-    Database LocalDb;    // vocabulary, VXRLocal.mdb
-    Database CompoundDb; // compounds, sources, authors, VXR.mdb
+    Database LocalDb;                         // vocabulary, VXRLocal.mdb
+    Database CompoundDb;                      // compounds, sources, authors, VXR.mdb
+    std::shared_ptr<VocabularyTables> Tables; // what the look-ups have read of LocalDb
 
     /// Opens both files and reads their test tables (`Conversions`, `ALLNAME`). The text tells what
     /// is wrong; the present databases change only when nothing is.

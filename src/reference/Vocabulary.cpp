@@ -2,7 +2,7 @@
 
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
-#include "reference/VocabularyQuery.h"
+#include "reference/VocabularyTables.h"
 
 #include <algorithm>
 #include <array>
@@ -17,35 +17,33 @@ constexpr std::array<CodeText, 3> kSolutions{{
     {"Solution 2", "S2"},
 }};
 
-VariableRow ReadVariable(const Recordset& row) {
-    VariableRow variable;
-    variable.IndVarCode = row.Text("IndVarCode");
-    variable.IndVariable = row.Text("IndVariable");
-    variable.Unit = row.Text("Unit");
-    variable.XMLGroup = row.Text("XMLGroup");
-    variable.XMLNAME = row.Text("XMLNAME");
-    variable.Constr = row.Flag("Constr");
-    variable.NeedSolvent = row.Flag("NeedSolvent");
-    return variable;
-}
-
 /// Reaction and bio variables have no flag column of their own.
-bool VariableOffered(const Recordset& row, std::string_view context) {
-    return context == "React" || IsOffered(row, context);
+bool VariableOffered(const VariableRow& row, std::string_view context) {
+    return context == "React" || row.Offered.IsIn(context);
 }
 
-std::optional<VariableRow> FirstVariable(std::string_view sql, std::string_view value,
-                                         std::string_view context) {
-    std::optional<Recordset> rows = LocalRows(sql, {value});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        if (VariableOffered(*rows, context)) return ReadVariable(*rows);
-    return std::nullopt;
+const VariableRow* FirstVariable(std::string VariableRow::*key, std::string_view value,
+                                 std::string_view context) {
+    for (const VariableRow* row : Kept(&VocabularyTables::IndVariables).With(key, value))
+        if (VariableOffered(*row, context)) return row;
+    return nullptr;
 }
 
-constexpr std::string_view kVariableByCode =
-    "select * from IndVariables where IndVarCode=? collate binary order by rowid";
-constexpr std::string_view kVariableByName =
-    "select * from IndVariables where IndVariable=? order by rowid";
+/// The other of two texts of the first row with this key; "" if there is none.
+template <class Row>
+std::string TextOf(const KeptTable<Row>& table, std::string Row::*key, std::string_view value,
+                   std::string Row::*text) {
+    const Row* row = table.First(key, value);
+    return row ? row->*text : std::string();
+}
+
+template <class Row>
+std::vector<std::string> Texts(const KeptTable<Row>& table, std::string Row::*text) {
+    std::vector<std::string> texts;
+    for (const Row& row : table.Rows())
+        texts.push_back(row.*text);
+    return texts;
+}
 
 /// "(some (text))" without its outer brackets, inner "(" blanked.
 std::string BareText(std::string_view text) {
@@ -58,14 +56,24 @@ std::string BracketedText(std::string_view text) {
     return std::string(text) + (text.back() == ')' ? "" : ")");
 }
 
-std::string NameOf(std::string_view sql, std::string_view code) {
+using SampleMethods = KeptTable<SampleMethodRow> VocabularyTables::*;
+
+std::string NameOf(SampleMethods table, std::string_view code) {
     if (code.starts_with('(')) return BareText(code);
-    return LocalText(sql, {code}, "Method");
+    return TextOf(Kept(table), &SampleMethodRow::Code, code, &SampleMethodRow::Method);
 }
 
-std::string CodeOf(std::string_view sql, std::string_view text) {
+std::string CodeOf(SampleMethods table, std::string_view text) {
     if (text.starts_with('(')) return BracketedText(text);
-    return LocalText(sql, {text}, "Code");
+    return TextOf(Kept(table), &SampleMethodRow::Method, text, &SampleMethodRow::Code);
+}
+
+/// The first title that begins with the typed text, which may hold wildcards.
+std::string CompleteTitle(const KeptTable<TitleRow>& titles, std::string_view typed) {
+    const std::string pattern = std::string(typed) + "*";
+    for (const TitleRow& row : titles.Rows())
+        if (Like(pattern, row.Title)) return row.Title;
+    return {};
 }
 
 std::optional<Recordset> CompoundsByName(std::string_view name) {
@@ -76,17 +84,24 @@ std::optional<Recordset> CompoundsByName(std::string_view name) {
 
 } // namespace
 
+bool ContextFlags::IsIn(std::string_view context) const {
+    if (context == "Pure" || context == "Complex") return Pure;
+    if (context == "Bin") return Bin;
+    if (context == "Tern") return Tern;
+    if (context == "React") return React;
+    return context != "GH" || GH;
+}
+
 std::string PhaseCode(std::string_view name) {
     const std::string solution = CodeOfText(kSolutions, name);
     if (!solution.empty()) return solution;
-    return LocalText("select Code from Phases where Phase=? order by rowid", {name}, "Code");
+    return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Phase, name, &PhaseRow::Code);
 }
 
 std::string PhaseName(std::string_view code) {
     const std::string solution = TextOfCode(kSolutions, code);
     if (!solution.empty()) return solution;
-    return LocalText("select Phase from Phases where Code=? collate binary order by rowid", {code},
-                     "Phase");
+    return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Code, code, &PhaseRow::Phase);
 }
 
 bool PhaseValid(std::string_view code) {
@@ -95,12 +110,11 @@ bool PhaseValid(std::string_view code) {
 
 std::vector<std::string> PhaseList(std::string_view context, std::string_view prefix) {
     std::vector<std::string> names;
-    std::optional<Recordset> rows = LocalRows("select * from Phases order by rowid");
-    for (; rows && !rows->IsEnd(); rows->MoveNext()) {
-        std::string name = rows->Text("Phase");
-        const bool fits = EqualNoCase(std::string_view(name).substr(0, prefix.size()), prefix);
-        const bool ofHydrate = context == "Complex" && rows->Flag("GH");
-        if (fits && (ofHydrate || IsOffered(*rows, context))) names.push_back(std::move(name));
+    for (const PhaseRow& row : Kept(&VocabularyTables::Phases).Rows()) {
+        const std::string_view name = row.Phase;
+        const bool fits = EqualNoCase(name.substr(0, prefix.size()), prefix);
+        const bool ofHydrate = context == "Complex" && row.Offered.GH;
+        if (fits && (ofHydrate || row.Offered.IsIn(context))) names.push_back(row.Phase);
     }
     return names;
 }
@@ -120,62 +134,60 @@ bool IsGasPhase(std::string_view code) {
     return code == "G";
 }
 
-std::optional<VariableRow> FindVariable(std::string_view code) {
-    return FirstVariable(kVariableByCode, code, {});
+const VariableRow* FindVariable(std::string_view code) {
+    return FirstVariable(&VariableRow::IndVarCode, code, {});
 }
 
-std::optional<VariableRow> FindVariableByName(std::string_view name) {
-    return FirstVariable(kVariableByName, name, {});
+const VariableRow* FindVariableByName(std::string_view name) {
+    return FirstVariable(&VariableRow::IndVariable, name, {});
 }
 
 std::vector<VariableRow> VariablesOf(std::string_view context, bool constraintsOnly) {
     std::vector<VariableRow> variables;
-    std::optional<Recordset> rows = LocalRows("select * from IndVariables order by rowid");
-    for (; rows && !rows->IsEnd(); rows->MoveNext()) {
-        const bool wanted = !constraintsOnly || rows->Flag("Constr");
-        if (wanted && VariableOffered(*rows, context)) variables.push_back(ReadVariable(*rows));
+    for (const VariableRow& row : Kept(&VocabularyTables::IndVariables).Rows()) {
+        const bool wanted = !constraintsOnly || row.Constr;
+        if (wanted && VariableOffered(row, context)) variables.push_back(row);
     }
     return variables;
 }
 
 std::string VariableName(std::string_view code, std::string_view context) {
-    return FirstVariable(kVariableByCode, code, context).value_or(VariableRow()).IndVariable;
+    const VariableRow* row = FirstVariable(&VariableRow::IndVarCode, code, context);
+    return row ? row->IndVariable : std::string();
 }
 
 std::string VariableCode(std::string_view name, std::string_view context) {
-    return FirstVariable(kVariableByName, name, context).value_or(VariableRow()).IndVarCode;
+    const VariableRow* row = FirstVariable(&VariableRow::IndVariable, name, context);
+    return row ? row->IndVarCode : std::string();
 }
 
 bool VariableValid(std::string_view code) {
-    return FirstVariable(kVariableByCode, code, "Pure").has_value();
+    return FirstVariable(&VariableRow::IndVarCode, code, "Pure") != nullptr;
 }
 
 std::string PurificationName(std::string_view code) {
-    return NameOf("select Method from Purification where Code=? collate binary order by rowid",
-                  code);
+    return NameOf(&VocabularyTables::Purification, code);
 }
 
 std::string PurificationCode(std::string_view text) {
-    return CodeOf("select Code from Purification where Method=? order by rowid", text);
+    return CodeOf(&VocabularyTables::Purification, text);
 }
 
 std::string DeterminationName(std::string_view code) {
-    return NameOf("select Method from PurityDetermination where Code=? collate binary"
-                  " order by rowid",
-                  code);
+    return NameOf(&VocabularyTables::PurityDetermination, code);
 }
 
 std::string DeterminationCode(std::string_view text) {
-    return CodeOf("select Code from PurityDetermination where Method=? order by rowid", text);
+    return CodeOf(&VocabularyTables::PurityDetermination, text);
 }
 
 std::vector<std::string> PurificationList() {
-    return LocalTexts("select Method from Purification order by rowid", {}, "Method");
+    return Texts(Kept(&VocabularyTables::Purification), &SampleMethodRow::Method);
 }
 
 std::vector<std::string> DeterminationList() {
     std::vector<std::string> names =
-        LocalTexts("select Method from PurityDetermination order by rowid", {}, "Method");
+        Texts(Kept(&VocabularyTables::PurityDetermination), &SampleMethodRow::Method);
     const std::string first = "Stated by supplier";
     std::erase(names, first);
     names.insert(names.begin(), first);
@@ -183,11 +195,9 @@ std::vector<std::string> DeterminationList() {
 }
 
 std::optional<int> PurityRating(std::string_view code) {
-    const auto rows = LocalRows(
-        "select Rating from PurityDetermination where Code=? collate binary order by rowid",
-        {code});
-    if (!rows || rows->IsEnd()) return std::nullopt;
-    return static_cast<int>(rows->Integer("Rating"));
+    const SampleMethodRow* row =
+        Kept(&VocabularyTables::PurityDetermination).First(&SampleMethodRow::Code, code);
+    return row ? std::optional(row->Rating) : std::nullopt;
 }
 
 std::string CompoundFormula(std::string_view name) {
@@ -212,34 +222,38 @@ std::vector<CompoundRow> CompoundsOf(std::int64_t rn) {
 }
 
 std::string ReactionType(std::string_view code) {
-    return LocalText("select RType from Reactions where RCode=? collate binary order by rowid",
-                     {code}, "RType");
+    return TextOf(Kept(&VocabularyTables::Reactions), &ReactionRow::RCode, code,
+                  &ReactionRow::RType);
 }
 
 std::string ReactionCode(std::string_view type) {
-    return LocalText("select RCode from Reactions where RType=? order by rowid", {type}, "RCode");
+    return TextOf(Kept(&VocabularyTables::Reactions), &ReactionRow::RType, type,
+                  &ReactionRow::RCode);
 }
 
 std::vector<std::string> ReactionTypes() {
-    return LocalTexts("select RType from Reactions order by rowid", {}, "RType");
+    return Texts(Kept(&VocabularyTables::Reactions), &ReactionRow::RType);
+}
+
+std::optional<double> AtomicMass(std::string_view symbol) {
+    const ElementRow* row = Kept(&VocabularyTables::Elements).First(&ElementRow::SYMBOL, symbol);
+    return row ? std::optional(row->AMASS) : std::nullopt;
 }
 
 std::vector<std::string> JournalTitles() {
-    return LocalTexts("select ShortTitle from Journals order by rowid", {}, "ShortTitle");
+    return Texts(Kept(&VocabularyTables::Journals), &TitleRow::Title);
 }
 
 std::vector<std::string> PublisherNames() {
-    return LocalTexts("select Publisher from Publishers order by rowid", {}, "Publisher");
+    return Texts(Kept(&VocabularyTables::Publishers), &TitleRow::Title);
 }
 
 std::string CompleteJournal(std::string_view typed) {
-    return LocalText("select ShortTitle from Journals where ShortTitle like ?||'*' order by rowid",
-                     {typed}, "ShortTitle");
+    return CompleteTitle(Kept(&VocabularyTables::Journals), typed);
 }
 
 std::string CompletePublisher(std::string_view typed) {
-    return LocalText("select Publisher from Publishers where Publisher like ?||'*' order by rowid",
-                     {typed}, "Publisher");
+    return CompleteTitle(Kept(&VocabularyTables::Publishers), typed);
 }
 
 } // namespace vexora

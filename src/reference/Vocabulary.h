@@ -1,7 +1,12 @@
 // The look-ups between the codes that records store and the words that dialogs and the export show,
-// answered by the two databases of ReferenceDatabases. Nothing is cached. A look-up that finds
-// nothing, or finds no database, gives an empty result and says nothing: the caller's check tells
-// the user. Codes are matched with exact case.
+// answered by the two databases of ReferenceDatabases. A look-up that finds nothing, or finds no
+// database, gives an empty result and says nothing: the caller's check tells the user. A table that
+// cannot be read throws DatabaseError. Codes are matched with exact case, names without regard to
+// it; of several rows the first in table order answers.
+//
+// The tables of the vocabulary are kept: each is read at its first look-up, and anew when other
+// databases are opened or installed, or rows are changed through LocalDb. A pointer to a row holds
+// until then. Compounds are not kept; they are asked of the database each time.
 //
 // Context words are "Pure", "Bin", "Tern", "React" and "Complex" (offered what "Pure" is offered).
 // Property contexts are "", "lle", "sle", "vle": variants of one property by kind of equilibrium.
@@ -24,6 +29,17 @@ inline std::string ConversionCode(std::string_view text) {
 inline std::vector<std::string> UnitConversions(std::string_view unit) {
     return UnitList(unit);
 }
+
+/// The contexts in which a table offers a row.
+struct ContextFlags {
+    bool Pure = false;
+    bool Bin = false;
+    bool Tern = false;
+    bool React = false;
+    bool GH = false;
+    /// True as well for a context that no column tells of.
+    bool IsIn(std::string_view context) const;
+};
 
 // Phases. "Solution", "Solution 1" and "Solution 2" ("S", "S1", "S2") never reach the database.
 
@@ -54,9 +70,11 @@ struct VariableRow {
     std::string XMLNAME;
     bool Constr = false;
     bool NeedSolvent = false;
+    ContextFlags Offered;
 };
-std::optional<VariableRow> FindVariable(std::string_view code);
-std::optional<VariableRow> FindVariableByName(std::string_view name);
+/// The first row of a code or name; null if there is none.
+const VariableRow* FindVariable(std::string_view code);
+const VariableRow* FindVariableByName(std::string_view name);
 /// The variables offered in a context; only those usable as constraints, if asked.
 std::vector<VariableRow> VariablesOf(std::string_view context, bool constraintsOnly = false);
 /// With a context, only what is offered in it.
@@ -84,16 +102,18 @@ struct PropertyRow {
     bool One = false;
     bool Two = false;
     bool REACT = false;
+    ContextFlags Offered;
 };
 /// The row of a code that fits best: offered in the context and of the property context, then
-/// offered and of none, then the first with the code.
-std::optional<PropertyRow> FindProperty(std::string_view code, std::string_view context = {},
-                                        std::string_view propertyContext = {});
-std::optional<PropertyRow> FindPropertyByName(std::string_view name, std::string_view context = {});
+/// offered and of none, then the first with the code. Null without such a code.
+const PropertyRow* FindProperty(std::string_view code, std::string_view context = {},
+                                std::string_view propertyContext = {});
+const PropertyRow* FindPropertyByName(std::string_view name, std::string_view context = {});
 struct PropertyGroupRow {
     std::string GROUP;
     std::string GroupName;
     std::string XMLGroup;
+    ContextFlags Offered;
 };
 /// The groups offered in a context (all with none).
 std::vector<PropertyGroupRow> PropertyGroups(std::string_view context);

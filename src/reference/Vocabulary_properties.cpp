@@ -1,81 +1,64 @@
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
-#include "reference/VocabularyQuery.h"
+#include "reference/VocabularyTables.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
 
 namespace vexora {
 
 namespace {
 
-constexpr std::string_view kByCode =
-    "select * from Properties where Code=? collate binary order by rowid";
-constexpr std::string_view kByName = "select * from Properties where Property=? order by rowid";
-
-PropertyRow ReadProperty(const Recordset& row) {
-    PropertyRow property;
-    property.Code = row.Text("Code");
-    property.Property = row.Text("Property");
-    property.Unit = row.Text("Unit");
-    property.GROUP = row.Text("GROUP");
-    property.CONTEXT = row.Text("CONTEXT");
-    property.IndVarFixed = row.Text("IndVarFixed");
-    property.PureAvail = row.Text("PureAvail");
-    property.MixtAvail = row.Text("MixtAvail");
-    property.XMLNAME = row.Text("XMLNAME");
-    property.MixZ = row.Flag("MixZ");
-    property.MixV = row.Flag("MixV");
-    property.Single = row.Flag("Single");
-    property.Fixed = row.Flag("Fixed");
-    property.One = row.Flag("One");
-    property.Two = row.Flag("Two");
-    property.REACT = row.Flag("REACT");
-    return property;
+bool OpenForPure(const PropertyRow& row) {
+    return row.Single || row.Fixed || row.One || row.Two;
 }
 
-bool OpenForPure(const Recordset& row) {
-    return row.Flag("Single") || row.Flag("Fixed") || row.Flag("One") || row.Flag("Two");
-}
-
-bool PropertyOffered(const Recordset& row, std::string_view context) {
-    const std::string_view column = ContextColumn(context);
-    if (column == "Pure") return OpenForPure(row);
-    if (column == "React") return row.Flag("REACT");
-    if (column.empty()) return true;
-    return row.Flag(column) && (row.Flag("MixZ") || row.Flag("MixV"));
+bool PropertyOffered(const PropertyRow& row, std::string_view context) {
+    if (context == "Pure" || context == "Complex") return OpenForPure(row);
+    const bool isOfMixtures = context == "Bin" || context == "Tern" || context == "GH";
+    return row.Offered.IsIn(context) && (!isOfMixtures || row.MixZ || row.MixV);
 }
 
 /// How well a row fits, 0 best.
-int Misfit(const Recordset& row, std::string_view context, std::string_view propertyContext) {
-    const std::string own = row.Text("CONTEXT");
+int Misfit(const PropertyRow& row, std::string_view context, std::string_view propertyContext) {
     if (!PropertyOffered(row, context)) return 3;
-    if (EqualNoCase(own, propertyContext)) return 0;
-    return own.empty() ? 1 : 2;
+    if (EqualNoCase(row.CONTEXT, propertyContext)) return 0;
+    return row.CONTEXT.empty() ? 1 : 2;
 }
 
-std::optional<PropertyRow> BestProperty(std::string_view sql, std::string_view value,
-                                        std::string_view context,
-                                        std::string_view propertyContext) {
-    std::optional<PropertyRow> best;
+const PropertyRow* BestProperty(std::string PropertyRow::*key, std::string_view value,
+                                std::string_view context, std::string_view propertyContext) {
+    const PropertyRow* best = nullptr;
     int least = 4;
-    std::optional<Recordset> rows = LocalRows(sql, {value});
-    for (; rows && !rows->IsEnd() && least > 0; rows->MoveNext()) {
-        const int misfit = Misfit(*rows, context, propertyContext);
+    for (const PropertyRow* row : Kept(&VocabularyTables::Properties).With(key, value)) {
+        const int misfit = Misfit(*row, context, propertyContext);
         if (misfit >= least) continue;
         least = misfit;
-        best = ReadProperty(*rows);
+        best = row;
     }
     return best;
 }
 
-/// `column` of the first row with this code whose flag `mode` is set; the mode must be one of those
-/// listed.
-std::string TextWhere(std::string_view code, std::string_view mode, std::string_view modes,
-                      std::string_view column) {
-    if (mode.empty() ||
-        (" " + std::string(modes) + " ").find(" " + std::string(mode) + " ") == std::string::npos)
-        return {};
-    std::optional<Recordset> rows = LocalRows(kByCode, {code});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        if (rows->Flag(mode)) return rows->Text(column);
+struct Mode {
+    std::string_view name;
+    bool PropertyRow::*isOpen;
+};
+constexpr std::array<Mode, 4> PureModes{{{"Single", &PropertyRow::Single},
+                                         {"Fixed", &PropertyRow::Fixed},
+                                         {"One", &PropertyRow::One},
+                                         {"Two", &PropertyRow::Two}}};
+constexpr std::array<Mode, 2> MixtureModes{
+    {{"MixZ", &PropertyRow::MixZ}, {"MixV", &PropertyRow::MixV}}};
+
+/// A text of the first row with this code to which the mode is open; "" for a mode that is none.
+std::string TextWhere(std::string_view code, std::string_view mode, std::span<const Mode> modes,
+                      std::string PropertyRow::*text) {
+    const auto found = std::ranges::find(modes, mode, &Mode::name);
+    if (found == modes.end()) return {};
+    for (const PropertyRow* row :
+         Kept(&VocabularyTables::Properties).With(&PropertyRow::Code, code))
+        if (row->*found->isOpen) return row->*text;
     return {};
 }
 
@@ -86,66 +69,63 @@ std::string LetterByPhase(std::string_view propertyClass, std::string_view phase
 
 } // namespace
 
-std::optional<PropertyRow> FindProperty(std::string_view code, std::string_view context,
-                                        std::string_view propertyContext) {
-    return BestProperty(kByCode, code, context, propertyContext);
+const PropertyRow* FindProperty(std::string_view code, std::string_view context,
+                                std::string_view propertyContext) {
+    return BestProperty(&PropertyRow::Code, code, context, propertyContext);
 }
 
-std::optional<PropertyRow> FindPropertyByName(std::string_view name, std::string_view context) {
-    return BestProperty(kByName, name, context, {});
+const PropertyRow* FindPropertyByName(std::string_view name, std::string_view context) {
+    return BestProperty(&PropertyRow::Property, name, context, {});
 }
 
 std::vector<PropertyGroupRow> PropertyGroups(std::string_view context) {
     std::vector<PropertyGroupRow> groups;
-    std::optional<Recordset> rows = LocalRows("select * from PropertyGroups order by rowid");
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        if (IsOffered(*rows, context))
-            groups.push_back(
-                {rows->Text("GROUP"), rows->Text("GroupName"), rows->Text("XMLGroup")});
+    for (const PropertyGroupRow& row : Kept(&VocabularyTables::PropertyGroups).Rows())
+        if (row.Offered.IsIn(context)) groups.push_back(row);
     return groups;
 }
 
 std::vector<PropertyRow> PropertiesOfGroup(std::string_view group, std::string_view context) {
     std::vector<PropertyRow> properties;
-    std::optional<Recordset> rows =
-        LocalRows("select * from Properties where \"GROUP\"=? order by rowid", {group});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        if (PropertyOffered(*rows, context)) properties.push_back(ReadProperty(*rows));
+    for (const PropertyRow* row :
+         Kept(&VocabularyTables::Properties).With(&PropertyRow::GROUP, group))
+        if (PropertyOffered(*row, context)) properties.push_back(*row);
     return properties;
 }
 
 std::string PropertyCode(std::string_view name) {
-    return FindPropertyByName(name).value_or(PropertyRow()).Code;
+    const PropertyRow* row = FindPropertyByName(name);
+    return row ? row->Code : std::string();
 }
 
 std::string PropertyName(std::string_view code, std::string_view context,
                          std::string_view propertyContext) {
-    return FindProperty(code, context, propertyContext).value_or(PropertyRow()).Property;
+    const PropertyRow* row = FindProperty(code, context, propertyContext);
+    return row ? row->Property : std::string();
 }
 
 bool PropertyValid(std::string_view code) {
-    std::optional<Recordset> rows = LocalRows(kByCode, {code});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        if (OpenForPure(*rows)) return true;
-    return false;
+    return std::ranges::any_of(Kept(&VocabularyTables::Properties).With(&PropertyRow::Code, code),
+                               [](const PropertyRow* row) { return OpenForPure(*row); });
 }
 
 std::string DefaultUnit(std::string_view name) {
-    if (const auto property = FindPropertyByName(name)) return property->Unit;
-    return FindVariableByName(name).value_or(VariableRow()).Unit;
+    if (const PropertyRow* property = FindPropertyByName(name)) return property->Unit;
+    const VariableRow* variable = FindVariableByName(name);
+    return variable ? variable->Unit : std::string();
 }
 
 std::string PureAvailable(std::string_view code, std::string_view mode) {
-    return TextWhere(code, mode, "Single Fixed One Two", "PureAvail");
+    return TextWhere(code, mode, PureModes, &PropertyRow::PureAvail);
 }
 
 std::string MixtureAvailable(std::string_view code, std::string_view mode) {
-    return TextWhere(code, mode, "MixZ MixV", "MixtAvail");
+    return TextWhere(code, mode, MixtureModes, &PropertyRow::MixtAvail);
 }
 
 std::string IndVarFixed(std::string_view code) {
-    std::string variable = TextWhere(code, "Fixed", "Fixed", "IndVarFixed");
-    if (variable.empty()) variable = TextWhere(code, "One", "One", "IndVarFixed");
+    std::string variable = TextWhere(code, "Fixed", PureModes, &PropertyRow::IndVarFixed);
+    if (variable.empty()) variable = TextWhere(code, "One", PureModes, &PropertyRow::IndVarFixed);
     return variable.empty() ? "T" : variable;
 }
 
@@ -163,26 +143,24 @@ std::optional<std::string> PureLetter(std::string_view propertyClass, bool onBou
 
 std::vector<MethodRow> MethodsOf(std::string_view propertyCode) {
     std::vector<MethodRow> methods;
-    std::optional<Recordset> rows = LocalRows(
-        "select * from Methods where Code=? collate binary order by rowid", {propertyCode});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        methods.push_back({rows->Text("MethodCode"), rows->Text("Method")});
+    for (const MethodOfProperty* row :
+         Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
+        methods.push_back(row->Row);
     return methods;
 }
 
 std::string MethodCode(std::string_view name, std::string_view propertyCode) {
-    return LocalText("select MethodCode from Methods where Method=? and Code=? collate binary"
-                     " order by rowid",
-                     {name, propertyCode}, "MethodCode");
+    for (const MethodOfProperty* row :
+         Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
+        if (EqualNoCase(row->Row.Method, name)) return row->Row.MethodCode;
+    return {};
 }
 
 std::vector<QuestionRow> Questions(std::string_view method, std::string_view context) {
     std::vector<QuestionRow> questions;
-    std::optional<Recordset> rows = LocalRows(
-        "select * from Questions where Method=? collate binary and Context=? order by rowid",
-        {method, context});
-    for (; rows && !rows->IsEnd(); rows->MoveNext())
-        questions.push_back({rows->Text("Question"), rows->Text("Key")});
+    for (const QuestionOfMethod* row :
+         Kept(&VocabularyTables::Questions).With(&QuestionOfMethod::Method, method))
+        if (EqualNoCase(row->Context, context)) questions.push_back(row->Row);
     return questions;
 }
 

@@ -1,6 +1,6 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Vocabulary.h"
-#include "reference/VocabularyQuery.h"
+#include "reference/VocabularyTables.h"
 
 namespace vexora {
 
@@ -14,28 +14,30 @@ std::string WithUnit(const std::string& name, const std::string& unit) {
 
 std::string XMLPropertyGroup(std::string_view code, std::string_view context,
                              std::string_view propertyContext) {
-    const auto property = FindProperty(code, context, propertyContext);
+    const PropertyRow* property = FindProperty(code, context, propertyContext);
     if (!property) return {};
-    return LocalText("select XMLGroup from PropertyGroups where \"GROUP\"=? order by rowid",
-                     {property->GROUP}, "XMLGroup");
+    const PropertyGroupRow* group =
+        Kept(&VocabularyTables::PropertyGroups).First(&PropertyGroupRow::GROUP, property->GROUP);
+    return group ? group->XMLGroup : std::string();
 }
 
 std::string XMLPropertyName(std::string_view code, std::string_view context,
                             std::string_view propertyContext) {
-    const auto property = FindProperty(code, context, propertyContext);
+    const PropertyRow* property = FindProperty(code, context, propertyContext);
     if (!property) return {};
     return property->XMLNAME.empty() ? WithUnit(property->Property, property->Unit)
                                      : property->XMLNAME;
 }
 
 std::string XMLMethod(std::string_view methodCode, std::string_view propertyCode) {
-    return LocalText("select Method from Methods where MethodCode=? collate binary"
-                     " and Code=? collate binary order by rowid",
-                     {methodCode, propertyCode}, "Method");
+    for (const MethodOfProperty* row :
+         Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
+        if (row->Row.MethodCode == methodCode) return row->Row.Method;
+    return {};
 }
 
 std::string XMLVariableGroup(std::string_view code) {
-    const auto variable = FindVariable(code);
+    const VariableRow* variable = FindVariable(code);
     if (variable && !variable->XMLGroup.empty()) return variable->XMLGroup;
     if (code.empty()) return {};
     const bool solvent =
@@ -49,7 +51,7 @@ std::string XMLVariableGroup(std::string_view code) {
 }
 
 std::string XMLVariableName(std::string_view code) {
-    const auto variable = FindVariable(code);
+    const VariableRow* variable = FindVariable(code);
     if (!variable) return {};
     return variable->XMLNAME.empty() ? WithUnit(variable->IndVariable, variable->Unit)
                                      : variable->XMLNAME;

@@ -144,6 +144,55 @@ TEST_F(Vocabulary, FreeTextOfSamplesKeepsItsBracketsInCodesOnly) {
     EXPECT_EQ(PurityRating("y"), std::nullopt);
 }
 
+TEST_F(Vocabulary, TheFirstOfSeveralRowsAnswersAndANullNothing) {
+    databases.LocalDb.Open(folder.File("VXRLocal.mdb"), false);
+    databases.LocalDb.Execute("insert into Phases (Code, Phase) values ('L', 'Second'),"
+                              " ('l', 'Small'), ('L2', 'LIQUID'), (null, 'Codeless'),"
+                              " ('N', null)");
+    EXPECT_EQ(PhaseName("L"), "Liquid");
+    EXPECT_EQ(PhaseName("l"), "Small");
+    EXPECT_EQ(PhaseCode("liquid"), "L");
+    EXPECT_EQ(PhaseName(""), "");
+    EXPECT_EQ(PhaseCode(""), "");
+    EXPECT_EQ(PhaseCode("codeless"), "");
+    EXPECT_EQ(PhaseList("").size(), 9U);
+}
+
+TEST_F(Vocabulary, RowsAreReadAnewWhenTheyChangeAndWhenOtherDatabasesOpen) {
+    const VariableRow* before = FindVariable("P");
+    EXPECT_EQ(FindVariable("P"), before);
+    EXPECT_EQ(AtomicMass("Xx"), std::nullopt);
+    folder.Write("AMASS.tsv", "SYMBOL\tAMASS\tSOURCE_OF_ROW\nXx\t5\t-\n");
+    Build();
+    EXPECT_EQ(AtomicMass("Xx"), 5);
+    EXPECT_EQ(AtomicMass("Co"), std::nullopt);
+    databases.LocalDb.Open(folder.File("VXRLocal.mdb"), false);
+    {
+        const Transaction notCommitted(databases.LocalDb);
+        databases.LocalDb.Execute("update AMASS set AMASS=6");
+        EXPECT_EQ(AtomicMass("Xx"), 6);
+    }
+    EXPECT_EQ(AtomicMass("Xx"), 5);
+    ReferenceDatabases none;
+    UseDatabases(&none);
+    EXPECT_EQ(AtomicMass("Xx"), std::nullopt);
+    EXPECT_EQ(ConversionFactor("xyz"), 0);
+    UseDatabases(&databases);
+    databases.LocalDb.Close();
+    EXPECT_EQ(AtomicMass("Xx"), std::nullopt);
+}
+
+TEST_F(Vocabulary, ATableThatCannotBeReadIsToldAtEachLookUpOfIt) {
+    databases.LocalDb.Open(folder.File("VXRLocal.mdb"), false);
+    databases.LocalDb.Execute("drop table Questions");
+    databases.LocalDb.Execute("alter table Phases rename column Code to Kode");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_THROW(Questions("PYC", "Pure"), DatabaseError);
+        EXPECT_THROW(PhaseName("L"), DatabaseError);
+    }
+    EXPECT_EQ(VariableName("P"), "Pressure");
+}
+
 TEST_F(Vocabulary, VariablesAreFilteredByContextAndNamedForTheExport) {
     EXPECT_EQ(VariableName("X1"), "Mole fraction of component 1");
     EXPECT_EQ(VariableName("X1", "Pure"), "");
