@@ -22,14 +22,6 @@
 
 namespace vexora {
 
-/// The look-ups under their second names.
-inline std::string ConversionCode(std::string_view text) {
-    return ConversionCodeOf(text);
-}
-inline std::vector<std::string> UnitConversions(std::string_view unit) {
-    return UnitList(unit);
-}
-
 /// The contexts in which a table offers a row.
 struct ContextFlags {
     bool Pure = false;
@@ -47,9 +39,6 @@ std::string PhaseCode(std::string_view name);
 std::string PhaseName(std::string_view code);
 /// True for a known code and for "&" (no phase).
 bool PhaseValid(std::string_view code);
-inline bool PhaseDefined(std::string_view code) {
-    return PhaseValid(code);
-}
 /// Names of the phases offered in a context (all with no context), in table order, of those whose
 /// name begins with the prefix. "GH" is the context of gas-hydrate sets; "Complex" adds its phases
 /// to those of "Pure".
@@ -156,17 +145,8 @@ std::vector<QuestionRow> Questions(std::string_view method, std::string_view con
 
 std::string PurificationName(std::string_view code);
 std::string PurificationCode(std::string_view text);
-inline std::string PurificationText(std::string_view code) {
-    return PurificationName(code);
-}
 std::string DeterminationName(std::string_view code);
 std::string DeterminationCode(std::string_view text);
-inline std::string PurityMethodText(std::string_view code) {
-    return DeterminationName(code);
-}
-inline std::string PurityMethodCode(std::string_view text) {
-    return DeterminationCode(text);
-}
 /// Names for the lists; "Stated by supplier" leads the second.
 std::vector<std::string> PurificationList();
 std::vector<std::string> DeterminationList();
