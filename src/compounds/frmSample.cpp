@@ -1,5 +1,6 @@
 #include "compounds/frmSample.h"
 
+#include "entry/CodeLists.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
@@ -103,10 +104,8 @@ void frmSample::Unload() {
 }
 
 void frmSample::FillLists() {
-    for (const CodeText& entry : SampleAvailabilities())
-        lstDescAvail.Add(std::string(entry.text));
-    for (const CodeText& entry : SampleSources())
-        lstSmpSrc.Add(std::string(entry.text));
+    lstDescAvail.Assign(Texts(SampleAvailabilities()));
+    lstSmpSrc.Assign(Texts(SampleSources()));
     lstPurify.Assign(PurificationList());
     lstPurify.Add(otherEntry);
     const auto fill = [](ui::ComboBox& units, ui::ComboBox& methods) {

@@ -84,7 +84,7 @@ private:
     bool CheckPurification();
     bool CheckFinal(int i);
     bool CheckValue(ui::TextBox& box);
-    static bool CheckMethod(const ui::TextBox& box, ui::ComboBox& method);
+    bool CheckMethod(const ui::TextBox& box, ui::ComboBox& method);
     bool Store();
     bool IsGuided() const;
 

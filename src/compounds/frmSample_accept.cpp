@@ -6,25 +6,10 @@
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
 namespace {
-
-/// Shows what is wrong and leads to the control concerned.
-bool Refuse(const std::string& text, ui::Control& control) {
-    ui::Say(text);
-    control.SetFocus();
-    return false;
-}
-
-/// Asks about something unlikely; No leads back to the control.
-bool Confirm(const std::string& question, const std::string& title, ui::Control& control) {
-    if (ui::AskYesNo(question, title)) return true;
-    control.SetFocus();
-    return false;
-}
 
 bool IsImpurity(const ui::ComboBox& unit) {
     for (const PurityUnit& row : PurityUnits())
@@ -78,9 +63,9 @@ bool frmSample::Check() {
 }
 
 bool frmSample::CheckChoices() {
-    if (!ChosenCompound()) return Refuse("Select the compound", cboSubst);
-    if (lstDescAvail.Index() < 0) return Refuse("Select description availability", lstDescAvail);
-    if (IsDescribed() && lstSmpSrc.Index() < 0) return Refuse("Select source of sample", lstSmpSrc);
+    if (!ChosenCompound()) return Refuse(cboSubst, "Select the compound");
+    if (lstDescAvail.Index() < 0) return Refuse(lstDescAvail, "Select description availability");
+    if (IsDescribed() && lstSmpSrc.Index() < 0) return Refuse(lstSmpSrc, "Select source of sample");
     return true;
 }
 
@@ -88,14 +73,15 @@ bool frmSample::CheckAnyPurity() {
     bool any = !txtSrcPurity.IsEmpty();
     for (const auto& box : txtFinalPurity)
         any = any || !box->IsEmpty();
-    return any || Confirm("No numerical purity assessment was provided.\nIs this correct?",
-                          "Purity information missing", txtSrcPurity);
+    return any ||
+           Confirm(txtSrcPurity, "No numerical purity assessment was provided.\nIs this correct?",
+                   "Purity information missing");
 }
 
 bool frmSample::CheckInitial() {
     if (!CheckValue(txtSrcPurity)) return false;
     if (Val(txtSrcPurity.Text()) > 10 && lstSrcPurity.Chosen() == "water mass %" &&
-        !Confirm("Is water content so high?", {}, txtSrcPurity))
+        !Confirm(txtSrcPurity, "Is water content so high?"))
         return false;
     return CheckMethod(txtSrcPurity, lstSrsDetBy);
 }
@@ -103,7 +89,7 @@ bool frmSample::CheckInitial() {
 bool frmSample::CheckPurification() {
     const bool none = lstPurify.Selected(lstPurify.Find(PurificationName("none")));
     if (!none || lstPurify.SelectedCount() < 2) return true;
-    return Refuse("Invalid combination of \"None used\" with other options", lstPurify);
+    return Refuse(lstPurify, "Invalid combination of \"None used\" with other options");
 }
 
 bool frmSample::CheckFinal(int i) {
@@ -111,9 +97,9 @@ bool frmSample::CheckFinal(int i) {
     if (!CheckValue(box)) return false;
     const double value = Val(box.Text());
     if (IsImpurity(lstFinalPurity(i))) {
-        if (value > 10 && !Confirm("Is impurity content so high?", {}, box)) return false;
+        if (value > 10 && !Confirm(box, "Is impurity content so high?")) return false;
     } else if (!box.IsEmpty() && value < 90) {
-        if (!Confirm("Is that low purity value correct?", {}, box)) return false;
+        if (!Confirm(box, "Is that low purity value correct?")) return false;
     }
     return CheckMethod(box, lstFinalDetBy(i));
 }
@@ -121,20 +107,20 @@ bool frmSample::CheckFinal(int i) {
 bool frmSample::CheckValue(ui::TextBox& box) {
     const std::string finding = CheckPurityValue(box.Text());
     if (finding.empty()) return true;
-    Refuse(finding, box);
+    Refuse(box, finding);
     box.SelectAll();
     return false;
 }
 
 bool frmSample::CheckMethod(const ui::TextBox& box, ui::ComboBox& method) {
     return box.IsEmpty() || method.Index() >= 0 ||
-           Refuse("Please select the method of purity determination", method);
+           Refuse(method, "Please select the method of purity determination");
 }
 
 /// Puts the sample into the document, or brings the one that is there up to date.
 bool frmSample::Store() {
     const auto compound = ChosenCompound();
-    if (!compound) return Refuse("Substance internal error", cboSubst);
+    if (!compound) return Refuse(cboSubst, "Substance internal error");
     const bool fresh = stored_ == nullptr;
     if (fresh) stored_ = std::make_shared<clsS>();
     stored_->SMPNM = txtSampleNo.Text();

@@ -42,19 +42,12 @@ void frmSubst::AcceptNew() {
 }
 
 bool frmSubst::CheckKept() {
-    if (Trimmed(txtName).empty()) {
-        ui::Say("Enter the substance name");
-        txtName.SetFocus();
-        return false;
-    }
+    if (Trimmed(txtName).empty()) return Refuse(txtName, "Enter the substance name");
     const bool asPicked = std::any_of(rows_.begin(), rows_.end(), [this](const CompoundRow& row) {
         return row.FORMULA == Trimmed(txtFormula);
     });
-    if (!asPicked && CanonicalFormula(Trimmed(txtFormula)).empty()) {
-        ui::Say("Enter a valid empirical formula");
-        txtFormula.SetFocus();
-        return false;
-    }
+    if (!asPicked && CanonicalFormula(Trimmed(txtFormula)).empty())
+        return Refuse(txtFormula, "Enter a valid empirical formula");
     return true;
 }
 
@@ -68,11 +61,7 @@ bool frmSubst::IdentifySubstance() {
         ShowMass();
     }
     if (!AgreesWithNumber()) return false;
-    if (txtName.IsEmpty()) {
-        ui::Say("Enter the substance name");
-        txtName.SetFocus();
-        return false;
-    }
+    if (txtName.IsEmpty()) return Refuse(txtName, "Enter the substance name");
     return CompoundsNamed(txtName.Text()).empty() ? RegisterSubstance() : AgreesWithName();
 }
 
@@ -106,11 +95,8 @@ bool frmSubst::AgreesWithName() {
 bool frmSubst::RegisterSubstance() {
     if (!ui::AskYesNo("Do you want to add a new substance not registered in the database?"))
         return false;
-    if (CanonicalFormula(txtFormula.Text()).empty()) {
-        ui::Say("Enter a valid empirical formula");
-        txtFormula.SetFocus();
-        return false;
-    }
+    if (CanonicalFormula(txtFormula.Text()).empty())
+        return Refuse(txtFormula, "Enter a valid empirical formula");
     AddNewSubstance();
     return true;
 }
@@ -126,11 +112,8 @@ bool frmSubst::CheckFree() {
     const clsR& source = *Globals().CurrentR;
     const std::string rn = TypedParts().Joined();
     if (!source.FindL(rn)) return true;
-    if (typedRN_ || !isNew_) {
-        ui::Say("The substance with this RN has already been entered");
-        txtRN2.SetFocus();
-        return false;
-    }
+    if (typedRN_ || !isNew_)
+        return Refuse(txtRN2, "The substance with this RN has already been entered");
     const ui::FillingScope filling(*this);
     ShowParts(SplitRegistryNumber(FreeSubstanceRN(source, rn)));
     return true;
@@ -142,9 +125,7 @@ bool frmSubst::CheckCharge() {
     if (text.empty() || (charge && *charge >= std::numeric_limits<std::int32_t>::min() &&
                          *charge <= std::numeric_limits<std::int32_t>::max()))
         return true;
-    ui::Say("Enter a valid charge");
-    thtCharge.SetFocus();
-    return false;
+    return Refuse(thtCharge, "Enter a valid charge");
 }
 
 void frmSubst::Store() {
@@ -204,10 +185,7 @@ void frmSubst::AcceptEdit() {
     if (!CheckCharge()) return;
     if (compound.isNew) {
         const std::string formula = CanonicalFormula(Trimmed(txtFormula));
-        if (formula.empty() && !ui::AskYesNo("Formula is empty\nIs that OK?")) {
-            txtFormula.SetFocus();
-            return;
-        }
+        if (formula.empty() && !Confirm(txtFormula, "Formula is empty\nIs that OK?")) return;
         compound.Formula = formula;
         compound.MMass = 0; // else the mass of the formula before would stand
         compound.MMass = MolarMassOfRN(compound.RN);

@@ -38,12 +38,11 @@ void frmSubst::FindSubstance() {
 }
 
 bool frmSubst::RNCheck() {
-    const auto finding = CheckRegistryNumber(TypedParts());
-    if (!finding) return true;
-    ui::Say(finding->Text, "Invalid RN");
-    ui::TextBox& box = finding->Part == 0 ? txtRN2 : txtRN1;
-    box.SetFocus();
-    box.Select(finding->Start, finding->Length);
+    const auto fault = CheckRegistryNumber(TypedParts());
+    if (!fault) return true;
+    ui::TextBox& box = fault->Part == 0 ? txtRN2 : txtRN1;
+    Refuse(box, fault->Text, "Invalid RN");
+    box.Select(fault->Start, fault->Length);
     return false;
 }
 

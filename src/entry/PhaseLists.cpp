@@ -1,9 +1,44 @@
 #include "entry/PhaseLists.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora {
+
+namespace {
+
+std::vector<std::string> PhaseNames(const std::vector<std::string>& codes) {
+    std::vector<std::string> names;
+    for (const std::string& code : codes)
+        names.push_back(PhaseName(code));
+    return names;
+}
+
+} // namespace
+
+void FillPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
+    const std::string chosen = list.Chosen();
+    std::vector<std::string> names = PhaseNames(codes);
+    list.Enabled(!names.empty());
+    if (names != list.Items()) {
+        list.Assign(std::move(names));
+        list.Choose(chosen);
+    }
+    if (list.Count() == 1) list.Index(0);
+}
+
+void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
+    const std::string chosen = list.Chosen();
+    const bool keep = list.Index() > 0;
+    std::vector<std::string> names = PhaseNames(codes);
+    names.insert(names.begin(), selectPhase);
+    if (keep && std::ranges::find(names, chosen) == names.end()) names.push_back(chosen);
+    if (names != list.Items()) list.Assign(std::move(names));
+    list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
+}
 
 void ChoosePhase(ui::ComboBox& list, std::string_view code) {
     if (IsBlankField(code)) return;

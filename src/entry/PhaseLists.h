@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/Lists.h"
 
@@ -11,6 +12,13 @@ namespace vexora {
 
 /// The first entry of a list in which nothing is chosen at first.
 inline constexpr const char* selectPhase = "SELECT PHASE";
+
+/// Offers the phases of these codes; the one chosen is kept where it is still offered, one alone is
+/// chosen by itself, and a list without any is closed.
+void FillPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes);
+/// The same behind the prompt; the one chosen is kept even where it is not offered any more, and
+/// the list stays open.
+void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes);
 
 /// Chooses the entry of a code, which joins the list where it is not offered; a blank code changes
 /// nothing.

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "entry/SampleList.h"
 #include "ui/Form.h"
 #include "ui/Lists.h"
 
@@ -11,9 +12,8 @@ namespace vexora {
 class clsL;
 class clsS;
 
-/// The two lists in which a data dialog asks for the compound and its sample. The dialog owns the
-/// lists and this; the choice is told through the globals. Samples end with "New", which makes one
-/// on the way.
+/// The two lists in which a dialog for data of a pure compound asks for the compound and its
+/// sample. The dialog owns the lists and this; the choice is told through the globals.
 class SampleChoice {
 public:
     /// A prompt, if there is one, leads the list of samples.
@@ -24,29 +24,24 @@ public:
     void Fill();
     /// Lists the samples of the chosen compound; one alone is chosen by itself.
     void FillSamples();
-    /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form, and
-    /// what it made is chosen, else what was chosen before.
-    void SampleClick();
+    /// Acts on the chosen entry of the samples (SampleList::Click).
+    void SampleClick() { samples_.Click(); }
     /// Nothing is to be changed: the record that is edited keeps its sample.
     void Lock();
 
     std::shared_ptr<clsL> Compound() const;
-    std::shared_ptr<clsS> Sample() const;
+    std::shared_ptr<clsS> Sample() const { return samples_.Sample(); }
     /// Molar mass [g/mol] of the compound, 0 when it is not known.
     double MolarMass() const;
     /// Makes the sample the current one, unless locked, and puts purity and molar mass, or this one
     /// where the formula gives none, into the working context.
-    void PutInContext(double fallbackMolarMass) const;
+    void PutInContext(double fallbackMolarMass);
 
 private:
-    void MakeSample();
-    void ChoosePosition(std::size_t position);
-
     ui::Form& form_;
     ui::ComboBox& compounds_;
-    ui::ComboBox& samples_;
-    std::string prompt_;
-    std::size_t chosen_ = 0; // position of the sample in force, 0 for none
+    ui::ComboBox& sampleBox_;
+    SampleList samples_;
     bool locked_ = false;
 };
 

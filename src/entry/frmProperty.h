@@ -79,7 +79,6 @@ private:
     void Enter(int variableCount, const std::string& dialog);
     void Accept();
     bool Check();
-    bool Refuse(ui::Control& control, const std::string& text);
     void Store(int variableCount);
     void StoreUnit(const PropertyRow& row);
     void StoreStatements();

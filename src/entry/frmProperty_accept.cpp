@@ -9,7 +9,6 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/UnitText.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -28,12 +27,6 @@ void frmProperty::Accept() {
     Store(Globals().VariableCount);
     accepted_ = true;
     Close();
-}
-
-bool frmProperty::Refuse(ui::Control& control, const std::string& text) {
-    ui::Say(text);
-    control.SetFocus();
-    return false;
 }
 
 bool frmProperty::Check() {

@@ -4,6 +4,7 @@
 
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
+#include "entry/CodeLists.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
@@ -50,9 +51,7 @@ void frmProperty::FillGroups() {
     lstPropGroup.Assign({"SELECT PROPERTY GROUP"});
     for (const PropertyGroupRow& group : groups_)
         lstPropGroup.Add(group.GroupName);
-    lstExpPurpose.Clear();
-    for (const CodeText& purpose : ExperimentPurposes())
-        lstExpPurpose.Add(std::string(purpose.text));
+    lstExpPurpose.Assign(Texts(ExperimentPurposes()));
 }
 
 /// A review offers what suits the entry dialog that asked for it, and what it came with.

@@ -88,7 +88,6 @@ private:
     bool CheckValue(ui::TextBox& box);
     bool CheckLevel(ui::TextBox& box);
     bool CheckRepetitions(ui::TextBox& box);
-    bool Refuse(ui::Control& control, const std::string& text);
     void Calculate();
     void TakeEvaluated(const clsProperty& head);
     void TakeEntries(clsProperty& quantity, int i) const;

@@ -8,7 +8,6 @@
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -28,12 +27,6 @@ double Level(const std::string& text) {
 }
 
 } // namespace
-
-bool frmUnc::Refuse(ui::Control& control, const std::string& text) {
-    ui::Say(text);
-    control.SetFocus();
-    return false;
-}
 
 bool frmUnc::CheckValue(ui::TextBox& box) {
     if (!box.Enabled()) return true;

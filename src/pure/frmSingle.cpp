@@ -11,7 +11,6 @@
 #include "globals/KVOGlobal.h"
 #include "records/PropertyChain.h"
 #include "records/clsZ.h"
-#include "ui/Desktop.h"
 #include "ui/Forms.h"
 
 namespace vexora {

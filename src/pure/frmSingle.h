@@ -76,12 +76,11 @@ private:
     bool CheckVariable();
     bool CheckUnit();
     bool CheckValue();
-    bool Refuse(ui::Control& control, const std::string& text, const std::string& title = {});
     void Store();
     void StoreHeader(clsZ& record) const;
     void StoreValues(clsZ& record) const;
     void StoreStatements(clsZ& record) const;
-    void TakeTexts() const;
+    void TakeTexts();
 
     SampleChoice choice_{*this, cboSubst, cboSample};
     PropertyRow row_;                // the property in hand

@@ -11,7 +11,6 @@
 #include "records/clsZ.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -33,12 +32,6 @@ void frmSingle::Accept() {
     cmdAccept.Caption("Done");
     stored_ = true;
     txtValue.SetFocus();
-}
-
-bool frmSingle::Refuse(ui::Control& control, const std::string& text, const std::string& title) {
-    ui::Say(text, title);
-    control.SetFocus();
-    return false;
 }
 
 bool frmSingle::Check() {
@@ -146,7 +139,7 @@ void frmSingle::StoreStatements(clsZ& record) const {
 }
 
 /// The chain as the form stands.
-void frmSingle::TakeTexts() const {
+void frmSingle::TakeTexts() {
     clsProperty& head = *Globals().CurrentProperty;
     head.Text = NormalizeNumber(txtValue.Text());
     if (!IsFixed() || !head.NextItem) return;

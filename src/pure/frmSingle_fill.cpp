@@ -1,7 +1,5 @@
 #include "pure/frmSingle.h"
 
-#include <algorithm>
-
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
@@ -16,25 +14,6 @@
 #include "reference/Text.h"
 
 namespace vexora {
-
-namespace {
-
-/// Fills a list with the names of phases and keeps the one chosen where it is still offered; one
-/// phase alone is chosen by itself.
-void OfferPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
-    const std::string chosen = list.Chosen();
-    std::vector<std::string> names;
-    for (const std::string& code : codes)
-        names.push_back(PhaseName(code));
-    list.Enabled(!names.empty());
-    if (names != list.Items()) {
-        list.Assign(std::move(names));
-        list.Choose(chosen);
-    }
-    if (list.Count() == 1) list.Index(0);
-}
-
-} // namespace
 
 void frmSingle::UseSample() {
     choice_.PutInContext(editing_ ? Globals().CurrentZ->FallbackMolarMass : 0);
@@ -84,9 +63,9 @@ void frmSingle::ShowPhases() {
     const std::string& context = Globals().DataContext;
     const ui::FillingScope filling(*this);
     const PhaseOffer offer = OfferPhases(row_.Code, count, PhaseChosen(lstPhase1), context);
-    OfferPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
-    OfferPhaseList(lstPhase2, offer.Phase2);
-    OfferPhaseList(lstPhase3, offer.Phase3);
+    FillPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
+    FillPhaseList(lstPhase2, offer.Phase2);
+    FillPhaseList(lstPhase3, offer.Phase3);
 }
 
 void frmSingle::ShowUnit() {

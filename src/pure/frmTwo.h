@@ -98,15 +98,14 @@ private:
     void Accept();
     bool Check();
     void NormalizeNumbers();
-    bool Refuse(ui::Control& control, const std::string& text);
     ui::Control& FieldOf(TwoField field);
-    std::shared_ptr<clsTwo> MakeSet() const;
+    std::shared_ptr<clsTwo> MakeSet();
     void WriteDefinition(clsTwo& set) const;
     void WriteVariables(clsTwo& set) const;
     void WriteResults(clsTwo& set) const;
-    void WriteComment(clsTwo& set) const;
+    void WriteComment(clsTwo& set);
     void DropConstants(CommentTags& tags) const;
-    void BuildPropertyChain() const;
+    void BuildPropertyChain();
     bool TurnsRows() const;
     bool DropNumbers(clsTwo& set);
     bool EnterNumbers(const std::shared_ptr<clsTwo>& set);

@@ -76,12 +76,6 @@ void frmTwo::Accept() {
     Close();
 }
 
-bool frmTwo::Refuse(ui::Control& control, const std::string& text) {
-    ui::Say(text);
-    control.SetFocus();
-    return false;
-}
-
 ui::Control& frmTwo::FieldOf(TwoField field) {
     switch (field) {
     case TwoField::Sample:
@@ -120,8 +114,8 @@ ui::Control& frmTwo::FieldOf(TwoField field) {
 
 bool frmTwo::Check() {
     NormalizeNumbers();
-    const auto findings = CheckTwo(Draft());
-    if (!findings.empty()) return Refuse(FieldOf(findings.front().field), findings.front().text);
+    const auto faults = CheckTwo(Draft());
+    if (!faults.empty()) return Refuse(FieldOf(faults.front().field), faults.front().text);
     const std::string fault = UnitFault(*Globals().CurrentProperty);
     if (!fault.empty()) return Refuse(cmdMethod, fault);
     if (TurnsRows() && !CopyOf(*record_)->AdjustUnits())
@@ -151,7 +145,7 @@ void frmTwo::NormalizeNumbers() {
         box->Text(NormalizeNumber(box->Text()));
 }
 
-std::shared_ptr<clsTwo> frmTwo::MakeSet() const {
+std::shared_ptr<clsTwo> frmTwo::MakeSet() {
     auto set = record_ ? CopyOf(*record_) : as_ ? DefinitionOf(*as_) : std::make_shared<clsTwo>();
     if (TurnsRows()) set->AdjustUnits(); // while it still knows the units that they were typed in
     set->Parent = choice_.Sample().get();
@@ -235,7 +229,7 @@ void frmTwo::WriteResults(clsTwo& set) const {
 
 /// The value that all rows have in common stands among the tags. The variable of a set of one is
 /// written there by the set itself where it needs to.
-void frmTwo::WriteComment(clsTwo& set) const {
+void frmTwo::WriteComment(clsTwo& set) {
     CommentTags tags = CommentTags::OfTags(Globals().KeyRest);
     const std::string open = OpenVariable(Draft()).code;
     const std::string constant = open + " = " + txtVar3.Text();
@@ -263,7 +257,7 @@ void frmTwo::DropConstants(CommentTags& tags) const {
 }
 
 /// The items of variables that are no longer there go, with the precisions stated for them.
-void frmTwo::BuildPropertyChain() const {
+void frmTwo::BuildPropertyChain() {
     clsProperty* last = Globals().CurrentProperty.get();
     const TwoDraft draft = Draft();
     for (int n = 1; n <= draft.nVar; ++n) {
@@ -283,12 +277,10 @@ void frmTwo::BuildPropertyChain() const {
 bool frmTwo::DropNumbers(clsTwo& set) {
     if (set.recData.IsEmpty() || !Presentation::Of(as_->DATATYPE).HasNumbers()) return true;
     const std::size_t rows = set.recData.Count();
-    if (!ui::AskYesNo("The table of this set has " + std::to_string(rows) +
-                      (rows == 1 ? " row" : " rows") +
-                      " of numerical data.\nAre they to be deleted?")) {
-        lstNumerical.SetFocus();
+    if (!Confirm(lstNumerical, "The table of this set has " + std::to_string(rows) +
+                                   (rows == 1 ? " row" : " rows") +
+                                   " of numerical data.\nAre they to be deleted?"))
         return false;
-    }
     set.recData.Clear();
     return true;
 }

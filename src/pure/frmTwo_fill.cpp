@@ -4,6 +4,7 @@
 
 #include "chem/CommentTags.h"
 #include "chem/clsMethod.h"
+#include "entry/CodeLists.h"
 #include "entry/PhaseLists.h"
 #include "entry/PropertyContext.h"
 #include "entry/PropertyRules.h"
@@ -22,48 +23,6 @@ namespace {
 
 // First entries of the lists in which nothing is chosen at first.
 constexpr const char* selectVariable = "SELECT VARIABLE";
-
-std::vector<std::string> Texts(CodeTexts table) {
-    std::vector<std::string> texts;
-    for (const CodeText& entry : table)
-        texts.emplace_back(entry.text);
-    return texts;
-}
-
-std::vector<std::string> PhaseNames(const std::vector<std::string>& codes) {
-    std::vector<std::string> names = {selectPhase};
-    for (const std::string& code : codes)
-        names.push_back(PhaseName(code));
-    return names;
-}
-
-/// Puts new phases into a list and keeps the one chosen; one phase alone is chosen by itself.
-void OfferPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
-    const std::string chosen = list.Chosen();
-    std::vector<std::string> names = PhaseNames(codes);
-    const bool keep = list.Index() > 0;
-    if (keep && std::find(names.begin(), names.end(), chosen) == names.end())
-        names.push_back(chosen);
-    if (names != list.Items()) list.Assign(std::move(names));
-    list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
-}
-
-/// Chooses an entry by its code; one that no table knows is offered as it is.
-void ChooseCode(ui::ComboBox& list, CodeTexts table, std::string_view code) {
-    if (IsBlankField(code)) {
-        list.Index(-1);
-        return;
-    }
-    std::string text = TextOfCode(table, code);
-    if (text.empty()) text = code;
-    if (list.Find(text) < 0) list.Add(text);
-    list.Choose(text);
-}
-
-std::string CodeChosen(const ui::ComboBox& list, CodeTexts table) {
-    const std::string code = CodeOfText(table, list.Chosen());
-    return code.empty() ? list.Chosen() : code;
-}
 
 } // namespace
 
@@ -144,8 +103,8 @@ void frmTwo::ShowPhases() {
     lblPhase2.Visible(boundary);
     lstPhase2.Visible(boundary);
     const PhaseOffer offer = OfferSetPhases(draft);
-    OfferPhaseList(lstPhase1, offer.Phase1);
-    OfferPhaseList(lstPhase2, offer.Phase2);
+    FillPromptedPhaseList(lstPhase1, offer.Phase1);
+    FillPromptedPhaseList(lstPhase2, offer.Phase2);
 }
 
 void frmTwo::ShowVar3() {

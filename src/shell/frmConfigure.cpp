@@ -88,16 +88,10 @@ void frmConfigure::PlainText(ui::TextBox& box) {
     box.TextAndCaret(plain.text, plain.caret);
 }
 
-bool frmConfigure::Refuse(const std::string& text, ui::TextBox& box) {
-    ui::Say(text);
-    box.SetFocus();
-    return false;
-}
-
 bool frmConfigure::CheckDatabases() {
     for (ui::TextBox* box : {&txtLocalDB, &txtCompoundDB}) {
         if (!FileOrFolderExists(WithSlashes(box->Text())))
-            return Refuse("Please specify the database", *box);
+            return Refuse(*box, "Please specify the database");
     }
     return true;
 }
@@ -106,8 +100,8 @@ bool frmConfigure::CheckOutputFolder() {
     const std::string folder = WithSlashes(txtOutDir.Text());
     if (folder.empty()) return true;
     if (!IsFullPath(folder))
-        return Refuse("Please, enter the full path to the output folder, e.g., C:\\TEMP\\VXR",
-                      txtOutDir);
+        return Refuse(txtOutDir,
+                      "Please, enter the full path to the output folder, e.g., C:\\TEMP\\VXR");
     if (ui::TheDesktop().Files().IsFolder(folder)) return true;
     const ui::Answer answer = ui::AskYesNoCancel("The output folder " + txtOutDir.Text() +
                                                  " does not exist.\n"
@@ -121,7 +115,7 @@ bool frmConfigure::CheckOutputFolder() {
         return false;
     }
     if (MakeFolder(folder)) return true;
-    return Refuse("The output folder " + txtOutDir.Text() + " cannot be created.", txtOutDir);
+    return Refuse(txtOutDir, "The output folder " + txtOutDir.Text() + " cannot be created.");
 }
 
 bool frmConfigure::OpenBothDatabases() {
@@ -129,12 +123,12 @@ bool frmConfigure::OpenBothDatabases() {
     const std::string fault = OpenDatabasesAt(WithSlashes(txtLocalDB.Text()), compoundPath);
     if (fault.empty()) return true;
     ui::TextBox& concerned = fault.starts_with(compoundPath) ? txtCompoundDB : txtLocalDB;
-    return Refuse("Specified databases not found or invalid\n" + fault, concerned);
+    return Refuse(concerned, "Specified databases not found or invalid\n" + fault);
 }
 
 bool frmConfigure::CheckUser() {
-    if (Trim(txtUserName.Text()).empty()) return Refuse("Please, enter your name", txtUserName);
-    if (Trim(txtOrg.Text()).empty()) return Refuse("Please, enter your organization name", txtOrg);
+    if (Trim(txtUserName.Text()).empty()) return Refuse(txtUserName, "Please, enter your name");
+    if (Trim(txtOrg.Text()).empty()) return Refuse(txtOrg, "Please, enter your organization name");
     return true;
 }
 

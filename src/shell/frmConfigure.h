@@ -43,7 +43,6 @@ private:
     bool OpenBothDatabases();
     bool CheckUser();
     void Store();
-    bool Refuse(const std::string& text, ui::TextBox& box);
 
     bool accepted_ = false;
 };

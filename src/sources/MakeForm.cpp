@@ -4,7 +4,6 @@
 
 #include "reference/Text.h"
 #include "sources/frmDocument.h"
-#include "ui/Desktop.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -12,14 +11,6 @@ namespace vexora {
 namespace {
 
 constexpr std::string_view kMarks = "@$";
-
-template <class Field>
-bool RequireEntered(Field& field, const std::string& message) {
-    if (!field.Entered().empty()) return true;
-    ui::Say(message);
-    field.SetFocus();
-    return false;
-}
 
 } // namespace
 
@@ -50,14 +41,6 @@ void MakeForm::cmdAccept_Click() {
     if (!Check()) return;
     if (Document() != nullptr) Document()->Source(Compose());
     Close();
-}
-
-bool MakeForm::Require(Part& field, const std::string& message) {
-    return RequireEntered(field, message);
-}
-
-bool MakeForm::Require(CompletingCombo& field, const std::string& message) {
-    return RequireEntered(field, message);
 }
 
 frmDocument* MakeForm::Document() {

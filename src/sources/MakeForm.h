@@ -38,8 +38,10 @@ protected:
     virtual void TakeApart(std::string_view source) = 0;
 
     /// False, with the message and the focus on the field, when nothing is entered.
-    static bool Require(Part& field, const std::string& message);
-    static bool Require(CompletingCombo& field, const std::string& message);
+    template <class Field>
+    bool Require(Field& field, const std::string& message) {
+        return !field.Entered().empty() || Refuse(field, message);
+    }
     /// The description of the document below this form, or null.
     static frmDocument* Document();
 

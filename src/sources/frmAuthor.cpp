@@ -118,8 +118,7 @@ const frmAuthor::Known* frmAuthor::ChosenAuthor() const {
 
 void frmAuthor::cmdAdd_Click() {
     if (txtLast.Entered().empty()) {
-        ui::Say("Enter author's last name");
-        txtLast.SetFocus();
+        Refuse(txtLast, "Enter author's last name");
         return;
     }
     const Known* known = ChosenAuthor();

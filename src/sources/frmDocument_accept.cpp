@@ -14,12 +14,6 @@ namespace vexora {
 
 namespace {
 
-bool Fail(ui::Control& field, const std::string& message, const std::string& title = {}) {
-    ui::Say(message, title);
-    field.SetFocus();
-    return false;
-}
-
 /// The first three letters of a last name in lower case, as far as its first "," or ";".
 std::string AuthorCode(std::string_view lastName) {
     std::string code;
@@ -74,7 +68,7 @@ void UpdateRegistered(const clsR& before, const clsR& source) {
 
 bool frmDocument::CheckFields() {
     if (!CheckCitation() || !CheckYear()) return false;
-    if (authors_.empty()) return Fail(txtAuthors, "Enter the author(s)");
+    if (authors_.empty()) return Refuse(txtAuthors, "Enter the author(s)");
     if (!CheckAuthorCodes()) return false;
     txtKeyWords.Text(txtKeyWords.Entered());
     txtAbstract.Text(txtAbstract.Entered());
@@ -82,9 +76,9 @@ bool frmDocument::CheckFields() {
 }
 
 bool frmDocument::CheckCitation() {
-    if (cboTypeDoc.Index() <= 0) return Fail(cboTypeDoc, "Select type of document");
-    if (txtTitle.Entered().empty()) return Fail(txtTitle, "Please enter the title");
-    if (Source().empty()) return Fail(txtSource, "Please enter source details");
+    if (cboTypeDoc.Index() <= 0) return Refuse(cboTypeDoc, "Select type of document");
+    if (txtTitle.Entered().empty()) return Refuse(txtTitle, "Please enter the title");
+    if (Source().empty()) return Refuse(txtSource, "Please enter source details");
     return true;
 }
 
@@ -94,16 +88,16 @@ bool frmDocument::CheckYear() {
     const bool fourDigits =
         TrimBlanks(txtYear.Text()).size() == 4 && year.has_value() && *year >= 1000;
     if (fourDigits && *year >= 1700 && *year <= ui::TheDesktop().Today().year + 1) return true;
-    return Fail(txtYear, "Year between 1700 and the current year is allowed", "Incorrect year");
+    return Refuse(txtYear, "Year between 1700 and the current year is allowed", "Incorrect year");
 }
 
 bool frmDocument::CheckAuthorCodes() {
     code1_ = AuthorCode(authors_[0]->LASTNM);
     code2_ = authors_.size() > 1 ? AuthorCode(authors_[1]->LASTNM) : "&";
     if (!HasLettersOnly(code1_))
-        return Fail(txtAuthors, "Illegal character in the 1st author name", "Error");
+        return Refuse(txtAuthors, "Illegal character in the 1st author name", "Error");
     if (authors_.size() > 1 && !HasLettersOnly(code2_))
-        return Fail(txtAuthors, "Illegal character in the 2nd author name", "Error");
+        return Refuse(txtAuthors, "Illegal character in the 2nd author name", "Error");
     return true;
 }
 

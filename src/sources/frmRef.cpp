@@ -14,12 +14,6 @@ namespace vexora {
 
 namespace {
 
-bool Fail(ui::Control& field, const std::string& message, const std::string& title = {}) {
-    ui::Say(message, title);
-    field.SetFocus();
-    return false;
-}
-
 std::string Code(const ui::TextBox& field) {
     return LowerAscii(TrimBlanks(field.Text()));
 }
@@ -140,13 +134,14 @@ void frmRef::lstSourceDoc_Click() {
 bool frmRef::CheckIdentification() {
     const auto year = ParseInteger(txtYear.Text());
     if (!year || *year < 1700 || *year > ui::TheDesktop().Today().year)
-        return Fail(txtYear, "Year between 1700 and the current year is allowed", "Incorrect year");
+        return Refuse(txtYear, "Year between 1700 and the current year is allowed",
+                      "Incorrect year");
     if (HasOtherThanLetters(Code(txtAut1)))
-        return Fail(txtAut1, "Illegal character in the 1st author code", "Error");
+        return Refuse(txtAut1, "Illegal character in the 1st author code", "Error");
     if (HasOtherThanLetters(SecondCode(txtAut2)))
-        return Fail(txtAut2, "Illegal character in the 2nd author code", "Error");
+        return Refuse(txtAut2, "Illegal character in the 2nd author code", "Error");
     if (Code(txtAut1).empty())
-        return Fail(txtAut1, "First author code is required", "Missing author code");
+        return Refuse(txtAut1, "First author code is required", "Missing author code");
     return true;
 }
 
@@ -154,16 +149,16 @@ bool frmRef::CheckChoice() {
     const Row* row = ChosenRow();
     if (row == nullptr) {
         if (!CheckIdentification()) return false;
-        return Fail(cmdCreate, "The source you have selected is new\n"
-                               "Please create new document description");
+        return Refuse(cmdCreate, "The source you have selected is new\n"
+                                 "Please create new document description");
     }
     for (const auto& source : Globals().recR) {
         if (source->YEARPUB == row->YEARPUB && EqualNoCase(source->AUTHOR1, row->AUTHOR1) &&
             (IsBlankField(source->AUTHOR2) ? "" : source->AUTHOR2) == row->AUTHOR2 &&
             source->AUTHORN == row->AUTHORN)
-            return Fail(lstSourceDoc, "This reference has already been entered");
+            return Refuse(lstSourceDoc, "This reference has already been entered");
     }
-    if (cboSource.Index() <= 0) return Fail(cboSource, "Select the source of information");
+    if (cboSource.Index() <= 0) return Refuse(cboSource, "Select the source of information");
     return true;
 }
 

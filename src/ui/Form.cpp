@@ -144,6 +144,18 @@ void Form::TabAlongArrangement() {
     controls_ = std::move(ordered);
 }
 
+bool Form::Refuse(Control& control, const std::string& text, const std::string& title) {
+    Say(text, title);
+    control.SetFocus();
+    return false;
+}
+
+bool Form::Confirm(Control& control, const std::string& question, const std::string& title) {
+    if (AskYesNo(question, title)) return true;
+    control.SetFocus();
+    return false;
+}
+
 bool Form::UseShortcut(const Key& key) {
     const std::string name = key.FullName();
     for (Control* control : controls_) {

@@ -80,6 +80,11 @@ public:
     /// those outside of it follow as they were declared. For the constructor, behind Arrangement.
     void TabAlongArrangement();
 
+    /// Says what is wrong and leads to the control that mends it; answers false, as a check does.
+    bool Refuse(Control& control, const std::string& text, const std::string& title = {});
+    /// Asks whether something unlikely is meant; the answer No leads to the control and is false.
+    bool Confirm(Control& control, const std::string& question, const std::string& title = {});
+
     Signal<> CaptionChanged;
     Signal<> FocusChanged;
     Signal<> ShownChanged;

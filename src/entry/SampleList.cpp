@@ -1,0 +1,74 @@
+#include "entry/SampleList.h"
+
+#include <utility>
+
+#include "globals/KVOGlobal.h"
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* newEntry = "New";
+constexpr const char* sampleDialog = "frmSample";
+
+} // namespace
+
+SampleList::SampleList(ui::Form& form, ui::ComboBox& list, std::string prompt)
+    : form_(form), list_(list), prompt_(std::move(prompt)) {}
+
+void SampleList::Fill(std::shared_ptr<clsL> compound) {
+    const ui::FillingScope filling(form_);
+    compound_ = std::move(compound);
+    list_.Clear();
+    if (!prompt_.empty()) list_.Add(prompt_);
+    if (!compound_) return ChoosePosition(0);
+    for (const auto& sample : compound_->recS)
+        list_.Add(sample->SMPNM);
+    if (ui::Forms::Current().Knows(sampleDialog)) list_.Add(newEntry);
+    ChoosePosition(compound_->recS.Count() == 1 ? 1 : 0);
+}
+
+void SampleList::Choose(const clsS* sample) {
+    const std::size_t position = compound_ ? compound_->recS.Position(sample) : 0;
+    if (position > 0) ChoosePosition(position);
+}
+
+void SampleList::Click() {
+    if (list_.Chosen() == newEntry)
+        Make();
+    else
+        ChoosePosition(static_cast<std::size_t>(list_.Index() + (prompt_.empty() ? 1 : 0)));
+}
+
+void SampleList::Make() {
+    KVOGlobal& globals = Globals();
+    const std::size_t before = compound_->recS.Count();
+    const std::size_t chosen = chosen_;
+    globals.CurrentL = compound_;
+    globals.OpenForms.push_back(form_.Name());
+    ui::Forms::Current().Get(sampleDialog).ShowModal();
+    Fill(compound_);
+    const std::size_t count = compound_->recS.Count();
+    if (count == before) return ChoosePosition(chosen);
+    const auto made = compound_->recS.Item(count);
+    const auto found = compound_->FindS(static_cast<int>(Val(made->SMPNM)));
+    if (!found) ui::Say("Sample internal error");
+    ChoosePosition(found ? count : 0);
+}
+
+void SampleList::ChoosePosition(std::size_t position) {
+    const ui::FillingScope filling(form_);
+    chosen_ = position;
+    list_.Index(static_cast<int>(position) - (prompt_.empty() ? 1 : 0));
+}
+
+std::shared_ptr<clsS> SampleList::Sample() const {
+    return compound_ ? compound_->recS.Item(chosen_) : nullptr;
+}
+
+} // namespace vexora

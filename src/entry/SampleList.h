@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "ui/Form.h"
+#include "ui/Lists.h"
+
+namespace vexora {
+
+class clsL;
+class clsS;
+
+/// A list in which a data dialog asks for the sample of one compound. The dialog owns the list and
+/// this; a mixture has one for each of its compounds. The samples end with "New", which makes one
+/// on the way.
+class SampleList {
+public:
+    /// A prompt, if there is one, leads the list.
+    SampleList(ui::Form& form, ui::ComboBox& list, std::string prompt = {});
+
+    /// Lists the samples of a compound; one alone is chosen by itself. Without a compound nothing
+    /// is on offer.
+    void Fill(std::shared_ptr<clsL> compound);
+    /// Chooses a sample of the compound; another one, or null, changes nothing.
+    void Choose(const clsS* sample);
+    /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form, and
+    /// what it made is chosen, else what was chosen before.
+    void Click();
+
+    const std::shared_ptr<clsL>& Compound() const { return compound_; }
+    /// The sample in force, null for none.
+    std::shared_ptr<clsS> Sample() const;
+
+private:
+    void Make();
+    void ChoosePosition(std::size_t position);
+
+    ui::Form& form_;
+    ui::ComboBox& list_;
+    std::string prompt_;
+    std::shared_ptr<clsL> compound_;
+    std::size_t chosen_ = 0; // position of the sample in force, 0 for none
+};
+
+} // namespace vexora
