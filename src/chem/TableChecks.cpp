@@ -10,8 +10,8 @@ int Count(const Database& database, const std::string& what) {
 
 } // namespace
 
-RowFindings CheckTables(const ReferenceDatabases& databases) {
-    RowFindings findings;
+RowRemarks CheckTables(const ReferenceDatabases& databases) {
+    RowRemarks findings;
     CheckProperties(databases.LocalDb, findings);
     CheckVariables(databases.LocalDb, findings);
     CheckConversions(databases.LocalDb, findings);

@@ -14,19 +14,19 @@ namespace vexora {
 // and appends what it finds. The databases must be the installed ones: formulas are read with them.
 
 /// All rules over both databases. Throws DatabaseError when a table cannot be read.
-RowFindings CheckTables(const ReferenceDatabases& databases);
+RowRemarks CheckTables(const ReferenceDatabases& databases);
 
-void CheckProperties(const Database& vocabulary, RowFindings& findings);
-void CheckVariables(const Database& vocabulary, RowFindings& findings);
-void CheckConversions(const Database& vocabulary, RowFindings& findings);
-void CheckPhases(const Database& vocabulary, RowFindings& findings);
-void CheckMethods(const Database& vocabulary, RowFindings& findings);
+void CheckProperties(const Database& vocabulary, RowRemarks& findings);
+void CheckVariables(const Database& vocabulary, RowRemarks& findings);
+void CheckConversions(const Database& vocabulary, RowRemarks& findings);
+void CheckPhases(const Database& vocabulary, RowRemarks& findings);
+void CheckMethods(const Database& vocabulary, RowRemarks& findings);
 /// Journals, publishers, reactions, purification, purity determination.
-void CheckLists(const Database& vocabulary, RowFindings& findings);
-void CheckAtomicMasses(const Database& vocabulary, RowFindings& findings);
-void CheckCompounds(const Database& compounds, RowFindings& findings);
+void CheckLists(const Database& vocabulary, RowRemarks& findings);
+void CheckAtomicMasses(const Database& vocabulary, RowRemarks& findings);
+void CheckCompounds(const Database& compounds, RowRemarks& findings);
 /// Sources and authors; both tables may be empty.
-void CheckSources(const Database& compounds, RowFindings& findings);
+void CheckSources(const Database& compounds, RowRemarks& findings);
 
 /// True for the system units that properties and variables of the tables are kept in.
 bool IsUnitOfTables(std::string_view unit);

@@ -27,7 +27,7 @@ void CheckSampleCode(TableRows& row) {
 }
 
 void CheckTitles(const Database& vocabulary, const char* table, const char* column,
-                 RowFindings& findings) {
+                 RowRemarks& findings) {
     for (TableRows row(vocabulary, table, findings); !row.IsEnd(); row.MoveNext()) {
         const std::string title = row.Required(column);
         row.Expect(title.find_first_of("@$") == title.npos,
@@ -60,7 +60,7 @@ void ExpectWidth(TableRows& row, const char* field, std::size_t width) {
 
 } // namespace
 
-void CheckLists(const Database& vocabulary, RowFindings& findings) {
+void CheckLists(const Database& vocabulary, RowRemarks& findings) {
     CheckTitles(vocabulary, "Journals", "ShortTitle", findings);
     CheckTitles(vocabulary, "Publishers", "Publisher", findings);
     for (TableRows row(vocabulary, "Reactions", findings); !row.IsEnd(); row.MoveNext())
@@ -81,7 +81,7 @@ void CheckLists(const Database& vocabulary, RowFindings& findings) {
     }
 }
 
-void CheckAtomicMasses(const Database& vocabulary, RowFindings& findings) {
+void CheckAtomicMasses(const Database& vocabulary, RowRemarks& findings) {
     for (TableRows row(vocabulary, "AMASS", findings); !row.IsEnd(); row.MoveNext()) {
         const std::string symbol = row.Required("SYMBOL");
         row.Expect(IsElementSymbol(symbol) && symbol != "Xx" && symbol != "R",
@@ -91,7 +91,7 @@ void CheckAtomicMasses(const Database& vocabulary, RowFindings& findings) {
     }
 }
 
-void CheckCompounds(const Database& compounds, RowFindings& findings) {
+void CheckCompounds(const Database& compounds, RowRemarks& findings) {
     std::map<std::int64_t, std::string> formulas;
     for (TableRows row(compounds, "ALLNAME", findings); !row.IsEnd(); row.MoveNext()) {
         const std::int64_t rn = row.Integer("RN");
@@ -106,8 +106,8 @@ void CheckCompounds(const Database& compounds, RowFindings& findings) {
     }
 }
 
-void CheckSources(const Database& compounds, RowFindings& findings) {
-    RowFindings found;
+void CheckSources(const Database& compounds, RowRemarks& findings) {
+    RowRemarks found;
     for (TableRows row(compounds, "SOURCE_REFINFO", found); !row.IsEnd(); row.MoveNext()) {
         const std::int64_t year = row.Integer("YEARPUB");
         row.Expect(year >= 1000 && year <= 9999, "the year has not four digits");
@@ -119,7 +119,7 @@ void CheckSources(const Database& compounds, RowFindings& findings) {
         ExpectWidth(row, "LASTNM", 6);
         ExpectWidth(row, "INITNM", 3);
     }
-    std::erase_if(found, [](const RowFinding& finding) { return finding.row == 0; });
+    std::erase_if(found, [](const RowRemark& finding) { return finding.row == 0; });
     findings.insert(findings.end(), found.begin(), found.end());
 }
 

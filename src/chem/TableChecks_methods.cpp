@@ -43,7 +43,7 @@ ContextsByCode ContextsOfMethods(const Database& vocabulary) {
     return ofMethod;
 }
 
-void CheckQuestions(const Database& vocabulary, RowFindings& findings) {
+void CheckQuestions(const Database& vocabulary, RowRemarks& findings) {
     ContextsByCode contexts = ContextsOfMethods(vocabulary);
     std::map<std::string, std::string> keys; // of each question in a context
     for (TableRows row(vocabulary, "Questions", findings); !row.IsEnd(); row.MoveNext()) {
@@ -66,7 +66,7 @@ void CheckQuestions(const Database& vocabulary, RowFindings& findings) {
 
 } // namespace
 
-void CheckMethods(const Database& vocabulary, RowFindings& findings) {
+void CheckMethods(const Database& vocabulary, RowRemarks& findings) {
     const std::vector<std::string> properties = ColumnTexts(vocabulary, "Properties", "Code");
     for (TableRows row(vocabulary, "Methods", findings); !row.IsEnd(); row.MoveNext()) {
         const std::string property = row.Required("Code");

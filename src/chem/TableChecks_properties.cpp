@@ -92,7 +92,7 @@ void CheckContext(TableRows& row) {
                                                Quoted(group) + ", not as a phase transition");
 }
 
-void CheckGroups(const Database& vocabulary, RowFindings& findings) {
+void CheckGroups(const Database& vocabulary, RowRemarks& findings) {
     const std::vector<std::string> used = ColumnTexts(vocabulary, "Properties", "GROUP");
     for (TableRows row(vocabulary, "PropertyGroups", findings); !row.IsEnd(); row.MoveNext()) {
         CheckListRow(row, "GROUP", "GroupName");
@@ -104,7 +104,7 @@ void CheckGroups(const Database& vocabulary, RowFindings& findings) {
 
 } // namespace
 
-void CheckProperties(const Database& vocabulary, RowFindings& findings) {
+void CheckProperties(const Database& vocabulary, RowRemarks& findings) {
     CheckGroups(vocabulary, findings);
     const std::vector<std::string> units = ColumnTexts(vocabulary, "Conversions", "Unit");
     for (TableRows row(vocabulary, "Properties", findings); !row.IsEnd(); row.MoveNext()) {

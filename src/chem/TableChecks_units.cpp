@@ -49,7 +49,7 @@ void CheckFactor(TableRows& row, const std::string& code) {
                    NumberText(constant) + " of the code " + Quoted(code));
 }
 
-void CheckStateVariables(const Database& vocabulary, RowFindings& findings) {
+void CheckStateVariables(const Database& vocabulary, RowRemarks& findings) {
     for (const QuantityText& state : StateVariables()) {
         const Recordset rows =
             vocabulary.Query("select * from IndVariables where IndVarCode=? collate binary"
@@ -109,7 +109,7 @@ void CheckListRow(TableRows& row, std::string_view codeField, std::string_view t
     row.ExpectOnce("the text", LowerAscii(row.Required(textField)));
 }
 
-void CheckVariables(const Database& vocabulary, RowFindings& findings) {
+void CheckVariables(const Database& vocabulary, RowRemarks& findings) {
     CheckStateVariables(vocabulary, findings);
     for (TableRows row(vocabulary, "IndVariables", findings); !row.IsEnd(); row.MoveNext()) {
         CheckListRow(row, "IndVarCode", "IndVariable");
@@ -125,7 +125,7 @@ void CheckVariables(const Database& vocabulary, RowFindings& findings) {
     }
 }
 
-void CheckConversions(const Database& vocabulary, RowFindings& findings) {
+void CheckConversions(const Database& vocabulary, RowRemarks& findings) {
     for (TableRows row(vocabulary, "Conversions", findings); !row.IsEnd(); row.MoveNext()) {
         const std::string code = row.Required("ConversionCode");
         const std::string text = row.Required("Conversion");
@@ -144,7 +144,7 @@ void CheckConversions(const Database& vocabulary, RowFindings& findings) {
                 {"Conversions", 0, "the code " + Quoted(code) + " has no row", false});
 }
 
-void CheckPhases(const Database& vocabulary, RowFindings& findings) {
+void CheckPhases(const Database& vocabulary, RowRemarks& findings) {
     for (TableRows row(vocabulary, "Phases", findings); !row.IsEnd(); row.MoveNext()) {
         CheckListRow(row, "Code", "Phase");
         CheckKindOfPhase(row, row.Text("Code"));

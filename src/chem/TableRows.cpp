@@ -6,12 +6,12 @@
 
 namespace vexora {
 
-std::string RowFinding::Line() const {
+std::string RowRemark::Line() const {
     return table + (row > 0 ? ":" + std::to_string(row) : "") +
            (isWarning ? ": warning: " : ": error: ") + text;
 }
 
-TableRows::TableRows(const Database& database, std::string_view table, RowFindings& findings)
+TableRows::TableRows(const Database& database, std::string_view table, RowRemarks& findings)
     : table_(table), findings_(findings),
       rows_(
           database.Query("select rowid as row_number, * from \"" + table_ + "\" order by rowid")) {

@@ -10,7 +10,7 @@
 namespace vexora {
 
 /// Something wrong with a row of a reference table, ready to print.
-struct RowFinding {
+struct RowRemark {
     std::string table;
     int row = 0; // from 1, the heading of the text table not counted; 0 means the whole table
     std::string text;
@@ -18,13 +18,13 @@ struct RowFinding {
     /// "table:row: error: text", or with "warning".
     std::string Line() const;
 };
-using RowFindings = std::vector<RowFinding>;
+using RowRemarks = std::vector<RowRemark>;
 
 /// Steps through a table for its checks and files what they find under the row it stands on. Lives
 /// for one pass; database and findings belong to the caller.
 class TableRows {
 public:
-    TableRows(const Database& database, std::string_view table, RowFindings& findings);
+    TableRows(const Database& database, std::string_view table, RowRemarks& findings);
 
     bool IsEnd() const { return rows_.IsEnd(); }
     void MoveNext();
@@ -47,7 +47,7 @@ private:
     int Row() const { return static_cast<int>(rows_.Integer("row_number")); }
 
     std::string table_;
-    RowFindings& findings_;
+    RowRemarks& findings_;
     Recordset rows_;
     std::map<std::string, std::map<std::string, int>> seen_; // row of each value, by kind
 };

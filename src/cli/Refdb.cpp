@@ -41,7 +41,7 @@ int Build(const Arguments& arguments) {
         return TellUnreadable(arguments.data + ": no such folder");
     try {
         const auto findings = BuildReferenceDatabases(arguments.data, arguments.out);
-        for (const TableFinding& finding : findings)
+        for (const LineRemark& finding : findings)
             std::cerr << finding.Line() << '\n';
         return findings.empty() ? kExitClean : kExitFindings;
     } catch (const DatabaseError& error) {
@@ -66,7 +66,7 @@ std::string VocabularyFor(const Arguments& arguments) {
 }
 
 int TellImported(const ImportResult& result) {
-    for (const TableFinding& finding : result.skipped)
+    for (const LineRemark& finding : result.skipped)
         std::cerr << finding.Line() << '\n';
     std::cout << result.added << " added, " << result.present << " already there, "
               << result.skipped.size() << " skipped\n";
@@ -99,8 +99,8 @@ int Check(const Arguments& arguments) {
         return TellUnreadable(*error);
     UseDatabases(&databases);
     try {
-        const RowFindings findings = CheckTables(databases);
-        for (const RowFinding& finding : findings)
+        const RowRemarks findings = CheckTables(databases);
+        for (const RowRemark& finding : findings)
             std::cerr << finding.Line() << '\n';
         if (arguments.summary)
             for (const auto& [what, count] : CountTables(databases))

@@ -72,13 +72,13 @@ std::string CheckDigitText(std::string_view front, std::string_view middle) {
     return digit ? std::string(1, *digit) : std::string();
 }
 
-std::optional<RegistryFinding> CheckRegistryNumber(const RegistryParts& parts) {
+std::optional<RegistryNumberFault> CheckRegistryNumber(const RegistryParts& parts) {
     if (parts.IsEmpty()) return std::nullopt;
-    if (const auto odd = FirstOdd(parts.Front)) return RegistryFinding{notNumeric, 0, *odd, 1};
-    if (CodePointCount(parts.Middle) != 2) return RegistryFinding{notNumeric, 1, 0, 0};
-    if (const auto odd = FirstOdd(parts.Middle)) return RegistryFinding{notNumeric, 1, *odd, 1};
-    if (parts.Front.empty()) return RegistryFinding{notNumeric, 0, 0, 0};
-    if (parts.Front.front() == '0') return RegistryFinding{"RN cannot start with 0", 0, 0, 1};
+    if (const auto odd = FirstOdd(parts.Front)) return RegistryNumberFault{notNumeric, 0, *odd, 1};
+    if (CodePointCount(parts.Middle) != 2) return RegistryNumberFault{notNumeric, 1, 0, 0};
+    if (const auto odd = FirstOdd(parts.Middle)) return RegistryNumberFault{notNumeric, 1, *odd, 1};
+    if (parts.Front.empty()) return RegistryNumberFault{notNumeric, 0, 0, 0};
+    if (parts.Front.front() == '0') return RegistryNumberFault{"RN cannot start with 0", 0, 0, 1};
     return std::nullopt;
 }
 

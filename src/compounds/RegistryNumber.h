@@ -36,7 +36,7 @@ std::string CheckDigitText(std::string_view front, std::string_view middle);
 
 /// What is wrong with a typed number: the words, the part (0 front, 1 middle) and what to mark in
 /// it.
-struct RegistryFinding {
+struct RegistryNumberFault {
     std::string Text;
     int Part = 0;
     std::size_t Start = 0; // first character to mark, from 0
@@ -44,7 +44,7 @@ struct RegistryFinding {
 };
 
 /// The first finding in the order of the parts; nothing for three empty parts or a sound number.
-std::optional<RegistryFinding> CheckRegistryNumber(const RegistryParts& parts);
+std::optional<RegistryNumberFault> CheckRegistryNumber(const RegistryParts& parts);
 
 /// The first machine-made number from this one on that no compound of the source bears.
 std::string FreeSubstanceRN(const clsR& source, std::string_view rn);

@@ -38,14 +38,6 @@ std::vector<Statement> StatementsFor(std::string_view propertyCode) {
     return statements;
 }
 
-bool AllowsSingleValue(const PropertyRow& row, int variableCount) {
-    return variableCount == 0 ? row.Single : row.Fixed;
-}
-
-bool AllowsTable(const PropertyRow& row, int variableCount) {
-    return variableCount == 1 ? row.One : row.Two;
-}
-
 int FlagBits(std::string_view flags) {
     return static_cast<int>(ParseInteger(flags).value_or(0) & keptBits);
 }

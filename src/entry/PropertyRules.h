@@ -1,5 +1,5 @@
-// What frmProperty offers for a property: the ways to enter its data and the statements that can be
-// made about them. Functions of codes and table rows; no form is known here.
+// What frmProperty offers for a property: its units and the statements that can be made about its
+// data. Functions of codes and table rows; no form is known here.
 #pragma once
 
 #include <string>
@@ -23,13 +23,6 @@ struct Statement {
 /// The statements that apply to a property. The recommendation to reject is not among them: its bit
 /// does not survive a reading.
 std::vector<Statement> StatementsFor(std::string_view propertyCode);
-
-/// Whether pure data of the property can be entered by a single-value form with so many fixed
-/// variables (0 or 1).
-bool AllowsSingleValue(const PropertyRow& row, int variableCount);
-
-/// Whether they can be entered as a table against so many variables (1 or 2).
-bool AllowsTable(const PropertyRow& row, int variableCount);
 
 /// The bits of a PRPFLAG field that a record keeps; a text that is no number is 0.
 int FlagBits(std::string_view flags);

@@ -46,11 +46,8 @@ void frmProperty::WireEvents() {
     lstConv.OnClick = [this] { ConvClick(); };
     lstMethod.OnClick = [this] { MethodClick(); };
     cmdDetails.OnClick = [this] { Details(); };
-    cmdSingle.OnClick = [this] { Enter(0, "frmSingle"); };
-    cmdFixed.OnClick = [this] { Enter(1, "frmSingle"); };
-    cmdOne.OnClick = [this] { Enter(1, "frmTwo"); };
-    cmdTwo.OnClick = [this] { Enter(2, "frmTwo"); };
-    cmdThree.OnClick = [this] { Enter(3, "frmTwo"); };
+    for (const Entry& entry : entries_)
+        entry.button.OnClick = [this, &entry] { Enter(entry); };
     cmdOK.OnClick = [this] { Accept(); };
     cmdFinish.OnClick = [this] { Close(); };
     mnuList.OnClick = [] { ui::TheDesktop().ShowHelp(helpPropertyList); };

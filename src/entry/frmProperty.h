@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "entry/PropertyEntries.h"
 #include "entry/PropertyRules.h"
 #include "ui/Form.h"
 
@@ -47,6 +49,13 @@ public:
     void Unload() override;
 
 private:
+    /// A button that leads on to the form that takes data of this kind.
+    struct Entry {
+        ui::CommandButton& button;
+        EntryKind kind;
+        int variableCount;
+    };
+
     void ArrangeControls();
     void WireEvents();
 
@@ -67,6 +76,7 @@ private:
     void NoteList();
     void Details_Check();
     void ShowEntries();
+    void OfferEntry(const Entry& entry, bool offered);
     ui::CommandButton* OnlyEntry();
     void ShowUnit(const PropertyRow& row);
     void ShowMethod();
@@ -76,7 +86,7 @@ private:
     std::string ChosenMethod() const;
 
     // Accepting (frmProperty_accept.cpp).
-    void Enter(int variableCount, const std::string& dialog);
+    void Enter(const Entry& entry);
     void Accept();
     bool Check();
     void Store(int variableCount);
@@ -89,6 +99,11 @@ private:
         std::string Method, KeyRest;
     };
 
+    const std::array<Entry, 5> entries_{{{cmdSingle, EntryKind::Value, 0},
+                                         {cmdFixed, EntryKind::Value, 1},
+                                         {cmdOne, EntryKind::Table, 1},
+                                         {cmdTwo, EntryKind::Table, 2},
+                                         {cmdThree, EntryKind::Table, 3}}};
     std::vector<PropertyGroupRow> groups_;
     std::vector<PropertyRow> rows_;         // behind the first entry of lstProp
     std::vector<MethodRow> methods_;        // the entries of lstMethod

@@ -12,10 +12,10 @@
 
 namespace vexora {
 
-void frmProperty::Enter(int variableCount, const std::string& dialog) {
+void frmProperty::Enter(const Entry& entry) {
     if (!Check()) return;
-    Store(variableCount);
-    LeadOn(Name(), dialog);
+    Store(entry.variableCount);
+    LeadOn(Name(), EntryForm(Globals().DataContext, entry.kind, entry.variableCount));
 }
 
 void frmProperty::Accept() {

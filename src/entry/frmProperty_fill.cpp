@@ -21,14 +21,6 @@ namespace {
 constexpr const char* otherMethod = "Other experimental method (please, describe below)";
 constexpr const char* methodNotStated = "The method is not stated in the document";
 
-/// A button is offered by the columns of the property and lives when its dialog exists.
-void OfferEntry(ui::CommandButton& button, bool offered, std::string_view dialog) {
-    const bool exists = ui::Forms::Current().Knows(dialog);
-    button.Visible(offered);
-    button.Enabled(exists);
-    button.ToolTip(exists ? "" : "Data tables come with a later edition");
-}
-
 } // namespace
 
 void frmProperty::BeginSelection() {
@@ -59,10 +51,11 @@ std::vector<PropertyRow> frmProperty::OfferedIn(const PropertyGroupRow& group) c
     const KVOGlobal& globals = Globals();
     auto rows = PropertiesOfGroup(group.GROUP, globals.DataContext);
     if (!IsModal()) return rows;
-    const bool ofTable = ui::Forms::Current().Find("frmTwo") != nullptr;
-    const auto allows = ofTable ? AllowsTable : AllowsSingleValue;
+    const int count = globals.VariableCount;
+    const bool ofTable = IsEntryFormOpen(globals.DataContext, EntryKind::Table, count);
+    const EntryKind kind = ofTable ? EntryKind::Table : EntryKind::Value;
     std::erase_if(rows, [&](const PropertyRow& row) {
-        return row.Code != globals.PropertyCode && !allows(row, globals.VariableCount);
+        return row.Code != globals.PropertyCode && !AllowsEntry(row, kind, count);
     });
     return rows;
 }
@@ -150,13 +143,8 @@ void frmProperty::Details_Check() {
 
 void frmProperty::ShowEntries() {
     const PropertyRow* row = Chosen();
-    OfferEntry(cmdSingle, !row || row->Single, "frmSingle");
-    OfferEntry(cmdFixed, !row || row->Fixed, "frmSingle");
-    OfferEntry(cmdOne, !row || row->One, "frmTwo");
-    OfferEntry(cmdTwo, !row || row->Two, "frmTwo");
-    cmdThree.Visible(!row);
-    cmdThree.Enabled(false);
-    cmdThree.ToolTip("A pure compound has no more than two state variables");
+    for (const Entry& entry : entries_)
+        OfferEntry(entry, !row || AllowsEntry(*row, entry.kind, entry.variableCount));
     fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
     fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
     const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
@@ -164,13 +152,25 @@ void frmProperty::ShowEntries() {
     cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");
 }
 
+/// A button is offered by the columns of the property and lives when its form exists.
+void frmProperty::OfferEntry(const Entry& entry, bool offered) {
+    const std::string_view form = EntryForm(Globals().DataContext, entry.kind, entry.variableCount);
+    const bool exists = ui::Forms::Current().Knows(form);
+    entry.button.Visible(offered);
+    entry.button.Enabled(exists);
+    const char* why = entry.variableCount > 2
+                          ? "A pure compound has no more than two state variables"
+                          : "Data tables come with a later edition";
+    entry.button.ToolTip(exists ? "" : why);
+}
+
 /// The one button that leads on, or null when there is none or a choice of several.
 ui::CommandButton* frmProperty::OnlyEntry() {
     ui::CommandButton* only = nullptr;
-    for (ui::CommandButton* button : {&cmdSingle, &cmdFixed, &cmdOne, &cmdTwo, &cmdThree}) {
-        if (!button->Visible() || !button->Enabled()) continue;
+    for (const Entry& entry : entries_) {
+        if (!entry.button.Visible() || !entry.button.Enabled()) continue;
         if (only) return nullptr;
-        only = button;
+        only = &entry.button;
     }
     return only;
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "entry/FieldFault.h"
 #include "entry/PhaseRules.h"
 #include "records/Presentation.h"
 #include "records/ResultDefinition.h"
@@ -47,14 +48,10 @@ enum class TwoField {
     Numerical
 };
 
-/// What keeps a draft from being accepted, and the field that mends it.
-struct TwoFinding {
-    TwoField field;
-    std::string text;
-};
+using TwoFault = FieldFault<TwoField>;
 
-/// All findings in the order in which they are told.
-std::vector<TwoFinding> CheckTwo(const TwoDraft& draft);
+/// All that keeps a draft from being accepted, in the order in which it is told.
+std::vector<TwoFault> CheckTwo(const TwoDraft& draft);
 
 /// Texts and codes of the lists of definitions and of relations.
 std::vector<CodeText> ResultFunctions();

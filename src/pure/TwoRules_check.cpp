@@ -11,7 +11,7 @@ namespace vexora {
 
 namespace {
 
-using Finding = std::optional<TwoFinding>;
+using Fault = std::optional<TwoFault>;
 
 constexpr const char* noUnit = "Select Independent Variable Units";
 
@@ -19,79 +19,79 @@ bool HasBoth(const TwoDraft& draft, std::string_view upper, std::string_view low
     return HasVariable(draft, upper) && HasVariable(draft, lower);
 }
 
-Finding Sample(const TwoDraft& draft) {
+Fault Sample(const TwoDraft& draft) {
     if (draft.hasSample) return {};
-    return TwoFinding{TwoField::Sample, "Select Sample"};
+    return TwoFault{TwoField::Sample, "Select Sample"};
 }
 
-Finding FirstVariable(const TwoDraft& draft) {
+Fault FirstVariable(const TwoDraft& draft) {
     if (!draft.variable1.empty()) return {};
-    return TwoFinding{TwoField::Variable1, "Select Independent Variable 1"};
+    return TwoFault{TwoField::Variable1, "Select Independent Variable 1"};
 }
 
-Finding FirstUnit(const TwoDraft& draft) {
+Fault FirstUnit(const TwoDraft& draft) {
     if (!draft.unit1.empty()) return {};
-    return TwoFinding{TwoField::Unit1, noUnit};
+    return TwoFault{TwoField::Unit1, noUnit};
 }
 
-Finding SecondVariable(const TwoDraft& draft) {
+Fault SecondVariable(const TwoDraft& draft) {
     if (draft.nVar == 1 || !draft.variable2.empty()) return {};
-    return TwoFinding{TwoField::Variable2, "Select Independent Variable 2"};
+    return TwoFault{TwoField::Variable2, "Select Independent Variable 2"};
 }
 
-Finding SecondUnit(const TwoDraft& draft) {
+Fault SecondUnit(const TwoDraft& draft) {
     if (draft.nVar == 1 || !draft.unit2.empty()) return {};
-    return TwoFinding{TwoField::Unit2, noUnit};
+    return TwoFault{TwoField::Unit2, noUnit};
 }
 
-Finding Spectral(const TwoDraft& draft) {
+Fault Spectral(const TwoDraft& draft) {
     const std::string third = OpenVariable(draft).code;
     const auto stated = [&](std::string_view code) {
         return HasVariable(draft, code) || third == code;
     };
     if (draft.property == "RPX" && !stated("WF"))
-        return TwoFinding{TwoField::Variable1, "Please select Frequency as one of the variables"};
+        return TwoFault{TwoField::Variable1, "Please select Frequency as one of the variables"};
     if (draft.property == "RIX" && !stated("WL"))
-        return TwoFinding{TwoField::Variable1, "Please select Wavelength as one of the variables"};
+        return TwoFault{TwoField::Variable1, "Please select Wavelength as one of the variables"};
     return {};
 }
 
-Finding Constant(const TwoDraft& draft) {
+Fault Constant(const TwoDraft& draft) {
     const ConstantVariable open = OpenVariable(draft);
     const bool mayBeEmpty = open.code.empty() || !open.isObligatory;
     if (draft.constant.empty() && mayBeEmpty) return {};
     if (open.code.empty() || IsNumeric(draft.constant)) return {};
     const QuantityText* quantity = QuantityByCode(StateVariables(), open.code);
-    return TwoFinding{TwoField::Constant, "Enter a constant value of the state variable " +
-                                              std::string(quantity ? quantity->text : open.code)};
+    return TwoFault{TwoField::Constant, "Enter a constant value of the state variable " +
+                                            std::string(quantity ? quantity->text : open.code)};
 }
 
-Finding Definition(const TwoDraft& draft) {
+Fault Definition(const TwoDraft& draft) {
     if (!draft.function.empty()) return {};
-    return TwoFinding{TwoField::Function, "Define Measurement Results"};
+    return TwoFault{TwoField::Function, "Define Measurement Results"};
 }
 
 /// Energies have no zero of their own.
-Finding Energy(const TwoDraft& draft) {
+Fault Energy(const TwoDraft& draft) {
     const std::string& code = draft.property;
     const bool isEnergy = code == "UA" || code == "U" || code == "G" || code == "H";
     if (!isEnergy || draft.function != "DIR") return {};
-    return TwoFinding{TwoField::Function, "This property should be stored as a difference"};
+    return TwoFault{TwoField::Function, "This property should be stored as a difference"};
 }
 
-Finding Relation(const TwoDraft& draft) {
+Fault Relation(const TwoDraft& draft) {
     if (!NeedsRelation(draft.function) || !draft.relation.empty()) return {};
-    return TwoFinding{TwoField::Relation, "Select Relation to Reference"};
+    return TwoFault{TwoField::Relation, "Select Relation to Reference"};
 }
 
-Finding ReferencePhase(const TwoDraft& draft) {
+Fault ReferencePhase(const TwoDraft& draft) {
     if (!NeedsRelation(draft.function) || !draft.Definition().NamesPhase()) return {};
     if (!draft.refPhase.empty()) return {};
-    return TwoFinding{TwoField::RefPhase, "Select Reference Phase"};
+    return TwoFault{TwoField::RefPhase, "Select Reference Phase"};
 }
 
 /// Limits come in pairs of one quantity, and what is defined between limits needs them.
-Finding Limits(const TwoDraft& draft) {
+Fault Limits(const TwoDraft& draft) {
     const bool temperature = HasBoth(draft, "TU", "TL");
     const bool pressure = HasBoth(draft, "PU", "PL");
     const bool needsT = draft.function == "DT" || draft.function == "MN";
@@ -100,63 +100,63 @@ Finding Limits(const TwoDraft& draft) {
     const bool lacking = !HasLimits(draft) && (needsT || needsP);
     if (!single && !lacking) return {};
     const bool second = draft.nVar > 1 && draft.variable2 != "TU" && draft.variable2 != "PU";
-    return TwoFinding{second ? TwoField::Variable2 : TwoField::Variable1,
-                      "Lower/Upper variables must be consistent"};
+    return TwoFault{second ? TwoField::Variable2 : TwoField::Variable1,
+                    "Lower/Upper variables must be consistent"};
 }
 
-Finding BetweenLimits(const TwoDraft& draft) {
+Fault BetweenLimits(const TwoDraft& draft) {
     const std::string& function = draft.function;
     if (HasBoth(draft, "TU", "TL") && function != "DT" && function != "MN")
-        return TwoFinding{TwoField::Function,
-                          "Definition of Results must be Difference or Mean between TU and TL"};
+        return TwoFault{TwoField::Function,
+                        "Definition of Results must be Difference or Mean between TU and TL"};
     if (HasBoth(draft, "PU", "PL") && function != "DX")
-        return TwoFinding{TwoField::Function,
-                          "Definition of Results must be Difference between PU and PL"};
+        return TwoFault{TwoField::Function,
+                        "Definition of Results must be Difference between PU and PL"};
     return {};
 }
 
-Finding ReferenceState(const TwoDraft& draft) {
+Fault ReferenceState(const TwoDraft& draft) {
     if (!NeedsRelation(draft.function)) return {};
     if (draft.Definition().FixesTemperature() && !IsNumeric(draft.refTemp))
-        return TwoFinding{TwoField::RefTemp, "Select Reference Temperature"};
+        return TwoFault{TwoField::RefTemp, "Select Reference Temperature"};
     if (draft.Definition().FixesPressure() && !IsNumeric(draft.refPressure))
-        return TwoFinding{TwoField::RefPressure, "Select Reference Pressure"};
+        return TwoFault{TwoField::RefPressure, "Select Reference Pressure"};
     return {};
 }
 
-Finding Constraint(const TwoDraft& draft) {
+Fault Constraint(const TwoDraft& draft) {
     if (!draft.constraint.empty()) return {};
-    return TwoFinding{TwoField::Constraint, "Select the Constraint"};
+    return TwoFault{TwoField::Constraint, "Select the Constraint"};
 }
 
 /// Two free state variables do not fit a phase boundary of a pure compound.
-Finding Overdetermined(const TwoDraft& draft) {
+Fault Overdetermined(const TwoDraft& draft) {
     if (draft.nVar == 1 || draft.constraint != "PB" || HasLimits(draft)) return {};
     if (HasVariable(draft, "WL") || HasVariable(draft, "WF")) return {};
-    return TwoFinding{TwoField::Constraint, "Overdetermined system"};
+    return TwoFault{TwoField::Constraint, "Overdetermined system"};
 }
 
-Finding FirstPhase(const TwoDraft& draft) {
+Fault FirstPhase(const TwoDraft& draft) {
     if (!draft.phase1.empty()) return {};
-    return TwoFinding{TwoField::Phase1, "Select Phase 1"};
+    return TwoFault{TwoField::Phase1, "Select Phase 1"};
 }
 
-Finding SecondPhase(const TwoDraft& draft) {
+Fault SecondPhase(const TwoDraft& draft) {
     if (draft.constraint != "PB" || !draft.phase2.empty()) return {};
-    return TwoFinding{TwoField::Phase2, "Select Phase 2"};
+    return TwoFault{TwoField::Phase2, "Select Phase 2"};
 }
 
-Finding Duplicates(const TwoDraft& draft) {
+Fault Duplicates(const TwoDraft& draft) {
     if (draft.nVar == 1 && draft.constraint == "PB" && draft.phase1 == draft.phase2)
-        return TwoFinding{TwoField::Phase2, "Duplicate phase"};
+        return TwoFault{TwoField::Phase2, "Duplicate phase"};
     if (draft.nVar > 1 && draft.variable1 == draft.variable2)
-        return TwoFinding{TwoField::Variable2, "Duplicate variable"};
+        return TwoFault{TwoField::Variable2, "Duplicate variable"};
     return {};
 }
 
-Finding Numbers(const TwoDraft& draft) {
+Fault Numbers(const TwoDraft& draft) {
     if (!draft.numerical.empty()) return {};
-    return TwoFinding{TwoField::Numerical, "Select availability of numeric data"};
+    return TwoFault{TwoField::Numerical, "Select availability of numeric data"};
 }
 
 constexpr std::array checks = {
@@ -168,12 +168,12 @@ constexpr std::array checks = {
 
 } // namespace
 
-std::vector<TwoFinding> CheckTwo(const TwoDraft& draft) {
-    std::vector<TwoFinding> findings;
+std::vector<TwoFault> CheckTwo(const TwoDraft& draft) {
+    std::vector<TwoFault> faults;
     for (const auto check : checks) {
-        if (auto finding = check(draft)) findings.push_back(std::move(*finding));
+        if (auto fault = check(draft)) faults.push_back(std::move(*fault));
     }
-    return findings;
+    return faults;
 }
 
 } // namespace vexora

@@ -30,7 +30,7 @@ std::optional<SqlValue> CellValue(const std::string& cell, ColumnType type) {
 class TableLoader {
 public:
     TableLoader(const TableSchema& schema, const std::string& path,
-                std::vector<TableFinding>& findings)
+                std::vector<LineRemark>& findings)
         : schema_(schema), path_(path), findings_(findings) {}
 
     void Load(Database& database) {
@@ -80,14 +80,14 @@ private:
 
     const TableSchema& schema_;
     const std::string& path_;
-    std::vector<TableFinding>& findings_;
+    std::vector<LineRemark>& findings_;
     std::vector<ColumnSchema> columns_;
     std::vector<std::string> names_;
     std::size_t width_ = 0;
 };
 
 void FillDatabase(const std::string& path, std::span<const TableSchema> tables,
-                  const std::string& dataFolder, std::vector<TableFinding>& findings) {
+                  const std::string& dataFolder, std::vector<LineRemark>& findings) {
     Database database;
     database.Create(path);
     Transaction transaction(database);
@@ -126,14 +126,14 @@ private:
 
 } // namespace
 
-std::vector<TableFinding> BuildReferenceDatabases(const std::string& dataFolder,
-                                                  const std::string& outFolder) {
+std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
+                                                const std::string& outFolder) {
     std::error_code error;
     fs::create_directories(outFolder, error);
     if (error) throw DatabaseError(outFolder + ": " + error.message(), true);
     const PendingFile local(fs::path(outFolder) / "VXRLocal.mdb");
     const PendingFile compounds(fs::path(outFolder) / "VXR.mdb");
-    std::vector<TableFinding> findings;
+    std::vector<LineRemark> findings;
     FillDatabase(local.Path(), LocalTables(), dataFolder, findings);
     FillDatabase(compounds.Path(), CompoundTables(), dataFolder, findings);
     if (!findings.empty()) return findings;

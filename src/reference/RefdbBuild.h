@@ -17,14 +17,14 @@ namespace vexora {
 /// Writes VXRLocal.mdb and VXR.mdb into `outFolder` (made if need be) from `dataFolder`. A table
 /// without a file is empty. With findings nothing is written. Throws DatabaseError when a file
 /// cannot be written; the files that stand there are replaced only by whole ones.
-std::vector<TableFinding> BuildReferenceDatabases(const std::string& dataFolder,
-                                                  const std::string& outFolder);
+std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
+                                                const std::string& outFolder);
 
 struct ImportResult {
     bool readable = true;    // the text could be read
     std::size_t added = 0;   // rows that are new
     std::size_t present = 0; // rows that stood there already, kept as they are
-    std::vector<TableFinding> skipped;
+    std::vector<LineRemark> skipped;
 };
 
 struct ImportOptions {

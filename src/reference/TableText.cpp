@@ -9,7 +9,7 @@
 
 namespace vexora {
 
-std::string TableFinding::Line(std::string_view severity) const {
+std::string LineRemark::Line(std::string_view severity) const {
     return file + ":" + std::to_string(line) + ": " + std::string(severity) + ": " + text;
 }
 

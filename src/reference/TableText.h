@@ -11,7 +11,7 @@
 namespace vexora {
 
 /// A finding about a line of a text file, ready to print.
-struct TableFinding {
+struct LineRemark {
     std::string file;
     int line = 0; // from 1
     std::string text;

@@ -126,10 +126,7 @@ private:
     // frmMain_toolbar.cpp
     void WireToolbar();
     void ToolbarClick(const ui::ToolButton& button);
-    bool OpenFromToolbar(std::string_view key);
-    bool OpenReaction();
-    bool OpenProperty();
-    bool OpenTable();
+    bool OpenFromToolbar(std::string_view button);
     bool OpenDialog(std::string_view dialog);
     bool IsOffered(const ui::ToolButton& button) const;
 

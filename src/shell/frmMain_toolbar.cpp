@@ -16,33 +16,18 @@ namespace vexora {
 
 namespace {
 
+constexpr std::string_view NoDocument = "none"; // in place of the node's key
+
+/// A button at a node: when it lives and what it opens.
 struct Offer {
     std::string_view nodeKey;
     std::string_view button;
-    bool needsCompound; // only when the source has a compound
-    std::string_view dialog;
+    std::string_view dialog;       // the first of the chain
+    std::string_view context = {}; // of the data to come; empty: it stays
+    std::string_view needs = {};   // another form that has to exist; empty: none
+    bool (*isOffered)() = nullptr; // what the document has to have besides the node
+    bool (*prepare)() = nullptr;   // done first; false when it ends there
 };
-
-// One line for each button that a node offers, with the dialog that it leads to first.
-constexpr Offer kOffers[] = {
-    {"R", "AddComp", false, "frmSubst"},      {"R", "AddMixt", true, "frmMixt"},
-    {"R", "AddComplex", true, "frmComplex"},  {"R", "AddReact", true, "frmReact"},
-    {"RL", "AddSample", false, "frmSample"},  {"RL", "AddReact", false, "frmReact"},
-    {"RL", "AddMixt", true, "frmMixt"},       {"RX", "AddSample", false, "frmComplexSample"},
-    {"RX", "AddReact", false, "frmReact"},    {"RLS", "AddProp", false, "frmProperty"},
-    {"RLS", "AddTable", false, "frmProcess"}, {"RM", "AddProp", false, "frmMixtSingle"},
-    {"RM", "AddTable", false, "frmProcess"},  {"RQ", "AddProp", false, "frmChanged"},
-    {"RXS", "AddProp", false, "frmCrStruct"},
-};
-
-constexpr const char* kSampleNeededTitle = "SAMPLE description needed";
-
-const Offer* OfferOf(std::string_view nodeKey, std::string_view button) {
-    for (const Offer& offer : kOffers) {
-        if (offer.nodeKey == nodeKey && offer.button == button) return &offer;
-    }
-    return nullptr;
-}
 
 bool HasSample(const clsR& source) {
     for (const auto& compound : source.recL) {
@@ -51,11 +36,64 @@ bool HasSample(const clsR& source) {
     return false;
 }
 
+bool HasCompound() {
+    const auto& source = Globals().CurrentR;
+    return source && !source->recL.IsEmpty();
+}
+
+bool HasCompoundForHydrate() {
+    return Globals().GHEnabled && HasCompound();
+}
+
 /// A reaction needs a participant with a sample: the selected compound, or any one of the source.
-bool HasSampleForReaction() {
+bool CheckSampleForReaction() {
     const KVOGlobal& globals = Globals();
-    if (globals.CurrentKey == "R") return globals.CurrentR && HasSample(*globals.CurrentR);
-    return globals.CurrentL && !globals.CurrentL->recS.IsEmpty();
+    const bool ofSource = globals.CurrentKey == "R";
+    if (ofSource ? globals.CurrentR && HasSample(*globals.CurrentR)
+                 : globals.CurrentL && !globals.CurrentL->recS.IsEmpty())
+        return true;
+    ui::Say("A SAMPLE description for a reaction participant must be provided first",
+            "SAMPLE description needed");
+    return false;
+}
+
+/// The table to process is chosen first.
+bool ChooseTable() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    ui::Forms::Current().Get("frmSelect").ShowModal();
+    if (globals.DialogAccepted) globals.Saved = false;
+    return globals.DialogAccepted;
+}
+
+// One line for each button that a node offers. AddBio has no dialog yet.
+constexpr Offer Offers[] = {
+    {NoDocument, "AddRef", "frmDocument"},
+    {"R", "AddComp", "frmSubst"},
+    {"R", "AddMixt", "frmMixt", "Bin", "", HasCompound},
+    {"R", "AddComplex", "frmComplex", "", "", HasCompoundForHydrate},
+    {"R", "AddReact", "frmReact", "React", "", HasCompound, CheckSampleForReaction},
+    {"RL", "AddSample", "frmSample"},
+    {"RL", "AddReact", "frmReact", "React", "", nullptr, CheckSampleForReaction},
+    {"RL", "AddMixt", "frmMixt", "Bin", "", HasCompound},
+    {"RX", "AddSample", "frmComplexSample"},
+    {"RX", "AddReact", "frmReact", "React", "", nullptr, CheckSampleForReaction},
+    {"RLS", "AddProp", "frmProperty", "Pure"},
+    {"RLS", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
+    {"RM", "AddProp", "frmProperty", "", "frmMixtSingle"},
+    {"RM", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
+    {"RQ", "AddProp", "frmProperty", "", "frmChanged"},
+    {"RXS", "AddProp", "frmCrStruct"},
+};
+
+/// What the button does at the selected node; null for nothing.
+const Offer* OfferOf(std::string_view button) {
+    const KVOGlobal& globals = Globals();
+    const std::string_view node = globals.recR.IsEmpty() ? NoDocument : globals.CurrentKey;
+    for (const Offer& offer : Offers) {
+        if (offer.nodeKey == node && offer.button == button) return &offer;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -100,14 +138,11 @@ void frmMain::DisableShell() {
 bool frmMain::IsOffered(const ui::ToolButton& button) const {
     const KVOGlobal& globals = Globals();
     const ui::Forms& forms = ui::Forms::Current();
-    if (&button == &AddRef) return globals.recR.IsEmpty() && forms.Knows("frmDocument");
-    if (globals.recR.IsEmpty() || globals.ReadOnly) return false;
-    if (&button == &AddBio) return false; // no dialog for it yet
-    if (&button == &AddComplex && !globals.GHEnabled) return false;
-    const Offer* offer = OfferOf(globals.CurrentKey, button.Name());
-    if (offer == nullptr || !forms.Knows(offer->dialog)) return false;
-    if (&button == &AddTable && !forms.Knows("frmSelect")) return false;
-    return !offer->needsCompound || (globals.CurrentR && !globals.CurrentR->recL.IsEmpty());
+    if (globals.ReadOnly && !globals.recR.IsEmpty()) return false;
+    const Offer* offer = OfferOf(button.Name());
+    return offer != nullptr && forms.Knows(offer->dialog) &&
+           (offer->needs.empty() || forms.Knows(offer->needs)) &&
+           (offer->isOffered == nullptr || offer->isOffered());
 }
 
 /// Whatever a button ends in, the shell is live again unless a dialog is open.
@@ -118,41 +153,11 @@ void frmMain::ToolbarClick(const ui::ToolButton& button) {
     Activate();
 }
 
-bool frmMain::OpenFromToolbar(std::string_view key) {
-    KVOGlobal& globals = Globals();
-    if (key == "AddRef") return OpenDialog("frmDocument");
-    if (key == "AddReact") return OpenReaction();
-    if (key == "AddProp") return OpenProperty();
-    if (key == "AddMixt") globals.DataContext = "Bin";
-    if (key == "AddTable") return OpenTable();
-    const Offer* offer = OfferOf(globals.CurrentKey, key);
-    return offer != nullptr && OpenDialog(offer->dialog);
-}
-
-bool frmMain::OpenReaction() {
-    if (!HasSampleForReaction()) {
-        ui::Say("A SAMPLE description for a reaction participant must be provided first",
-                kSampleNeededTitle);
-        return false;
-    }
-    Globals().DataContext = "React";
-    return OpenDialog("frmReact");
-}
-
-bool frmMain::OpenProperty() {
-    KVOGlobal& globals = Globals();
-    if (globals.CurrentKey != "RLS") return false;
-    globals.DataContext = "Pure";
-    return OpenDialog("frmProperty");
-}
-
-bool frmMain::OpenTable() {
-    KVOGlobal& globals = Globals();
-    globals.DialogAccepted = false;
-    ui::Forms::Current().Get("frmSelect").ShowModal();
-    if (!globals.DialogAccepted) return false;
-    globals.Saved = false;
-    return OpenDialog("frmProcess");
+bool frmMain::OpenFromToolbar(std::string_view button) {
+    const Offer* offer = OfferOf(button);
+    if (offer == nullptr || (offer->prepare != nullptr && !offer->prepare())) return false;
+    if (!offer->context.empty()) Globals().DataContext = offer->context;
+    return OpenDialog(offer->dialog);
 }
 
 /// True when the dialog is open afterwards, or has led on to another one.

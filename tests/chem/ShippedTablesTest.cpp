@@ -27,7 +27,7 @@ protected:
 
     template <class Step>
     void EachRow(const char* table, Step step) {
-        RowFindings none;
+        RowRemarks none;
         const bool isOfCompounds = std::string_view(table) == "ALLNAME";
         TableRows row(isOfCompounds ? databases.CompoundDb : databases.LocalDb, table, none);
         EXPECT_TRUE(none.empty()) << table;

@@ -26,13 +26,13 @@ protected:
     }
     ~TableChecks() override { UseDatabases(nullptr); }
 
-    using Check = std::function<void(RowFindings&)>;
+    using Check = std::function<void(RowRemarks&)>;
 
     static std::string Lines(const Check& check) {
-        RowFindings findings;
+        RowRemarks findings;
         check(findings);
         std::string text;
-        for (const RowFinding& finding : findings)
+        for (const RowRemark& finding : findings)
             text += finding.Line() + "\n";
         return text;
     }
@@ -58,12 +58,12 @@ protected:
     }
     Check Named(const std::string& name) {
         const Database& local = databases.LocalDb;
-        const std::map<std::string, void (*)(const Database&, RowFindings&)> checks = {
+        const std::map<std::string, void (*)(const Database&, RowRemarks&)> checks = {
             {"properties", CheckProperties},   {"variables", CheckVariables},
             {"conversions", CheckConversions}, {"phases", CheckPhases},
             {"methods", CheckMethods},         {"lists", CheckLists},
             {"masses", CheckAtomicMasses}};
-        return [&local, check = checks.at(name)](RowFindings& found) { check(local, found); };
+        return [&local, check = checks.at(name)](RowRemarks& found) { check(local, found); };
     }
 
     TemporaryFolder folder;
@@ -71,7 +71,7 @@ protected:
 };
 
 TEST_F(TableChecks, TheShippedTablesHaveNoFinding) {
-    EXPECT_EQ(Lines([&](RowFindings& found) { found = CheckTables(databases); }), "");
+    EXPECT_EQ(Lines([&](RowRemarks& found) { found = CheckTables(databases); }), "");
 }
 
 TEST_F(TableChecks, EveryBreachOfARuleIsTold) {
@@ -89,7 +89,7 @@ TEST_F(TableChecks, EveryBreachOfARuleIsTold) {
 
 TEST_F(TableChecks, CompoundsNeedACheckDigitACanonicalFormulaAndOneFormulaEach) {
     const auto found = [&](const std::string& statement) {
-        return LinesAfter(databases.CompoundDb, statement, [&](RowFindings& findings) {
+        return LinesAfter(databases.CompoundDb, statement, [&](RowRemarks& findings) {
             CheckCompounds(databases.CompoundDb, findings);
         });
     };
@@ -113,7 +113,7 @@ TEST_F(TableChecks, CompoundsNeedACheckDigitACanonicalFormulaAndOneFormulaEach) 
 
 TEST_F(TableChecks, SourcesMayBeMissingButNotBeMisshapen) {
     const auto found = [&](const std::string& statement) {
-        return LinesAfter(databases.CompoundDb, statement, [&](RowFindings& findings) {
+        return LinesAfter(databases.CompoundDb, statement, [&](RowRemarks& findings) {
             CheckSources(databases.CompoundDb, findings);
         });
     };

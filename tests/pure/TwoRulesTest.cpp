@@ -37,8 +37,8 @@ TwoDraft OnePhase() {
 
 std::string Told(const TwoDraft& draft) {
     std::string text;
-    for (const TwoFinding& finding : CheckTwo(draft))
-        text += (text.empty() ? "" : " | ") + finding.text;
+    for (const TwoFault& fault : CheckTwo(draft))
+        text += (text.empty() ? "" : " | ") + fault.text;
     return text;
 }
 

@@ -418,7 +418,7 @@ TEST_F(frmSingleTest, EveryPropertyOffersPhases) {
     for (const PropertyGroupRow& group : PropertyGroups("Pure")) {
         for (const PropertyRow& row : PropertiesOfGroup(group.GROUP, "Pure")) {
             for (const int count : {0, 1}) {
-                if (!AllowsSingleValue(row, count)) continue;
+                if (!AllowsEntry(row, EntryKind::Value, count)) continue;
                 const auto any = OfferPhases(row.Code, count).Phase1;
                 ASSERT_FALSE(any.empty()) << row.Code;
                 const PhaseOffer offer = OfferPhases(row.Code, count, any.front());

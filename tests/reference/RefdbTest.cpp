@@ -7,9 +7,9 @@
 namespace vexora {
 namespace {
 
-std::string Lines(const std::vector<TableFinding>& findings) {
+std::string Lines(const std::vector<LineRemark>& findings) {
     std::string text;
-    for (const TableFinding& finding : findings)
+    for (const LineRemark& finding : findings)
         text += std::filesystem::path(finding.Line()).filename().string() + "\n";
     return text;
 }

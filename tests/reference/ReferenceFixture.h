@@ -43,7 +43,7 @@ protected:
 
     /// Builds both databases from the tables written so far and installs them.
     void Build() {
-        for (const TableFinding& finding : BuildReferenceDatabases(folder.Path(), folder.Path()))
+        for (const LineRemark& finding : BuildReferenceDatabases(folder.Path(), folder.Path()))
             ADD_FAILURE() << finding.Line();
         const auto error = databases.OpenBoth(folder.File("VXRLocal.mdb"), folder.File("VXR.mdb"));
         ASSERT_EQ(error.value_or(""), "");

@@ -1,0 +1,44 @@
+#include "entry/PropertyEntries.h"
+
+#include "ui/Forms.h"
+
+namespace vexora {
+
+namespace {
+
+struct PropertyEntry {
+    std::string_view context;
+    EntryKind kind;
+    int variableCount;
+    std::string_view form;
+};
+
+constexpr PropertyEntry Entries[] = {
+    {"Pure", EntryKind::Value, 0, "frmSingle"},    {"Pure", EntryKind::Value, 1, "frmSingle"},
+    {"Pure", EntryKind::Table, 1, "frmTwo"},       {"Pure", EntryKind::Table, 2, "frmTwo"},
+    {"Complex", EntryKind::Value, 0, "frmSingle"}, {"Complex", EntryKind::Value, 1, "frmSingle"},
+    {"Complex", EntryKind::Table, 1, "frmTwo"},    {"Complex", EntryKind::Table, 2, "frmTwo"},
+};
+
+} // namespace
+
+std::string_view EntryForm(std::string_view context, EntryKind kind, int variableCount) {
+    for (const PropertyEntry& entry : Entries) {
+        if (entry.context == context && entry.kind == kind && entry.variableCount == variableCount)
+            return entry.form;
+    }
+    return {};
+}
+
+bool IsEntryFormOpen(std::string_view context, EntryKind kind, int variableCount) {
+    const std::string_view form = EntryForm(context, kind, variableCount);
+    return !form.empty() && ui::Forms::Current().Find(form) != nullptr;
+}
+
+bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount) {
+    if (kind == EntryKind::Value)
+        return variableCount == 0 ? row.Single : variableCount == 1 && row.Fixed;
+    return variableCount == 1 ? row.One : variableCount == 2 && row.Two;
+}
+
+} // namespace vexora

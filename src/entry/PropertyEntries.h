@@ -1,0 +1,27 @@
+// Which form takes the data of a property: by the context of the data, by whether a value or a
+// table is entered, and by the number of variables. frmProperty leads on to it, and offers what
+// suits it when it asks for a review.
+#pragma once
+
+#include <string_view>
+
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+enum class EntryKind {
+    Value, // one value, by itself or at fixed variables
+    Table  // rows against variables
+};
+
+/// Name of the form for a context; empty where data of that kind cannot be entered.
+std::string_view EntryForm(std::string_view context, EntryKind kind, int variableCount);
+
+/// Whether that form is the one that stands open.
+bool IsEntryFormOpen(std::string_view context, EntryKind kind, int variableCount);
+
+/// Whether the columns of the property let pure data of it be entered so: a value at 0 or 1 fixed
+/// variables, a table against 1 or 2.
+bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount);
+
+} // namespace vexora
