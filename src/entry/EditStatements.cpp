@@ -3,11 +3,28 @@
 #include <algorithm>
 #include <utility>
 
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
 #include "records/clsX.h"
 #include "ui/Forms.h"
 
 namespace vexora {
+
+namespace {
+
+/// A copy of the chain in force with its precisions in the units entered.
+std::shared_ptr<clsProperty> ChainToEvaluate(bool inSystemUnits) {
+    auto chain = std::make_shared<clsProperty>();
+    chain->Copy(*Globals().CurrentProperty);
+    if (!inSystemUnits) return chain;
+    for (clsProperty* item = chain.get(); item; item = item->NextItem.get())
+        PrecisionInEnteredUnit(*item, Globals().CurrentMethod->MMass);
+    return chain;
+}
+
+} // namespace
 
 bool EditStatements(std::span<clsX> items) {
     KVOGlobal& globals = Globals();
@@ -18,6 +35,16 @@ bool EditStatements(std::span<clsX> items) {
     const bool accepted = std::exchange(globals.DialogAccepted, acceptedBefore);
     if (accepted) std::ranges::copy(*globals.CurrentUX, items.begin());
     globals.CurrentUX = before;
+    return accepted;
+}
+
+bool EditStatementsOfValue(std::span<clsX> items, std::string_view key, bool inSystemUnits) {
+    KVOGlobal& globals = Globals();
+    const auto chain = std::exchange(globals.CurrentProperty, ChainToEvaluate(inSystemUnits));
+    const std::string keyBefore = std::exchange(globals.CurrentKey, std::string(key));
+    const bool accepted = EditStatements(items);
+    globals.CurrentKey = keyBefore;
+    globals.CurrentProperty = chain;
     return accepted;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 namespace vexora {
 
@@ -10,5 +11,10 @@ class clsX;
 /// figures it shows are those of the property chain and the molar mass in force. True when they
 /// were accepted; otherwise nothing has changed. DialogAccepted of the globals stays as it was.
 bool EditStatements(std::span<clsX> items);
+
+/// The same for a single value in hand, under the key of its kind of record ("RLSZ", "RMZ", "RQC").
+/// Precisions of the chain that a file states in system units are brought to the units entered for
+/// as long as frmUnc evaluates.
+bool EditStatementsOfValue(std::span<clsX> items, std::string_view key, bool inSystemUnits);
 
 } // namespace vexora

@@ -11,6 +11,7 @@
 #include "reference/Conversions.h"
 #include "reference/UnitText.h"
 #include "ui/Desktop.h"
+#include "ui/Form.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -72,11 +73,30 @@ std::string TakeComment(std::string_view comment) {
     return others.Text();
 }
 
-bool ReviewProperty(const std::string& comment) {
-    Globals().PropertyComment = comment;
+StoredProperty PropertyToStore() {
+    const KVOGlobal& globals = Globals();
+    const bool original = globals.OriginalUnits;
+    const bool nameless = !original && globals.PropertyUnit == "*"; // its factor is not kept
+    return {globals.PropertyCode, nameless ? "S" : globals.PropertyUnit,
+            original ? globals.CurrentMethod->Factor : 0, original, globals.VariableCount};
+}
+
+PropertyRow PropertyInForce() {
+    const std::string& code = Globals().PropertyCode;
+    if (const auto row = FindProperty(code, Globals().DataContext)) return *row;
+    PropertyRow row;
+    row.Code = row.Property = code;
+    return row;
+}
+
+bool ReviewProperty(ui::TextBox& comment) {
+    Globals().PropertyComment = comment.Text();
     const std::string before = ChoiceInForce();
     ui::Forms::Current().Get("frmProperty").ShowModal();
-    return ChoiceInForce() != before;
+    if (ChoiceInForce() == before) return false;
+    const ui::FillingScope filling(comment.Owner());
+    comment.Text(Globals().PropertyComment);
+    return true;
 }
 
 void FillHeader(clsA& header, bool isNew, const std::string& comment) {

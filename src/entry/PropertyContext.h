@@ -5,6 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "reference/Vocabulary.h"
+#include "ui/TextBox.h"
+
 namespace vexora {
 
 class clsA;
@@ -24,9 +27,13 @@ void TakeProperty(const StoredProperty& stored, const clsA& header);
 /// Takes a stored comment apart: free-text method, tags and the precisions of the chain go into the
 /// context; the answer is the operator's text.
 std::string TakeComment(std::string_view comment);
-/// Lets property and method be reviewed with this comment of the operator; true when the review has
-/// changed anything. A cancelled one has not.
-bool ReviewProperty(const std::string& comment);
+/// What a record is to say about the property in the context: the inverse of TakeProperty.
+StoredProperty PropertyToStore();
+/// The row of the property in the context; one that no table knows is its own name.
+PropertyRow PropertyInForce();
+/// Lets property and method be reviewed together with the operator's comment, which follows; true
+/// when the review has changed anything. A cancelled one has not.
+bool ReviewProperty(ui::TextBox& comment);
 /// Writes the header of a record from the context. Who added it, and when, is of a new one only.
 void FillHeader(clsA& header, bool isNew, const std::string& comment);
 /// Why values in the unit of the head cannot be brought to the system unit: the message to show,

@@ -1,7 +1,6 @@
 #include "pure/frmSingle.h"
 
 #include <span>
-#include <utility>
 
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
@@ -112,10 +111,9 @@ void frmSingle::Phase1Click() {
 void frmSingle::Method() {
     const std::string property = row_.Code;
     const std::string variable = variable_;
-    if (!ReviewProperty(txtComment.Text())) return;
+    if (!ReviewProperty(txtComment)) return;
     {
         const ui::FillingScope filling(*this);
-        txtComment.Text(Globals().PropertyComment);
         ShowProperty();
     }
     // What was stated about another quantity is not true of this one.
@@ -126,7 +124,7 @@ void frmSingle::Method() {
 
 /// Statements about the value in hand; they go with it when it is stored.
 void frmSingle::Uncertainty() {
-    KVOGlobal& globals = Globals();
+    const KVOGlobal& globals = Globals();
     if (!globals.CurrentProperty) return;
     TakeTexts();
     clsZ named;
@@ -137,24 +135,10 @@ void frmSingle::Uncertainty() {
     if (IsFixed()) named.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
     StoreStatements(named);
     std::vector<clsX> items = NamedStatements(named);
-    const auto chain = std::exchange(globals.CurrentProperty, ChainToEvaluate());
-    const std::string key = std::exchange(globals.CurrentKey, "RLSZ");
-    const bool accepted = EditStatements(items);
-    globals.CurrentKey = key;
-    globals.CurrentProperty = chain;
-    if (!accepted) return;
+    const bool inSystemUnits = editing_ && globals.CurrentZ->commentInSystemUnits;
+    if (!EditStatementsOfValue(items, "RLSZ", inSystemUnits)) return;
     std::ranges::copy(items, statements_.begin());
     Touch();
-}
-
-/// The chain with its precisions, which a file states in system units, in the units entered.
-std::shared_ptr<clsProperty> frmSingle::ChainToEvaluate() const {
-    auto chain = std::make_shared<clsProperty>();
-    chain->Copy(*Globals().CurrentProperty);
-    if (!editing_ || !Globals().CurrentZ->commentInSystemUnits) return chain;
-    for (clsProperty* item = chain.get(); item; item = item->NextItem.get())
-        PrecisionInEnteredUnit(*item, Globals().CurrentMethod->MMass);
-    return chain;
 }
 
 void frmSingle::Touch() {

@@ -6,12 +6,12 @@
 
 #include "entry/PropertyRules.h"
 #include "entry/SampleChoice.h"
+#include "entry/ValueEntry.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
-class clsProperty;
 class clsZ;
 
 /// One value of a property of a sample, by itself or at a fixed value of one variable. Behind
@@ -54,7 +54,6 @@ private:
     void Phase1Click();
     void Method();
     void Uncertainty();
-    std::shared_ptr<clsProperty> ChainToEvaluate() const;
     void Touch();
 
     // What stands on the form (frmSingle_fill.cpp).
@@ -62,7 +61,6 @@ private:
     void ShowProperty();
     void ShowVariable();
     void ShowPhases();
-    void ShowUnit();
     void ProposeSetNumber();
     void TakeRecord(const clsZ& record);
     void ShowComment(const clsZ& record);
@@ -74,8 +72,6 @@ private:
     bool Check();
     bool CheckPhases();
     bool CheckVariable();
-    bool CheckUnit();
-    bool CheckValue();
     void Store();
     void StoreHeader(clsZ& record) const;
     void StoreValues(clsZ& record) const;
@@ -83,6 +79,7 @@ private:
     void TakeTexts();
 
     SampleChoice choice_{*this, cboSubst, cboSample};
+    ValueEntry value_{*this, txtValue, lblUnit, cmdMethod};
     PropertyRow row_;                // the property in hand
     std::string variable_;           // code of the fixed variable
     std::string variableUnit_;       // system unit of it

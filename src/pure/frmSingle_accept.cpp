@@ -2,6 +2,7 @@
 
 #include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
 #include "entry/PhaseLists.h"
 #include "entry/PropertyContext.h"
 #include "entry/ValueQuestions.h"
@@ -39,7 +40,7 @@ bool frmSingle::Check() {
     if (globals.PropertyCode.empty() || !globals.CurrentProperty)
         return Refuse(cmdMethod, "Please review the property selection");
     if (!choice_.Sample()) return Refuse(cboSample, "Select the sample");
-    return CheckPhases() && CheckVariable() && CheckValue();
+    return CheckPhases() && CheckVariable() && value_.Check();
 }
 
 bool frmSingle::CheckPhases() {
@@ -64,24 +65,6 @@ bool frmSingle::CheckVariable() {
     return ok;
 }
 
-bool frmSingle::CheckValue() {
-    constexpr const char* illegal = "Illegal property value";
-    txtValue.Text(NormalizeNumber(txtValue.Text()));
-    if (!IsNumeric(txtValue.Text())) return Refuse(txtValue, "Enter the property value", illegal);
-    if (!CheckUnit()) return false;
-    TakeTexts();
-    bool ok = true;
-    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass, ConfirmInBox);
-    return ok || Refuse(txtValue, "Invalid property value");
-}
-
-/// A value whose unit cannot be converted is never stored.
-bool frmSingle::CheckUnit() {
-    const std::string fault = UnitFault(*Globals().CurrentProperty);
-    if (fault.empty()) return true;
-    const bool ofUnit = fault == "Invalid conversion factor";
-    return Refuse(ofUnit ? static_cast<ui::Control&>(cmdMethod) : txtValue, fault);
-}
 
 void frmSingle::Store() {
     KVOGlobal& globals = Globals();
@@ -106,15 +89,14 @@ void frmSingle::StoreHeader(clsZ& record) const {
 }
 
 void frmSingle::StoreValues(clsZ& record) const {
-    const KVOGlobal& globals = Globals();
-    const bool original = globals.OriginalUnits;
-    record.nVar = globals.VariableCount;
+    const StoredProperty property = PropertyToStore();
+    record.nVar = property.nVar;
     record.SMPNM = choice_.Sample()->SMPNM;
     record.PRPCODE = row_.Code;
     record.PRPSETNO = txtPrpSetNo.Text();
-    record.isOriginalUnit = original;
-    record.Factor = original ? globals.CurrentMethod->Factor : 0;
-    record.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    record.isOriginalUnit = property.isOriginalUnit;
+    record.Factor = property.factor;
+    record.PROPERTY_UNIT = property.unit;
     record.PHASE1 = OrPlaceholder(PhaseChosen(lstPhase1));
     record.PHASE2 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase2));
     record.PHASE3 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase3));
@@ -123,8 +105,8 @@ void frmSingle::StoreValues(clsZ& record) const {
     record.PRPVALUE = txtValue.Text();
     if (!IsFixed()) return;
     record.INDVARIABLE = txtIndVariable.Text();
-    if (original || record.VARIABLE_UNIT.empty())
-        record.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
+    if (property.isOriginalUnit || record.VARIABLE_UNIT.empty())
+        record.VARIABLE_UNIT = Globals().CurrentProperty->NextItem->ConversionCode;
 }
 
 /// What is stated goes with its quantity, which the item names besides.
@@ -140,8 +122,8 @@ void frmSingle::StoreStatements(clsZ& record) const {
 
 /// The chain as the form stands.
 void frmSingle::TakeTexts() {
-    clsProperty& head = *Globals().CurrentProperty;
-    head.Text = NormalizeNumber(txtValue.Text());
+    value_.TakeText();
+    const clsProperty& head = *Globals().CurrentProperty;
     if (!IsFixed() || !head.NextItem) return;
     clsProperty& item = *head.NextItem;
     item.Text = NormalizeNumber(txtIndVariable.Text());

@@ -1,7 +1,6 @@
 #include "pure/frmSingle.h"
 
 #include "chem/CommentTags.h"
-#include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PhaseLists.h"
 #include "entry/PhaseRules.h"
@@ -22,15 +21,12 @@ void frmSingle::UseSample() {
 
 /// Brings the form in line with the property in force.
 void frmSingle::ShowProperty() {
-    const KVOGlobal& globals = Globals();
-    const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
-    row_ = row ? *row : PropertyRow();
-    if (!row) row_.Code = row_.Property = globals.PropertyCode;
+    row_ = PropertyInForce();
     Caption((editing_ ? "Edit: " : "") + row_.Property +
             (IsFixed() ? " at fixed conditions" : " as single valued property"));
     ShowVariable();
     ShowPhases();
-    ShowUnit();
+    value_.ShowUnit();
     const std::string& code = row_.Code;
     frmConstraint.Visible(code == "PV" || code == "TB" || code == "HVP");
     ProposeSetNumber();
@@ -66,10 +62,6 @@ void frmSingle::ShowPhases() {
     FillPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
     FillPhaseList(lstPhase2, offer.Phase2);
     FillPhaseList(lstPhase3, offer.Phase3);
-}
-
-void frmSingle::ShowUnit() {
-    lblUnit.Caption(Globals().PropertyText);
 }
 
 /// The number of a record that keeps its property does not change.

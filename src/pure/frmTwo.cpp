@@ -150,9 +150,8 @@ void frmTwo::NumericalClick() {
 /// Lets property and method be reviewed; another property starts its definition anew.
 void frmTwo::Method() {
     const std::string before = Globals().PropertyCode;
-    if (!ReviewProperty(txtComment.Text())) return;
+    if (!ReviewProperty(txtComment)) return;
     const ui::FillingScope filling(*this);
-    txtComment.Text(Globals().PropertyComment);
     if (Globals().PropertyCode == before) {
         ShowUnits(1);
         ShowUnits(2);

@@ -158,16 +158,15 @@ std::shared_ptr<clsTwo> frmTwo::MakeSet() {
 }
 
 void frmTwo::WriteDefinition(clsTwo& set) const {
-    const KVOGlobal& globals = Globals();
+    const StoredProperty property = PropertyToStore();
     const TwoDraft draft = Draft();
-    const bool original = globals.OriginalUnits;
     set.nVar = draft.nVar;
     set.SMPNM = choice_.Sample()->SMPNM;
     set.PRPCODE = StoredPropertyCode(row_.Code, draft.phase1, draft.phase2);
     set.PRPSETNO = txtPrpSetNo.Text();
-    set.isOriginalUnit = original;
-    set.Factor = original ? globals.CurrentMethod->Factor : 0;
-    set.PROPERTY_UNIT = !original && globals.PropertyUnit == "*" ? "S" : globals.PropertyUnit;
+    set.isOriginalUnit = property.isOriginalUnit;
+    set.Factor = property.factor;
+    set.PROPERTY_UNIT = property.unit;
     set.CONSTRAINT = draft.constraint;
     set.PHASE1 = draft.phase1;
     const bool asBefore = as_ && as_->CONSTRAINT == draft.constraint && as_->PHASE1 == draft.phase1;

@@ -44,9 +44,7 @@ void frmTwo::UseSample() {
 /// Brings the form in line with the property in force.
 void frmTwo::ShowProperty() {
     const KVOGlobal& globals = Globals();
-    const auto row = FindProperty(globals.PropertyCode, globals.DataContext);
-    row_ = row ? *row : PropertyRow();
-    if (!row) row_.Code = row_.Property = globals.PropertyCode;
+    row_ = PropertyInForce();
     variables_ = VariablesOf(globals.DataContext);
     std::erase_if(variables_,
                   [this](const auto& v) { return IsSameQuantity(row_.Code, v.IndVarCode); });

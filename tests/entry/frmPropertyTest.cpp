@@ -144,6 +144,20 @@ TEST_F(frmPropertyTest, EntriesFollowThePropertyAndDeadOnesSayWhy) {
     EXPECT_FALSE(form.cmdOK.IsUsable());
 }
 
+TEST_F(frmPropertyTest, EntriesOfAContextWithoutFormsAreDead) {
+    for (const auto& [context, count] : {std::pair("Pure", 4), std::pair("Complex", 4),
+                                         std::pair("Bin", 0), std::pair("Bio", 0)}) {
+        globals.DataContext = context;
+        auto& form = Open<frmProperty>("frmProperty");
+        int live = 0;
+        for (const ui::CommandButton* button :
+             {&form.cmdSingle, &form.cmdFixed, &form.cmdOne, &form.cmdTwo, &form.cmdThree})
+            live += button->IsUsable() ? 1 : 0;
+        EXPECT_EQ(live, count) << context;
+        form.cmdFinish.UserClick();
+    }
+}
+
 TEST_F(frmPropertyTest, OwnFactorBecomesAUnitOfTheList) {
     auto& form = CriticalPressure();
     const std::string prompt = "Property value in the original units multiplied by a conversion "

@@ -128,6 +128,20 @@ TEST_F(FormTest, AFormThatCouldNotBeFilledIsNotOpenAndStartsAfresh) {
     EXPECT_EQ(forms_.Find("frmUnsound"), &second);
 }
 
+TEST_F(FormTest, ARefusalAndANoLeadToTheFieldAndAYesGoesOn) {
+    frmSmall& form = Small();
+    form.Show();
+    desktop_.Expect("Too long | Notes");
+    EXPECT_FALSE(form.Refuse(form.txtNotes, "Too long", "Notes"));
+    EXPECT_TRUE(form.txtNotes.HasFocus());
+    desktop_.Expect("So short?", ui::Answer::Yes);
+    EXPECT_TRUE(form.Confirm(form.txtName, "So short?"));
+    EXPECT_TRUE(form.txtNotes.HasFocus());
+    desktop_.Expect("So short?", ui::Answer::No);
+    EXPECT_FALSE(form.Confirm(form.txtName, "So short?"));
+    EXPECT_TRUE(form.txtName.HasFocus());
+}
+
 TEST_F(FormTest, AModalFormStandsInFrontUntilItCloses) {
     Small().Show();
     auto& modal = forms_.Get<frmSmallModal>("frmSmallModal");
