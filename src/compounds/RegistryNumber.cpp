@@ -27,7 +27,7 @@ std::optional<std::size_t> FirstOdd(std::string_view text) {
     return std::nullopt;
 }
 
-const std::string notNumeric = "Enter numeric RN";
+const std::string NotNumeric = "Enter numeric RN";
 
 } // namespace
 
@@ -74,10 +74,10 @@ std::string CheckDigitText(std::string_view front, std::string_view middle) {
 
 std::optional<RegistryNumberFault> CheckRegistryNumber(const RegistryParts& parts) {
     if (parts.IsEmpty()) return std::nullopt;
-    if (const auto odd = FirstOdd(parts.Front)) return RegistryNumberFault{notNumeric, 0, *odd, 1};
-    if (CodePointCount(parts.Middle) != 2) return RegistryNumberFault{notNumeric, 1, 0, 0};
-    if (const auto odd = FirstOdd(parts.Middle)) return RegistryNumberFault{notNumeric, 1, *odd, 1};
-    if (parts.Front.empty()) return RegistryNumberFault{notNumeric, 0, 0, 0};
+    if (const auto odd = FirstOdd(parts.Front)) return RegistryNumberFault{NotNumeric, 0, *odd, 1};
+    if (CodePointCount(parts.Middle) != 2) return RegistryNumberFault{NotNumeric, 1, 0, 0};
+    if (const auto odd = FirstOdd(parts.Middle)) return RegistryNumberFault{NotNumeric, 1, *odd, 1};
+    if (parts.Front.empty()) return RegistryNumberFault{NotNumeric, 0, 0, 0};
     if (parts.Front.front() == '0') return RegistryNumberFault{"RN cannot start with 0", 0, 0, 1};
     return std::nullopt;
 }

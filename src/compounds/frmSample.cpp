@@ -15,8 +15,8 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpSample = 250;
-const std::string newEntry = "New";
+constexpr int HelpSample = 250;
+const std::string NewEntry = "New";
 
 /// Asks for a method that the list lacks; empty when none was given.
 std::string AskMethod() {
@@ -32,7 +32,7 @@ frmSample::frmSample() : Form("frmSample", "Sample") {
     WireEvents();
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCancel;
-    HelpContext = helpSample;
+    HelpContext = HelpSample;
     txtSampleNo.Locked(true);
     txtSmplDescription.Locked(true);
 }
@@ -69,7 +69,7 @@ void frmSample::WireEvents() {
     cmdNext.OnClick = [this] { Next(); };
     cmdAccept.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };
-    mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(helpSample); };
+    mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(HelpSample); };
 }
 
 void frmSample::WirePurity(ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
@@ -122,7 +122,7 @@ void frmSample::FillLists() {
 void frmSample::FillCompounds() {
     const ui::FillingScope filling(*this);
     FillCompoundList(cboSubst);
-    if (!editing_) cboSubst.Add(newEntry);
+    if (!editing_) cboSubst.Add(NewEntry);
 }
 
 /// Empties the form for the next sample of the chosen compound.

@@ -11,9 +11,9 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpEnter = 240;
-constexpr int helpDisplay = 140;
-constexpr int helpBio = 145;
+constexpr int HelpEnter = 240;
+constexpr int HelpDisplay = 140;
+constexpr int HelpBio = 145;
 
 bool Writes(const ui::Key& key) {
     return key.character >= U' ' && !key.control && !key.alt;
@@ -44,7 +44,7 @@ frmSubst::frmSubst() : Form("frmSubst", "Substance") {
     WireEvents();
     DefaultButton = &cmdAccept;
     CancelButton = &cmdCancel;
-    HelpContext = helpEnter;
+    HelpContext = HelpEnter;
     cmdFind.ToolTip("Find a substance in the database by a formula and/or name (fragment of the "
                     "name) and/or CAS Registry Number");
     cmdUseRN.ToolTip("Take the registry number of the database instead of a made-up one");
@@ -89,9 +89,9 @@ void frmSubst::WireEvents() {
     cmdUseRN.OnClick = [this] { UseRegistryNumber(); };
     cmdAccept.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };
-    mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(helpEnter); };
-    mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(helpDisplay); };
-    mnuHelpBio.OnClick = [] { ui::TheDesktop().ShowHelp(helpBio); };
+    mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(HelpEnter); };
+    mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDisplay); };
+    mnuHelpBio.OnClick = [] { ui::TheDesktop().ShowHelp(HelpBio); };
 }
 
 void frmSubst::Load() {

@@ -34,7 +34,7 @@ void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& c
     const std::string chosen = list.Chosen();
     const bool keep = list.Index() > 0;
     std::vector<std::string> names = PhaseNames(codes);
-    names.insert(names.begin(), selectPhase);
+    names.insert(names.begin(), SelectPhase);
     if (keep && std::ranges::find(names, chosen) == names.end()) names.push_back(chosen);
     if (names != list.Items()) list.Assign(std::move(names));
     list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
@@ -49,7 +49,7 @@ void ChoosePhase(ui::ComboBox& list, std::string_view code) {
 }
 
 std::string PhaseChosen(const ui::ComboBox& list) {
-    if (list.Chosen() == selectPhase) return {};
+    if (list.Chosen() == SelectPhase) return {};
     const std::string code = PhaseCode(list.Chosen());
     return code.empty() ? list.Chosen() : code;
 }

@@ -11,7 +11,7 @@
 namespace vexora {
 
 /// The first entry of a list in which nothing is chosen at first.
-inline constexpr const char* selectPhase = "SELECT PHASE";
+inline constexpr const char* SelectPhase = "SELECT PHASE";
 
 /// Offers the phases of these codes; the one chosen is kept where it is still offered, one alone is
 /// chosen by itself, and a list without any is closed.

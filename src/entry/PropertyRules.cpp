@@ -12,9 +12,9 @@ namespace vexora {
 
 namespace {
 
-constexpr std::size_t rejection = 2; // place of "recommends rejection" among the statements
-constexpr int keptBits = 0x7FFB;     // what a reading keeps of a flag word
-constexpr const char* unitOne = "1"; // system unit of a dimensionless quantity
+constexpr std::size_t Rejection = 2; // place of "recommends rejection" among the statements
+constexpr int KeptBits = 0x7FFB;     // what a reading keeps of a flag word
+constexpr const char* UnitOne = "1"; // system unit of a dimensionless quantity
 
 bool LetterApplies(std::string_view letter, std::string_view code) {
     if (letter == "m") return true;
@@ -29,7 +29,7 @@ std::vector<Statement> StatementsFor(std::string_view propertyCode) {
     std::vector<Statement> statements;
     const CodeTexts flags = ValueStatements();
     for (std::size_t i = 0; i < flags.size(); ++i) {
-        if (i != rejection) statements.push_back({std::string(flags[i].text), 1 << i, {}});
+        if (i != Rejection) statements.push_back({std::string(flags[i].text), 1 << i, {}});
     }
     for (const CodeText& entry : LetteredStatements()) {
         if (LetterApplies(entry.code, propertyCode))
@@ -39,7 +39,7 @@ std::vector<Statement> StatementsFor(std::string_view propertyCode) {
 }
 
 int FlagBits(std::string_view flags) {
-    return static_cast<int>(ParseInteger(flags).value_or(0) & keptBits);
+    return static_cast<int>(ParseInteger(flags).value_or(0) & KeptBits);
 }
 
 std::string UnitCode(const PropertyRow& row, std::string_view text) {
@@ -48,7 +48,7 @@ std::string UnitCode(const PropertyRow& row, std::string_view text) {
 }
 
 std::string PropertyInWords(const PropertyRow& row) {
-    return row.Unit == unitOne ? row.Property : row.Property + ", " + row.Unit;
+    return row.Unit == UnitOne ? row.Property : row.Property + ", " + row.Unit;
 }
 
 } // namespace vexora

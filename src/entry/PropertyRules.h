@@ -11,7 +11,7 @@
 namespace vexora {
 
 /// The last entry of a list of units: asks for a factor.
-inline constexpr const char* allOtherUnits = "ALL OTHER UNITS";
+inline constexpr const char* AllOtherUnits = "ALL OTHER UNITS";
 
 /// One statement about a value. It is a bit of PRPFLAG, or a tag in the comment when it has a key.
 struct Statement {

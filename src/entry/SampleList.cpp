@@ -13,8 +13,8 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* newEntry = "New";
-constexpr const char* sampleDialog = "frmSample";
+constexpr const char* NewEntry = "New";
+constexpr const char* SampleDialog = "frmSample";
 
 } // namespace
 
@@ -29,7 +29,7 @@ void SampleList::Fill(std::shared_ptr<clsL> compound) {
     if (!compound_) return ChoosePosition(0);
     for (const auto& sample : compound_->recS)
         list_.Add(sample->SMPNM);
-    if (ui::Forms::Current().Knows(sampleDialog)) list_.Add(newEntry);
+    if (ui::Forms::Current().Knows(SampleDialog)) list_.Add(NewEntry);
     ChoosePosition(compound_->recS.Count() == 1 ? 1 : 0);
 }
 
@@ -39,7 +39,7 @@ void SampleList::Choose(const clsS* sample) {
 }
 
 void SampleList::Click() {
-    if (list_.Chosen() == newEntry)
+    if (list_.Chosen() == NewEntry)
         Make();
     else
         ChoosePosition(static_cast<std::size_t>(list_.Index() + (prompt_.empty() ? 1 : 0)));
@@ -51,7 +51,7 @@ void SampleList::Make() {
     const std::size_t chosen = chosen_;
     globals.CurrentL = compound_;
     globals.OpenForms.push_back(form_.Name());
-    ui::Forms::Current().Get(sampleDialog).ShowModal();
+    ui::Forms::Current().Get(SampleDialog).ShowModal();
     Fill(compound_);
     const std::size_t count = compound_->recS.Count();
     if (count == before) return ChoosePosition(chosen);

@@ -3,6 +3,7 @@
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PropertyContext.h"
+#include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
 
@@ -27,7 +28,7 @@ bool ValueEntry::Check() {
     if (!CheckUnit()) return false;
     TakeText();
     bool ok = true;
-    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass);
+    Globals().CurrentProperty->Convert(ok, Globals().CurrentMethod->MMass, ConfirmInBox);
     return ok || form_.Refuse(value_, "Invalid property value");
 }
 

@@ -11,17 +11,17 @@ namespace vexora {
 
 namespace {
 
-const std::string title = "Property and experimental method";
-constexpr int helpPropertyList = 30;
+const std::string Title = "Property and experimental method";
+constexpr int HelpPropertyList = 30;
 
 } // namespace
 
-frmProperty::frmProperty() : Form("frmProperty", title) {
+frmProperty::frmProperty() : Form("frmProperty", Title) {
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdOK;
     CancelButton = &cmdFinish;
-    HelpContext = helpPropertyList;
+    HelpContext = HelpPropertyList;
 }
 
 void frmProperty::ArrangeControls() {
@@ -50,7 +50,7 @@ void frmProperty::WireEvents() {
         entry.button.OnClick = [this, &entry] { Enter(entry); };
     cmdOK.OnClick = [this] { Accept(); };
     cmdFinish.OnClick = [this] { Close(); };
-    mnuList.OnClick = [] { ui::TheDesktop().ShowHelp(helpPropertyList); };
+    mnuList.OnClick = [] { ui::TheDesktop().ShowHelp(HelpPropertyList); };
 }
 
 void frmProperty::Load() {
@@ -64,7 +64,7 @@ void frmProperty::Load() {
 void frmProperty::Activate() {
     KVOGlobal& globals = Globals();
     accepted_ = false;
-    Caption(title + (globals.CurrentL ? " for " + globals.CurrentL->ShowKey() : ""));
+    Caption(Title + (globals.CurrentL ? " for " + globals.CurrentL->ShowKey() : ""));
     if (IsModal()) {
         before_ = {globals.CurrentMethod->Method, globals.KeyRest};
         Fill();
@@ -113,7 +113,7 @@ void frmProperty::PropertyClick() {
 void frmProperty::ConvClick() {
     const PropertyRow* row = Chosen();
     if (Filling || !row) return;
-    if (lstConv.Chosen() == allOtherUnits) {
+    if (lstConv.Chosen() == AllOtherUnits) {
         const auto factor = AskFactor(*row);
         const ui::FillingScope filling(*this);
         lstConv.Index(unitBefore_);

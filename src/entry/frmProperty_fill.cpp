@@ -18,8 +18,8 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* otherMethod = "Other experimental method (please, describe below)";
-constexpr const char* methodNotStated = "The method is not stated in the document";
+constexpr const char* OtherMethod = "Other experimental method (please, describe below)";
+constexpr const char* MethodNotStated = "The method is not stated in the document";
 
 } // namespace
 
@@ -99,15 +99,15 @@ void frmProperty::FillUnits(const PropertyRow& row) {
     factor_ = 0;
     lstConv.Assign(UnitList(row.Unit));
     const bool only = lstConv.Count() == 1;
-    lstConv.Add(allOtherUnits);
+    lstConv.Add(AllOtherUnits);
     lstConv.Index(only ? 0 : -1);
     unitBefore_ = lstConv.Index();
 }
 
 void frmProperty::FillMethods(const PropertyRow& row) {
     methods_ = MethodsOf(row.Code);
-    methods_.push_back({"UNKNOWN", methodNotStated});
-    methods_.push_back({"OTHER", otherMethod});
+    methods_.push_back({"UNKNOWN", MethodNotStated});
+    methods_.push_back({"OTHER", OtherMethod});
     for (const MethodRow& method : methods_)
         lstMethod.Add(method.Method);
 }

@@ -7,12 +7,12 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpForm = 346;
-constexpr int helpDefinitions = 345;
-constexpr const char* levelHint = "Do not enter for standard deviation";
-constexpr const char* evaluatorHint =
+constexpr int HelpForm = 346;
+constexpr int HelpDefinitions = 345;
+constexpr const char* LevelHint = "Do not enter for standard deviation";
+constexpr const char* EvaluatorHint =
     "Person or organization who assessed measuring device precision";
-constexpr const char* level = "Level of confidence:";
+constexpr const char* LevelLabel = "Level of confidence:";
 
 void Enable(bool on, std::initializer_list<ui::Control*> controls) {
     for (ui::Control* control : controls)
@@ -38,13 +38,13 @@ frmUnc::frmUnc() : Form("frmUnc", "Uncertainty information") {
     WireEvents();
     DefaultButton = &cmdOK;
     CancelButton = &cmdCancel;
-    HelpContext = helpForm;
+    HelpContext = HelpForm;
     for (int i = 0; i < frameCount; ++i) {
-        txtDSLevel(i).ToolTip(levelHint);
-        txtULevel(i).ToolTip(levelHint);
-        cboDSEvaluator(i).ToolTip(evaluatorHint);
+        txtDSLevel(i).ToolTip(LevelHint);
+        txtULevel(i).ToolTip(LevelHint);
+        cboDSEvaluator(i).ToolTip(EvaluatorHint);
     }
-    txtCULevel.ToolTip(levelHint);
+    txtCULevel.ToolTip(LevelHint);
     for (const auto& frame : Frame) // those of the set show themselves
         frame->Visible(false);
 }
@@ -55,7 +55,7 @@ ui::Layout frmUnc::FrameLayout(int i) {
     if (i == 0) evaluator.emplace_back(txtCalibrError);
     // The mark of a block stands as the label of its fields.
     const auto number = [](TextBox& box) { return Narrow(box, 12); };
-    const auto confidence = [](TextBox& box) { return Field(level, Narrow(box, 4)); };
+    const auto confidence = [](TextBox& box) { return Field(LevelLabel, Narrow(box, 4)); };
     std::vector<Layout> rows = {
         Field(chkDS(i), Row({Field(lblDSValue(i),
                                    Row({number(txtDSValue(i)), chkDSPerCent(i), lblDSPerCent(i)})),
@@ -96,8 +96,8 @@ void frmUnc::WireEvents() {
     cmdCalc.OnClick = [this] { Calculate(); };
     cmdOK.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };
-    mnuAbout.OnClick = [] { ui::TheDesktop().ShowHelp(helpForm); };
-    mnuDefinitions.OnClick = [] { ui::TheDesktop().ShowHelp(helpDefinitions); };
+    mnuAbout.OnClick = [] { ui::TheDesktop().ShowHelp(HelpForm); };
+    mnuDefinitions.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDefinitions); };
 }
 
 void frmUnc::WireFrame(int i) {

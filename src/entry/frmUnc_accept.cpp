@@ -13,8 +13,8 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* invalid = "Invalid numerical value";
-constexpr int shownDigits = 3;
+constexpr const char* InvalidNumber = "Invalid numerical value";
+constexpr int ShownDigits = 3;
 
 /// Single values state all of it at once; in a table the rows may do it.
 bool IsSingleValue() {
@@ -32,13 +32,13 @@ bool frmUnc::CheckValue(ui::TextBox& box) {
     if (!box.Enabled()) return true;
     box.Text(NormalizeNumber(box.Text()));
     if (box.IsEmpty()) return !IsSingleValue() || Refuse(box, "Please enter the value");
-    return IsNumeric(box.Text()) || Refuse(box, invalid);
+    return IsNumeric(box.Text()) || Refuse(box, InvalidNumber);
 }
 
 bool frmUnc::CheckLevel(ui::TextBox& box) {
     if (!box.Enabled()) return true;
     box.Text(NormalizeNumber(box.Text()));
-    return box.IsEmpty() || IsNumeric(box.Text()) || Refuse(box, invalid);
+    return box.IsEmpty() || IsNumeric(box.Text()) || Refuse(box, InvalidNumber);
 }
 
 bool frmUnc::CheckRepetitions(ui::TextBox& box) {
@@ -131,7 +131,7 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
     const double stated = item.iCU ? std::abs(StatedFigure(item.CValue, head.Value)) : 0;
     if (stated > head.PRECISION) {
         lblFigures.Caption("Combined uncertainty as stated: " +
-                           NumberWithUnit(FormatValue(stated, shownDigits), item.Unit));
+                           NumberWithUnit(FormatValue(stated, ShownDigits), item.Unit));
         return;
     }
     if (head.PRECISION == 0) {
@@ -141,9 +141,9 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
     const auto row = FindProperty(item.PRPCODE);
     const std::string systemUnit = row && head.Relation != "R" ? row->Unit : std::string();
     lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
-                       NumberWithUnit(FormatValue(head.PRECISION, shownDigits), item.Unit) +
+                       NumberWithUnit(FormatValue(head.PRECISION, ShownDigits), item.Unit) +
                        "; in the system unit " +
-                       NumberWithUnit(FormatValue(head.SystemPrecision, shownDigits), systemUnit));
+                       NumberWithUnit(FormatValue(head.SystemPrecision, ShownDigits), systemUnit));
 }
 
 void frmUnc::Accept() {
@@ -154,7 +154,7 @@ void frmUnc::Accept() {
         return;
     }
     if (txtKVOU.Enabled() && !IsNumeric(txtKVOU.Text())) {
-        Refuse(txtKVOU, invalid);
+        Refuse(txtKVOU, InvalidNumber);
         return;
     }
     std::vector<clsX>& stated = *Globals().CurrentUX;

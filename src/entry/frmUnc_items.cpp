@@ -11,10 +11,10 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* ofTheMean = "Standard Deviation of the Mean";
-constexpr const char* ofSingleMeasurement = "Standard Deviation of a Single Measurement";
-constexpr const char* propagation = "Propagation of Assessed Std. Deviations";
-constexpr const char* comparison = "Comparison with Other Measurements";
+constexpr const char* OfTheMean = "Standard Deviation of the Mean";
+constexpr const char* OfSingleMeasurement = "Standard Deviation of a Single Measurement";
+constexpr const char* Propagation = "Propagation of Assessed Std. Deviations";
+constexpr const char* Comparison = "Comparison with Other Measurements";
 
 /// Shows a statement; the sign of per cent stands beside it.
 void ShowStatement(std::string_view text, ui::TextBox& box, ui::CheckBox& perCent) {
@@ -57,11 +57,11 @@ void frmUnc::FillLists() {
     for (int i = 0; i < frameCount; ++i) {
         Frame(i).Caption(i == 0 ? "Property" : "Variable " + std::to_string(i));
         cboRType(i).Assign(
-            {"SELECT REPRESENTATION OF REPEATABILITY", ofTheMean, ofSingleMeasurement});
+            {"SELECT REPRESENTATION OF REPEATABILITY", OfTheMean, OfSingleMeasurement});
         cboRType(i).Index(0);
         cboDSEvaluator(i).Assign({"Manufacturer", "Third party", "Author"});
     }
-    cboCUType.Assign({"SELECT TYPE OF EVALUATION", propagation, comparison});
+    cboCUType.Assign({"SELECT TYPE OF EVALUATION", Propagation, Comparison});
     cboCUType.Index(0);
 }
 
@@ -97,7 +97,7 @@ void frmUnc::ShowItem(const clsX& item) {
     ShowStatement(item.RValue, txtRValue(i), chkRPerCent(i));
     txtRepetitions(i).Text(item.Repetitions);
     if (item.RType == 0 || item.RType == 1)
-        cboRType(i).Choose(item.RType == 0 ? ofTheMean : ofSingleMeasurement);
+        cboRType(i).Choose(item.RType == 0 ? OfTheMean : OfSingleMeasurement);
     chkUnc(i).Value(item.iUnc);
     ShowStatement(item.UValue, txtUValue(i), chkUPerCent(i));
     txtULevel(i).Text(item.ULevel);
@@ -118,8 +118,8 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
     chkComb.Value(item.iCU);
     ShowStatement(item.CValue, txtCUValue, chkCUPerCent);
     txtCULevel.Text(item.CLevel);
-    if (item.CType == "A") cboCUType.Choose(propagation);
-    if (item.CType == "B") cboCUType.Choose(comparison);
+    if (item.CType == "A") cboCUType.Choose(Propagation);
+    if (item.CType == "B") cboCUType.Choose(Comparison);
     if (item.CType == "C")
         ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
                 "External mode");
@@ -149,7 +149,7 @@ clsX frmUnc::FromControls(int i) const {
         item.RValue = item.iRep ? Statement(txtRValue(i), chkRPerCent(i)) : "";
     }
     const std::string& type = cboRType(i).Chosen();
-    item.RType = !item.iRep ? -1 : type == ofTheMean ? 0 : type == ofSingleMeasurement ? 1 : -1;
+    item.RType = !item.iRep ? -1 : type == OfTheMean ? 0 : type == OfSingleMeasurement ? 1 : -1;
     item.iUnc = chkUnc(i).Value();
     item.ULevel = item.iUnc ? NormalizeNumber(txtULevel(i).Text()) : "";
     item.UValue = item.iUnc ? Statement(txtUValue(i), chkUPerCent(i)) : "";
@@ -162,7 +162,7 @@ void frmUnc::ReadPropertyBlocks(clsX& item) const {
     item.CLevel = item.iCU ? NormalizeNumber(txtCULevel.Text()) : "";
     item.CValue = item.iCU ? Statement(txtCUValue, chkCUPerCent) : "";
     const std::string& type = cboCUType.Chosen();
-    item.CType = !item.iCU ? "" : type == propagation ? "A" : type == comparison ? "B" : item.CType;
+    item.CType = !item.iCU ? "" : type == Propagation ? "A" : type == Comparison ? "B" : item.CType;
     item.KVOUValue = txtKVOU.Text();
     item.iCD = chkCD.Value();
     item.CDSpec = item.iCD ? std::string(TrimBlanks(txtEq.Text())) : "";

@@ -11,9 +11,9 @@ using Stroke = ui::Picture::Stroke;
 using Shape = ui::Picture::Shape;
 using Align = ui::Picture::Align;
 
-constexpr double radius = 5.5; // of a marker
-constexpr double denseRadius = 3.3;
-constexpr double fontSize = 16;
+constexpr double Radius = 5.5; // of a marker
+constexpr double DenseRadius = 3.3;
+constexpr double FontSize = 16;
 
 std::string Number(double value) {
     return NumberText(Val(FormatFixed(value, 2)));
@@ -50,7 +50,7 @@ const char* CornersOf(int marker) {
 }
 
 std::string Marker(const Stroke& stroke) {
-    const double size = stroke.dense ? denseRadius : radius;
+    const double size = stroke.dense ? DenseRadius : Radius;
     const std::string fill =
         " fill=\"" + Colour(stroke.colour) + "\"" + (stroke.dense ? "" : " stroke=\"#ffffff\"");
     if (stroke.marker == 0) return Circle(stroke, size) + fill + "/>";
@@ -66,7 +66,7 @@ std::string Text(const Stroke& stroke) {
     const char* anchor = stroke.align == Align::Left     ? "start"
                          : stroke.align == Align::Centre ? "middle"
                                                          : "end";
-    return "<text" + Attribute("x", stroke.x) + Attribute("y", stroke.y + fontSize) +
+    return "<text" + Attribute("x", stroke.x) + Attribute("y", stroke.y + FontSize) +
            " text-anchor=\"" + anchor + "\">" + HtmlOfText(stroke.text) + "</text>";
 }
 
@@ -83,7 +83,7 @@ std::string Element(const Stroke& stroke) {
         return Circle(stroke, (stroke.x2 - stroke.x) / 2) + " fill=\"" + Colour(stroke.colour) +
                "\"/>";
     case Shape::Ring:
-        return Circle(stroke, radius * 2.2) + Pen(stroke) + " stroke-width=\"2\"/>";
+        return Circle(stroke, Radius * 2.2) + Pen(stroke) + " stroke-width=\"2\"/>";
     case Shape::Marker:
         return Marker(stroke);
     default:
@@ -99,7 +99,7 @@ std::string SvgOf(const ui::Picture& picture, std::string_view title) {
     std::string svg = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
                       wide + "\" height=\"" + high + "\" viewBox=\"0 0 " + wide + " " + high +
-                      "\" font-family=\"sans-serif\" font-size=\"" + Number(fontSize) +
+                      "\" font-family=\"sans-serif\" font-size=\"" + Number(FontSize) +
                       "\">\n<title>" + HtmlOfText(title) +
                       "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
     for (const Stroke& stroke : picture.Strokes())

@@ -8,8 +8,8 @@ namespace vexora {
 
 namespace {
 
-constexpr int mostGroups = 1000;
-constexpr int comparedColumns = 4;
+constexpr int MostGroups = 1000;
+constexpr int ComparedColumns = 4;
 
 bool Agree(const PlotTable::Row& point, const PlotTable::Row& other, int xVar, int nVar,
            double tolerance) {
@@ -31,7 +31,7 @@ int GT(const PlotTable::Row& a, const PlotTable::Row& b, int xVar, int nVar) {
         return a[at] < b[at] ? -1 : a[at] > b[at] ? 1 : 0;
     };
     int result = order(xVar);
-    for (int n = 1; result == 0 && n <= std::min(nVar, comparedColumns); ++n)
+    for (int n = 1; result == 0 && n <= std::min(nVar, ComparedColumns); ++n)
         result = order(n);
     return result;
 }
@@ -63,7 +63,7 @@ PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance) {
         };
         while (group >= 0 && !Agree(row, stands(group), xVar, table.nVar, tolerance))
             --group;
-        if (group < 0 && families.GroupRows.size() < mostGroups)
+        if (group < 0 && families.GroupRows.size() < MostGroups)
             families.GroupRows.push_back(point);
         families.GroupOf.push_back(group >= 0 ? group
                                               : static_cast<int>(families.GroupRows.size()) - 1);

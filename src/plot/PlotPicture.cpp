@@ -13,19 +13,19 @@ using Stroke = ui::Picture::Stroke;
 using Shape = ui::Picture::Shape;
 using Align = ui::Picture::Align;
 
-constexpr double farthest = 1.2; // points a little outside the frame are still drawn
-constexpr double tickLength = 6;
-constexpr double capWidth = 5;
-constexpr double lineHeight = 24;
-constexpr double headLine = 8;
-constexpr double textMiddle = 10;
-constexpr double legendLine = 28;
-constexpr double characterWidth = 10;
-constexpr double leastApart = 28; // of labels on the Y axis
-constexpr double leastAside = 70; // of labels on the X axis
-constexpr int manyPoints = 1000;  // beyond these markers lie over one another
-constexpr int colourCount = static_cast<int>(ui::PictureColours.size());
-constexpr int faint = -1;
+constexpr double Farthest = 1.2; // points a little outside the frame are still drawn
+constexpr double TickLength = 6;
+constexpr double CapWidth = 5;
+constexpr double LineHeight = 24;
+constexpr double HeadLine = 8;
+constexpr double TextMiddle = 10;
+constexpr double LegendLine = 28;
+constexpr double CharacterWidth = 10;
+constexpr double LeastApart = 28; // of labels on the Y axis
+constexpr double LeastAside = 70; // of labels on the X axis
+constexpr int ManyPoints = 1000;  // beyond these markers lie over one another
+constexpr int ColourCount = static_cast<int>(ui::PictureColours.size());
+constexpr int Faint = -1;
 
 std::size_t At(int point) {
     return static_cast<std::size_t>(point);
@@ -74,36 +74,36 @@ Stroke TickLabel(double x, double y, double value, Align align) {
 
 /// Neighbouring families differ in colour and in shape, so that either is enough.
 Stroke Marker(PlotPlace place, int group) {
-    Stroke stroke{Shape::Marker, place.x, place.y, 0, 0, 1 + group % colourCount, {}};
+    Stroke stroke{Shape::Marker, place.x, place.y, 0, 0, 1 + group % ColourCount, {}};
     stroke.marker = group % ui::Picture::MarkerCount;
     return stroke;
 }
 
 void DrawTicksX(std::vector<Stroke>& strokes, const Plot& plot) {
-    double last = -leastAside;
+    double last = -LeastAside;
     for (const double tick : plot.scale.TicksX()) {
         const auto position = plot.scale.PositionX(tick);
         if (!position) continue;
         const double x = Across(plot, *position);
-        strokes.push_back(Line(x, plot.top, x, plot.bottom, faint));
-        strokes.push_back(Line(x, plot.bottom, x, plot.bottom + tickLength));
+        strokes.push_back(Line(x, plot.top, x, plot.bottom, Faint));
+        strokes.push_back(Line(x, plot.bottom, x, plot.bottom + TickLength));
         const auto length = static_cast<double>(NumberText(tick).size());
-        if (x - last < std::max(leastAside, (length + 1) * characterWidth)) continue;
+        if (x - last < std::max(LeastAside, (length + 1) * CharacterWidth)) continue;
         strokes.push_back(TickLabel(x, plot.bottom + 10, tick, Align::Centre));
         last = x;
     }
 }
 
 void DrawTicksY(std::vector<Stroke>& strokes, const Plot& plot) {
-    double last = plot.bottom + leastApart;
+    double last = plot.bottom + LeastApart;
     for (const double tick : plot.scale.TicksY()) {
         const auto position = plot.scale.PositionY(tick);
         if (!position) continue;
         const double y = Down(plot, *position);
-        strokes.push_back(Line(plot.left, y, plot.right, y, faint));
-        strokes.push_back(Line(plot.left - tickLength, y, plot.left, y));
-        if (last - y < leastApart) continue;
-        strokes.push_back(TickLabel(plot.left - 10, y - lineHeight / 2, tick, Align::Right));
+        strokes.push_back(Line(plot.left, y, plot.right, y, Faint));
+        strokes.push_back(Line(plot.left - TickLength, y, plot.left, y));
+        if (last - y < LeastApart) continue;
+        strokes.push_back(TickLabel(plot.left - 10, y - LineHeight / 2, tick, Align::Right));
         last = y;
     }
 }
@@ -114,11 +114,11 @@ void DrawFrame(std::vector<Stroke>& strokes, const Plot& plot) {
     strokes.push_back(Label((plot.left + plot.right) / 2, plot.bottom + 45,
                             plot.scale.Log ? xName + ", scale of 1/X" : xName, Align::Centre));
     strokes.push_back(Label(
-        plot.left, headLine,
+        plot.left, HeadLine,
         plot.scale.Log ? plot.table.YName + ", scale of ln Y" : plot.table.YName, Align::Left));
     if (!HasRings(plot)) return;
-    const double y = plot.top - lineHeight - 6;
-    strokes.push_back({Shape::Ring, plot.left + 14, y + textMiddle, 0, 0, 0, {}});
+    const double y = plot.top - LineHeight - 6;
+    strokes.push_back({Shape::Ring, plot.left + 14, y + TextMiddle, 0, 0, 0, {}});
     strokes.push_back(Label(plot.left + 36, y, "far from its neighbours: look again", Align::Left));
 }
 
@@ -128,7 +128,7 @@ void DrawBar(std::vector<Stroke>& strokes, const Plot& plot, int point, double x
     const double uncertainty = plot.table.PointUnc[At(point)];
     if (uncertainty == 0) return;
     const double y = RowOf(plot, point)[0];
-    const int colour = 1 + plot.families.GroupOf[At(point)] % colourCount;
+    const int colour = 1 + plot.families.GroupOf[At(point)] % ColourCount;
     const double low = plot.scale.PositionY(y - std::abs(uncertainty)).value_or(-1);
     const double high = plot.scale.PositionY(y + std::abs(uncertainty)).value_or(-1);
     if (high < 0 || low > 1) return;
@@ -137,7 +137,7 @@ void DrawBar(std::vector<Stroke>& strokes, const Plot& plot, int point, double x
     for (const double end : {low, high}) {
         if (end < 0 || end > 1) continue;
         const double at = Down(plot, end);
-        strokes.push_back(Line(x - capWidth, at, x + capWidth, at, colour));
+        strokes.push_back(Line(x - CapWidth, at, x + CapWidth, at, colour));
     }
 }
 
@@ -153,11 +153,11 @@ void DrawPoints(std::vector<Stroke>& strokes, const Plot& plot) {
         const auto place = PlaceOf(plot, point);
         if (!place) continue;
         Stroke marker = Marker(*place, plot.families.GroupOf[At(point)]);
-        marker.dense = plot.table.PointCount() > manyPoints;
+        marker.dense = plot.table.PointCount() > ManyPoints;
         if (plot.showUnc && place->x >= plot.left && place->x <= plot.right)
             DrawBar(strokes, plot, point, place->x);
         if (!IsInside(plot, *place)) {
-            marker.colour = faint;
+            marker.colour = Faint;
             strokes.push_back(marker);
             continue;
         }
@@ -185,7 +185,7 @@ std::string OthersText(const Plot& plot, const PlotTable::Row* row) {
 
 /// So many families stand in the legend.
 std::size_t LegendLines(const Plot& plot) {
-    const auto room = static_cast<std::size_t>((plot.bottom - plot.top) / legendLine) - 1;
+    const auto room = static_cast<std::size_t>((plot.bottom - plot.top) / LegendLine) - 1;
     return std::min(plot.families.GroupRows.size(), room);
 }
 
@@ -202,10 +202,10 @@ std::string MoreText(const Plot& plot) {
 void DrawLegend(std::vector<Stroke>& strokes, const Plot& plot) {
     const double left = plot.right + 24;
     double y = plot.top;
-    strokes.push_back(Label(Plot::Width - 10, plot.top - lineHeight - 6, OthersText(plot, nullptr),
+    strokes.push_back(Label(Plot::Width - 10, plot.top - LineHeight - 6, OthersText(plot, nullptr),
                             Align::Right));
-    for (std::size_t group = 0; group < LegendLines(plot); ++group, y += legendLine) {
-        strokes.push_back(Marker({left, y + textMiddle}, static_cast<int>(group)));
+    for (std::size_t group = 0; group < LegendLines(plot); ++group, y += LegendLine) {
+        strokes.push_back(Marker({left, y + TextMiddle}, static_cast<int>(group)));
         strokes.push_back(Label(left + 16, y, LegendText(plot, group), Align::Left));
     }
     const std::string more = MoreText(plot);
@@ -216,7 +216,7 @@ double LongestLabel(const std::vector<double>& ticks) {
     std::size_t longest = 0;
     for (const double tick : ticks)
         longest = std::max(longest, NumberText(tick).size());
-    return characterWidth * static_cast<double>(longest);
+    return CharacterWidth * static_cast<double>(longest);
 }
 
 double LegendWidth(const Plot& plot) {
@@ -224,10 +224,10 @@ double LegendWidth(const Plot& plot) {
     std::size_t longest = MoreText(plot).size();
     for (std::size_t group = 0; group < LegendLines(plot); ++group)
         longest = std::max(longest, LegendText(plot, group).size());
-    return 45 + characterWidth * static_cast<double>(longest);
+    return 45 + CharacterWidth * static_cast<double>(longest);
 }
 
-constexpr double noteLine = lineHeight + 3;
+constexpr double NoteLine = LineHeight + 3;
 
 /// Where the two lines beside a point stand.
 struct Note {
@@ -238,13 +238,13 @@ struct Note {
 
 Note NoteBeside(PlotPlace place, double width, bool isLeft, bool isAbove) {
     const double left = place.x + (isLeft ? -24 - width : 24);
-    const double top = place.y + (isAbove ? -2 * lineHeight - 18 : 18);
-    return {isLeft, left, left + width, top, top + 2 * noteLine, 0};
+    const double top = place.y + (isAbove ? -2 * LineHeight - 18 : 18);
+    return {isLeft, left, left + width, top, top + 2 * NoteLine, 0};
 }
 
 /// The side towards the middle of the plot, unless another that fits hides fewer points.
 Note FreestNote(const Plot& plot, PlotPlace place, std::size_t characters) {
-    const double width = characterWidth * static_cast<double>(characters);
+    const double width = CharacterWidth * static_cast<double>(characters);
     const bool isLeft = place.x > (plot.left + plot.right) / 2;
     const bool isAbove = place.y > (plot.top + plot.bottom) / 2;
     std::vector<Note> notes{NoteBeside(place, width, isLeft, isAbove)};
@@ -294,7 +294,7 @@ std::optional<PlotPlace> PlaceOf(const Plot& plot, int point) {
     const auto x = plot.scale.PositionX(XOf(plot, point));
     const auto y = plot.scale.PositionY(RowOf(plot, point)[0]);
     const auto seen = [](double position) {
-        return position > 1 - farthest && position < farthest;
+        return position > 1 - Farthest && position < Farthest;
     };
     if (!x || !y || !seen(*x) || !seen(*y)) return std::nullopt;
     return PlotPlace{Across(plot, *x), Down(plot, *y)};
@@ -344,7 +344,7 @@ std::vector<Stroke> PointMark(const Plot& plot, int point) {
         strokes.push_back(Label(note.isLeft ? note.right : note.left, y, text,
                                 note.isLeft ? Align::Right : Align::Left));
         strokes.back().boxed = true;
-        y += noteLine;
+        y += NoteLine;
     }
     return strokes;
 }

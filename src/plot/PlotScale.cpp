@@ -8,9 +8,9 @@ namespace vexora {
 
 namespace {
 
-constexpr double padding = 0.02;
-constexpr double leastOfLog = 0.0001; // of the largest Y, where the smallest has no logarithm
-constexpr double sameLimits = 1e-9;
+constexpr double Padding = 0.02;
+constexpr double LeastOfLog = 0.0001; // of the largest Y, where the smallest has no logarithm
+constexpr double SameLimits = 1e-9;
 
 std::optional<double> Position(double value, double from, double to) {
     if (from == to) return 0.5;
@@ -37,8 +37,8 @@ void PlotScale::Ranges(const PlotTable& table, int xVar) {
         PadLog();
         return;
     }
-    const double roomX = (XMax - XMin) * padding;
-    const double roomY = (YMax - YMin) * padding;
+    const double roomX = (XMax - XMin) * Padding;
+    const double roomY = (YMax - YMin) * Padding;
     XMin -= roomX;
     XMax += roomX;
     YMin -= roomY;
@@ -50,14 +50,14 @@ void PlotScale::PadLog() {
     if (Empty) return;
     const double a = 1 / (XMin + Shift);
     const double b = 1 / (XMax + Shift);
-    const double room = (a - b) * padding;
+    const double room = (a - b) * Padding;
     if (room > 0) XMin = 1 / (a + room) - Shift;
     if (room > 0 && b > room) XMax = 1 / (b - room) - Shift;
     if (YMin <= 0) {
-        YMin = YMax * leastOfLog;
+        YMin = YMax * LeastOfLog;
         return;
     }
-    const double factor = std::exp(padding * std::log(YMax / YMin));
+    const double factor = std::exp(Padding * std::log(YMax / YMin));
     YMin /= factor;
     YMax *= factor;
 }
@@ -124,7 +124,7 @@ bool PlotScale::HasTicks() const {
 std::vector<double> Ticks(double min, double max) {
     const double range = std::abs(max - min);
     const double mean = (std::abs(min) + std::abs(max)) / 2;
-    if (range == 0 || !std::isfinite(range) || range / mean < sameLimits) return {};
+    if (range == 0 || !std::isfinite(range) || range / mean < SameLimits) return {};
     double step = std::pow(10.0, std::floor(std::log10(range)));
     if (range / step < 2)
         step /= 5;
@@ -133,7 +133,7 @@ std::vector<double> Ticks(double min, double max) {
     // Counted, not summed up: a sum of steps drifts off the round values.
     double count = std::trunc(min / step);
     if (count * step < min) ++count;
-    const double slack = step * sameLimits;
+    const double slack = step * SameLimits;
     std::vector<double> ticks;
     for (; count * step <= max + slack; ++count)
         ticks.push_back(count * step);

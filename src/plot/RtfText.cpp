@@ -98,9 +98,9 @@ private:
     }
 
     void Act(const std::string& word, int number) {
-        static constexpr std::array kNoText = {"fonttbl", "colortbl", "stylesheet",
-                                               "info",    "pict",     "header",
-                                               "footer",  "object",   "listtable"};
+        static constexpr std::array noText = {"fonttbl", "colortbl", "stylesheet",
+                                              "info",    "pict",     "header",
+                                              "footer",  "object",   "listtable"};
         if (word == "par" || word == "line" || word == "row") return Put("\n");
         if (word == "tab" || word == "cell") return Put("\t");
         if (word == "emdash" || word == "endash") return Put("-");
@@ -108,7 +108,7 @@ private:
         if (word == "ldblquote" || word == "rdblquote") return Put("\"");
         if (word == "uc") groups_.back().fallbacks = number;
         if (word == "u") return Unicode(number);
-        if (std::find(kNoText.begin(), kNoText.end(), word) != kNoText.end())
+        if (std::find(noText.begin(), noText.end(), word) != noText.end())
             groups_.back().skipped = true;
     }
 

@@ -12,8 +12,8 @@ namespace vexora {
 
 namespace {
 
-constexpr double leastDrag = 10; // a smaller rectangle is a click
-constexpr int helpAbout = 350;
+constexpr double LeastDrag = 10; // a smaller rectangle is a click
+constexpr int HelpAbout = 350;
 
 } // namespace
 
@@ -24,7 +24,7 @@ frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     PreferredRows = 46;
     DefaultButton = &cmdOK;
     CancelButton = &cmdOK;
-    HelpContext = helpAbout;
+    HelpContext = HelpAbout;
     WireEvents();
     WireMenus();
 }
@@ -104,7 +104,7 @@ void frmGraph::picPIC_Release(PlotPlace place) {
     HideRectangle();
     const double wide = std::abs(place.x - start.x);
     const double high = std::abs(place.y - start.y);
-    if (wide > leastDrag && high > leastDrag) {
+    if (wide > LeastDrag && high > LeastDrag) {
         const PlotPlace from = PositionsAt(ThePlot(), start);
         const PlotPlace to = PositionsAt(ThePlot(), place);
         scale_.Zoom(from.x, from.y, to.x, to.y);

@@ -4,10 +4,10 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* hint = "Drag a rectangle to enlarge it, click to see all points";
-constexpr const char* hintOfKeys = "The arrow keys step through the points";
-constexpr const char* noPoints = "There are no points to draw";
-constexpr const char* noLogarithm =
+constexpr const char* DragHint = "Drag a rectangle to enlarge it, click to see all points";
+constexpr const char* KeysHint = "The arrow keys step through the points";
+constexpr const char* NoPoints = "There are no points to draw";
+constexpr const char* NoLogarithm =
     "Nothing to draw: 1/X and ln Y need an absolute temperature and "
     "a value above 0";
 
@@ -20,9 +20,11 @@ void frmGraph::PointTo(std::optional<int> point) {
     std::vector<ui::Picture::Stroke> mark;
     if (point) mark = PointMark(plot, *point);
     const bool isSeen = !mark.empty();
-    const char* untold = table_->PointTable.empty() ? noPoints : scale_.Empty ? noLogarithm : hint;
+    const char* untold = table_->PointTable.empty() ? NoPoints
+                         : scale_.Empty             ? NoLogarithm
+                                                    : DragHint;
     lblPoint.Caption(isSeen ? PointText(plot, *point) : untold);
-    lblRow.Caption(isSeen ? RowText(plot, *point) + ", Enter goes there" : hintOfKeys);
+    lblRow.Caption(isSeen ? RowText(plot, *point) + ", Enter goes there" : KeysHint);
     picPIC.Overlay(std::move(mark));
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using Fault = std::optional<TwoFault>;
 
-constexpr const char* noUnit = "Select Independent Variable Units";
+constexpr const char* NoUnit = "Select Independent Variable Units";
 
 bool HasBoth(const TwoDraft& draft, std::string_view upper, std::string_view lower) {
     return HasVariable(draft, upper) && HasVariable(draft, lower);
@@ -31,7 +31,7 @@ Fault FirstVariable(const TwoDraft& draft) {
 
 Fault FirstUnit(const TwoDraft& draft) {
     if (!draft.unit1.empty()) return {};
-    return TwoFault{TwoField::Unit1, noUnit};
+    return TwoFault{TwoField::Unit1, NoUnit};
 }
 
 Fault SecondVariable(const TwoDraft& draft) {
@@ -41,7 +41,7 @@ Fault SecondVariable(const TwoDraft& draft) {
 
 Fault SecondUnit(const TwoDraft& draft) {
     if (draft.nVar == 1 || !draft.unit2.empty()) return {};
-    return TwoFault{TwoField::Unit2, noUnit};
+    return TwoFault{TwoField::Unit2, NoUnit};
 }
 
 Fault Spectral(const TwoDraft& draft) {
@@ -159,7 +159,7 @@ Fault Numbers(const TwoDraft& draft) {
     return TwoFault{TwoField::Numerical, "Select availability of numeric data"};
 }
 
-constexpr std::array checks = {
+constexpr std::array Checks = {
     &Sample,         &FirstVariable, &FirstUnit,     &SecondVariable, &SecondUnit,
     &Spectral,       &Constant,      &Definition,    &Energy,         &Relation,
     &ReferencePhase, &Limits,        &BetweenLimits, &ReferenceState, &Constraint,
@@ -170,7 +170,7 @@ constexpr std::array checks = {
 
 std::vector<TwoFault> CheckTwo(const TwoDraft& draft) {
     std::vector<TwoFault> faults;
-    for (const auto check : checks) {
+    for (const auto check : Checks) {
         if (auto fault = check(draft)) faults.push_back(std::move(*fault));
     }
     return faults;

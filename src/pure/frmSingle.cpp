@@ -16,7 +16,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpSingle = 325;
+constexpr int HelpSingle = 325;
 
 } // namespace
 
@@ -25,7 +25,7 @@ frmSingle::frmSingle() : Form("frmSingle", "Single value") {
     WireEvents();
     DefaultButton = &cmdAccept;
     CancelButton = &cmdFinish;
-    HelpContext = helpSingle;
+    HelpContext = HelpSingle;
     txtPrpSetNo.Locked(true);
 }
 

@@ -14,7 +14,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpTwo = 335;
+constexpr int HelpTwo = 335;
 
 } // namespace
 
@@ -23,7 +23,7 @@ frmTwo::frmTwo() : Form("frmTwo", "Property as function of state variables") {
     WireEvents();
     DefaultButton = &cmdOK;
     CancelButton = &cmdFinish;
-    HelpContext = helpTwo;
+    HelpContext = HelpTwo;
     txtPrpSetNo.Locked(true);
 }
 

@@ -24,7 +24,7 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* table = "frmData2";
+constexpr const char* TableForm = "frmData2";
 
 /// A set with rows of its own, so that a table that is given up has changed nothing.
 std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
@@ -287,7 +287,7 @@ bool frmTwo::DropNumbers(clsTwo& set) {
 /// The table works on the set as the current one; true when it was accepted.
 bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
     KVOGlobal& globals = Globals();
-    if (!ui::Forms::Current().Knows(table)) return Refuse(cmdOK, "There is no table dialog");
+    if (!ui::Forms::Current().Knows(TableForm)) return Refuse(cmdOK, "There is no table dialog");
     const ContextScope scope;
     globals.CurrentTwo = set;
     globals.DialogAccepted = false;
@@ -295,7 +295,7 @@ bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
     globals.IncludeDigits =
         chkIncludeDigit.Value() || (TurnsRows() && std::ranges::any_of(set->recData, isDigit));
     globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one
-    ui::Forms::Current().Get(table).ShowModal();
+    ui::Forms::Current().Get(TableForm).ShowModal();
     return std::exchange(globals.DialogAccepted, false);
 }
 

@@ -22,7 +22,7 @@ namespace vexora {
 namespace {
 
 // First entries of the lists in which nothing is chosen at first.
-constexpr const char* selectVariable = "SELECT VARIABLE";
+constexpr const char* SelectVariable = "SELECT VARIABLE";
 
 } // namespace
 
@@ -69,7 +69,7 @@ void frmTwo::ShowCaption() {
 }
 
 void frmTwo::OfferVariables(ui::ComboBox& list) const {
-    std::vector<std::string> names = {selectVariable};
+    std::vector<std::string> names = {SelectVariable};
     for (const VariableRow& row : variables_)
         names.push_back(row.IndVariable);
     list.Assign(std::move(names));

@@ -21,14 +21,14 @@ struct FlagSetting {
 };
 
 // In the order of the file.
-constexpr ValueSetting kValues[] = {
+constexpr ValueSetting ValueSettings[] = {
     {"COMPILER", &KVOGlobal::CompilerCode},  {"CONTRIBUTOR", &KVOGlobal::ContributorCode},
     {"XMLCOMPILER", &KVOGlobal::UserName},   {"ORGANIZATION", &KVOGlobal::Organization},
     {"VXRLocalDB", &KVOGlobal::LocalDbPath}, {"VXRCompoundDB", &KVOGlobal::CompoundDbPath},
     {"OutDir", &KVOGlobal::OutDir},
 };
 
-constexpr FlagSetting kFlags[] = {
+constexpr FlagSetting FlagSettings[] = {
     {"Advanced", &KVOGlobal::AdvancedMode},
     {"Bio", &KVOGlobal::BioEnabled},
     {"GH", &KVOGlobal::GHEnabled},
@@ -36,10 +36,10 @@ constexpr FlagSetting kFlags[] = {
 
 void TakeLine(std::string line) {
     const std::string key = FirstWord(line);
-    for (const auto& setting : kValues) {
+    for (const auto& setting : ValueSettings) {
         if (key == setting.key) Globals().*setting.value = std::string(Trim(line));
     }
-    for (const auto& setting : kFlags) {
+    for (const auto& setting : FlagSettings) {
         if (key == setting.key) Globals().*setting.value = true;
     }
 }
@@ -60,9 +60,9 @@ std::string DefaultCompoundDbPath() {
 
 void SetConfigurationDefaults() {
     KVOGlobal& globals = Globals();
-    for (const auto& setting : kValues)
+    for (const auto& setting : ValueSettings)
         (globals.*setting.value).clear();
-    for (const auto& setting : kFlags)
+    for (const auto& setting : FlagSettings)
         globals.*setting.value = false;
     globals.LocalDbPath = DefaultLocalDbPath();
     globals.CompoundDbPath = DefaultCompoundDbPath();
@@ -82,11 +82,11 @@ void TakeConfiguration(std::string_view text) {
 
 std::string ConfigurationText() {
     std::string text;
-    for (const auto& setting : kValues) {
+    for (const auto& setting : ValueSettings) {
         text.append(setting.key).append(" ");
         text += SingleLine(Globals().*setting.value) + "\n";
     }
-    for (const auto& setting : kFlags) {
+    for (const auto& setting : FlagSettings) {
         if (Globals().*setting.value) text.append(setting.key).append("\n");
     }
     return text;

@@ -12,7 +12,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int kHelpOfBio = 145;
+constexpr int HelpOfBio = 145;
 
 bool AskExitWithoutDatabases() {
     return ui::AskYesNo("Invalid file or directory\n"
@@ -150,7 +150,7 @@ void frmConfigure::cmdAccept_Click() {
     if (!CheckDatabases() || !CheckOutputFolder() || !OpenBothDatabases() || !CheckUser()) return;
     Store();
     WriteConfiguration();
-    if (Globals().BioEnabled) ui::TheDesktop().ShowHelp(kHelpOfBio);
+    if (Globals().BioEnabled) ui::TheDesktop().ShowHelp(HelpOfBio);
     accepted_ = true;
     Close();
 }

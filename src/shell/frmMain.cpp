@@ -12,11 +12,11 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* kCaption = "Vexora - Thermophysical and Thermochemical Data";
+constexpr const char* MainCaption = "Vexora - Thermophysical and Thermochemical Data";
 
 } // namespace
 
-frmMain::frmMain() : Form("frmMain", kCaption) {
+frmMain::frmMain() : Form("frmMain", MainCaption) {
     Arrangement = ui::Column({Toolbar1, ui::Split(tvwTree, rtfReading), lblStatus});
     PreferredColumns = 190;
     PreferredRows = 46;
@@ -144,7 +144,7 @@ void frmMain::ShowOptionalButtons() {
 
 void frmMain::RefreshTexts() {
     const KVOGlobal& globals = Globals();
-    Caption(globals.ReadOnly ? std::string(kCaption) + " (read only)" : kCaption);
+    Caption(globals.ReadOnly ? std::string(MainCaption) + " (read only)" : MainCaption);
     const ui::TreeNode* node = tvwTree.SelectedNode();
     rtfReading.Html(ReadingHtml(node == nullptr ? nullptr : node->Tag.lock().get()));
     lblStatus.Caption(StatusText(FileTitle, NextSteps()));

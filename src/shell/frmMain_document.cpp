@@ -19,8 +19,8 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* kRecordFiles = "Record files (*.txt)";
-constexpr const char* kXmlFiles = "ThermoML files (*.xml)";
+constexpr const char* RecordFiles = "Record files (*.txt)";
+constexpr const char* XmlFiles = "ThermoML files (*.xml)";
 
 const clsR& Source() {
     return *Globals().recR.Item(std::size_t{1});
@@ -83,7 +83,7 @@ std::string frmMain::StartFolder() const {
 void frmMain::OpenDocument() {
     const std::string present = FileName;
     if (!NewProc()) return;
-    const auto path = ui::TheDesktop().Choose({false, StartFolder(), present, kRecordFiles});
+    const auto path = ui::TheDesktop().Choose({false, StartFolder(), present, RecordFiles});
     if (path && !path->empty()) OpenFile(*path, false);
     Activate();
 }
@@ -198,8 +198,8 @@ std::string frmMain::ChooseTarget(const std::string& proposed, const std::string
 /// The document keeps its present name when it cannot be written under the new one.
 void frmMain::SaveAs() {
     if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
-    const std::string target = ChooseTarget(
-        FileTitle.empty() ? Source().ProposedName() + ".txt" : FileTitle, kRecordFiles);
+    const std::string target =
+        ChooseTarget(FileTitle.empty() ? Source().ProposedName() + ".txt" : FileTitle, RecordFiles);
     if (target.empty()) return;
     const std::string presentName = FileName;
     const std::string presentTitle = FileTitle;
@@ -225,7 +225,7 @@ bool frmMain::MayExport() {
 void frmMain::ExportDocument() {
     if (!MayExport()) return;
     DisableShell();
-    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", kXmlFiles);
+    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles);
     if (!target.empty()) WriteExport(target);
     Enable();
 }

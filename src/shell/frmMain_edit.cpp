@@ -21,7 +21,7 @@ struct EditRule {
     bool KVOGlobal::*flag;
 };
 
-constexpr EditRule kEditRules[] = {
+constexpr EditRule EditRules[] = {
     {"R", "frmDocument", &KVOGlobal::EditSource},
     {"RL", "frmSubst", &KVOGlobal::EditCompound},
     {"RLS", "frmSample", &KVOGlobal::EditSample},
@@ -51,9 +51,9 @@ private:
 };
 
 const EditRule* RuleOf(std::string_view nodeKey) {
-    const auto* rule = std::find_if(std::begin(kEditRules), std::end(kEditRules),
+    const auto* rule = std::find_if(std::begin(EditRules), std::end(EditRules),
                                     [nodeKey](const auto& r) { return r.nodeKey == nodeKey; });
-    return rule == std::end(kEditRules) ? nullptr : rule;
+    return rule == std::end(EditRules) ? nullptr : rule;
 }
 
 /// A source that stands in the reference database is not edited here.

@@ -14,9 +14,9 @@ struct DocumentType {
     std::string_view detailForm;
 };
 
-inline constexpr std::string_view kPersonalCommunication = "Personal communication";
+inline constexpr std::string_view PersonalCommunication = "Personal communication";
 
-inline constexpr std::array<DocumentType, 11> kDocumentTypes{{
+inline constexpr std::array<DocumentType, 11> DocumentTypes{{
     {"Book or portion of a book", "B", "frmMakeBook"},
     {"Journal article", "J", "frmMakeJournal"},
     {"Report", "R", "frmMakeReport"},
@@ -24,7 +24,7 @@ inline constexpr std::array<DocumentType, 11> kDocumentTypes{{
     {"Thesis/Dissertation", "T", "frmMakeThesis"},
     {"Conference proceedings", "M", "frmMakeConf"},
     {"Deposited document", "D", "frmMakeDeposited"},
-    {kPersonalCommunication, "C", ""},
+    {PersonalCommunication, "C", ""},
     {"Unpublished", "C", ""},
     {"To be published", "C", ""},
     {"Submitted manuscript", "S", "frmMakeJournal"},

@@ -10,12 +10,12 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view kMarks = "@$";
+constexpr std::string_view Marks = "@$";
 
 } // namespace
 
 MakeForm::Part::Part(ui::Form& form, std::string name)
-    : PlainTextBox(form, std::move(name), Lines::One, kMarks) {}
+    : PlainTextBox(form, std::move(name), Lines::One, Marks) {}
 
 MakeForm::MakeForm(std::string name, std::string caption)
     : Form(std::move(name), std::move(caption)) {

@@ -13,8 +13,8 @@ namespace vexora {
 
 namespace {
 
-constexpr int kNameWidth = 6;
-constexpr int kInitialsWidth = 3;
+constexpr int NameWidth = 6;
+constexpr int InitialsWidth = 3;
 
 std::string Padded(std::string text, int width) {
     text.resize(std::max(text.size(), static_cast<std::size_t>(width)), ' ');
@@ -29,7 +29,7 @@ char SequenceMark(const clsAuthor& author) {
         {std::string(TrimBlanks(author.LASTNM))});
     char mark = ' ';
     for (; !rows.IsEnd(); rows.MoveNext()) {
-        const std::string initials = Padded(rows.Text("INITNM"), kInitialsWidth);
+        const std::string initials = Padded(rows.Text("INITNM"), InitialsWidth);
         if (!EqualNoCase(initials.substr(0, 2), author.INITNM.substr(0, 2))) continue;
         const char next = initials[2] == '9' ? 'A' : static_cast<char>(initials[2] + 1);
         mark = std::max({mark, '1', std::min(next, 'Z')});
@@ -106,8 +106,8 @@ void frmAuthor::FindKnown() {
         "select * from SOURCE_AUTHOR where FULLNM like ? and INITNM like ? order by FULLNM",
         {typed.LastName + "*", initials + "*"});
     for (; !rows.IsEnd(); rows.MoveNext())
-        known_.push_back({Padded(rows.Text("LASTNM"), kNameWidth),
-                          Padded(rows.Text("INITNM"), kInitialsWidth), rows.Text("FULLNM"),
+        known_.push_back({Padded(rows.Text("LASTNM"), NameWidth),
+                          Padded(rows.Text("INITNM"), InitialsWidth), rows.Text("FULLNM"),
                           rows.Integer("NEW") != 0});
 }
 
@@ -139,7 +139,7 @@ std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
     author->LastName = txtLast.Entered();
     author->FirstName = txtFirst.Entered();
     author->CreateAbbr();
-    author->INITNM = Padded(author->INITNM.substr(0, 2), kInitialsWidth);
+    author->INITNM = Padded(author->INITNM.substr(0, 2), InitialsWidth);
     author->isNew = true;
     try {
         author->INITNM.back() = SequenceMark(*author);

@@ -14,12 +14,12 @@ namespace vexora {
 
 namespace {
 
-const std::string kSourcePrompt = "CLICK HERE TO ENTER SOURCE DETAILS";
-const std::string kAuthorsPrompt = "CLICK HERE TO ENTER THE AUTHORS";
+const std::string SourcePrompt = "CLICK HERE TO ENTER SOURCE DETAILS";
+const std::string AuthorsPrompt = "CLICK HERE TO ENTER THE AUTHORS";
 
 const DocumentType* TypeAt(int entry) {
     const auto index = static_cast<std::size_t>(entry - 1);
-    return entry >= 1 && index < kDocumentTypes.size() ? &kDocumentTypes[index] : nullptr;
+    return entry >= 1 && index < DocumentTypes.size() ? &DocumentTypes[index] : nullptr;
 }
 
 /// A field that is filled by a dialog answers to the space bar as it does to a click.
@@ -60,8 +60,8 @@ void frmDocument::Load() {
     const ui::FillingScope filling(*this);
     Globals().DialogAccepted = false;
     FillLists();
-    txtSource.Text(kSourcePrompt);
-    txtAuthors.Text(kAuthorsPrompt);
+    txtSource.Text(SourcePrompt);
+    txtAuthors.Text(AuthorsPrompt);
     if (Globals().EditSource && Globals().CurrentR) Fill(*Globals().CurrentR);
 }
 
@@ -71,7 +71,7 @@ void frmDocument::Unload() {
 
 void frmDocument::FillLists() {
     cboTypeDoc.Add("SELECT TYPE OF DOCUMENT HERE");
-    for (const DocumentType& type : kDocumentTypes)
+    for (const DocumentType& type : DocumentTypes)
         cboTypeDoc.Add(std::string(type.text));
     cboTypeDoc.Index(0);
     lstSourceDoc.Add("SELECT THE SOURCE OF INFORMATION HERE");
@@ -96,20 +96,20 @@ void frmDocument::Fill(const clsR& source) {
 }
 
 void frmDocument::FillType(const clsR& source) {
-    for (const DocumentType& type : kDocumentTypes) {
+    for (const DocumentType& type : DocumentTypes) {
         if (type.code != source.TYPDOC) continue;
         if (type.code == "C" && type.text != source.SSOURCE) continue;
         cboTypeDoc.Choose(type.text);
     }
-    if (source.TYPDOC == "C" && cboTypeDoc.Index() == 0) cboTypeDoc.Choose(kPersonalCommunication);
+    if (source.TYPDOC == "C" && cboTypeDoc.Index() == 0) cboTypeDoc.Choose(PersonalCommunication);
     type_ = cboTypeDoc.Index();
 }
 
 void frmDocument::cboTypeDoc_Click() {
     if (Filling || cboTypeDoc.Index() == type_) return;
     type_ = cboTypeDoc.Index();
-    const bool personal = cboTypeDoc.Chosen() == kPersonalCommunication;
-    txtSource.Text(personal ? std::string(kPersonalCommunication) : kSourcePrompt);
+    const bool personal = cboTypeDoc.Chosen() == PersonalCommunication;
+    txtSource.Text(personal ? std::string(PersonalCommunication) : SourcePrompt);
 }
 
 void frmDocument::txtSource_Click() {
@@ -132,11 +132,11 @@ void frmDocument::txtAuthors_Click() {
 }
 
 std::string frmDocument::Source() const {
-    return txtSource.Text() == kSourcePrompt ? std::string() : txtSource.Text();
+    return txtSource.Text() == SourcePrompt ? std::string() : txtSource.Text();
 }
 
 void frmDocument::Source(const std::string& text) {
-    txtSource.Text(text.empty() ? kSourcePrompt : text);
+    txtSource.Text(text.empty() ? SourcePrompt : text);
 }
 
 bool frmDocument::IsManuscript() const {
@@ -153,7 +153,7 @@ void frmDocument::ShowAuthors() {
     std::string names;
     for (const auto& author : authors_)
         names += (names.empty() ? "" : "; ") + std::string(TrimBlanks(author->FULLNM));
-    txtAuthors.Text(names.empty() ? kAuthorsPrompt : names);
+    txtAuthors.Text(names.empty() ? AuthorsPrompt : names);
 }
 
 } // namespace vexora

@@ -122,7 +122,7 @@ void frmDocument::Store(clsR& source) {
     source.YEARPUB = std::string(TrimBlanks(txtYear.Text()));
     source.AUTHOR1 = code1_;
     source.AUTHOR2 = code2_;
-    source.TYPDOC = kDocumentTypes[static_cast<std::size_t>(cboTypeDoc.Index() - 1)].code;
+    source.TYPDOC = DocumentTypes[static_cast<std::size_t>(cboTypeDoc.Index() - 1)].code;
     source.SOURCEDOC = ChosenSourceKind(source.SOURCEDOC);
     source.SSOURCE = Plain(Source());
     source.TTITLE = Plain(txtTitle.Entered());

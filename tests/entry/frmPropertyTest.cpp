@@ -47,7 +47,7 @@ protected:
         ASSERT_TRUE(row) << name;
         EXPECT_GE(form.lstConv.Count(), row->Unit == "1" ? 2 : 3) << name;
         EXPECT_EQ(form.lstConv.Item(0), row->Unit == "1" ? "Dimensionless" : row->Unit) << name;
-        EXPECT_EQ(form.lstConv.Item(form.lstConv.Count() - 1), allOtherUnits);
+        EXPECT_EQ(form.lstConv.Item(form.lstConv.Count() - 1), AllOtherUnits);
         for (int i = 0; i + 1 < form.lstConv.Count(); ++i) { // a code reads back as its unit
             const std::string& unit = form.lstConv.Item(i);
             EXPECT_EQ(UnitText(row->Unit, UnitCode(*row, unit), 0), unit) << name;
@@ -166,18 +166,18 @@ TEST_F(frmPropertyTest, OwnFactorBecomesAUnitOfTheList) {
     for (const char* wrong : {"0", "-1", "ten", "Enter the Conversion Factor here"}) {
         desktop.ExpectInput(prompt, wrong);
         desktop.Expect("Invalid conversion factor");
-        Pick(form.lstConv, allOtherUnits);
+        Pick(form.lstConv, AllOtherUnits);
         EXPECT_EQ(form.lstConv.Chosen(), "MPa");
     }
     for (const auto& given : {std::optional<std::string>(), std::optional<std::string>(" ")}) {
         desktop.ExpectInput(prompt, given);
-        Pick(form.lstConv, allOtherUnits);
+        Pick(form.lstConv, AllOtherUnits);
         EXPECT_EQ(form.lstConv.Chosen(), "MPa");
     }
     const int before = form.lstConv.Count();
     for (const char* factor : {"3", "2,50"}) {
         desktop.ExpectInput(prompt, factor);
-        Pick(form.lstConv, allOtherUnits);
+        Pick(form.lstConv, AllOtherUnits);
     }
     EXPECT_EQ(form.lstConv.Chosen(), "2.5* kPa");
     EXPECT_EQ(form.lstConv.Count(), before + 1);

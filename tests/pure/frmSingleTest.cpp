@@ -188,7 +188,7 @@ TEST_F(frmSingleTest, UnitsKeepTheTypedTextAndAreTestedInTheSystemUnit) {
     boiling.cmdAccept.UserClick();
     boiling.Close();
     desktop.ExpectInput("Property value in the original units", "2.5");
-    auto& own = Choose({"Critical pressure", allOtherUnits});
+    auto& own = Choose({"Critical pressure", AllOtherUnits});
     EXPECT_EQ(own.lblUnit.Caption(), "2.5* kPa");
     own.txtValue.UserReplaceAll("3000.0");
     own.cmdAccept.UserClick();
