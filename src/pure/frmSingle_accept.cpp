@@ -65,7 +65,6 @@ bool frmSingle::CheckVariable() {
     return ok;
 }
 
-
 void frmSingle::Store() {
     KVOGlobal& globals = Globals();
     const auto record = editing_ ? globals.CurrentZ : std::make_shared<clsZ>();
