@@ -11,7 +11,7 @@
 #include "export/ExportDocument.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
-#include "records/SafeFile.h"
+#include "reference/SafeFile.h"
 
 namespace vexora {
 

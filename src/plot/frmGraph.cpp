@@ -4,7 +4,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "plot/PictureSvg.h"
-#include "records/SafeFile.h"
+#include "reference/SafeFile.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 

@@ -1,7 +1,7 @@
 #include "shell/Configuration.h"
 
 #include "globals/KVOGlobal.h"
-#include "records/SafeFile.h"
+#include "reference/SafeFile.h"
 #include "reference/Text.h"
 #include "shell/Paths.h"
 #include "ui/Desktop.h"

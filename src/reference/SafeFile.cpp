@@ -1,4 +1,4 @@
-#include "records/SafeFile.h"
+#include "reference/SafeFile.h"
 
 #include <memory>
 
