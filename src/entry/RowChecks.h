@@ -4,20 +4,12 @@
 #include <vector>
 
 #include "entry/TableColumns.h"
+#include "grid/Finding.h"
 #include "ui/Grid.h"
 
 namespace vexora {
 
 class clsProperty;
-
-/// What is wrong, or only doubtful, in one cell of a table. Marks in the table, the list below it
-/// and the boxes of Accept all show the same findings.
-struct Finding {
-    int row = 0, column = 0; // as the grid counts them
-    std::string text;        // as a box shows it
-    bool isFault = true;     // else a question
-    bool operator==(const Finding&) const = default;
-};
 
 /// A cell without the blanks and commas of pasting, a "%" at its end kept.
 std::string CleanCell(const TableColumn& column, const std::string& cell);

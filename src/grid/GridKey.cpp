@@ -64,6 +64,14 @@ void EmptySelection(TableUndo& table) {
     ChangeSelection(table, [](int, int) { return std::string(); });
 }
 
+void SelectCell(ui::Grid& grid, int row, int column) {
+    const int firstRow = grid.FixedRows();
+    row = std::clamp(row, firstRow, std::max(grid.Rows() - 1, firstRow));
+    const int firstColumn = grid.FixedColumns();
+    column = std::clamp(column, firstColumn, std::max(grid.Columns() - 1, firstColumn));
+    grid.Select({row, column, row, column});
+}
+
 void GridKey(TableUndo& table, ui::Key& key) {
     const std::string name = key.FullName();
     key.swallowed = true;

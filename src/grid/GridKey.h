@@ -14,4 +14,7 @@ void GridKey(TableUndo& table, ui::Key& key);
 /// Empties the cells of the selected block.
 void EmptySelection(TableUndo& table);
 
+/// Selects the cell, or the one nearest to it behind the fixed ones.
+void SelectCell(ui::Grid& grid, int row, int column);
+
 } // namespace vexora

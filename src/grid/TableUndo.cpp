@@ -123,11 +123,15 @@ void TableUndo::MoveRows(const RowChange& change, bool inserts) {
     }
 }
 
-void TableUndo::KeepSpareRow(TableEdit& edit) {
+int TableUndo::LastFilledRow() const {
     int last = grid_.Rows() - 1;
     while (last >= grid_.FixedRows() && IsEmptyRow(grid_, last))
         --last;
-    edit.Rows(std::max(last + 2, grid_.FixedRows() + 1));
+    return last;
+}
+
+void TableUndo::KeepSpareRow(TableEdit& edit) {
+    edit.Rows(std::max(LastFilledRow() + 2, grid_.FixedRows() + 1));
 }
 
 void TableUndo::ForgetOldest() {

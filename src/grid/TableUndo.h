@@ -46,6 +46,8 @@ public:
     void Clear();
     /// Where the row stood when the history began, wherever it has moved since; 0 for a new one.
     int FirstPlaceOf(int row) const;
+    /// The last row that holds something; the one in front of the first when there is none.
+    int LastFilledRow() const;
     /// Rows from the first changed to the last changed by the last step, done or taken back.
     int FirstRow() const { return firstRow_; }
     int LastRow() const { return lastRow_; }

@@ -1,11 +1,8 @@
 #include "tables/frmData2.h"
 
-#include <functional>
-
 #include "chem/clsProperty.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
-#include "grid/GridKey.h"
 #include "records/clsTwo.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -28,9 +25,6 @@ constexpr const char* firstRunText =
 } // namespace
 
 frmData2::frmData2() : Form("frmData2", "Data table") {
-    tblData.Editor = &txtCell;
-    tblData.ShowsRowNumbers = true;
-    txtCell.Visible(false);
     ArrangeControls();
     WireEvents();
     WireMenus();
@@ -49,61 +43,17 @@ void frmData2::ArrangeControls() {
 }
 
 void frmData2::WireEvents() {
-    tblData.OnKey = [this](ui::Key& key) { GridKeys(key); };
-    tblData.OnDoubleClick = [this] {
-        const ui::Grid::Block& block = tblData.Selection();
-        ToEditMode(tblData.Cell(block.top, block.left));
-    };
-    tblData.OnEdit = [this](int row, int column, const std::string& text) {
-        Enter(column, column,
-              [&] { undo_.Do([&](TableEdit& edit) { edit.Cell(row, column, text); }); });
-    };
-    tblData.OnPaste = [this](const std::string& text) { Paste(text); };
-    txtCell.OnKey = [this](ui::Key& key) { CellKeys(key); };
-    txtCell.OnLostFocus = [this] { ToStandardMode(); };
-    undo_.OnChange = [this] { TableChanged(); };
-    undo_.OnCell = [this](TableEdit& edit, int row, int column, const std::string& before) {
-        FollowCell(edit, row, column, before);
-    };
-    lstFindings.OnClick = [this] {
-        const int index = lstFindings.Index();
-        if (!Filling && index >= 0 && index < static_cast<int>(listed_.size()))
-            GoTo(listed_[static_cast<std::size_t>(index)]);
-    };
     cmdView.OnClick = [this] { View(); };
     cmdAssign.OnClick = [this] { Assign(); };
-    cmdClear.OnClick = [this] { Clear(); };
+    cmdClear.OnClick = [this] { table_.Blocks().Clear(); };
     cmdSave.OnClick = [this] { Save(); };
     cmdFinish.OnClick = [this] { Close(); };
 }
 
 void frmData2::WireMenus() {
-    // What is being typed into a cell belongs to the table before anything else is done with it.
-    const auto on = [this](ui::MenuItem& item, const std::function<void()>& action) {
-        item.OnClick = [this, action] {
-            ToStandardMode();
-            action();
-        };
-    };
-    on(mnuFileOpen, [this] { OpenFile(); });
-    on(mnuFileSave, [this] { SaveFile(); });
-    on(mnuUndo, [this] { StepBack(undo_.CanUndo(), [this] { undo_.Undo(); }); });
-    on(mnuRedo, [this] { StepBack(undo_.CanRedo(), [this] { undo_.Redo(); }); });
-    const auto copy = [this] { ui::TheDesktop().ClipboardText(tblData.SelectionText()); };
-    on(mnuCopy, copy);
-    on(mnuCut, [this, copy] {
-        copy();
-        EmptyCells();
-    });
-    on(mnuPaste, [this] { Paste(ui::TheDesktop().ClipboardText()); });
-    on(mnuPasteShown, [this] { PasteShown(); });
-    on(mnuInsertRows, [this] { InsertRows(); });
-    on(mnuRemoveRows, [this] { RemoveRows(); });
-    on(mnuNextFinding, [this] { StepFinding(1); });
-    on(mnuLastFinding, [this] { StepFinding(-1); });
-    on(mnuAction2D, [this] { Action2D(); });
-    on(mnuSplit, [this] { Split(); });
-    on(mnuSystemUnits, [this] { AdjustUnits(); });
+    table_.Wire(mnuAction2D, [this] { Action2D(); });
+    table_.Wire(mnuSplit, [this] { Split(); });
+    table_.Wire(mnuSystemUnits, [this] { AdjustUnits(); });
     const auto help = [](ui::MenuItem& item, int context) {
         item.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
     };
@@ -137,7 +87,7 @@ bool frmData2::IsChanged() const {
 /// Work of an hour is not thrown away by a slip of the finger.
 bool frmData2::QueryUnload() {
     if (stored_) return true;
-    ToStandardMode();
+    table_.EndTyping();
     return !IsChanged() || ui::AskYesNo("The table has been changed\nDiscard the changes?");
 }
 

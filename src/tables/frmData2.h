@@ -1,18 +1,13 @@
 #pragma once
 
 #include <array>
-#include <functional>
-#include <map>
 #include <memory>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "chem/clsProperty.h"
 #include "entry/RowChecks.h"
-#include "grid/TablePaste.h"
-#include "grid/TableUndo.h"
+#include "grid/TableEditor.h"
 #include "records/RowList.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
@@ -26,7 +21,7 @@ struct PlotTable;
 /// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
 /// filled, stored when it is accepted. It works on the current set; a table that is cancelled
 /// leaves the set as it was.
-class frmData2 : public ui::Form {
+class frmData2 : public ui::Form, private TableRules {
 public:
     frmData2();
     ~frmData2() override;
@@ -75,12 +70,28 @@ public:
     void Unload() override;
 
     /// The rows down to the last one that holds something, cells parted by tabs.
-    std::string TableText() const;
+    std::string TableText() const { return table_.Blocks().Text(); }
 
 private:
     void ArrangeControls();
     void WireEvents();
     void WireMenus();
+
+    // What the editor of the table asks (frmData2_rules.cpp).
+    std::vector<int> ValueColumns() const override;
+    bool IsTypedInto(int column) const override;
+    std::string ColumnName(int column) const override;
+    std::vector<Finding> FindingsOf(int row) const override;
+    std::vector<Finding> Hints() const override;
+    void Follow(TableEdit& edit, int row, int column, const std::string& before,
+                const EnteredColumns& entered) const override;
+    bool MayGrowFor(int columns) const override;
+    std::string Remark(int rows) const override;
+    bool IsWanted(const PastedTable& block) const override;
+
+    // The table turned into rows.
+    void Action2D();
+    void Split();
 
     // What the table shows at first (frmData2_fill.cpp).
     void TakeSet();
@@ -94,38 +105,6 @@ private:
     std::string ColumnsText() const;
     std::shared_ptr<clsTwo> Set() const { return set_; }
 
-    // Work in the table (frmData2_grid.cpp).
-    void ToEditMode(const std::string& text);
-    void ToStandardMode();
-    void GridKeys(ui::Key& key);
-    void CellKeys(ui::Key& key);
-    void LeaveCell(const ui::Key& key);
-    void PasteInCell();
-    void MoveTo(int row, int column);
-    bool MoveAlong(int row, int column, bool backwards);
-    void Enter(int firstColumn, int lastColumn, const std::function<void()>& enters);
-    void FollowCell(TableEdit& edit, int row, int column, const std::string& before);
-
-    // Whole blocks (frmData2_blocks.cpp).
-    void Paste(const std::string& text);
-    bool FillSelection(const PastedTable& block);
-    void PasteShown();
-    PastedTable BesideStatements(PastedTable block, int column) const;
-    void PutIn(const PastedTable& block, int row, int column);
-    bool MakesRoomFor(const PastedTable& block, int row, int column, bool isEmpty);
-    void EmptyCells();
-    void StepBack(bool can, const std::function<void()>& step);
-    void InsertRows();
-    void RemoveRows();
-    void OpenFile();
-    void SaveFile();
-    void Action2D();
-    void Split();
-    void Clear();
-    void ShowNotice(std::vector<PasteNotice> told);
-    void MoveNotices(int row, int count);
-    int LastRow() const;
-
     // The units of the cells (frmData2_units.cpp).
     void AdjustUnits();
     std::shared_ptr<clsTwo> Adjusted(const std::vector<int>& rows) const;
@@ -133,13 +112,6 @@ private:
                    const RowList& rows);
     void ShowUnits();
 
-    // Marks and findings (frmData2_findings.cpp, frmData2_look.cpp).
-    void TableChanged();
-    void FindAgain(int firstRow, int lastRow);
-    void ShowFindings();
-    void StepFinding(int step);
-    void GoTo(const Finding& finding);
-    void LookAgain();
     std::vector<int> FarRowsOfTable() const;
 
     // Checks, evaluation and storing (frmData2_accept.cpp).
@@ -183,13 +155,11 @@ private:
     bool stored_ = false;
     TableColumns columns_;
     TableColumns firstColumns_; // those that the table began with
-    TableUndo undo_{tblData};
-    std::optional<std::pair<int, int>> entered_;   // columns that are being typed or pasted into
-    std::map<int, std::vector<Finding>> findings_; // by row
-    std::vector<Finding> listed_;                  // as the list shows them
-    std::vector<PasteNotice> told_;                // what the last paste had to guess
-    std::vector<int> lookAgain_;                   // rows far from their neighbours
-    int editRow_ = 0, editColumn_ = 0;
+    TableEditor table_{*this,
+                       {tblData, txtCell, lblNotice, lstFindings},
+                       {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
+                        mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
+                        mnuLastFinding}};
 };
 
 } // namespace vexora

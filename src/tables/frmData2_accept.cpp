@@ -28,14 +28,14 @@ std::string AsFigure(const TableColumn& column, const std::string& cell, double 
 } // namespace
 
 bool frmData2::Refuse(const Finding& finding, const std::string& title) {
-    GoTo(finding);
+    table_.Findings().GoTo(finding);
     ui::Say(finding.text, title);
     return false;
 }
 
 /// Cells lose the blanks and commas that came with typing and pasting.
 void frmData2::CleanCells() {
-    undo_.Do([this](TableEdit& edit) {
+    table_.History().Do([this](TableEdit& edit) {
         for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
             for (int column = 0; column < columns_.Count(); ++column)
                 edit.Cell(row, column, CleanCell(columns_[column], tblData.Cell(row, column)));
@@ -44,7 +44,7 @@ void frmData2::CleanCells() {
 }
 
 bool frmData2::Check() {
-    ToStandardMode();
+    table_.EndTyping();
     CleanCells();
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
         const auto findings = CheckRow(tblData, columns_, row);
@@ -96,7 +96,7 @@ void frmData2::Calc_unc(int row, bool& ok, const ConfirmValue& confirm) {
     const std::string result = EvaluateUncertainty(*chain_, molarMass_, confirm);
     const int figure = columns_.Find(Kind::KVO);
     if (tblData.Cell(row, figure) == "Error" || !result.empty())
-        undo_.Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
+        table_.History().Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
     ok = result.empty() || IsNumeric(result);
 }
 
@@ -150,10 +150,11 @@ bool frmData2::AssignAccepted() {
                 edit.Cell(row, column, {});
         }
     };
-    undo_.Do(emptiesColumns, [this, before, assignedBefore, after = set_->UX](bool done) {
-        UseStatements(done ? after : before);
-        assigned_ = done || assignedBefore;
-    });
+    table_.History().Do(emptiesColumns,
+                        [this, before, assignedBefore, after = set_->UX](bool done) {
+                            UseStatements(done ? after : before);
+                            assigned_ = done || assignedBefore;
+                        });
     return true;
 }
 
@@ -161,7 +162,7 @@ void frmData2::UseStatements(const std::array<clsX, 5>& statements) {
     set_->UX = statements;
     AnalyseCurrentProperty();
     FillHeader();
-    FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+    table_.Findings().FindAgain();
 }
 
 /// Entries of rows whose column goes with its statement are not thrown away unasked.
@@ -249,7 +250,7 @@ std::vector<const clsData*> frmData2::OldRows() const {
 
 /// The row as it stood at the beginning, wherever it has been moved; null for a new one.
 const clsData* frmData2::OldRowHere(int row) const {
-    const int first = undo_.FirstPlaceOf(row) - tblData.FixedRows();
+    const int first = table_.History().FirstPlaceOf(row) - tblData.FixedRows();
     return first >= 0 ? rows_.Item(static_cast<std::size_t>(first) + 1) : nullptr;
 }
 

@@ -42,14 +42,15 @@ void frmData2::TakeRows() {
     const bool all = std::all_of(rows_.begin(), rows_.end(), isOriginal);
     const bool none = !rows_.IsEmpty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
     original_ = set_->isOriginalUnit && all;
-    if (set_->isOriginalUnit && none) told_ = {{0, "The rows of this set stand in system units"}};
+    if (set_->isOriginalUnit && none)
+        table_.Blocks().Tell({{0, "The rows of this set stand in system units"}});
     if (original_ || rows_.IsEmpty() || none) return;
     adjusted_ = std::make_shared<clsTwo>(*set_);
     adjusted_->isOriginalUnit = true;
     adjusted_->AdjustUnits();
     rows_ = adjusted_->recData;
     set_->UX = adjusted_->UX;
-    told_ = {{0, "Rows in the units of the paper were brought to system units"}};
+    table_.Blocks().Tell({{0, "Rows in the units of the paper were brought to system units"}});
 }
 
 /// The chain that checks and evaluates a row: the property, then its variables.
@@ -126,7 +127,7 @@ void frmData2::FillHeader() {
     const bool stays = selected.left < static_cast<int>(places.size()) &&
                        selected.top < tblData.Rows() && selected.top >= tblData.FixedRows();
     const int column = stays ? places[static_cast<std::size_t>(selected.left)] : -1;
-    MoveTo(stays ? selected.top : tblData.FixedRows(), std::max(column, 0));
+    table_.MoveTo(stays ? selected.top : tblData.FixedRows(), std::max(column, 0));
 }
 
 void frmData2::FillRows() {
@@ -140,12 +141,12 @@ void frmData2::FillRows() {
             ++row;
         }
     }
-    undo_.Clear();
+    table_.History().Clear();
     firstText_ = TableText();
     firstStatements_ = set_->UX;
     firstColumns_ = columns_;
-    FindAgain(1, tblData.Rows() - 1);
-    ShowNotice(told_);
+    table_.Findings().FindAgain();
+    table_.Blocks().TellAgain();
 }
 
 } // namespace vexora

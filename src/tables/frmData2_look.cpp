@@ -25,16 +25,12 @@ FitScale ScaleOf(const clsTwo& set, int variable) {
 
 /// A misprint seldom shows by itself, but stands off the curve of the others. It is only a hint:
 /// nothing is asked and nothing is refused.
-void frmData2::LookAgain() {
-    for (const int row : lookAgain_) {
-        const auto found = findings_.find(row);
-        if (found == findings_.end()) continue;
-        std::erase_if(found->second, [](const Finding& one) { return one.text == lookAgainText; });
-        if (found->second.empty()) findings_.erase(found);
-    }
-    lookAgain_ = FarRowsOfTable();
-    for (const int row : lookAgain_)
-        findings_[row].push_back({row, columns_.Find(Kind::Value, 0), lookAgainText, false});
+std::vector<Finding> frmData2::Hints() const {
+    std::vector<Finding> hints;
+    if (!set_) return hints;
+    for (const int row : FarRowsOfTable())
+        hints.push_back({row, columns_.Find(Kind::Value, 0), lookAgainText, false});
+    return hints;
 }
 
 /// Variables count in system units, so that temperatures are absolute; rows that are not whole are

@@ -30,7 +30,7 @@ void frmData2::View() {
     ui::Forms::Current().Get("frmGraph").ShowModal();
     const int row = std::exchange(globals.Plot, nullptr)->ChosenRow;
     if (row == 0) return;
-    MoveTo(row, columns_.Find(Kind::Value, 0));
+    table_.MoveTo(row, columns_.Find(Kind::Value, 0));
     tblData.SetFocus();
 }
 
@@ -48,8 +48,7 @@ PlotTable frmData2::PointsOfTable() const {
         for (int n = 1; n <= set_->nVar; ++n)
             point[static_cast<std::size_t>(n)] =
                 Val(tblData.Cell(row, columns_.Find(Kind::Value, n)));
-        table.Add(point, UncertaintyOf(row), row,
-                  std::binary_search(lookAgain_.begin(), lookAgain_.end(), row));
+        table.Add(point, UncertaintyOf(row), row, table_.Findings().HasHint(row));
     }
     return table;
 }

@@ -24,7 +24,7 @@ bool AnyUnitChanges(const clsTwo& set) {
 void frmData2::AdjustUnits() {
     if (!Check() || !CheckUnits()) return;
     std::vector<int> rows;
-    for (int row = tblData.FixedRows(); row <= LastRow(); ++row)
+    for (int row = tblData.FixedRows(); row <= table_.History().LastFilledRow(); ++row)
         if (!IsEmptyRow(tblData, columns_, row)) rows.push_back(row);
     const std::shared_ptr<clsTwo> adjusted = Adjusted(rows);
     if (!adjusted) return;
@@ -35,17 +35,17 @@ void frmData2::AdjustUnits() {
     for (std::size_t place = 1; place <= rows.size(); ++place)
         needsDigits = needsDigits || adjusted->recData.Item(place)->isDigit;
     if (needsDigits && !Globals().IncludeDigits) { // counts that the texts would not tell
-        undo_.Do([](TableEdit&) {},
-                 [this](bool done) {
-                     Globals().IncludeDigits = done;
-                     FillHeader();
-                 });
+        table_.History().Do([](TableEdit&) {},
+                            [this](bool done) {
+                                Globals().IncludeDigits = done;
+                                FillHeader();
+                            });
     }
     const auto before = [this, statements = set_->UX, typed = rows_] {
         TakeUnits(nullptr, statements, typed);
     };
     const auto after = [this, adjusted, old] { TakeUnits(adjusted, adjusted->UX, old); };
-    undo_.Do(
+    table_.History().Do(
         [&](TableEdit& edit) {
             for (std::size_t i = 0; i < rows.size(); ++i)
                 for (int column = 0; column < columns_.Count(); ++column)
@@ -78,7 +78,7 @@ void frmData2::TakeUnits(const std::shared_ptr<clsTwo>& adjusted,
     AnalyseCurrentProperty();
     NameStatements(*set_, original_);
     ShowUnits();
-    FindAgain(tblData.FixedRows(), tblData.Rows() - 1);
+    table_.Findings().FindAgain();
 }
 
 void frmData2::ShowUnits() {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/Forms.h"
+
 namespace vexora {
 
 frmPasteView::frmPasteView() : Form("frmPasteView", "The block to be pasted") {
@@ -34,6 +36,15 @@ void frmPasteView::Fill(const PastedTable& block) {
         lines.push_back(notice.Line());
     lstNotices.Assign(std::move(lines));
     accepted_ = false;
+}
+
+bool IsWantedAsShown(const PastedTable& block) {
+    auto& view = ui::Forms::Current().Get<frmPasteView>("frmPasteView");
+    view.Fill(block);
+    view.ShowModal();
+    const bool accepted = view.IsAccepted();
+    view.Close();
+    return accepted;
 }
 
 } // namespace vexora

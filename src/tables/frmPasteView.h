@@ -24,4 +24,7 @@ private:
     bool accepted_ = false;
 };
 
+/// Shows the block; false when a person does not want it pasted.
+bool IsWantedAsShown(const PastedTable& block);
+
 } // namespace vexora

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 #include "ui/Desktop.h"
@@ -67,9 +68,18 @@ void Grid::EndBatch() {
         CellChanged.Emit(-1, -1);
 }
 
-void Grid::CellMarks(Marks marks) {
-    if (marks_ == marks) return;
-    marks_ = std::move(marks);
+void Grid::MarkRows(int firstRow, int lastRow, Marks marks) {
+    const auto at = [this](int row) {
+        return marks_.lower_bound({row, std::numeric_limits<int>::min()});
+    };
+    const auto first = at(firstRow);
+    const auto end = lastRow < std::numeric_limits<int>::max() ? at(lastRow + 1) : marks_.end();
+    if (std::equal(first, end, marks.begin(), marks.end())) return;
+    marks_.erase(first, end);
+    if (marks_.empty())
+        marks_ = std::move(marks);
+    else
+        marks_.merge(marks);
     Changed();
 }
 

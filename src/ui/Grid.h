@@ -68,7 +68,8 @@ public:
     bool ShowsRowNumbers = false;
 
     const Marks& CellMarks() const { return marks_; }
-    void CellMarks(Marks marks);
+    /// Marks of cells in these rows take the place of those that they had.
+    void MarkRows(int firstRow, int lastRow, Marks marks);
     /// The mark of a cell, or null.
     const Mark* MarkOf(int row, int column) const;
 

@@ -59,5 +59,19 @@ TEST_F(GridTest, TableWithoutCellsLeavesTheKeysToTheForm) {
     EXPECT_FALSE(form.grid.UserKey(key));
 }
 
+TEST_F(GridTest, MarksOfSomeRowsTakeThePlaceOfTheirOwnAlone) {
+    int redrawn = 0;
+    form.grid.Redraw.Connect([&] { ++redrawn; });
+    form.grid.MarkRows(1, 9, {{{2, 1}, {true, "a"}}, {{3, 1}, {true, "b"}}, {{4, 2}, {true, "c"}}});
+    form.grid.MarkRows(3, 3, {{{3, 2}, {false, "d"}}});
+    EXPECT_EQ(redrawn, 2);
+    form.grid.MarkRows(3, 3, {{{3, 2}, {false, "d"}}});
+    form.grid.MarkRows(5, 49, {});
+    EXPECT_EQ(redrawn, 2);
+    EXPECT_EQ(
+        form.grid.CellMarks(),
+        (ui::Grid::Marks{{{2, 1}, {true, "a"}}, {{3, 2}, {false, "d"}}, {{4, 2}, {true, "c"}}}));
+}
+
 } // namespace
 } // namespace vexora::test

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "grid/FindingList.h"
+#include "grid/GridKey.h"
+#include "grid/TableBlocks.h"
+#include "grid/TableRules.h"
+#include "grid/TableUndo.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+/// The controls of a form that show a table: the grid, the field laid over a cell that is being
+/// typed into, the notices and the findings below.
+struct TableControls {
+    ui::Grid& grid;
+    ui::TextBox& cell;
+    ui::Label& notice;
+    ui::ListBox& findings;
+};
+
+/// The menu entries of a form for the work in its table.
+struct TableMenu {
+    ui::MenuItem &open, &save;
+    ui::MenuItem &undo, &redo;
+    ui::MenuItem &cut, &copy, &paste, &pasteShown;
+    ui::MenuItem &insertRows, &removeRows;
+    ui::MenuItem &nextFinding, &lastFinding;
+};
+
+/// The work in the table of a form: typing into cells, keys, blocks, history and findings, all
+/// wired to the controls, which stay the form's. What the columns mean, the form says by its rules.
+/// A form declares the editor behind its controls and so owns it.
+class TableEditor {
+public:
+    TableEditor(const TableRules& rules, const TableControls& controls, const TableMenu& menu);
+    TableEditor(const TableEditor&) = delete;
+    TableEditor& operator=(const TableEditor&) = delete;
+
+    TableUndo& History() { return history_; }
+    const TableUndo& History() const { return history_; }
+    TableBlocks& Blocks() { return blocks_; }
+    const TableBlocks& Blocks() const { return blocks_; }
+    FindingList& Findings() { return findings_; }
+    const FindingList& Findings() const { return findings_; }
+
+    /// What is being typed into a cell becomes the text of the cell.
+    void EndTyping();
+    /// A click on the entry runs the action behind what is being typed, which belongs to the table
+    /// before anything else is done with it.
+    void Wire(ui::MenuItem& item, std::function<void()> action);
+    /// Selects the cell, or the one nearest to it.
+    void MoveTo(int row, int column) { SelectCell(grid_, row, column); }
+
+private:
+    void WireTable();
+    void WireMenu();
+    void BeginTyping(const std::string& text);
+    void GridKeys(ui::Key& key);
+    bool UseOtherKey(const std::string& name);
+    void CellKeys(ui::Key& key);
+    void LeaveCell(const ui::Key& key);
+    void PasteInCell();
+    bool MoveAlong(int row, int column, bool backwards);
+
+    const TableRules& rules_;
+    ui::Grid& grid_;
+    ui::TextBox& cell_;
+    TableMenu menu_;
+    TableUndo history_;
+    TableBlocks blocks_;
+    FindingList findings_;
+    int row_ = 0, column_ = 0; // of the cell that is being typed into
+};
+
+} // namespace vexora
