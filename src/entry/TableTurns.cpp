@@ -1,7 +1,6 @@
 #include "entry/TableTurns.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace vexora {
 
@@ -76,14 +75,9 @@ bool AnyOutside(const ui::Grid& grid, const ui::Grid::Block& block) {
     return false;
 }
 
-/// The columns beside those of the table go when they are empty, and come back with an undo.
-std::function<void(bool)> Narrowing(ui::Grid& grid, const TableColumns& columns) {
-    const int extra = std::max(grid.Columns() - columns.Count(), 0);
-    return [&grid, &columns, extra](bool done) {
-        const bool goes = done && IsEmptyBehind(grid, columns.Count());
-        const int wanted = columns.Count() + (goes ? 0 : extra);
-        if (wanted != grid.Columns()) grid.Resize(grid.Rows(), wanted);
-    };
+/// The columns beside those of the table go when they are empty.
+void Narrow(TableEdit& edit, const ui::Grid& grid, const TableColumns& columns) {
+    if (IsEmptyBehind(grid, columns.Count())) edit.Columns(columns.Count());
 }
 
 } // namespace
@@ -106,8 +100,9 @@ std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColum
             edit.Cell(row, second, triple.second);
             edit.Cell(row++, columns.Find(Kind::Value, 0), triple.value);
         }
+        Narrow(edit, table.Table(), columns);
     };
-    table.Do(writer, Narrowing(table.Table(), columns));
+    table.Do(writer);
     return top.front();
 }
 
@@ -137,8 +132,9 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
                 edit.Cell(row, static_cast<int>(column), texts[column]);
             ++row;
         }
+        Narrow(edit, grid, columns);
     };
-    return table.Do(writer, Narrowing(table.Table(), columns));
+    return table.Do(writer);
 }
 
 } // namespace vexora

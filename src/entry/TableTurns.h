@@ -12,9 +12,8 @@ namespace vexora {
 /// Turns a two-dimensional table, with the second variable in its top row and the first in its left
 /// column, into one row for each cell that holds a value: first variable, second variable, value.
 /// A top row whose corner is missing counts from the second column on. The answer is the text that
-/// stood in the corner; nothing, and nothing changes, when there is no such table in the grid. The
-/// columns must outlive the history of the table; a
-/// grid that was wider for the printed table becomes as narrow as they are.
+/// stood in the corner; nothing, and nothing changes, when there is no such table in the grid. A
+/// grid that was wider for the printed table becomes as narrow as the columns are.
 std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColumns& columns);
 
 /// Moves the selected block below the last row that holds something, its first column coming to

@@ -96,20 +96,17 @@ bool TableBlocks::FillSelection(const PastedTable& block) {
 void TableBlocks::PutIn(const PastedTable& block, int row, int column) {
     if (IsRefused(block, row, column, history_.LastFilledRow() < grid_.FixedRows())) return;
     Enter({column, column + static_cast<int>(block.Columns()) - 1},
-          [&] { PasteTable(history_, block, row, column); });
+          [&] { PasteTable(history_, block, row, column, {.widens = true}); });
     Tell(block.notices);
 }
 
 /// A block that is too wide is refused, but for a table that is to be turned: one in two dimensions
 /// or one of several parts side by side comes to an empty table, which grows for it.
-bool TableBlocks::IsRefused(const PastedTable& block, int row, int column, bool isEmpty) {
+bool TableBlocks::IsRefused(const PastedTable& block, int row, int column, bool isEmpty) const {
     const int columns = static_cast<int>(block.Columns());
     if (column + columns <= grid_.Columns()) return false;
     const bool atStart = row == grid_.FixedRows() && column == 0;
-    if (atStart && isEmpty && block.rows.size() > 1 && rules_.MayGrowFor(columns)) {
-        grid_.Resize(grid_.Rows(), columns);
-        return false;
-    }
+    if (atStart && isEmpty && block.rows.size() > 1 && rules_.MayGrowFor(columns)) return false;
     ui::Say("The block has " + std::to_string(columns) + " columns, the table has room for " +
             std::to_string(grid_.Columns() - column) + "\nNothing was pasted");
     return true;
@@ -178,7 +175,7 @@ void TableBlocks::OpenFile() {
     const int first = grid_.FixedRows();
     if (IsRefused(block, first, 0, true)) return;
     const int replaced = history_.LastFilledRow() - first + 1;
-    PasteTable(history_, block, first, 0, true);
+    PasteTable(history_, block, first, 0, {.replaces = true, .widens = true});
     SelectCell(grid_, first, 0);
     std::vector<PasteNotice> told = block.notices;
     if (replaced > 0)

@@ -53,7 +53,7 @@ public:
 private:
     PastedTable BesideStatements(PastedTable block, int column) const;
     bool FillSelection(const PastedTable& block);
-    bool IsRefused(const PastedTable& block, int row, int column, bool isEmpty);
+    bool IsRefused(const PastedTable& block, int row, int column, bool isEmpty) const;
     void PutIn(const PastedTable& block, int row, int column);
     void MoveNotices(int row, int count);
     void Step(bool can, void (TableUndo::*step)());

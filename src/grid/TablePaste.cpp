@@ -294,13 +294,16 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
     return table;
 }
 
-bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column, bool replaces) {
+bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
+                PasteManner manner) {
     const ui::Grid& grid = table.Table();
     const std::size_t columns = block.Columns();
-    if (column + static_cast<int>(columns) > grid.Columns()) return false;
+    const int wide = column + static_cast<int>(columns);
+    if (wide > grid.Columns() && !manner.widens) return false;
     const int rows = static_cast<int>(block.rows.size());
     table.Do([&](TableEdit& edit) {
-        if (replaces) edit.Rows(grid.FixedRows());
+        if (manner.replaces) edit.Rows(grid.FixedRows());
+        edit.Columns(std::max(grid.Columns(), wide));
         edit.Rows(std::max(grid.Rows(), row + rows + 1));
         for (int i = 0; i < rows; ++i) {
             const auto& cells = block.rows[static_cast<std::size_t>(i)];

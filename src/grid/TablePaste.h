@@ -32,11 +32,16 @@ PastedTable CleanTable(std::string_view text, int firstRow = 1);
 /// A number whose comma may part thousands as well as decimals, such as "1,234".
 bool MayPartThousands(std::string_view cell);
 
+/// How a block comes into a table, all in one step of its history.
+struct PasteManner {
+    bool replaces = false; // all that stood in the table goes first
+    bool widens = false;   // the table gets the columns that it lacks
+};
+
 /// Writes the block from this cell on, the grid growing downward as it needs to; cells that a short
 /// line does not fill become empty, so that nothing old stands among the new. False, and nothing is
-/// written, when it has more columns than the grid has from there on.
-/// When it replaces, all that stood in the table goes first, in the same step.
+/// written, when it has more columns than the grid has from there on and does not widen it.
 bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
-                bool replaces = false);
+                PasteManner manner = {});
 
 } // namespace vexora

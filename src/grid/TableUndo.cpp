@@ -11,7 +11,9 @@ namespace {
 // Changes of cells that are kept in all; some seven pastes of the largest table.
 constexpr std::size_t mostChanges = 1'000'000;
 
-constexpr int wholeRows = -2; // the column of a change that is none of a cell
+// The columns of changes that are none of a cell.
+constexpr int wholeRows = -2;
+constexpr int wholeColumns = -3;
 
 bool IsEmptyRow(const ui::Grid& grid, int row) {
     for (int column = 0; column < grid.Columns(); ++column) {
@@ -59,6 +61,18 @@ public:
         settled = step.changes.size();
     }
 
+    void Columns(int columns) override {
+        columns = std::max(columns, grid_.FixedColumns() + 1);
+        if (columns == grid_.Columns()) return;
+        for (int row = 0; row < grid_.Rows(); ++row) { // the heads as well
+            for (int column = columns; column < grid_.Columns(); ++column)
+                Cell(row, column, {});
+        }
+        step.changes.push_back({static_cast<int>(step.widths.size()), wholeColumns, {}, {}});
+        step.widths.push_back({grid_.Columns(), columns});
+        grid_.Resize(grid_.Rows(), columns);
+    }
+
     Step step;
     std::size_t settled = 0; // changes up to here are of cells that have gone or moved
 
@@ -74,14 +88,15 @@ private:
     ui::Grid::Batch batch_;
 };
 
-/// Rows that only came and went at the end of the table are no change.
+/// Rows that only came and went at the end of the table are no change, nor are such columns.
 bool TableUndo::Step::IsEmpty() const {
     int more = 0;
     for (const RowChange& change : rows) {
         const int count = static_cast<int>(change.places.size());
         more += change.inserted ? count : -count;
     }
-    return changes.size() == rows.size() && more == 0;
+    const bool sameWidth = widths.empty() || widths.front().before == widths.back().after;
+    return changes.size() == rows.size() + widths.size() && more == 0 && sameWidth;
 }
 
 bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
@@ -93,7 +108,7 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
         const std::size_t written = OnCell ? recorder.step.changes.size() : 0;
         for (std::size_t i = recorder.settled; i < written; ++i) {
             const Change change = recorder.step.changes[i];
-            if (change.column != wholeRows)
+            if (change.IsOfCell() && change.row >= grid_.FixedRows())
                 OnCell(recorder, change.row, change.column, change.before);
         }
         KeepSpareRow(recorder);
@@ -144,20 +159,26 @@ void TableUndo::ForgetOldest() {
     done_ = steps_.size();
 }
 
+void TableUndo::Apply(const Step& step, const Change& change, bool done) {
+    const auto place = static_cast<std::size_t>(change.row);
+    if (change.IsOfCell()) {
+        grid_.Cell(change.row, change.column, done ? change.after : change.before);
+    } else if (change.column == wholeRows) {
+        MoveRows(step.rows[place], step.rows[place].inserted == done);
+    } else {
+        const WidthChange& width = step.widths[place];
+        grid_.Resize(grid_.Rows(), done ? width.after : width.before);
+    }
+}
+
 void TableUndo::Undo() {
     if (!CanUndo()) return;
     const Step& step = steps_[--done_];
     if (step.beside) step.beside(false);
     {
         const ui::Grid::Batch batch(grid_);
-        for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change) {
-            if (change->column != wholeRows) {
-                grid_.Cell(change->row, change->column, change->before);
-                continue;
-            }
-            const RowChange& rows = step.rows[static_cast<std::size_t>(change->row)];
-            MoveRows(rows, !rows.inserted);
-        }
+        for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
+            Apply(step, *change, false);
     }
     Tell(step);
 }
@@ -167,14 +188,8 @@ void TableUndo::Redo() {
     const Step& step = steps_[done_++];
     {
         const ui::Grid::Batch batch(grid_);
-        for (const Change& change : step.changes) {
-            if (change.column != wholeRows) {
-                grid_.Cell(change.row, change.column, change.after);
-                continue;
-            }
-            const RowChange& rows = step.rows[static_cast<std::size_t>(change.row)];
-            MoveRows(rows, rows.inserted);
-        }
+        for (const Change& change : step.changes)
+            Apply(step, change, true);
     }
     if (step.beside) step.beside(true);
     Tell(step);
@@ -185,7 +200,7 @@ void TableUndo::Tell(const Step& step) {
     firstRow_ = grid_.Rows();
     lastRow_ = grid_.FixedRows();
     for (const Change& change : step.changes) {
-        if (change.column == wholeRows) continue;
+        if (!change.IsOfCell() || change.row < grid_.FixedRows()) continue;
         firstRow_ = std::min(firstRow_, change.row);
         lastRow_ = std::max(lastRow_, change.row);
     }

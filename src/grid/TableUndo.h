@@ -21,6 +21,8 @@ public:
     virtual void InsertRows(int row, int count) = 0;
     /// Takes rows away with their texts; those below move up.
     virtual void RemoveRows(int row, int count) = 0;
+    /// Makes the table so many columns wide. Texts in columns that go are kept for an undo.
+    virtual void Columns(int columns) = 0;
 };
 
 /// The history of a grid: every change goes through Do and can be taken back and done again, to the
@@ -58,25 +60,33 @@ public:
     std::function<void(TableEdit&, int row, int column, const std::string& before)> OnCell;
 
 private:
-    /// Of one cell, or of rows when the column says so; the row is then a place in Step::rows.
+    /// Of one cell, or of rows or columns when the column says so; the row is then a place in
+    /// Step::rows or Step::widths.
     struct Change {
         int row = 0, column = 0;
         std::string before, after;
+        bool IsOfCell() const { return column >= 0; }
     };
     struct RowChange {
         int row = 0;
         bool inserted = true;
         std::vector<int> places; // FirstPlaceOf, one for each row
     };
+    /// How many columns the table had and has.
+    struct WidthChange {
+        int before = 0, after = 0;
+    };
     struct Step {
         std::vector<Change> changes;
         std::vector<RowChange> rows;
+        std::vector<WidthChange> widths;
         std::function<void(bool)> beside;
         bool IsEmpty() const;
     };
     class Recorder;
 
     void KeepSpareRow(TableEdit& edit);
+    void Apply(const Step& step, const Change& change, bool done);
     void MoveRows(const RowChange& change, bool inserts);
     void ForgetOldest();
     void Tell(const Step& step);

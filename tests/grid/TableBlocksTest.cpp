@@ -34,6 +34,26 @@ TEST_F(TableBlocksTest, BlockThatIsTooWideIsRefusedWhole) {
     Paste("1 2 3 4 5\n1 2 3 4 5"); // nor does the form let it grow for this one
 }
 
+TEST_F(TableBlocksTest, EmptyTableGrowsForABlockAndIsAsWideAsBeforeAfterAnUndo) {
+    Paste("1 2 3 4 5 6\n7 8 9 10 11 12");
+    const std::string wide = Cells();
+    EXPECT_EQ(wide, "1|2|3|4|5|6;7|8|9|10|11|12;|||||;");
+    form.table.History().Do([](TableEdit& edit) { edit.Columns(4); });
+    const std::string narrow = Cells();
+    EXPECT_EQ(narrow, "1|2|3|4;7|8|9|10;|||;");
+    form.table.Blocks().Clear();
+    Paste("1 2 3 4 5 6 7 8\n1 2 3 4 5 6 7 8");
+    const std::string wider = Cells();
+    Press({"Ctrl+Z", "Ctrl+Z"});
+    EXPECT_EQ(Cells(), narrow);
+    Press({"Ctrl+Z"});
+    EXPECT_EQ(Cells(), wide);
+    Press({"Ctrl+Y", "Ctrl+Y", "Ctrl+Y"});
+    EXPECT_EQ(Cells(), wider);
+    Press({"Ctrl+Z", "Ctrl+Z", "Ctrl+Z", "Ctrl+Z"});
+    EXPECT_EQ(Cells(), "|||;");
+}
+
 TEST_F(TableBlocksTest, NoticesKeepToTheirRowsUntilTheNextPasteOrStepBack) {
     Paste("275 1,234 1");
     EXPECT_EQ(form.lblNotice.Caption(), "row 1: \"1,234\" became 1.234");

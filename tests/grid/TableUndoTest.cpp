@@ -59,6 +59,49 @@ TEST_F(TableUndoTest, StepsFindTheColumnsThatTheyKnew) {
     EXPECT_EQ(Cells(), "1.0|2.5\n|\n");
 }
 
+TEST_F(TableUndoTest, WidthAndTheTextsOfItsColumnsComeBackInEveryOrder) {
+    const auto head = [&](int column) { return form.grid.Cell(0, column); };
+    form.grid.Cell(0, 2, "last");
+    Fill("1.0 2.0 3.0\n4 5 6");
+    std::vector<std::string> states{Cells()};
+    const auto step = [&](const std::function<void(TableEdit&)>& writer) {
+        EXPECT_TRUE(undo.Do(writer));
+        states.push_back(Cells());
+    };
+    step([](TableEdit& edit) { edit.Columns(5); });
+    step([](TableEdit& edit) { edit.Cell(2, 4, "9.50"); });
+    step([](TableEdit& edit) {
+        edit.RemoveRows(1, 1);
+        edit.Columns(2);
+        edit.InsertRows(1, 1);
+    });
+    step([](TableEdit& edit) { edit.Rows(1); });
+    step([](TableEdit& edit) {
+        edit.Columns(4);
+        edit.Cell(1, 3, "7.0");
+    });
+    EXPECT_EQ(states[3], "|\n4|5\n|\n");
+    EXPECT_EQ(head(2), "");
+    EXPECT_FALSE(undo.Do([](TableEdit& edit) { // only came and went
+        edit.Columns(6);
+        edit.Columns(4);
+    }));
+    for (std::size_t back = 1; back < states.size(); ++back) {
+        for (std::size_t i = states.size() - 1; i-- > states.size() - 1 - back;) {
+            undo.Undo();
+            EXPECT_EQ(Cells(), states[i]) << back;
+        }
+        for (std::size_t i = states.size() - back; i < states.size(); ++i) {
+            undo.Redo();
+            EXPECT_EQ(Cells(), states[i]) << back;
+        }
+    }
+    for (int i = 0; i < 3; ++i)
+        undo.Undo();
+    EXPECT_EQ(head(2), "last");
+    EXPECT_EQ(states[2], "1.0|2.0|3.0||\n4|5|6||9.50\n||||\n");
+}
+
 TEST_F(TableUndoTest, WholeStepIsToldToListenersAtOnce) {
     int told = 0;
     form.grid.CellChanged.Connect([&](int row, int) {

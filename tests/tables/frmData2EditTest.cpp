@@ -40,6 +40,30 @@ TEST_F(frmData2EditTest, TableInTwoDimensionsBecomesOneRowForEachCell) {
     EXPECT_EQ(form_->tblData.Cell(0, 3), "Uncert.");
 }
 
+TEST_F(frmData2EditTest, WidthComesBackWithEveryStepOfTheHistory) {
+    TwoVariables();
+    OpenTable();
+    Paste("\t101.3\t200\t300\t400\n300\t996.5\t996.6\t\t996.8\n310\t993.3\t993.4\t993.5\t993.6");
+    const std::string printed = Cells();
+    form_->mnuAction2D.UserClick();
+    const std::string turned = Cells();
+    form_->cmdClear.UserClick();
+    Paste("\t1\t2\t3\t4\t5\t6\n300\t9\t9\t9\t9\t9\t9");
+    const std::string wider = Cells();
+    EXPECT_EQ(form_->tblData.Columns(), 7);
+    for (int i = 0; i < 3; ++i)
+        form_->mnuUndo.UserClick();
+    EXPECT_EQ(Cells(), printed);
+    form_->mnuRedo.UserClick();
+    EXPECT_EQ(Cells(), turned);
+    form_->mnuRedo.UserClick();
+    form_->mnuRedo.UserClick();
+    EXPECT_EQ(Cells(), wider);
+    for (int i = 0; i < 4; ++i)
+        form_->mnuUndo.UserClick();
+    EXPECT_EQ(Cells(), "Var1|Var2|Property|KVO Uncert.;|||;");
+}
+
 TEST_F(frmData2EditTest, BareValuesGoPastDigitsAndStatements) {
     globals.IncludeDigits = true;
     set->UX[1].iUnc = true;
