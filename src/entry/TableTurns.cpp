@@ -75,11 +75,6 @@ bool AnyOutside(const ui::Grid& grid, const ui::Grid::Block& block) {
     return false;
 }
 
-/// The columns beside those of the table go when they are empty.
-void Narrow(TableEdit& edit, const ui::Grid& grid, const TableColumns& columns) {
-    if (IsEmptyBehind(grid, columns.Count())) edit.Columns(columns.Count());
-}
-
 } // namespace
 
 std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColumns& columns) {
@@ -93,6 +88,7 @@ std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColum
     const auto writer = [&](TableEdit& edit) {
         const int fixed = table.Table().FixedRows();
         edit.Rows(fixed);
+        edit.Columns(columns.Count());
         edit.Rows(fixed + static_cast<int>(triples.size()));
         int row = fixed;
         for (const Triple& triple : triples) {
@@ -100,7 +96,6 @@ std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColum
             edit.Cell(row, second, triple.second);
             edit.Cell(row++, columns.Find(Kind::Value, 0), triple.value);
         }
-        Narrow(edit, table.Table(), columns);
     };
     table.Do(writer);
     return top.front();
@@ -132,7 +127,7 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
                 edit.Cell(row, static_cast<int>(column), texts[column]);
             ++row;
         }
-        Narrow(edit, grid, columns);
+        if (IsEmptyBehind(grid, columns.Count())) edit.Columns(columns.Count());
     };
     return table.Do(writer);
 }
