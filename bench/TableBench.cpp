@@ -131,15 +131,29 @@ void Load(benchmark::State& state) {
 }
 
 /// A table in which every value is doubtful: as many marks as there can be.
-void PasteOfDoubtfulValues(benchmark::State& state) {
-    Table table;
-    frmData2& form = table.Open();
+std::string DoubtfulBlock() {
     std::string text;
     for (int row = 0; row < rows; ++row)
         text += "2750\t-1\t9000." + std::to_string(row) + "\tx\tx\tx\tx\tx\n";
+    return text;
+}
+
+void PasteOfDoubtfulValues(benchmark::State& state) {
+    Table table;
+    frmData2& form = table.Open();
+    const std::string text = DoubtfulBlock();
     for (auto _ : state)
         form.tblData.UserPaste(text);
     if (form.tblData.CellMarks().size() < 8 * rows) state.SkipWithError("marks are missing");
+}
+
+void TypeCellAmongDoubtfulValues(benchmark::State& state) {
+    Table table;
+    frmData2& form = table.Open();
+    form.tblData.UserPaste(DoubtfulBlock());
+    int typed = 0;
+    for (auto _ : state)
+        form.tblData.UserCell(8000, 3, std::to_string(typed++ % 90));
 }
 
 /// One typed cell in the full table.
@@ -283,6 +297,7 @@ BENCHMARK(TypeCell)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCellOfACurve)->Unit(benchmark::kMillisecond);
 BENCHMARK(UndoOfPaste)->Unit(benchmark::kMillisecond);
 BENCHMARK(PasteOfDoubtfulValues)->Unit(benchmark::kMillisecond);
+BENCHMARK(TypeCellAmongDoubtfulValues)->Unit(benchmark::kMillisecond);
 BENCHMARK(Clear)->Unit(benchmark::kMillisecond);
 BENCHMARK(TenthOfAll)->Unit(benchmark::kMillisecond);
 BENCHMARK(FromTwoDimensions)->Unit(benchmark::kMillisecond);

@@ -29,10 +29,10 @@ FindingList::FindingList(const TableRules& rules, ui::Grid& grid, ui::ListBox& l
 }
 
 void FindingList::FindAgain() {
-    FindAgain(grid_.FixedRows(), grid_.Rows() - 1);
+    FindAgain(grid_.FixedRows(), grid_.Rows() - 1, true);
 }
 
-void FindingList::FindAgain(int firstRow, int lastRow) {
+void FindingList::FindAgain(int firstRow, int lastRow, bool valuesChanged) {
     const int gone = grid_.Rows();
     findings_.erase(findings_.lower_bound(gone), findings_.end());
     firstRow = std::max(firstRow, grid_.FixedRows());
@@ -44,8 +44,12 @@ void FindingList::FindAgain(int firstRow, int lastRow) {
         else
             findings_[row] = std::move(found);
     }
-    const auto [firstHint, lastHint] = HintAgain();
-    Mark(std::min(firstRow, firstHint), std::max(lastRow, lastHint));
+    if (valuesChanged) {
+        const auto [firstHint, lastHint] = HintAgain();
+        firstRow = std::min(firstRow, firstHint);
+        lastRow = std::max(lastRow, lastHint);
+    }
+    Mark(firstRow, lastRow);
     grid_.MarkRows(gone, std::numeric_limits<int>::max(), {});
     ShowLines();
 }

@@ -19,10 +19,10 @@ public:
     FindingList(const FindingList&) = delete;
     FindingList& operator=(const FindingList&) = delete;
 
-    /// Asks for the findings of these rows and for all hints, and shows what has changed. Rows that
-    /// are no longer in the table lose theirs.
-    void FindAgain(int firstRow, int lastRow);
-    /// The same for all rows.
+    /// Asks for the findings of these rows and, when the values have changed, for all hints, and
+    /// shows what is new. Rows that are no longer in the table lose theirs.
+    void FindAgain(int firstRow, int lastRow, bool valuesChanged);
+    /// Asks for all.
     void FindAgain();
     bool HasHint(int row) const { return hints_.contains(row); }
     /// To the next finding behind the selected cell (1), or in front of it (-1); around at the

@@ -1,5 +1,6 @@
 #include "grid/TableEditor.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "reference/Text.h"
@@ -45,7 +46,9 @@ void TableEditor::WireTable() {
     cell_.OnKey = [this](ui::Key& key) { CellKeys(key); };
     cell_.OnLostFocus = [this] { EndTyping(); };
     history_.OnChange = [this] {
-        findings_.FindAgain(history_.FirstRow(), history_.LastRow());
+        const bool valuesChanged = std::ranges::any_of(
+            rules_.ValueColumns(), [this](int column) { return history_.Concerns(column); });
+        findings_.FindAgain(history_.FirstRow(), history_.LastRow(), valuesChanged);
         blocks_.TellAgain();
     };
 }

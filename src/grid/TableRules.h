@@ -33,7 +33,8 @@ public:
     /// What is to be said of the cells of one row; none for an empty one. It is asked again when
     /// the row has changed.
     virtual std::vector<Finding> FindingsOf(int row) const = 0;
-    /// What only the whole table shows of its rows; it is asked again after every change.
+    /// What only the values of the whole table show of its rows; it is asked again when any of them
+    /// has changed.
     virtual std::vector<Finding> Hints() const { return {}; }
     /// Adds to a step what follows from the change of a cell, which held another text before.
     virtual void Follow(TableEdit&, int, int, const std::string&, const EnteredColumns&) const {}

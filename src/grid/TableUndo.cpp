@@ -199,8 +199,11 @@ void TableUndo::Redo() {
 void TableUndo::Tell(const Step& step) {
     firstRow_ = grid_.Rows();
     lastRow_ = grid_.FixedRows();
+    const bool more = !step.rows.empty() || !step.widths.empty() || step.beside;
+    columns_.assign(static_cast<std::size_t>(grid_.Columns()), more);
     for (const Change& change : step.changes) {
         if (!change.IsOfCell() || change.row < grid_.FixedRows()) continue;
+        if (!more) columns_[static_cast<std::size_t>(change.column)] = true;
         firstRow_ = std::min(firstRow_, change.row);
         lastRow_ = std::max(lastRow_, change.row);
     }
@@ -216,6 +219,11 @@ void TableUndo::Tell(const Step& step) {
         grid_.Select({row, column, row, column});
     }
     if (OnChange) OnChange();
+}
+
+bool TableUndo::Concerns(int column) const {
+    const auto at = static_cast<std::size_t>(column);
+    return at >= columns_.size() || columns_[at];
 }
 
 void TableUndo::Clear() {

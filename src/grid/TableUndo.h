@@ -53,6 +53,8 @@ public:
     /// Rows from the first changed to the last changed by the last step, done or taken back.
     int FirstRow() const { return firstRow_; }
     int LastRow() const { return lastRow_; }
+    /// Whether that step changed cells of this column, or more than cells.
+    bool Concerns(int column) const;
 
     /// Follows every step, done, taken back or done again.
     std::function<void()> OnChange;
@@ -97,6 +99,7 @@ private:
     std::size_t done_ = 0;
     int firstRow_ = 0;
     int lastRow_ = 0;
+    std::vector<bool> columns_; // Concerns
 };
 
 } // namespace vexora

@@ -59,6 +59,7 @@ public:
         return found;
     }
     std::vector<Finding> Hints() const override {
+        ++looked;
         std::vector<Finding> hints;
         std::map<std::string, int> first;
         for (int row = 1; row < tblData.Rows(); ++row) {
@@ -81,6 +82,7 @@ public:
     }
 
     mutable int asked = 0;         // rows whose findings were asked for
+    mutable int looked = 0;        // times that hints were asked for
     mutable std::size_t shown = 0; // rows of the block that was shown
     bool wanted = true;
     TableEditor table{*this,

@@ -59,11 +59,20 @@ TEST_F(FindingListTest, OneTypedCellAsksForItsRowAlone) {
     EXPECT_EQ(form.lstFindings.Count(), 201);
     EXPECT_EQ(form.lstFindings.Item(200), "... and 400 more");
     EXPECT_EQ(form.tblData.CellMarks().size(), 600u);
-    form.asked = 0;
+    form.asked = form.looked = 0;
     form.tblData.UserCell(250, 2, "1");
     EXPECT_EQ(form.asked, 1);
     EXPECT_EQ(form.tblData.CellMarks().size(), 599u);
     EXPECT_EQ(form.lstFindings.Item(200), "... and 399 more");
+    EXPECT_EQ(form.looked, 1);
+    form.tblData.UserCell(250, 1, "b"); // no value
+    EXPECT_EQ(form.asked, 2);
+    EXPECT_EQ(form.looked, 1);
+    form.mnuUndo.UserClick();
+    form.mnuUndo.UserClick();
+    EXPECT_EQ(form.asked, 4);
+    EXPECT_EQ(form.looked, 2);
+    EXPECT_EQ(form.lstFindings.Item(200), "... and 400 more");
 }
 
 } // namespace
