@@ -8,7 +8,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
-#include "records/RecordReader.h"
+#include "shell/DocumentText.h"
 #include "records/clsR.h"
 #include "records/clsTwo.h"
 #include "reference/Numbers.h"
@@ -263,7 +263,7 @@ struct Document : Table {
         form.tvwTree.Clear();
         globals.recR.Clear();
         globals.ForgetCurrent();
-        whole = ReadRecords(text, ReadPurpose::Look).whole;
+        whole = ReadDocument(text, ReadPurpose::Look).whole;
     }
 
     struct TreeForm : ui::Form {
@@ -286,7 +286,7 @@ void WriteDocument(benchmark::State& state) {
     document.Read();
     std::string written;
     for (auto _ : state)
-        written = PrintDocument();
+        written = DocumentAsRecords();
     if (written.size() < document.text.size() / 2) state.SkipWithError("lines are missing");
 }
 

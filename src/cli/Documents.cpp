@@ -8,10 +8,10 @@
 
 #include "cli/ExitCodes.h"
 #include "cli/OpenedDocument.h"
-#include "export/ExportDocument.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
 #include "reference/SafeFile.h"
+#include "shell/DocumentText.h"
 
 namespace vexora {
 
@@ -56,7 +56,7 @@ int Export(const Arguments& arguments) {
         return kExitCannotWrite;
     }
     TellLinesNotKept(document);
-    const std::string xml = ExportDocument(ui::TheDesktop().Today());
+    const std::string xml = DocumentAsXml(ui::TheDesktop().Today());
     if (arguments.xml.empty()) {
         std::cout << xml;
     } else if (const std::string error = WriteSafely(document.Files(), arguments.xml, xml, false);

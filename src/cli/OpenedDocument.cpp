@@ -4,9 +4,9 @@
 
 #include "cli/ExitCodes.h"
 #include "host/FindPlaces.h"
-#include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "reference/Text.h"
+#include "shell/DocumentText.h"
 #include "shell/StartUp.h"
 
 namespace vexora {
@@ -50,7 +50,7 @@ int OpenedDocument::Open(const std::optional<std::string>& home, const std::stri
         std::cerr << path_ << ": error: " << error << '\n';
         return kExitUnreadable;
     }
-    const ReadResult result = ReadRecords(*text, ReadPurpose::Look);
+    const ReadResult result = ReadDocument(*text, ReadPurpose::Look);
     if (!result.whole) {
         Tell(result.faultLine, true, "the document was not read: " + result.fault);
         return kExitUnreadable;

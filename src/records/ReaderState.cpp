@@ -5,6 +5,7 @@
 #include "records/DataReader.h"
 #include "records/LineWriter.h"
 #include "records/OpenRecord.h"
+#include "records/RecordReader.h"
 #include "records/RegistryNumbers.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
@@ -12,7 +13,6 @@
 #include "records/clsS.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -32,7 +32,10 @@ void ReadSource(ReaderState& state, std::string_view line) {
     if (globals.CurrentR) globals.CurrentR->CheckPresence();
     auto source = std::make_shared<clsR>();
     source->Line = state.lineNumber;
-    if (!source->Load(line))
+    Notices told;
+    const bool isValid = source->Load(line, told);
+    state.Tell(told);
+    if (!isValid)
         return state.AbandonSaid("Invalid reference identification: " + std::string(Trim(line)));
     if (const auto known = globals.recR.Item(source->Source()))
         source = known;
@@ -48,7 +51,8 @@ void ReadSource(ReaderState& state, std::string_view line) {
 void ReadDescription(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
     if (!source) return state.AbandonIncomplete(line);
-    source->LoadJ(line);
+    const std::string question = source->LoadJ(line);
+    if (!question.empty() && state.talk.Confirm(question)) state.Tell({source->TakeNextNumber()});
     source->Synchronize();
 }
 
@@ -57,7 +61,7 @@ void ReadAuthor(ReaderState& state, std::string_view line) {
     if (!source) return state.AbandonIncomplete(line);
     auto author = std::make_shared<clsAuthor>();
     author->Line = state.lineNumber;
-    author->Load(line);
+    state.Tell(author->Load(line));
     const auto twin = source->recAuthor.Item(author->Key());
     if (twin && twin->LASTNM == author->LASTNM && twin->INITNM == author->INITNM) return;
     source->recAuthor.Add(author, author->Key());
@@ -71,7 +75,10 @@ void ReadCompound(ReaderState& state, std::string_view line) {
     if (!globals.CurrentR) return state.AbandonIncomplete(line);
     auto compound = std::make_shared<clsL>();
     compound->Line = state.lineNumber;
-    if (!compound->Load(line)) {
+    Notices told;
+    const bool isValid = compound->Load(line, told);
+    state.Tell(told);
+    if (!isValid) {
         if (compound->RN.empty()) return state.AbandonIncomplete(line);
         state.endsProgram = true;
         return state.AbandonSaid("Invalid RN: RN = " + compound->RN);
@@ -92,11 +99,11 @@ void ReadCompound(ReaderState& state, std::string_view line) {
 }
 
 /// The number with its check digit set right, told unless the ^L line has told it.
-std::string MendedRN(const ReaderState& state, const std::string& rn) {
+std::string MendedRN(ReaderState& state, const std::string& rn) {
     const auto known = state.mendedRN.find(rn);
     if (known != state.mendedRN.end()) return known->second;
     const std::string mended = WithCheckDigit(rn);
-    if (mended != rn) ui::Say("RN was corrected: from " + rn + " to " + mended);
+    if (mended != rn) state.Tell({{"RN was corrected: from " + rn + " to " + mended, {}}});
     return mended;
 }
 
@@ -140,7 +147,7 @@ void ReadSample(ReaderState& state, std::string_view line) {
 }
 
 void ReadHeader(ReaderState& state, std::string_view line) {
-    state.pending.Load(line);
+    state.Tell(state.pending.Load(line));
     ++state.pendingLines;
 }
 
@@ -215,8 +222,13 @@ void ReaderState::AbandonIncomplete(std::string_view line) {
     Abandon("Incomplete record: " + std::string(Trim(line)));
 }
 
+void ReaderState::Tell(const Notices& told) {
+    for (const Notice& notice : told)
+        talk.Say(notice);
+}
+
 void ReaderState::Abandon(const std::string& text, const std::string& title) {
-    ui::Say(text, title);
+    talk.Say({text, title});
     AbandonSaid(title.empty() ? text : title + ": " + text);
 }
 

@@ -7,10 +7,12 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "records/Notice.h"
 #include "records/clsA.h"
 
 namespace vexora {
 
+class ReadTalk;
 class clsL;
 class clsS;
 class OpenRecord;
@@ -18,6 +20,9 @@ struct DataLines;
 
 /// What the reader of a record file remembers from one line to the next. One lives for one read.
 struct ReaderState {
+    explicit ReaderState(ReadTalk& whoListens) : talk(whoListens) {}
+
+    ReadTalk& talk;
     clsA pending; // header and factor that stand for the next data record
 
     int lineNumber = 0;
@@ -49,9 +54,11 @@ struct ReaderState {
 
     /// Drops the read for a line that lacks a field or has no place.
     void AbandonIncomplete(std::string_view line);
-    /// Shows the message and drops the read.
+    /// Says what a record has to say.
+    void Tell(const Notices& told);
+    /// Says the message and drops the read.
     void Abandon(const std::string& text, const std::string& title = {});
-    /// The same for a message that has been shown already.
+    /// The same for a message that has been said already.
     void AbandonSaid(const std::string& text);
 };
 

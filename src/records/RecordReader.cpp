@@ -7,7 +7,6 @@
 #include "records/Walk.h"
 #include "records/clsR.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -34,7 +33,7 @@ void EmptyDocument() {
 }
 
 /// Sources that the reference database lacks are added there all at once, the read being whole.
-void RegisterNewSources() {
+void RegisterNewSources(ReadTalk& talk) {
     Database& known = Globals().CompoundDb();
     try {
         std::optional<Transaction> transaction;
@@ -46,12 +45,12 @@ void RegisterNewSources() {
         }
         if (transaction) transaction->Commit();
     } catch (const DatabaseError& error) {
-        ui::Say(error.what());
+        talk.Say({error.what(), {}});
     }
 }
 
-void Finish(ReadPurpose purpose) {
-    if (purpose == ReadPurpose::Work) RegisterNewSources();
+void Finish(ReadPurpose purpose, ReadTalk& talk) {
+    if (purpose == ReadPurpose::Work) RegisterNewSources(talk);
     for (const auto& source : Globals().recR) {
         source->Synchronize();
         source->CheckPresence();
@@ -78,17 +77,16 @@ void ReadLines(std::string_view text, ReaderState& state) {
 
 } // namespace
 
-ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
-    const ui::HourglassScope hourglass;
+ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpose) {
     KVOGlobal& globals = Globals();
     globals.DataContext.clear();
-    ReaderState state;
+    ReaderState state(talk);
     try {
         {
             const LabelsLater unlabelled;
             ReadLines(text, state);
         }
-        if (!state.isAbandoned) Finish(purpose);
+        if (!state.isAbandoned) Finish(purpose, talk);
     } catch (const DatabaseError& error) { // a damaged database shows where it is looked into
         state.Abandon(error.what());
     }
@@ -100,22 +98,21 @@ ReadResult ReadRecords(std::string_view text, ReadPurpose purpose) {
     EmptyDocument();
     result.fault = state.fault;
     result.faultLine = state.lineNumber;
-    if (state.endsProgram) ui::TheDesktop().EndProgram();
+    result.endsProgram = state.endsProgram;
     return result;
 }
 
-std::string PrintDocument() {
+PrintedDocument PrintDocument() {
     LineWriter out;
     for (const auto& source : Globals().recR) {
         source->PrepareOutput();
         Walk(*source, [&out](const Record& record) { record.Print(out); });
     }
-    return out.Text();
+    return {out.Text(), out.Notices()};
 }
 
 void RefreshLabels() {
     if (!Globals().tvwTree) return;
-    const ui::HourglassScope hourglass;
     const PropertyLabels labels;
     WalkDocument([](Record& record) { record.Refresh(); });
 }

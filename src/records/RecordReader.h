@@ -2,15 +2,29 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "records/Notice.h"
 
 namespace vexora {
 
 /// What came of reading a record file.
 struct ReadResult {
-    bool whole = false;   // false: the read was abandoned and the document is empty
-    int linesNotKept = 0; // lines of kinds of data that this edition reads over
-    std::string fault;    // the message that was shown when the read was abandoned
-    int faultLine = 0;    // line of the file, from 1
+    bool whole = false;       // false: the read was abandoned and the document is empty
+    int linesNotKept = 0;     // lines of kinds of data that this edition reads over
+    std::string fault;        // the message that was shown when the read was abandoned
+    int faultLine = 0;        // line of the file, from 1
+    bool endsProgram = false; // the read found what this program cannot go on with
+};
+
+/// Who hears what comes up while a document is read, and answers. Both come in the order of the
+/// lines, as long as the read goes on.
+class ReadTalk {
+public:
+    virtual ~ReadTalk() = default;
+    virtual void Say(const Notice& notice) = 0;
+    /// The answer to a question of Yes or No.
+    virtual bool Confirm(const std::string& question) = 0;
 };
 
 /// Work adds sources that the reference database lacks to it; Look leaves it as it is.
@@ -20,12 +34,17 @@ enum class ReadPurpose { Work, Look };
 /// text may be UTF-8 or, line by line, Windows-1252, with any line ends. A bad record is told and
 /// the whole read is dropped: the document is empty then, never half loaded. Lines with a tag that
 /// no edition knows are passed over.
-ReadResult ReadRecords(std::string_view text, ReadPurpose purpose = ReadPurpose::Work);
+ReadResult ReadRecords(std::string_view text, ReadTalk& talk,
+                       ReadPurpose purpose = ReadPurpose::Work);
 
-/// The document as a record file. It may ask for the source of the document (see clsR::PrintR).
+/// The document as a record file, and what its records have to say to the user about it.
+struct PrintedDocument {
+    std::string text;
+    std::vector<std::string> notices;
+};
 /// Throws SaveRefused (LineWriter.h), whose text is for the user, for a record that cannot be
-/// written truly.
-std::string PrintDocument();
+/// written truly. Nothing in memory changes but the letters of compounds and source.
+PrintedDocument PrintDocument();
 
 /// Rewrites the text of every node from its record.
 void RefreshLabels();

@@ -4,7 +4,6 @@
 #include "records/LineWriter.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 #include <cstdint>
 #include <vector>
@@ -16,12 +15,12 @@ namespace {
 // Bit 2, the recommendation to reject the value, is not taken over from a file.
 constexpr std::uint64_t kFlagMask = 0x7FFB;
 
-std::uint64_t HexFlag(std::string_view word, std::string_view lineSoFar) {
+std::uint64_t HexFlag(std::string_view word, bool& isValid) {
     std::uint64_t value = 0;
     for (const char c : word) {
         const bool isDigit = c >= '0' && c <= '9';
         if (!isDigit && (c < 'A' || c > 'F')) {
-            ui::Say(std::string(Trim(lineSoFar)), "Invalid PRPFLAG");
+            isValid = false;
             break;
         }
         value = value * 16 + static_cast<std::uint64_t>(isDigit ? c - '0' : c - 'A' + 10);
@@ -36,9 +35,9 @@ std::uint64_t WholePart(std::string_view word) {
     return static_cast<std::uint64_t>(static_cast<std::int64_t>(value));
 }
 
-std::string FlagOf(std::string_view word, std::string_view lineSoFar) {
+std::string FlagOf(std::string_view word, bool& isValid) {
     if (word.empty() || word == "&") return "0";
-    const std::uint64_t flag = IsNumeric(word) ? WholePart(word) : HexFlag(word, lineSoFar);
+    const std::uint64_t flag = IsNumeric(word) ? WholePart(word) : HexFlag(word, isValid);
     return std::to_string(flag & kFlagMask);
 }
 
@@ -66,19 +65,24 @@ std::string ClosedComment(std::string_view rest) {
 
 } // namespace
 
-void clsA::Load(std::string_view line) {
+Notices clsA::Load(std::string_view line) {
+    Notices told;
     WordReader words(line);
     if (words.NextWord() == "^A") {
         NOTE = UnderscoresToBlanks(WithoutPlaceholder(words.NextWord()));
         SOURCEDOC = WithoutPlaceholder(words.NextWord());
         EXPPURPOSE = WithoutPlaceholder(words.NextWord());
         const std::string_view flag = words.NextWord();
-        PRPFLAG = FlagOf(flag, line.substr(0, line.size() - words.Rest().size()));
+        bool isValid = true;
+        PRPFLAG = FlagOf(flag, isValid);
+        const std::string_view lineSoFar = line.substr(0, line.size() - words.Rest().size());
+        if (!isValid) told.push_back({std::string(Trim(lineSoFar)), "Invalid PRPFLAG"});
         COMPILER = WithoutPlaceholder(words.NextWord());
         CONTRIBUTOR = WithoutPlaceholder(words.NextWord());
         DATEADDED = SlashedDate(WithoutPlaceholder(words.NextWord()));
     }
     DATACOMMENT = ClosedComment(words.Rest());
+    return told;
 }
 
 void clsA::TakeHeader(const clsA& other) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "records/Notice.h"
 #include "reference/ShortText.h"
 
 namespace vexora {
@@ -22,8 +23,8 @@ public:
     std::string DATACOMMENT;
     double Factor = 0; // pending factor of a ^M line, 0 when none
 
-    /// Reads a ^A or ^a line. A flag word that is no number is told and stops being read.
-    void Load(std::string_view line);
+    /// Reads a ^A or ^a line. A flag word that is no number stops being read, which is told.
+    Notices Load(std::string_view line);
     /// The eight fields become those of another header; Factor stays.
     void TakeHeader(const clsA& other);
     void PrintHeader(LineWriter& out, std::string_view comment) const;

@@ -3,7 +3,6 @@
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 #include <array>
 #include <vector>
@@ -90,7 +89,7 @@ bool clsAuthor::CompareName(std::string_view fullName) const {
     return LettersOf(FULLNM) == LettersOf(fullName);
 }
 
-void clsAuthor::Load(std::string_view line) {
+Notices clsAuthor::Load(std::string_view line) {
     std::string text(line);
     NextHashField(text);
     AUTHSEQNO = NextHashField(text);
@@ -98,7 +97,7 @@ void clsAuthor::Load(std::string_view line) {
     INITNM = NextHashField(text);
     FULLNM = Trim(NextHashField(text));
     isNew = !FULLNM.empty();
-    if (isNew) return;
+    if (isNew) return {};
     const Database& known = Globals().CompoundDb();
     if (known.IsOpen()) {
         const Recordset row =
@@ -107,7 +106,8 @@ void clsAuthor::Load(std::string_view line) {
                         {WithoutTrailingBlanks(LASTNM), WithoutTrailingBlanks(INITNM)});
         if (!row.IsEnd()) FULLNM = row.Text("FULLNM");
     }
-    if (FULLNM.empty()) ui::Say("Undefined author " + LASTNM + INITNM + ":");
+    if (!FULLNM.empty()) return {};
+    return {{"Undefined author " + LASTNM + INITNM + ":", {}}};
 }
 
 void clsAuthor::Print(LineWriter& out) const {

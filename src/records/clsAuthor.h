@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "records/Notice.h"
 #include "records/Record.h"
 
 namespace vexora {
@@ -28,7 +29,7 @@ public:
     void CreateAbbr();
     /// Whether a full name has the same letters.
     bool CompareName(std::string_view fullName) const;
-    void Load(std::string_view line);
+    Notices Load(std::string_view line);
     void Print(LineWriter& out) const;
 
     std::string Key() const override { return AUTHSEQNO; }

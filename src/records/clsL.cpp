@@ -11,7 +11,6 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
-#include "ui/Desktop.h"
 
 #include <map>
 #include <tuple>
@@ -69,16 +68,16 @@ void clsL::AttachTo(clsR& source) {
     if (source.tNode) MakeNode(source.tNode);
 }
 
-bool clsL::Load(std::string_view line) {
+bool clsL::Load(std::string_view line, Notices& told) {
     WordReader words(line);
     const bool bioLine = words.NextWord() == "BL";
     RN = words.NextWord();
     if (RN.empty()) return false;
     if (!IsNumeric(RN)) {
-        ui::Say("RN = " + RN, "Invalid RN");
+        told.push_back({"RN = " + RN, "Invalid RN"});
         return false;
     }
-    MendCheckDigit();
+    MendCheckDigit(told);
     if (bioLine)
         LoadBio(words);
     else
@@ -86,11 +85,11 @@ bool clsL::Load(std::string_view line) {
     return true;
 }
 
-void clsL::MendCheckDigit() {
+void clsL::MendCheckDigit(Notices& told) {
     const std::string mended = WithCheckDigit(RN);
     if (mended == RN) return;
-    ui::Say("Old RN = " + RN + "\nNew RN = " + mended,
-            "Control digit in RN will be corrected\nPlease review the data!");
+    told.push_back({"Old RN = " + RN + "\nNew RN = " + mended,
+                    "Control digit in RN will be corrected\nPlease review the data!"});
     RN = NewRn = mended;
 }
 

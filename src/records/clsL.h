@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "records/Notice.h"
 #include "records/Record.h"
 #include "ui/Collection.h"
 
@@ -46,10 +47,10 @@ public:
     void SetMe() override;
     void AttachTo(clsR& source);
 
-    /// Reads a ^L or BL line and mends a wrong check digit with a notice; NewRn then holds the
-    /// mended number. False for a line without a number, and with a notice for one that is not
-    /// numeric.
-    bool Load(std::string_view line);
+    /// Reads a ^L or BL line and mends a wrong check digit, which it tells; NewRn then holds the
+    /// mended number. False for a line without a number, and for one that is not numeric, which is
+    /// told.
+    bool Load(std::string_view line, Notices& told);
     void PrintL(LineWriter& out) const;
     /// Of compounds without samples only those that are new to the reference database.
     void Print(LineWriter& out) const override;
@@ -65,7 +66,7 @@ public:
     void ExportAll(XmlWriter& xml) const;
 
 private:
-    void MendCheckDigit();
+    void MendCheckDigit(Notices& told);
     void LoadPlain(WordReader& words);
     void LoadBio(WordReader& words);
 };

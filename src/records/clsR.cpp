@@ -8,7 +8,6 @@
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 #include <array>
 
@@ -34,6 +33,10 @@ std::string ForFileName(std::string name) {
     for (char& c : name)
         if (c == '/' || c == '\x7f' || (c >= '\0' && c < ' ')) c = '_';
     return name;
+}
+
+bool IsOriginCode(std::string_view code) {
+    return code.size() == 1 && kSourceLetters.find(code) != std::string_view::npos;
 }
 
 /// Every header in the document says where the document comes from.
@@ -65,7 +68,7 @@ void clsR::Synchronize() {
     Label(Source());
 }
 
-bool clsR::Load(std::string_view line) {
+bool clsR::Load(std::string_view line, Notices& told) {
     WordReader words(line);
     words.NextWord();
     YEARPUB = words.NextWord();
@@ -74,14 +77,13 @@ bool clsR::Load(std::string_view line) {
     AUTHORN = Trim(words.Rest());
     SOURCEDOC = "&";
     if (IsSequenceNumber(AUTHORN)) return true;
-    ui::Say("Invalid reference identification\n" + Source());
-    if (AUTHORN.empty()) ui::Say("Incomplete record: " + std::string(Trim(line)));
+    told.push_back({"Invalid reference identification\n" + Source(), {}});
+    if (AUTHORN.empty()) told.push_back({"Incomplete record: " + std::string(Trim(line)), {}});
     AUTHORN.clear();
     return false;
 }
 
 void clsR::PrepareOutput() {
-    AskSourceOfDocument();
     for (const auto& compound : recL) {
         // Letters 2 to 5 tell of mixtures and reactions, which this edition does not keep.
         compound->SYSTYPES = compound->SYSTYPES.substr(0, 1) + "NNNN";
@@ -106,21 +108,20 @@ void clsR::PrintDescription(LineWriter& out) const {
         author->Print(out);
 }
 
-void clsR::AskSourceOfDocument() {
-    const auto isKnown = [](const std::string& code) {
-        return code.size() == 1 && kSourceLetters.find(code) != std::string_view::npos;
-    };
-    if (isKnown(SOURCEDOC)) return;
-    const auto answer = ui::TheDesktop().Ask({"Enter the source of document " + Source() +
-                                                  "\nO - original"
-                                                  "\nA - Chemical Abstracts"
-                                                  "\nL - Beilstein, on-line"
-                                                  "\nZ - extracted from another data base"
-                                                  "\nX - other document",
-                                              "", "O"});
-    const std::string letter = UpperAscii(Trim(answer.value_or(""))).substr(0, 1);
-    SOURCEDOC = isKnown(letter) ? letter : "&";
-    if (isKnown(letter)) Stamp(*this);
+std::string clsR::QuestionOfOrigin() const {
+    if (IsOriginCode(SOURCEDOC)) return {};
+    return "Enter the source of document " + Source() +
+           "\nO - original"
+           "\nA - Chemical Abstracts"
+           "\nL - Beilstein, on-line"
+           "\nZ - extracted from another data base"
+           "\nX - other document";
+}
+
+void clsR::TakeOrigin(std::string_view answer) {
+    const std::string letter = UpperAscii(Trim(answer)).substr(0, 1);
+    SOURCEDOC = IsOriginCode(letter) ? letter : "&";
+    if (IsOriginCode(letter)) Stamp(*this);
 }
 
 void clsR::EachChild(const std::function<void(Record&)>& visit) const {

@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 
+#include "records/Notice.h"
 #include "records/Record.h"
 #include "ui/Collection.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
+
+namespace ui {
+struct Date;
+}
 
 class clsAuthor;
 class clsBP;
@@ -57,11 +61,15 @@ public:
     void Synchronize();
 
     /// Reads a ^R line; on a bad one tells so, leaves AUTHORN empty and answers false.
-    bool Load(std::string_view line);
+    bool Load(std::string_view line, Notices& told);
     /// Reads a ^J line and compares the source with the reference database: an unknown source is to
-    /// be added there (toRegister) once the whole file is read; one of the same identity but
-    /// another text is asked about, and gets the next free number when it is another source.
-    void LoadJ(std::string_view line);
+    /// be added there (toRegister) once the whole file is read. The answer is a question about one
+    /// that stands there with another text, else empty; when the two are different sources, this
+    /// one is to take the next number.
+    std::string LoadJ(std::string_view line);
+    /// Takes the next free number of its authors and year, and is to be registered under it. The
+    /// document is changed thereby, which is told.
+    Notice TakeNextNumber();
     void PrintR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintR(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;
@@ -79,17 +87,18 @@ public:
     /// The four parts of the identity in one word, fit for a file name.
     std::string IdentityName() const;
 
-    /// What stands before both saving and exporting: asks for SOURCEDOC when it is not known, and
-    /// brings SYSTYPES and the property letters up to date.
+    /// The question to ask before the document is saved or exported when SOURCEDOC does not say
+    /// where it was taken from, else empty; the answer goes in by TakeOrigin, its first letter
+    /// being the code. Another letter leaves it open.
+    std::string QuestionOfOrigin() const;
+    void TakeOrigin(std::string_view answer);
+    /// Brings SYSTYPES and the property letters up to date, as saving and exporting need them.
     void PrepareOutput();
 
     void ExportR(XmlWriter& xml, const ui::Date& today) const;
     void ExportAll(XmlWriter& xml, const ui::Date& today);
 
 private:
-    void AskSourceOfDocument();
-    void CompareWithDatabase();
-    void TakeNextNumber();
     void PrintDescription(LineWriter& out) const;
 };
 

@@ -4,7 +4,6 @@
 #include "records/LineWriter.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 #include <algorithm>
 
@@ -38,7 +37,7 @@ int OneAboveGreatest(Recordset rows) {
 
 } // namespace
 
-void clsR::LoadJ(std::string_view line) {
+std::string clsR::LoadJ(std::string_view line) {
     std::string text(line);
     const auto next = [&text] { return WithoutPlaceholder(NextHashField(text)); };
     next();
@@ -53,22 +52,14 @@ void clsR::LoadJ(std::string_view line) {
     const std::size_t comma = SSOURCE.rfind(", ");
     if (TYPDOC == "S" && comma != std::string::npos) ManuscriptID = SSOURCE.substr(comma + 2);
     isNew = true;
-    if (Globals().CompoundDb().IsOpen()) CompareWithDatabase();
-}
-
-void clsR::CompareWithDatabase() {
+    if (!Globals().CompoundDb().IsOpen()) return {};
     const auto known = KnownSource(*this);
-    if (!known) {
-        toRegister = true;
-        return;
-    }
-    if (TrimBlanks(*known) == TrimBlanks(SSOURCE)) return;
-    if (ui::AskYesNo(SSOURCE + "\nDatabase: " + *known + "\n" + Source() +
-                     ": Are these sources different?"))
-        TakeNextNumber();
+    toRegister = !known;
+    if (!known || TrimBlanks(*known) == TrimBlanks(SSOURCE)) return {};
+    return SSOURCE + "\nDatabase: " + *known + "\n" + Source() + ": Are these sources different?";
 }
 
-void clsR::TakeNextNumber() {
+Notice clsR::TakeNextNumber() {
     auto& sources = Globals().recR;
     const auto me = As<clsR>();
     const bool attached = sources.Remove(this);
@@ -77,7 +68,7 @@ void clsR::TakeNextNumber() {
     Synchronize();
     toRegister = true;
     Globals().Saved = false;
-    ui::Say("Please adjust file name after closing it");
+    return {"Please adjust file name after closing it", {}};
 }
 
 int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2) {

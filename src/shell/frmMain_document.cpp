@@ -2,14 +2,13 @@
 
 #include <functional>
 
-#include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
-#include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "reference/Database.h"
 #include "reference/SafeFile.h"
 #include "shell/DocumentChecks.h"
+#include "shell/DocumentText.h"
 #include "shell/Paths.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -122,11 +121,7 @@ bool frmMain::TakeFile(const std::string& path) {
         ui::Say("The file " + path + " cannot be read.\n" + error);
         return false;
     }
-    ReadResult result;
-    {
-        const ui::HourglassScope hourglass;
-        result = ReadRecords(*text);
-    }
+    const ReadResult result = ReadDocument(*text);
     globals.DialogAccepted = false;
     if (!result.whole || globals.recR.IsEmpty()) {
         if (result.whole) ui::Say("The file " + path + " holds no source record.");
@@ -170,7 +165,7 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
-    const std::string error = WriteText(FileName, PrintDocument, true);
+    const std::string error = WriteText(FileName, DocumentAsRecords, true);
     if (error.empty()) {
         globals.Saved = true;
         globals.DialogAccepted = false;
@@ -235,7 +230,7 @@ void frmMain::WriteExport(const std::string& target) {
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (!FileName.empty() && files.Resolve(target) == files.Resolve(FileName))
         return ui::Say("The export cannot take the place of the record file " + FileName + ".");
-    const auto print = [] { return vexora::ExportDocument(ui::TheDesktop().Today()); };
+    const auto print = [] { return DocumentAsXml(ui::TheDesktop().Today()); };
     const std::string error = WriteText(target, print, false);
     if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
 }

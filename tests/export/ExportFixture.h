@@ -2,9 +2,8 @@
 // reader of its own and must be plain ASCII.
 #pragma once
 
-#include "export/ExportDocument.h"
-#include "records/RecordReader.h"
 #include "reference/Text.h"
+#include "shell/DocumentText.h"
 #include "support/DocumentFixture.h"
 
 #include <libxml/parser.h>
@@ -26,9 +25,9 @@ protected:
         form.tvwTree.Clear();
         globals.recR.Clear();
         globals.ForgetCurrent();
-        const ReadResult result = ReadRecords(records, ReadPurpose::Look);
+        const ReadResult result = ReadDocument(records, ReadPurpose::Look);
         EXPECT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
-        const std::string text = ExportDocument({2026, 1, 5});
+        const std::string text = DocumentAsXml({2026, 1, 5});
         EXPECT_TRUE(IsWellFormed(text)) << text;
         EXPECT_TRUE(std::all_of(text.begin(), text.end(), [](char c) {
             return c == '\n' || c == '\t' || (c > 31 && c < 127);

@@ -213,7 +213,7 @@ TEST_F(ValueExport, FiguresAreBroughtToTheUnitOfTheValueOnce) {
     clsX item = record.Statements(1);
     item.inSystemUnits = false;
     record.Statements(1, item);
-    const std::string text = ExportDocument({2026, 1, 5});
+    const std::string text = DocumentAsXml({2026, 1, 5});
     EXPECT_NE(text.find("<nExpandUncertValue>0.10<"), std::string::npos) << text;
 }
 

@@ -1,4 +1,4 @@
-#include "export/ExportDocument.h"
+#include "shell/DocumentText.h"
 
 #include "host/XmlPath.h"
 #include "records/DocumentCheck.h"
@@ -17,7 +17,7 @@ protected:
                          const std::string& comment = "&") {
         Read(test::kHead + "^A & O & & & & & " + comment + "\n" + definition + "\n" + rows +
              "^M 0\n");
-        const std::string text = ExportDocument({2026, 5, 1});
+        const std::string text = DocumentAsXml({2026, 5, 1});
         xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), "export",
                                            nullptr, XML_PARSE_NOERROR | XML_PARSE_NONET);
         EXPECT_NE(document, nullptr) << text;

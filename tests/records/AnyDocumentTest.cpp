@@ -114,7 +114,7 @@ TEST_F(AnyDocument, SettlesAtTheFirstSave) {
     for (unsigned seed = 1; seed <= documents && !HasFailure(); ++seed) {
         const std::string document = AnyLines(seed).Document();
         const std::string saved = LoadAndSave(document);
-        EXPECT_EQ(PrintDocument(), saved) << "saving changed\n" << document;
+        EXPECT_EQ(DocumentAsRecords(), saved) << "saving changed\n" << document;
         EXPECT_EQ(LoadAndSave(saved), saved) << document;
     }
 }

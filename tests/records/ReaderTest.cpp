@@ -1,4 +1,4 @@
-#include "records/RecordReader.h"
+#include "shell/DocumentText.h"
 
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
@@ -24,7 +24,7 @@ protected:
     }
     void ExpectAbandoned(const std::string& text, int line) {
         globals.Saved = false;
-        const ReadResult result = ReadRecords(text);
+        const ReadResult result = ReadDocument(text);
         EXPECT_FALSE(result.whole) << text;
         EXPECT_EQ(result.faultLine, line) << text;
         EXPECT_NE(result.fault, "");
@@ -35,7 +35,7 @@ protected:
         EXPECT_EQ(desktop.HourglassDepth(), 0);
     }
     ReadResult Read(const std::string& text) {
-        const ReadResult result = ReadRecords(text);
+        const ReadResult result = ReadDocument(text);
         EXPECT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
         return result;
     }

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "records/LineWriter.h"
-#include "records/RecordReader.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
+#include "shell/DocumentText.h"
 #include "support/DocumentFixture.h"
 
 #include <string>
@@ -27,13 +27,13 @@ protected:
         form.tvwTree.Clear();
         globals.recR.Clear();
         globals.ForgetCurrent();
-        const ReadResult result = ReadRecords(text);
+        const ReadResult result = ReadDocument(text);
         ASSERT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
         EXPECT_EQ(result.linesNotKept, 0);
     }
     std::string LoadAndSave(const std::string& text) {
         Read(text);
-        return PrintDocument();
+        return DocumentAsRecords();
     }
     clsZ& Value(std::size_t position = 1) const {
         return *globals.recR.Item(std::size_t{1})

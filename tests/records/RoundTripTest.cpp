@@ -1,4 +1,4 @@
-#include "records/RecordReader.h"
+#include "shell/DocumentText.h"
 
 #include "records/RoundTripFixture.h"
 #include "reference/Conversions.h"
@@ -44,7 +44,7 @@ TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
     for (int cycle = 0; cycle < 3; ++cycle) {
         const std::string again = LoadAndSave(saved);
         EXPECT_EQ(again, saved);
-        EXPECT_EQ(PrintDocument(), saved) << "saving changed the document";
+        EXPECT_EQ(DocumentAsRecords(), saved) << "saving changed the document";
     }
     EXPECT_EQ(globals.recR.Item(std::size_t{1})->ManuscriptID, "ab-123");
 }
@@ -54,25 +54,25 @@ TEST_F(RoundTrip, UnitsWithoutALetterGoOutAsFactorAndSystemUnit) {
     const std::string before = kHead + "^A & O & & & & & &\n";
     const std::string value = "^z 1 PC S 1 L G & 220.640 & & &\n";
     Value().PROPERTY_UNIT = "bar";
-    EXPECT_EQ(PrintDocument(), before + "^M 100\n" + value + "^M 0\n");
+    EXPECT_EQ(DocumentAsRecords(), before + "^M 100\n" + value + "^M 0\n");
     Value().PROPERTY_UNIT = "*";
     Value().Factor = 1.1 * 1.1;
     const std::string withFactor = before + "^M 1.21\n" + value + "^M 0\n";
-    EXPECT_EQ(PrintDocument(), withFactor);
+    EXPECT_EQ(DocumentAsRecords(), withFactor);
     EXPECT_EQ(LoadAndSave(withFactor), withFactor);
     EXPECT_EQ(Value().Factor, 1.21);
     EXPECT_NEAR(Value().SystemValue(), 220.64 * 1.21, 1e-9);
 
     Value().isOriginalUnit = false;
-    EXPECT_EQ(PrintDocument(), before + "^Z 1 PC S 1 L G & 220.640 & & &\n");
+    EXPECT_EQ(DocumentAsRecords(), before + "^Z 1 PC S 1 L G & 220.640 & & &\n");
 }
 
 TEST_F(RoundTrip, ASetWhoseUnitHasNoFactorIsNotSaved) {
     Read(kHead + "^A & & & & & & & &\n^z 1 PC S 1 L G & 220.640 & & &\n");
     Value().PROPERTY_UNIT = "nounit";
-    EXPECT_THROW(PrintDocument(), SaveRefused);
+    EXPECT_THROW(DocumentAsRecords(), SaveRefused);
     Value().isOriginalUnit = false;
-    EXPECT_NO_THROW(PrintDocument());
+    EXPECT_NO_THROW(DocumentAsRecords());
 }
 
 TEST_F(RoundTrip, MassBasedUnitsCarryTheMolarMass) {
@@ -82,7 +82,7 @@ TEST_F(RoundTrip, MassBasedUnitsCarryTheMolarMass) {
     EXPECT_EQ(Value().Factor, 0);
     EXPECT_NEAR(Value().SystemValue(), ToSystem("Z", 2256.5, 0, 18.015), 1e-9);
     EXPECT_EQ(Value(2).Factor, 0);
-    const std::string saved = PrintDocument();
+    const std::string saved = DocumentAsRecords();
     EXPECT_NE(saved.find(lines), std::string::npos) << saved;
     EXPECT_EQ(LoadAndSave(saved), saved);
 }
@@ -96,7 +96,7 @@ TEST_F(RoundTrip, AFixedVariableInAUnitWithoutALetterIsConvertedOnce) {
     item.PRPCODE = "P";
     item.UValue = "0.10";
     Value().Statements(1, item);
-    const std::string saved = PrintDocument();
+    const std::string saved = DocumentAsRecords();
     EXPECT_EQ(saved.substr(saved.find(head)),
               head + "^f 1 TB S 1 L 2500 S 300.1 & & &\n"
                      "^X 1 P & - & & & - & & & + & 10 - & & - & & &\n");
@@ -111,7 +111,7 @@ TEST_F(RoundTrip, PrecisionsOfADialogAreConvertedAsDifferencesAndOnlyOnce) {
     value.Header.DATACOMMENT = "text dTB:9: ::Method:X:dTB:0.10:dTB:1%:";
     value.PROPERTY_UNIT = "F";
     const std::string expected = "^A & & & & & & & text dTB:9: ::Method:X:dTB:0.056:dTB:1%:\n";
-    const std::string saved = PrintDocument();
+    const std::string saved = DocumentAsRecords();
     EXPECT_NE(saved.find(expected), std::string::npos) << saved;
     EXPECT_EQ(LoadAndSave(saved), saved);
 }
@@ -181,7 +181,7 @@ TEST_F(RoundTrip, SeparatorsAndLineBreaksInTextsDoNotShiftFields) {
     source.TTITLE = "The #1\r\nfluid";
     source.ABSTRACT = "a\nb";
     source.NOTE = "#";
-    Read(PrintDocument());
+    Read(DocumentAsRecords());
     const clsR& again = *globals.recR.Item(std::size_t{1});
     EXPECT_EQ(again.TTITLE, "The  1 fluid");
     EXPECT_EQ(again.ABSTRACT, "a b");

@@ -1,11 +1,11 @@
 #include "records/clsR.h"
 
 #include "records/LineWriter.h"
-#include "records/RecordReader.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
+#include "shell/DocumentText.h"
 #include "support/DocumentFixture.h"
 
 namespace vexora {
@@ -30,24 +30,24 @@ protected:
 
 TEST_F(Sources, AnUnknownSourceIsAddedOnceTheFileIsWhole) {
     desktop.Expect("Incomplete record: ^L 1003 NNNNN");
-    EXPECT_FALSE(ReadRecords(Document("J. X") + "^L 1003 NNNNN\n").whole);
+    EXPECT_FALSE(ReadDocument(Document("J. X") + "^L 1003 NNNNN\n").whole);
     EXPECT_EQ(Known("qqq"), "");
-    EXPECT_TRUE(ReadRecords(Document("J. X")).whole);
+    EXPECT_TRUE(ReadDocument(Document("J. X")).whole);
     EXPECT_EQ(Known("qqq"), "2031//1/J. X/Title/1\n");
     globals.recR.Clear();
-    EXPECT_TRUE(ReadRecords(Document(" J. X ")).whole);
+    EXPECT_TRUE(ReadDocument(Document(" J. X ")).whole);
     EXPECT_EQ(Known("qqq"), "2031//1/J. X/Title/1\n");
 }
 
 TEST_F(Sources, AnotherTextUnderTheSameIdentityIsAskedAbout) {
-    ReadRecords(Document("J. X"));
+    ReadDocument(Document("J. X"));
     globals.CompoundDb().Execute("update SOURCE_REFINFO set AUTHORN = 10 where AUTHOR1 = 'qqq'");
     globals.recR.Clear();
-    ReadRecords(Document("J. X"));
+    ReadDocument(Document("J. X"));
     const std::string question = "J. Y\nDatabase: J. X\n2031 qqq & 1: Are these sources different?";
     globals.recR.Clear();
     desktop.Expect(question, ui::Answer::No);
-    ReadRecords(Document("J. Y"));
+    ReadDocument(Document("J. Y"));
     EXPECT_EQ(globals.recR.Item(std::size_t{1})->AUTHORN, "1");
 
     globals.recR.Clear();
@@ -55,7 +55,7 @@ TEST_F(Sources, AnotherTextUnderTheSameIdentityIsAskedAbout) {
     globals.Saved = true;
     desktop.Expect(question, ui::Answer::Yes);
     desktop.Expect("Please adjust file name after closing it");
-    ReadRecords(Document("J. Y"));
+    ReadDocument(Document("J. Y"));
     EXPECT_EQ(globals.recR.Item("2031 qqq & 11")->AUTHORN, "11");
     EXPECT_FALSE(globals.Saved);
     EXPECT_EQ(Tree(), "2031 qqq & 11\n");
@@ -78,29 +78,29 @@ TEST_F(Sources, ANewSourceOfOneAuthorCountsOnFromThoseHeSharedWithOthers) {
 }
 
 TEST_F(Sources, TheSourceOfTheDocumentIsAskedUntilItIsKnown) {
-    ReadRecords("^R 2031 qqq & 1\n^L 7732185 NNNNN &\n^S 1 ns\n^A & & & & & & & &\n"
-                "^z 1 TC S 1 L G & 647 & & &\n");
+    ReadDocument("^R 2031 qqq & 1\n^L 7732185 NNNNN &\n^S 1 ns\n^A & & & & & & & &\n"
+                 "^z 1 TC S 1 L G & 647 & & &\n");
     const auto source = globals.recR.Item(std::size_t{1});
     const std::string prompt = "Enter the source of document 2031 qqq & 1\nO - original\n";
     for (const auto& answer : {std::optional<std::string>(), std::optional<std::string>(""),
                                std::optional<std::string>("maybe")}) {
         desktop.ExpectInput(prompt, answer);
-        EXPECT_NE(PrintDocument().find("^A & & &"), std::string::npos);
+        EXPECT_NE(DocumentAsRecords().find("^A & & &"), std::string::npos);
         EXPECT_EQ(source->SOURCEDOC, "&");
     }
     desktop.ExpectInput(prompt, "chemical abstracts");
-    EXPECT_NE(PrintDocument().find("^A & C &"), std::string::npos);
-    PrintDocument();
+    EXPECT_NE(DocumentAsRecords().find("^A & C &"), std::string::npos);
+    DocumentAsRecords();
 }
 
 TEST_F(Sources, LettersOfCompoundsAndSourceFollowTheData) {
-    ReadRecords("^R 2031 qqq & 1\n^L 7732185 NDDD xyz\n^S 1 ns\n"
-                "^z 1 TC S 1 L G & 647 & & &\n^f 1 VDN S 1 L 298 S 997 & & &\n"
-                "^f 1 VDN S 2 G 298 S 1 & & &\n^L 64175 NNNNN &\n^S 1 ns\n"
-                "^L 67561 NNNNN &\n");
+    ReadDocument("^R 2031 qqq & 1\n^L 7732185 NDDD xyz\n^S 1 ns\n"
+                 "^z 1 TC S 1 L G & 647 & & &\n^f 1 VDN S 1 L 298 S 997 & & &\n"
+                 "^f 1 VDN S 2 G 298 S 1 & & &\n^L 64175 NNNNN &\n^S 1 ns\n"
+                 "^L 67561 NNNNN &\n");
     const auto source = globals.recR.Item(std::size_t{1});
     source->SOURCEDOC = "O";
-    const std::string saved = PrintDocument();
+    const std::string saved = DocumentAsRecords();
     const auto water = source->FindL("7732185");
     EXPECT_EQ(water->SYSTYPES, "DNNNN");
     EXPECT_EQ(water->REFPROP.size(), 2U) << water->REFPROP;
@@ -111,7 +111,8 @@ TEST_F(Sources, LettersOfCompoundsAndSourceFollowTheData) {
 
 TEST_F(Sources, FileNamesAreProposedFromTheIdentity) {
     clsR source;
-    source.Load("^R 2002 wag & 1");
+    Notices told;
+    source.Load("^R 2002 wag & 1", told);
     EXPECT_EQ(source.ProposedName(), "2002wag1");
     source.LoadJ("^J#S#O#J. X, je/01#t");
     EXPECT_EQ(source.ProposedName(), "je_01");
@@ -144,8 +145,9 @@ TEST_F(Sources, AuthorsGetTheirCodes) {
     EXPECT_FALSE(known.isNew);
     EXPECT_TRUE(known.CompareName("WAGNER,W"));
     EXPECT_FALSE(known.CompareName("Wagner, V."));
-    desktop.Expect("Undefined author nobodyxy1:");
-    known.Load("^I#1#nobody#xy1#");
+    const Notices told = known.Load("^I#1#nobody#xy1#");
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told.front().text, "Undefined author nobodyxy1:");
 }
 
 } // namespace

@@ -18,7 +18,7 @@ protected:
     }
     /// The lines of the document behind its sample.
     std::string Saved() const {
-        const std::string text = PrintDocument();
+        const std::string text = DocumentAsRecords();
         return text.substr(text.find('\n', text.find("\n^S ") + 1) + 1);
     }
     void ExpectSettled(const std::string& lines) { EXPECT_EQ(Settled(lines), lines); }
@@ -69,7 +69,7 @@ TEST_F(Sets, AFactorStandsForTheUnitThatHasNoLetter) {
     ExpectSettled(kHeader + "^M 1000\n" + rest);
     Set().PROPERTY_UNIT = "nounit";
     Set().Factor = 0;
-    EXPECT_THROW(PrintDocument(), SaveRefused);
+    EXPECT_THROW(DocumentAsRecords(), SaveRefused);
     // The factor of a set in system units has nothing to say.
     EXPECT_EQ(
         Settled(kHeader + "^M 1000\n^1 1 PV S DIR 1\tY C & PB S & & &\n^D 275 0.698 &\n" + kEnd),
@@ -96,9 +96,9 @@ TEST_F(Sets, ThePropertyOfAGasIsWrittenUnderItsOtherCode) {
     const std::string p = "^1 1 P S DIR 1\tY L & PB S & & &\n";
     ExpectSettled(kHeader + pv + kEnd + kHeader + p + kEnd);
     desktop.Expect("This property set already exists\n2002 wag pru 1\n7732185\nSample # 1");
-    EXPECT_FALSE(ReadRecords("^R 2002 wag pru 1\n^L 7732185 NNNNN &\n^S 1 ns\n"
-                             "^1 1 PV S DIR 1\tY L G PB S & & &\n"
-                             "^1 * P S DIR 1\tY L G PB S & & &\n")
+    EXPECT_FALSE(ReadDocument("^R 2002 wag pru 1\n^L 7732185 NNNNN &\n^S 1 ns\n"
+                              "^1 1 PV S DIR 1\tY L G PB S & & &\n"
+                              "^1 * P S DIR 1\tY L G PB S & & &\n")
                      .whole);
 }
 
@@ -242,12 +242,12 @@ TEST_F(Sets, BadLinesOfSetsDropTheRead) {
          "2002 wag pru 1\n7732185\n^1 7 VDN S DIR 1\tY L & FP S & & & | Sample not specified"}};
     for (const auto& [lines, message] : cases) {
         desktop.Expect(message);
-        EXPECT_FALSE(ReadRecords(head + lines).whole) << lines;
+        EXPECT_FALSE(ReadDocument(head + lines).whole) << lines;
     }
     // One and two variables, and a single value, are sets of their own.
-    EXPECT_TRUE(ReadRecords(head + set +
-                            "\n^f 1 VDN S 1 L 300 S 997 & & &\n"
-                            "^2 1 VDN S DIR 1\tY L & DP T S P S & & &\n")
+    EXPECT_TRUE(ReadDocument(head + set +
+                             "\n^f 1 VDN S 1 L 300 S 997 & & &\n"
+                             "^2 1 VDN S DIR 1\tY L & DP T S P S & & &\n")
                     .whole);
     const auto sample = globals.CurrentS;
     EXPECT_EQ(sample->FindTwo("VDN", 2, "1"), sample->recTwo.Item(std::size_t{2}));
@@ -266,9 +266,9 @@ TEST_F(Sets, TheTreeShowsSetsAndTheLettersCountThem) {
     EXPECT_EQ(globals.DataContext, "Pure");
     EXPECT_EQ(globals.CurrentTwo.get(), &Set());
     EXPECT_EQ(globals.CurrentS.get(), Set().Parent);
-    EXPECT_NE(PrintDocument().find("^L 7732185 DNNNN V\n"), std::string::npos);
+    EXPECT_NE(DocumentAsRecords().find("^L 7732185 DNNNN V\n"), std::string::npos);
     Read1(kHeader + "^2 1 VDN V DIR 3\tY L & DP T S P S & & &\n" + kEnd);
-    EXPECT_NE(PrintDocument().find("^L 7732185 DNNNN D\n"), std::string::npos);
+    EXPECT_NE(DocumentAsRecords().find("^L 7732185 DNNNN D\n"), std::string::npos);
 }
 
 TEST_F(Sets, ManyRowsTakeNoQuadraticTime) {
@@ -279,7 +279,7 @@ TEST_F(Sets, ManyRowsTakeNoQuadraticTime) {
     text += kEnd;
     const auto start = std::chrono::steady_clock::now();
     Read(text);
-    EXPECT_EQ(PrintDocument().size(), text.size());
+    EXPECT_EQ(DocumentAsRecords().size(), text.size());
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(Set().recData.Count(), static_cast<std::size_t>(rows));
     // Quadratic work would take minutes; the bound leaves room for a slow, busy machine.
