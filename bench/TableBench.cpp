@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "BenchDesktop.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "shell/DocumentText.h"
@@ -14,36 +15,12 @@
 #include "reference/Numbers.h"
 #include "shell/RegisterForms.h"
 #include "tables/frmData2.h"
-#include "ui/Desktop.h"
 #include "ui/Forms.h"
 
 namespace vexora {
 namespace {
 
 constexpr int rows = 16384;
-
-/// Confirms whatever is asked; the statements are accepted as they are.
-class BenchDesktop : public ui::Desktop {
-public:
-    ui::Answer Show(const ui::Message& message) override {
-        return message.buttons == ui::MessageButtons::YesNoAll ? ui::Answer::YesToAll
-                                                               : ui::Answer::Yes;
-    }
-    std::optional<std::string> Ask(const ui::Input&) override { return {}; }
-    std::optional<std::string> Choose(const ui::FileChoice&) override { return {}; }
-    std::string ClipboardText() override { return {}; }
-    void ClipboardText(const std::string&) override {}
-    void Hourglass(bool) override {}
-    void ShowHelp(int) override {}
-    void Print(const std::string&, const std::string&) override {}
-    ui::Date Today() override { return {2026, 1, 15}; }
-    ui::FileSystem& Files() override { std::abort(); }
-    void RunModal(ui::Form& form) override {
-        Globals().DialogAccepted = true;
-        form.Close();
-    }
-    void EndProgram() override {}
-};
 
 struct Statements : ui::Form {
     Statements() : Form("frmUnc", "Statements") {}
@@ -306,5 +283,3 @@ BENCHMARK(WriteDocument)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vexora
-
-BENCHMARK_MAIN();

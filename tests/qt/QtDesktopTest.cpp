@@ -1,7 +1,6 @@
 #include "qt/QtDesktop.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
@@ -129,7 +128,7 @@ TEST_F(OnTheScreen, APictureIsPrintedOnOnePage) {
     EXPECT_TRUE(bytes.contains("/Font")); // texts stay texts
 }
 
-TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
+TEST_F(OnTheScreen, AFullTableIsPainted) {
     ui::Form form("frmAny", "Any");
     ui::Picture picture(form, "picAny", 1000, 700);
     std::vector<ui::Picture::Stroke> strokes;
@@ -139,10 +138,7 @@ TEST_F(OnTheScreen, AFullTableIsPaintedAtOnce) {
         strokes.back().marker = i % ui::Picture::MarkerCount;
     }
     picture.Strokes(strokes);
-    QElapsedTimer timer;
-    timer.start();
     EXPECT_TRUE(desktop_.PngOf(picture).has_value());
-    EXPECT_LT(timer.elapsed(), 2000) << "ms, on a busy machine";
 }
 
 TEST_F(OnTheScreen, TheLabelOfAClosedFieldGoesGrey) {

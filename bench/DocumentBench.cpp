@@ -1,0 +1,83 @@
+// Reading and writing documents of many records. The time is to grow with their number and no
+// faster: each is measured at two sizes, and BigO tells what fits.
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <string>
+
+#include "BenchDesktop.h"
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/RecordReader.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+namespace {
+
+const std::string sample = "\n^R 2002 wag pru 1\n"
+                           "^J#J#O#J. Phys. Chem. Ref. Data, 2002, 31, 387-535#T##A##S#0####\n"
+                           "^L 7732185 DNNNN S\n"
+                           "^S 1 cm;;99.9m%,gc\n";
+
+/// What the reader needs around it.
+struct Room {
+    Room() {
+        const std::string share = VEXORA_SHARE_DIR;
+        globals.Databases.OpenBoth(share + "/VXRLocal.mdb", share + "/VXR.mdb");
+    }
+    bool Read(const std::string& text) {
+        globals.recR.Clear();
+        globals.ForgetCurrent();
+        return ReadRecords(text, ReadPurpose::Look).whole;
+    }
+    BenchDesktop desktop;
+    ui::Forms forms{desktop};
+    KVOGlobal globals;
+};
+
+/// As many single values of one sample, with a tenth as many compounds behind them.
+std::string ManyValues(int count) {
+    std::string text = sample;
+    for (int i = 1; i <= count; ++i)
+        text += "^A & O & & & & & set\n^z 1 TC S " + std::to_string(i) + " L G & 647.1 & & &\n";
+    for (int i = 100; i < 100 + count / 10; ++i) {
+        const std::string digits = std::to_string(i);
+        text += "^L " + digits + *CheckDigit(digits) + " NNNNN &\n^S 1 ns\n";
+    }
+    return text;
+}
+
+std::string ManyRows(int count) {
+    std::string text = sample + "^A & O & & & & & &\n^2 1 VDN S DIR 1\tY L & DP T C P S & & &\n";
+    for (int i = 1; i <= count; ++i)
+        text += "^d " + std::to_string(i) + ".25 0.101325 997.0479 0.001\n";
+    return text + "^M 0\n";
+}
+
+void ReadAndWrite(benchmark::State& state, const std::string& text) {
+    Room room;
+    std::size_t written = 0;
+    for (auto _ : state) {
+        if (!room.Read(text)) state.SkipWithError("not read");
+        written = PrintDocument().size();
+    }
+    if (written < text.size() / 2) state.SkipWithError("lines are missing");
+    state.SetComplexityN(state.range(0));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+
+void ReadAndWriteValues(benchmark::State& state) {
+    ReadAndWrite(state, ManyValues(static_cast<int>(state.range(0))));
+}
+
+void ReadAndWriteRows(benchmark::State& state) {
+    ReadAndWrite(state, ManyRows(static_cast<int>(state.range(0))));
+}
+
+BENCHMARK(ReadAndWriteValues)->Arg(5000)->Arg(50000)->Complexity()->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadAndWriteRows)->Arg(10000)->Arg(100000)->Complexity()->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace vexora
