@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <regex>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -40,17 +42,30 @@ std::vector<fs::path> Sources() {
     return sources;
 }
 
-// A function body as the formatter leaves it: a line that ends in "{" and holds a parameter list,
-// at the indent of a namespace or class member, up to the line that closes it at the same indent.
+/// Whether a line opens a block inside a function, or a namespace.
+bool OpensABlock(std::string_view line) {
+    static const std::set<std::string_view> words = {"if", "for", "while", "switch",   "else",
+                                                     "do", "try", "catch", "namespace"};
+    const auto end =
+        std::ranges::find_if_not(line, [](unsigned char c) { return std::isalnum(c) || c == '_'; });
+    return words.contains(line.substr(0, static_cast<std::size_t>(end - line.begin())));
+}
+
+/// Whether a line without its indent begins a function: it ends in "{" and holds the end of a
+/// parameter list, and is neither a comment nor a directive.
+bool OpensAFunction(std::string_view line) {
+    return line.ends_with('{') && std::string_view("#/}").find(line.front()) == line.npos &&
+           line.find(')', 1) != line.npos && !OpensABlock(line);
+}
+
+// A function body as the formatter leaves it: at the indent of a namespace or class member, up to
+// the line that closes it at the same indent.
 void AddFunctions(const fs::path& path, std::vector<Size>& sizes) {
-    static const std::regex head(R"(^(\s{0,4})[^\s#/}].*\).*\{$)");
-    static const std::regex control(R"(^\s*(if|for|while|switch|else|do|try|catch|namespace)\b)");
     const std::vector<std::string> lines = Lines(path);
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        std::smatch match;
-        if (!std::regex_match(lines[i], match, head) || std::regex_search(lines[i], control))
-            continue;
-        const std::string closing = match[1].str() + "}";
+        const std::size_t indent = lines[i].find_first_not_of(" \t");
+        if (indent > 4 || !OpensAFunction(std::string_view(lines[i]).substr(indent))) continue;
+        const std::string closing = lines[i].substr(0, indent) + "}";
         for (std::size_t j = i + 1; j < lines.size(); ++j) {
             if (!lines[j].starts_with(closing)) continue;
             sizes.push_back(
