@@ -93,7 +93,7 @@ private:
         const std::size_t first = at_;
         while (!AtEnd() && IsNameCharacter(text_[at_]))
             ++at_;
-        const std::string name(text_.substr(first, at_ - first));
+        std::string name(text_.substr(first, at_ - first));
         if (name.empty() || name[0] == '-' || name[0] == '.' || (name[0] >= '0' && name[0] <= '9'))
             Fail("a name is missing");
         return name;

@@ -60,7 +60,7 @@ QString WithMnemonic(const ui::CommandButton& button) {
         const auto* other = dynamic_cast<const ui::CommandButton*>(control);
         if (!other || other == form.DefaultButton || other == form.CancelButton) continue;
         const QString caption = ToQt(other->Caption());
-        const QString marked = MarkOf(caption) < 0 ? Marked(caption, taken) : caption;
+        QString marked = MarkOf(caption) < 0 ? Marked(caption, taken) : caption;
         if (other == &button) return marked;
     }
     return ToQt(button.Caption());
