@@ -8,7 +8,7 @@
 #include "BenchDesktop.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
-#include "records/RecordReader.h"
+#include "shell/DocumentText.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "ui/Forms.h"
@@ -30,7 +30,7 @@ struct Room {
     bool Read(const std::string& text) {
         globals.recR.Clear();
         globals.ForgetCurrent();
-        return ReadRecords(text, ReadPurpose::Look).whole;
+        return ReadDocument(text, ReadPurpose::Look).whole;
     }
     BenchDesktop desktop;
     ui::Forms forms{desktop};
@@ -61,7 +61,7 @@ void ReadAndWrite(benchmark::State& state, const std::string& text) {
     std::size_t written = 0;
     for (auto _ : state) {
         if (!room.Read(text)) state.SkipWithError("not read");
-        written = PrintDocument().size();
+        written = DocumentAsRecords().size();
     }
     if (written < text.size() / 2) state.SkipWithError("lines are missing");
     state.SetComplexityN(state.range(0));

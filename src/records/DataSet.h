@@ -18,6 +18,10 @@ namespace vexora {
 class LineWriter;
 class XmlWriter;
 
+/// The statements of uncertainty about all rows: the property, the variables, and behind them what
+/// is constant.
+using StatementsOfSet = std::array<clsX, 5>;
+
 /// What every set with rows has in common: a property measured against one to three state
 /// variables, statements of uncertainty about each of them, and the rows. A kind of set is a class
 /// that adds its own line, says what its variables are, and knows the molar mass that its rows go
@@ -28,7 +32,7 @@ class XmlWriter;
 class DataSet : public OpenRecord {
 public:
     static constexpr int MostVariables = 3;
-    static constexpr int Items = 5; // the property, the variables, and behind them constraints
+    static constexpr int Items = std::tuple_size_v<StatementsOfSet>;
 
     int nVar = 1;
     std::string PRPCODE, PROPERTY_UNIT, PROPERTY_FUNCT = "DIR", PRPSETNO, DATATYPE;
@@ -36,8 +40,8 @@ public:
     bool isOriginalUnit = true;
     /// Precision tags of the comment stand in system units (see clsX::inSystemUnits).
     bool commentInSystemUnits = false;
-    std::array<clsX, Items> UX; // 0 the property, 1 to nVar the variables, then constraints
-    std::vector<clsX> OtherX;   // ^X lines with no place in the set, kept as read
+    StatementsOfSet UX;       // 0 the property, 1 to nVar the variables, then constraints
+    std::vector<clsX> OtherX; // ^X lines with no place in the set, kept as read
     RowList recData;
     double FallbackMolarMass = 0; // [g/mol] of the file, where the formula gives none
 
@@ -133,5 +137,9 @@ private:
     void PrintRows(LineWriter& out) const;
     void AdjustStatements();
 };
+
+/// The set that the selected node or the dialog in hand is about, by the context of the globals;
+/// null for none.
+std::shared_ptr<DataSet> CurrentSet();
 
 } // namespace vexora

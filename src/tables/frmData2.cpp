@@ -3,7 +3,7 @@
 #include "chem/clsProperty.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsTwo.h"
+#include "records/DataSet.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 

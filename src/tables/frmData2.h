@@ -8,14 +8,14 @@
 #include "chem/clsProperty.h"
 #include "entry/RowChecks.h"
 #include "grid/TableEditor.h"
-#include "records/RowList.h"
+#include "records/DataSet.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
 class clsProperty;
-class clsTwo;
+class DataSet;
 struct PlotTable;
 
 /// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
@@ -103,12 +103,12 @@ private:
     bool IsChanged() const;
     std::string CaptionText() const;
     std::string ColumnsText() const;
-    std::shared_ptr<clsTwo> Set() const { return set_; }
+    std::shared_ptr<DataSet> Set() const { return set_; }
 
     // The units of the cells (frmData2_units.cpp).
     void AdjustUnits();
-    std::shared_ptr<clsTwo> Adjusted(const std::vector<int>& rows) const;
-    void TakeUnits(const std::shared_ptr<clsTwo>& adjusted, const std::array<clsX, 5>& statements,
+    std::shared_ptr<DataSet> Adjusted(const std::vector<int>& rows) const;
+    void TakeUnits(const std::shared_ptr<DataSet>& adjusted, const StatementsOfSet& statements,
                    const RowList& rows);
     void ShowUnits();
 
@@ -125,7 +125,7 @@ private:
     void Assign();
     bool AssignAccepted();
     bool MayLoseColumns() const;
-    void UseStatements(const std::array<clsX, 5>& statements);
+    void UseStatements(const StatementsOfSet& statements);
     void TakeSelectedRow();
     void Save();
     void Store();
@@ -134,6 +134,7 @@ private:
     std::string VariablesOf(const clsData& row) const;
     std::string VariablesOf(int row) const;
     clsData NewRow(int row, const clsData* old) const;
+    double MolarMassOf(int row) const;
 
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
     void View();
@@ -142,14 +143,14 @@ private:
     double UncertaintyOf(int row) const;
     double CombinedOf(int row, double value) const;
 
-    std::shared_ptr<clsTwo> set_;
-    std::shared_ptr<clsTwo> adjusted_;     // the set as brought to system units, or null
-    std::array<clsX, 5> statementsBefore_; // restored when the table is cancelled
-    std::array<clsX, 5> firstStatements_;  // as first shown, with their names
-    std::string firstText_;                // of the table, to tell whether it has changed
-    RowList rows_;                         // as they stood at the beginning
+    std::shared_ptr<DataSet> set_;
+    std::shared_ptr<DataSet> adjusted_; // the set as brought to system units, or null
+    StatementsOfSet statementsBefore_;  // restored when the table is cancelled
+    StatementsOfSet firstStatements_;   // as first shown, with their names
+    std::string firstText_;             // of the table, to tell whether it has changed
+    RowList rows_;                      // as they stood at the beginning
     std::shared_ptr<clsProperty> chain_;
-    double molarMass_ = 0;  // [g/mol]
+    double molarMass_ = 0;  // [g/mol] that all rows go by, unless it follows their composition
     bool original_ = true;  // cells stand in the units of the paper
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;

@@ -7,7 +7,7 @@
 #include "entry/EditStatements.h"
 #include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsTwo.h"
+#include "records/DataSet.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "ui/Desktop.h"
@@ -64,9 +64,20 @@ bool frmData2::CheckUnits() {
         ui::Say("Invalid conversion factor");
         return false;
     }
-    if (chain_->Factor > 0 || !IsMassBased(chain_->ConversionCode) || molarMass_ > 0) return true;
-    ui::Say("Molar mass of the compound is not known");
-    return false;
+    if (chain_->Factor > 0 || !IsMassBased(chain_->ConversionCode)) return true;
+    bool known = molarMass_ > 0;
+    if (set_->MolarMassFollowsRows()) {
+        known = true;
+        for (int row = tblData.FixedRows(); row < tblData.Rows() && known; ++row)
+            known = MolarMassOf(row) > 0 || IsEmptyRow(tblData, columns_, row);
+    }
+    if (!known) ui::Say("Molar mass of the compound is not known");
+    return known;
+}
+
+/// [g/mol]; in a mixture that of the row's composition.
+double frmData2::MolarMassOf(int row) const {
+    return set_->MolarMassFollowsRows() ? set_->MolarMass(NewRow(row, nullptr)) : molarMass_;
 }
 
 void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
@@ -93,7 +104,7 @@ void frmData2::Calc_unc(int row, bool& ok, const ConfirmValue& confirm) {
         item->Value = item->PRECISION = item->Der = 0;
         TakeStatements(*item, place, row);
     }
-    const std::string result = EvaluateUncertainty(*chain_, molarMass_, confirm);
+    const std::string result = EvaluateUncertainty(*chain_, MolarMassOf(row), confirm);
     const int figure = columns_.Find(Kind::KVO);
     if (tblData.Cell(row, figure) == "Error" || !result.empty())
         table_.History().Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
@@ -131,7 +142,7 @@ bool frmData2::AssignAccepted() {
     TakeSelectedRow();
     globals.CurrentProperty = chain_;
     const std::string key = std::exchange(globals.CurrentKey, "RLS1");
-    const std::array<clsX, 5> before = set_->UX;
+    const StatementsOfSet before = set_->UX;
     const bool accepted = EditStatements(set_->UX);
     globals.CurrentKey = key;
     if (!accepted) return false;
@@ -158,7 +169,7 @@ bool frmData2::AssignAccepted() {
     return true;
 }
 
-void frmData2::UseStatements(const std::array<clsX, 5>& statements) {
+void frmData2::UseStatements(const StatementsOfSet& statements) {
     set_->UX = statements;
     AnalyseCurrentProperty();
     FillHeader();

@@ -5,8 +5,8 @@
 #include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
+#include "records/DataSet.h"
 #include "records/PropertyChain.h"
-#include "records/clsTwo.h"
 #include "reference/Conversions.h"
 #include "ui/Desktop.h"
 
@@ -23,7 +23,7 @@ void TakeFactor(clsProperty& item) {
 } // namespace
 
 void frmData2::TakeSet() {
-    set_ = Globals().CurrentTwo;
+    set_ = CurrentSet();
     if (!set_) return;
     statementsBefore_ = set_->UX;
     molarMass_ = set_->MolarMass();
@@ -45,7 +45,7 @@ void frmData2::TakeRows() {
     if (set_->isOriginalUnit && none)
         table_.Blocks().Tell({{0, "The rows of this set stand in system units"}});
     if (original_ || rows_.IsEmpty() || none) return;
-    adjusted_ = std::make_shared<clsTwo>(*set_);
+    adjusted_ = set_->Copy();
     adjusted_->isOriginalUnit = true;
     adjusted_->AdjustUnits();
     rows_ = adjusted_->recData;

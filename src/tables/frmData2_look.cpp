@@ -4,7 +4,7 @@
 
 #include "chem/LocalFit.h"
 #include "chem/clsProperty.h"
-#include "records/clsTwo.h"
+#include "records/DataSet.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 
@@ -17,7 +17,7 @@ using Kind = TableColumn::Kind;
 constexpr const char* lookAgainText = "Look again: far from what its neighbours say";
 
 /// A vapor pressure is nearly straight as its logarithm against the reciprocal temperature.
-FitScale ScaleOf(const clsTwo& set, int variable) {
+FitScale ScaleOf(const DataSet& set, int variable) {
     return set.PRPCODE == "PV" && set.VARIABLE(variable) == "T" ? FitScale::Vapor : FitScale::Plain;
 }
 

@@ -7,7 +7,7 @@
 #include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
-#include "records/clsTwo.h"
+#include "records/DataSet.h"
 #include "reference/Numbers.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -64,7 +64,7 @@ double frmData2::UncertaintyOf(int row) const {
     item.Text = tblData.Cell(row, columns_.Find(Kind::Value, 0));
     TakeStatements(item, 0, row);
     bool ok = true;
-    item.Convert(ok, molarMass_);
+    item.Convert(ok, MolarMassOf(row));
     const double uncertainty = std::max(item.PRECISION, CombinedOf(row, item.Value));
     return uncertainty > 0 ? uncertainty : Val(tblData.Cell(row, columns_.Find(Kind::KVO)));
 }

@@ -5,7 +5,7 @@
 #include "chem/clsProperty.h"
 #include "entry/TableTurns.h"
 #include "globals/PlotTable.h"
-#include "records/clsTwo.h"
+#include "records/DataSet.h"
 #include "reference/Numbers.h"
 #include "tables/frmPasteView.h"
 #include "ui/Desktop.h"
@@ -47,7 +47,7 @@ std::vector<Finding> frmData2::FindingsOf(int row) const {
     if (!set_) return {};
     std::vector<Finding> found = CheckRow(tblData, columns_, row);
     for (const auto& more :
-         {CheckLimits(tblData, columns_, row, *chain_, molarMass_),
+         {CheckLimits(tblData, columns_, row, *chain_, MolarMassOf(row)),
           CheckReading(tblData, columns_, row), CheckEvaluation(tblData, columns_, row)})
         found.insert(found.end(), more.begin(), more.end());
     return found;

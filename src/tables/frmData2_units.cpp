@@ -3,15 +3,15 @@
 #include <algorithm>
 
 #include "globals/KVOGlobal.h"
+#include "records/DataSet.h"
 #include "records/PropertyChain.h"
-#include "records/clsTwo.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
 
 namespace {
 
-bool AnyUnitChanges(const clsTwo& set) {
+bool AnyUnitChanges(const DataSet& set) {
     bool any = set.PropertyConversion().ChangesValues();
     for (int n = 1; n <= set.nVar; ++n)
         any = any || set.VariableConversion(n).ChangesValues();
@@ -26,7 +26,7 @@ void frmData2::AdjustUnits() {
     std::vector<int> rows;
     for (int row = tblData.FixedRows(); row <= table_.History().LastFilledRow(); ++row)
         if (!IsEmptyRow(tblData, columns_, row)) rows.push_back(row);
-    const std::shared_ptr<clsTwo> adjusted = Adjusted(rows);
+    const std::shared_ptr<DataSet> adjusted = Adjusted(rows);
     if (!adjusted) return;
     RowList old; // those that stood here at the beginning
     for (std::size_t place = rows.size() + 1; place <= adjusted->recData.Count(); ++place)
@@ -57,8 +57,8 @@ void frmData2::AdjustUnits() {
 
 /// The set in system units: first these rows of the table, then the rows as they stood; null when
 /// they cannot be converted.
-std::shared_ptr<clsTwo> frmData2::Adjusted(const std::vector<int>& rows) const {
-    auto adjusted = std::make_shared<clsTwo>(*set_);
+std::shared_ptr<DataSet> frmData2::Adjusted(const std::vector<int>& rows) const {
+    auto adjusted = set_->Copy();
     adjusted->recData.Clear();
     for (const int row : rows)
         adjusted->recData.Add(NewRow(row, nullptr));
@@ -69,8 +69,8 @@ std::shared_ptr<clsTwo> frmData2::Adjusted(const std::vector<int>& rows) const {
 }
 
 /// Takes the set in system units, or with null goes back to the units of the paper.
-void frmData2::TakeUnits(const std::shared_ptr<clsTwo>& adjusted,
-                         const std::array<clsX, 5>& statements, const RowList& rows) {
+void frmData2::TakeUnits(const std::shared_ptr<DataSet>& adjusted,
+                         const StatementsOfSet& statements, const RowList& rows) {
     adjusted_ = adjusted;
     original_ = adjusted == nullptr;
     rows_ = rows;
