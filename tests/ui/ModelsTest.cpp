@@ -4,6 +4,12 @@
 #include "ui/Form.h"
 #include "ui/Utf8.h"
 
+#include <memory>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace vexora::test {
 namespace {
 
@@ -26,6 +32,35 @@ TEST(Collection, KeysAndPositionsStayRightWhenEntriesGo) {
     EXPECT_EQ(entries.Position(b.get()), 1U);
     EXPECT_EQ(entries.Item("K"), nullptr);
     EXPECT_EQ(entries.Item("K~2"), b);
+}
+
+TEST(Collection, FindsEveryKeyThroughManyChanges) {
+    ui::Collection<Entry> entries;
+    std::vector<std::pair<std::string, std::shared_ptr<Entry>>> model; // key and entry, in order
+    std::mt19937 random(7);
+    const auto any = [&](std::size_t count) { return random() % count; };
+    for (int step = 0; step < 4000; ++step) {
+        const std::size_t action = any(4);
+        if (action < 2 || model.empty()) {
+            auto entry = std::make_shared<Entry>();
+            const std::string key = entries.Add(entry, "k" + std::to_string(any(300)));
+            model.emplace_back(key, entry);
+        } else if (action == 2) {
+            auto& [key, entry] = model[any(model.size())];
+            key = entries.Rekey(entry.get(), "k" + std::to_string(any(300)));
+        } else {
+            const std::size_t at = any(model.size());
+            EXPECT_TRUE(entries.Remove(model[at].second.get()));
+            model.erase(model.begin() + static_cast<std::ptrdiff_t>(at));
+        }
+        if (model.empty()) continue;
+        const std::size_t at = any(model.size());
+        ASSERT_EQ(entries.Item(model[at].first), model[at].second) << step;
+        ASSERT_EQ(entries.Item(at + 1), model[at].second) << step;
+    }
+    for (std::size_t at = 0; at < model.size(); ++at)
+        EXPECT_EQ(entries.Position(model[at].second.get()), at + 1);
+    EXPECT_EQ(entries.Item("gone"), nullptr);
 }
 
 TEST(TreeView, RemovingANodeForgetsWhatStandsBelowIt) {
