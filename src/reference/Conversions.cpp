@@ -24,6 +24,8 @@ struct BuiltIn {
 
 // Constants: defined calories (4.184 and 4.1868 J), the gas constant of CODATA 1986, standard
 // atmosphere and pound definitions, rounded as the stored data were entered with.
+// To change a figure here would move every stored value that was entered with its code. 255.372 K
+// is 0 degrees Fahrenheit, 273.15 - 32 / 1.8.
 constexpr std::array<BuiltIn, 49> kBuiltIn{{
     {"C", Kind::Celsius, 273.15},
     {"F", Kind::Fahrenheit, 255.372},
@@ -81,6 +83,7 @@ const BuiltIn* FindBuiltIn(std::string_view code) {
     return found == kBuiltIn.end() ? nullptr : found;
 }
 
+/// To the system unit. 1000 in the kilo kinds turns J into kJ.
 double Forward(const BuiltIn& unit, double value, double molarMass) {
     switch (unit.kind) {
     case Kind::Multiply:
@@ -101,6 +104,7 @@ double Forward(const BuiltIn& unit, double value, double molarMass) {
     return 0;
 }
 
+/// From the system unit; nothing follows per mass without a molar mass.
 double Backward(const BuiltIn& unit, double value, double molarMass) {
     if (IsMassBased(unit.code) && molarMass <= 0) return 0;
     switch (unit.kind) {
@@ -134,10 +138,12 @@ double RowFactor(std::string_view code, std::string_view unit) {
     return 0;
 }
 
+/// A code may be the factor itself.
 double OuterFactor(std::string_view code) {
     return IsNumeric(code) ? Val(code) : RowFactor(code, {});
 }
 
+/// "*" without a factor leaves the value alone: its factor comes apart from the code.
 bool IsIdentity(std::string_view code) {
     return code == "*" || IsSystemUnit(code);
 }
@@ -145,6 +151,7 @@ bool IsIdentity(std::string_view code) {
 } // namespace
 
 double ToSystem(std::string_view code, double value, double factor, double molarMass) {
+    // The operator's own unit goes before any table.
     if (factor > 0) return value * factor;
     if (const BuiltIn* unit = FindBuiltIn(code)) return Forward(*unit, value, molarMass);
     return IsIdentity(code) ? value : value * OuterFactor(code);
@@ -219,6 +226,7 @@ std::string ConversionText(std::string& code, std::string_view unit, std::string
 }
 
 std::string ConversionCodeOf(std::string_view text, std::string_view unit) {
+    // No unit text holds an apostrophe; what does is taken for the system unit.
     if (text.find('\'') != std::string_view::npos) return "S";
     for (const ConversionRow* row :
          Kept(&VocabularyTables::Conversions).With(&ConversionRow::Conversion, text))
@@ -235,6 +243,7 @@ std::vector<std::string> UnitList(std::string_view unit) {
     return list;
 }
 
+// The unit "1" of the tables reads as a word, for "1" alone says nothing on a form.
 std::vector<std::string> FixedUnitList(std::string_view unit) {
     return {unit == "1" ? "Dimensionless" : std::string(unit)};
 }

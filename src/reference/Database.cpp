@@ -10,6 +10,7 @@ namespace vexora {
 
 namespace {
 
+/// A null becomes the empty text.
 std::string_view Argument(sqlite3_value* value) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
     return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)))
@@ -24,6 +25,7 @@ void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
 }
 
 void Configure(sqlite3* handle) {
+    // Another copy of the workbench may be adding a compound at this moment.
     constexpr int kBusyMilliseconds = 3000;
     sqlite3_busy_timeout(handle, kBusyMilliseconds);
     // A text that equals no column name must stay an error, not turn into a text constant.
@@ -31,11 +33,13 @@ void Configure(sqlite3* handle) {
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     const int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
     static int caseCounts = 1;
+    // In place of the operator's own function, whose wildcards are others.
     sqlite3_create_function(handle, "like", 2, flags, nullptr, LikeFunction, nullptr, nullptr);
     sqlite3_create_function(handle, "like_case", 2, flags, &caseCounts, LikeFunction, nullptr,
                             nullptr);
 }
 
+/// Failures of the medium, not of the statement.
 bool IsWriteFailure(int code) {
     return code == SQLITE_READONLY || code == SQLITE_FULL || code == SQLITE_IOERR;
 }
@@ -46,6 +50,7 @@ bool IsWriteFailure(int code) {
                         IsWriteFailure(sqlite3_errcode(handle)));
 }
 
+/// TRANSIENT has SQLite copy the text: it may be gone before the statement is stepped.
 void Bind(sqlite3_stmt* statement, int index, const SqlValue& value) {
     int code = SQLITE_OK;
     if (const auto* integer = std::get_if<std::int64_t>(&value.Get()))
@@ -58,6 +63,7 @@ void Bind(sqlite3_stmt* statement, int index, const SqlValue& value) {
     if (code != SQLITE_OK) Fail(sqlite3_db_handle(statement), "Wrong statement");
 }
 
+/// A name of a table or column; GROUP is a word of the language as well.
 std::string Quoted(std::string_view name) {
     return '"' + Replace(name, "\"", "\"\"") + '"';
 }
@@ -78,6 +84,7 @@ public:
 
     /// The statement with this text, which the caller then has to itself, or null.
     sqlite3_stmt* Take(std::string_view sql) {
+        // By its whole text: a handful of them is searched faster than hashed.
         const auto found = std::ranges::find(statements_, sql, sqlite3_sql);
         if (found == statements_.end()) return nullptr;
         sqlite3_stmt* statement = *found;
@@ -125,6 +132,7 @@ void Recordset::MoveNext() {
     statement_.reset();
 }
 
+// Few columns and short names: no map is kept for a row set that lives for one look-up.
 int Recordset::Column(std::string_view field) const {
     if (!statement_) return -1;
     const int count = sqlite3_column_count(statement_.get());
@@ -157,6 +165,7 @@ bool Recordset::IsNull(std::string_view field) const {
 }
 
 void Database::Closer::operator()(sqlite3* handle) const {
+    // Closes once the last statement has gone, which a row set may still hold.
     sqlite3_close_v2(handle);
 }
 
@@ -166,6 +175,7 @@ Database::Handle Database::OpenHandle(const std::string& path, int flags) {
     Handle handle(raw);
     if (code != SQLITE_OK) Fail(raw, path);
     Configure(raw);
+    // SQLite opens any file and looks into it at the first statement only.
     if (sqlite3_exec(raw, "select count(*) from sqlite_master", nullptr, nullptr, nullptr))
         Fail(raw, path);
     return handle;
@@ -178,6 +188,7 @@ void Database::SetHandle(Handle handle, const std::string& path) {
     BeginEdition();
 }
 
+// Counted over all files, so that one opened in the place of another is never taken for it.
 void Database::BeginEdition() {
     static std::uint64_t last = 0;
     edition_ = ++last;
@@ -256,6 +267,7 @@ bool Database::HasTable(std::string_view table) const {
 }
 
 Transaction::Transaction(Database& database) : database_(&database) {
+    // Takes the write lock now: a lock met half-way could not be waited for.
     database_->Execute("begin immediate");
 }
 
@@ -288,6 +300,7 @@ BulkInsert::BulkInsert(Database& database, std::string_view table,
         "insert into " + Quoted(table) + " (" + names + ") values (" + marks + ")", {});
 }
 
+// Whoever has kept rows of a table must not go on with them.
 void BulkInsert::Add(const SqlValues& values) {
     database_.BeginEdition();
     sqlite3_reset(statement_.get());

@@ -24,6 +24,7 @@ public:
     explicit DatabaseError(const std::string& text, bool cannotWrite = false)
         : std::runtime_error(text), cannotWrite_(cannotWrite) {}
     /// True when the file can be read but not written (read-only, disk full).
+    /// Nothing is wrong with the data then.
     bool CannotWrite() const { return cannotWrite_; }
 
 private:
@@ -31,6 +32,7 @@ private:
 };
 
 /// One value of a statement or a row.
+/// Made from what the caller has in hand, so that a list of values reads like the statement.
 class SqlValue {
 public:
     SqlValue(std::string_view text) : value_(std::string(text)) {}
@@ -62,6 +64,7 @@ public:
     std::int64_t Integer(std::string_view field) const;
     bool Flag(std::string_view field) const { return Integer(field) != 0; }
     /// True for a null and for an absent column.
+    /// Text and Number do not tell a null from "" and 0; a look-up by key has to.
     bool IsNull(std::string_view field) const;
 
 private:
@@ -80,6 +83,7 @@ private:
 };
 
 /// One open database file. Every operation throws DatabaseError on failure, also on a closed one.
+/// It cannot be copied; to move it leaves the source closed.
 class Database {
 public:
     /// Opens an existing file; never creates one. A file that is no database is refused here.
@@ -95,11 +99,13 @@ public:
     std::uint64_t Edition() const { return edition_; }
 
     /// Runs one statement that returns no rows.
+    /// For several statements that belong together see Transaction.
     void Execute(std::string_view sql, const SqlValues& values = {});
     /// Runs a query; "?" in the text take the values in order. `a like b` there is the match of
     /// Text.h, and like_case(pattern, text) the case-sensitive one.
     Recordset Query(std::string_view sql, const SqlValues& values = {}) const;
     /// Adds a row; returns its rowid.
+    /// Names of tables and columns are quoted, so that GROUP and the like may be used.
     std::int64_t Insert(std::string_view table, const SqlAssignments& fields);
     /// Changes the row with this rowid.
     void Update(std::string_view table, std::int64_t rowid, const SqlAssignments& fields);
@@ -125,6 +131,7 @@ private:
 };
 
 /// All or nothing: rolls back at the end of the scope unless committed.
+/// The database must outlive it; one inside another is refused by SQLite.
 class Transaction {
 public:
     explicit Transaction(Database& database);
@@ -138,6 +145,8 @@ private:
 };
 
 /// One insert statement run many times, for loads of whole tables.
+/// The statement is prepared once: a load of a million rows would else spend most of its time on
+/// that. Run it inside a Transaction, or every row is flushed by itself.
 class BulkInsert {
 public:
     BulkInsert(Database& database, std::string_view table, const std::vector<std::string>& columns);

@@ -13,6 +13,7 @@ constexpr std::array<CodeText, 3> kDataTypes{{
     {"Calculated from the authors' equation", "C"},
 }};
 
+// Which state variables are held, and with them how many the phase rule leaves free.
 constexpr std::array<CodeText, 5> kConstraintKinds{{
     {"Phase boundary", "PB"},
     {"Single phase at fixed pressure", "FP"},
@@ -63,6 +64,7 @@ constexpr std::array<CodeText, 13> kMixtureReferenceStates{{
     {"The reference state described in a comment", "RX"},
 }};
 
+// The letter leads the code of a result definition, a reference state follows.
 constexpr std::array<CodeText, 3> kReferenceRelations{{
     {"Difference X-Xref", "D"},
     {"Ratio X/Xref", "R"},
@@ -93,6 +95,7 @@ constexpr std::array<CodeText, 5> kStandardStates{{
     {"Infinite-dilution solute", "I"},
 }};
 
+// Place n is bit n of the flag word, so nothing may be put in between.
 constexpr std::array<CodeText, 4> kValueStatements{{
     {"The property value was reported as a range", ""},
     {"A correction of some kind was applied to the value", ""},
@@ -100,6 +103,7 @@ constexpr std::array<CodeText, 4> kValueStatements{{
     {"The same measurement published in a different article by the author", ""},
 }};
 
+// M, C, W and V are of combustion calorimetry: what the heat was referred to.
 constexpr std::array<CodeText, 9> kLetteredStatements{{
     {"It is not clear whether the reported data value was a new measurement by the author", "m"},
     {"The enthalpy change data was obtained by a second law calculation", "H"},
@@ -152,6 +156,7 @@ constexpr std::array<CodeText, 2> kBioPhases{{
 
 constexpr std::array<std::string_view, 5> kCriticalCurves{"CUL", "CLL", "CLG", "AZ", "MCL"};
 
+// "A" is the Angstrom, in which the system keeps wavelengths.
 constexpr std::array<QuantityText, 13> kStateVariables{{
     {"T", "Temperature", "K"},
     {"TU", "Upper temperature", "K"},
@@ -225,6 +230,7 @@ constexpr std::array<PurityUnit, 8> kPurityUnits{{
     {"halide impurity mol %", "j%", "nHalideMolPerCent"},
 }};
 
+// FX is what single values have for TF; both leave with one text.
 constexpr std::array<CodeText, 6> kPureReferenceTexts{{
     {"Reference phase with the same composition at fixed temperature and pressure", "FR"},
     {"Reference phase with the same composition, temperature and pressure", "TP"},

@@ -13,6 +13,7 @@
 
 namespace vexora {
 
+/// A deque keeps the addresses of its rows while it grows, which pointers to rows rely on.
 template <class Row>
 class KeptTable {
 public:
@@ -52,6 +53,7 @@ public:
     const std::deque<Row>& Rows() const { return rows_; }
 
     /// The rows with this text in a key column, in table order.
+    /// A column that is no key has no rows; it is not searched.
     const Found& With(Field key, std::string_view text) const {
         static const Found nothing;
         for (const Index& index : indexes_) {

@@ -4,6 +4,7 @@ namespace vexora {
 
 namespace {
 
+/// ASCII letters only, as everywhere in this room.
 char32_t Fold(char32_t c, bool caseSensitive) {
     return !caseSensitive && c >= U'A' && c <= U'Z' ? c - U'A' + U'a' : c;
 }
@@ -14,6 +15,7 @@ bool MatchesList(std::string_view pattern, std::size_t& at, char32_t c, bool cas
     const std::size_t close = pattern.find(']', at + 1);
     std::string_view list = pattern.substr(at + 1, close - at - 1);
     at = close + 1;
+    // "!" counts at the front only; "-" at either end is itself.
     const bool negated = !list.empty() && list.front() == '!';
     if (negated) list.remove_prefix(1);
     bool found = false;
@@ -40,6 +42,8 @@ bool MatchesOne(std::string_view pattern, std::size_t& at, char32_t c, bool case
 
 } // namespace
 
+// One place to go back to is enough: what a later star has matched need not be tried otherwise. So
+// the time stays within length times length.
 bool Like(std::string_view pattern, std::string_view text, bool caseSensitive) {
     std::size_t p = 0;
     std::size_t t = 0;

@@ -17,6 +17,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+/// How many digits stand from this byte on.
 std::size_t DigitsFrom(std::string_view text, std::size_t at) {
     std::size_t end = at;
     while (end < text.size() && IsDigit(text[end]))
@@ -40,6 +41,7 @@ std::size_t NumberLength(std::string_view text) {
         std::size_t exponent = at + 1;
         if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
         const std::size_t digits = DigitsFrom(text, exponent);
+        // An "E" without digits ends the number in front of it: "5E" is 5.
         if (digits > 0) at = exponent + digits;
     }
     return at;
@@ -54,6 +56,7 @@ bool IsTiny(std::string_view number) {
 
 /// Value of a text that matches the grammar whole; nothing when it is not finite.
 std::optional<double> Parse(std::string_view number) {
+    // from_chars knows no plus sign.
     const std::string_view bare = number[0] == '+' ? number.substr(1) : number;
     double value = 0;
     const auto [end, error] = std::from_chars(bare.data(), bare.data() + bare.size(), value);
@@ -70,6 +73,7 @@ struct Decimal {
     int exponent = 0;
 };
 
+// Rounding is done on these digits: 2.675 is 2.67499... as a double and yet rounds to 2.68.
 Decimal ToDecimal(double v) {
     std::array<char, 32> buffer{};
     const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
@@ -104,11 +108,15 @@ std::string PlacePoint(std::string digits, std::size_t places) {
     return digits;
 }
 
+// The addend keeps an exact power of ten from losing a digit to the logarithm; what rounds up to
+// one (999.9999999) counts as one.
 int IntegerDigits(double v) {
     if (v == 0 || !std::isfinite(v)) return 0;
     return static_cast<int>(std::floor(std::log10(std::fabs(v)) + 0.000001)) + 1;
 }
 
+/// An offset changes the number of integer digits, a factor is taken to keep the relative
+/// precision.
 bool HasOffset(std::string_view unitCode) {
     return unitCode == "C" || unitCode == "F";
 }
@@ -162,6 +170,7 @@ std::string FormatFixed(double v, int decimals) {
     } else {
         digits.append(static_cast<std::size_t>(keep) - digits.size(), '0');
     }
+    // Nothing rounds to "-0".
     const bool negative = v < 0 && digits.find_first_not_of('0') != std::string::npos;
     return (negative ? "-" : "") + PlacePoint(digits, static_cast<std::size_t>(decimals));
 }
@@ -180,6 +189,7 @@ std::optional<std::int64_t> ParseInteger(std::string_view text) {
 
 std::int64_t ToInteger(double v) {
     if (std::isnan(v)) return 0;
+    // Not every int64 is a double; this one is, and the first that does not fit.
     constexpr double kBound = 9223372036854775808.0; // 2^63
     if (v >= kBound) return std::numeric_limits<std::int64_t>::max();
     if (v <= -kBound) return std::numeric_limits<std::int64_t>::min();
@@ -210,6 +220,7 @@ int DecimalPlaces(std::string_view text) {
     std::int64_t places = d > 0 ? static_cast<std::int64_t>(CodePointCount(text)) - d : 0;
     if (e != 0) {
         const double x = Val(Substring(text, static_cast<std::size_t>(e) + 1));
+        // The exponent moves the point; without a point d is 0, which gives the place too many.
         places = e - 1 - d - ToInteger(std::clamp(x, -1e6, 1e6));
     }
     return static_cast<int>(std::clamp<std::int64_t>(places, 0, 255));
@@ -220,6 +231,7 @@ int SignificantDigits(std::string_view text) {
     const std::size_t e = std::min(text.find('e'), text.find('E'));
     const std::size_t small = text.find('e');
     text = text.substr(0, small != std::string_view::npos ? small : e);
+    // Signs, point and leading zeros tell the size of a number, not its precision.
     text.remove_prefix(std::min(text.find_first_not_of("-.0"), text.size()));
     const std::size_t length = CodePointCount(text);
     return static_cast<int>(text.find('.') == std::string_view::npos ? length : length - 1);
@@ -229,12 +241,14 @@ int TemperatureDigits(std::string_view text, std::string_view unitCode) {
     const int digits = SignificantDigits(text);
     if (!HasOffset(unitCode)) return digits;
     const double v = std::fabs(Val(text));
+    // 273.15 brings a number up to three integer digits; the typed ones are among them.
     return digits + (v < 1 ? 3 : v < 10 ? 2 : v < 100 ? 1 : 0);
 }
 
 int ConvertedDigits(std::string_view typed, std::string_view unitCode, double converted) {
     const int digits = TemperatureDigits(typed, unitCode);
     if (!HasOffset(unitCode)) return digits;
+    // Of 0.05 only one digit is significant, yet its second decimal was measured: 273.20 K.
     return std::max(digits, IntegerDigits(converted) + DecimalPlaces(typed));
 }
 

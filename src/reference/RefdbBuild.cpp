@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The value of a cell, or nothing when it does not fit its column.
+/// Numbers are checked here because SQLite stores any text in a column of numbers.
 std::optional<SqlValue> CellValue(const std::string& cell, ColumnType type) {
     if (type == ColumnType::Text) return SqlValue(cell);
     if (type == ColumnType::Real) {
@@ -49,6 +50,7 @@ private:
 
     bool ReadHeading(std::vector<std::string> heading, int line) {
         width_ = heading.size();
+        // Each figure is to say where it is from; the column stays with the text.
         if (heading.back() == "SOURCE_OF_ROW")
             heading.pop_back();
         else
@@ -97,6 +99,7 @@ void FillDatabase(const std::string& path, std::span<const TableSchema> tables,
             (fs::path(dataFolder) / (std::string(table.name) + ".tsv")).string();
         if (fs::exists(file)) TableLoader(table, file, findings).Load(database);
     }
+    // Behind the rows: an index made at once is smaller and is done sooner than one that grows.
     CreateIndexes(database, tables);
     transaction.Commit();
 }
@@ -136,6 +139,7 @@ std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
     std::vector<LineRemark> findings;
     FillDatabase(local.Path(), LocalTables(), dataFolder, findings);
     FillDatabase(compounds.Path(), CompoundTables(), dataFolder, findings);
+    // With a fault in one table neither file is replaced: both are of one edition.
     if (!findings.empty()) return findings;
     local.Keep();
     compounds.Keep();

@@ -20,6 +20,8 @@ namespace vexora {
 std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
                                                 const std::string& outFolder);
 
+/// A row that stands in the table already is told apart from a bad one: to import twice is no
+/// fault.
 struct ImportResult {
     bool readable = true;    // the text could be read
     std::size_t added = 0;   // rows that are new
@@ -27,6 +29,7 @@ struct ImportResult {
     std::vector<LineRemark> skipped;
 };
 
+/// What this room cannot know by itself: formulas are read on a higher floor.
 struct ImportOptions {
     /// The canonical text of a typed formula, "" for none; left out, formulas are taken as typed.
     std::function<std::string(std::string_view)> canonicalFormula;
@@ -42,6 +45,7 @@ ImportResult ImportCompounds(const std::string& path, const std::string& databas
 
 /// True for a registry number of two to seven, two and one digits whose last digit is the check
 /// digit: the sum of the others, each times its place from the right, modulo ten.
+/// The rule of the Chemical Abstracts Service; it finds a wrong digit and most swapped ones.
 bool IsRegistryNumber(std::int64_t rn);
 
 } // namespace vexora

@@ -10,6 +10,7 @@ namespace vexora {
 
 namespace {
 
+/// A name counts once for a compound, whatever its case; compounds may share a trivial name.
 std::string RowKey(std::int64_t rn, std::string_view name) {
     return std::to_string(rn) + " " + LowerAscii(name);
 }
@@ -25,6 +26,7 @@ std::unordered_set<std::string> PresentRows(const Database& database) {
 /// "7732185" or "7732-18-5"; nothing when it is neither or its check digit is wrong.
 std::optional<std::int64_t> ReadRegistryNumber(std::string_view cell) {
     const std::vector<std::string> parts = Split(Trim(cell), '-');
+    // Printed with hyphens the last two groups have two and one digits.
     const bool hyphens = parts.size() == 3 && parts[1].size() == 2 && parts[2].size() == 1;
     if (parts.size() != 1 && !hyphens) return std::nullopt;
     const auto rn = ParseInteger(hyphens ? parts[0] + parts[1] + parts[2] : parts[0]);
@@ -55,7 +57,9 @@ std::string ReadCompound(const std::vector<std::string>& cells, const ImportOpti
 } // namespace
 
 bool IsRegistryNumber(std::int64_t rn) {
+    // In three groups it has five digits at least; the lowest in use is 50-00-0, formaldehyde.
     if (rn < 10000 || rn > 9999999999) return false;
+    // 7732-18-5 (water): 8*1 + 1*2 + 2*3 + 3*4 + 7*5 + 7*6 = 105, check digit 5.
     const std::int64_t check = rn % 10;
     std::int64_t sum = 0;
     int place = 1;
@@ -73,6 +77,7 @@ ImportResult ImportCompounds(const std::string& path, const std::string& databas
     Database database;
     database.Open(databasePath, false);
     Transaction transaction(database);
+    // In memory: to ask the table about each row would take longer than the load itself.
     std::unordered_set<std::string> keys = PresentRows(database);
     BulkInsert insert(database, "ALLNAME", {"RN", "NAME", "FORMULA"});
     constexpr std::size_t kProgressStep = 10000;

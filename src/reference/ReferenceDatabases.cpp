@@ -8,6 +8,7 @@ namespace {
 
 ReferenceDatabases* installed = nullptr;
 
+/// A file that opens may still be foreign; a table that must be there tells.
 void OpenTested(Database& database, const std::string& path, bool readOnly, const char* table) {
     database.Open(path, readOnly);
     if (!database.HasTable(table))
@@ -19,6 +20,8 @@ void OpenTested(Database& database, const std::string& path, bool readOnly, cons
 std::optional<std::string> ReferenceDatabases::OpenBoth(const std::string& localPath,
                                                         const std::string& compoundPath) {
     try {
+        // Opened apart and then put in place, so that a failure leaves the workbench with what it
+        // had.
         ReferenceDatabases opened;
         OpenTested(opened.LocalDb, localPath, true, "Conversions");
         OpenTested(opened.CompoundDb, compoundPath, false, "ALLNAME");

@@ -12,6 +12,7 @@ namespace vexora {
 
 struct VocabularyTables;
 
+/// Two files, since the vocabulary comes with the edition and the compounds grow at the user's.
 struct ReferenceDatabases {
     Database LocalDb;                         // vocabulary, VXRLocal.mdb
     Database CompoundDb;                      // compounds, sources, authors, VXR.mdb

@@ -10,6 +10,7 @@ namespace {
 
 using enum ColumnType;
 
+// Single, Fixed, One and Two open the ways to enter pure data, MixZ and MixV those of mixtures.
 constexpr ColumnSchema kProperties[] = {
     {"Code", Text},    {"Property", Text},    {"Unit", Text},      {"GROUP", Text},
     {"CONTEXT", Text}, {"IndVarFixed", Text}, {"PureAvail", Text}, {"MixtAvail", Text},
@@ -23,6 +24,7 @@ constexpr ColumnSchema kIndVariables[] = {
     {"IndVarCode", Text}, {"IndVariable", Text}, {"Unit", Text}, {"Constr", Flag},
     {"Pure", Flag},       {"Bin", Flag},         {"Tern", Flag}, {"XMLGroup", Text},
     {"XMLNAME", Text},    {"NeedSolvent", Flag}};
+// A value times FACTOR is the value in Unit, the system unit.
 constexpr ColumnSchema kConversions[] = {
     {"ConversionCode", Text}, {"Conversion", Text}, {"Unit", Text}, {"FACTOR", Real}};
 constexpr ColumnSchema kPhases[] = {{"Code", Text}, {"Phase", Text}, {"Pure", Flag}, {"Bin", Flag},
@@ -38,6 +40,7 @@ constexpr ColumnSchema kPurityDetermination[] = {
     {"Code", Text}, {"Method", Text}, {"Rating", Integer}};
 constexpr ColumnSchema kAmass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
 
+// A compound has a row for each of its names.
 constexpr ColumnSchema kAllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
 constexpr ColumnSchema kSourceRefInfo[] = {
     {"YEARPUB", Integer}, {"AUTHOR1", Text}, {"AUTHOR2", Text}, {"AUTHORN", Integer},
@@ -76,6 +79,7 @@ constexpr TableSchema kCompoundTables[] = {
 std::string_view SqlType(ColumnType type) {
     switch (type) {
     case Text:
+        // Names are typed in any case; look-ups of codes compare again with exact case.
         return "text collate nocase";
     case Integer:
         return "integer";

@@ -22,6 +22,7 @@ struct ColumnSchema {
     ColumnType type;
 };
 
+/// Rows keep the order of their file (rowid), which is the order of lists.
 struct TableSchema {
     std::string_view name;
     std::span<const ColumnSchema> columns;

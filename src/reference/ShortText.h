@@ -13,6 +13,7 @@ namespace vexora {
 /// A text for records that stand in memory by the million: twelve bytes, with up to eleven
 /// characters in place and a longer text on the heap. Numbers as typed and codes nearly always fit.
 /// It is read as a string_view and written by assignment.
+/// Copies are deep. A view of it ends with the next assignment.
 class ShortText {
 public:
     static constexpr std::size_t MostInPlace = 11;
@@ -43,6 +44,7 @@ public:
     ShortText& operator=(const std::string& text) { return *this = std::string_view(text); }
     ShortText& operator=(const char* text) { return *this = std::string_view(text); }
 
+    // A heap block holds the length and then the characters.
     operator std::string_view() const {
         if (!IsOnHeap()) return {bytes_.data(), Mark()};
         const char* block = Block();
@@ -119,6 +121,8 @@ private:
     std::array<char, MostInPlace + 1> bytes_{};
 };
 
+// A set of a million rows is made of these; padding to a pointer's boundary would cost a third
+// more.
 static_assert(sizeof(ShortText) == 12);
 
 } // namespace vexora

@@ -34,12 +34,14 @@ bool TableReader::NextLine(std::string_view& line) {
 
 std::optional<std::vector<std::string>> TableReader::NextRow() {
     std::string_view line;
+    // Editors leave an empty line at the end.
     do {
         if (!NextLine(line)) return std::nullopt;
     } while (line.empty());
     rowLine_ = line_;
     std::vector<std::string> cells = quoted_ ? QuotedCells(line) : Split(line, '\t');
     for (std::string& cell : cells)
+        // By cell: one stray name must not spoil a file that is UTF-8 elsewhere.
         if (!IsValidUtf8(cell)) cell = FromWindows1252(cell);
     return cells;
 }
@@ -50,6 +52,8 @@ std::vector<std::string> TableReader::QuotedCells(std::string_view line) {
     bool inside = false;
     for (std::size_t i = 0;; ++i) {
         if (i >= line.size()) {
+            // A cell in quotes goes on in the next line; at the end of the text an open quote is
+            // forgiven.
             if (!inside || !NextLine(line)) return cells;
             cells.back() += '\n';
             i = static_cast<std::size_t>(-1);

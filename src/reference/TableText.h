@@ -21,6 +21,7 @@ struct LineRemark {
 
 /// Reads a table text line by line. Line ends of any platform, a byte-order mark and Windows-1252
 /// bytes are understood; empty lines are passed over.
+/// The whole text is held in memory. One pass; to read again, make another.
 class TableReader {
 public:
     /// A path ending in ".csv" is read with commas and double quotes.

@@ -32,6 +32,7 @@ std::string_view WordReader::NextWord() {
     rest_ = Strip(rest_, kWhite);
     const std::size_t end = std::min(rest_.find_first_of(kWhite), rest_.size());
     const std::string_view word = rest_.substr(0, end);
+    // One separator goes: blanks behind it may belong to a text that is the rest of the line.
     rest_.remove_prefix(std::min(end + 1, rest_.size()));
     return word;
 }
@@ -89,6 +90,8 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
     std::size_t from = 0;
     for (std::size_t at = text.find(what); at != std::string_view::npos;
          at = text.find(what, from)) {
+        // What was put in is not searched again, so that a text may be replaced by one that holds
+        // it.
         result.append(text.substr(from, at - from)).append(with);
         from = at + what.size();
     }
@@ -167,12 +170,14 @@ bool IsBlankField(std::string_view field) {
 
 char32_t NextCodePoint(std::string_view text, std::size_t& offset) {
     const auto lead = static_cast<unsigned char>(text[offset]);
+    // C0, C1 and F5 to FF begin no character (RFC 3629).
     const std::size_t length = lead >= 0xC2 && lead < 0xE0   ? 2
                                : lead >= 0xE0 && lead < 0xF0 ? 3
                                : lead >= 0xF0 && lead < 0xF5 ? 4
                                                              : 1;
     ++offset;
     if (length == 1 || offset + length - 1 > text.size()) return lead;
+    // Overlong forms would give one character several spellings.
     constexpr std::array<char32_t, 5> kSmallest{0, 0, 0x80, 0x800, 0x10000};
     char32_t value = lead & (0x7FU >> length);
     for (std::size_t i = 0; i + 1 < length; ++i) {

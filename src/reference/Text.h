@@ -15,6 +15,7 @@ std::string FirstWord(std::string& text);
 
 /// Takes the next field off a "#"-separated text. A leading "#" is passed over; the text keeps its
 /// tail from the "#" that ended the field. An empty text gives "".
+/// Record fields that may hold blanks are parted so, the names of an author among them.
 std::string NextHashField(std::string& text);
 
 /// Reads words off a record line without copying it; same rules as FirstWord.
@@ -49,6 +50,7 @@ std::string Replace(std::string_view text, std::string_view what, std::string_vi
 std::vector<std::string> Split(std::string_view text, char separator);
 
 /// Number of code points; a stray byte counts as one.
+/// Record fields are measured in characters: a name with an umlaut is not longer for it.
 std::size_t CodePointCount(std::string_view text);
 /// Position of `what` at or behind `from`, 0 if absent or `what` is empty. Case-sensitive.
 std::size_t Find(std::string_view text, std::string_view what, std::size_t from = 1);
@@ -67,10 +69,12 @@ void AppendCodePoint(std::string& text, char32_t codePoint);
 
 bool IsValidUtf8(std::string_view text);
 /// Text of the Windows-1252 code page as UTF-8; the five unassigned codes become U+FFFD.
+/// Papers and older files were typed on such systems; the page has a sign for nearly every byte.
 std::string FromWindows1252(std::string_view bytes);
 /// The bytes as UTF-8: unchanged if valid, else read as Windows-1252.
 std::string ToUtf8(std::string_view bytes);
 /// True for a text that can be the name of an element.
+/// ASCII only, without a colon: all that names of the schema need.
 bool IsXmlName(std::string_view text);
 /// One line: every line end (CR LF, CR or LF) becomes one blank.
 std::string SingleLine(std::string_view text);

@@ -55,6 +55,7 @@ void FillLetters(Table& table) {
 
 Table MakeTable() {
     Table table;
+    // Never asked for: what is below 161 and no plain character becomes a blank before.
     Fill(table, 0, 31, "0");
     for (std::size_t code = 32; code < 256; ++code) {
         table[code].clear();
@@ -110,6 +111,8 @@ TextAndCaret TransliterateAt(std::string_view text, std::size_t caret) {
             const std::string& plain = TheTable()[c];
             result.text += plain;
             written += plain.size();
+            // A sign without a replacement, such as a dead accent, lets the character behind it
+            // pass.
             skip = plain.empty();
         }
     }

@@ -17,6 +17,7 @@ void InitTransliteration();
 std::string Transliterate(std::string_view text);
 
 /// A text and the number of characters in front of the caret.
+/// The field is rewritten at every key, and the caret must not jump to its end.
 struct TextAndCaret {
     std::string text;
     std::size_t caret = 0;

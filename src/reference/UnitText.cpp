@@ -23,6 +23,7 @@ std::string UnitText(const std::string& systemUnit, std::string_view code, doubl
         if (!text.empty()) return text;
     }
     factor = FactorInUnit(code, factor);
+    // The star says "times": the typed value times the factor is in the unit behind it.
     if (factor > 0) return NumberText(factor) + (isOne ? "*" : "* " + systemUnit);
     if (isOne) return dimensionless;
     return IsSystemUnit(code) ? systemUnit : std::string(code);

@@ -8,6 +8,7 @@ namespace vexora {
 
 /// The factor that stands for a unit: the user's own, or the code itself when it is a number; 0 for
 /// none.
+/// A record may hold a number in the place of a unit code.
 double FactorInUnit(std::string_view code, double factor);
 
 /// A conversion code with its factor as the user reads it: "2.5* kPa" for an own factor, else the

@@ -22,6 +22,7 @@ bool VariableOffered(const VariableRow& row, std::string_view context) {
     return context == "React" || row.Offered.IsIn(context);
 }
 
+/// An empty context takes any row.
 const VariableRow* FirstVariable(std::string VariableRow::*key, std::string_view value,
                                  std::string_view context) {
     for (const VariableRow* row : Kept(&VocabularyTables::IndVariables).With(key, value))
@@ -63,6 +64,7 @@ std::string NameOf(SampleMethods table, std::string_view code) {
     return TextOf(Kept(table), &SampleMethodRow::Code, code, &SampleMethodRow::Method);
 }
 
+/// Free text is its own code, kept in its brackets.
 std::string CodeOf(SampleMethods table, std::string_view text) {
     if (text.starts_with('(')) return BracketedText(text);
     return TextOf(Kept(table), &SampleMethodRow::Method, text, &SampleMethodRow::Code);
@@ -89,6 +91,7 @@ bool ContextFlags::IsIn(std::string_view context) const {
     if (context == "Bin") return Bin;
     if (context == "Tern") return Tern;
     if (context == "React") return React;
+    // A context that has no column hides nothing.
     return context != "GH" || GH;
 }
 
@@ -188,6 +191,7 @@ std::vector<std::string> PurificationList() {
 std::vector<std::string> DeterminationList() {
     std::vector<std::string> names =
         Texts(Kept(&VocabularyTables::PurityDetermination), &SampleMethodRow::Method);
+    // The most frequent answer leads, wherever the table has it.
     const std::string first = "Stated by supplier";
     std::erase(names, first);
     names.insert(names.begin(), first);

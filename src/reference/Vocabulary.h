@@ -51,6 +51,7 @@ bool IsGasPhase(std::string_view code);
 
 // Independent variables.
 
+/// Constr: it may be held constant for a whole set; NeedSolvent: it is said of the solvent.
 struct VariableRow {
     std::string IndVarCode;
     std::string IndVariable;
@@ -74,6 +75,7 @@ bool VariableValid(std::string_view code);
 
 // Properties.
 
+/// The flags tell in which ways it is entered: single, at a fixed variable, against one or two.
 struct PropertyRow {
     std::string Code;
     std::string Property;
@@ -169,6 +171,7 @@ std::string ReactionType(std::string_view code);
 std::string ReactionCode(std::string_view type);
 std::vector<std::string> ReactionTypes();
 /// Standard atomic mass [g/mol].
+/// Values of IUPAC; of D and T the mass of the isotope. Exact case: "Co" is not "CO".
 std::optional<double> AtomicMass(std::string_view symbol);
 std::vector<std::string> JournalTitles();
 std::vector<std::string> PublisherNames();
@@ -178,6 +181,7 @@ std::string CompletePublisher(std::string_view typed);
 
 // Words of the export.
 
+/// Element names and texts of ThermoML. Records hold codes only, for a schema may change its words.
 std::string XMLPropertyGroup(std::string_view code, std::string_view context = {},
                              std::string_view propertyContext = {});
 std::string XMLPropertyName(std::string_view code, std::string_view context = {},

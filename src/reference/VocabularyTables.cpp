@@ -122,6 +122,7 @@ VocabularyTables* CurrentTables() {
     ReferenceDatabases* databases = CurrentDatabases();
     if (!databases || !databases->LocalDb.IsOpen()) return nullptr;
     std::shared_ptr<VocabularyTables>& tables = databases->Tables;
+    // Pointers to rows that were handed out before end here.
     if (!tables || tables->Edition != databases->LocalDb.Edition()) {
         tables = std::make_shared<VocabularyTables>();
         tables->Edition = databases->LocalDb.Edition();

@@ -16,6 +16,7 @@ struct PhaseRow {
     std::string Phase;
     ContextFlags Offered;
 };
+/// A number may be the code of several rows, each of another system unit.
 struct ConversionRow {
     std::string ConversionCode;
     std::string Conversion;

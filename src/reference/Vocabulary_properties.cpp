@@ -14,6 +14,7 @@ bool OpenForPure(const PropertyRow& row) {
     return row.Single || row.Fixed || row.One || row.Two;
 }
 
+/// The ways of entry tell for pure data; mixtures have a flag for each number of components too.
 bool PropertyOffered(const PropertyRow& row, std::string_view context) {
     if (context == "Pure" || context == "Complex") return OpenForPure(row);
     const bool isOfMixtures = context == "Bin" || context == "Tern" || context == "GH";
@@ -27,6 +28,7 @@ int Misfit(const PropertyRow& row, std::string_view context, std::string_view pr
     return row.CONTEXT.empty() ? 1 : 2;
 }
 
+/// The first of equal rows stays, as table order has it.
 const PropertyRow* BestProperty(std::string PropertyRow::*key, std::string_view value,
                                 std::string_view context, std::string_view propertyContext) {
     const PropertyRow* best = nullptr;
@@ -62,6 +64,7 @@ std::string TextWhere(std::string_view code, std::string_view mode, std::span<co
     return {};
 }
 
+/// Capital letters are of the liquid and the gas, small ones of all other phases.
 std::string LetterByPhase(std::string_view propertyClass, std::string_view phase1) {
     const std::string letter(propertyClass.substr(0, 1));
     return phase1 == "L" || phase1 == "G" ? letter : LowerAscii(letter);
@@ -123,6 +126,7 @@ std::string MixtureAvailable(std::string_view code, std::string_view mode) {
     return TextWhere(code, mode, MixtureModes, &PropertyRow::MixtAvail);
 }
 
+// Most properties are reported at a temperature.
 std::string IndVarFixed(std::string_view code) {
     std::string variable = TextWhere(code, "Fixed", PureModes, &PropertyRow::IndVarFixed);
     if (variable.empty()) variable = TextWhere(code, "One", PureModes, &PropertyRow::IndVarFixed);

@@ -6,6 +6,7 @@ namespace vexora {
 
 namespace {
 
+/// Names of ThermoML end with their unit.
 std::string WithUnit(const std::string& name, const std::string& unit) {
     return unit.empty() || unit == "1" || name.empty() ? name : name + ", " + unit;
 }
@@ -40,10 +41,14 @@ std::string XMLVariableGroup(std::string_view code) {
     const VariableRow* variable = FindVariable(code);
     if (variable && !variable->XMLGroup.empty()) return variable->XMLGroup;
     if (code.empty()) return {};
+    // Codes of the tables go before this; it serves variables that only files have: X mole
+    // fraction, W mass fraction, V volume fraction, M molality, O, Q, B ratios, with "s" behind for
+    // the solvent.
     const bool solvent =
         code.size() > 1 && (code.back() == 's' || (code.size() > 2 && code.back() == 'S'));
     if (solvent && std::string_view("XWVMOQB").find(code.front()) != std::string_view::npos)
         return "eSolventComposition";
+    // The number of the component stands behind the letter.
     const bool composition = code.size() == 1 || (code[1] >= '0' && code[1] <= '9');
     if (composition && std::string_view("MXJEWVBNOQ").find(code.front()) != std::string_view::npos)
         return "eComponentComposition";
