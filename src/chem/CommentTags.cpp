@@ -9,8 +9,10 @@ namespace vexora {
 
 namespace {
 
+// An operator writes single colons in a remark; a doubled one only opens the tags.
 constexpr std::string_view FirstTag = "::";
 
+// V1 keeps the variable of a set whose record line has no field for it.
 constexpr std::array<std::string_view, 6> OwnWords = {"UFactor", "Method", "sMethod",
                                                       "FP",      "PB",     "V1"};
 
@@ -39,6 +41,7 @@ bool CommentTags::IsOwnWord(std::string_view word) {
 
 std::string CommentTags::Text() const {
     const std::string_view text = TrimBlanks(front_);
+    // "&" fills an empty field of a record line.
     return text == "&" ? std::string() : std::string(text);
 }
 
@@ -61,6 +64,7 @@ bool CommentTags::Has(std::string_view word) const {
     return !word.empty() && tags_.find(Enclosed(word)) != std::string::npos;
 }
 
+// The first one counts: other writers may have left a second pair behind it.
 std::string CommentTags::Value(std::string_view name) const {
     const auto pair = Find(Enclosed(name));
     return pair ? ValueOf(*pair) : std::string();
@@ -123,6 +127,8 @@ std::optional<std::string> CommentTags::TakePrecision(std::string_view code) {
     const auto pair = Find(":d" + std::string(code) + ":");
     if (!pair) return std::nullopt;
     std::string value = ValueOf(*pair);
+    // Precisions are written again behind all other tags; what follows keeps a colon in front of
+    // it.
     tags_.erase(pair->begin + 1, pair->end - pair->begin);
     return value;
 }
@@ -132,12 +138,15 @@ std::string CommentTags::TakeFreeMethod() {
     if (!pair) return {};
     std::string text = ValueOf(*pair);
     if (!pair->isClosed && !text.empty()) text = Substring(text, 1, CodePointCount(text) - 1);
+    // Where tags follow, their leading colon is the one that closes the text; to take it as well
+    // would weld the next tag to the one in front.
     const bool tagsFollow = pair->isClosed && pair->end + 1 < tags_.size();
     tags_.erase(pair->begin, tagsFollow ? pair->end - pair->begin : std::string::npos);
     return text;
 }
 
 std::string CommentTags::TakeState() {
+    // A phase boundary goes before a fixed pressure: it says the state more closely.
     for (const std::string_view state : {"PB", "FP"}) {
         const std::string tag = Enclosed(state);
         const std::size_t at = tags_.find(tag);
@@ -190,11 +199,14 @@ std::string CommentDisplayText(std::string_view comment) {
     tags.TakeFreeMethod();
     std::string text = tags.Stored();
     const std::size_t firstPrecision = text.find(":d");
+    // The mark of a precision goes, its colon reads as "=".
     for (std::size_t at = firstPrecision; at != std::string::npos; at = text.find(":d", at))
         text[at] = ' ';
     if (firstPrecision != std::string::npos)
         std::replace(text.begin() + static_cast<std::ptrdiff_t>(firstPrecision), text.end(), ':',
                      '=');
+    // In "::Method:PYC:" the colons behind the name of the first tag read as blanks; the two that
+    // open the tags stay.
     const std::size_t eighth = ByteOffset(text, 8);
     std::replace(text.begin() + static_cast<std::ptrdiff_t>(eighth), text.end(), ':', ' ');
     return text;

@@ -13,9 +13,12 @@ namespace vexora {
 ///   ["sMethod:" text ":"] ["FP:" | "PB:"]
 /// Neighbours share their colon. Tags keep their order; what nobody asks for stays as it stands,
 /// odd or not, so that a comment that was only read comes back byte by byte.
+/// Whoever has a comment in hand makes one of these, changes it and puts Stored() back. It is the
+/// only reader and writer of tags, so that a form and the export never disagree about one.
 class CommentTags {
 public:
     /// What happens to the closing colon of a pair that is taken out.
+    /// Files close their tags in two ways, and what is not asked for must come back as it was.
     enum class Colon { Stays, Goes };
 
     /// The tags of a stored comment; none when it has no "::".
@@ -41,15 +44,20 @@ public:
     /// The same without white space at its ends.
     std::string TrimmedValue(std::string_view name) const;
     /// The precision stated for a quantity, trimmed.
+    /// The tag is "d" and the code of the quantity; "%" stands behind a figure that is relative.
     std::string Precision(std::string_view code) const;
     /// The value x of a tag ":P = x:", which all rows have in common, as it stands; empty when
     /// there is none.
+    /// Always in the system unit of the variable (K, kPa, MHz; WL in A), since the tag names no
+    /// unit.
     std::string Constant(std::string_view code) const;
 
     /// Puts a word in behind the others unless it is there, or takes it out wherever it stands. The
     /// tags then begin and end with a colon.
+    /// An empty word only opens and closes the tags.
     void Set(std::string_view word, bool on);
     /// Puts a pair in behind the others, which are closed before.
+    /// The value must hold no colon: it would end the value there.
     void Add(std::string_view name, std::string_view value);
     /// Gives tags that are there their last colon.
     void Close();
@@ -83,6 +91,7 @@ private:
     CommentTags() = default;
     std::optional<Pair> Find(std::string_view opening) const;
     std::string ValueOf(const Pair& pair) const;
+    /// Gives the tags their first and their last colon.
     void Open();
 
     std::string front_; // operator's text as it stands, with the blank behind it
@@ -91,6 +100,8 @@ private:
 };
 
 /// A stored comment as trees and reports show it.
+/// Method and flags read as words there and a precision as an equation; the text is for reading and
+/// is never parsed again.
 std::string CommentDisplayText(std::string_view comment);
 
 } // namespace vexora

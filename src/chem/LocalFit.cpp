@@ -13,6 +13,7 @@ namespace vexora {
 
 namespace {
 
+// The thresholds are wide on purpose: a mark that is wrong teaches the operator to pass over marks.
 constexpr std::size_t leastPoints = 12;
 constexpr std::size_t shortCurve = 50;    // here each point is judged by all the others
 constexpr std::size_t sampleSize = 50;    // points that tell which polynomial fits best
@@ -25,6 +26,7 @@ constexpr double timesDigit = 4;          // the last digit
 constexpr std::size_t pairReach = 5;      // two misprints so close may hide each other
 constexpr double madToDeviation = 1.4826; // of normally distributed errors
 
+// Each leaves degrees of freedom to tell the scatter by.
 constexpr std::array<Degree, 3> degrees{{{2, 8}, {3, 10}, {4, 10}}};
 
 /// The scatter of the curve about its fits, from every stride-th point. Nothing when too few of
@@ -36,6 +38,8 @@ std::optional<double> WholeScatter(const Curve& curve, Degree degree, std::size_
     if (sizes.size() < leastPoints / 2) return std::nullopt;
     const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
     std::nth_element(sizes.begin(), middle, sizes.end());
+    // The median of absolute deviations times 1 / 0.6745, the upper quartile of the normal
+    // distribution, estimates its standard deviation and is not moved by the misprint looked for.
     return madToDeviation * *middle;
 }
 
@@ -46,6 +50,7 @@ struct BestFit {
 };
 
 std::optional<BestFit> BestFitOf(const Curve& curve) {
+    // A sample of a long curve tells its kind well enough, and keeps the time of a table short.
     const std::size_t stride = (curve.size() - 1) / sampleSize + 1;
     std::optional<BestFit> best;
     for (const Degree degree : degrees) {
@@ -55,6 +60,8 @@ std::optional<BestFit> BestFitOf(const Curve& curve) {
     return best;
 }
 
+/// Both scatters count: the local one alone is small by chance somewhere on every long curve, the
+/// whole one alone condemns the noisy end of a range.
 bool IsFar(const Verdict& verdict, const BestFit& fit, bool isEnd) {
     const double size = verdict.Size();
     return size > timesWhole * fit.scatter &&
@@ -63,6 +70,7 @@ bool IsFar(const Verdict& verdict, const BestFit& fit, bool isEnd) {
 
 /// Rounding alone may put it there. A rounding error is spread evenly over one unit, which is a
 /// deviation of 0.29 units.
+/// Rectangular distribution of half-width 1/2 (JCGM 100:2008, 4.3.7).
 bool IsRounding(double size, double digit) {
     return size <= timesDigit * digit || size <= timesLocal * digit / std::sqrt(12.0);
 }
@@ -104,6 +112,7 @@ FitVerdict VerdictOn(const Curve& curve, std::size_t at, const BestFit& whole) {
     const double size = verdict->Size();
     if (!IsFar(*verdict, fit, isEnd) || IsRounding(size, DigitAt(curve, at, fit.degree.neighbours)))
         return FitVerdict::Near;
+    // One bad neighbour can bend the fit away from a sound point.
     const Neighbours near(curve, at, fit.degree.neighbours, at);
     for (std::size_t i = 0; i < near.count; ++i) {
         const auto without = Judge(curve, at, fit.degree, near.places[i]);
@@ -139,6 +148,7 @@ FitVerdict VerdictWithout(const Curve& curve, std::size_t at, std::size_t other,
 /// of the curve.
 bool IsFarWithout(const Curve& curve, std::size_t at, std::size_t other, const BestFit& whole) {
     if (at + 1 == other || other + 1 == at) {
+        // Misprints have no reason to agree in sign, a phase transition or a critical peak has.
         const auto one = Judge(curve, at, whole.degree, other);
         const auto two = Judge(curve, other, whole.degree, at);
         if (!one || !two || one->residual * two->residual > 0) return false;
@@ -146,6 +156,7 @@ bool IsFarWithout(const Curve& curve, std::size_t at, std::size_t other, const B
     return VerdictWithout(curve, at, other, whole) == FitVerdict::Far;
 }
 
+/// The curve in other coordinates. Its order may turn around (1 / x); neighbours stay neighbours.
 template <class Turn>
 Curve Turned(const Curve& curve, const Turn& turn) {
     Curve turned = curve;
@@ -154,6 +165,7 @@ Curve Turned(const Curve& curve, const Turn& turn) {
     return turned;
 }
 
+/// dlny = dy / y: the last digit becomes a relative one.
 void TakeLogarithm(FitPoint& point) {
     point.least /= point.y;
     point.y = std::log(point.y);
@@ -187,6 +199,7 @@ std::vector<View> ViewsOf(const Curve& curve, FitScale scale) {
     return views;
 }
 
+/// The mildest verdict of all views: a steep curve bends in one of them and is smooth in another.
 std::vector<FitVerdict> WorstVerdicts(const std::vector<View>& views, std::size_t count) {
     std::vector<FitVerdict> worst(count, FitVerdict::Far);
     for (const View& view : views)
@@ -213,6 +226,7 @@ std::vector<std::size_t> Suspects(const std::vector<View>& views,
 
 /// Finds misprints that hide each other, or that one already found hides.
 void MarkPairs(const std::vector<View>& views, std::vector<FitVerdict>& verdicts) {
+    // Judged as found before any pair: a mark made here must not make the next one.
     const std::vector<FitVerdict> alone = verdicts;
     const std::vector<std::size_t> suspects = Suspects(views, verdicts);
     const auto isFar = [&](std::size_t at, std::size_t other) {
@@ -231,6 +245,7 @@ void MarkPairs(const std::vector<View>& views, std::vector<FitVerdict>& verdicts
 }
 
 /// Rows that agree in all variables but one.
+/// Values of the other variables are compared exactly: a table repeats them digit by digit.
 std::vector<std::vector<std::size_t>> CurvesAlong(const std::vector<FitRow>& rows, std::size_t n,
                                                   std::size_t variables) {
     const auto firstDifference = [&](std::size_t a, std::size_t b) {
@@ -288,6 +303,8 @@ std::vector<std::size_t> FarRows(const std::vector<FitRow>& rows,
             const std::vector<FitVerdict> verdicts = LocalFit(points, scales[n]);
             for (std::size_t i = 0; i < curve.size(); ++i) {
                 best[curve[i]] = std::max(best[curve[i]], verdicts[i]);
+                // A row that fits on one of its curves is sound: on the other it crosses something
+                // real.
                 if (verdicts[i] == FitVerdict::Near) isNear[curve[i]] = true;
             }
         }
@@ -302,6 +319,7 @@ double UnitOfLastDigit(std::string_view number) {
     const std::size_t exponent = number.find_first_of("eE");
     const std::string_view mantissa = number.substr(0, exponent);
     const std::size_t point = mantissa.find('.');
+    // An integer without a point counts to its last figure, be it a zero.
     double power = exponent == number.npos ? 0 : Val(number.substr(exponent + 1));
     if (point != mantissa.npos) power -= static_cast<double>(mantissa.size() - point - 1);
     return std::pow(10.0, power);

@@ -8,6 +8,7 @@
 namespace vexora {
 
 /// One point of a curve; least is one unit of the last digit that was typed for y.
+/// No uncertainty enters here: a misprint is found by its neighbours, whatever its author states.
 struct FitPoint {
     double x = 0, y = 0, least = 0;
 };
@@ -20,8 +21,11 @@ struct FitRow {
 
 /// How a curve is brought near to a straight line before neighbours are compared: as it is, or the
 /// logarithm of y against 1 / x, for pressures against an absolute temperature.
+/// A vapour pressure follows ln p = A - B / T over wide ranges (Clausius and Clapeyron), where p
+/// itself is too steep for a polynomial.
 enum class FitScale { Plain, Vapor };
 
+/// In rising order: several views of a curve give the least of their verdicts.
 enum class FitVerdict { None, Near, Far };
 
 /// Whether each point of a curve lies far from what its neighbours say. Far is a point that a
@@ -40,6 +44,7 @@ std::vector<std::size_t> FarRows(const std::vector<FitRow>& rows,
                                  const std::vector<FitScale>& scales);
 
 /// One unit of the last digit of a number as typed: 0.01 for "1.50", 100 for "1.5E3".
+/// The text is a number (IsNumeric); trailing zeros count as digits that were meant.
 double UnitOfLastDigit(std::string_view number);
 
 } // namespace vexora

@@ -38,6 +38,7 @@ void TakePrecision(clsProperty& item, CommentTags& tags) {
         item.PRECISION = Val(*stated);
         return;
     }
+    // A precision is never negative, be the value what it may.
     const std::string percent = Substring(*stated, 1, CodePointCount(*stated) - 1);
     item.PRECISION = std::abs(Val(percent) * item.Value) / 100;
 }
@@ -64,6 +65,7 @@ void DecodePrecisionTags(clsProperty& head) {
     method.KeySaved = tags.Stored();
     std::string& keyRest = Globals().KeyRest;
     keyRest = method.KeySaved;
+    // One colon stays: the tags that a dialog puts in front end with none.
     while (keyRest.starts_with("::"))
         keyRest.erase(0, 1);
 }
@@ -78,6 +80,7 @@ void EncodeTags(const clsProperty& head) {
     keyRest = rest.Tags().empty() ? ":" : rest.Stored();
     const std::string begin = method.Method.empty() ? ":" : "::Method:" + method.Method;
     CommentTags saved = CommentTags::OfTags(begin + keyRest);
+    // Through the text once, so that the file holds the digits that were shown.
     if (method.f > 0 && method.f != 1) saved.Add("UFactor", NumberText(Val(NumberText(method.f))));
     for (const clsProperty* item = &head; item;
          item = item->isLast ? nullptr : item->NextItem.get()) {
@@ -97,6 +100,7 @@ std::string AppendSMethod(std::string_view comment) {
     const clsMethod& method = Method();
     const bool asked = method.Method == "OTHER" || method.Method.empty();
     if (method.sMethod.empty() || !asked) return std::string(comment);
+    // The comment ends with a colon, which opens this tag. A colon in the words would end them.
     return std::string(comment) + "sMethod:" + Replace(method.sMethod, ":", " ") + ":";
 }
 
@@ -110,6 +114,7 @@ void SyncSampleFlags(std::string_view sampleDescription) {
 std::string BuildComment(std::string_view text, const clsProperty& head, std::string_view state) {
     EncodeTags(head);
     std::string tags = Method().KeySaved;
+    // The empty pair opens the tags where no method does.
     if (Method().Method.empty()) tags.insert(1, ":Method:");
     std::string comment = CommentTags(SingleLine(text)).Text();
     if (!comment.empty()) comment += " ";

@@ -20,6 +20,8 @@ double Product(const Values& a, const Values& b) {
 
 /// A polynomial through the neighbours of a point, built from ones that are orthogonal over them.
 /// The abscissa is 0 at the point and at most 1 away from it.
+/// Gram and Schmidt on ten points at most: no matrix of normal equations whose condition the powers
+/// would spoil, and no memory from the heap for a point.
 class Fit {
 public:
     /// False when the neighbours have too few different places.
@@ -28,6 +30,7 @@ public:
         if (near.count < degree.neighbours || !Place(curve, at, near)) return false;
         for (std::size_t k = 0; k <= degree.degree; ++k)
             if (!Add(k)) return false;
+        // Degrees of freedom: points less coefficients.
         const auto free = static_cast<double>(near.count - degree.degree - 1);
         verdict = {fitted_, std::sqrt(Product(left_, left_) / free), std::sqrt(spread_)};
         return true;
@@ -36,6 +39,8 @@ public:
 
 private:
     bool Place(const Curve& curve, std::size_t at, const Neighbours& near) {
+        // Values are taken against the point's own: small differences of large numbers keep their
+        // digits.
         double widest = 0;
         count_ = near.count;
         for (std::size_t i = 0; i < count_; ++i) {
@@ -52,6 +57,7 @@ private:
     /// Takes the part of the next power that is new, and what it explains off the values.
     bool Add(std::size_t k) {
         Values next = power_;
+        // The new power at the point itself, where the abscissa is 0.
         double value = k == 0 ? 1 : 0;
         const double before = std::sqrt(Product(next, next));
         for (std::size_t j = 0; j < k; ++j) {
@@ -70,6 +76,7 @@ private:
         const double weight = Product(left_, next);
         TakeOff(left_, weight, next);
         fitted_ += weight * here_[k];
+        // Basis of length 1: variances of independent errors of the neighbours add up.
         spread_ += here_[k] * here_[k];
         return true;
     }
@@ -84,6 +91,7 @@ private:
     std::array<Values, mostTerms> basis_{};
     std::array<double, mostTerms> here_{}; // value of each at the point
     double fitted_ = 0;
+    // Starts with the point's own error.
     double spread_ = 1;
 };
 

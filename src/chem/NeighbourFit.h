@@ -18,6 +18,8 @@ struct Degree {
 };
 
 /// What the neighbours of a point say about it.
+/// Residual and scatter are in the unit of y; spread is the standard deviation of the residual in
+/// terms of that of a single point.
 struct Verdict {
     double residual = 0; // of the fit against the point
     double scatter = 0;  // of the neighbours about the fit
@@ -27,6 +29,8 @@ struct Verdict {
 };
 
 /// The points next to one on the curve, but for it and one other; that may be itself.
+/// Places count from 0 in the curve. At its ends the window is shifted inward, so that the number
+/// of neighbours stays and with it the degrees of freedom.
 struct Neighbours {
     static constexpr std::size_t Most = 10;
 
@@ -41,6 +45,8 @@ struct Neighbours {
 std::optional<Verdict> Judge(const Curve& curve, std::size_t at, Degree degree, std::size_t other);
 
 /// One unit of the last digit thereabouts: of the point or of most of its neighbours.
+/// The larger of both: a point typed with fewer digits than the others may be off by its own unit,
+/// one typed with more is no better than they are.
 double DigitAt(const Curve& curve, std::size_t at, std::size_t neighbours);
 
 } // namespace vexora

@@ -18,16 +18,20 @@ struct Rule {
     bool aboveLower = false; // the lower bound itself is refused
     bool belowUpper = false; // the upper bound itself is refused
     bool absolute = false;   // the bounds are those of |v|
+    // Azeotropic temperature and pressure: the system was found to have no azeotrope.
     bool orMinusOne = false; // -1 passes: no azeotrope
 };
 
+// What thermodynamics forbids [system units: K, kPa, kg/m3, m3/mol, J/K/mol, kJ/mol ...].
 constexpr Rule HardLimits[] = {
     {"T TMN TBN TB TC TE TLC TUC", 0, None},
     {"TA PA", 0, None, false, false, false, true},
     {"P PV P# PC PO F", 0, None},
     {"VDN VDM VS VM VC VSC VDC", 0, None, true},
     {"CP CV CS CPV CVV CPW H/T S M# J#", 0, None},
+    // G(T)-H(0) is minus the integral of S over T, and S is not negative by the third law.
     {"G/T", -None, 0},
+    // Visible light is slower in matter than in the vacuum.
     {"RID RIX", 1, None, true},
     // "WL" without a number is a wavelength.
     {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S", 0, 1},
@@ -35,6 +39,7 @@ constexpr Rule HardLimits[] = {
     {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC", 0, None},
 };
 
+// Where the data of common compounds lie; helium and molten salts are asked about.
 constexpr Rule SoftLimits[] = {
     {"TMN", 100, 700},
     {"TB TBN", 100, 800},
@@ -52,6 +57,7 @@ constexpr Rule SoftLimits[] = {
     {"VM", 0.00001, None, true},
     {"VS VSC", 0.0002, None, true},
     {"VDM", -None, 100000},
+    // Excess and partial quantities have both signs.
     {"VEX VP# VA", 0, 0.001, false, false, true},
     {"CP CV CS CPA H/T S G/T", 0.001, 10000, false, false, true},
     {"CEX", 0.001, 1000, false, false, true},
@@ -94,6 +100,7 @@ bool Holds(const Rule& rule, double value) {
     return low && high;
 }
 
+/// The first rule that names the code decides.
 bool Passes(std::span<const Rule> rules, std::string_view code, double value) {
     for (const Rule& rule : rules) {
         if (Names(rule.codes, code)) return Holds(rule, value);

@@ -19,6 +19,7 @@ constexpr int kHighestRating = 251;            // above it come the marks for "n
 constexpr std::array<std::string_view, 4> kSampleMarks{{"fd", "db", "cm", "av"}};
 
 /// Codes are joined in the description of a sample.
+/// These marks part the codes there; a text in brackets is the operator's.
 void CheckSampleCode(TableRows& row) {
     const std::string code = row.Text("Code");
     row.Expect(code.find_first_of("%,;()") == code.npos,
@@ -26,6 +27,7 @@ void CheckSampleCode(TableRows& row) {
     row.Expect(!row.Text("Method").starts_with('('), "a text in brackets is taken for a remark");
 }
 
+/// In a source text "@" encloses the publication and "$" the volume.
 void CheckTitles(const Database& vocabulary, const char* table, const char* column,
                  RowRemarks& findings) {
     for (TableRows row(vocabulary, table, findings); !row.IsEnd(); row.MoveNext()) {
@@ -87,6 +89,7 @@ void CheckAtomicMasses(const Database& vocabulary, RowRemarks& findings) {
         row.Expect(IsElementSymbol(symbol) && symbol != "Xx" && symbol != "R",
                    Quoted(symbol) + " is no symbol of an element");
         row.ExpectOnce("the symbol", symbol);
+        // Even hydrogen (1.008 g/mol) is above 1.
         row.Expect(row.Number("AMASS") > 1, "the mass of " + Quoted(symbol) + " is not above 1");
     }
 }
@@ -98,8 +101,10 @@ void CheckCompounds(const Database& compounds, RowRemarks& findings) {
         row.Expect(IsRegistryNumber(rn) && rn != kEmptySlot,
                    std::to_string(rn) + " is no registry number, or its check digit is wrong");
         const std::string name = row.Required("NAME");
+        // Synonyms have rows of their own; one that stands twice would be offered twice.
         row.ExpectOnce("for " + std::to_string(rn) + " the name", LowerAscii(name));
         CheckFormula(row);
+        // The molar mass of data is taken from the first row found.
         const std::string& first = formulas.emplace(rn, row.Text("FORMULA")).first->second;
         row.Expect(first == row.Text("FORMULA"),
                    std::to_string(rn) + " has the formula " + Quoted(first) + " in an earlier row");
@@ -116,9 +121,11 @@ void CheckSources(const Database& compounds, RowRemarks& findings) {
     }
     for (TableRows row(compounds, "SOURCE_AUTHOR", found); !row.IsEnd(); row.MoveNext()) {
         row.Required("FULLNM");
+        // Authors are found by both, padded with blanks to these widths.
         ExpectWidth(row, "LASTNM", 6);
         ExpectWidth(row, "INITNM", 3);
     }
+    // A fresh installation has no sources yet.
     std::erase_if(found, [](const RowRemark& finding) { return finding.row == 0; });
     findings.insert(findings.end(), found.begin(), found.end());
 }

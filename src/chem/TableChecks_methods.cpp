@@ -10,6 +10,7 @@ namespace vexora {
 
 namespace {
 
+/// Method and statements share the tags of a comment with the words of CommentTags.
 bool IsTagWord(std::string_view key) {
     return CommentTags::IsOwnWord(key) || IndexOfCode(LetteredStatements(), key) >= 0;
 }
@@ -17,12 +18,14 @@ bool IsTagWord(std::string_view key) {
 void CheckMethodCode(TableRows& row, const std::string& code) {
     CheckCode(row, code);
     row.Expect(CodePointCount(code) <= 8, Quoted(code) + " has more than eight letters");
+    // OTHER is described in words, UNKNOWN is not stated; both are offered for every property.
     row.Expect(code != "OTHER" && code != "UNKNOWN",
                Quoted(code) + " is a word of its own, no method");
 }
 
 void CheckKey(TableRows& row) {
     const std::string key = row.Required("Key");
+    // "d" and a code would be read as a precision.
     row.Expect(!key.starts_with('d') && !IsTagWord(key) && key.find_first_of(" :,;_") == key.npos,
                "the key " + Quoted(key) + " is not to be told from another tag");
 }
@@ -55,6 +58,7 @@ void CheckQuestions(const Database& vocabulary, RowRemarks& findings) {
                        method + " " + context + ": " + question);
         row.ExpectOnce("for method and context the key",
                        method + " " + context + ": " + row.Text("Key"));
+        // A statement says the same whatever the method was, and so must its tag.
         const auto known = keys.emplace(context + ": " + question, row.Text("Key")).first;
         row.Expect(known->second == row.Text("Key"),
                    "the same question has the key " + Quoted(known->second) + " elsewhere");

@@ -111,10 +111,13 @@ void CheckProperties(const Database& vocabulary, RowRemarks& findings) {
         const std::string code = row.Required("Code");
         CheckCode(row, code);
         const std::string context = row.Text("CONTEXT");
+        // A code may have rows of its own for solid-liquid, liquid-liquid and vapour-liquid
+        // equilibria.
         row.ExpectOnce("the code", LowerAscii(context.empty() ? code : code + " " + context));
         row.ExpectOnce("the property", LowerAscii(row.Required("Property")));
         CheckUnitAndExportName(row);
         const std::string unit = row.Text("Unit");
+        // A dimensionless quantity needs no conversion.
         row.Expect(unit == "1" || Contains(units, unit),
                    "no other unit than " + Quoted(unit) + " is offered");
         CheckOffer(row);
@@ -124,6 +127,7 @@ void CheckProperties(const Database& vocabulary, RowRemarks& findings) {
         row.Expect(VariableValid(row.Text("IndVarFixed")),
                    "IndVarFixed " + Quoted(row.Text("IndVarFixed")) + " is no state variable");
         const auto methods = MethodsOf(code);
+        // UNKNOWN and OTHER alone would be no choice.
         row.Expect(methods.size() >= 3,
                    "only " + std::to_string(methods.size()) + " methods are offered");
     }

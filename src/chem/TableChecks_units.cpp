@@ -12,6 +12,7 @@ namespace vexora {
 
 namespace {
 
+// Stored data stand in these; a unit that changes here would change the meaning of stored data.
 constexpr std::array<std::string_view, 32> kUnits{
     {"1",      "K",          "kPa",    "1/K",     "1/kPa",  "kg/m3",   "m3/kg",  "m3/mol",
      "mol/m3", "m6/mol2",    "kJ/mol", "J/K/mol", "J/K/kg", "J/K/m3",  "Pa*s",   "1/(Pa*s)",
@@ -21,6 +22,7 @@ constexpr std::array<std::string_view, 32> kUnits{
 // Codes that differ by case only: each letter of these units has its own meaning.
 constexpr std::string_view kCasePairs = "AKVUZWXY";
 
+// Names of the schema (ThermoML, VariableType and ConstraintType).
 constexpr std::array<std::string_view, 5> kVariableGroups{
     {"eTemperature", "ePressure", "eComponentComposition", "eSolventComposition",
      "eMiscellaneous"}};
@@ -44,6 +46,7 @@ void CheckFactor(TableRows& row, const std::string& code) {
     const double constant = known || IsNumeric(code) ? ConversionFactor(code) : factor;
     row.Expect(factor > 0, "FACTOR is not above 0");
     const double difference = factor > constant ? factor - constant : constant - factor;
+    // The last digits of a double may differ between the text and the constant, the figure may not.
     row.Expect(difference <= 1e-12 * constant,
                "FACTOR " + NumberText(factor) + " differs from the constant " +
                    NumberText(constant) + " of the code " + Quoted(code));
@@ -51,6 +54,7 @@ void CheckFactor(TableRows& row, const std::string& code) {
 
 void CheckStateVariables(const Database& vocabulary, RowRemarks& findings) {
     for (const QuantityText& state : StateVariables()) {
+        // With exact case: rules find state variables by these texts.
         const Recordset rows =
             vocabulary.Query("select * from IndVariables where IndVarCode=? collate binary"
                              " and IndVariable=? collate binary and Unit=? collate binary"
@@ -119,6 +123,7 @@ void CheckVariables(const Database& vocabulary, RowRemarks& findings) {
                    Quoted(group) + " is no group of variables");
         row.Expect(group != "eSolventComposition" || row.Flag("NeedSolvent"),
                    "a composition of the solvent needs NeedSolvent");
+        // A pressure is the same quantity as property and as variable.
         const std::string unit = DefaultUnit(row.Text("IndVariable"));
         row.Expect(unit == row.Text("Unit"),
                    "the property of the same name is kept in " + Quoted(unit));

@@ -12,6 +12,7 @@ namespace vexora {
 
 namespace {
 
+// No symbol: it can never be met in a formula as typed, for no element has five letters.
 constexpr std::string_view kError = "Error";
 // Brackets nested deeper are no formula that anybody typed; they must not exhaust the stack.
 constexpr int kDeepestBracket = 50;
@@ -23,6 +24,7 @@ bool IsLower(char c) {
     return c >= 'a' && c <= 'z';
 }
 
+/// The case decides: "CO" is carbon and oxygen, "Co" is cobalt.
 std::string TakeElement(std::string_view& text) {
     const std::size_t length = text.size() > 1 && IsLower(text[1]) ? 2 : 1;
     const std::string symbol(text.substr(0, length));
@@ -35,6 +37,7 @@ std::string NextSymbol(std::string_view& text) {
     if (text.empty()) return {};
     const char first = text.front();
     if (IsUpper(first)) return TakeElement(text);
+    // A group is not looked up: its braces keep it apart from the elements.
     if (first == '{') {
         const std::size_t close = text.find('}');
         const std::string symbol(text.substr(0, close == text.npos ? close : close + 1));
@@ -44,6 +47,7 @@ std::string NextSymbol(std::string_view& text) {
     text.remove_prefix(1);
     if (first == '(') return "(";
     if (first != ')') return std::string(kError);
+    // A bracket that nobody opened ends the formula.
     if (!text.empty()) text.remove_prefix(1);
     return {};
 }
@@ -51,6 +55,7 @@ std::string NextSymbol(std::string_view& text) {
 double NextNumber(std::string_view& text) {
     const std::size_t length = std::min(text.find_first_not_of("0123456789."), text.size());
     if (length == 0) return 1;
+    // Fractional counts occur in solid solutions and hydrates. Of "1.2.3" the value is 1.2.
     const double value = Val(text.substr(0, length));
     text.remove_prefix(length);
     return value;
@@ -83,6 +88,8 @@ int DepthOf(std::string_view text) {
 }
 
 /// Place of a symbol in the canonical text: the Hill order, with D and T behind H.
+/// E. A. Hill, J. Am. Chem. Soc. 1900, 22, 478: C, then H, then by the alphabet; without C all by
+/// the alphabet.
 std::string SortKey(const std::string& symbol, bool hasCarbon) {
     if (symbol == "D") return hasCarbon ? "A2" : "H2";
     if (symbol == "T") return hasCarbon ? "A3" : "H3";
@@ -103,6 +110,7 @@ clsAtom::~clsAtom() {
         nextAtom = std::move(nextAtom->nextAtom);
 }
 
+// What is read later is put behind this node, so that the error stays in front.
 void clsAtom::SetError() {
     Symbol = kError;
     isLast = true;
@@ -126,6 +134,7 @@ void clsAtom::Build(std::string_view text) {
             B.Count = 1;
         }
         const double number = NextNumber(text);
+        // Nobody states an element in order to say that there is none of it.
         if (number == 0) {
             SetError();
             continue;
@@ -140,6 +149,7 @@ void clsAtom::Multiply(double factor) {
         node->Count *= factor;
 }
 
+// Each symbol stands once, in the order in which they were typed; only Formula sorts.
 void clsAtom::AddB(clsAtom& B) {
     if (Symbol.empty()) {
         *this = std::move(B);

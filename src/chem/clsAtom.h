@@ -22,9 +22,13 @@ public:
     clsAtom& operator=(clsAtom&&) noexcept;
 
     /// Reads a formula such as "CH3(CH2)2OH"; upper and lower case matter.
+    /// A bracket that does not close, a count of 0, a symbol without atomic mass and a wrong letter
+    /// make an error; a symbol in braces ("{R}2O") is a group of unknown composition and passes.
     void Build(std::string_view text);
+    /// Counts of all elements times a factor, as a bracket with a number behind it asks for.
     void Multiply(double factor);
     /// Merges another list into this one.
+    /// Counts of the same element add up; new ones are put behind. B may be moved from.
     void AddB(clsAtom& B);
     /// Canonical text, empty for a text that is no formula.
     std::string Formula() const;
@@ -36,8 +40,10 @@ private:
 };
 
 /// The canonical text of a typed formula, empty when it is none.
+/// "OH2" and "H2O" have one text: formulas are compared by it.
 std::string CanonicalFormula(std::string_view text);
 /// Molar mass of a formula [g/mol], 0 when it is none.
+/// Groups in braces add nothing, so that the figure of such a formula is too small.
 double MolarMassOfFormula(std::string_view text);
 
 } // namespace vexora

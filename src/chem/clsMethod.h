@@ -8,6 +8,7 @@ namespace vexora {
 /// The working context of the data dialog that is open: method, molar mass, phase and purity in
 /// hand, and the tags of the comment. There is one instance, CurrentMethod of the globals, made
 /// anew before each dialog opens.
+/// Nothing in it is saved as it stands: the dialog writes what it needs into its record.
 class clsMethod {
 public:
     std::string Method;      // code of the measuring method

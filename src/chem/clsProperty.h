@@ -17,12 +17,15 @@ struct ValueDoubt {
 
 /// Puts a doubt to the operator where it comes up, for what follows depends on the answer: true
 /// when a value in question may stand. The answer to what is no question does not count.
+/// Rows of a table bring their own answer, "Yes to All" among them.
 using ConfirmValue = std::function<bool(const ValueDoubt&)>;
 
 /// One quantity of a row, from the text that was typed to the value in system units with its
 /// uncertainty. The items of a row form a chain: the head is the property, behind it stands one
 /// item for each variable; the last has isLast true. Values and levels that are not given are empty
 /// texts or 0; a text ending in "%" is per cent of the value.
+/// A dialog builds the chain, which the globals hold while it is open (CurrentProperty); figures
+/// are expanded uncertainties at a level of about 95 per cent.
 class clsProperty {
 public:
     std::string PropertyCode;
@@ -55,6 +58,8 @@ public:
     /// SystemPrecision. ok is false when the value is not valid, or suspicious and not confirmed;
     /// without `confirm` nothing is told and nothing suspicious stands. molarMass in g/mol, 0 when
     /// not known.
+    /// Device, repeatability and curve deviation add in squares; the author's figure is a lower
+    /// bound of the sum. An empty Text leaves Value as it is.
     void Convert(bool& ok, double molarMass, const ConfirmValue& confirm = {});
     /// Derivatives of the items behind this one, brought to system units of this property.
     void ConvertDer(double molarMass);
@@ -63,6 +68,7 @@ public:
     /// Limits of plausibility on SystemValue; only an absolute value is tested.
     void Check(bool& ok) const;
     /// Takes over all fields of the source and of the chain behind it.
+    /// The copies are independent: an evaluation on trial leaves the source alone.
     void Copy(const clsProperty& source);
 };
 
