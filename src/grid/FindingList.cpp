@@ -33,6 +33,7 @@ void FindingList::FindAgain() {
 }
 
 void FindingList::FindAgain(int firstRow, int lastRow, bool valuesChanged) {
+    // From here on rows have been taken away; what was found in them must not be stepped to.
     const int gone = grid_.Rows();
     findings_.erase(findings_.lower_bound(gone), findings_.end());
     firstRow = std::max(firstRow, grid_.FixedRows());
@@ -44,6 +45,7 @@ void FindingList::FindAgain(int firstRow, int lastRow, bool valuesChanged) {
         else
             findings_[row] = std::move(found);
     }
+    // A hint rests on the whole table, so one value can change those of any other row.
     if (valuesChanged) {
         const auto [firstHint, lastHint] = HintAgain();
         firstRow = std::min(firstRow, firstHint);
@@ -60,6 +62,7 @@ std::pair<int, int> FindingList::HintAgain() {
     for (Finding& hint : rules_.Hints())
         hints[hint.row].push_back(std::move(hint));
     std::pair<int, int> rows(std::numeric_limits<int>::max(), -1);
+    // The usual case while somebody types: nothing needs to be painted again.
     if (hints == hints_) return rows;
     for (const ByRow* some : {&hints, &hints_}) {
         if (some->empty()) continue;
@@ -96,6 +99,7 @@ void FindingList::Mark(int firstRow, int lastRow) {
     if (firstRow > lastRow) return;
     ui::Grid::Marks marks;
     for (const Finding* finding : AllOf(firstRow, lastRow))
+        // A cell shows one text: the first, for the findings of a row stand in front of its hints.
         marks.insert({PlaceOf(*finding), {finding->isFault, finding->text}});
     grid_.MarkRows(firstRow, lastRow, std::move(marks));
 }
@@ -115,14 +119,17 @@ void FindingList::ShowLines() {
         lines.push_back("... and " + std::to_string(all.size() - MostListed) + " more");
     const ui::FillingScope filling(list_.Owner());
     list_.Visible(!lines.empty());
+    // A list assigned anew loses its place; most changes leave its lines as they are.
     if (list_.Items() != lines) list_.Assign(std::move(lines));
 }
 
 void FindingList::Step(int step) {
     std::vector<const Finding*> all = AllOf(0, grid_.Rows());
     if (all.empty()) return;
+    // From left to right in a row, and not by kind as in the list.
     std::stable_sort(all.begin(), all.end(),
                      [](const Finding* a, const Finding* b) { return PlaceOf(*a) < PlaceOf(*b); });
+    // From the selected cell, which may have been reached by other ways than these steps.
     const std::pair here(grid_.Selection().top, grid_.Selection().left);
     const Finding* next = nullptr;
     if (step > 0) {

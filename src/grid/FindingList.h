@@ -15,6 +15,7 @@ namespace vexora {
 /// kept by row. Belongs to the table editor.
 class FindingList {
 public:
+    /// Rules, grid and list must outlive it.
     FindingList(const TableRules& rules, ui::Grid& grid, ui::ListBox& list);
     FindingList(const FindingList&) = delete;
     FindingList& operator=(const FindingList&) = delete;
@@ -24,9 +25,11 @@ public:
     void FindAgain(int firstRow, int lastRow, bool valuesChanged);
     /// Asks for all.
     void FindAgain();
+    /// For whoever shows the rows otherwise, as a plot rings its points. Rows count as in the grid.
     bool HasHint(int row) const { return hints_.contains(row); }
     /// To the next finding behind the selected cell (1), or in front of it (-1); around at the
     /// ends.
+    /// Nothing happens without findings.
     void Step(int step);
     /// Selects the cell of the finding, and its line if it has one.
     void GoTo(const Finding& finding);
@@ -35,7 +38,9 @@ private:
     using ByRow = std::map<int, std::vector<Finding>>;
 
     std::pair<int, int> HintAgain();
+    /// Valid until findings or hints are asked again.
     std::vector<const Finding*> AllOf(int firstRow, int lastRow) const;
+    /// Colours the cells of these rows, with the text as tool tip.
     void Mark(int firstRow, int lastRow);
     void ShowLines();
 

@@ -26,6 +26,7 @@ void ChangeSelection(TableUndo& table,
     });
 }
 
+/// A remark or an empty cell would come out as 0.
 void ChangeNumbers(TableUndo& table, std::string (*changed)(const std::string&)) {
     ChangeSelection(table, [&](int row, int column) {
         const std::string& text = table.Table().Cell(row, column);
@@ -33,6 +34,7 @@ void ChangeNumbers(TableUndo& table, std::string (*changed)(const std::string&))
     });
 }
 
+/// On the text, for a number through a double might lose its last zeros.
 std::string OtherSign(const std::string& text) {
     const std::size_t at = text.find_first_not_of(' ');
     const std::string number = text.substr(at);
@@ -40,14 +42,17 @@ std::string OtherSign(const std::string& text) {
     return text.substr(0, at) + "-" + number.substr(number.front() == '+' ? 1 : 0);
 }
 
+/// One decimal less keeps the count of significant digits: "1.50" becomes "15.0".
 std::string TimesTen(const std::string& text) {
     return FormatFixed(Val(text) * 10, std::max(DecimalPlaces(text) - 1, 0));
 }
 
+/// One decimal more, as above.
 std::string TenthOf(const std::string& text) {
     return FormatFixed(Val(text) / 10, DecimalPlaces(text) + 1);
 }
 
+/// With the top row of the selection.
 void FillDown(TableUndo& table) {
     const int top = table.Table().Selection().top;
     ChangeSelection(table, [&](int, int column) { return table.Table().Cell(top, column); });

@@ -23,6 +23,7 @@ TableBlocks::TableBlocks(const TableRules& rules, TableUndo& history, ui::Label&
     };
 }
 
+/// The columns are known while the step is made only: an undo is nobody's typing.
 void TableBlocks::Enter(EnteredColumns columns, const std::function<void()>& enters) {
     entered_ = columns;
     enters();
@@ -42,6 +43,7 @@ void TableBlocks::Cut() {
 /// statements that stand between those of the values; any other block goes in as it is.
 PastedTable TableBlocks::BesideStatements(PastedTable block, int column) const {
     const std::vector<int> places = rules_.ValueColumns();
+    // Without columns between the values there is nothing to go past.
     const bool parted = !places.empty() && places.back() >= static_cast<int>(places.size());
     if (!parted || column != 0 || block.Columns() != places.size()) return block;
     const auto& first = block.rows.front(); // not full: the corner of a table in two dimensions
@@ -105,6 +107,7 @@ void TableBlocks::PutIn(const PastedTable& block, int row, int column) {
 bool TableBlocks::IsRefused(const PastedTable& block, int row, int column, bool isEmpty) const {
     const int columns = static_cast<int>(block.Columns());
     if (column + columns <= grid_.Columns()) return false;
+    // Anywhere else a block that is too wide is a slip of the selection.
     const bool atStart = row == grid_.FixedRows() && column == 0;
     if (atStart && isEmpty && block.rows.size() > 1 && rules_.MayGrowFor(columns)) return false;
     ui::Say("The block has " + std::to_string(columns) + " columns, the table has room for " +
@@ -131,6 +134,7 @@ void TableBlocks::RemoveRows() {
     const int row = std::max(cells.top, grid_.FixedRows());
     const int count = cells.bottom - row + 1;
     history_.Do([&](TableEdit& edit) { edit.RemoveRows(row, count); });
+    // The rows that were selected are gone.
     SelectCell(grid_, row, cells.left);
     MoveNotices(row, -count);
 }
@@ -149,6 +153,7 @@ void TableBlocks::Redo() {
     Step(history_.CanRedo(), &TableUndo::Redo);
 }
 
+/// Notices belong to the state that has gone.
 void TableBlocks::Step(bool can, void (TableUndo::*step)()) {
     Tell({});
     if (!can) return;

@@ -14,6 +14,8 @@ namespace vexora {
 /// history. Belongs to the table editor.
 class TableBlocks {
 public:
+    /// Takes the history's OnCell for itself, by which the form adds to each step what follows from
+    /// it.
     TableBlocks(const TableRules& rules, TableUndo& history, ui::Label& notice);
     TableBlocks(const TableBlocks&) = delete;
     TableBlocks& operator=(const TableBlocks&) = delete;
@@ -30,13 +32,16 @@ public:
     /// As many empty rows as are selected, in front of them.
     void InsertRows();
     void RemoveRows();
+    /// Nothing is asked: an undo brings all back.
     void Clear();
     /// Through the history; what has changed beside the selected rows comes into sight.
     void Undo();
     void Redo();
 
     /// The table of a file takes the place of what stood here. Asks for the file.
+    /// Bytes that are no UTF-8 are read as Windows-1252; what cannot be read is told in a box.
     void OpenFile();
+    /// Asks before it replaces a file. Only texts of cells go into it, no heads.
     void SaveFile() const;
     /// The rows down to the last one that holds something, cells parted by tabs.
     std::string Text() const;
@@ -51,6 +56,7 @@ public:
     void Enter(EnteredColumns columns, const std::function<void()>& enters);
 
 private:
+    /// Column counts from 0 in the grid.
     PastedTable BesideStatements(PastedTable block, int column) const;
     bool FillSelection(const PastedTable& block);
     bool IsRefused(const PastedTable& block, int row, int column, bool isEmpty) const;

@@ -10,6 +10,7 @@ namespace vexora {
 
 namespace {
 
+/// Other letters begin nothing in a table of numbers.
 bool StartsNumber(char32_t character) {
     return (character >= U'0' && character <= U'9') || character == U'.' || character == U'+' ||
            character == U'-';
@@ -26,6 +27,7 @@ TableEditor::TableEditor(const TableRules& rules, const TableControls& controls,
     : rules_(rules), grid_(controls.grid), cell_(controls.cell), menu_(menu), history_(grid_),
       blocks_(rules, history_, controls.notice), findings_(rules, grid_, controls.findings) {
     grid_.Editor = &cell_;
+    // Findings and notices name rows by them.
     grid_.ShowsRowNumbers = true;
     cell_.Visible(false);
     WireTable();
@@ -46,6 +48,7 @@ void TableEditor::WireTable() {
     cell_.OnKey = [this](ui::Key& key) { CellKeys(key); };
     cell_.OnLostFocus = [this] { EndTyping(); };
     history_.OnChange = [this] {
+        // Hints cost most and depend on the values alone: not on uncertainties beside them.
         const bool valuesChanged = std::ranges::any_of(
             rules_.ValueColumns(), [this](int column) { return history_.Concerns(column); });
         findings_.FindAgain(history_.FirstRow(), history_.LastRow(), valuesChanged);
@@ -89,6 +92,7 @@ void TableEditor::BeginTyping(const std::string& text) {
 void TableEditor::EndTyping() {
     if (!cell_.Visible()) return;
     const std::string text = cell_.Text();
+    // A click elsewhere has taken the focus already and must keep it.
     const bool hadFocus = cell_.HasFocus();
     cell_.Visible(false);
     if (hadFocus) grid_.SetFocus();
@@ -98,6 +102,8 @@ void TableEditor::EndTyping() {
 void TableEditor::GridKeys(ui::Key& key) {
     const ui::Grid::Block block = grid_.Selection();
     const std::string name = key.FullName();
+    // The form may adapt a count of digits to what is typed; a change of sign or by ten is none of
+    // these.
     const bool scales = name.starts_with("Num"); // keeps the digits
     if (scales)
         GridKey(history_, key);
@@ -183,6 +189,7 @@ void TableEditor::LeaveCell(const ui::Key& key) {
 /// A block of several cells goes into the table, a single text to where the caret stands.
 void TableEditor::PasteInCell() {
     std::string text = ui::TheDesktop().ClipboardText();
+    // A spreadsheet ends even a single cell with a line end.
     while (text.ends_with('\n') || text.ends_with('\r'))
         text.pop_back();
     if (text.find_first_of("\t\r\n") == text.npos) return cell_.UserPaste(text);

@@ -14,6 +14,7 @@ namespace vexora {
 
 /// The controls of a form that show a table: the grid, the field laid over a cell that is being
 /// typed into, the notices and the findings below.
+/// References only: the form owns them, and they must outlive the editor.
 struct TableControls {
     ui::Grid& grid;
     ui::TextBox& cell;
@@ -39,6 +40,7 @@ public:
     TableEditor(const TableEditor&) = delete;
     TableEditor& operator=(const TableEditor&) = delete;
 
+    /// Who changes the table by code does it through the history, so that it can be undone.
     TableUndo& History() { return history_; }
     const TableUndo& History() const { return history_; }
     TableBlocks& Blocks() { return blocks_; }
@@ -47,6 +49,7 @@ public:
     const FindingList& Findings() const { return findings_; }
 
     /// What is being typed into a cell becomes the text of the cell.
+    /// To be called before the cells are read. Nothing is typed: nothing happens.
     void EndTyping();
     /// A click on the entry runs the action behind what is being typed, which belongs to the table
     /// before anything else is done with it.
@@ -57,6 +60,7 @@ public:
 private:
     void WireTable();
     void WireMenu();
+    /// Lays the field over the selected cell; not over a head, nor in a table that is closed.
     void BeginTyping(const std::string& text);
     void GridKeys(ui::Key& key);
     bool UseOtherKey(const std::string& name);

@@ -24,6 +24,7 @@ std::string Quoted(std::string_view text) {
 }
 
 /// The kinds of trouble, each told once with its first place, in the order of their coming up.
+/// A table with a hundred footnotes gets one line, not a hundred.
 class Notices {
 public:
     explicit Notices(int firstRow) : firstRow_(firstRow) {}
@@ -64,10 +65,13 @@ struct Decimals {
     bool point = false;
 };
 
+/// No-break, thin and the other blanks of fixed width (Unicode, general category Zs).
 bool IsOddBlank(char32_t c) {
     return c == 0xA0 || (c >= 0x2000 && c <= 0x200A) || c == 0x202F || c == 0x205F || c == 0x3000;
 }
 
+/// U+2212 is the minus sign; dashes and hyphens stand for it in PDF texts. In front of a number
+/// only: by itself a dash says that there is no value.
 bool IsOddMinus(char32_t c) {
     return c == 0x2212 || c == 0x2013 || c == 0x2010 || c == 0x2011 || c == 0xFE63 || c == 0xFF0D;
 }
@@ -101,6 +105,7 @@ std::string PlainCharacters(std::string_view line, std::size_t row, Notices& not
     return plain;
 }
 
+/// Texts aligned to the right begin with blanks, which part no columns.
 std::string WithoutEdges(std::string_view line) {
     std::string kept;
     for (const std::string& cell : Split(line, '\t'))
@@ -118,6 +123,7 @@ void NoteCommas(std::string_view cell, std::size_t row, Decimals& decimals, Noti
     }
     const std::string point = Replace(cell, ",", ".");
     if (!IsNumeric(point)) return; // told as no number
+    // "1,234" alone cannot be decided; another cell of the block, "0,5" or "2.5", may decide it.
     const bool thousands = MayPartThousands(cell);
     if (thousands) notices.Add("thousands", row, Quoted(cell) + " became " + point);
     decimals.comma = decimals.comma || !thousands;
@@ -142,12 +148,15 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
     if (cell.empty() || IsNumeric(cell) ||
         (cell.back() == '%' && IsNumeric(cell.substr(0, cell.size() - 1))))
         return;
+    // The longest beginning that is a number; what is left tells the kind of trouble.
     std::size_t end = cell.size();
     while (end > 0 && !IsNumeric(cell.substr(0, end)))
         --end;
     const std::string rest = cell.substr(end);
+    // "0.1234(5)": the standard uncertainty of the last digits (JCGM 100:2008, 7.2.2).
     const bool bracket = end > 0 && rest.front() == '(' && rest.back() == ')' &&
                          IsDigits(Replace(rest.substr(1, rest.size() - 2), ".", ""));
+    // One or two characters behind a number: "1.23a", "4.5*".
     const bool mark = end > 0 && CodePointCount(rest) <= 2 && !IsDigit(rest.back()) &&
                       rest.front() != '.' && rest.front() != '-';
     if (bracket)
@@ -214,8 +223,10 @@ bool LooksGrouped(const std::vector<std::string>& row) {
     for (std::size_t i = 1; i < row.size(); ++i) {
         const std::string& left = row[i - 1];
         const std::string whole = row[i].substr(0, row[i].find('.'));
+        // Groups of three before the point: "12 345.6".
         const bool start = left.size() <= 4 && IsDigits(left.substr(left.starts_with('-') ? 1 : 0));
         if (start && whole.size() == 3 && IsDigits(whole)) return true;
+        // And behind it: "0.123 45".
         const bool fraction = left.size() > 4 && left[left.size() - 4] == '.' && IsNumeric(left);
         if (fraction && IsDigits(row[i]) && row[i].size() <= 3) return true;
     }
@@ -229,6 +240,7 @@ std::size_t FilledWidth(const std::vector<std::string>& row) {
     return width;
 }
 
+/// The width that most rows have is taken for that of the table.
 void NoteRagged(const PastedTable& table, Notices& notices) {
     std::map<std::size_t, std::size_t> widths;
     for (const auto& row : table.rows)
@@ -249,6 +261,8 @@ void NoteRagged(const PastedTable& table, Notices& notices) {
     }
 }
 
+/// ";" parts cells where the comma is the decimal sign. Empty lines at the end are none of the
+/// table.
 std::vector<std::string> LinesOf(std::string_view text) {
     std::string plain = Replace(Replace(Replace(text, "\r\n", "\n"), "\r", "\n"), ";", "\t");
     while (plain.ends_with('\n'))
@@ -282,12 +296,14 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
     PastedTable table;
     Notices notices(firstRow);
     std::vector<std::string> lines = LinesOf(text);
+    // With tabs about, a blank inside a cell is doubtful; without them it parts columns.
     const bool tabbed = text.find_first_of("\t;") != text.npos;
     Decimals decimals;
     for (std::size_t row = 0; row < lines.size(); ++row) {
         const std::string plain = PlainCharacters(lines[row], row, notices);
         table.rows.push_back(CellsOf(plain, tabbed, row, decimals, notices));
     }
+    // Commas are plainly the decimal sign of this block.
     if (decimals.comma && !decimals.point) notices.Drop("thousands");
     NoteRagged(table, notices);
     table.notices = notices.All();
@@ -304,9 +320,11 @@ bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
     table.Do([&](TableEdit& edit) {
         if (manner.replaces) edit.Rows(grid.FixedRows());
         edit.Columns(std::max(grid.Columns(), wide));
+        // All rows at once, and the spare one below them: to grow row by row is slow.
         edit.Rows(std::max(grid.Rows(), row + rows + 1));
         for (int i = 0; i < rows; ++i) {
             const auto& cells = block.rows[static_cast<std::size_t>(i)];
+            // Short lines write empty cells over what stood there.
             for (std::size_t j = 0; j < std::max(columns, cells.size()); ++j)
                 edit.Cell(row + i, column + static_cast<int>(j),
                           j < cells.size() ? cells[j] : std::string());

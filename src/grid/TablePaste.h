@@ -9,6 +9,7 @@
 namespace vexora {
 
 /// What a paste had to guess or could not mend, with the row where it happened first; 0 for none.
+/// The row counts from 1 in the table, as people do, and not as the grid counts.
 struct PasteNotice {
     int row = 0;
     std::string text;
@@ -19,6 +20,7 @@ struct PasteNotice {
 /// columns, line ends part rows; a dash for no value becomes an empty cell and a plus-minus sign
 /// parts a value from its uncertainty. The notices name what the cleaning had to guess or could not
 /// mend, one for each kind of trouble with its first place; a plain table has none.
+/// Nothing is refused here: a cell that is no number goes in as it stands and is found there.
 struct PastedTable {
     std::vector<std::vector<std::string>> rows;
     std::vector<PasteNotice> notices;
@@ -27,9 +29,11 @@ struct PastedTable {
 };
 
 /// The notices count rows from firstRow on, the one where the block is to stand.
+/// Every text is a table, if need be of one cell.
 PastedTable CleanTable(std::string_view text, int firstRow = 1);
 
 /// A number whose comma may part thousands as well as decimals, such as "1,234".
+/// "0,123" and "12,34" may not, "1,234" may.
 bool MayPartThousands(std::string_view cell);
 
 /// How a block comes into a table, all in one step of its history.
@@ -41,6 +45,7 @@ struct PasteManner {
 /// Writes the block from this cell on, the grid growing downward as it needs to; cells that a short
 /// line does not fill become empty, so that nothing old stands among the new. False, and nothing is
 /// written, when it has more columns than the grid has from there on and does not widen it.
+/// Rows and columns count as in the grid, heads included.
 bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
                 PasteManner manner = {});
 

@@ -19,6 +19,7 @@ struct EnteredColumns {
 
 /// What the editor of a table asks of the form that owns it: all that depends on what the columns
 /// stand for. A form derives from it; what it leaves out goes by the plain answers here.
+/// No rule asks or tells a person anything but IsWanted; they are called while somebody types.
 class TableRules {
 public:
     virtual ~TableRules() = default;
@@ -32,11 +33,14 @@ public:
     virtual std::string ColumnName(int column) const = 0;
     /// What is to be said of the cells of one row; none for an empty one. It is asked again when
     /// the row has changed.
+    /// The row counts as in the grid, heads included.
     virtual std::vector<Finding> FindingsOf(int row) const = 0;
     /// What only the values of the whole table show of its rows; it is asked again when any of them
     /// has changed.
     virtual std::vector<Finding> Hints() const { return {}; }
     /// Adds to a step what follows from the change of a cell, which held another text before.
+    /// Row, column, the text before, and the columns that are typed or pasted into. What it adds
+    /// does not make it called again.
     virtual void Follow(TableEdit&, int, int, const std::string&, const EnteredColumns&) const {}
     /// Whether an empty table grows for a block with so many columns, which is to be turned there;
     /// a block that is too wide is refused otherwise.

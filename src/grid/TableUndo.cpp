@@ -24,6 +24,7 @@ bool IsEmptyRow(const ui::Grid& grid, int row) {
 
 } // namespace
 
+/// Writes at once and notes how to take it back. The batch tells the views when all is done.
 class TableUndo::Recorder : public TableEdit {
 public:
     explicit Recorder(TableUndo& table) : table_(table), grid_(table.grid_), batch_(grid_) {}
@@ -50,6 +51,8 @@ public:
     void RemoveRows(int row, int count) override {
         count = std::min(count, grid_.Rows() - row);
         if (count <= 0 || row < grid_.FixedRows()) return;
+        // The texts are changes of their own, so that an undo puts them back into the rows it
+        // brings.
         for (int at = row; at < row + count; ++at) {
             for (int column = 0; column < grid_.Columns(); ++column)
                 Cell(at, column, {});
@@ -105,8 +108,10 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
     {
         Recorder recorder(*this);
         writer(recorder);
+        // Only what the writer wrote: what follows from it has no followers of its own.
         const std::size_t written = OnCell ? recorder.step.changes.size() : 0;
         for (std::size_t i = recorder.settled; i < written; ++i) {
+            // A copy: what follows may let the list of changes grow and move.
             const Change change = recorder.step.changes[i];
             if (change.IsOfCell() && change.row >= grid_.FixedRows())
                 OnCell(recorder, change.row, change.column, change.before);
@@ -117,6 +122,7 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
     if (step.IsEmpty() && !beside) return false;
     step.beside = beside;
     if (beside) beside(true);
+    // A new step ends the way forward.
     steps_.resize(done_);
     steps_.push_back(std::move(step));
     done_ = steps_.size();
@@ -152,6 +158,7 @@ void TableUndo::KeepSpareRow(TableEdit& edit) {
 void TableUndo::ForgetOldest() {
     std::size_t changes = 0;
     std::size_t first = steps_.size();
+    // From the newest step back; the last one stays, however large it is.
     while (first > 0 && (changes += steps_[first - 1].changes.size()) <= mostChanges)
         --first;
     first = std::min(first, steps_.size() - 1);
@@ -174,9 +181,11 @@ void TableUndo::Apply(const Step& step, const Change& change, bool done) {
 void TableUndo::Undo() {
     if (!CanUndo()) return;
     const Step& step = steps_[--done_];
+    // In front of the cells on the way back and behind them on the way forth, as it was done first.
     if (step.beside) step.beside(false);
     {
         const ui::Grid::Batch batch(grid_);
+        // Backwards, for a cell may have changed more than once in a step.
         for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
             Apply(step, *change, false);
     }
@@ -203,6 +212,7 @@ void TableUndo::Tell(const Step& step) {
     columns_.assign(static_cast<std::size_t>(grid_.Columns()), more);
     for (const Change& change : step.changes) {
         if (!change.IsOfCell() || change.row < grid_.FixedRows()) continue;
+        // Moved rows shift every column.
         if (!more) columns_[static_cast<std::size_t>(change.column)] = true;
         firstRow_ = std::min(firstRow_, change.row);
         lastRow_ = std::max(lastRow_, change.row);
@@ -211,6 +221,7 @@ void TableUndo::Tell(const Step& step) {
         firstRow_ = std::min(firstRow_, change.row);
         lastRow_ = std::max(lastRow_, grid_.Rows() - 1);
     }
+    // A selection must not stay on cells that have gone.
     const ui::Grid::Block& block = grid_.Selection();
     const int bottom = grid_.Rows() - 1;
     if (block.bottom > bottom || block.right >= grid_.Columns()) {

@@ -10,9 +10,12 @@
 namespace vexora {
 
 /// What writes into a table in one step that can be undone as a whole.
+/// Handed to a writer by TableUndo::Do and valid for that call only. Rows and columns count from 0
+/// in the grid; a place outside it changes nothing.
 class TableEdit {
 public:
     virtual ~TableEdit() = default;
+    /// The same text as before is no change.
     virtual void Cell(int row, int column, const std::string& text) = 0;
     /// Makes the table so many rows high, the fixed ones included. Texts in rows that go are kept
     /// for an undo.
@@ -37,6 +40,7 @@ public:
     /// along with the step beside the cells is done by `beside`, with true when the step has been
     /// done or done again and with false before it is taken back; that is a step without changes
     /// of cells as well. It may lay out other columns, for each step finds those that it knew.
+    /// The writer must not call Do again. Steps that were taken back are forgotten.
     bool Do(const std::function<void(TableEdit&)>& writer,
             const std::function<void(bool done)>& beside = {});
     bool CanUndo() const { return done_ > 0; }
@@ -45,8 +49,10 @@ public:
     void Undo();
     void Redo();
     /// Forgets all steps.
+    /// The table stays as it is.
     void Clear();
     /// Where the row stood when the history began, wherever it has moved since; 0 for a new one.
+    /// By it what a stored row has beside its cells finds its way back to it.
     int FirstPlaceOf(int row) const;
     /// The last row that holds something; the one in front of the first when there is none.
     int LastFilledRow() const;
