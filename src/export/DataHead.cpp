@@ -19,10 +19,13 @@ namespace vexora {
 
 namespace {
 
+/// Their liquid is in equilibrium with its vapour, which records need not state.
 bool IsBoilingProperty(std::string_view code) {
     return code == "PV" || code == "TB" || code == "HVP";
 }
 
+/// A method of the tables leaves as one of the schema's texts, any other in the author's words;
+/// what the paper does not state is not guessed.
 void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& header) {
     const CommentTags tags(header.DATACOMMENT);
     const std::string code = tags.Value("Method");
@@ -88,10 +91,12 @@ void ExportPhases(XmlWriter& xml, std::string_view code, const clsA& header,
     std::vector<std::string_view> known;
     const auto add = [&known](std::string_view phase) {
         const bool isKnown = std::find(known.begin(), known.end(), phase) != known.end();
+        // Sets state the same phase at several places.
         if (!IsBlankField(phase) && !isKnown) known.push_back(phase);
     };
     for (const std::string& phase : phases)
         add(phase);
+    // A value marked as under one atmosphere states its own phases.
     const bool boils = IsBoilingProperty(code) && !HasTag(header, "FP");
     if (HasTag(header, "PB") || boils) add("G");
     for (const std::string_view phase : known)
@@ -109,6 +114,7 @@ void ExportConstraint(XmlWriter& xml, const std::string& group, const std::strin
     xml.Close();
     xml.Element("nConstraintValue", value);
     xml.Element("nConstrDigits", std::to_string(digits));
+    // Behind the value, as in the schema.
     if (statements) statements();
     xml.Close();
 }

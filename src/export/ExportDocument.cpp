@@ -12,6 +12,7 @@ namespace vexora {
 
 namespace {
 
+/// Bio data need elements that only the schema of bio data has.
 bool HoldsBioData() {
     for (const auto& source : Globals().recR) {
         if (!source->recBR.IsEmpty() || !source->recBP.IsEmpty()) return true;

@@ -8,11 +8,14 @@ namespace vexora {
 
 /// The open document as ThermoML. It may ask for the source of the document (see clsR::PrintR), and
 /// tells which data it had to leave out. today is the day that the citation bears.
+/// Nothing is written to disk here. Text beyond ASCII leaves as character references.
 std::string ExportDocument(const ui::Date& today);
 
 /// yyyy-mm-dd.
+/// ISO 8601, the date type of XML schemas.
 std::string IsoDate(const ui::Date& date);
 /// yyyy-mm-dd of a record's m/d/y date; empty for what is no such date.
+/// A day that no calendar has (2/30) is no date; a schema would refuse it.
 std::string IsoDate(std::string_view recordDate);
 
 } // namespace vexora

@@ -15,6 +15,7 @@ namespace vexora {
 
 namespace {
 
+// Texts of the schema (ePresentation), exact to the letter, beside the codes of results.
 constexpr CodeText Presentations[] = {
     {"Direct value, X", "DIR"},
     {"Difference between upper and lower temperature, X(T2)-X(T1)", "DT"},
@@ -33,6 +34,7 @@ std::string PresentationOf(const ResultDefinition& definition) {
                                    : TextOfCode(Presentations, definition.Code());
 }
 
+/// Reference states are kept in system units.
 void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::string& digits,
                          const std::string& typed) {
     if (!IsNumeric(typed)) return;
@@ -42,6 +44,7 @@ void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::
 }
 
 /// What the set states about a variable that stays the same, or null.
+/// Numbers above those of the variables are of constraints.
 const clsX* StatementsOf(const DataSet& set, const std::string& code) {
     const auto found = std::ranges::find_if(set.UX, [&](const clsX& item) {
         return item.N > set.nVar && item.PRPCODE == code && item.IsStated();
@@ -91,10 +94,13 @@ constexpr const char* NoRepeatability = "Missing repeatability in ";
 
 SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
     quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0]};
+    // A difference of temperatures in degrees Celsius is one in kelvin.
     quantities[0].unit.difference = set.Relation() == "D";
     for (int n = 1; n <= set.nVar; ++n) {
         const auto place = static_cast<std::size_t>(n);
         ExportUnit unit{set.VAR_UNIT(n), 0, 0, set.isOriginalUnit};
+        // Wavelengths have a rule of their own, for the schema wants nm and the system keeps
+        // Angstroms.
         unit.wavelength = set.VARIABLE(n) == "WL";
         if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
         quantities[place] = {unit, set.UX[place]};
@@ -106,6 +112,7 @@ SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
 
 ExportUnit SetRows::UnitIn(const clsData& row, int n) const {
     ExportUnit unit = quantities[static_cast<std::size_t>(n)].unit;
+    // Rows of one set may stand in either unit, as they were typed or read.
     unit.converts = row.inOriginalUnits;
     if (n == 0 && unit.converts && set.MolarMassFollowsRows()) unit.molarMass = set.MolarMass(row);
     return unit;
@@ -118,6 +125,7 @@ std::string SetRows::Fault(const std::string& group) const {
     if (!hasPlace) return NoPlaceInExport;
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;
+    // Rather no values than values under a wrong meaning.
     if (PresentationOf(set.Definition()).empty())
         return "Unknown definition of results " + set.PROPERTY_FUNCT;
     // Where the molar mass follows the rows, each row is asked for its own.
@@ -134,6 +142,7 @@ void SetRows::ExportDefinition(XmlWriter& xml, const std::string& temperature,
     xml.Element("ePresentation", PresentationOf(definition));
     if (!definition.IsRelative()) return;
     xml.ElementIfAny("eRefStateType", ReferenceStateText(definition.relation));
+    // Only what the state fixes: the other reference conditions are those of each row.
     if (definition.FixesTemperature())
         ExportNumberAsTyped(xml, "nRefTemp", "nRefTempDigits", temperature);
     if (definition.FixesPressure())

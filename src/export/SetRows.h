@@ -15,6 +15,7 @@ class XmlWriter;
 
 /// What a set gives to the export of its rows: how values and statements of each quantity are
 /// converted (0 the property, 1 to 3 the variables), and its statements for rows without their own.
+/// Made for one export of one set, which must stay as it is meanwhile.
 struct SetRows {
     struct Quantity {
         ExportUnit unit; // converts tells of the statements of the set; a row has its own flag
@@ -31,17 +32,21 @@ struct SetRows {
     ExportUnit UnitIn(const clsData& row, int n) const;
     /// Why the rows cannot be exported, in words for the user, or empty. group is that of the
     /// property.
+    /// To be asked before anything is written: a set that is begun cannot be taken back.
     std::string Fault(const std::string& group) const;
 
     /// How the results are defined, and the state that they are relative to.
+    /// temperature in K and pressure in kPa, as typed; a text that is no number is left out.
     void ExportDefinition(XmlWriter& xml, const std::string& temperature,
                           const std::string& pressure, const std::string& phase) const;
     /// The state variables that the comment states for all rows.
+    /// They stand in system units in the comment; a wavelength leaves in nm.
     void ExportConstants(XmlWriter& xml) const;
     /// The heads of the variables.
     void ExportVariables(XmlWriter& xml) const;
     /// One NumValues element for each row with numbers only; tells of the others, and of an
     /// announced repeatability that lacks its figure.
+    /// Rows are left out one by one, the set is not: the good values are worth having.
     void ExportRows(XmlWriter& xml);
 };
 

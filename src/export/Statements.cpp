@@ -18,6 +18,9 @@ namespace {
 // From this level of confidence on [per cent] a figure is an expanded uncertainty.
 constexpr double ExpandedLevel = 70;
 
+/// Whether a figure is expanded is told by its level alone (JCGM 100:2008, 6.3). It is exported as
+/// the author states it: a reader can multiply a standard uncertainty by a coverage factor of his
+/// own.
 bool IsExpanded(std::string_view level) {
     return IsNumeric(level) && Val(level) >= ExpandedLevel;
 }
@@ -29,6 +32,7 @@ bool IsInNanometres(const ExportUnit& unit) {
     return unit.wavelength && unit.converts && unit.code == "nm";
 }
 
+/// What needs no conversion leaves digit by digit as typed.
 bool ChangesValues(const ExportUnit& unit) {
     if (unit.wavelength) return !IsInNanometres(unit);
     if (!unit.converts) return false;
@@ -41,6 +45,7 @@ double ConvertedDifference(double figure, const ExportUnit& unit) {
     const auto system = [&unit](double value) {
         return unit.converts ? ToSystem(unit.code, value, unit.factor, unit.molarMass) : value;
     };
+    // What an offset adds to both cancels.
     return (system(figure) - system(0)) / (unit.wavelength ? AngstromsInNanometre : 1);
 }
 
@@ -52,6 +57,7 @@ std::string WithoutPlus(std::string text) {
 
 // Without the noise in the last digits that the offset of a temperature leaves in a difference.
 std::string RoundedText(double figure) {
+    // More than any stated uncertainty has.
     constexpr int digits = 10;
     return NumberText(Val(FormatValue(figure, digits)));
 }
@@ -82,6 +88,7 @@ std::string Figure(std::string_view statement, std::string_view value, const Exp
         return RoundedText(std::abs(ConvertedDifference(figure, ofValue)));
     }
     if (!IsNumeric(text)) return {};
+    // An uncertainty has no sign; one typed with it is meant by its size.
     if (text.starts_with('-')) text.erase(0, 1);
     if (!ChangesValues(ofFigure)) return text;
     const double figure = std::abs(ConvertedDifference(Val(text), ofFigure));
@@ -102,6 +109,7 @@ void CombinedHead(XmlWriter& xml, const clsX& item) {
     if (!HasCombined(item)) return;
     xml.Open("CombinedUncertainty");
     xml.Element("nCombUncertAssessNum", "1");
+    // Spelled as it always was, for readers may compare the text.
     xml.Element("sCombUncertEvaluator", "Data file complier");
     xml.Element("eCombUncertEvalMethod", item.CType == "A"
                                              ? "Propagation of evaluated standard uncertainties"
@@ -131,6 +139,7 @@ void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role
     if (!item.iRep) return;
     xml.Open(role + "Repeatability");
     xml.Element("sRepeatEvaluator", "Author");
+    // Neither where the author does not say of what the deviation is.
     if (item.RType == 0) xml.Element("eRepeatMethod", "Standard deviation of the mean");
     if (item.RType == 1) {
         xml.Element("eRepeatMethod", "Standard deviation of a single value (unbiased)");
@@ -145,6 +154,7 @@ void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role,
                 const std::string& figure = {}) {
     if (!item.iDS) return;
     xml.Open(role + "DeviceSpec");
+    // The evaluator is a place in a list, or a name that was typed.
     if (item.DSEvaluator == "0") {
         xml.Element("eDeviceSpecMethod", "Specified by the manufacturer");
     } else if (item.DSEvaluator == "1") {
@@ -159,6 +169,8 @@ void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role,
     xml.Close();
 }
 
+/// The figure of one value under the number by which its head can be found; a head and its figures
+/// correspond by it.
 void WithNumber(XmlWriter& xml, const std::string& group, std::string_view number,
                 std::string_view element, const std::string& figure) {
     if (figure.empty()) return;
@@ -182,20 +194,25 @@ std::string ConversionFault(const ExportUnit& unit) {
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count) {
     std::string text = WithoutPlus(NormalizeNumber(typed));
     const int ofText = SignificantDigits(text);
+    // The recorded count goes before the text: the operator may have stated it.
     int digits = count > 0 ? count : ofText;
     if (!ChangesValues(unit)) return {std::move(text), std::max(1, digits)};
     const bool isAbsolute = !unit.difference && !unit.wavelength;
     const double value = isAbsolute ? ToSystem(unit.code, Val(text), unit.factor, unit.molarMass)
                                     : ConvertedDifference(Val(text), unit);
+    // A zero has no first digit to count from.
     if (value == 0) return {std::move(text), std::max(1, digits)};
+    // Digits that an offset adds or takes away; the others are as recorded.
     if (isAbsolute) {
         const int shown = ConvertedDigits(text, unit.factor > 0 ? "" : unit.code, value);
         digits = ofText == 0 ? shown : digits + shown - ofText;
     }
+    // The schema knows no count of 0.
     digits = std::max(1, digits);
     return {FormatValue(value, digits), digits};
 }
 
+// Combined, author's, repeatability, device: the order of the schema.
 void clsX::ExportX(XmlWriter& xml, std::string_view role) const {
     const std::string name(role);
     if (name == "Prop") CombinedHead(xml, *this);
@@ -210,6 +227,7 @@ bool ExportConstraintStatements(XmlWriter& xml, const clsX& item, std::string_vi
     const std::string author = Figure(item.UValue, value, unit, unit);
     const std::string repeatability = Figure(item.RValue, value, unit, unit);
     const std::string device = Figure(item.DSValue, value, unit, unit);
+    // A constraint without figures says nothing.
     if (!author.empty()) AuthorsHead(xml, item, role, author);
     if (!repeatability.empty()) RepeatabilityHead(xml, item, role, repeatability);
     if (!device.empty()) DeviceHead(xml, item, role, device);
@@ -222,6 +240,8 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
     const std::string name(role);
     const bool ofProperty = name == "Prop";
     ExportUnit ofSet = unit;
+    // A set and its rows may stand in different units; figures of variables read from a file are in
+    // system units already.
     ofSet.converts =
         (row ? row->setConverts : unit.converts) && (ofProperty || !item.inSystemUnits);
     static const RowStatements none;

@@ -32,6 +32,7 @@ std::string Escaped(std::string_view text, bool attribute = false) {
     std::string out;
     for (std::size_t at = 0; at < text.size();) {
         char32_t point = NextCodePoint(text, at);
+        // One element a line: a line break in a field becomes a blank.
         if (point == U'\t' || point == U'\n' || point == U'\r') point = U' ';
         if (IsXmlText(point)) AppendEscaped(out, point, attribute);
     }
@@ -46,6 +47,7 @@ void XmlWriter::Declaration() {
 
 void XmlWriter::Comment(std::string_view text) {
     std::string inside = Escaped(text);
+    // XML forbids "--" within a comment; of "---" the first replacement leaves one more.
     while (inside.find("--") != std::string::npos)
         inside = Replace(inside, "--", "- -");
     Indent();

@@ -10,6 +10,7 @@ namespace vexora {
 /// nowhere else: "&", "<", ">" (and quotes in attributes) as entities, control characters dropped,
 /// all that is not plain ASCII as a character reference, so that every file is well formed, pure
 /// ASCII, and loses nothing.
+/// Made for one document and thrown away. It knows no schema: what stands where is the callers'.
 class XmlWriter {
 public:
     /// The declaration; the first line of a file.
@@ -17,14 +18,17 @@ public:
     /// A comment; "--" inside is broken up.
     void Comment(std::string_view text);
     /// Opens an element. Attributes come as name, value, name, value, ...
+    /// The name must be one (IsXmlName) and is not escaped.
     void Open(std::string_view name, const std::vector<std::string>& attributes = {});
     /// Closes the element opened last.
+    /// Something must be open.
     void Close();
     /// A whole element with a text; nothing is left out when the text is empty.
     void Element(std::string_view name, std::string_view text);
     /// The same, but only when the text is not empty.
     void ElementIfAny(std::string_view name, std::string_view text);
 
+    /// Whole once every element is closed.
     const std::string& Text() const { return text_; }
 
 private:

@@ -7,10 +7,12 @@ namespace vexora {
 
 namespace {
 
+/// What quantity n of a row states, the row's own figures in front of those of the set.
 void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n, SetRows& rows) {
     const auto place = static_cast<std::size_t>(n);
     const SetRows::Quantity& quantity = rows.quantities[place];
     RowFigures own{row.StatementsOf(n), {}, {}, quantity.unit.converts};
+    // Combined uncertainty and curve deviation are said of the property only.
     if (n == 0 && row.Extras) {
         own.combined = row.Extras->userCU;
         own.curveDeviation = row.Extras->CD;
@@ -34,6 +36,7 @@ void clsData::ExportData(XmlWriter& xml, SetRows& rows) const {
         const auto place = static_cast<std::size_t>(n);
         return ExportedValue(Values[place], rows.UnitIn(*this, n), DigitCount(n));
     };
+    // Variables first and then the property, as the schema has them.
     xml.Open("NumValues");
     for (int n = 1; n <= nVar; ++n) {
         const ExportNumber value = number(n);
@@ -46,6 +49,7 @@ void clsData::ExportData(XmlWriter& xml, SetRows& rows) const {
     }
     const ExportNumber value = number(0);
     xml.Open("PropertyValue");
+    // The number of the head to which the value belongs.
     xml.Element("nPropNumber", "1");
     xml.Element("nPropValue", value.text);
     xml.Element("nPropDigits", std::to_string(value.digits));

@@ -8,6 +8,7 @@
 namespace vexora {
 
 void ExportRegNum(XmlWriter& xml, const clsL& compound) {
+    // The place serves as number, for compounds of unknown registry number need one too.
     const std::size_t position = compound.Parent ? compound.Parent->recL.Position(&compound) : 0;
     xml.Open("RegNum");
     xml.Element("nOrgNum", std::to_string(position));
@@ -18,6 +19,7 @@ void clsL::ExportL(XmlWriter& xml) const {
     ExportRegNum(xml, *this);
     xml.ElementIfAny("sCommonName", Name);
     xml.ElementIfAny("sFormulaMolec", Formula);
+    // Enzyme Commission number and Protein Data Bank entry.
     if (!isBio) return;
     xml.Open("bio");
     xml.ElementIfAny("sECNumber", EC);

@@ -17,6 +17,7 @@ namespace vexora {
 
 namespace {
 
+// Texts of the schema (eType) beside the codes of TYPDOC.
 constexpr CodeText DocumentTypes[] = {
     {"book", "B"},
     {"journal", "J"},
@@ -29,6 +30,7 @@ constexpr CodeText DocumentTypes[] = {
     {"journal", "S"},
 };
 
+// Where the compiler read it (eSourceType), "&" being a field left empty.
 constexpr CodeText SourceTypes[] = {
     {"Original", "O"},          {"BiblioBulChemThermo", "B"}, {"KVOGeneral", "&"},
     {"KVOGeneralChecked", "S"}, {"KVODataCard", "C"},         {"ChemicalAbstracts", "A"},
@@ -48,6 +50,7 @@ std::string Between(std::string_view text, char mark) {
     return std::string(Trim(text.substr(first + 1, second - first - 1)));
 }
 
+/// A source reads "@name@ $volume$(issue), pages", or has a comma behind the name.
 std::string PublicationName(std::string_view source) {
     const std::string name = Between(source, '@');
     return name.empty() ? std::string(Trim(source.substr(0, source.find(',')))) : name;
@@ -63,17 +66,20 @@ std::string Pages(std::string_view source) {
                                            : std::string(Trim(source.substr(comma + 1)));
 }
 
+/// Left to the transliteration "<" would become "less than" without blanks about it.
 std::string AbstractText(std::string_view text) {
     const std::string words = Replace(Replace(text, "<", " less than "), ">", " greater than ");
     return Replace(Transliterate(words), "|", "");
 }
 
+/// Both marks occur between keywords; what stands between two of them side by side is none.
 void ExportKeywords(XmlWriter& xml, std::string_view keywords) {
     for (const std::string& keyword : Split(Replace(keywords, ";", ","), ',')) {
         xml.ElementIfAny("sKeyword", Transliterate(Trim(keyword)));
     }
 }
 
+/// The key by which the house finds the source again; its fields stay even when they are empty.
 void ExportIdentity(XmlWriter& xml, const clsR& source) {
     xml.Open("KVORefID");
     xml.Element("yrYrPub", source.YEARPUB);
@@ -109,6 +115,7 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     ExportR(xml, today);
     for (const auto& compound : recL)
         compound->ExportAll(xml);
+    // Names of properties depend on the context; data begin with those of compounds.
     Globals().DataContext = "Pure";
     Walk(*this, [&xml](const Record& record) {
         const auto* const data = dynamic_cast<const OpenRecord*>(&record);

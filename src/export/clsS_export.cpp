@@ -13,10 +13,12 @@ namespace vexora {
 
 namespace {
 
+/// The operator's words stand in brackets; all else is a code of the tables.
 bool IsFreeText(std::string_view code) {
     return code.starts_with('(');
 }
 
+/// The element says what the per cent are of (mole, mass, volume, water, halide).
 void ExportFigure(XmlWriter& xml, const PurityStatement& statement) {
     const PurityUnit* unit = PurityUnitByCode(statement.Unit);
     if (unit == nullptr || statement.Value.empty()) return;
@@ -26,6 +28,7 @@ void ExportFigure(XmlWriter& xml, const PurityStatement& statement) {
                 std::to_string(std::max(1, SignificantDigits(statement.Value))));
 }
 
+/// Listed methods have an element of enumerated texts, free ones one of strings.
 void ExportMethod(XmlWriter& xml, const std::string& element, std::string_view code,
                   const std::string& name) {
     if (!code.empty()) xml.ElementIfAny((IsFreeText(code) ? "s" : "e") + element, name);
@@ -35,6 +38,8 @@ void ExportAnalysis(XmlWriter& xml, const PurityStatement& statement) {
     ExportMethod(xml, "AnalMeth", statement.Method, DeterminationName(statement.Method));
 }
 
+/// Step 1 is the sample as it was obtained; each step of purification has a number of its own, the
+/// last tells the purity that was reached.
 void ExportInitial(XmlWriter& xml, const SampleDescription& description) {
     xml.Open("purity");
     xml.Element("nStep", "1");
@@ -67,6 +72,7 @@ void clsS::ExportS(XmlWriter& xml) const {
     xml.Open("Sample");
     xml.Element("nSampleNm", Trim(SMPNM));
     const auto description = ParseDescription(SMPDESC);
+    // "Not described" and "no sample" leave nothing but the number.
     if (description && description->Availability.empty()) {
         int step = 1;
         ExportInitial(xml, *description);

@@ -15,6 +15,7 @@ namespace {
 // A boiling temperature without a pressure was measured under one atmosphere, and so was what is
 // marked as being at fixed pressure.
 bool IsUnderOneAtmosphere(const clsTwo& set) {
+    // A pressure that the set gives itself goes before the assumption.
     const bool isPressure = set.HasVariable("P") || set.PRPCODE == "PV" || set.PRPCODE == "P";
     if (isPressure || !set.ConstantOf("P").empty()) return false;
     const bool boils = set.PRPCODE == "TB" && !HasTag(set.Header, "PB");
@@ -24,6 +25,7 @@ bool IsUnderOneAtmosphere(const clsTwo& set) {
 } // namespace
 
 void clsTwo::ExportAll(XmlWriter& xml) const {
+    // A set outside a document has no compound to refer to.
     if (Parent == nullptr || Parent->Parent == nullptr) return;
     const std::string group = XMLPropertyGroup(PRPCODE, DataContext());
     SetRows rows(*this);

@@ -24,6 +24,7 @@ bool IsUnderOneAtmosphere(const clsZ& value) {
 void ExportProperty(XmlWriter& xml, const clsZ& value, const std::string& group) {
     xml.Open("Property");
     ExportPropertyHead(xml, NameOf(value), group, value.PHASE1, value.Header);
+    // Single values are not stated relative to another state.
     xml.Element("ePresentation", "Direct value, X");
     value.Statements(0).ExportX(xml, "Prop");
     xml.Close();
@@ -33,6 +34,7 @@ ExportUnit PropertyUnitOf(const clsZ& value) {
     return {value.PROPERTY_UNIT, value.Factor, value.MolarMass(), value.isOriginalUnit};
 }
 
+/// A variable is intensive and needs no molar mass.
 ExportUnit VariableUnitOf(const clsZ& value) {
     ExportUnit unit{value.VARIABLE_UNIT, 0, 0, value.isOriginalUnit};
     unit.wavelength = value.Variable() == "WL";
@@ -59,6 +61,7 @@ void ExportValues(XmlWriter& xml, const clsZ& value) {
         xml.Close();
     }
     xml.Open("PropertyValue");
+    // Both are written before the fault is told.
     whole &=
         ExportQuantity(xml, "Prop", value.PRPVALUE, value.Statements(0), PropertyUnitOf(value));
     xml.Close();
@@ -77,6 +80,7 @@ std::string FaultOf(const clsZ& value, const std::string& group) {
         return "The variable is no number: " + value.INDVARIABLE;
     }
     const std::string fault = ConversionFault(PropertyUnitOf(value));
+    // The property's fault first: it is what the user looks for.
     return fault.empty() && fixed ? ConversionFault(VariableUnitOf(value)) : fault;
 }
 
