@@ -12,6 +12,7 @@ std::vector<std::string> Texts(CodeTexts table) {
 }
 
 void ChooseCode(ui::ComboBox& list, CodeTexts table, std::string_view code) {
+    // A blank code chooses nothing, not even the blank first entry that some tables have.
     if (IsBlankField(code)) {
         list.Index(-1);
         return;

@@ -15,6 +15,7 @@ namespace vexora {
 namespace {
 
 /// A copy of the chain in force with its precisions in the units entered.
+/// A copy, since nobody has asked to change the precisions of the record.
 std::shared_ptr<clsProperty> ChainToEvaluate(bool inSystemUnits) {
     auto chain = std::make_shared<clsProperty>();
     chain->Copy(*Globals().CurrentProperty);
@@ -30,9 +31,11 @@ bool EditStatements(std::span<clsX> items) {
     KVOGlobal& globals = Globals();
     const auto before = globals.CurrentUX;
     globals.CurrentUX = std::make_shared<std::vector<clsX>>(items.begin(), items.end());
+    // The dialog below has an answer of its own to give when it closes.
     const bool acceptedBefore = std::exchange(globals.DialogAccepted, false);
     ui::Forms::Current().Get("frmUnc").ShowModal();
     const bool accepted = std::exchange(globals.DialogAccepted, acceptedBefore);
+    // On a copy until then: Cancel leaves every item as it was, digits and flags.
     if (accepted) std::ranges::copy(*globals.CurrentUX, items.begin());
     globals.CurrentUX = before;
     return accepted;
@@ -41,6 +44,8 @@ bool EditStatements(std::span<clsX> items) {
 bool EditStatementsOfValue(std::span<clsX> items, std::string_view key, bool inSystemUnits) {
     KVOGlobal& globals = Globals();
     const auto chain = std::exchange(globals.CurrentProperty, ChainToEvaluate(inSystemUnits));
+    // The tree may stand on another record; the key in force is that of the value while frmUnc is
+    // open.
     const std::string keyBefore = std::exchange(globals.CurrentKey, std::string(key));
     const bool accepted = EditStatements(items);
     globals.CurrentKey = keyBefore;

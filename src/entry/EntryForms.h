@@ -6,6 +6,7 @@ namespace vexora {
 
 /// Makes the forms of this room known. One that is not listed does not exist for the workbench:
 /// what would open it stays disabled.
+/// The registry makes a form when it is asked for and owns it.
 void RegisterEntryForms(ui::Forms& forms);
 
 } // namespace vexora

@@ -23,10 +23,12 @@ void FillPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
     const std::string chosen = list.Chosen();
     std::vector<std::string> names = PhaseNames(codes);
     list.Enabled(!names.empty());
+    // An equal list is left alone: to assign it would fire its event and lose the choice.
     if (names != list.Items()) {
         list.Assign(std::move(names));
         list.Choose(chosen);
     }
+    // What can only be one thing need not be asked.
     if (list.Count() == 1) list.Index(0);
 }
 
@@ -37,6 +39,7 @@ void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& c
     names.insert(names.begin(), SelectPhase);
     if (keep && std::ranges::find(names, chosen) == names.end()) names.push_back(chosen);
     if (names != list.Items()) list.Assign(std::move(names));
+    // Two entries are the prompt and the only phase.
     list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
 }
 

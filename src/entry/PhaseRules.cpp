@@ -30,22 +30,29 @@ bool IsAnyPhase(std::string_view code) {
     return code != "air"; // an atmosphere, never a phase of the compound
 }
 
+/// Solids, liquids and mesophases: all but gas, ideal gas, fluid and air.
 bool IsCondensed(std::string_view code) {
     return !IsOneOf(code, {"G", "IG", "FL", "air"});
 }
 
+/// What boils or sublimes: the normal liquid and the crystals.
 bool IsLiquidOrCrystal(std::string_view code) {
     return code == "L" || IsCrystalPhase(code);
 }
 
 PhaseOffer OfferAll(std::string_view code, std::string_view context) {
     const auto phasesThat = [context](auto test) { return PhasesThat(context, test); };
+    // At the critical point and on a liquid's surface the two phases are known.
     if (IsOneOf(code, {"TC", "PC", "VC", "VDC", "VSC", "ZC", "IST"})) return {{"L"}, {"G"}, {}};
+    // Boiling and sublimation: vapour pressure and enthalpy belong to the same equilibrium.
     if (IsOneOf(code, {"TBN", "TB", "PV", "HVP"}))
         return {phasesThat(IsLiquidOrCrystal), {"G"}, {}};
+    // A normal melting point is taken under air at one atmosphere: three phases.
     if (code == "TMN") return {phasesThat(IsCrystalPhase), {"L"}, {"air"}};
+    // Freezing and cryoscopy: crystal and liquid, the air is not stated.
     if (IsOneOf(code, {"TF", "YRC"})) return {phasesThat(IsCrystalPhase), {"L"}, {}};
     if (code == "HTR") return {phasesThat(IsCondensed), phasesThat(IsCondensed), {}};
+    // Three phases are in equilibrium at a triple point; the third is nearly always the vapour.
     if (IsOneOf(code, {"TTP", "PTP"}))
         return {phasesThat(IsCondensed), phasesThat(IsCondensed), {"G"}};
     return {phasesThat(IsAnyPhase), {}, {}};
@@ -56,8 +63,10 @@ PhaseOffer OfferAll(std::string_view code, std::string_view context) {
 PhaseOffer OfferPhases(std::string_view propertyCode, int variableCount, std::string_view phase1,
                        std::string_view context) {
     PhaseOffer offer = OfferAll(propertyCode, context);
+    // A transition needs two different phases.
     std::erase(offer.Phase2, phase1);
     if (variableCount == 0) return offer;
+    // With temperature or pressure fixed the state is that of one phase.
     return {offer.Phase1, {}, {}};
 }
 

@@ -19,6 +19,7 @@ namespace vexora {
 namespace {
 
 /// What a review of property and method can change.
+/// As one text, for it is only compared before and after.
 std::string ChoiceInForce() {
     const KVOGlobal& globals = Globals();
     const clsMethod& method = *globals.CurrentMethod;
@@ -44,9 +45,11 @@ void TakeProperty(const StoredProperty& stored, const clsA& header) {
     const auto found = FindProperty(stored.code, globals.DataContext);
     PropertyRow row = found ? *found : PropertyRow();
     if (!found) row.Property = stored.code;
+    // Values that stand in system units are shown in these, whatever unit the paper had.
     const std::string unit = stored.isOriginalUnit ? stored.unit : "S";
     const double factor = stored.isOriginalUnit ? stored.factor : 0;
     globals.PropertyCode = stored.code;
+    // The unit of the paper is kept as what the record knows, even where its values are converted.
     globals.PropertyUnit = stored.unit;
     globals.OriginalUnits = stored.isOriginalUnit;
     globals.VariableCount = stored.nVar;
@@ -59,12 +62,14 @@ void TakeProperty(const StoredProperty& stored, const clsA& header) {
     head.PropertyCode = stored.code;
     head.ConversionCode = unit;
     head.Factor = factor;
+    // Absolute values. A set that states differences says so when its own chain is made.
     head.Relation = "A";
     head.Name = PropertyInWords(row);
 }
 
 std::string TakeComment(std::string_view comment) {
     KVOGlobal& globals = Globals();
+    // First, for an unclosed free text reaches to the end of all tags.
     const CommentTags others(TakeSMethod(comment));
     globals.CurrentMethod->Method.clear();
     globals.CurrentMethod->KeySaved = others.Tags();
@@ -76,6 +81,7 @@ std::string TakeComment(std::string_view comment) {
 StoredProperty PropertyToStore() {
     const KVOGlobal& globals = Globals();
     const bool original = globals.OriginalUnits;
+    // "*" means nothing without its factor.
     const bool nameless = !original && globals.PropertyUnit == "*"; // its factor is not kept
     return {globals.PropertyCode, nameless ? "S" : globals.PropertyUnit,
             original ? globals.CurrentMethod->Factor : 0, original, globals.VariableCount};
@@ -101,6 +107,7 @@ bool ReviewProperty(ui::TextBox& comment) {
 
 void FillHeader(clsA& header, bool isNew, const std::string& comment) {
     const KVOGlobal& globals = Globals();
+    // An edit leaves who compiled the datum first, and when.
     if (isNew) {
         header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
         header.COMPILER = globals.CompilerCode;
@@ -113,10 +120,12 @@ void FillHeader(clsA& header, bool isNew, const std::string& comment) {
 }
 
 std::string UnitFault(const clsProperty& head) {
+    // The operator's factor goes before the code and before the molar mass.
     if (head.Factor > 0) return {};
     const std::string& code = head.ConversionCode;
     if (code == "*" || !IsKnownConversion(code) || ConversionFactor(code) <= 0)
         return "Invalid conversion factor";
+    // Per mass into per mole: without the molar mass every value would be 0.
     if (IsMassBased(code) && Globals().CurrentMethod->MMass <= 0)
         return "Molar mass of the compound is not known";
     return {};

@@ -1,5 +1,7 @@
 // The working context of the data dialogs: what frmProperty hands to them, and what they put there
 // from a stored record, as if its property had just been chosen.
+// It lies in the globals, because several forms in turn work on one datum; only one data dialog is
+// open at a time.
 #pragma once
 
 #include <string>
@@ -14,6 +16,8 @@ class clsA;
 class clsProperty;
 
 /// What a record says about its property.
+/// Values stand in that unit while isOriginalUnit, else in system units; nVar counts state
+/// variables.
 struct StoredProperty {
     std::string code;
     std::string unit;  // conversion code
@@ -23,9 +27,12 @@ struct StoredProperty {
 };
 
 /// Puts a stored property into the context, with a new head of the property chain.
+/// Method, phase and purity of the context stay. An unknown property code is taken as its own name.
 void TakeProperty(const StoredProperty& stored, const clsA& header);
 /// Takes a stored comment apart: free-text method, tags and the precisions of the chain go into the
 /// context; the answer is the operator's text.
+/// To be called once for an opened record, behind TakeProperty: what was taken out is written again
+/// by BuildComment only.
 std::string TakeComment(std::string_view comment);
 /// What a record is to say about the property in the context: the inverse of TakeProperty.
 StoredProperty PropertyToStore();
@@ -33,8 +40,10 @@ StoredProperty PropertyToStore();
 PropertyRow PropertyInForce();
 /// Lets property and method be reviewed together with the operator's comment, which follows; true
 /// when the review has changed anything. A cancelled one has not.
+/// The comment is changed as by filling, not by typing.
 bool ReviewProperty(ui::TextBox& comment);
 /// Writes the header of a record from the context. Who added it, and when, is of a new one only.
+/// The date is m/d/y of the desktop's day.
 void FillHeader(clsA& header, bool isNew, const std::string& comment);
 /// Why values in the unit of the head cannot be brought to the system unit: the message to show,
 /// empty when they can. A unit by mass

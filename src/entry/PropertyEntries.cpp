@@ -13,6 +13,7 @@ struct PropertyEntry {
     std::string_view form;
 };
 
+// Data of complexes and hydrates are entered as those of pure compounds.
 constexpr PropertyEntry Entries[] = {
     {"Pure", EntryKind::Value, 0, "frmSingle"},    {"Pure", EntryKind::Value, 1, "frmSingle"},
     {"Pure", EntryKind::Table, 1, "frmTwo"},       {"Pure", EntryKind::Table, 2, "frmTwo"},

@@ -1,6 +1,7 @@
 // Which form takes the data of a property: by the context of the data, by whether a value or a
 // table is entered, and by the number of variables. frmProperty leads on to it, and offers what
 // suits it when it asks for a review.
+// A table and no chain of questions: a new kind of data brings its row.
 #pragma once
 
 #include <string_view>
@@ -15,6 +16,7 @@ enum class EntryKind {
 };
 
 /// Name of the form for a context; empty where data of that kind cannot be entered.
+/// A form that is named here may still be missing in an edition: ask Forms::Knows.
 std::string_view EntryForm(std::string_view context, EntryKind kind, int variableCount);
 
 /// Whether that form is the one that stands open.
@@ -22,6 +24,7 @@ bool IsEntryFormOpen(std::string_view context, EntryKind kind, int variableCount
 
 /// Whether the columns of the property let pure data of it be entered so: a value at 0 or 1 fixed
 /// variables, a table against 1 or 2.
+/// Other numbers of variables are not for pure compounds, by the phase rule.
 bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount);
 
 } // namespace vexora

@@ -16,6 +16,8 @@ constexpr std::size_t Rejection = 2; // place of "recommends rejection" among th
 constexpr int KeptBits = 0x7FFB;     // what a reading keeps of a flag word
 constexpr const char* UnitOne = "1"; // system unit of a dimensionless quantity
 
+/// Which letters make sense: H second-law enthalpies, S speed of sound as source. Letters of
+/// mixtures and reactions are not offered here.
 bool LetterApplies(std::string_view letter, std::string_view code) {
     if (letter == "m") return true;
     if (letter == "H") return code == "HTR" || code == "HVP";

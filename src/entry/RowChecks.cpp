@@ -13,13 +13,16 @@ namespace {
 
 using Kind = TableColumn::Kind;
 
+/// Without a sign: for counts.
 bool IsWhole(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
 }
 
+/// Empty is good: the statement of the set holds for that row.
 bool IsGoodStatement(const TableColumn& column, const std::string& cell) {
     if (cell.empty()) return true;
     if (column.kind == Kind::KVO) return IsNumeric(cell) || cell == "Error";
+    // More than 99 digits nobody has measured; a record keeps the count in a byte.
     if (column.kind == Kind::Digits) return cell.size() <= 2 && IsWhole(cell);
     const bool mayBePercent = column.kind != Kind::Repetitions;
     if (mayBePercent && cell.ends_with('%')) return IsNumeric(cell.substr(0, cell.size() - 1));
@@ -27,11 +30,13 @@ bool IsGoodStatement(const TableColumn& column, const std::string& cell) {
 }
 
 std::string ValueFault(const std::string& cell) {
+    // A row is either whole or empty: half of one is no datum.
     if (cell.empty()) return "Missing value\nEnter the value or clear the line";
     if (!IsNumeric(cell)) return "Invalid number\nCorrect it or clear the line";
     return {};
 }
 
+/// Item 0 is the property, the head of the chain; null where the chain is shorter.
 const clsProperty* ItemOf(const clsProperty& chain, int item) {
     const clsProperty* found = &chain;
     for (int i = 0; i < item && found; ++i)
@@ -88,7 +93,10 @@ std::vector<Finding> CheckLimits(const ui::Grid& grid, const TableColumns& colum
         const clsProperty* item = ItemOf(chain, columns[column].item);
         const std::string cell = NormalizeNumber(grid.Cell(row, column));
         if (!item || item->Relation != "A" || !IsNumeric(cell)) continue;
+        // Only the property may be by mass of the compound; variables are not.
         const double mass = item == &chain ? molarMass : 0;
+        // It would convert to 0 and be told of for the wrong reason; the unit itself is refused on
+        // Accept.
         if (item->Factor <= 0 && mass <= 0 && IsMassBased(item->ConversionCode)) continue;
         const double value = ToSystem(item->ConversionCode, Val(cell), item->Factor, mass);
         const bool valid = IsValidValue(item->PropertyCode, value);
@@ -105,6 +113,7 @@ std::vector<Finding> CheckReading(const ui::Grid& grid, const TableColumns& colu
     std::vector<Finding> findings;
     for (int column = 0; column < columns.Count(); ++column) {
         const std::string typed(TrimBlanks(grid.Cell(row, column)));
+        // A blank within a number parts thousands or two columns.
         const bool parted = typed.find(' ') != typed.npos;
         if (!parted && !MayPartThousands(typed)) continue;
         const std::string read = CleanCell(columns[column], typed);

@@ -20,6 +20,7 @@ void SampleChoice::Fill() {
     const ui::FillingScope filling(form_);
     FillCompoundList(compounds_);
     if (!globals.CurrentR) return;
+    // Position 0, for a compound that is not there, becomes index -1: nothing chosen.
     compounds_.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
     FillSamples();
     samples_.Choose(globals.CurrentS.get());
@@ -52,6 +53,7 @@ void SampleChoice::PutInContext(double fallbackMolarMass) {
     const double mass = MolarMass();
     globals.CurrentMethod->MMass = mass > 0 ? mass : fallbackMolarMass;
     globals.CurrentMethod->Purity = sample ? sample->Purity : 0;
+    // A record that is edited stands under its sample already.
     if (!sample || locked_) return;
     globals.CurrentL = Compound();
     globals.CurrentS = sample;

@@ -21,6 +21,7 @@ public:
                  std::string prompt = {});
 
     /// Lists the compounds of the document and chooses the current one with its current sample.
+    /// To be called when the dialog loads; the handlers of the form are held off meanwhile.
     void Fill();
     /// Lists the samples of the chosen compound; one alone is chosen by itself.
     void FillSamples();
@@ -29,12 +30,15 @@ public:
     /// Nothing is to be changed: the record that is edited keeps its sample.
     void Lock();
 
+    /// The chosen one, null for none or without a source.
     std::shared_ptr<clsL> Compound() const;
     std::shared_ptr<clsS> Sample() const { return samples_.Sample(); }
     /// Molar mass [g/mol] of the compound, 0 when it is not known.
+    /// From the registry number, whose formula the databases know.
     double MolarMass() const;
     /// Makes the sample the current one, unless locked, and puts purity and molar mass, or this one
     /// where the formula gives none, into the working context.
+    /// Units by mass are converted with that molar mass from here on.
     void PutInContext(double fallbackMolarMass);
 
 private:

@@ -29,6 +29,7 @@ void SampleList::Fill(std::shared_ptr<clsL> compound) {
     if (!compound_) return ChoosePosition(0);
     for (const auto& sample : compound_->recS)
         list_.Add(sample->SMPNM);
+    // Not offered where nothing could open.
     if (ui::Forms::Current().Knows(SampleDialog)) list_.Add(NewEntry);
     ChoosePosition(compound_->recS.Count() == 1 ? 1 : 0);
 }
@@ -50,12 +51,15 @@ void SampleList::Make() {
     const std::size_t before = compound_->recS.Count();
     const std::size_t chosen = chosen_;
     globals.CurrentL = compound_;
+    // By this the dialog knows that it was opened on the way, and comes back here when it closes.
     globals.OpenForms.push_back(form_.Name());
     ui::Forms::Current().Get(SampleDialog).ShowModal();
     Fill(compound_);
     const std::size_t count = compound_->recS.Count();
+    // Cancelled: "New" is no sample and must not stay chosen.
     if (count == before) return ChoosePosition(chosen);
     const auto made = compound_->recS.Item(count);
+    // What has been made must be found by its number, or data could not refer to it.
     const auto found = compound_->FindS(static_cast<int>(Val(made->SMPNM)));
     if (!found) ui::Say("Sample internal error");
     ChoosePosition(found ? count : 0);

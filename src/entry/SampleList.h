@@ -18,10 +18,12 @@ class clsS;
 class SampleList {
 public:
     /// A prompt, if there is one, leads the list.
+    /// The prompt has no sample: while it is chosen, Sample is null.
     SampleList(ui::Form& form, ui::ComboBox& list, std::string prompt = {});
 
     /// Lists the samples of a compound; one alone is chosen by itself. Without a compound nothing
     /// is on offer.
+    /// Samples stand by their numbers (SMPNM), in the order of the document.
     void Fill(std::shared_ptr<clsL> compound);
     /// Chooses a sample of the compound; another one, or null, changes nothing.
     void Choose(const clsS* sample);

@@ -14,12 +14,14 @@ using Kind = TableColumn::Kind;
 
 /// A value as typed; one that was stored with other digits than its text has shows those.
 std::string Shown(const std::string& value, int digits, bool isDigit) {
+    // A text with as many digits as are stated is shown as typed, exponent and all.
     if (!isDigit || digits <= 0 || !IsNumeric(value) || SignificantDigits(value) == digits) {
         return value;
     }
     return FormatDigits(value, digits);
 }
 
+/// The head of the column says "%" for all its cells.
 std::string WithoutPercent(const std::string& text) {
     return text.ends_with('%') ? text.substr(0, text.size() - 1) : text;
 }
@@ -60,6 +62,7 @@ TableColumns::TableColumns(const std::vector<Quantity>& quantities, bool withDig
                                           : "Var" + std::to_string(++variable),
                     withDigits);
     }
+    // Always last, so that other columns may come and go in front of it.
     Add(Kind::KVO, 0, "KVO Uncert.");
 }
 
@@ -80,6 +83,7 @@ void TableColumns::AddQuantity(const Quantity& quantity, const std::string& head
 }
 
 void TableColumns::Add(Kind kind, int item, const std::string& head, const std::string& setValue) {
+    // As the set states its figure, so do its rows: one column has one kind of figure.
     const bool percent = setValue.find('%') != setValue.npos;
     columns_.push_back({kind, item, percent, percent ? head + "%" : head});
 }
@@ -125,6 +129,7 @@ void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
         if (IsNumeric(cell) || cell.empty()) row.PRPUNCERTY = cell;
     } else if (!cell.empty() || row.Extras) {
         row.Statements(0); // makes the room for what only few rows carry
+        // The record states each figure by itself, with its sign of per cent.
         const bool addsPercent = column.percent && !cell.empty() && !cell.ends_with('%');
         *StatementIn(*row.Extras, column) = addsPercent ? cell + "%" : cell;
     }
@@ -133,6 +138,7 @@ void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
 /// What was typed stays behind what its digits let show.
 void TableColumns::StoreValue(clsData& row, int at, const std::string& cell) const {
     const int item = (*this)[at].item;
+    // Nobody has typed into the cell: the record keeps more digits than it shows.
     const bool asShown = !cell.empty() && CellOf(row, at) == cell;
     if (!asShown) row.Values.at(static_cast<std::size_t>(item)) = cell;
     if (Find(Kind::Digits, item) >= 0) return; // the count comes with its own cell
@@ -142,6 +148,7 @@ void TableColumns::StoreValue(clsData& row, int at, const std::string& cell) con
 
 void TableColumns::StoreDigits(clsData& row, int item, const std::string& cell) {
     const auto place = static_cast<std::size_t>(item);
+    // 0 or nothing: as many as the text of the value has.
     const int typed = static_cast<int>(std::clamp(Val(cell), 0.0, 99.0));
     row.Digits.at(place) =
         static_cast<std::uint8_t>(typed > 0 ? typed : SignificantDigits(row.Values.at(place)));

@@ -16,6 +16,7 @@ struct TableColumn {
     bool percent = false; // the cells are per cent of the value without saying so
     std::string head;
 
+    /// What says something about a value beside it.
     bool IsStatement() const {
         return kind != Kind::Tie && kind != Kind::Value && kind != Kind::KVO;
     }
@@ -25,9 +26,13 @@ struct TableColumn {
 /// The columns of a table from left to right: the number of the tie where rows have one, then each
 /// quantity with its digits when they are shown and the statements that its set makes for every
 /// row; at last the figure of the evaluation. Any number of variables and properties has room.
+/// Made anew when the statements of the set, the digits or the ties are switched; cells then move
+/// by PlacesIn. Columns count from 0, items as in the set (0 the property).
 class TableColumns {
 public:
     TableColumns() = default;
+    /// A column exists for each statement whose mark is set; its empty cells stand for the figure
+    /// of the set.
     explicit TableColumns(const std::vector<Quantity>& quantities, bool withDigits = false,
                           bool withTies = false);
 
@@ -42,8 +47,10 @@ public:
     std::vector<int> PlacesIn(const TableColumns& others) const;
 
     /// The cell of a column for a row of a data set, as the table shows it.
+    /// The row must have a place for the item of the column.
     std::string CellOf(const clsData& row, int column) const;
     /// Puts a cell into the row.
+    /// The cell is clean (CleanCell) and good (CheckRow). "Error" is never stored.
     void Store(clsData& row, int column, const std::string& cell) const;
 
 private:

@@ -25,6 +25,7 @@ Cells TextsOf(const ui::Grid& grid) {
     return cells;
 }
 
+/// Cells up to the last one that holds something.
 std::size_t Width(const std::vector<std::string>& row) {
     std::size_t width = row.size();
     while (width > 0 && row[width - 1].empty())
@@ -38,6 +39,7 @@ std::vector<std::string> TopRow(const Cells& cells) {
     std::size_t widest = 0;
     for (std::size_t row = 1; row < cells.size(); ++row)
         widest = std::max(widest, Width(cells[row]));
+    // Pasted with one cell too few at the left, for nothing is printed in the corner.
     if (!top.front().empty() && Width(top) + 1 == widest) top.insert(top.begin(), "");
     return top;
 }
@@ -46,6 +48,7 @@ struct Triple {
     std::string first, second, value;
 };
 
+/// Row by row, as the paper reads. A cell without a value is a state that was not measured.
 std::vector<Triple> TriplesOf(const Cells& cells, const std::vector<std::string>& top) {
     std::vector<Triple> triples;
     for (std::size_t row = 1; row < cells.size(); ++row) {
@@ -57,6 +60,7 @@ std::vector<Triple> TriplesOf(const Cells& cells, const std::vector<std::string>
     return triples;
 }
 
+/// Whether the columns from this one on may go without loss.
 bool IsEmptyBehind(const ui::Grid& grid, int column) {
     for (int row = grid.FixedRows(); row < grid.Rows(); ++row)
         for (int at = column; at < grid.Columns(); ++at)
@@ -81,12 +85,14 @@ std::optional<std::string> TurnTwoDimensional(TableUndo& table, const TableColum
     using Kind = TableColumn::Kind;
     const int second = columns.Find(Kind::Value, 2);
     const Cells cells = TextsOf(table.Table());
+    // A set with one variable has no table in two dimensions.
     if (second < 0 || cells.size() < 2) return {};
     const std::vector<std::string> top = TopRow(cells);
     const std::vector<Triple> triples = TriplesOf(cells, top);
     if (triples.empty()) return {};
     const auto writer = [&](TableEdit& edit) {
         const int fixed = table.Table().FixedRows();
+        // Out with the old texts first: rows of the new table are narrower and stand elsewhere.
         edit.Rows(fixed);
         edit.Columns(columns.Count());
         edit.Rows(fixed + static_cast<int>(triples.size()));
@@ -113,6 +119,7 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
         any = any || Width(texts) > 0;
         moved.push_back(std::move(texts));
     }
+    // A block that is all there is has nothing to go below.
     if (!any || !AnyOutside(grid, block)) return false;
     const auto writer = [&](TableEdit& edit) {
         for (int row = std::max(block.top, grid.FixedRows()); row <= block.bottom; ++row) {
@@ -121,6 +128,7 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
         }
         int row = grid.FixedRows() + static_cast<int>(TextsOf(grid).size());
         for (const auto& texts : moved) {
+            // Gaps of a printed table are no rows.
             if (Width(texts) == 0) continue;
             edit.Rows(std::max(grid.Rows(), row + 1));
             for (std::size_t column = 0; column < texts.size(); ++column)

@@ -22,6 +22,7 @@ void ValueEntry::TakeText() {
 }
 
 bool ValueEntry::Check() {
+    // What is checked is what will be stored: blanks and decimal comma are mended in sight.
     value_.Text(NormalizeNumber(value_.Text()));
     if (!IsNumeric(value_.Text()))
         return form_.Refuse(value_, "Enter the property value", "Illegal property value");
@@ -36,6 +37,7 @@ bool ValueEntry::Check() {
 bool ValueEntry::CheckUnit() {
     const std::string fault = UnitFault(*Globals().CurrentProperty);
     if (fault.empty()) return true;
+    // The unit is mended behind the button, a missing molar mass only by another compound or unit.
     const bool ofUnit = fault == "Invalid conversion factor";
     return form_.Refuse(ofUnit ? static_cast<ui::Control&>(method_) : value_, fault);
 }

@@ -12,13 +12,16 @@ namespace vexora {
 class ValueEntry {
 public:
     /// The button is the one that leads to property and unit.
+    /// All of them must outlive it.
     ValueEntry(ui::Form& form, ui::TextBox& value, ui::Label& unit, ui::CommandButton& method);
 
+    /// Shows the unit of the property in force beside the field.
     void ShowUnit();
     /// Puts the number into the chain as it is typed, but for blanks and a decimal comma.
     void TakeText();
     /// Refuses what is no number, what cannot be brought to the system unit, and what is impossible
     /// for the property; asks about what is unlikely. The focus is where it can be mended.
+    /// True when the value may be stored; its figures then are in the head of the chain.
     bool Check();
 
 private:

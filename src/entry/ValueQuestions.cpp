@@ -12,8 +12,10 @@ bool ConfirmInBox(const ValueDoubt& doubt) {
 
 bool SuspicionsOfRun::Confirm(const ValueDoubt& doubt) {
     if (!doubt.isQuestion) return ConfirmInBox(doubt);
+    // A suspicious temperature would else be asked about in each of its rows.
     if (allOf_.contains(doubt.item) || confirmed_.contains({doubt.item, doubt.value})) return true;
     const ui::Answer answer =
+        // Enter pressed too soon is a No.
         ui::TheDesktop().Show({doubt.text, {}, ui::MessageButtons::YesNoAll, ui::Answer::No});
     if (answer == ui::Answer::YesToAll) allOf_.insert(doubt.item);
     if (answer == ui::Answer::Yes) confirmed_.insert({doubt.item, doubt.value});

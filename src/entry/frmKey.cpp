@@ -27,12 +27,14 @@ void frmKey::Load() {
         lstKey.Selected(lstKey.Count() - 1, tags.Has(row.Key));
     }
     if (!rows_.empty()) return;
+    // Nothing to tick: the caller goes on as if it had been accepted.
     if (globals.KeyRest.empty()) globals.KeyRest = ":";
     Close();
 }
 
 void frmKey::Accept() {
     CommentTags tags = CommentTags::OfTags(Globals().KeyRest);
+    // Only tags that were listed: others may be of statements that this edition does not know.
     for (int i = 0; i < lstKey.Count(); ++i)
         tags.Set(rows_[static_cast<std::size_t>(i)].Key, lstKey.Selected(i));
     Globals().KeyRest = tags.Stored();

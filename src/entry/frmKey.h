@@ -9,6 +9,8 @@ namespace vexora {
 
 /// The statements that a method carries, to be ticked; a helper of frmProperty. They become tags in
 /// KeyRest. A method without statements closes the form at once. Tags of other origin stay.
+/// The registry owns it. It works on the globals: method and context say which statements there
+/// are.
 class frmKey : public ui::Form {
 public:
     frmKey();

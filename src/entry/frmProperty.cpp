@@ -55,6 +55,7 @@ void frmProperty::WireEvents() {
 
 void frmProperty::Load() {
     KVOGlobal& globals = Globals();
+    // Opened from the shell it is the first link of a chain of dialogs and stays behind them.
     inChain_ = !IsModal();
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     if (inChain_) BeginSelection();
@@ -74,6 +75,7 @@ void frmProperty::Activate() {
 
 bool frmProperty::QueryUnload() {
     if (!IsModal()) return true;
+    // The details dialog has written into the globals already.
     if (!accepted_) {
         Globals().CurrentMethod->Method = before_.Method;
         Globals().KeyRest = before_.KeyRest;
@@ -89,6 +91,7 @@ void frmProperty::Unload() {
 void frmProperty::GroupClick() {
     rows_.clear();
     std::vector<std::string> names = {"SELECT THE PROPERTY"};
+    // Entry 0 is the prompt.
     const int group = lstPropGroup.Index();
     if (group > 0) rows_ = OfferedIn(groups_[static_cast<std::size_t>(group - 1)]);
     for (const PropertyRow& row : rows_)
@@ -113,6 +116,8 @@ void frmProperty::PropertyClick() {
 void frmProperty::ConvClick() {
     const PropertyRow* row = Chosen();
     if (Filling || !row) return;
+    // The entry asks a question and is no unit: the choice goes back before the answer is looked
+    // at.
     if (lstConv.Chosen() == AllOtherUnits) {
         const auto factor = AskFactor(*row);
         const ui::FillingScope filling(*this);
@@ -129,6 +134,7 @@ void frmProperty::MethodClick() {
 
 void frmProperty::Details() {
     DropForeignTags();
+    // The statements listed are those of the method.
     Globals().CurrentMethod->Method = ChosenMethod();
     ui::Forms::Current().Get("frmKey").ShowModal();
 }

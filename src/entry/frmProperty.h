@@ -14,6 +14,8 @@ namespace vexora {
 /// What is being entered: property, unit, method, purpose, and how many state variables the data
 /// have. Opened from the shell it leads on to the entry dialog; opened modally by an entry dialog
 /// it lets the choice be reviewed and comes back.
+/// The registry owns it. What is chosen goes to the globals on accepting; only the details of a
+/// method go there at once.
 class frmProperty : public ui::Form {
 public:
     frmProperty();
@@ -50,6 +52,8 @@ public:
 
 private:
     /// A button that leads on to the form that takes data of this kind.
+    /// Which are visible follows from the columns of the property, which live from the forms there
+    /// are.
     struct Entry {
         ui::CommandButton& button;
         EntryKind kind;

@@ -20,6 +20,7 @@ void frmProperty::Enter(const Entry& entry) {
 
 void frmProperty::Accept() {
     if (!IsModal() && Chosen()) {
+        // Enter leads on where only one way is open, as if its button had been pressed.
         if (ui::CommandButton* entry = OnlyEntry()) entry->UserClick();
         return;
     }
@@ -37,6 +38,7 @@ bool frmProperty::Check() {
     if (lstExpPurpose.Index() <= 0)
         return Refuse(lstExpPurpose, "Please select the experiment purpose");
     if (lstMethod.Index() < 0) return Refuse(lstMethod, "Select the method of measurement");
+    // A method outside the table is worth nothing without a word about it.
     if (ChosenMethod() == "OTHER" && Trim(txtMethod.Text()).empty())
         return Refuse(txtMethod, "Please describe the method of measurement in comment");
     const std::string& factor = txtFactor.Text();
@@ -57,6 +59,7 @@ void frmProperty::Store(int variableCount) {
     globals.PropertyComment = txtComment.Text();
     method.Method = ChosenMethod();
     method.sMethod = method.Method == "OTHER" ? std::string(Trim(txtMethod.Text())) : "";
+    // It is stored for the reader of the record and enters no calculation.
     method.f = txtFactor.IsEmpty() ? 1 : Val(txtFactor.Text());
     method.Context = globals.DataContext;
     StoreStatements();
@@ -68,12 +71,14 @@ void frmProperty::Store(int variableCount) {
 void frmProperty::StoreUnit(const PropertyRow& row) {
     KVOGlobal& globals = Globals();
     clsMethod& method = *globals.CurrentMethod;
+    // The operator's own unit stands in front of the entry that asks for one.
     const bool ownUnit = factor_ > 0 && lstConv.Index() == lstConv.Count() - 2;
     method.Factor = ownUnit ? factor_ : 0;
     globals.PropertyUnit = ownUnit ? "*" : UnitCode(row, lstConv.Chosen());
     globals.PropertyText = globals.OriginalUnits
                                ? UnitText(row.Unit, globals.PropertyUnit, method.Factor)
                                : UnitText(row.Unit, "S", 0);
+    // A precision belongs to the property that it was stated for.
     if (!globals.CurrentProperty || globals.PropertyCode != row.Code)
         globals.CurrentProperty = std::make_shared<clsProperty>();
     globals.PropertyCode = row.Code;
@@ -88,6 +93,7 @@ void frmProperty::StoreUnit(const PropertyRow& row) {
 void frmProperty::StoreStatements() {
     KVOGlobal& globals = Globals();
     CommentTags tags = CommentTags::OfTags(globals.KeyRest);
+    // Bits that are not offered keep their state.
     int bits = FlagBits(globals.PropertyFlags);
     for (std::size_t i = 0; i < statements_.size(); ++i) {
         const Statement& statement = statements_[i];

@@ -23,6 +23,7 @@ constexpr const char* MethodNotStated = "The method is not stated in the documen
 
 } // namespace
 
+/// A new datum begins without tags, flags or figures of the last one.
 void frmProperty::BeginSelection() {
     KVOGlobal& globals = Globals();
     globals.KeyRest = ":";
@@ -39,6 +40,7 @@ void frmProperty::BeginSelection() {
 
 void frmProperty::FillGroups() {
     groups_ = PropertyGroups(Globals().DataContext);
+    // A group whose properties cannot be entered would be a dead end.
     std::erase_if(groups_, [this](const auto& group) { return OfferedIn(group).empty(); });
     lstPropGroup.Assign({"SELECT PROPERTY GROUP"});
     for (const PropertyGroupRow& group : groups_)
@@ -98,6 +100,7 @@ void frmProperty::FillUnits(const PropertyRow& row) {
     const ui::FillingScope filling(*this);
     factor_ = 0;
     lstConv.Assign(UnitList(row.Unit));
+    // Several units: none is preset, for a wrong unit is the gravest slip and the least seen.
     const bool only = lstConv.Count() == 1;
     lstConv.Add(AllOtherUnits);
     lstConv.Index(only ? 0 : -1);
@@ -106,6 +109,7 @@ void frmProperty::FillUnits(const PropertyRow& row) {
 
 void frmProperty::FillMethods(const PropertyRow& row) {
     methods_ = MethodsOf(row.Code);
+    // Behind those of the table, for every property.
     methods_.push_back({"UNKNOWN", MethodNotStated});
     methods_.push_back({"OTHER", OtherMethod});
     for (const MethodRow& method : methods_)
@@ -147,6 +151,7 @@ void frmProperty::ShowEntries() {
         OfferEntry(entry, !row || AllowsEntry(*row, entry.kind, entry.variableCount));
     fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
     fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
+    // Enter needs one meaning.
     const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
     cmdOK.Enabled(clear);
     cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");
@@ -191,6 +196,7 @@ void frmProperty::ShowMethod() {
 
 void frmProperty::OfferFactor(double factor) {
     const int last = lstConv.Count() - 1;
+    // There is one own unit at most.
     if (factor_ > 0) lstConv.Remove(last - 1);
     factor_ = factor;
     lstConv.Insert(lstConv.Count() - 1, UnitText(Chosen()->Unit, "*", factor));
@@ -205,6 +211,7 @@ std::optional<double> frmProperty::AskFactor(const PropertyRow& row) const {
     const auto answer = ui::TheDesktop().Ask(
         {prompt, "Non-standard conversion factor", "Enter the Conversion Factor here"});
     const std::string text = NormalizeNumber(answer.value_or(""));
+    // Nothing typed, or Cancel: the unit stays as it was.
     if (text.empty()) return std::nullopt;
     if (IsNumeric(text) && Val(text) > 0) return Val(text);
     ui::Say("Invalid conversion factor");

@@ -24,6 +24,7 @@ void DropPrompt(ui::ComboBox& list) {
     if (list.Item(0).starts_with("SELECT ")) list.Remove(0);
 }
 
+/// So the first real entry has index 0 as soon as one has been chosen.
 void WirePrompt(ui::ComboBox& list) {
     list.OnDropDown = [&list] { DropPrompt(list); };
     list.OnClick = [&list] {
@@ -66,6 +67,7 @@ ui::Layout frmUnc::FrameLayout(int i) {
         Field(chkUnc(i), Row({Field("Value:", Row({number(txtUValue(i)), chkUPerCent(i)})),
                               confidence(txtULevel(i))}))};
     if (i == 0) {
+        // Combined uncertainty and curve deviation are of the property: variables have none.
         rows.push_back(Field(chkComb, Row({Field("Value:", Row({number(txtCUValue), chkCUPerCent})),
                                            confidence(txtCULevel), cboCUType})));
         rows.push_back(Field(chkCD, Row({Field("RMS:", Row({number(txtRMS), chkRMSPerCent})),
@@ -83,6 +85,7 @@ void frmUnc::ArrangeControls() {
     parts.emplace_back(lblFigures);
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
+    // The controls are declared by kind; the keyboard is to go frame by frame.
     TabAlongArrangement();
     PreferredColumns = 165; // so that an evaluator can be read
 }

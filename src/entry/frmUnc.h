@@ -13,8 +13,11 @@ class clsProperty;
 /// The uncertainty statements of a data set: one frame for the property, one for each variable.
 /// Opened modally through EditStatements on the items in CurrentUX, which change on OK only. The
 /// figures that follow from the statements are shown for the value in the property chain.
+/// The terms are those of the GUM (JCGM 100): a level makes a figure an expanded uncertainty,
+/// without one it is a standard deviation. The registry owns the form.
 class frmUnc : public ui::Form {
 public:
+    /// The property and up to four variables.
     static constexpr int frameCount = 5;
 
     frmUnc();

@@ -14,6 +14,7 @@ namespace vexora {
 namespace {
 
 constexpr const char* InvalidNumber = "Invalid numerical value";
+// More digits of an uncertainty say nothing (JCGM 100:2008, 7.2.6, has two as a rule).
 constexpr int ShownDigits = 3;
 
 /// Single values state all of it at once; in a table the rows may do it.
@@ -22,6 +23,7 @@ bool IsSingleValue() {
     return key == "RMZ" || key == "RLSZ" || key == "RQC";
 }
 
+/// [per cent]; 0, for a standard deviation, where none is given.
 double Level(const std::string& text) {
     return IsNumeric(text) ? Val(text) : 0;
 }
@@ -31,6 +33,7 @@ double Level(const std::string& text) {
 bool frmUnc::CheckValue(ui::TextBox& box) {
     if (!box.Enabled()) return true;
     box.Text(NormalizeNumber(box.Text()));
+    // In a table the cell of a row may give the figure.
     if (box.IsEmpty()) return !IsSingleValue() || Refuse(box, "Please enter the value");
     return IsNumeric(box.Text()) || Refuse(box, InvalidNumber);
 }
@@ -43,6 +46,7 @@ bool frmUnc::CheckLevel(ui::TextBox& box) {
 
 bool frmUnc::CheckRepetitions(ui::TextBox& box) {
     if (!CheckLevel(box)) return false;
+    // One measurement: the figure is not divided by anything.
     if (box.Enabled() && box.IsEmpty() && IsSingleValue()) box.Text("1");
     return true;
 }
@@ -103,12 +107,14 @@ void frmUnc::TakeEvaluated(const clsProperty& head) {
 
 void frmUnc::TakeEntries(clsProperty& quantity, int i) const {
     const clsX item = FromControls(i);
+    // What stands on the form is the whole statement; defaults of the set would hide a cleared one.
     quantity.masterds = quantity.masterrep = quantity.masterunc = "";
     quantity.masternrep = 0;
     quantity.DS = item.DSValue;
     quantity.DSLevel = Level(item.DSLevel);
     if (IsCalibrated(i) && item.iDS) {
         const double constant = Val(item.DSValue);
+        // The relative uncertainty of the constant is that of every heat measured with it.
         const bool known = IsNumeric(item.DSEvaluator) && constant > 0;
         quantity.DS = known ? NumberText(Val(item.DSEvaluator) * 100 / constant) + "%" : "";
     }
@@ -117,6 +123,7 @@ void frmUnc::TakeEntries(clsProperty& quantity, int i) const {
     quantity.replevel = item.iRep && item.RType > 0 ? item.RType : 0;
     quantity.Unc = item.UValue;
     quantity.unclevel = Level(item.ULevel);
+    // A deviation is that of a whole curve; this is the figure of one value.
     quantity.CD = "";
     quantity.Der = 0;
 }
@@ -159,6 +166,7 @@ void frmUnc::Accept() {
     }
     std::vector<clsX>& stated = *Globals().CurrentUX;
     for (std::size_t k = 0; k < stated.size(); ++k) {
+        // What was not shown cannot have been changed.
         if (!HasFrame(items_[k])) continue;
         const clsX item = FromControls(items_[k].N);
         if (item != shown_[k]) stated[k] = item; // else it keeps the unit that it was read in

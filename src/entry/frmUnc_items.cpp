@@ -25,6 +25,7 @@ void ShowStatement(std::string_view text, ui::TextBox& box, ui::CheckBox& perCen
     perCent.Value(isPerCent);
 }
 
+/// The text of the record: the figure as typed, "%" behind it when marked.
 std::string Statement(const ui::TextBox& box, const ui::CheckBox& perCent) {
     const std::string text = NormalizeNumber(box.Text());
     return perCent.Value() && !text.empty() ? text + "%" : text;
@@ -38,6 +39,7 @@ std::string UnitInChain(int i) {
     return item ? item->ConversionCode : std::string();
 }
 
+/// A record holds the place in the list, or a name that was typed.
 void ShowEvaluator(ui::ComboBox& list, const std::string& evaluator) {
     const int index = IsNumeric(evaluator) ? static_cast<int>(Val(evaluator)) : -1;
     if (index >= 0 && index < list.Count())
@@ -59,6 +61,7 @@ void frmUnc::FillLists() {
         cboRType(i).Assign(
             {"SELECT REPRESENTATION OF REPEATABILITY", OfTheMean, OfSingleMeasurement});
         cboRType(i).Index(0);
+        // The place in this list is what is stored; new ones go behind.
         cboDSEvaluator(i).Assign({"Manufacturer", "Third party", "Author"});
     }
     cboCUType.Assign({"SELECT TYPE OF EVALUATION", Propagation, Comparison});
@@ -71,11 +74,14 @@ void frmUnc::ShowItems() {
         Frame(i).Visible(false);
     if (!stated) return;
     for (const clsX& item : *stated)
+        // Files state figures of variables in system units, a person thinks in those of the paper.
         items_.push_back(HasFrame(item) ? InEnteredUnit(item, UnitInChain(item.N)) : item);
     for (const clsX& item : items_) {
         if (HasFrame(item)) ShowItem(item);
     }
     for (const clsX& item : items_)
+        // Read back at once: a difference to this later is a change by the operator, not one by
+        // showing.
         shown_.push_back(HasFrame(item) ? FromControls(item.N) : item);
 }
 
@@ -120,6 +126,7 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
     txtCULevel.Text(item.CLevel);
     if (item.CType == "A") cboCUType.Choose(Propagation);
     if (item.CType == "B") cboCUType.Choose(Comparison);
+    // Kept as it is unless another type is chosen.
     if (item.CType == "C")
         ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
                 "External mode");
@@ -144,6 +151,8 @@ clsX frmUnc::FromControls(int i) const {
         item.DSValue = Statement(txtDSValue(i), chkDSPerCent(i));
     }
     item.iRep = chkRep(i).Value();
+    // The value line of a record has a repeatability by itself, which the mark of this block is not
+    // about.
     if (item.iRep || !item.repOfValueLine) {
         item.Repetitions = item.iRep ? NormalizeNumber(txtRepetitions(i).Text()) : "";
         item.RValue = item.iRep ? Statement(txtRValue(i), chkRPerCent(i)) : "";
