@@ -1,5 +1,3 @@
-#include "sources/frmMakeJournal.h"
-#include "sources/frmMakeThesis.h"
 #include "support/SourceFixture.h"
 
 namespace vexora::test {
@@ -178,12 +176,12 @@ TEST_F(MakeFormTest, ADissertationIsToldFromAThesis) {
     Choose(document.cboTypeDoc, "Thesis/Dissertation");
     for (int time = 0; time < 2; ++time) {
         desktop.ExpectModal("frmMakeThesis", [time](ui::Form& opened) {
-            auto& thesis = dynamic_cast<frmMakeThesis&>(opened);
-            EXPECT_EQ(thesis.optD.Value(), time == 1);
-            Set(thesis.txtDegree, "Ph.D.");
-            Set(thesis.txtInst, "MIT");
-            thesis.optD.UserClick();
-            thesis.cmdAccept.UserClick();
+            auto& dissertation = dynamic_cast<ui::OptionButton&>(*opened.Find("optD"));
+            EXPECT_EQ(dissertation.Value(), time == 1);
+            Set(opened, "txtDegree", "Ph.D.");
+            Set(opened, "txtInst", "MIT");
+            dissertation.UserClick();
+            Click(opened, "cmdAccept");
         });
         document.txtSource.UserClick();
         EXPECT_EQ(document.txtSource.Text(), "Ph.D. Dissertation, MIT");
@@ -196,11 +194,10 @@ TEST_F(MakeFormTest, AKnownContributorGetsHisJournalForAManuscript) {
     frmDocument& document = OpenComplete();
     Choose(document.cboTypeDoc, "Submitted manuscript");
     desktop.ExpectModal("frmMakeJournal", [](ui::Form& opened) {
-        auto& journal = dynamic_cast<frmMakeJournal&>(opened);
-        EXPECT_EQ(journal.cboJournal.Text(), "J.Chem.Eng.Data");
-        EXPECT_EQ(journal.lblPages.Caption(), "Manuscript ID: (e.g., je000490a)");
-        Set(journal.txtPages, "je000490a");
-        journal.cmdAccept.UserClick();
+        EXPECT_EQ(opened.Find("cboJournal")->Display(), "J.Chem.Eng.Data");
+        EXPECT_EQ(opened.Find("lblPages")->Display(), "Manuscript ID: (e.g., je000490a)");
+        Set(opened, "txtPages", "je000490a");
+        Click(opened, "cmdAccept");
     });
     document.txtSource.UserClick();
     document.cmdAccept.UserClick();
@@ -213,7 +210,7 @@ TEST_F(MakeFormTest, TypingInTheListOfJournalsCompletesIt) {
     frmDocument& document = OpenNew();
     Choose(document.cboTypeDoc, "Journal article");
     desktop.ExpectModal("frmMakeJournal", [](ui::Form& opened) {
-        auto& journal = dynamic_cast<frmMakeJournal&>(opened).cboJournal;
+        auto& journal = dynamic_cast<ui::ComboBox&>(*opened.Find("cboJournal"));
         EXPECT_EQ(journal.Text(), "SELECT OR TYPE JOURNAL TITLE HERE");
         EXPECT_EQ(journal.SelectedFrom(), 0U) << "typing replaces the prompt";
         Type(journal, "j. phys. chem. r");
