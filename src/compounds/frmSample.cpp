@@ -1,7 +1,6 @@
 #include "compounds/frmSample.h"
 
 #include "entry/CodeLists.h"
-#include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -27,7 +26,12 @@ std::string AskMethod() {
 
 } // namespace
 
-frmSample::frmSample() : Form("frmSample", "Sample") {
+frmSample::frmSample() : ChainForm("frmSample", "Sample") {
+    purities_.push_back(initial_);
+    for (int i = 0; i < finalRows; ++i) {
+        final_.push_back({txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)});
+        purities_.push_back(final_.back());
+    }
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdAccept;
@@ -41,10 +45,9 @@ void frmSample::ArrangeControls() {
     using namespace ui;
     std::vector<Layout> after = {
         Field("Purified by: (Select all applicable statements)", lstPurify)};
-    for (int i = 0; i < finalRows; ++i) {
-        after.push_back(
-            Field(i == 0 ? "Final purity:" : "Another detn.",
-                  Row({Narrow(txtFinalPurity(i), 8), lstFinalPurity(i), lstFinalDetBy(i)})));
+    for (const auto& [value, unit, method] : final_) {
+        after.push_back(Field(after.size() == 1 ? "Final purity:" : "Another detn.",
+                              Row({Narrow(value, 8), unit, method})));
     }
     Arrangement = Column(
         {Row({Field("Compound:", cboSubst), Field("Sample #", Narrow(txtSampleNo, 4))}),
@@ -63,19 +66,15 @@ void frmSample::WireEvents() {
     lstDescAvail.OnClick = [this] { AvailabilityClick(); };
     lstSmpSrc.OnClick = [this] { Compose(); };
     lstPurify.OnClick = [this] { PurifyClick(); };
-    WirePurity(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
-    for (int i = 0; i < finalRows; ++i)
-        WirePurity(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i));
+    for (const Purity& boxes : purities_) {
+        boxes.value.OnChange = [this] { Compose(); };
+        boxes.unit.OnClick = [this] { Compose(); };
+        boxes.method.OnClick = [this, &method = boxes.method] { MethodClick(method); };
+    }
     cmdNext.OnClick = [this] { Next(); };
     cmdAccept.OnClick = [this] { Accept(); };
     cmdCancel.OnClick = [this] { Close(); };
     mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(HelpSample); };
-}
-
-void frmSample::WirePurity(ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
-    value.OnChange = [this] { Compose(); };
-    unit.OnClick = [this] { Compose(); };
-    method.OnClick = [this, &method] { MethodClick(method); };
 }
 
 void frmSample::Load() {
@@ -99,24 +98,17 @@ void frmSample::Load() {
     }
 }
 
-void frmSample::Unload() {
-    CloseForm();
-}
-
 void frmSample::FillLists() {
     lstDescAvail.Assign(Texts(SampleAvailabilities()));
     lstSmpSrc.Assign(Texts(SampleSources()));
     lstPurify.Assign(PurificationList());
     lstPurify.Add(otherEntry);
-    const auto fill = [](ui::ComboBox& units, ui::ComboBox& methods) {
+    for (const Purity& boxes : purities_) {
         for (const PurityUnit& unit : PurityUnits())
-            units.Add(std::string(unit.text));
-        methods.Assign(DeterminationList());
-        methods.Add(otherEntry);
-    };
-    fill(lstSrcPurity, lstSrsDetBy);
-    for (int i = 0; i < finalRows; ++i)
-        fill(lstFinalPurity(i), lstFinalDetBy(i));
+            boxes.unit.Add(std::string(unit.text));
+        boxes.method.Assign(DeterminationList());
+        boxes.method.Add(otherEntry);
+    }
 }
 
 void frmSample::FillCompounds() {

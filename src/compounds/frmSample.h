@@ -3,9 +3,10 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "globals/FormChain.h"
 #include "records/SampleDescription.h"
-#include "ui/Form.h"
 
 namespace vexora {
 
@@ -15,7 +16,7 @@ class clsS;
 /// Builds the coded description of a sample from lists and boxes and takes it apart again. Opened
 /// from the shell it stays open for further samples; opened by another dialog, or on a sample that
 /// exists, it closes after one.
-class frmSample : public ui::Form {
+class frmSample : public ChainForm {
 public:
     frmSample();
 
@@ -43,12 +44,17 @@ public:
     ui::MenuItem mnuHelpSample{*this, "mnuHelpSample", "How to describe a sample", &mnuHelp};
 
     void Load() override;
-    void Unload() override;
 
 private:
+    /// The boxes of one statement of purity.
+    struct Purity {
+        ui::TextBox& value;
+        ui::ComboBox& unit;
+        ui::ComboBox& method;
+    };
+
     void ArrangeControls();
     void WireEvents();
-    void WirePurity(ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method);
     void FillLists();
     void FillCompounds();
     void NewSample();
@@ -64,8 +70,8 @@ private:
     SampleDescription Read() const;
     void Fill();
     bool ShowDescription(const SampleDescription& description);
-    bool ShowPurity(const PurityStatement& statement, ui::TextBox& value, ui::ComboBox& unit,
-                    ui::ComboBox& method);
+    static PurityStatement ReadPurity(const Purity& boxes);
+    static bool ShowPurity(const PurityStatement& statement, const Purity& boxes);
     void ClearDescription();
     void FollowAvailability();
     static int PlaceOfMethod(ui::ItemList& list, const std::string& text);
@@ -82,12 +88,14 @@ private:
     bool CheckAnyPurity();
     bool CheckInitial();
     bool CheckPurification();
-    bool CheckFinal(int i);
+    bool CheckFinal(const Purity& boxes);
     bool CheckValue(ui::TextBox& box);
-    bool CheckMethod(const ui::TextBox& box, ui::ComboBox& method);
+    bool CheckMethod(const Purity& boxes);
     bool Store();
-    bool IsGuided() const;
 
+    const Purity initial_{txtSrcPurity, lstSrcPurity, lstSrsDetBy};
+    std::vector<Purity> final_;
+    std::vector<Purity> purities_; // the initial one and the final ones
     bool editing_ = false;
     bool changed_ = true;          // anything changed since the last store
     int chosen_ = -1;              // the compound in force while "New" is being made

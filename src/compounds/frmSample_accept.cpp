@@ -1,4 +1,7 @@
 #include "compounds/frmSample.h"
+
+#include <algorithm>
+
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -32,12 +35,6 @@ void frmSample::Accept() {
         cmdAccept.Caption("Done");
 }
 
-/// Another dialog than the shell waits for one sample.
-bool frmSample::IsGuided() const {
-    const auto& openers = Globals().OpenForms;
-    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
-}
-
 void frmSample::Next() {
     if (changed_) {
         NormalizeNumbers();
@@ -48,18 +45,15 @@ void frmSample::Next() {
 }
 
 void frmSample::NormalizeNumbers() {
-    txtSrcPurity.Text(NormalizeNumber(txtSrcPurity.Text()));
-    for (const auto& box : txtFinalPurity)
-        box->Text(NormalizeNumber(box->Text()));
+    for (const Purity& boxes : purities_)
+        boxes.value.Text(NormalizeNumber(boxes.value.Text()));
 }
 
 bool frmSample::Check() {
     if (!CheckChoices()) return false;
     if (!IsDescribed()) return true;
-    if (!CheckAnyPurity() || !CheckInitial() || !CheckPurification()) return false;
-    for (int i = 0; i < finalRows; ++i)
-        if (!CheckFinal(i)) return false;
-    return true;
+    return CheckAnyPurity() && CheckInitial() && CheckPurification() &&
+           std::ranges::all_of(final_, [this](const Purity& boxes) { return CheckFinal(boxes); });
 }
 
 bool frmSample::CheckChoices() {
@@ -70,10 +64,8 @@ bool frmSample::CheckChoices() {
 }
 
 bool frmSample::CheckAnyPurity() {
-    bool any = !txtSrcPurity.IsEmpty();
-    for (const auto& box : txtFinalPurity)
-        any = any || !box->IsEmpty();
-    return any ||
+    return std::ranges::any_of(purities_,
+                               [](const Purity& boxes) { return !boxes.value.IsEmpty(); }) ||
            Confirm(txtSrcPurity, "No numerical purity assessment was provided.\nIs this correct?",
                    "Purity information missing");
 }
@@ -83,7 +75,7 @@ bool frmSample::CheckInitial() {
     if (Val(txtSrcPurity.Text()) > 10 && lstSrcPurity.Chosen() == "water mass %" &&
         !Confirm(txtSrcPurity, "Is water content so high?"))
         return false;
-    return CheckMethod(txtSrcPurity, lstSrsDetBy);
+    return CheckMethod(initial_);
 }
 
 bool frmSample::CheckPurification() {
@@ -92,16 +84,16 @@ bool frmSample::CheckPurification() {
     return Refuse(lstPurify, "Invalid combination of \"None used\" with other options");
 }
 
-bool frmSample::CheckFinal(int i) {
-    ui::TextBox& box = txtFinalPurity(i);
+bool frmSample::CheckFinal(const Purity& boxes) {
+    ui::TextBox& box = boxes.value;
     if (!CheckValue(box)) return false;
     const double value = Val(box.Text());
-    if (IsImpurity(lstFinalPurity(i))) {
+    if (IsImpurity(boxes.unit)) {
         if (value > 10 && !Confirm(box, "Is impurity content so high?")) return false;
     } else if (!box.IsEmpty() && value < 90) {
         if (!Confirm(box, "Is that low purity value correct?")) return false;
     }
-    return CheckMethod(box, lstFinalDetBy(i));
+    return CheckMethod(boxes);
 }
 
 bool frmSample::CheckValue(ui::TextBox& box) {
@@ -112,9 +104,9 @@ bool frmSample::CheckValue(ui::TextBox& box) {
     return false;
 }
 
-bool frmSample::CheckMethod(const ui::TextBox& box, ui::ComboBox& method) {
-    return box.IsEmpty() || method.Index() >= 0 ||
-           Refuse(method, "Please select the method of purity determination");
+bool frmSample::CheckMethod(const Purity& boxes) {
+    return boxes.value.IsEmpty() || boxes.method.Index() >= 0 ||
+           Refuse(boxes.method, "Please select the method of purity determination");
 }
 
 /// Puts the sample into the document, or brings the one that is there up to date.

@@ -1,4 +1,7 @@
 #include "compounds/frmSample.h"
+
+#include <algorithm>
+
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
@@ -22,25 +25,23 @@ std::string UnitCode(std::string_view text) {
     return {};
 }
 
-PurityStatement ReadPurity(const ui::TextBox& value, const ui::ComboBox& unit,
-                           const ui::ComboBox& method) {
-    return {NormalizeNumber(value.Text()), UnitCode(unit.Chosen()),
-            DeterminationCode(method.Chosen())};
-}
-
 } // namespace
+
+PurityStatement frmSample::ReadPurity(const Purity& boxes) {
+    return {NormalizeNumber(boxes.value.Text()), UnitCode(boxes.unit.Chosen()),
+            DeterminationCode(boxes.method.Chosen())};
+}
 
 SampleDescription frmSample::Read() const {
     SampleDescription description;
     description.Availability = CodeOfText(SampleAvailabilities(), lstDescAvail.Chosen());
     description.Source = CodeOfText(SampleSources(), lstSmpSrc.Chosen());
-    description.Initial = ReadPurity(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
+    description.Initial = ReadPurity(initial_);
     for (int i = 0; i < lstPurify.Count(); ++i)
         if (lstPurify.Selected(i))
             description.Purification.push_back(PurificationCode(lstPurify.Item(i)));
-    for (int i = 0; i < finalRows; ++i)
-        description.Final.push_back(
-            ReadPurity(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)));
+    for (const Purity& boxes : final_)
+        description.Final.push_back(ReadPurity(boxes));
     return description;
 }
 
@@ -69,30 +70,27 @@ bool frmSample::ShowDescription(const SampleDescription& description) {
     FollowAvailability();
     if (!IsDescribed()) return true;
     lstSmpSrc.Index(IndexOfCode(SampleSources(), description.Source));
-    if (!ShowPurity(description.Initial, txtSrcPurity, lstSrcPurity, lstSrsDetBy)) return false;
+    if (!ShowPurity(description.Initial, initial_)) return false;
     for (const std::string& code : description.Purification) {
         const int place = PlaceOfMethod(lstPurify, ListText(code, PurificationName));
         if (place < 0) return false;
         lstPurify.Selected(place, true);
     }
-    if (description.Final.size() > static_cast<std::size_t>(finalRows)) return false;
-    int i = 0;
-    for (const PurityStatement& statement : description.Final) {
-        if (!ShowPurity(statement, txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i)))
-            return false;
-        ++i;
-    }
-    return true;
+    if (description.Final.size() > final_.size()) return false;
+    std::size_t i = 0;
+    return std::ranges::all_of(description.Final, [&](const PurityStatement& statement) {
+        return ShowPurity(statement, final_[i++]);
+    });
 }
 
-bool frmSample::ShowPurity(const PurityStatement& statement, ui::TextBox& value, ui::ComboBox& unit,
-                           ui::ComboBox& method) {
+bool frmSample::ShowPurity(const PurityStatement& statement, const Purity& boxes) {
     if (statement.Value.empty()) return true;
-    value.Text(statement.Value);
-    if (const PurityUnit* row = PurityUnitByCode(statement.Unit)) unit.Choose(row->text);
+    boxes.value.Text(statement.Value);
+    if (const PurityUnit* row = PurityUnitByCode(statement.Unit)) boxes.unit.Choose(row->text);
     if (statement.Method.empty()) return true;
-    method.Index(PlaceOfMethod(method, ListText(statement.Method, DeterminationName)));
-    return method.Index() >= 0;
+    const std::string method = ListText(statement.Method, DeterminationName);
+    boxes.method.Index(PlaceOfMethod(boxes.method, method));
+    return boxes.method.Index() >= 0;
 }
 
 void frmSample::ClearDescription() {
@@ -100,14 +98,11 @@ void frmSample::ClearDescription() {
     lstSmpSrc.Index(-1);
     for (int i = 0; i < lstPurify.Count(); ++i)
         lstPurify.Selected(i, false);
-    const auto clear = [](ui::TextBox& value, ui::ComboBox& unit, ui::ComboBox& method) {
-        value.Text("");
-        unit.Index(0); // most purities are reported in mol %
-        method.Index(-1);
-    };
-    clear(txtSrcPurity, lstSrcPurity, lstSrsDetBy);
-    for (int i = 0; i < finalRows; ++i)
-        clear(txtFinalPurity(i), lstFinalPurity(i), lstFinalDetBy(i));
+    for (const Purity& boxes : purities_) {
+        boxes.value.Text("");
+        boxes.unit.Index(0); // most purities are reported in mol %
+        boxes.method.Index(-1);
+    }
     FollowAvailability();
 }
 

@@ -1,6 +1,5 @@
 #include "compounds/frmSubst.h"
 
-#include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "reference/Numbers.h"
@@ -39,7 +38,7 @@ bool OpenedByBioDialog() {
 
 } // namespace
 
-frmSubst::frmSubst() : Form("frmSubst", "Substance") {
+frmSubst::frmSubst() : ChainForm("frmSubst", "Substance") {
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdAccept;
@@ -103,10 +102,6 @@ void frmSubst::Load() {
     if (editing_) PrepareEdit();
 }
 
-void frmSubst::Unload() {
-    CloseForm();
-}
-
 /// The registry number is what mixtures, reactions and data know a compound by, so it stays.
 void frmSubst::PrepareEdit() {
     const clsL& compound = *Globals().CurrentL;
@@ -146,14 +141,8 @@ void frmSubst::NameChanged() {
 /// as it is: a slip in the number then shows against the database.
 void frmSubst::FrontChanged() {
     const auto pasted = Filling ? std::nullopt : PrintedRegistryNumber(txtRN2.Text());
-    if (!pasted) {
-        RegistryNumberChanged();
-        return;
-    }
-    {
-        const ui::FillingScope filling(*this);
-        ShowParts(*pasted);
-    }
+    if (!pasted) return RegistryNumberChanged();
+    ShowParts(*pasted);
     CheckDigitChanged();
 }
 
@@ -214,10 +203,7 @@ void frmSubst::NamesClick() {
 
 void frmSubst::UseRegistryNumber() {
     if (rowRN_.empty()) return;
-    {
-        const ui::FillingScope filling(*this);
-        ShowParts(SplitRegistryNumber(rowRN_));
-    }
+    ShowParts(SplitRegistryNumber(rowRN_));
     RegistryNumberChanged();
     cmdUseRN.Enabled(false);
     cmdAccept.SetFocus();

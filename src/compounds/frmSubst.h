@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "compounds/RegistryNumber.h"
+#include "globals/FormChain.h"
 #include "reference/Vocabulary.h"
-#include "ui/Form.h"
 
 namespace vexora {
 
@@ -15,7 +15,7 @@ class clsL;
 /// Finds a compound in the reference database or registers a new one, and puts it into the source;
 /// or edits the compound in hand. Opened from the shell it stays open for the next compound; opened
 /// by another dialog it closes after one.
-class frmSubst : public ui::Form {
+class frmSubst : public ChainForm {
 public:
     frmSubst();
 
@@ -43,7 +43,6 @@ public:
     ui::MenuItem mnuHelpBio{*this, "mnuHelpBio", "Bio compound specification", &mnuHelp};
 
     void Load() override;
-    void Unload() override;
 
 private:
     void ArrangeControls();
@@ -89,7 +88,6 @@ private:
     void CorrectBy(std::vector<CompoundRow> rows);
     void Store();
     void StoreBio(clsL& compound) const;
-    bool IsGuided() const;
     void Finish();
     void ClearBoxes();
 

@@ -114,7 +114,6 @@ bool frmSubst::CheckFree() {
     if (!source.FindL(rn)) return true;
     if (typedRN_ || !isNew_)
         return Refuse(txtRN2, "The substance with this RN has already been entered");
-    const ui::FillingScope filling(*this);
     ShowParts(SplitRegistryNumber(FreeSubstanceRN(source, rn)));
     return true;
 }
@@ -151,12 +150,6 @@ void frmSubst::StoreBio(clsL& compound) const {
     compound.Charge = static_cast<std::int32_t>(ParseInteger(thtCharge.Text()).value_or(0));
     if (forBioData_ || !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0)
         compound.isBio = compound.isNew = true;
-}
-
-/// Another dialog than the shell waits for one compound.
-bool frmSubst::IsGuided() const {
-    const auto& openers = Globals().OpenForms;
-    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
 }
 
 void frmSubst::Finish() {

@@ -83,7 +83,6 @@ void frmSubst::TakeRow(const CompoundRow& row) {
 }
 
 void frmSubst::NewSubstance() {
-    const ui::FillingScope filling(*this);
     ShowParts(SplitRegistryNumber(NewSubstanceRN()));
     isNew_ = true;
 }
@@ -91,11 +90,7 @@ void frmSubst::NewSubstance() {
 /// A number that the operator typed stands, with its check digit computed.
 void frmSubst::AddNewSubstance() {
     const RegistryParts typed = TypedParts();
-    if (typed.IsEmpty()) {
-        NewSubstance();
-        return;
-    }
-    const ui::FillingScope filling(*this);
+    if (typed.IsEmpty()) return NewSubstance();
     ShowParts({typed.Front, typed.Middle, CheckDigitText(typed.Front, typed.Middle)});
     isNew_ = true;
 }
@@ -105,6 +100,7 @@ RegistryParts frmSubst::TypedParts() const {
 }
 
 void frmSubst::ShowParts(const RegistryParts& parts) {
+    const ui::FillingScope filling(*this);
     txtRN2.Text(parts.Front);
     txtRN1.Text(parts.Middle);
     txtCASD.Text(parts.Check);

@@ -11,29 +11,33 @@
 namespace vexora {
 
 SampleChoice::SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox& samples,
-                           std::string prompt)
+                           std::function<void()> follow, std::string prompt)
     : form_(form), compounds_(compounds), sampleBox_(samples),
-      samples_(form, samples, std::move(prompt)) {}
+      samples_(form, samples, std::move(prompt)) {
+    compounds.OnClick = [this, follow] {
+        if (form_.Filling) return;
+        samples_.Fill(Compound());
+        follow();
+    };
+    samples.OnClick = [this, follow] {
+        if (form_.Filling) return;
+        samples_.Click();
+        follow();
+    };
+}
 
-void SampleChoice::Fill() {
+void SampleChoice::Fill(bool isLocked) {
+    locked_ = isLocked;
+    compounds_.Enabled(!isLocked);
+    sampleBox_.Enabled(!isLocked);
     const KVOGlobal& globals = Globals();
     const ui::FillingScope filling(form_);
     FillCompoundList(compounds_);
     if (!globals.CurrentR) return;
     // Position 0, for a compound that is not there, becomes index -1: nothing chosen.
     compounds_.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
-    FillSamples();
-    samples_.Choose(globals.CurrentS.get());
-}
-
-void SampleChoice::FillSamples() {
     samples_.Fill(Compound());
-}
-
-void SampleChoice::Lock() {
-    locked_ = true;
-    compounds_.Enabled(false);
-    sampleBox_.Enabled(false);
+    samples_.Choose(globals.CurrentS.get());
 }
 
 std::shared_ptr<clsL> SampleChoice::Compound() const {

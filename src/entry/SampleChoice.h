@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,19 +17,16 @@ class clsS;
 /// sample. The dialog owns the lists and this; the choice is told through the globals.
 class SampleChoice {
 public:
-    /// A prompt, if there is one, leads the list of samples.
+    /// Answers to clicks in the lists: another compound offers its samples, the "New" of the
+    /// samples makes one; the form then follows what was chosen. A prompt, if there is one, leads
+    /// the list of samples.
     SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox& samples,
-                 std::string prompt = {});
+                 std::function<void()> follow, std::string prompt = {});
 
     /// Lists the compounds of the document and chooses the current one with its current sample.
-    /// To be called when the dialog loads; the handlers of the form are held off meanwhile.
-    void Fill();
-    /// Lists the samples of the chosen compound; one alone is chosen by itself.
-    void FillSamples();
-    /// Acts on the chosen entry of the samples (SampleList::Click).
-    void SampleClick() { samples_.Click(); }
-    /// Nothing is to be changed: the record that is edited keeps its sample.
-    void Lock();
+    /// To be called when the dialog loads; the handlers of the form are held off meanwhile. Locked when
+    /// a record is edited, which keeps its sample.
+    void Fill(bool isLocked);
 
     /// The chosen one, null for none or without a source.
     std::shared_ptr<clsL> Compound() const;

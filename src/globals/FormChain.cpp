@@ -36,4 +36,9 @@ void CloseForm() {
     if (ui::Form* shell = ui::Forms::Current().Find("frmMain")) shell->Activate();
 }
 
+bool ChainForm::IsGuided() const {
+    const auto& openers = Globals().OpenForms;
+    return IsModal() || (!openers.empty() && openers.back() != "frmMain");
+}
+
 } // namespace vexora

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "ui/Form.h"
+
 namespace vexora {
 
 /// The chain of dialogs opened from the shell. Each dialog in the chain has one entry in OpenForms,
@@ -17,5 +19,16 @@ void LeadOn(std::string_view opener, std::string_view next);
 /// The closing step of a dialog in the chain; called from its Unload. It does nothing while a
 /// record is edited in place. When the chain becomes empty the main form runs its activation step.
 void CloseForm();
+
+/// A dialog that is always a link of the chain.
+class ChainForm : public ui::Form {
+public:
+    using Form::Form;
+    void Unload() override { CloseForm(); }
+
+protected:
+    /// Another dialog than the shell waits for one entry of this one.
+    bool IsGuided() const;
+};
 
 } // namespace vexora

@@ -2,7 +2,7 @@
 
 #include "pure/TwoRules.h"
 
-#include <array>
+#include <utility>
 
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
@@ -11,169 +11,119 @@ namespace vexora {
 
 namespace {
 
-using Fault = std::optional<TwoFault>;
+using enum TwoField;
 
 constexpr const char* NoUnit = "Select Independent Variable Units";
 
-bool HasBoth(const TwoDraft& draft, std::string_view upper, std::string_view lower) {
-    return HasVariable(draft, upper) && HasVariable(draft, lower);
+/// A draft with what is found in it.
+class Checks {
+public:
+    explicit Checks(const TwoDraft& checked) : draft(checked) {}
+
+    void Variables();
+    void Constants();
+    void Results();
+    void Limits();
+    void ReferenceState();
+    void Phases();
+
+    const TwoDraft& draft;
+    std::vector<TwoFault> faults;
+
+private:
+    void Tell(bool isWrong, TwoField field, std::string text) {
+        if (isWrong) faults.push_back({field, std::move(text)});
+    }
+    bool Has(std::string_view variable) const { return HasVariable(draft, variable); }
+
+    const bool two_ = draft.nVar > 1;
+    const bool isRelative_ = NeedsRelation(draft.function);
+};
+
+void Checks::Variables() {
+    Tell(!draft.hasSample, Sample, "Select Sample");
+    Tell(draft.variable1.empty(), Variable1, "Select Independent Variable 1");
+    Tell(draft.unit1.empty(), Unit1, NoUnit);
+    Tell(two_ && draft.variable2.empty(), Variable2, "Select Independent Variable 2");
+    Tell(two_ && draft.unit2.empty(), Unit2, NoUnit);
 }
 
-Fault Sample(const TwoDraft& draft) {
-    if (draft.hasSample) return {};
-    return TwoFault{TwoField::Sample, "Select Sample"};
-}
-
-Fault FirstVariable(const TwoDraft& draft) {
-    if (!draft.variable1.empty()) return {};
-    return TwoFault{TwoField::Variable1, "Select Independent Variable 1"};
-}
-
-Fault FirstUnit(const TwoDraft& draft) {
-    if (!draft.unit1.empty()) return {};
-    return TwoFault{TwoField::Unit1, NoUnit};
-}
-
-Fault SecondVariable(const TwoDraft& draft) {
-    if (draft.nVar == 1 || !draft.variable2.empty()) return {};
-    return TwoFault{TwoField::Variable2, "Select Independent Variable 2"};
-}
-
-Fault SecondUnit(const TwoDraft& draft) {
-    if (draft.nVar == 1 || !draft.unit2.empty()) return {};
-    return TwoFault{TwoField::Unit2, NoUnit};
-}
-
-Fault Spectral(const TwoDraft& draft) {
-    const std::string third = OpenVariable(draft).code;
-    const auto stated = [&](std::string_view code) {
-        return HasVariable(draft, code) || third == code;
-    };
-    if (draft.property == "RPX" && !stated("WF"))
-        return TwoFault{TwoField::Variable1, "Please select Frequency as one of the variables"};
-    if (draft.property == "RIX" && !stated("WL"))
-        return TwoFault{TwoField::Variable1, "Please select Wavelength as one of the variables"};
-    return {};
-}
-
-Fault Constant(const TwoDraft& draft) {
+void Checks::Constants() {
     const ConstantVariable open = OpenVariable(draft);
-    const bool mayBeEmpty = open.code.empty() || !open.isObligatory;
-    if (draft.constant.empty() && mayBeEmpty) return {};
-    if (open.code.empty() || IsNumeric(draft.constant)) return {};
+    const auto lacks = [&](std::string_view code) { return !Has(code) && open.code != code; };
+    Tell(draft.property == "RPX" && lacks("WF"), Variable1,
+         "Please select Frequency as one of the variables");
+    Tell(draft.property == "RIX" && lacks("WL"), Variable1,
+         "Please select Wavelength as one of the variables");
+    const bool mayBeEmpty = draft.constant.empty() && !open.isObligatory;
+    if (open.code.empty() || mayBeEmpty) return;
     const QuantityText* quantity = QuantityByCode(StateVariables(), open.code);
-    return TwoFault{TwoField::Constant, "Enter a constant value of the state variable " +
-                                            std::string(quantity ? quantity->text : open.code)};
-}
-
-Fault Definition(const TwoDraft& draft) {
-    if (!draft.function.empty()) return {};
-    return TwoFault{TwoField::Function, "Define Measurement Results"};
+    Tell(!IsNumeric(draft.constant), Constant,
+         "Enter a constant value of the state variable " +
+             std::string(quantity ? quantity->text : open.code));
 }
 
 /// Energies have no zero of their own.
-Fault Energy(const TwoDraft& draft) {
+void Checks::Results() {
     const std::string& code = draft.property;
     const bool isEnergy = code == "UA" || code == "U" || code == "G" || code == "H";
-    if (!isEnergy || draft.function != "DIR") return {};
-    return TwoFault{TwoField::Function, "This property should be stored as a difference"};
-}
-
-Fault Relation(const TwoDraft& draft) {
-    if (!NeedsRelation(draft.function) || !draft.relation.empty()) return {};
-    return TwoFault{TwoField::Relation, "Select Relation to Reference"};
-}
-
-Fault ReferencePhase(const TwoDraft& draft) {
-    if (!NeedsRelation(draft.function) || !draft.Definition().NamesPhase()) return {};
-    if (!draft.refPhase.empty()) return {};
-    return TwoFault{TwoField::RefPhase, "Select Reference Phase"};
+    Tell(draft.function.empty(), Function, "Define Measurement Results");
+    Tell(isEnergy && draft.function == "DIR", Function,
+         "This property should be stored as a difference");
+    Tell(isRelative_ && draft.relation.empty(), Relation, "Select Relation to Reference");
+    Tell(isRelative_ && draft.Definition().NamesPhase() && draft.refPhase.empty(), RefPhase,
+         "Select Reference Phase");
 }
 
 /// Limits come in pairs of one quantity, and what is defined between limits needs them.
-Fault Limits(const TwoDraft& draft) {
-    const bool temperature = HasBoth(draft, "TU", "TL");
-    const bool pressure = HasBoth(draft, "PU", "PL");
+void Checks::Limits() {
+    const bool temperature = Has("TU") && Has("TL");
+    const bool pressure = Has("PU") && Has("PL");
     const bool needsT = draft.function == "DT" || draft.function == "MN";
     const bool needsP = draft.function == "DX";
     const bool single = HasLimits(draft) && !temperature && !pressure;
     const bool lacking = !HasLimits(draft) && (needsT || needsP);
-    if (!single && !lacking) return {};
-    const bool second = draft.nVar > 1 && draft.variable2 != "TU" && draft.variable2 != "PU";
-    return TwoFault{second ? TwoField::Variable2 : TwoField::Variable1,
-                    "Lower/Upper variables must be consistent"};
+    const bool second = two_ && draft.variable2 != "TU" && draft.variable2 != "PU";
+    Tell(single || lacking, second ? Variable2 : Variable1,
+         "Lower/Upper variables must be consistent");
+    Tell(temperature && !needsT, Function,
+         "Definition of Results must be Difference or Mean between TU and TL");
+    Tell(pressure && !needsP, Function,
+         "Definition of Results must be Difference between PU and PL");
 }
 
-Fault BetweenLimits(const TwoDraft& draft) {
-    const std::string& function = draft.function;
-    if (HasBoth(draft, "TU", "TL") && function != "DT" && function != "MN")
-        return TwoFault{TwoField::Function,
-                        "Definition of Results must be Difference or Mean between TU and TL"};
-    if (HasBoth(draft, "PU", "PL") && function != "DX")
-        return TwoFault{TwoField::Function,
-                        "Definition of Results must be Difference between PU and PL"};
-    return {};
-}
-
-Fault ReferenceState(const TwoDraft& draft) {
-    if (!NeedsRelation(draft.function)) return {};
-    if (draft.Definition().FixesTemperature() && !IsNumeric(draft.refTemp))
-        return TwoFault{TwoField::RefTemp, "Select Reference Temperature"};
-    if (draft.Definition().FixesPressure() && !IsNumeric(draft.refPressure))
-        return TwoFault{TwoField::RefPressure, "Select Reference Pressure"};
-    return {};
-}
-
-Fault Constraint(const TwoDraft& draft) {
-    if (!draft.constraint.empty()) return {};
-    return TwoFault{TwoField::Constraint, "Select the Constraint"};
+void Checks::ReferenceState() {
+    const ResultDefinition definition = draft.Definition();
+    const bool noT = isRelative_ && definition.FixesTemperature() && !IsNumeric(draft.refTemp);
+    const bool noP = isRelative_ && definition.FixesPressure() && !IsNumeric(draft.refPressure);
+    Tell(noT, RefTemp, "Select Reference Temperature");
+    Tell(noP && !noT, RefPressure, "Select Reference Pressure");
 }
 
 /// Two free state variables do not fit a phase boundary of a pure compound.
-Fault Overdetermined(const TwoDraft& draft) {
-    if (draft.nVar == 1 || draft.constraint != "PB" || HasLimits(draft)) return {};
-    if (HasVariable(draft, "WL") || HasVariable(draft, "WF")) return {};
-    return TwoFault{TwoField::Constraint, "Overdetermined system"};
+void Checks::Phases() {
+    const bool boundary = draft.constraint == "PB";
+    const bool spectral = Has("WL") || Has("WF");
+    Tell(draft.constraint.empty(), Constraint, "Select the Constraint");
+    Tell(two_ && boundary && !HasLimits(draft) && !spectral, Constraint, "Overdetermined system");
+    Tell(draft.phase1.empty(), Phase1, "Select Phase 1");
+    Tell(boundary && draft.phase2.empty(), Phase2, "Select Phase 2");
+    Tell(!two_ && boundary && draft.phase1 == draft.phase2, Phase2, "Duplicate phase");
+    Tell(two_ && draft.variable1 == draft.variable2, Variable2, "Duplicate variable");
+    Tell(draft.numerical.empty(), Numerical, "Select availability of numeric data");
 }
-
-Fault FirstPhase(const TwoDraft& draft) {
-    if (!draft.phase1.empty()) return {};
-    return TwoFault{TwoField::Phase1, "Select Phase 1"};
-}
-
-Fault SecondPhase(const TwoDraft& draft) {
-    if (draft.constraint != "PB" || !draft.phase2.empty()) return {};
-    return TwoFault{TwoField::Phase2, "Select Phase 2"};
-}
-
-Fault Duplicates(const TwoDraft& draft) {
-    if (draft.nVar == 1 && draft.constraint == "PB" && draft.phase1 == draft.phase2)
-        return TwoFault{TwoField::Phase2, "Duplicate phase"};
-    if (draft.nVar > 1 && draft.variable1 == draft.variable2)
-        return TwoFault{TwoField::Variable2, "Duplicate variable"};
-    return {};
-}
-
-Fault Numbers(const TwoDraft& draft) {
-    if (!draft.numerical.empty()) return {};
-    return TwoFault{TwoField::Numerical, "Select availability of numeric data"};
-}
-
-constexpr std::array Checks = {
-    &Sample,         &FirstVariable, &FirstUnit,     &SecondVariable, &SecondUnit,
-    &Spectral,       &Constant,      &Definition,    &Energy,         &Relation,
-    &ReferencePhase, &Limits,        &BetweenLimits, &ReferenceState, &Constraint,
-    &Overdetermined, &FirstPhase,    &SecondPhase,   &Duplicates,     &Numbers,
-};
 
 } // namespace
 
 std::vector<TwoFault> CheckTwo(const TwoDraft& draft) {
-    std::vector<TwoFault> faults;
-    for (const auto check : Checks) {
-        if (auto fault = check(draft)) faults.push_back(std::move(*fault));
-    }
-    return faults;
+    Checks checks(draft);
+    checks.Variables();
+    checks.Constants();
+    checks.Results();
+    checks.Limits();
+    checks.ReferenceState();
+    checks.Phases();
+    return std::move(checks.faults);
 }
 
 } // namespace vexora

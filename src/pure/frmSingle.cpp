@@ -2,30 +2,33 @@
 
 #include <span>
 
+#include "chem/CommentTags.h"
+#include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/EditStatements.h"
+#include "entry/PhaseLists.h"
+#include "entry/PhaseRules.h"
 #include "entry/PropertyContext.h"
-#include "globals/FormChain.h"
+#include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
 #include "records/PropertyChain.h"
+#include "records/clsS.h"
 #include "records/clsZ.h"
+#include "reference/Conversions.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "ui/Forms.h"
 
 namespace vexora {
 
-namespace {
-
-constexpr int HelpSingle = 325;
-
-} // namespace
-
-frmSingle::frmSingle() : Form("frmSingle", "Single value") {
+frmSingle::frmSingle() : ChainForm("frmSingle", "Single value") {
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdAccept;
     CancelButton = &cmdFinish;
-    HelpContext = HelpSingle;
+    HelpContext = 325;
     txtPrpSetNo.Locked(true);
 }
 
@@ -45,8 +48,6 @@ void frmSingle::ArrangeControls() {
 }
 
 void frmSingle::WireEvents() {
-    cboSubst.OnClick = [this] { CompoundClick(); };
-    cboSample.OnClick = [this] { SampleClick(); };
     lstPhase1.OnClick = [this] { Phase1Click(); };
     for (ui::ItemList* list : {&lstPhase2, &lstPhase3, &lstVariable_Unit})
         list->OnClick = [this] { Touch(); };
@@ -68,8 +69,7 @@ void frmSingle::Load() {
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     const ui::FillingScope filling(*this);
     if (editing_) TakeRecord(*globals.CurrentZ);
-    choice_.Fill();
-    if (editing_) choice_.Lock();
+    choice_.Fill(editing_);
     UseSample();
     ShowProperty();
     if (editing_)
@@ -82,24 +82,6 @@ void frmSingle::Load() {
     cmdCheck.Enabled(canAverage);
     cmdCheck.ToolTip(canAverage ? "" : "Averages come with a later edition");
     if (editing_) cmdAccept.Caption("Accept");
-}
-
-void frmSingle::Unload() {
-    CloseForm();
-}
-
-void frmSingle::CompoundClick() {
-    if (Filling) return;
-    choice_.FillSamples();
-    UseSample();
-    Touch();
-}
-
-void frmSingle::SampleClick() {
-    if (Filling) return;
-    choice_.SampleClick();
-    UseSample();
-    Touch();
 }
 
 void frmSingle::Phase1Click() {
@@ -145,6 +127,227 @@ void frmSingle::Touch() {
     if (Filling) return;
     stored_ = false;
     cmdAccept.Caption(editing_ ? "Accept" : "Next");
+}
+
+void frmSingle::UseSample() {
+    choice_.PutInContext(editing_ ? Globals().CurrentZ->FallbackMolarMass : 0);
+    if (!editing_) ProposeSetNumber();
+    Touch();
+}
+
+/// Brings the form in line with the property in force.
+void frmSingle::ShowProperty() {
+    row_ = PropertyInForce();
+    Caption((editing_ ? "Edit: " : "") + row_.Property +
+            (IsFixed() ? " at fixed conditions" : " as single valued property"));
+    ShowVariable();
+    ShowPhases();
+    value_.ShowUnit();
+    const std::string& code = row_.Code;
+    frmConstraint.Visible(code == "PV" || code == "TB" || code == "HVP");
+    ProposeSetNumber();
+}
+
+/// The variable is the last item of the property chain; it is the one that the property fixes.
+void frmSingle::ShowVariable() {
+    const KVOGlobal& globals = Globals();
+    frmIndVar.Visible(IsFixed());
+    variable_ = IsFixed() ? IndVarFixed(row_.Code) : std::string();
+    if (!IsFixed() || !globals.CurrentProperty) return;
+    const VariableRow* found = FindVariable(variable_);
+    const VariableRow row = found ? *found : VariableRow();
+    variableUnit_ = row.Unit;
+    frmIndVar.Caption("Independent variable: " + row.IndVariable);
+    const std::string chosen = lstVariable_Unit.Chosen();
+    lstVariable_Unit.Assign(globals.OriginalUnits ? UnitList(row.Unit) : FixedUnitList(row.Unit));
+    lstVariable_Unit.Index(lstVariable_Unit.Count() == 1 ? 0 : lstVariable_Unit.Find(chosen));
+    clsProperty& head = *globals.CurrentProperty;
+    if (!head.isLast && head.NextItem && head.NextItem->PropertyCode == variable_) return;
+    head.NextItem = std::make_shared<clsProperty>();
+    head.NextItem->PropertyCode = variable_;
+    head.NextItem->Relation = "A";
+    head.NextItem->Name = row.Unit == "1" ? row.IndVariable : row.IndVariable + ", " + row.Unit;
+    head.isLast = false;
+}
+
+void frmSingle::ShowPhases() {
+    const int count = Globals().VariableCount;
+    const std::string& context = Globals().DataContext;
+    const ui::FillingScope filling(*this);
+    const PhaseOffer offer = OfferPhases(row_.Code, count, PhaseChosen(lstPhase1), context);
+    FillPhaseList(lstPhase1, OfferPhases(row_.Code, count, {}, context).Phase1);
+    FillPhaseList(lstPhase2, offer.Phase2);
+    FillPhaseList(lstPhase3, offer.Phase3);
+}
+
+/// The number of a record that keeps its property does not change.
+void frmSingle::ProposeSetNumber() {
+    const KVOGlobal& globals = Globals();
+    const auto sample = choice_.Sample();
+    if (!sample || row_.Code.empty()) {
+        txtPrpSetNo.Text("");
+    } else if (editing_ && globals.CurrentZ->PRPCODE == row_.Code) {
+        txtPrpSetNo.Text(globals.CurrentZ->PRPSETNO);
+    } else {
+        txtPrpSetNo.Text(std::to_string(sample->NextSetNumber(row_.Code, globals.VariableCount)));
+    }
+}
+
+/// Puts what a record holds into the context, as if the property had just been chosen.
+void frmSingle::TakeRecord(const clsZ& record) {
+    TakeProperty(
+        {record.PRPCODE, record.PROPERTY_UNIT, record.Factor, record.isOriginalUnit, record.nVar},
+        record.Header);
+    clsProperty& head = *Globals().CurrentProperty;
+    head.Text = record.PRPVALUE;
+    head.Value = Val(record.PRPVALUE);
+}
+
+/// A state that the form does not ask for stays among the tags.
+void frmSingle::ShowComment(const clsZ& record) {
+    CommentTags tags = CommentTags::OfTags(record.Header.DATACOMMENT);
+    const std::string state = frmConstraint.Visible() ? tags.TakeState() : "";
+    optPB.Value(state == "PB");
+    optFP.Value(state == "FP");
+    txtComment.Text(TakeComment(tags.Stored()));
+}
+
+void frmSingle::ShowRecord(const clsZ& record) {
+    statements_ = {record.Statements(0), record.Statements(1)};
+    ShowComment(record);
+    ChoosePhase(lstPhase1, record.PHASE1);
+    ShowPhases();
+    if (record.nVar == 0) {
+        ChoosePhase(lstPhase2, record.PHASE2);
+        ChoosePhase(lstPhase3, record.PHASE3);
+    }
+    txtIndVariable.Text(record.INDVARIABLE);
+    if (IsSystemUnit(record.VARIABLE_UNIT)) {
+        lstVariable_Unit.Index(0);
+    } else if (record.isOriginalUnit) {
+        std::string code = record.VARIABLE_UNIT;
+        lstVariable_Unit.Choose(ConversionText(code, variableUnit_));
+    }
+    txtValue.Text(record.PRPVALUE);
+}
+
+bool frmSingle::IsFixed() const {
+    return Globals().VariableCount == 1;
+}
+
+void frmSingle::Accept() {
+    if (stored_) {
+        Close();
+        return;
+    }
+    if (!Check()) return;
+    Store();
+    if (editing_) {
+        Close();
+        return;
+    }
+    const ui::FillingScope filling(*this);
+    txtValue.Text("");
+    statements_ = {}; // they were of the value that has been stored
+    ProposeSetNumber();
+    cmdAccept.Caption("Done");
+    stored_ = true;
+    txtValue.SetFocus();
+}
+
+bool frmSingle::Check() {
+    const KVOGlobal& globals = Globals();
+    if (globals.PropertyCode.empty() || !globals.CurrentProperty)
+        return Refuse(cmdMethod, "Please review the property selection");
+    if (!choice_.Sample()) return Refuse(cboSample, "Select the sample");
+    return CheckPhases() && CheckVariable() && value_.Check();
+}
+
+bool frmSingle::CheckPhases() {
+    for (ui::ComboBox* list : {&lstPhase1, &lstPhase2, &lstPhase3}) {
+        if (list->Enabled() && list->Index() < 0)
+            return Refuse(*list, "Select the phase", "Phase of the substance");
+    }
+    return true;
+}
+
+bool frmSingle::CheckVariable() {
+    if (!IsFixed()) return true;
+    txtIndVariable.Text(NormalizeNumber(txtIndVariable.Text()));
+    if (!IsNumeric(txtIndVariable.Text()))
+        return Refuse(txtIndVariable, "Enter the value of independent variable");
+    if (lstVariable_Unit.Index() < 0)
+        return Refuse(lstVariable_Unit, "Select units for the independent variable");
+    TakeTexts();
+    bool ok = true;
+    Globals().CurrentProperty->NextItem->Convert(ok, 0, ConfirmInBox);
+    if (!ok) txtIndVariable.SetFocus();
+    return ok;
+}
+
+void frmSingle::Store() {
+    KVOGlobal& globals = Globals();
+    const auto record = editing_ ? globals.CurrentZ : std::make_shared<clsZ>();
+    StoreValues(*record);
+    StoreStatements(*record);
+    StoreHeader(*record);
+    if (editing_)
+        record->Rekey();
+    else
+        record->AttachTo(*choice_.Sample());
+    globals.CurrentZ = record;
+    globals.Saved = false;
+    globals.DialogAccepted = true;
+}
+
+void frmSingle::StoreHeader(clsZ& record) const {
+    const bool asked = frmConstraint.Visible();
+    const std::string state = asked && optFP.Value() ? "FP" : asked && optPB.Value() ? "PB" : "";
+    FillHeader(record.Header, !editing_,
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, state));
+}
+
+void frmSingle::StoreValues(clsZ& record) const {
+    const StoredProperty property = PropertyToStore();
+    record.nVar = property.nVar;
+    record.SMPNM = choice_.Sample()->SMPNM;
+    record.PRPCODE = row_.Code;
+    record.PRPSETNO = txtPrpSetNo.Text();
+    record.isOriginalUnit = property.isOriginalUnit;
+    record.Factor = property.factor;
+    record.PROPERTY_UNIT = property.unit;
+    record.PHASE1 = OrPlaceholder(PhaseChosen(lstPhase1));
+    record.PHASE2 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase2));
+    record.PHASE3 = IsFixed() ? "&" : OrPlaceholder(PhaseChosen(lstPhase3));
+    if (row_.Code == "TBN") record.PHASE3 = "&";
+    if (row_.Code == "TMN") record.PHASE3 = "air";
+    record.PRPVALUE = txtValue.Text();
+    if (!IsFixed()) return;
+    record.INDVARIABLE = txtIndVariable.Text();
+    if (property.isOriginalUnit || record.VARIABLE_UNIT.empty())
+        record.VARIABLE_UNIT = Globals().CurrentProperty->NextItem->ConversionCode;
+}
+
+/// What is stated goes with its quantity, which the item names besides.
+void frmSingle::StoreStatements(clsZ& record) const {
+    for (int n = 0; n <= Globals().VariableCount; ++n) {
+        clsX item = statements_[static_cast<std::size_t>(n)];
+        item.N = n;
+        item.PRPCODE = n == 0 ? row_.Code : variable_;
+        item.PHASE = OrPlaceholder(PhaseChosen(lstPhase1));
+        record.Statements(n, item);
+    }
+}
+
+/// The chain as the form stands.
+void frmSingle::TakeTexts() {
+    value_.TakeText();
+    const clsProperty& head = *Globals().CurrentProperty;
+    if (!IsFixed() || !head.NextItem) return;
+    clsProperty& item = *head.NextItem;
+    item.Text = NormalizeNumber(txtIndVariable.Text());
+    item.ConversionCode =
+        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
 }
 
 } // namespace vexora

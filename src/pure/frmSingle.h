@@ -7,8 +7,8 @@
 #include "entry/PropertyRules.h"
 #include "entry/SampleChoice.h"
 #include "entry/ValueEntry.h"
+#include "globals/FormChain.h"
 #include "records/clsX.h"
-#include "ui/Form.h"
 
 namespace vexora {
 
@@ -17,7 +17,7 @@ class clsZ;
 /// One value of a property of a sample, by itself or at a fixed value of one variable. Behind
 /// frmProperty it takes value after value until it is closed; on an existing record (EditSingle) it
 /// closes after the one. The property in hand stands in the globals.
-class frmSingle : public ui::Form {
+class frmSingle : public ChainForm {
 public:
     frmSingle();
 
@@ -43,20 +43,17 @@ public:
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
     void Load() override;
-    void Unload() override;
 
 private:
     void ArrangeControls();
     void WireEvents();
 
-    void CompoundClick();
-    void SampleClick();
     void Phase1Click();
     void Method();
     void Uncertainty();
     void Touch();
 
-    // What stands on the form (frmSingle_fill.cpp).
+    // What stands on the form.
     void UseSample();
     void ShowProperty();
     void ShowVariable();
@@ -67,7 +64,7 @@ private:
     void ShowRecord(const clsZ& record);
     bool IsFixed() const;
 
-    // Accepting (frmSingle_accept.cpp).
+    // Accepting.
     void Accept();
     bool Check();
     bool CheckPhases();
@@ -78,7 +75,7 @@ private:
     void StoreStatements(clsZ& record) const;
     void TakeTexts();
 
-    SampleChoice choice_{*this, cboSubst, cboSample};
+    SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }};
     ValueEntry value_{*this, txtValue, lblUnit, cmdMethod};
     PropertyRow row_;                // the property in hand
     std::string variable_;           // code of the fixed variable

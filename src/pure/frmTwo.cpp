@@ -4,7 +4,6 @@
 
 #include "chem/clsMethod.h"
 #include "entry/PropertyContext.h"
-#include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsTwo.h"
 #include "ui/Desktop.h"
@@ -12,18 +11,12 @@
 
 namespace vexora {
 
-namespace {
-
-constexpr int HelpTwo = 335;
-
-} // namespace
-
-frmTwo::frmTwo() : Form("frmTwo", "Property as function of state variables") {
+frmTwo::frmTwo() : ChainForm("frmTwo", "Property as function of state variables") {
     ArrangeControls();
     WireEvents();
     DefaultButton = &cmdOK;
     CancelButton = &cmdFinish;
-    HelpContext = HelpTwo;
+    HelpContext = 335;
     txtPrpSetNo.Locked(true);
 }
 
@@ -48,15 +41,13 @@ void frmTwo::ArrangeControls() {
 }
 
 void frmTwo::WireEvents() {
-    cboSubst.OnClick = [this] { CompoundClick(); };
-    cboSample.OnClick = [this] { SampleClick(); };
-    cboVar1.OnClick = [this] { Variable1Click(); };
-    cboVar2.OnClick = [this] { Variable2Click(); };
+    cboVar1.OnClick = [this] { VariableClick(1); };
+    cboVar2.OnClick = [this] { VariableClick(2); };
     lstCONSTRAINT.OnClick = [this] { ConstraintClick(); };
     lstPhase1.OnClick = [this] { PhaseClick(); };
     lstPhase2.OnClick = [this] { PhaseClick(); };
-    lstPROPERTY_FUNCT.OnClick = [this] { DefinitionClick(); };
-    lstRelation.OnClick = [this] { DefinitionClick(); };
+    lstPROPERTY_FUNCT.OnClick = [this] { ShowDefinition(); };
+    lstRelation.OnClick = [this] { ShowDefinition(); };
     lstNumerical.OnClick = [this] { NumericalClick(); };
     chkIncludeDigit.OnClick = [this] { ShowDigits(); };
     cmdMethod.OnClick = [this] { Method(); };
@@ -78,8 +69,7 @@ void frmTwo::Load() {
                 as_->Header);
         }
         FillLists();
-        choice_.Fill();
-        if (record_) choice_.Lock();
+        choice_.Fill(record_ != nullptr);
         UseSample();
         ShowProperty();
         if (as_)
@@ -94,30 +84,8 @@ void frmTwo::Load() {
     if (row_.Property == row_.Code) ui::Say("Property Code Error");
 }
 
-void frmTwo::Unload() {
-    CloseForm();
-}
-
-void frmTwo::CompoundClick() {
-    if (Filling) return;
-    choice_.FillSamples();
-    UseSample();
-}
-
-void frmTwo::SampleClick() {
-    if (Filling) return;
-    choice_.SampleClick();
-    UseSample();
-}
-
-void frmTwo::Variable1Click() {
-    ShowUnits(1);
-    ShowVar3();
-    ShowCaption();
-}
-
-void frmTwo::Variable2Click() {
-    ShowUnits(2);
+void frmTwo::VariableClick(int n) {
+    ShowUnits(n);
     ShowVar3();
     ShowCaption();
 }
@@ -137,10 +105,6 @@ void frmTwo::PhaseClick() {
     if (Filling) return;
     ShowPhases();
     ProposeSetNumber();
-}
-
-void frmTwo::DefinitionClick() {
-    ShowDefinition();
 }
 
 void frmTwo::NumericalClick() {

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "entry/SampleChoice.h"
+#include "globals/FormChain.h"
 #include "pure/TwoRules.h"
 #include "reference/Vocabulary.h"
-#include "ui/Form.h"
 
 namespace vexora {
 
@@ -18,7 +18,7 @@ class clsTwo;
 /// (frmData2). The set joins the tree, or an edited one is changed (EditTwo), only when the table
 /// has been accepted. The property in hand stands in the globals, or comes from a set that is to be
 /// repeated (SetToRepeat).
-class frmTwo : public ui::Form {
+class frmTwo : public ChainForm {
 public:
     frmTwo();
 
@@ -57,19 +57,14 @@ public:
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
     void Load() override;
-    void Unload() override;
 
 private:
     void ArrangeControls();
     void WireEvents();
 
-    void CompoundClick();
-    void SampleClick();
-    void Variable1Click();
-    void Variable2Click();
+    void VariableClick(int n);
     void ConstraintClick();
     void PhaseClick();
-    void DefinitionClick();
     void NumericalClick();
     void Method();
 
@@ -113,7 +108,7 @@ private:
     bool CheckUnits();
     std::string UnitCodeOf(int n) const;
 
-    SampleChoice choice_{*this, cboSubst, cboSample, "SELECT SAMPLE"};
+    SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }, "SELECT SAMPLE"};
     PropertyRow row_; // the property in hand
     std::vector<VariableRow> variables_;
     std::string openAtFirst_;        // the variable whose constant value was shown at the beginning

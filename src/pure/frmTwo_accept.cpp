@@ -77,39 +77,11 @@ void frmTwo::Accept() {
 }
 
 ui::Control& frmTwo::FieldOf(TwoField field) {
-    switch (field) {
-    case TwoField::Sample:
-        return cboSample;
-    case TwoField::Variable1:
-        return cboVar1;
-    case TwoField::Unit1:
-        return lstVariable_Unit;
-    case TwoField::Variable2:
-        return cboVar2;
-    case TwoField::Unit2:
-        return lstVar2_Unit;
-    case TwoField::Constant:
-        return txtVar3;
-    case TwoField::Function:
-        return lstPROPERTY_FUNCT;
-    case TwoField::Relation:
-        return lstRelation;
-    case TwoField::RefPhase:
-        return lstREF_PHASE;
-    case TwoField::RefTemp:
-        return txtREF_TEMP;
-    case TwoField::RefPressure:
-        return txtREF_PRESSURE;
-    case TwoField::Constraint:
-        return lstCONSTRAINT;
-    case TwoField::Phase1:
-        return lstPhase1;
-    case TwoField::Phase2:
-        return lstPhase2;
-    case TwoField::Numerical:
-        break;
-    }
-    return lstNumerical;
+    ui::Control* const fields[] = {&cboSample,    &cboVar1,     &lstVariable_Unit,  &cboVar2,
+                                   &lstVar2_Unit, &txtVar3,     &lstPROPERTY_FUNCT, &lstRelation,
+                                   &lstREF_PHASE, &txtREF_TEMP, &txtREF_PRESSURE,   &lstCONSTRAINT,
+                                   &lstPhase1,    &lstPhase2,   &lstNumerical};
+    return *fields[static_cast<std::size_t>(field)];
 }
 
 bool frmTwo::Check() {

@@ -11,12 +11,9 @@ namespace vexora {
 
 namespace {
 
-std::string Without(std::string_view text, std::string_view dropped) {
-    std::string kept;
-    for (const char c : text) {
-        if (dropped.find(c) == std::string_view::npos) kept += c;
-    }
-    return kept;
+std::string Without(std::string text, std::string_view dropped) {
+    std::erase_if(text, [dropped](char c) { return dropped.find(c) != dropped.npos; });
+    return text;
 }
 
 /// What stands more in a text than in another that it was made from by typing at one place; nothing

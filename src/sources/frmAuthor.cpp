@@ -79,17 +79,14 @@ void frmAuthor::cmdVerify_Click() {
     try {
         FindKnown();
     } catch (const DatabaseError& error) {
-        ui::Say(error.what());
-        return;
+        return ui::Say(error.what());
     }
-    if (known_.empty()) {
-        ui::Say("Author not found\n\n"
-                "Please complete the Last Name and First Name, then CLICK \"Add\"");
-        return;
-    }
+    if (known_.empty())
+        return ui::Say("Author not found\n\n"
+                       "Please complete the Last Name and First Name, then CLICK \"Add\"");
     cboAuthor.Add("CLICK selection, then CLICK \"Add\"");
-    for (const Known& author : known_)
-        cboAuthor.Add(author.FULLNM);
+    for (const auto& author : known_)
+        cboAuthor.Add(author->FULLNM);
     cboAuthor.Add("None of listed");
     cboAuthor.Index(0);
     cboAuthor.SetFocus();
@@ -105,15 +102,19 @@ void frmAuthor::FindKnown() {
     auto rows = Globals().CompoundDb().Query(
         "select * from SOURCE_AUTHOR where FULLNM like ? and INITNM like ? order by FULLNM",
         {typed.LastName + "*", initials + "*"});
-    for (; !rows.IsEnd(); rows.MoveNext())
-        known_.push_back({Padded(rows.Text("LASTNM"), NameWidth),
-                          Padded(rows.Text("INITNM"), InitialsWidth), rows.Text("FULLNM"),
-                          rows.Integer("NEW") != 0});
+    for (; !rows.IsEnd(); rows.MoveNext()) {
+        clsAuthor& author = *known_.emplace_back(std::make_shared<clsAuthor>());
+        author.LASTNM = Padded(rows.Text("LASTNM"), NameWidth);
+        author.INITNM = Padded(rows.Text("INITNM"), InitialsWidth);
+        author.FULLNM = rows.Text("FULLNM");
+        // No other workplace knows an author registered here: the document must carry the name.
+        author.isNew = rows.Integer("NEW") != 0;
+    }
 }
 
-const frmAuthor::Known* frmAuthor::ChosenAuthor() const {
+std::shared_ptr<clsAuthor> frmAuthor::ChosenAuthor() const {
     const auto place = static_cast<std::size_t>(cboAuthor.Index() - 1);
-    return cboAuthor.Index() >= 1 && place < known_.size() ? &known_[place] : nullptr;
+    return cboAuthor.Index() >= 1 && place < known_.size() ? known_[place] : nullptr;
 }
 
 void frmAuthor::cmdAdd_Click() {
@@ -121,17 +122,8 @@ void frmAuthor::cmdAdd_Click() {
         Refuse(txtLast, "Enter author's last name");
         return;
     }
-    const Known* known = ChosenAuthor();
-    if (known == nullptr) {
-        AddToList(NewAuthor());
-        return;
-    }
-    const auto author = std::make_shared<clsAuthor>();
-    author->LASTNM = known->LASTNM;
-    author->INITNM = known->INITNM;
-    author->FULLNM = known->FULLNM;
-    author->isNew = known->isOurs; // the document must carry the name then
-    AddToList(author);
+    const auto known = ChosenAuthor();
+    AddToList(known ? known : NewAuthor());
 }
 
 std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {

@@ -27,22 +27,18 @@ public:
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
 private:
-    struct Known {
-        std::string LASTNM, INITNM, FULLNM;
-        bool isOurs; // registered here; no other workplace knows the author
-    };
-
     void cmdVerify_Click();
     void cmdAdd_Click();
 
     void NameChanged(PlainTextBox& field);
     void FindKnown();
-    const Known* ChosenAuthor() const;
+    std::shared_ptr<clsAuthor> ChosenAuthor() const;
     std::shared_ptr<clsAuthor> NewAuthor() const;
     void AddToList(std::shared_ptr<clsAuthor> author);
 
-    std::vector<Known> known_; // behind the first line of cboAuthor, in its order
-    std::vector<std::shared_ptr<clsAuthor>> recAuthor_;
+    using Authors = std::vector<std::shared_ptr<clsAuthor>>;
+    Authors known_; // behind the first line of cboAuthor, in its order
+    Authors recAuthor_;
 };
 
 } // namespace vexora

@@ -1,6 +1,5 @@
 #include "sources/frmDocument.h"
 
-#include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsAuthor.h"
 #include "records/clsR.h"
@@ -34,7 +33,7 @@ void ClickBySpace(ui::TextBox& field) {
 
 } // namespace
 
-frmDocument::frmDocument() : Form("frmDocument", "Literature source description") {
+frmDocument::frmDocument() : ChainForm("frmDocument", "Literature source description") {
     Arrangement =
         ui::Column({ui::Field("Type of document:", cboTypeDoc), ui::Field("Title:", txtTitle),
                     ui::Field("Source:", txtSource), ui::Field("Year:", ui::Narrow(txtYear, 6)),
@@ -63,10 +62,6 @@ void frmDocument::Load() {
     txtSource.Text(SourcePrompt);
     txtAuthors.Text(AuthorsPrompt);
     if (Globals().EditSource && Globals().CurrentR) Fill(*Globals().CurrentR);
-}
-
-void frmDocument::Unload() {
-    CloseForm();
 }
 
 void frmDocument::FillLists() {
@@ -114,14 +109,8 @@ void frmDocument::cboTypeDoc_Click() {
 
 void frmDocument::txtSource_Click() {
     const DocumentType* type = TypeAt(cboTypeDoc.Index());
-    if (type == nullptr) {
-        ui::Say("Select type of document before");
-        return;
-    }
-    if (type->detailForm.empty()) {
-        txtSource.Text(std::string(type->text));
-        return;
-    }
+    if (type == nullptr) return ui::Say("Select type of document before");
+    if (type->detailForm.empty()) return txtSource.Text(std::string(type->text));
     if (ui::Forms::Current().Find(type->detailForm) == nullptr)
         ui::Forms::Current().Get(type->detailForm).ShowModal();
 }

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "globals/FormChain.h"
 #include "sources/EntryFields.h"
-#include "ui/Form.h"
 
 namespace vexora {
 
@@ -16,7 +16,7 @@ class clsR;
 /// root. It fills the citation fields of the source, derives the author codes, and registers a new
 /// source in the reference database. The details of the publication and the authors come from
 /// helper dialogs that hand their result back here.
-class frmDocument : public ui::Form {
+class frmDocument : public ChainForm {
 public:
     frmDocument();
 
@@ -37,7 +37,6 @@ public:
     ui::CommandButton cmdCalcel{*this, "cmdCalcel", "Cancel"};
 
     void Load() override;
-    void Unload() override;
 
     /// The details of the publication in one text, "" while none are entered.
     std::string Source() const;

@@ -1,6 +1,5 @@
 #include "sources/frmRef.h"
 
-#include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsR.h"
 #include "reference/KVODefinitions.h"
@@ -30,7 +29,7 @@ std::string SecondCode(const ui::TextBox& field) {
 
 } // namespace
 
-frmRef::frmRef() : Form("frmRef", "Add reference") {
+frmRef::frmRef() : ChainForm("frmRef", "Add reference") {
     Arrangement = ui::Column(
         {ui::Note("(1) Enter the year of publication and the first 3 letters of the 1st and\n"
                   "    2nd (if present) authors' names, then click \"Search\""),
@@ -70,10 +69,6 @@ void frmRef::Activate() {
     if (!Globals().recR.IsEmpty()) Close();
 }
 
-void frmRef::Unload() {
-    CloseForm();
-}
-
 void frmRef::Identification_Change() {
     if (!Filling) ClearResults();
 }
@@ -90,13 +85,10 @@ void frmRef::cmdVerify_Click() {
     try {
         FindRows();
     } catch (const DatabaseError& error) {
-        ui::Say(error.what());
-        return;
+        return ui::Say(error.what());
     }
-    if (rows_.empty()) {
-        ui::Say("Reference not found\nClick \"Create\" button to describe a new source");
-        return;
-    }
+    if (rows_.empty())
+        return ui::Say("Reference not found\nClick \"Create\" button to describe a new source");
     lstSourceDoc.Add("SELECT A DOCUMENT HERE OR CLICK \"Create\" BUTTON");
     for (const Row& row : rows_)
         lstSourceDoc.Add(row.SOURCE);

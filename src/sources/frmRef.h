@@ -3,14 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "ui/Form.h"
+#include "globals/FormChain.h"
 
 namespace vexora {
 
 /// "Add reference": finds the source of a new document in the reference database, or leads on to
 /// the description of a new one. A source taken from the database is not new, so its description is
 /// neither edited nor printed into the record file.
-class frmRef : public ui::Form {
+class frmRef : public ChainForm {
 public:
     frmRef();
 
@@ -27,7 +27,6 @@ public:
 
     void Load() override;
     void Activate() override;
-    void Unload() override;
 
 private:
     struct Row {
