@@ -50,12 +50,12 @@ std::string ConfigurationPath() {
     return JoinPath(Globals().HomeFolder, "VXR.ini");
 }
 
-std::string DefaultLocalDbPath() {
-    return JoinPath(Globals().HomeFolder, "VXRLocal.mdb");
-}
-
-std::string DefaultCompoundDbPath() {
-    return JoinPath(Globals().HomeFolder, "VXR.mdb");
+void FindDatabases() {
+    KVOGlobal& globals = Globals();
+    if (!FileOrFolderExists(globals.LocalDbPath))
+        globals.LocalDbPath = JoinPath(globals.HomeFolder, "VXRLocal.mdb");
+    if (!FileOrFolderExists(globals.CompoundDbPath))
+        globals.CompoundDbPath = JoinPath(globals.HomeFolder, "VXR.mdb");
 }
 
 void SetConfigurationDefaults() {
@@ -64,8 +64,7 @@ void SetConfigurationDefaults() {
         (globals.*setting.value).clear();
     for (const auto& setting : FlagSettings)
         globals.*setting.value = false;
-    globals.LocalDbPath = DefaultLocalDbPath();
-    globals.CompoundDbPath = DefaultCompoundDbPath();
+    FindDatabases();
 }
 
 void TakeConfiguration(std::string_view text) {
@@ -75,9 +74,7 @@ void TakeConfiguration(std::string_view text) {
     globals.LocalDbPath = WithSlashes(globals.LocalDbPath);
     globals.CompoundDbPath = WithSlashes(globals.CompoundDbPath);
     globals.OutDir = WithSlashes(globals.OutDir);
-    if (!FileOrFolderExists(globals.LocalDbPath)) globals.LocalDbPath = DefaultLocalDbPath();
-    if (!FileOrFolderExists(globals.CompoundDbPath))
-        globals.CompoundDbPath = DefaultCompoundDbPath();
+    FindDatabases();
 }
 
 std::string ConfigurationText() {
@@ -90,6 +87,13 @@ std::string ConfigurationText() {
         if (Globals().*setting.value) text.append(setting.key).append("\n");
     }
     return text;
+}
+
+std::string OpenDatabasesAt(const std::string& localPath, const std::string& compoundPath) {
+    for (const std::string& path : {localPath, compoundPath}) {
+        if (!FileOrFolderExists(path)) return path + " does not exist";
+    }
+    return Globals().Databases.OpenBoth(localPath, compoundPath).value_or(std::string());
 }
 
 void ReadConfiguration() {

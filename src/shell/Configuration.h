@@ -14,9 +14,8 @@ namespace vexora {
 
 /// Path of the configuration file.
 std::string ConfigurationPath();
-/// The databases of the application folder.
-std::string DefaultLocalDbPath();
-std::string DefaultCompoundDbPath();
+/// Puts those of the application folder in place of databases that do not exist.
+void FindDatabases();
 
 /// Puts the settings to what holds without a file.
 void SetConfigurationDefaults();
@@ -25,6 +24,10 @@ void SetConfigurationDefaults();
 void TakeConfiguration(std::string_view text);
 /// The settings in force as a configuration text.
 std::string ConfigurationText();
+
+/// Opens and tests two databases; those in force change only when both are good. Empty, or what is
+/// wrong.
+std::string OpenDatabasesAt(const std::string& localPath, const std::string& compoundPath);
 
 /// Reads the file, if there is one. One that cannot be read is told.
 void ReadConfiguration();

@@ -54,8 +54,4 @@ bool FileOrFolderExists(const std::string& path) {
     return !path.empty() && ui::TheDesktop().Files().Exists(path);
 }
 
-bool MakeFolder(const std::string& path) {
-    return ui::TheDesktop().Files().MakeFolder(path).empty();
-}
-
 } // namespace vexora

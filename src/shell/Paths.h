@@ -29,7 +29,5 @@ std::string DocumentOfCommandLine(std::string_view commandLine);
 
 /// True when the path names an existing file or folder.
 bool FileOrFolderExists(const std::string& path);
-/// Makes one folder; true when it worked.
-bool MakeFolder(const std::string& path);
 
 } // namespace vexora

@@ -1,6 +1,7 @@
 #include "shell/ReadingPane.h"
 
 #include "chem/CommentTags.h"
+#include "compounds/RegistryNumber.h"
 #include "globals/KVOGlobal.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
@@ -36,18 +37,6 @@ std::string AuthorsOf(const clsR& source) {
         text += named ? author->FULLNM : std::string(TrimBlanks(author->LASTNM));
     }
     return text;
-}
-
-/// The citation without the marks that part its name and its volume from the rest.
-std::string PublicationOf(const clsR& source) {
-    return Replace(Replace(source.SSOURCE, "@", ""), "$", "");
-}
-
-/// "7732-18-5" of a registry number.
-std::string WithDashes(const std::string& rn) {
-    if (rn.size() < 4) return rn;
-    const std::size_t n = rn.size();
-    return rn.substr(0, n - 3) + "-" + rn.substr(n - 3, 2) + "-" + rn.substr(n - 1);
 }
 
 /// What is stated about the uncertainty of a value, the most telling statement first.
@@ -93,7 +82,8 @@ std::string PurityInWords(const PurityStatement& statement) {
 std::string ReadingOf(const clsR& source) {
     ReadingPage page("Source " + source.Source());
     page.Line("Title:", source.TTITLE);
-    page.Line("Published in:", PublicationOf(source));
+    // The marks part the name and the volume from the rest.
+    page.Line("Published in:", Replace(Replace(source.SSOURCE, "@", ""), "$", ""));
     page.Line("Authors:", AuthorsOf(source));
     page.Line("Compounds:", std::to_string(source.recL.Count()));
     if (!source.isNew) page.Item("This source stands in the reference database; it is not edited.");
@@ -107,7 +97,8 @@ std::string ReadingOf(const clsL& compound) {
     ReadingPage page(compound.ShowKey());
     page.Line("Formula:", compound.Formula);
     if (compound.MMass > 0) page.Line("Molar mass:", NumberText(compound.MMass) + " g/mol");
-    page.Line("Registry number:", WithDashes(compound.RN));
+    page.Line("Registry number:",
+              compound.RN.size() < 4 ? compound.RN : DashedRegistryNumber(compound.RN));
     if (compound.isNew) page.Item("New to the reference database.");
     page.Line("Samples:", std::to_string(compound.recS.Count()));
     page.Need(compound.Formula.empty(), "The formula");

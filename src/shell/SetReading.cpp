@@ -123,8 +123,7 @@ void DescribeConstants(ReadingPage& page, const clsTwo& set) {
 /// How the numbers came about, and in what other forms the source has them.
 void DescribePresentation(ReadingPage& page, const DataSet& set) {
     const Presentation presentation = Presentation::Of(set.DATATYPE);
-    for (const CodeText& kind : Presentation::Kinds())
-        if (kind.code == presentation.numerical) page.Line("Data are:", kind.text);
+    page.Line("Data are:", TextOfCode(Presentation::Kinds(), presentation.numerical));
     page.Line("Also given:",
               Listed({presentation.calculated ? "calculated values" : "",
                       presentation.equation ? "equation" : "", presentation.graph ? "graph" : ""}));

@@ -7,7 +7,6 @@
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
 #include "shell/Configuration.h"
-#include "shell/OpenDatabases.h"
 #include "shell/Paths.h"
 #include "shell/frmConfigure.h"
 #include "ui/Desktop.h"
@@ -59,6 +58,21 @@ bool KnowUser() {
     if (!Globals().Organization.empty()) return AskUserName();
     ui::Forms::Current().Get("frmConfigure").ShowModal();
     return !Globals().ProgramEnds;
+}
+
+/// Opens the databases of the configuration; true when both are open. When that fails the user is
+/// asked whether to correct the configuration: Yes shows frmConfigure, No sets the program to end.
+bool OpenDatabases() {
+    KVOGlobal& globals = Globals();
+    if (OpenDatabasesAt(globals.LocalDbPath, globals.CompoundDbPath).empty()) return true;
+    const bool correct = ui::AskYesNo("Specified databases not found or invalid\n"
+                                      "Would you like to correct configuration?",
+                                      "VXR");
+    if (correct)
+        ui::Forms::Current().Get("frmConfigure").ShowModal();
+    else
+        globals.ProgramEnds = true;
+    return false;
 }
 
 } // namespace

@@ -8,27 +8,19 @@
 
 namespace vexora {
 
-class WorkbenchState {
-public:
-    explicit WorkbenchState(Places found) : places(std::move(found)) {}
-
-    KVOGlobal globals;
-    Places places;
-};
-
 Workbench::Workbench(ui::Desktop& desktop, Places places)
-    : forms_(std::make_unique<ui::Forms>(desktop)),
-      state_(std::make_unique<WorkbenchState>(std::move(places))) {
+    : places_(std::move(places)), forms_(std::make_unique<ui::Forms>(desktop)),
+      globals_(std::make_unique<KVOGlobal>()) {
     RegisterForms(*forms_);
 }
 
 Workbench::~Workbench() {
     forms_->CloseAll();
-    state_->globals.tvwTree = nullptr;
+    globals_->tvwTree = nullptr;
 }
 
 bool Workbench::Start(const std::string& commandLine) {
-    InitGlobals(state_->places);
+    InitGlobals(places_);
     if (!RunStartUp()) {
         forms_->TheDesktop().EndProgram();
         return false;

@@ -8,6 +8,8 @@
 
 namespace vexora {
 
+struct KVOGlobal;
+
 /// Where the workbench finds its things.
 struct Places {
     std::string Home;      // application folder: VXR.ini, the two databases, intro.rtf, scope.rtf
@@ -35,8 +37,9 @@ public:
     ui::Forms& Forms() { return *forms_; }
 
 private:
+    Places places_;
     std::unique_ptr<ui::Forms> forms_;
-    std::unique_ptr<class WorkbenchState> state_;
+    std::unique_ptr<KVOGlobal> globals_;
 };
 
 } // namespace vexora

@@ -4,7 +4,6 @@
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
 #include "shell/Configuration.h"
-#include "shell/OpenDatabases.h"
 #include "shell/Paths.h"
 #include "ui/Desktop.h"
 
@@ -54,10 +53,8 @@ frmConfigure::frmConfigure() : Form("frmConfigure", "Vexora Input: Configuration
 }
 
 void frmConfigure::Load() {
-    KVOGlobal& globals = Globals();
-    if (!FileOrFolderExists(globals.LocalDbPath)) globals.LocalDbPath = DefaultLocalDbPath();
-    if (!FileOrFolderExists(globals.CompoundDbPath))
-        globals.CompoundDbPath = DefaultCompoundDbPath();
+    const KVOGlobal& globals = Globals();
+    FindDatabases();
     const ui::FillingScope filling(*this);
     txtContributor.Text(globals.ContributorCode);
     txtCompiler.Text(globals.CompilerCode);
@@ -114,7 +111,7 @@ bool frmConfigure::CheckOutputFolder() {
         txtOutDir.SetFocus();
         return false;
     }
-    if (MakeFolder(folder)) return true;
+    if (ui::TheDesktop().Files().MakeFolder(folder).empty()) return true;
     return Refuse(txtOutDir, "The output folder " + txtOutDir.Text() + " cannot be created.");
 }
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "ui/Buttons.h"
 #include "ui/Form.h"
-#include "ui/Frame.h"
-#include "ui/TextBox.h"
 
 namespace vexora {
 

@@ -1,10 +1,11 @@
 #include "shell/frmMain.h"
 
+#include <utility>
+
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
 #include "shell/ReadingPane.h"
 #include "shell/StartUp.h"
-#include "shell/StatusLine.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -47,39 +48,32 @@ void frmMain::Unload() {
 }
 
 void frmMain::WireMenus() {
-    New.OnClick = [this] { NewDocument(); };
-    mnuFindRef.OnClick = [this] {
-        if (NewProc()) OpenDialog("frmRef");
-    };
+    New.OnClick = [this] { BeginWith("frmDocument"); };
+    mnuFindRef.OnClick = [this] { BeginWith("frmRef"); };
     Open.OnClick = [this] { OpenDocument(); };
     SaveEntry.OnClick = [this] { Save(); };
     SaveAsEntry.OnClick = [this] { SaveAs(); };
     mnuExportXML.OnClick = [this] { ExportDocument(); };
     mnuFileExit.OnClick = [this] { Close(); };
-    mnuExpandNode.OnClick = [this] { mnuExpandNode_Click(); };
+    mnuExpandNode.OnClick = [this] {
+        if (HasMouseSelection()) tvwTree.SelectedNode()->Expanded(true);
+    };
     mnuEditNode.OnClick = [this] { mnuEditNode_Click(); };
     mnuNewLike.OnClick = [this] { mnuNewLike_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
-    ShowHelpOn(mnuIntro, 10);
-    ShowHelpOn(mnuScope, 20);
-    ShowHelpOn(mnuList, 30);
-    ShowHelpOn(mnuWhats, 40);
-    ShowHelpOn(mnuHelpPurpose, 110);
-    ShowHelpOn(mnuHelpSequence, 120);
-    ShowHelpOn(mnuHelpActions, 130);
-    ShowHelpOn(mnuHelpDisplay, 140);
-    ShowHelpOn(mnuHelpBio, 145);
+    const std::pair<ui::MenuItem*, int> pages[] = {
+        {&mnuIntro, 10},        {&mnuScope, 20},        {&mnuList, 30},
+        {&mnuWhats, 40},        {&mnuHelpPurpose, 110}, {&mnuHelpSequence, 120},
+        {&mnuHelpActions, 130}, {&mnuHelpDisplay, 140}, {&mnuHelpBio, 145}};
+    for (const auto& [entry, page] : pages)
+        entry->OnClick = [context = page] { ui::TheDesktop().ShowHelp(context); };
     mnuAbout.OnClick = [] { ShowAbout(); };
-}
-
-void frmMain::ShowHelpOn(ui::MenuItem& entry, int context) {
-    entry.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
 }
 
 void frmMain::WireTree() {
     tvwTree.OnMouseDown = [this] { MouseSelected = false; };
-    tvwTree.OnNodeClick = [this](ui::TreeNode&) { ClickNode(); };
-    tvwTree.OnNodeReached = [this](ui::TreeNode&) { KeyboardSelection(); };
+    tvwTree.OnNodeClick = [this](ui::TreeNode&) { SelectBy(true); };
+    tvwTree.OnNodeReached = [this](ui::TreeNode&) { SelectBy(false); };
     tvwTree.OnNodeDoubleClick = [this](ui::TreeNode&) { EditNode(); };
     tvwTree.OnDrop = [this](const std::string& path) { DropFile(path); };
 }
@@ -112,21 +106,10 @@ void frmMain::SelectNode() {
     if (!Globals().ShellLocked) Enable();
 }
 
-void frmMain::ClickNode() {
+void frmMain::SelectBy(bool mouse) {
     if (Globals().ShellLocked) return;
-    MouseSelected = true;
+    MouseSelected = mouse;
     SelectNode();
-}
-
-void frmMain::KeyboardSelection() {
-    if (Globals().ShellLocked) return;
-    MouseSelected = false;
-    SelectNode();
-}
-
-void frmMain::mnuExpandNode_Click() {
-    if (!HasMouseSelection()) return;
-    tvwTree.SelectedNode()->Expanded(true);
 }
 
 void frmMain::mnuToolsConfigure_Click() {
@@ -147,18 +130,20 @@ void frmMain::RefreshTexts() {
     Caption(globals.ReadOnly ? std::string(MainCaption) + " (read only)" : MainCaption);
     const ui::TreeNode* node = tvwTree.SelectedNode();
     rtfReading.Html(ReadingHtml(node == nullptr ? nullptr : node->Tag.lock().get()));
-    lblStatus.Caption(StatusText(FileTitle, NextSteps()));
+    lblStatus.Caption(StatusText());
 }
 
-/// The captions of the toolbar buttons that can be pressed now.
-std::string frmMain::NextSteps() const {
-    std::string steps;
-    for (const ui::ToolButton* button : Toolbar1.Buttons()) {
-        if (!button->IsUsable()) continue;
-        if (!steps.empty()) steps += ", ";
-        steps += button->Caption();
-    }
-    return steps;
+/// Which document is open, whether it is saved, and which toolbar buttons can be pressed now.
+std::string frmMain::StatusText() const {
+    const KVOGlobal& globals = Globals();
+    std::string text = FileName.empty() ? "New document" : FileTitle();
+    text += globals.ReadOnly ? " - read only" : globals.Saved ? " - saved" : " - not saved";
+    if (globals.recR.IsEmpty()) text = "No document";
+    if (globals.ShellLocked) return text + " - a dialog is open";
+    std::string before = " - next: ";
+    for (const ui::ToolButton* button : Toolbar1.Buttons())
+        if (button->IsUsable()) text += std::exchange(before, ", ") + button->Caption();
+    return text;
 }
 
 bool frmMain::QueryUnload() {

@@ -3,11 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "ui/Buttons.h"
+#include "shell/Paths.h"
 #include "ui/Form.h"
-#include "ui/Menus.h"
-#include "ui/TextBox.h"
-#include "ui/TreeView.h"
 
 namespace vexora {
 
@@ -67,8 +64,7 @@ public:
     ui::RichText rtfReading{*this, "rtfReading"};
     ui::Label lblStatus{*this, "lblStatus"};
 
-    std::string FileTitle;      // file name with its ending, empty for a document without a file
-    std::string FileName;       // full path
+    std::string FileName;       // full path, empty for a document without a file
     bool MouseSelected = false; // the last selection came from a mouse click on a node
 
     void Load() override;
@@ -78,10 +74,13 @@ public:
     bool QueryUnload() override;
     void Unload() override;
 
+    /// File name with its ending.
+    std::string FileTitle() const { return SplitPath(FileName).Title; }
+
     /// Makes toolbar and menus match the selection; the shell is live then.
-    void Enable();
+    void Enable() { SetLocked(false); }
     /// Locks the shell for a chain of dialogs.
-    void DisableShell();
+    void DisableShell() { SetLocked(true); }
 
     /// Offers to save, then clears the document; false when the user would rather keep it.
     bool NewProc();
@@ -98,19 +97,16 @@ private:
     // frmMain.cpp
     void WireMenus();
     void WireTree();
-    void ShowHelpOn(ui::MenuItem& entry, int context);
     void SelectNode();
-    void ClickNode();
-    void KeyboardSelection();
+    void SelectBy(bool mouse);
     void SelectRoot();
-    void mnuExpandNode_Click();
     void mnuToolsConfigure_Click();
     void ShowOptionalButtons();
     void RefreshTexts();
-    std::string NextSteps() const;
+    std::string StatusText() const;
 
     // frmMain_document.cpp
-    void NewDocument();
+    void BeginWith(std::string_view dialog);
     bool MayDiscard();
     void DropFile(const std::string& path);
     void OpenFile(const std::string& path, bool moveOutDir);
@@ -125,8 +121,10 @@ private:
 
     // frmMain_toolbar.cpp
     void WireToolbar();
+    static void RenewCurrentMethod();
     void ToolbarClick(const ui::ToolButton& button);
     bool OpenFromToolbar(std::string_view button);
+    void SetLocked(bool locked);
     bool OpenDialog(std::string_view dialog);
     bool IsOffered(const ui::ToolButton& button) const;
 

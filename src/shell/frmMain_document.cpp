@@ -1,15 +1,17 @@
 // Opening, saving and emptying the document.
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/clsL.h"
 #include "records/clsR.h"
+#include "records/clsS.h"
 #include "reference/Database.h"
 #include "reference/SafeFile.h"
-#include "shell/DocumentChecks.h"
 #include "shell/DocumentText.h"
-#include "shell/Paths.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -23,6 +25,13 @@ constexpr const char* XmlFiles = "ThermoML files (*.xml)";
 
 const clsR& Source() {
     return *Globals().recR.Item(std::size_t{1});
+}
+
+/// Compounds that came from a file and have no sample are left out of the file.
+bool LosesCompounds(const clsR& source) {
+    return std::any_of(source.recL.begin(), source.recL.end(), [](const auto& compound) {
+        return compound->recS.IsEmpty() && !compound->isNew;
+    });
 }
 
 /// Prints what is to be written and writes it; why that failed, empty when it went well. Printing
@@ -66,13 +75,12 @@ void frmMain::EmptyDocument() {
     tvwTree.Clear();
     globals.DialogAccepted = false;
     MouseSelected = false;
-    FileTitle.clear();
     FileName.clear();
     if (!globals.ShellLocked) Enable();
 }
 
-void frmMain::NewDocument() {
-    if (NewProc()) OpenDialog("frmDocument");
+void frmMain::BeginWith(std::string_view dialog) {
+    if (NewProc()) OpenDialog(dialog);
 }
 
 std::string frmMain::StartFolder() const {
@@ -104,13 +112,11 @@ void frmMain::DropFile(const std::string& path) {
 /// Opens a document in place of the empty one. The names are set only when the read left a source.
 void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     const std::string whole = AbsolutePath(path);
-    const PathParts parts = SplitPath(whole);
     if (!TakeFile(whole)) return;
     FileName = whole;
-    FileTitle = parts.Title;
-    if (moveOutDir) Globals().OutDir = parts.Folder;
+    if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
     SelectRoot();
-    ClickNode();
+    SelectBy(true);
 }
 
 bool frmMain::TakeFile(const std::string& path) {
@@ -193,18 +199,13 @@ std::string frmMain::ChooseTarget(const std::string& proposed, const std::string
 /// The document keeps its present name when it cannot be written under the new one.
 void frmMain::SaveAs() {
     if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
-    const std::string target =
-        ChooseTarget(FileTitle.empty() ? Source().ProposedName() + ".txt" : FileTitle, RecordFiles);
+    const std::string target = ChooseTarget(
+        FileName.empty() ? Source().ProposedName() + ".txt" : FileTitle(), RecordFiles);
     if (target.empty()) return;
-    const std::string presentName = FileName;
-    const std::string presentTitle = FileTitle;
-    const PathParts parts = SplitPath(target);
-    FileName = target;
-    FileTitle = parts.Title;
-    Globals().OutDir = parts.Folder;
+    const std::string presentName = std::exchange(FileName, target);
+    Globals().OutDir = SplitPath(target).Folder;
     if (WriteDocument()) return;
     FileName = presentName;
-    FileTitle = presentTitle;
     RefreshTexts();
 }
 

@@ -6,7 +6,6 @@
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
 #include "records/clsR.h"
-#include "shell/WorkingMethod.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"

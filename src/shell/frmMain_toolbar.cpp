@@ -7,7 +7,6 @@
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
-#include "shell/WorkingMethod.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -98,7 +97,8 @@ const Offer* OfferOf(std::string_view button) {
 
 } // namespace
 
-void RenewCurrentMethod() {
+/// Makes the working method anew, with the year of the source; done before each dialog.
+void frmMain::RenewCurrentMethod() {
     KVOGlobal& globals = Globals();
     globals.CurrentMethod = std::make_shared<clsMethod>();
     if (!globals.CurrentR) return;
@@ -114,24 +114,14 @@ void frmMain::WireToolbar() {
     }
 }
 
-void frmMain::Enable() {
-    KVOGlobal& globals = Globals();
-    globals.ShellLocked = false;
-    AddRef.Caption(globals.recR.IsEmpty() ? "Start" : "Reference");
+void frmMain::SetLocked(bool locked) {
+    Globals().ShellLocked = locked;
+    if (!locked) AddRef.Caption(Globals().recR.IsEmpty() ? "Start" : "Reference");
     for (ui::ToolButton* button : Toolbar1.Buttons())
-        button->Enabled(IsOffered(*button));
+        button->Enabled(!locked && IsOffered(*button));
     for (ui::MenuItem* menu : {&mnuFile, &mnuEdit, &mnuTools})
-        menu->Enabled(true);
-    mnuNewLike.Enabled(MayRepeat());
-    RefreshTexts();
-}
-
-void frmMain::DisableShell() {
-    Globals().ShellLocked = true;
-    for (ui::ToolButton* button : Toolbar1.Buttons())
-        button->Enabled(false);
-    for (ui::MenuItem* menu : {&mnuFile, &mnuEdit, &mnuTools})
-        menu->Enabled(false);
+        menu->Enabled(!locked);
+    if (!locked) mnuNewLike.Enabled(MayRepeat());
     RefreshTexts();
 }
 

@@ -21,7 +21,7 @@ protected:
 TEST_F(DocumentTest, TheCommandLineOpensTheDocumentAndSelectsItsSource) {
     const std::string path = WriteDocument();
     ASSERT_TRUE(Start(path));
-    EXPECT_EQ(Shell().FileTitle, "paper.txt");
+    EXPECT_EQ(Shell().FileTitle(), "paper.txt");
     EXPECT_EQ(Shell().FileName, path);
     EXPECT_EQ(Globals().OutDir, folder.Path());
     EXPECT_EQ(Globals().CurrentKey, "R");
@@ -34,7 +34,7 @@ TEST_F(DocumentTest, AMissingFileIsToldAndTheWorkbenchStartsEmpty) {
     desktop.Expect("The file " + path + " cannot be read.\nNo such file or directory");
     ASSERT_TRUE(Start(path));
     EXPECT_FALSE(HasDocument());
-    EXPECT_EQ(Shell().FileName + Shell().FileTitle, "");
+    EXPECT_EQ(Shell().FileName + Shell().FileTitle(), "");
     EXPECT_EQ(Shell().AddRef.Caption(), "Start");
 }
 
@@ -81,13 +81,12 @@ TEST_F(DocumentTest, CancelKeepsTheDocumentAndNoDropsIt) {
     desktop.Expect(kSaveQuestion, ui::Answer::No);
     EXPECT_TRUE(Shell().NewProc());
     EXPECT_FALSE(HasDocument());
-    EXPECT_EQ(Shell().FileTitle + Shell().FileName + Globals().CurrentKey, "");
+    EXPECT_EQ(Shell().FileTitle() + Shell().FileName + Globals().CurrentKey, "");
 }
 
 TEST_F(DocumentTest, YesWithoutASavedFileKeepsTheTree) {
     StartChanged();
     Shell().FileName.clear();
-    Shell().FileTitle.clear();
     desktop.Expect(kSaveQuestion, ui::Answer::Yes);
     desktop.Choices = {std::nullopt};
     EXPECT_FALSE(Shell().NewProc());
@@ -139,7 +138,7 @@ TEST_F(DocumentTest, SaveAsAsksBeforeItWritesOverAFile) {
     Shell().SaveAsEntry.UserClick();
     EXPECT_EQ(FileText(taken), "precious");
     EXPECT_EQ(Shell().FileName, fresh);
-    EXPECT_EQ(Shell().FileTitle, "fresh.txt");
+    EXPECT_EQ(Shell().FileTitle(), "fresh.txt");
     EXPECT_TRUE(std::filesystem::exists(fresh));
     EXPECT_TRUE(Globals().Saved);
 }
