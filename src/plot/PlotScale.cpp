@@ -33,10 +33,7 @@ void PlotScale::Ranges(const PlotTable& table, int xVar) {
         YMin = std::min(YMin, row[0]);
         YMax = std::max(YMax, row[0]);
     }
-    if (Log) {
-        PadLog();
-        return;
-    }
+    if (Log) return PadLog();
     const double roomX = (XMax - XMin) * Padding;
     const double roomY = (YMax - YMin) * Padding;
     XMin -= roomX;

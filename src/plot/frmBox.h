@@ -3,9 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/Buttons.h"
 #include "ui/Form.h"
-#include "ui/TextBox.h"
 
 namespace vexora {
 

@@ -13,7 +13,12 @@ namespace vexora {
 namespace {
 
 constexpr double LeastDrag = 10; // a smaller rectangle is a click
-constexpr int HelpAbout = 350;
+constexpr const char* DragHint = "Drag a rectangle to enlarge it, click to see all points";
+constexpr const char* KeysHint = "The arrow keys step through the points";
+constexpr const char* NoPoints = "There are no points to draw";
+constexpr const char* NoLogarithm =
+    "Nothing to draw: 1/X and ln Y need an absolute temperature and "
+    "a value above 0";
 
 } // namespace
 
@@ -24,25 +29,19 @@ frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     PreferredRows = 46;
     DefaultButton = &cmdOK;
     CancelButton = &cmdOK;
-    HelpContext = HelpAbout;
+    HelpContext = 350;
     WireEvents();
     WireMenus();
 }
 
 void frmGraph::WireEvents() {
-    picPIC.OnPress = [this](double x, double y) { picPIC_Press({x, y}); };
+    picPIC.OnPress = [this](double x, double y) { start_ = PlotPlace{x, y}; };
     picPIC.OnMove = [this](double x, double y) { picPIC_Move({x, y}); };
     picPIC.OnRelease = [this](double x, double y) { picPIC_Release({x, y}); };
     picPIC.OnDoubleClick = [this] { GoToPoint(); };
     picPIC.OnKey = [this](ui::Key& key) { picPIC_Key(key); };
-    cmdMode.OnClick = [this] {
-        cmdMode_Click();
-        picPIC.SetFocus();
-    };
-    cmdVar.OnClick = [this] {
-        cmdVar_Click();
-        picPIC.SetFocus();
-    };
+    cmdMode.OnClick = [this] { cmdMode_Click(); };
+    cmdVar.OnClick = [this] { cmdVar_Click(); };
     cmdUnc.OnClick = [this] {
         showUnc_ = !showUnc_;
         Redraw();
@@ -73,11 +72,7 @@ void frmGraph::Load() {
     scale_.Shift = ShiftOf(*table_);
     mnuHide.Checked(hideMarks_);
     cmdVar.Visible(table_->nVar > 1);
-    Arrange(*table_, xVar_);
-    Group();
-    NameAxes();
-    Ranges();
-    Redraw();
+    ShowAgainst(xVar_);
 }
 
 /// The keys of the plot serve at once.
@@ -85,15 +80,12 @@ void frmGraph::Activate() {
     picPIC.SetFocus();
 }
 
-void frmGraph::picPIC_Press(PlotPlace place) {
-    start_ = place;
-}
-
 void frmGraph::picPIC_Move(PlotPlace place) {
     if (start_)
-        DrawRectangle(place);
-    else if (hideMarks_)
-        ShowPoint(place);
+        picPIC.Overlay(
+            {{ui::Picture::Shape::Rectangle, start_->x, start_->y, place.x, place.y, 0, {}}});
+    else if (const auto point = hideMarks_ ? NearestPoint(ThePlot(), place) : std::nullopt)
+        PointTo(point);
 }
 
 /// A rectangle becomes the new ranges, a mere click brings all points back.
@@ -101,7 +93,7 @@ void frmGraph::picPIC_Release(PlotPlace place) {
     if (!start_) return;
     const PlotPlace start = *start_;
     start_.reset();
-    HideRectangle();
+    picPIC.Overlay({});
     const double wide = std::abs(place.x - start.x);
     const double high = std::abs(place.y - start.y);
     if (wide > LeastDrag && high > LeastDrag) {
@@ -109,7 +101,7 @@ void frmGraph::picPIC_Release(PlotPlace place) {
         const PlotPlace to = PositionsAt(ThePlot(), place);
         scale_.Zoom(from.x, from.y, to.x, to.y);
     } else {
-        Ranges();
+        scale_.Ranges(*table_, xVar_);
     }
     Redraw();
 }
@@ -133,18 +125,24 @@ void frmGraph::picPIC_Key(ui::Key& key) {
 void frmGraph::cmdMode_Click() {
     scale_.Log = !scale_.Log;
     cmdMode.Caption(scale_.Log ? "Y vs X" : "ln Y vs 1/X");
-    Ranges();
+    scale_.Ranges(*table_, xVar_);
     Redraw();
+    picPIC.SetFocus();
 }
 
 void frmGraph::cmdVar_Click() {
-    xVar_ = xVar_ < table_->nVar ? xVar_ + 1 : 1;
     point_.reset();
+    ShowAgainst(xVar_ < table_->nVar ? xVar_ + 1 : 1);
+    picPIC.SetFocus();
+}
+
+/// Draws all points over this variable.
+void frmGraph::ShowAgainst(int variable) {
+    xVar_ = variable;
     Arrange(*table_, xVar_);
-    Group();
-    NameAxes();
-    Ranges();
-    Redraw();
+    Caption(table_->YName + " as function of " + table_->NameOf(xVar_));
+    scale_.Ranges(*table_, xVar_);
+    ChangeTolerance(1);
 }
 
 /// The ending of the name tells what is written; without one it is a drawing.
@@ -157,17 +155,15 @@ void frmGraph::mnuFileSave_Click() {
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (files.Exists(path) && !ui::AskYesNo(path + " exists already\nReplace it?")) return;
     const auto bytes = isPng ? ui::TheDesktop().PngOf(picPIC) : SvgOf(picPIC, Caption());
-    if (!bytes) {
-        ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
-        return;
-    }
+    if (!bytes)
+        return ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
     const std::string error = WriteSafely(files, path, *bytes, false);
     if (!error.empty()) ui::Say(error);
 }
 
 void frmGraph::ChangeTolerance(double factor) {
     groupTolerance_ *= factor;
-    Group();
+    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
     Redraw();
 }
 
@@ -175,34 +171,61 @@ Plot frmGraph::ThePlot() const {
     return {*table_, scale_, xVar_, families_, showUnc_};
 }
 
-void frmGraph::NameAxes() {
-    Caption(table_->YName + " as function of " + table_->NameOf(xVar_));
-}
-
-void frmGraph::Group() {
-    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
-}
-
-void frmGraph::Ranges() {
-    scale_.Ranges(*table_, xVar_);
-}
-
 void frmGraph::Redraw() {
     picPIC.Strokes(PlotPicture(ThePlot()));
     PointTo(point_);
 }
 
-void frmGraph::DrawRectangle(PlotPlace corner) {
-    picPIC.Overlay(
-        {{ui::Picture::Shape::Rectangle, start_->x, start_->y, corner.x, corner.y, 0, {}}});
+/// Its values and its row are told on the plot and below it.
+void frmGraph::PointTo(std::optional<int> point) {
+    point_ = point;
+    const Plot plot = ThePlot();
+    std::vector<ui::Picture::Stroke> mark;
+    if (point) mark = PointMark(plot, *point);
+    const bool isSeen = !mark.empty();
+    const char* untold = table_->PointTable.empty() ? NoPoints
+                         : scale_.Empty             ? NoLogarithm
+                                                    : DragHint;
+    lblPoint.Caption(isSeen ? PointText(plot, *point) : untold);
+    lblRow.Caption(isSeen ? RowText(plot, *point) + ", Enter goes there" : KeysHint);
+    picPIC.Overlay(std::move(mark));
 }
 
-void frmGraph::HideRectangle() {
-    picPIC.Overlay({});
+/// To the next drawn point in the order of X, around at the ends; Up and Down stay on the curve.
+void frmGraph::StepPoint(int step, bool withinFamily) {
+    const int count = table_->PointCount();
+    const auto family = [this](int point) {
+        return families_.GroupOf[static_cast<std::size_t>(point)];
+    };
+    const Plot plot = ThePlot();
+    int at = point_ ? *point_ : step > 0 ? -1 : count;
+    for (int tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (withinFamily && point_ && family(at) != family(*point_)) continue;
+        if (!PlaceOf(plot, at)) continue;
+        PointTo(at);
+        return;
+    }
 }
 
-void frmGraph::ShowPoint(PlotPlace place) {
-    if (const auto point = NearestPoint(ThePlot(), place)) PointTo(point);
+void frmGraph::StepFar(int step) {
+    const int count = table_->PointCount();
+    int at = point_ ? *point_ : step > 0 ? -1 : count;
+    for (int tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (!table_->PointFar[static_cast<std::size_t>(at)]) continue;
+        point_ = at;
+        if (!PlaceOf(ThePlot(), at)) scale_.Ranges(*table_, xVar_);
+        Redraw();
+        return;
+    }
+}
+
+/// The dialog with the table takes the person to the row of the point.
+void frmGraph::GoToPoint() {
+    if (!point_) return;
+    table_->ChosenRow = table_->PointRow[static_cast<std::size_t>(*point_)];
+    Close();
 }
 
 } // namespace vexora

@@ -44,7 +44,6 @@ public:
 private:
     void WireEvents();
     void WireMenus();
-    void picPIC_Press(PlotPlace place);
     void picPIC_Move(PlotPlace place);
     void picPIC_Release(PlotPlace place);
     void picPIC_Key(ui::Key& key);
@@ -54,15 +53,10 @@ private:
     void ChangeTolerance(double factor);
 
     Plot ThePlot() const;
-    void NameAxes();
-    void Group();
-    void Ranges();
+    void ShowAgainst(int variable);
     void Redraw();
-    void DrawRectangle(PlotPlace corner);
-    void HideRectangle();
-    void ShowPoint(PlotPlace place);
 
-    // The point that is told, and the ways to others (frmGraph_point.cpp).
+    // The point that is told, and the ways to others.
     void PointTo(std::optional<int> point);
     void StepPoint(int step, bool withinFamily);
     void StepFar(int step);
