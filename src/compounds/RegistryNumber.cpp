@@ -17,14 +17,10 @@ bool IsOneDigit(std::string_view text) {
     return text.size() == 1 && IsDigit(text.front());
 }
 
-/// The first character that is no digit, counted from 0 in characters, or nothing.
+/// The first character that is no digit, counted from 0, or nothing.
 std::optional<std::size_t> FirstOdd(std::string_view text) {
-    std::size_t offset = 0;
-    for (std::size_t place = 0; offset < text.size(); ++place) {
-        const char32_t c = NextCodePoint(text, offset);
-        if (c < U'0' || c > U'9') return place;
-    }
-    return std::nullopt;
+    const std::size_t place = text.find_first_not_of("0123456789");
+    return place == text.npos ? std::nullopt : std::optional(place);
 }
 
 const std::string NotNumeric = "Enter numeric RN";

@@ -34,8 +34,7 @@ frmSample::frmSample() : ChainForm("frmSample", "Sample") {
     }
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
     HelpContext = HelpSample;
     txtSampleNo.Locked(true);
     txtSmplDescription.Locked(true);
@@ -72,8 +71,6 @@ void frmSample::WireEvents() {
         boxes.method.OnClick = [this, &method = boxes.method] { MethodClick(method); };
     }
     cmdNext.OnClick = [this] { Next(); };
-    cmdAccept.OnClick = [this] { Accept(); };
-    cmdCancel.OnClick = [this] { Close(); };
     mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(HelpSample); };
 }
 

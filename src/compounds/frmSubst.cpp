@@ -41,8 +41,7 @@ bool OpenedByBioDialog() {
 frmSubst::frmSubst() : ChainForm("frmSubst", "Substance") {
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
     HelpContext = HelpEnter;
     cmdFind.ToolTip("Find a substance in the database by a formula and/or name (fragment of the "
                     "name) and/or CAS Registry Number");
@@ -86,8 +85,6 @@ void frmSubst::WireEvents() {
     cmdFind.OnClick = [this] { FindSubstance(); };
     lstNames.OnClick = [this] { NamesClick(); };
     cmdUseRN.OnClick = [this] { UseRegistryNumber(); };
-    cmdAccept.OnClick = [this] { Accept(); };
-    cmdCancel.OnClick = [this] { Close(); };
     mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(HelpEnter); };
     mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDisplay); };
     mnuHelpBio.OnClick = [] { ui::TheDesktop().ShowHelp(HelpBio); };

@@ -10,12 +10,9 @@ frmKey::frmKey() : Form("frmKey", "Experiment details") {
     Arrangement =
         ui::Column({ui::Note("Select the statements, which are true for the reported measurement"),
                     lstKey, ui::ButtonRow({cmdAccept, cmdCancel})});
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
     HelpContext = 315;
     PreferredColumns = 80;
-    cmdAccept.OnClick = [this] { Accept(); };
-    cmdCancel.OnClick = [this] { Close(); };
 }
 
 void frmKey::Load() {

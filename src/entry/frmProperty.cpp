@@ -19,8 +19,7 @@ constexpr int HelpPropertyList = 30;
 frmProperty::frmProperty() : Form("frmProperty", Title) {
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdOK;
-    CancelButton = &cmdFinish;
+    UseButtons(cmdOK, cmdFinish, [this] { Accept(); });
     HelpContext = HelpPropertyList;
 }
 
@@ -48,8 +47,6 @@ void frmProperty::WireEvents() {
     cmdDetails.OnClick = [this] { Details(); };
     for (const Entry& entry : entries_)
         entry.button.OnClick = [this, &entry] { Enter(entry); };
-    cmdOK.OnClick = [this] { Accept(); };
-    cmdFinish.OnClick = [this] { Close(); };
     mnuList.OnClick = [] { ui::TheDesktop().ShowHelp(HelpPropertyList); };
 }
 

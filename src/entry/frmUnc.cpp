@@ -37,8 +37,7 @@ void WirePrompt(ui::ComboBox& list) {
 frmUnc::frmUnc() : Form("frmUnc", "Uncertainty information") {
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdOK;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdOK, cmdCancel, [this] { Accept(); });
     HelpContext = HelpForm;
     for (int i = 0; i < frameCount; ++i) {
         txtDSLevel(i).ToolTip(LevelHint);
@@ -97,8 +96,6 @@ void frmUnc::WireEvents() {
         box->OnClick = [this] { UseBlocks(); };
     WirePrompt(cboCUType);
     cmdCalc.OnClick = [this] { Calculate(); };
-    cmdOK.OnClick = [this] { Accept(); };
-    cmdCancel.OnClick = [this] { Close(); };
     mnuAbout.OnClick = [] { ui::TheDesktop().ShowHelp(HelpForm); };
     mnuDefinitions.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDefinitions); };
 }

@@ -38,12 +38,10 @@ std::string HtmlOfText(std::string_view text) {
 
 frmBox::frmBox() : Form("frmBox", "Vexora") {
     Arrangement = ui::Column({RichTextBox1, ui::ButtonRow({cmdPrint, cmdOK})});
-    DefaultButton = &cmdOK;
-    CancelButton = &cmdOK;
+    UseButtons(cmdOK, cmdOK, [this] { Close(); });
     PreferredColumns = 80;
     PreferredRows = 28;
     cmdPrint.OnClick = [this] { cmdPrint_Click(); };
-    cmdOK.OnClick = [this] { Close(); };
 }
 
 std::string frmBox::LoadFile(const std::string& path) {

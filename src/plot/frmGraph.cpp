@@ -27,8 +27,7 @@ frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     Arrangement = Column({picPIC, lblPoint, lblRow, ButtonRow({cmdMode, cmdVar, cmdUnc, cmdOK})});
     PreferredColumns = 150;
     PreferredRows = 46;
-    DefaultButton = &cmdOK;
-    CancelButton = &cmdOK;
+    UseButtons(cmdOK, cmdOK, [this] { Close(); });
     HelpContext = 350;
     WireEvents();
     WireMenus();
@@ -47,7 +46,6 @@ void frmGraph::WireEvents() {
         Redraw();
         picPIC.SetFocus();
     };
-    cmdOK.OnClick = [this] { Close(); };
 }
 
 void frmGraph::WireMenus() {

@@ -26,8 +26,7 @@ namespace vexora {
 frmSingle::frmSingle() : ChainForm("frmSingle", "Single value") {
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdFinish;
+    UseButtons(cmdAccept, cmdFinish, [this] { Accept(); });
     HelpContext = 325;
     txtPrpSetNo.Locked(true);
 }
@@ -58,8 +57,6 @@ void frmSingle::WireEvents() {
     cmdMethod.OnClick = [this] { Method(); };
     cmdUnc.OnClick = [this] { Uncertainty(); };
     cmdCheck.OnClick = [] { ui::Forms::Current().Get("frmAverage").ShowModal(); };
-    cmdAccept.OnClick = [this] { Accept(); };
-    cmdFinish.OnClick = [this] { Close(); };
 }
 
 void frmSingle::Load() {

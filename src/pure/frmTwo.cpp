@@ -14,8 +14,7 @@ namespace vexora {
 frmTwo::frmTwo() : ChainForm("frmTwo", "Property as function of state variables") {
     ArrangeControls();
     WireEvents();
-    DefaultButton = &cmdOK;
-    CancelButton = &cmdFinish;
+    UseButtons(cmdOK, cmdFinish, [this] { Accept(); });
     HelpContext = 335;
     txtPrpSetNo.Locked(true);
 }
@@ -51,8 +50,6 @@ void frmTwo::WireEvents() {
     lstNumerical.OnClick = [this] { NumericalClick(); };
     chkIncludeDigit.OnClick = [this] { ShowDigits(); };
     cmdMethod.OnClick = [this] { Method(); };
-    cmdOK.OnClick = [this] { Accept(); };
-    cmdFinish.OnClick = [this] { Close(); };
 }
 
 void frmTwo::Load() {

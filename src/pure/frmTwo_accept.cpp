@@ -76,6 +76,7 @@ void frmTwo::Accept() {
     Close();
 }
 
+/// The fields stand in the order of their names in TwoField.
 ui::Control& frmTwo::FieldOf(TwoField field) {
     ui::Control* const fields[] = {&cboSample,    &cboVar1,     &lstVariable_Unit,  &cboVar2,
                                    &lstVar2_Unit, &txtVar3,     &lstPROPERTY_FUNCT, &lstRelation,

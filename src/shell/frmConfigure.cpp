@@ -37,8 +37,7 @@ frmConfigure::frmConfigure() : Form("frmConfigure", "Vexora Input: Configuration
                      ui::Field("Output folder:", txtOutDir)}),
          ui::Group(fraMode, {ui::Row({optSimple, optAdvanced})}), chkBio, chkGH, ui::Stretch(),
          ui::ButtonRow({cmdHelp, cmdAccept, cmdCancel})});
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdAccept, cmdCancel, [this] { cmdAccept_Click(); });
     HelpContext = 610;
     PreferredColumns = 70;
     txtContributor.Visible(false);
@@ -48,8 +47,6 @@ frmConfigure::frmConfigure() : Form("frmConfigure", "Vexora Input: Configuration
     txtUserName.OnChange = [this] { PlainText(txtUserName); };
     txtOrg.OnChange = [this] { PlainText(txtOrg); };
     cmdHelp.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
-    cmdAccept.OnClick = [this] { cmdAccept_Click(); };
-    cmdCancel.OnClick = [this] { Close(); };
 }
 
 void frmConfigure::Load() {

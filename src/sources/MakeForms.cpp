@@ -75,13 +75,19 @@ public:
     }
 
 protected:
+    /// What stands before and behind a part in the source text.
+    struct Frame {
+        std::string_view before, behind;
+    };
+
     /// A field for one part; the marks of the source text are kept out of it. One that has to be
     /// filled says what is missing.
     class Part : public PlainTextBox {
     public:
-        Part(MakeForm& form, std::string name, const std::string& label, std::string missing = {})
+        Part(MakeForm& form, std::string name, const std::string& label, Frame frame = {},
+             std::string missing = {})
             : PlainTextBox(form, std::move(name), Lines::One, Marks) {
-            form.Ask(*this, ui::Field(label, *this), std::move(missing));
+            form.Ask(*this, ui::Field(label, *this), frame, std::move(missing));
         }
     };
 
@@ -92,7 +98,7 @@ protected:
                std::string prompt, std::string table, std::string column)
             : CompletingCombo(form, std::move(name), std::move(prompt), std::move(table),
                               std::move(column)) {
-            form.Ask(*this, ui::Field(label, *this), std::move(missing));
+            form.Ask(*this, ui::Field(label, *this), {", ", ""}, std::move(missing));
         }
     };
 
@@ -100,20 +106,27 @@ protected:
         ui::Layout layout;
         ui::Control* field = nullptr;
         std::function<std::string()> entered = {};
+        Frame frame = {};
         std::string missing = {};
     };
 
     MakeForm(std::string name, std::string caption) : Form(std::move(name), std::move(caption)) {
         PreferredColumns = 60;
-        DefaultButton = &cmdAccept;
-        CancelButton = &cmdCancel;
-        cmdAccept.OnClick = [this] { Accept(); };
-        cmdCancel.OnClick = [this] { Close(); };
+        UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
     }
 
     /// Fills lists before the parts are shown.
     virtual void Prepare() {}
-    virtual std::string Compose() const = 0;
+    /// The source text, here one part behind the other.
+    virtual std::string Compose() const {
+        std::string text;
+        for (const Asked& one : asked_) {
+            if (!one.entered) continue;
+            const std::string entered = WithoutMarks(one.entered());
+            text += PartText(one.frame.before, entered, one.frame.behind);
+        }
+        return text;
+    }
     /// Fills the fields from a text that Compose may have built, as far as it can be taken apart.
     virtual void TakeApart(SourceReader reader) = 0;
 
@@ -123,9 +136,9 @@ protected:
 
 private:
     template <class Field>
-    void Ask(Field& field, ui::Layout layout, std::string missing) {
-        asked_.push_back(
-            {std::move(layout), &field, [&field] { return field.Entered(); }, std::move(missing)});
+    void Ask(Field& field, ui::Layout layout, Frame frame, std::string missing) {
+        asked_.push_back({std::move(layout), &field, [&field] { return field.Entered(); }, frame,
+                          std::move(missing)});
     }
 
     void Arrange() {
@@ -166,12 +179,12 @@ public:
     frmMakeBook() : MakeForm("frmMakeBook", "Book or portion of a book") {}
 
 private:
-    Part title_{*this, "txtTitle", "Book title:", "Enter book title"};
-    Part edition_{*this, "txtEdition", "Edition:"};
-    Part volume_{*this, "txtVolume", "Volume:"};
-    Part chapter_{*this, "txtChapter", "Chapter:"};
-    Part pages_{*this, "txtPages", "Page(s):"};
-    Part editor_{*this, "txtEditor", "Editor(s):"};
+    Part title_{*this, "txtTitle", "Book title:", {"@", "@"}, "Enter book title"};
+    Part edition_{*this, "txtEdition", "Edition:", {", ", " ed."}};
+    Part volume_{*this, "txtVolume", "Volume:", {", Vol. ", ""}};
+    Part chapter_{*this, "txtChapter", "Chapter:", {", Ch. ", ""}};
+    Part pages_{*this, "txtPages", "Page(s):", {", Pg. ", ""}};
+    Part editor_{*this, "txtEditor", "Editor(s):", {", ", ", Ed."}};
     Choice publisher_{*this,
                       "cboPublisher",
                       "Publisher:",
@@ -181,13 +194,6 @@ private:
                       "Publisher"};
 
     void Prepare() override { publisher_.Fill(); }
-
-    std::string Compose() const override {
-        return "@" + title_.Entered() + "@" + PartText(", ", edition_.Entered(), " ed.") +
-               PartText(", Vol. ", volume_.Entered()) + PartText(", Ch. ", chapter_.Entered()) +
-               PartText(", Pg. ", pages_.Entered()) + PartText(", ", editor_.Entered(), ", Ed.") +
-               PartText(", ", WithoutMarks(publisher_.Entered()));
-    }
 
     void TakeApart(SourceReader reader) override {
         title_.Text(reader.Marked('@'));
@@ -237,7 +243,7 @@ private:
     Part volume_{*this, "txtVolume", "Volume:"};
     Part issue_{*this, "txtIssue", "Issue:"};
     ui::Label lblPages_{*this, "lblPages", "Page(s): First ( - Last)"};
-    Part pages_{*this, "txtPages", "", "Enter page(s)"};
+    Part pages_{*this, "txtPages", "", {}, "Enter page(s)"};
 
     void Prepare() override {
         journal_.Fill();
@@ -276,15 +282,10 @@ public:
     frmMakeReport() : MakeForm("frmMakeReport", "Report") {}
 
 private:
-    Part name_{*this, "txtName", "Report name:", "Enter report name"};
-    Part no_{*this, "txtNo", "Report No:", "Enter report No"};
-    Part institution_{*this, "txtInst", "Institution:", "Enter institution name"};
-    Part location_{*this, "txtLoc", "Location:"};
-
-    std::string Compose() const override {
-        return "@" + name_.Entered() + "@ " + no_.Entered() + "@ " + institution_.Entered() +
-               PartText(", ", location_.Entered());
-    }
+    Part name_{*this, "txtName", "Report name:", {"@", "@ "}, "Enter report name"};
+    Part no_{*this, "txtNo", "Report No:", {"", "@ "}, "Enter report No"};
+    Part institution_{*this, "txtInst", "Institution:", {}, "Enter institution name"};
+    Part location_{*this, "txtLoc", "Location:", {", ", ""}};
 
     void TakeApart(SourceReader reader) override {
         name_.Text(reader.Marked('@'));
@@ -300,15 +301,10 @@ public:
     frmMakePatent() : MakeForm("frmMakePatent", "Patent") {}
 
 private:
-    Part country_{*this, "txtCountry", "Country:", "Enter country"};
-    Part no_{*this, "txtNo", "Patent No:", "Enter patent No"};
-    Part owner_{*this, "txtOwner", "Owner:"};
-    Part date_{*this, "txtDate", "Date:"};
-
-    std::string Compose() const override {
-        return country_.Entered() + " Patent " + no_.Entered() + PartText(", ", owner_.Entered()) +
-               PartText(", ", date_.Entered());
-    }
+    Part country_{*this, "txtCountry", "Country:", {"", " Patent "}, "Enter country"};
+    Part no_{*this, "txtNo", "Patent No:", {}, "Enter patent No"};
+    Part owner_{*this, "txtOwner", "Owner:", {", ", ""}};
+    Part date_{*this, "txtDate", "Date:", {", ", ""}};
 
     void TakeApart(SourceReader reader) override {
         country_.Text(reader.UpTo(" Patent "));
@@ -325,10 +321,10 @@ public:
     }
 
 private:
-    Part degree_{*this, "txtDegree", "Degree:", "Enter degree"};
+    Part degree_{*this, "txtDegree", "Degree:", {}, "Enter degree"};
     ui::OptionButton optT_{*this, "optT", "Thesis"};
     ui::OptionButton optD_{*this, "optD", "Dissertation"};
-    Part institution_{*this, "txtInst", "Institution:", "Enter institution name"};
+    Part institution_{*this, "txtInst", "Institution:", {}, "Enter institution name"};
     Part location_{*this, "txtLoc", "Location:"};
 
     std::string Compose() const override {
@@ -352,15 +348,10 @@ public:
     frmMakeConf() : MakeForm("frmMakeConf", "Conference proceedings") {}
 
 private:
-    Part name_{*this, "txtName", "Conference name:", "Enter conference name"};
-    Part location_{*this, "txtLoc", "Location:"};
-    Part date_{*this, "txtDate", "Date:"};
-    Part pages_{*this, "txtPages", "Page(s):"};
-
-    std::string Compose() const override {
-        return "@" + name_.Entered() + "@" + PartText(", ", location_.Entered()) +
-               PartText(", ", date_.Entered()) + PartText(", pp ", pages_.Entered());
-    }
+    Part name_{*this, "txtName", "Conference name:", {"@", "@"}, "Enter conference name"};
+    Part location_{*this, "txtLoc", "Location:", {", ", ""}};
+    Part date_{*this, "txtDate", "Date:", {", ", ""}};
+    Part pages_{*this, "txtPages", "Page(s):", {", pp ", ""}};
 
     void TakeApart(SourceReader reader) override {
         name_.Text(reader.Marked('@'));
@@ -376,14 +367,9 @@ public:
     frmMakeDeposited() : MakeForm("frmMakeDeposited", "Deposited document") {}
 
 private:
-    Part no_{*this, "txtNo", "Document No:", "Enter document No"};
-    Part institution_{*this, "txtInst", "Institution:", "Enter institution name"};
-    Part pages_{*this, "txtPages", "Page(s):"};
-
-    std::string Compose() const override {
-        return "@Deposited Document@ " + no_.Entered() + " " + institution_.Entered() +
-               PartText(", pp", pages_.Entered());
-    }
+    Part no_{*this, "txtNo", "Document No:", {"@Deposited Document@ ", " "}, "Enter document No"};
+    Part institution_{*this, "txtInst", "Institution:", {}, "Enter institution name"};
+    Part pages_{*this, "txtPages", "Page(s):", {", pp", ""}};
 
     void TakeApart(SourceReader reader) override {
         reader.Marked('@');

@@ -52,16 +52,13 @@ frmAuthor::frmAuthor() : Form("frmAuthor", "Author's Name") {
                     ui::Field("First && Middle (Names or Initials):", txtFirst),
                     ui::Row({cmdVerify, ui::Stretch()}), ui::Field("Search results:", cboAuthor),
                     ui::Stretch(), ui::ButtonRow({cmdAdd, cmdFinish})});
-    DefaultButton = &cmdAdd;
-    CancelButton = &cmdFinish;
+    UseButtons(cmdAdd, cmdFinish, [this] { cmdAdd_Click(); });
     HelpContext = 230;
     PreferredColumns = 60;
     mnuHelp.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
     txtLast.AfterChange = [this] { NameChanged(txtLast); };
     txtFirst.AfterChange = [this] { NameChanged(txtFirst); };
     cmdVerify.OnClick = [this] { cmdVerify_Click(); };
-    cmdAdd.OnClick = [this] { cmdAdd_Click(); };
-    cmdFinish.OnClick = [this] { Close(); };
 }
 
 void frmAuthor::NameChanged(PlainTextBox& field) {

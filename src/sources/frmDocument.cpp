@@ -41,16 +41,13 @@ frmDocument::frmDocument() : ChainForm("frmDocument", "Literature source descrip
                     ui::Field("Key words:", txtKeyWords),
                     ui::Field("    Abstract     (if available):", txtAbstract),
                     ui::ButtonRow({cmdAccept, cmdCalcel})});
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCalcel;
+    UseButtons(cmdAccept, cmdCalcel, [this] { cmdAccept_Click(); });
     HelpContext = 225;
     PreferredColumns = 110;
     mnuHowTo.OnClick = [this] { ui::TheDesktop().ShowHelp(HelpContext); };
     cboTypeDoc.OnClick = [this] { cboTypeDoc_Click(); };
     txtSource.OnClick = [this] { txtSource_Click(); };
     txtAuthors.OnClick = [this] { txtAuthors_Click(); };
-    cmdAccept.OnClick = [this] { cmdAccept_Click(); };
-    cmdCalcel.OnClick = [this] { Close(); };
     ClickBySpace(txtSource);
     ClickBySpace(txtAuthors);
 }

@@ -42,16 +42,13 @@ frmRef::frmRef() : ChainForm("frmRef", "Add reference") {
          ui::Field("Search results:", lstSourceDoc), ui::Field("SeqNo:", ui::Narrow(txtSeqNo, 6)),
          ui::Field("Reference Source", cboSource),
          ui::ButtonRow({cmdAccept, cmdCreate, cmdCancel})});
-    DefaultButton = &cmdAccept;
-    CancelButton = &cmdCancel;
+    UseButtons(cmdAccept, cmdCancel, [this] { cmdAccept_Click(); });
     PreferredColumns = 104;
     for (ui::TextBox* field : {&txtYear, &txtAut1, &txtAut2})
         field->OnChange = [this] { Identification_Change(); };
     cmdVerify.OnClick = [this] { cmdVerify_Click(); };
     lstSourceDoc.OnClick = [this] { lstSourceDoc_Click(); };
-    cmdAccept.OnClick = [this] { cmdAccept_Click(); };
     cmdCreate.OnClick = [this] { cmdCreate_Click(); };
-    cmdCancel.OnClick = [this] { Close(); };
     txtSeqNo.Locked(true);
 }
 

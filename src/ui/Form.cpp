@@ -136,6 +136,14 @@ Control* Form::NextInTabOrder(bool backwards) const {
     return nullptr;
 }
 
+void Form::UseButtons(CommandButton& accept, CommandButton& cancel,
+                      std::function<void()> onAccept) {
+    DefaultButton = &accept;
+    accept.OnClick = std::move(onAccept);
+    CancelButton = &cancel;
+    cancel.OnClick = [this] { Close(); };
+}
+
 void Form::TabAlongArrangement() {
     std::vector<Control*> ordered;
     Gather(Arrangement, ordered);

@@ -76,6 +76,8 @@ public:
     /// The usable control behind (or before) the active one in tab order, or null.
     Control* NextInTabOrder(bool backwards) const;
 
+    /// Enter presses the first button, Escape the second, which closes the form.
+    void UseButtons(CommandButton& accept, CommandButton& cancel, std::function<void()> onAccept);
     /// Brings the controls into the order of the layout, where arrays of them stand in blocks;
     /// those outside of it follow as they were declared. For the constructor, behind Arrangement.
     void TabAlongArrangement();
