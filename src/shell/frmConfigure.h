@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Form.h"
+#include "ui/TextBox.h"
 
 namespace vexora {
 

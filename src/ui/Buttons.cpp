@@ -4,14 +4,6 @@
 
 namespace vexora::ui {
 
-namespace {
-
-bool Presses(const Key& key) {
-    return !key.control && !key.alt && (key.name == "Space" || key.name == "Enter");
-}
-
-} // namespace
-
 std::string WithoutMnemonic(std::string_view caption) {
     std::string text;
     for (std::size_t i = 0; i < caption.size(); ++i) {
@@ -21,60 +13,23 @@ std::string WithoutMnemonic(std::string_view caption) {
     return text;
 }
 
-Label::Label(Form& form, std::string name, std::string caption)
-    : Control(form, ControlKind::Label, std::move(name)), caption_(std::move(caption)) {}
-
-void Label::Caption(std::string text) {
-    if (caption_ == text) return;
-    caption_ = std::move(text);
-    Changed();
+std::string Button::Display() const {
+    return WithoutMnemonic(Caption());
 }
 
-CommandButton::CommandButton(Form& form, std::string name, std::string caption)
-    : Control(form, ControlKind::CommandButton, std::move(name)), caption_(std::move(caption)) {}
-
-void CommandButton::Caption(std::string text) {
-    if (caption_ == text) return;
-    caption_ = std::move(text);
-    Changed();
-}
-
-std::string CommandButton::Display() const {
-    return WithoutMnemonic(caption_);
-}
-
-bool CommandButton::UserKey(Key& key) {
+bool Button::UserKey(Key& key) {
     if (Control::UserKey(key)) return true;
-    if (!IsUsable() || !Presses(key)) return false;
+    if (!IsUsable() || !IsPressedBy(key)) return false;
     UserClick();
     return true;
 }
 
-CheckBox::CheckBox(Form& form, std::string name, std::string caption)
-    : CheckBox(form, ControlKind::CheckBox, std::move(name), std::move(caption)) {}
-
-CheckBox::CheckBox(Form& form, ControlKind kind, std::string name, std::string caption)
-    : Control(form, kind, std::move(name)), caption_(std::move(caption)) {}
-
-void CheckBox::Caption(std::string text) {
-    if (caption_ == text) return;
-    caption_ = std::move(text);
-    Changed();
+bool CommandButton::IsPressedBy(const Key& key) const {
+    return !key.control && !key.alt && (key.name == "Space" || key.name == "Enter");
 }
 
 void CheckBox::Set(bool value) {
-    if (value_ == value) return;
-    value_ = value;
-    Changed();
-    Fire(OnClick);
-}
-
-void CheckBox::Value(bool value) {
-    Set(value);
-}
-
-std::string CheckBox::Display() const {
-    return WithoutMnemonic(caption_);
+    if (Alter(value_, value)) Fire(OnClick);
 }
 
 void CheckBox::UserClick() {
@@ -82,17 +37,6 @@ void CheckBox::UserClick() {
     SetFocus();
     Set(!value_);
 }
-
-bool CheckBox::UserKey(Key& key) {
-    if (Control::UserKey(key)) return true;
-    if (!IsUsable() || key.name != "Space") return false;
-    UserClick();
-    return true;
-}
-
-OptionButton::OptionButton(Form& form, std::string name, std::string caption, int group)
-    : CheckBox(form, ControlKind::OptionButton, std::move(name), std::move(caption)),
-      group_(group) {}
 
 void OptionButton::Value(bool value) {
     if (value) {

@@ -1,7 +1,6 @@
 #include "ui/Control.h"
 
 #include "ui/Form.h"
-#include "ui/Frame.h"
 
 namespace vexora::ui {
 
@@ -14,30 +13,12 @@ Control::~Control() {
     form_.Disown(*this);
 }
 
-void Control::Enabled(bool value) {
-    if (enabled_ == value) return;
-    enabled_ = value;
-    Changed();
-}
-
-void Control::Visible(bool value) {
-    if (visible_ == value) return;
-    visible_ = value;
-    Changed();
-}
-
 bool Control::IsShown() const {
     return visible_ && (container_ == nullptr || container_->IsShown());
 }
 
 bool Control::IsUsable() const {
     return visible_ && enabled_ && (container_ == nullptr || container_->IsUsable());
-}
-
-void Control::ToolTip(std::string text) {
-    if (toolTip_ == text) return;
-    toolTip_ = std::move(text);
-    Changed();
 }
 
 void Control::SetFocus() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "ui/Key.h"
 #include "ui/Signal.h"
@@ -47,16 +48,16 @@ public:
     const std::string& Name() const { return name_; }
 
     bool Enabled() const { return enabled_; }
-    void Enabled(bool value);
+    void Enabled(bool value) { Alter(enabled_, value); }
     bool Visible() const { return visible_; }
-    void Visible(bool value);
+    void Visible(bool value) { Alter(visible_, value); }
     /// Seen on the screen: visible itself and so are the frames around it.
     bool IsShown() const;
     /// Shown, and neither it nor a frame around it is disabled.
     bool IsUsable() const;
 
     const std::string& ToolTip() const { return toolTip_; }
-    void ToolTip(std::string text);
+    void ToolTip(std::string text) { Alter(toolTip_, std::move(text)); }
 
     /// Moves the focus of the form here; nothing happens when the control cannot take it.
     void SetFocus();
@@ -86,6 +87,14 @@ public:
 
 protected:
     void Changed() { Redraw.Emit(); }
+    /// Takes a value over and tells the views; false when it is the one that stands there.
+    template <class T>
+    bool Alter(T& member, T value) {
+        if (member == value) return false;
+        member = std::move(value);
+        Changed();
+        return true;
+    }
     static void Fire(const std::function<void()>& handler) {
         if (handler) handler();
     }

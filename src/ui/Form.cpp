@@ -22,8 +22,6 @@ void Gather(const Layout& layout, std::vector<Control*>& controls) {
 Form::Form(std::string name, std::string caption)
     : name_(std::move(name)), caption_(std::move(caption)) {}
 
-Form::~Form() = default;
-
 void Form::Caption(std::string text) {
     if (caption_ == text) return;
     caption_ = std::move(text);

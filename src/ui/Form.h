@@ -8,7 +8,6 @@
 #include "ui/Buttons.h"
 #include "ui/Control.h"
 #include "ui/ControlArray.h"
-#include "ui/Frame.h"
 #include "ui/Grid.h"
 #include "ui/Layout.h"
 #include "ui/Lists.h"
@@ -25,7 +24,7 @@ namespace vexora::ui {
 class Form {
 public:
     Form(std::string name, std::string caption);
-    virtual ~Form();
+    virtual ~Form() = default;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 

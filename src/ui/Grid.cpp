@@ -104,12 +104,6 @@ void Grid::Cell(int row, int column, std::string text) {
     TellChange(row, column);
 }
 
-void Grid::Editable(bool value) {
-    if (editable_ == value) return;
-    editable_ = value;
-    Changed();
-}
-
 void Grid::Select(Block block) {
     if (selection_ == block) return;
     selection_ = block;

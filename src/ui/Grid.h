@@ -59,7 +59,7 @@ public:
     const std::string& Cell(int row, int column) const;
     void Cell(int row, int column, std::string text);
     bool IsEditable() const { return editable_; }
-    void Editable(bool value);
+    void Editable(bool value) { Alter(editable_, value); }
 
     /// A field that the form shows while a cell is being edited; it is laid over the selected cell,
     /// and double clicks and typed keys are the form's to handle. Null: the view edits by itself.

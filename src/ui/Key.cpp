@@ -31,6 +31,8 @@ Key ParseKey(const std::string& fullName) {
 }
 
 Key CharacterKey(char32_t character) {
+    if (character == U'\n') return ParseKey("Enter");
+    if (character == U'\t') return ParseKey("Tab");
     Key key;
     key.name = character == U' ' ? "Space" : FromPoints(std::u32string(1, character));
     key.character = character;

@@ -23,7 +23,7 @@ struct Key {
 /// The key for a script's name of it, such as "Enter", "Ctrl+V", "a" or "Num*".
 Key ParseKey(const std::string& fullName);
 
-/// The key that writes a character.
+/// The key that writes a character; those of a line feed and a tab are Enter and Tab.
 Key CharacterKey(char32_t character);
 
 } // namespace vexora::ui

@@ -1,16 +1,19 @@
 #include "ui/Layout.h"
 
-#include "ui/Frame.h"
+#include "ui/Buttons.h"
 
 namespace vexora::ui {
 
 namespace {
 
-Layout Make(Layout::Kind kind, std::vector<Layout> parts, std::string text = {}) {
+Layout Make(Layout::Kind kind, std::vector<Layout> parts, std::string text = {},
+            Control* control = nullptr, Control* label = nullptr) {
     Layout layout;
     layout.kind = kind;
     layout.parts = std::move(parts);
     layout.text = std::move(text);
+    layout.control = control;
+    layout.label = label;
     return layout;
 }
 
@@ -38,9 +41,7 @@ Layout Group(std::string caption, std::vector<Layout> parts) {
 Layout Group(Frame& frame, std::vector<Layout> parts) {
     for (const Layout& part : parts)
         PutInto(frame, part);
-    Layout layout = Make(Layout::Kind::Group, std::move(parts));
-    layout.control = &frame;
-    return layout;
+    return Make(Layout::Kind::Group, std::move(parts), {}, &frame);
 }
 
 Layout Field(std::string label, Layout part) {
@@ -48,15 +49,11 @@ Layout Field(std::string label, Layout part) {
 }
 
 Layout Field(Control& label, Layout part) {
-    Layout layout = Make(Layout::Kind::Field, {std::move(part)});
-    layout.label = &label;
-    return layout;
+    return Make(Layout::Kind::Field, {std::move(part)}, {}, nullptr, &label);
 }
 
 Layout Pages(TabStrip& tabs, std::vector<Layout> pages) {
-    Layout layout = Make(Layout::Kind::Pages, std::move(pages));
-    layout.control = &tabs;
-    return layout;
+    return Make(Layout::Kind::Pages, std::move(pages), {}, &tabs);
 }
 
 Layout Split(Layout left, Layout right) {

@@ -21,9 +21,6 @@ bool BeginsWith(const std::string& text, char32_t letter) {
 
 } // namespace
 
-ItemList::ItemList(Form& form, ControlKind kind, std::string name)
-    : Control(form, kind, std::move(name)) {}
-
 const std::string& ItemList::Item(int index) const {
     static const std::string none;
     return index >= 0 && index < Count() ? items_[static_cast<std::size_t>(index)] : none;
@@ -75,10 +72,7 @@ void ItemList::Assign(std::vector<std::string> items) {
 
 void ItemList::Index(int index) {
     if (index < 0 || index >= Count()) index = -1;
-    if (index_ == index) return;
-    index_ = index;
-    Changed();
-    Fire(OnClick);
+    if (Alter(index_, index)) Fire(OnClick);
 }
 
 bool ItemList::Choose(std::string_view text) {
@@ -105,12 +99,6 @@ bool ItemList::UserKey(Key& key) {
     if (next != index_ && Count() > 0) Index(next);
     return true;
 }
-
-void ItemList::EntryRemoved(int) {}
-void ItemList::EntryInserted(int) {}
-
-ComboBox::ComboBox(Form& form, std::string name, Style style)
-    : ItemList(form, ControlKind::ComboBox, std::move(name)), style_(style) {}
 
 std::string ComboBox::Text() const {
     return IsEditable() && Index() < 0 ? typed_ : Chosen();
@@ -197,9 +185,6 @@ bool ComboBox::UserKey(Key& key) {
     return true;
 }
 
-ListBox::ListBox(Form& form, std::string name, Mode mode)
-    : ItemList(form, ControlKind::ListBox, std::move(name)), mode_(mode) {}
-
 bool ListBox::Selected(int index) const {
     if (mode_ == Mode::Single) return index >= 0 && index == Index();
     return index >= 0 && index < Count() && selected_[static_cast<std::size_t>(index)];
@@ -243,15 +228,5 @@ void ListBox::UserChoose(int index) {
     else
         UserSelect(index, true);
 }
-
-void ListBox::EntryRemoved(int index) {
-    selected_.erase(selected_.begin() + index);
-}
-void ListBox::EntryInserted(int index) {
-    selected_.insert(selected_.begin() + index, false);
-}
-
-TabStrip::TabStrip(Form& form, std::string name)
-    : ItemList(form, ControlKind::TabStrip, std::move(name)) {}
 
 } // namespace vexora::ui

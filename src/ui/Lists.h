@@ -43,9 +43,9 @@ public:
     bool UserKey(Key& key) override;
 
 protected:
-    ItemList(Form& form, ControlKind kind, std::string name);
-    virtual void EntryRemoved(int index);
-    virtual void EntryInserted(int index);
+    using Control::Control;
+    virtual void EntryRemoved(int) {}
+    virtual void EntryInserted(int) {}
     void SetIndexQuietly(int index) { index_ = index; }
 
 private:
@@ -59,7 +59,8 @@ class ComboBox : public ItemList {
 public:
     enum class Style { DropList, Editable };
 
-    ComboBox(Form& form, std::string name, Style style = Style::DropList);
+    ComboBox(Form& form, std::string name, Style style = Style::DropList)
+        : ItemList(form, ControlKind::ComboBox, std::move(name)), style_(style) {}
     bool IsEditable() const { return style_ == Style::Editable; }
 
     /// What the field shows: the typed text of an editable one, else the chosen entry.
@@ -95,7 +96,8 @@ class ListBox : public ItemList {
 public:
     enum class Mode { Single, Multi, Check };
 
-    ListBox(Form& form, std::string name, Mode mode = Mode::Single);
+    ListBox(Form& form, std::string name, Mode mode = Mode::Single)
+        : ItemList(form, ControlKind::ListBox, std::move(name)), mode_(mode) {}
     ui::ListBox::Mode SelectionMode() const { return mode_; }
     bool Selected(int index) const;
     void Selected(int index, bool on);
@@ -106,8 +108,8 @@ public:
     bool UserKey(Key& key) override;
 
 protected:
-    void EntryRemoved(int index) override;
-    void EntryInserted(int index) override;
+    void EntryRemoved(int index) override { selected_.erase(selected_.begin() + index); }
+    void EntryInserted(int index) override { selected_.insert(selected_.begin() + index, false); }
 
 private:
     Mode mode_;
@@ -118,7 +120,8 @@ private:
 /// change of page.
 class TabStrip : public ItemList {
 public:
-    TabStrip(Form& form, std::string name);
+    TabStrip(Form& form, std::string name)
+        : ItemList(form, ControlKind::TabStrip, std::move(name)) {}
 };
 
 } // namespace vexora::ui

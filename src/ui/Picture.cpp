@@ -2,9 +2,6 @@
 
 namespace vexora::ui {
 
-Picture::Picture(Form& form, std::string name, double width, double height)
-    : Control(form, ControlKind::Picture, std::move(name)), width_(width), height_(height) {}
-
 void Picture::Strokes(std::vector<Stroke> strokes) {
     strokes_ = std::move(strokes);
     ++revision_;

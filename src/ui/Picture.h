@@ -43,7 +43,8 @@ public:
         bool dense = false;  // a marker among very many: small, and no edge that hides others
     };
 
-    Picture(Form& form, std::string name, double width, double height);
+    Picture(Form& form, std::string name, double width, double height)
+        : Control(form, ControlKind::Picture, std::move(name)), width_(width), height_(height) {}
     double Width() const { return width_; }
     double Height() const { return height_; }
     const std::vector<Stroke>& Strokes() const { return strokes_; }

@@ -24,20 +24,13 @@ std::u32string OneLine(std::u32string_view text) {
 
 } // namespace
 
-TextBox::TextBox(Form& form, std::string name, Lines lines)
-    : Control(form, ControlKind::TextBox, std::move(name)), lines_(lines) {}
-
 void TextBox::Text(std::string text) {
     if (text == text_) return;
     const std::size_t end = ToPoints(text).size();
-    Put(std::move(text), end);
+    TextAndCaret(std::move(text), end);
 }
 
 void TextBox::TextAndCaret(std::string text, std::size_t caret) {
-    Put(std::move(text), caret);
-}
-
-void TextBox::Put(std::string text, std::size_t caret) {
     const bool changed = text != text_;
     const std::size_t place = std::min(caret, ToPoints(text).size());
     if (!changed && start_ == place && length_ == 0) return;
@@ -46,12 +39,6 @@ void TextBox::Put(std::string text, std::size_t caret) {
     length_ = 0;
     Changed();
     if (changed) Fire(OnChange);
-}
-
-void TextBox::Locked(bool value) {
-    if (locked_ == value) return;
-    locked_ = value;
-    Changed();
 }
 
 void TextBox::Select(std::size_t start, std::size_t length) {
@@ -68,11 +55,11 @@ void TextBox::SelectAll() {
 void TextBox::UserReplaceAll(const std::string& text) {
     if (!IsUsable() || locked_) return;
     const std::u32string points = ToPoints(text);
-    Put(IsMultiLine() ? text : FromPoints(OneLine(points)), points.size());
+    TextAndCaret(IsMultiLine() ? text : FromPoints(OneLine(points)), points.size());
 }
 
 void TextBox::UserEdited(std::string text, std::size_t caret) {
-    if (IsUsable() && !locked_) Put(std::move(text), caret);
+    if (IsUsable() && !locked_) TextAndCaret(std::move(text), caret);
 }
 
 void TextBox::UserPaste(const std::string& text) {
@@ -83,7 +70,7 @@ void TextBox::ReplaceSelection(std::u32string_view with) {
     std::u32string points = ToPoints(text_);
     const std::u32string text = IsMultiLine() ? std::u32string(with) : OneLine(with);
     points.replace(start_, length_, text);
-    Put(FromPoints(points), start_ + text.size());
+    TextAndCaret(FromPoints(points), start_ + text.size());
 }
 
 void TextBox::Erase(bool backwards) {
@@ -146,15 +133,6 @@ bool TextBox::UserKey(Key& key) {
     if (!IsUsable()) return false;
     if (Move(key) || UseClipboard(key)) return true;
     return !locked_ && !key.control && !key.alt && Edit(key);
-}
-
-RichText::RichText(Form& form, std::string name)
-    : Control(form, ControlKind::RichText, std::move(name)) {}
-
-void RichText::Html(std::string html) {
-    if (html_ == html) return;
-    html_ = std::move(html);
-    Changed();
 }
 
 std::string RichText::Display() const {

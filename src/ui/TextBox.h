@@ -12,7 +12,8 @@ class TextBox : public Control {
 public:
     enum class Lines { One, Many };
 
-    TextBox(Form& form, std::string name, Lines lines = Lines::One);
+    TextBox(Form& form, std::string name, Lines lines = Lines::One)
+        : Control(form, ControlKind::TextBox, std::move(name)), lines_(lines) {}
 
     const std::string& Text() const { return text_; }
     /// Puts the caret behind the text.
@@ -22,7 +23,7 @@ public:
     bool IsEmpty() const { return text_.empty(); }
 
     bool Locked() const { return locked_; }
-    void Locked(bool value);
+    void Locked(bool value) { Alter(locked_, value); }
     bool IsMultiLine() const { return lines_ == Lines::Many; }
 
     std::size_t Caret() const { return start_ + length_; }
@@ -45,7 +46,6 @@ public:
     bool UserKey(Key& key) override;
 
 private:
-    void Put(std::string text, std::size_t caret);
     void ReplaceSelection(std::u32string_view with);
     void Erase(bool backwards);
     bool Move(const Key& key);
@@ -63,9 +63,10 @@ private:
 /// of HTML.
 class RichText : public Control {
 public:
-    RichText(Form& form, std::string name);
+    RichText(Form& form, std::string name)
+        : Control(form, ControlKind::RichText, std::move(name)) {}
     const std::string& Html() const { return html_; }
-    void Html(std::string html);
+    void Html(std::string html) { Alter(html_, std::move(html)); }
     /// The text without its marks.
     std::string Display() const override;
 

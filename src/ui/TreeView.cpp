@@ -30,11 +30,6 @@ void TreeNode::EnsureVisible() {
         node->Expanded(true);
 }
 
-TreeView::TreeView(Form& form, std::string name)
-    : Control(form, ControlKind::TreeView, std::move(name)) {}
-
-TreeView::~TreeView() = default;
-
 TreeNode& TreeView::Add(TreeNode* parent, std::string_view key, std::string text) {
     const std::string unique = Unique(key);
     auto& siblings = parent ? parent->children_ : roots_;
@@ -118,10 +113,6 @@ void TreeView::UserNodeReached(TreeNode& node) {
 
 void TreeView::UserDrop(const std::string& path) {
     if (IsUsable() && OnDrop) OnDrop(path);
-}
-
-bool TreeView::UserKey(ui::Key& key) {
-    return Control::UserKey(key);
 }
 
 } // namespace vexora::ui

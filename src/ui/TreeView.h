@@ -50,8 +50,8 @@ private:
 /// The document as a tree. Node keys are unique; a taken key gets "~2", "~3", ... behind it.
 class TreeView : public Control {
 public:
-    TreeView(Form& form, std::string name);
-    ~TreeView() override;
+    TreeView(Form& form, std::string name)
+        : Control(form, ControlKind::TreeView, std::move(name)) {}
 
     /// Adds a node below a parent, or a root for none, as the last of its siblings.
     TreeNode& Add(TreeNode* parent, std::string_view key, std::string text);
@@ -79,7 +79,6 @@ public:
     /// The selection reaches the node by the keyboard: no mouse events.
     void UserNodeReached(TreeNode& node);
     void UserDrop(const std::string& path);
-    bool UserKey(ui::Key& key) override;
 
     /// Which node changed in text, look or place; null when the whole tree did.
     Signal<TreeNode*> NodeChanged;

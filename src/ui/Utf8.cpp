@@ -50,23 +50,13 @@ std::string FromPoints(std::u32string_view points) {
     std::string text;
     text.reserve(points.size());
     const auto add = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    static constexpr char32_t leads[] = {0, 0xC0, 0xE0, 0xF0}; // by the bytes that trail
     for (char32_t point : points) {
         if (!IsScalar(point)) point = Replacement;
-        if (point < 0x80) {
-            add(point);
-        } else if (point < 0x800) {
-            add(0xC0U | (point >> 6U));
-            add(0x80U | (point & 0x3FU));
-        } else if (point < 0x10000) {
-            add(0xE0U | (point >> 12U));
-            add(0x80U | ((point >> 6U) & 0x3FU));
-            add(0x80U | (point & 0x3FU));
-        } else {
-            add(0xF0U | (point >> 18U));
-            add(0x80U | ((point >> 12U) & 0x3FU));
-            add(0x80U | ((point >> 6U) & 0x3FU));
-            add(0x80U | (point & 0x3FU));
-        }
+        unsigned trailing = point < 0x80 ? 0 : point < 0x800 ? 1 : point < 0x10000 ? 2 : 3;
+        add(leads[trailing] | (point >> (6 * trailing)));
+        while (trailing-- > 0)
+            add(0x80U | ((point >> (6 * trailing)) & 0x3FU));
     }
     return text;
 }
