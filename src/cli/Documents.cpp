@@ -24,6 +24,9 @@ struct Arguments {
     std::string argv0;
 };
 
+/// Works on a document that has been read; the answer is an exit code.
+using Command = int(OpenedDocument& document, const Arguments& arguments);
+
 void TellLinesNotKept(OpenedDocument& document) {
     if (document.LinesNotKept() == 0) return;
     document.Tell(0, false,
@@ -31,9 +34,7 @@ void TellLinesNotKept(OpenedDocument& document) {
                       " lines hold data of kinds that this edition does not keep");
 }
 
-int Check(const Arguments& arguments) {
-    OpenedDocument document(arguments.document);
-    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+int Check(OpenedDocument& document, const Arguments&) {
     TellLinesNotKept(document);
     for (const DocumentFinding& finding : CheckDocument()) {
         document.Tell(finding.line, finding.isError, finding.text);
@@ -41,16 +42,12 @@ int Check(const Arguments& arguments) {
     return document.Findings() == 0 ? kExitClean : kExitFindings;
 }
 
-int Tree(const Arguments& arguments) {
-    OpenedDocument document(arguments.document);
-    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+int Tree(OpenedDocument& document, const Arguments&) {
     std::cout << host::TreeText(document.Tree());
     return kExitClean;
 }
 
-int Export(const Arguments& arguments) {
-    OpenedDocument document(arguments.document);
-    if (const int code = document.Open(arguments.home, arguments.argv0)) return code;
+int Export(OpenedDocument& document, const Arguments& arguments) {
     if (document.Files().Resolve(arguments.xml) == document.Files().Resolve(arguments.document)) {
         std::cerr << arguments.xml << ": error: this is the record file itself\n";
         return kExitCannotWrite;
@@ -72,11 +69,15 @@ int Export(const Arguments& arguments) {
 void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
     auto arguments = std::make_shared<Arguments>();
     arguments->argv0 = argv0;
-    const auto add = [&](const char* name, const char* what, int (*run)(const Arguments&)) {
+    const auto add = [&](const char* name, const char* what, Command* run) {
         CLI::App* command = app.add_subcommand(name, what);
         command->add_option("--home", arguments->home, "Application folder with the databases");
         command->add_option("DOCUMENT", arguments->document, "A record file")->required();
-        command->callback([arguments, run, &exitCode] { exitCode = run(*arguments); });
+        command->callback([arguments, run, &exitCode] {
+            OpenedDocument document(arguments->document);
+            exitCode = document.Open(arguments->home, arguments->argv0);
+            if (exitCode == kExitClean) exitCode = run(document, *arguments);
+        });
         return command;
     };
     add("export", "Write a document as ThermoML", Export)

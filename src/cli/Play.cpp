@@ -1,6 +1,6 @@
 #include "cli/Play.h"
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "host/PlayMain.h"
 #include "host/WorkbenchProgram.h"
 
@@ -23,7 +23,7 @@ void AddPlayCommand(CLI::App& app, int& exitCode) {
     CLI::App* play = app.add_subcommand("play", playHelp);
     play->prefix_command();
     play->callback([play, &app, &exitCode] {
-        host::ModelActor actor;
+        host::Actor actor;
         exitCode = host::PlayMain(play->remaining(),
                                   {actor, std::cout, std::cerr, app.get_name(), host::WorkbenchIn});
     });

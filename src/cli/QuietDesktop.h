@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "host/HostClock.h"
 #include "host/PosixFileSystem.h"
 #include "ui/Desktop.h"
 
@@ -14,7 +15,10 @@ public:
     using Listener = std::function<void(const ui::Message&)>;
     explicit QuietDesktop(Listener listener) : listener_(std::move(listener)) {}
 
-    ui::Answer Show(const ui::Message& message) override;
+    ui::Answer Show(const ui::Message& message) override {
+        listener_(message);
+        return message.buttons == ui::MessageButtons::Ok ? ui::Answer::Ok : message.safe;
+    }
     std::optional<std::string> Ask(const ui::Input&) override { return std::nullopt; }
     std::optional<std::string> Choose(const ui::FileChoice&) override { return std::nullopt; }
     std::string ClipboardText() override { return {}; }
@@ -22,7 +26,7 @@ public:
     void Hourglass(bool) override {}
     void ShowHelp(int) override {}
     void Print(const std::string&, const std::string&) override {}
-    ui::Date Today() override;
+    ui::Date Today() override { return host::ClockToday(); }
     ui::FileSystem& Files() override { return files_; }
     void RunModal(ui::Form&) override {}
     void EndProgram() override {}

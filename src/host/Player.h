@@ -71,6 +71,10 @@ private:
     void Report(const ScriptLine& line, const std::string& wanted, const std::string& found,
                 bool expectation);
     const ScriptLine* NextIf(std::string_view command);
+    /// The answer that the next line has for a question, nothing for "cancel" or none.
+    template <class TQuestion>
+    std::optional<std::string> AnswerNext(const TQuestion& question, std::string_view command,
+                                          const std::string& shown, const char* wanted);
 
     void Start(const ScriptLine& line);
     void Quit(const ScriptLine& line);
@@ -116,6 +120,9 @@ private:
     T& Reached(const std::string& word) const;
     ui::Form& NamedForm(const std::string& name) const;
     ui::TreeView& Tree() const;
+    /// The same, and a person can use it now.
+    ui::TreeView& ReachedTree() const;
+    void CloseWindow(ui::Form& form, const std::string& name);
 
     Actor& actor_;
     ui::FileSystem& files_;

@@ -9,18 +9,11 @@ namespace vexora::host {
 
 namespace {
 
-int Int(const ScriptLine& line, std::size_t word) {
-    return static_cast<int>(ParseInteger(line.Text(word)).value_or(0));
-}
-
 int Entry(const ui::ItemList& list, const ScriptLine& line, std::size_t word) {
     const int index = EntryIndex(list, line.Text(word), line.words[word].quoted);
     if (index >= 0) return index;
-    std::string entries;
-    for (const std::string& item : list.Items())
-        entries += (entries.empty() ? "" : ", ") + Quoted(item);
     CannotDo("entry " + Quoted(line.Text(word)) + " in " + list.Name(),
-             entries.empty() ? "an empty list" : entries);
+             EntriesText(list, "an empty list"));
 }
 
 /// A person can put text into it.
@@ -64,13 +57,10 @@ bool AnswersClicks(const ui::Control& control) {
 }
 
 ui::TreeNode& WantedNode(const ui::TreeView& tree, const ScriptLine& line) {
-    if (line.Is(1, "key")) {
-        if (ui::TreeNode* node = tree.Find(line.Text(2))) return *node;
-        CannotDo("a node with the key " + Quoted(line.Text(2)), "none");
-    }
-    const auto nodes = NodesAt(tree, line.Text(1));
-    if (nodes.empty()) CannotDo("the node " + Quoted(line.Text(1)), "none");
-    return *nodes.front();
+    const auto nodes = NodesNamed(tree, line, 1);
+    if (!nodes.empty()) return *nodes.front();
+    const char* what = line.Is(1, "key") ? "a node with the key " : "the node ";
+    CannotDo(what + Quoted(line.words.back().text), "none");
 }
 
 } // namespace
@@ -118,6 +108,18 @@ ui::TreeView& Player::Tree() const {
     CannotDo("a tree", "no open form has one");
 }
 
+ui::TreeView& Player::ReachedTree() const {
+    ui::TreeView& tree = Tree();
+    if (const std::string why = WhyNotUsable(tree); !why.empty()) CannotDo("the tree", why);
+    return tree;
+}
+
+void Player::CloseWindow(ui::Form& form, const std::string& name) {
+    if (const std::string why = WhyNotReachable(form); !why.empty())
+        CannotDo(name + " in reach", why);
+    actor_.CloseWindow(form);
+}
+
 void Player::Start(const ScriptLine& line) {
     if (program_ && (program_->MainForm() || modalDepth_ > 0)) {
         CannotDo("no workbench yet", "it is running");
@@ -133,10 +135,7 @@ void Player::Quit(const ScriptLine&) {
     OpenForms();
     ui::Form* main = program_->MainForm();
     if (!main) CannotDo("the main window", "it is not open");
-    if (const std::string why = WhyNotReachable(*main); !why.empty()) {
-        CannotDo("the main window in reach", why);
-    }
-    actor_.CloseWindow(*main);
+    CloseWindow(*main, "the main window");
 }
 
 void Player::Click(const ScriptLine& line) {
@@ -197,9 +196,9 @@ void Player::Tab(const ScriptLine& line) {
 }
 
 void Player::Node(const ScriptLine& line) {
-    ui::TreeView& tree = Tree();
-    if (const std::string why = WhyNotUsable(tree); !why.empty()) CannotDo("the tree", why);
+    ui::TreeView& tree = ReachedTree();
     ui::TreeNode& node = WantedNode(tree, line);
+    node.EnsureVisible();
     if (line.Is(0, "dblnode"))
         actor_.DoubleClickNode(tree, node);
     else if (line.Is(0, "keynode"))
@@ -210,19 +209,19 @@ void Player::Node(const ScriptLine& line) {
 
 void Player::Cell(const ScriptLine& line) {
     auto& grid = Reached<ui::Grid>(line.Text(1));
-    NeedsCell(grid, Int(line, 2), Int(line, 3), true);
-    actor_.TypeCell(grid, Int(line, 2), Int(line, 3), line.Text(4));
+    NeedsCell(grid, line.Int(2), line.Int(3), true);
+    actor_.TypeCell(grid, line.Int(2), line.Int(3), line.Text(4));
 }
 
 void Player::Cells(const ScriptLine& line) {
     auto& grid = Reached<ui::Grid>(line.Text(1));
-    NeedsCell(grid, Int(line, 2), Int(line, 3), true);
-    actor_.PasteCells(grid, Int(line, 2), Int(line, 3), line.BlockText());
+    NeedsCell(grid, line.Int(2), line.Int(3), true);
+    actor_.PasteCells(grid, line.Int(2), line.Int(3), line.BlockText());
 }
 
 void Player::Block(const ScriptLine& line) {
     auto& grid = Reached<ui::Grid>(line.Text(1));
-    const ui::Grid::Block block{Int(line, 2), Int(line, 3), Int(line, 4), Int(line, 5)};
+    const ui::Grid::Block block{line.Int(2), line.Int(3), line.Int(4), line.Int(5)};
     NeedsCell(grid, block.top, block.left, false);
     NeedsCell(grid, block.bottom, block.right, false);
     actor_.SelectBlock(grid, block);
@@ -248,17 +247,11 @@ void Player::Hover(const ScriptLine& line) {
 }
 
 void Player::Drop(const ScriptLine& line) {
-    ui::TreeView& tree = Tree();
-    if (const std::string why = WhyNotUsable(tree); !why.empty()) CannotDo("the tree", why);
-    actor_.Drop(tree, line.Text(1));
+    actor_.Drop(ReachedTree(), line.Text(1));
 }
 
 void Player::Close(const ScriptLine& line) {
-    ui::Form& form = NamedForm(line.Text(1));
-    if (const std::string why = WhyNotReachable(form); !why.empty()) {
-        CannotDo(form.Name() + " in reach", why);
-    }
-    actor_.CloseWindow(form);
+    CloseWindow(NamedForm(line.Text(1)), line.Text(1));
 }
 
 void Player::StrayAnswer(const ScriptLine& line) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "host/HostClock.h"
 #include "host/Player.h"
 
@@ -5,52 +7,29 @@ namespace vexora::host {
 
 namespace {
 
+// In the order of ui::Answer and of ui::MessageButtons.
+constexpr const char* answerWords[] = {"OK", "Yes", "No", "Cancel", "YesToAll"};
+constexpr const char* buttonTexts[] = {"OK", "Yes/No", "Yes/No/Cancel", "Yes/No/YesToAll"};
+
 std::string Word(ui::Answer answer) {
-    switch (answer) {
-    case ui::Answer::Yes:
-        return "Yes";
-    case ui::Answer::No:
-        return "No";
-    case ui::Answer::Cancel:
-        return "Cancel";
-    case ui::Answer::YesToAll:
-        return "YesToAll";
-    default:
-        return "OK";
-    }
+    return answerWords[static_cast<std::size_t>(answer)];
 }
 
 std::string ButtonsText(ui::MessageButtons buttons) {
-    switch (buttons) {
-    case ui::MessageButtons::YesNo:
-        return "Yes/No";
-    case ui::MessageButtons::YesNoCancel:
-        return "Yes/No/Cancel";
-    case ui::MessageButtons::YesNoAll:
-        return "Yes/No/YesToAll";
-    default:
-        return "OK";
-    }
+    return buttonTexts[static_cast<std::size_t>(buttons)];
 }
 
 /// The answer that a button with this word gives, nothing when the message has no such button.
 std::optional<ui::Answer> AnswerOf(const ui::Message& message, const std::string& word) {
     const std::string buttons = "/" + ButtonsText(message.buttons) + "/";
     if (buttons.find("/" + word + "/") == buttons.npos) return {};
-    for (const ui::Answer answer :
-         {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel, ui::Answer::YesToAll}) {
-        if (Word(answer) == word) return answer;
-    }
-    return ui::Answer::Ok;
+    const auto* found = std::find(std::begin(answerWords), std::end(answerWords), word);
+    return static_cast<ui::Answer>(found - std::begin(answerWords));
 }
 
 std::string Told(const ui::Message& message) {
     return "[message] " + Quoted(message.title) + ' ' + Quoted(message.text) + " (" +
            ButtonsText(message.buttons) + ")";
-}
-
-std::string AnswerText(const std::optional<std::string>& answer) {
-    return answer ? Quoted(*answer) : "cancel";
 }
 
 const ScriptLine& LineBefore(const Script& script, std::size_t at) {
@@ -93,35 +72,32 @@ ui::Answer Player::Show(const ui::Message& message) {
     return answer;
 }
 
-std::optional<std::string> Player::Ask(const ui::Input& input) {
+template <class TQuestion>
+std::optional<std::string> Player::AnswerNext(const TQuestion& question, std::string_view command,
+                                              const std::string& shown, const char* wanted) {
     if (stopped_) return {};
-    const ScriptLine* line = NextIf("input");
+    const ScriptLine* line = NextIf(command);
     std::optional<std::string> answer;
     if (line && !line->Is(1, "cancel")) answer = line->Text(1);
-    const std::string shown =
-        Quoted(input.title) + ' ' + Quoted(input.prompt) + ' ' + Quoted(input.text);
-    out_ << "[input] " << shown << " -> " << AnswerText(answer) << '\n';
+    out_ << '[' << command << "] " << shown << " -> " << (answer ? Quoted(*answer) : "cancel")
+         << '\n';
     if (line)
         Echo(*line);
     else
-        Report(LineBefore(script_, at_), "no question, or input for it", shown, true);
-    actor_.Answer(input, answer);
+        Report(LineBefore(script_, at_), wanted, shown, true);
+    actor_.Answer(question, answer);
     return answer;
 }
 
+std::optional<std::string> Player::Ask(const ui::Input& input) {
+    return AnswerNext(input, "input",
+                      Quoted(input.title) + ' ' + Quoted(input.prompt) + ' ' + Quoted(input.text),
+                      "no question, or input for it");
+}
+
 std::optional<std::string> Player::Choose(const ui::FileChoice& choice) {
-    if (stopped_) return {};
-    const ScriptLine* line = NextIf("file");
-    std::optional<std::string> answer;
-    if (line && !line->Is(1, "cancel")) answer = line->Text(1);
-    const std::string shown = (choice.save ? "save " : "open ") + Quoted(choice.proposed);
-    out_ << "[file] " << shown << " -> " << AnswerText(answer) << '\n';
-    if (line)
-        Echo(*line);
-    else
-        Report(LineBefore(script_, at_), "no question, or a file for it", shown, true);
-    actor_.Answer(choice, answer);
-    return answer;
+    return AnswerNext(choice, "file", (choice.save ? "save " : "open ") + Quoted(choice.proposed),
+                      "no question, or a file for it");
 }
 
 void Player::Hourglass(bool on) {

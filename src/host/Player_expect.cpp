@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <fstream>
-#include <sstream>
 
 #include "host/PlayFailure.h"
 #include "host/Player.h"
@@ -13,26 +12,12 @@ namespace vexora::host {
 
 namespace {
 
-int Int(const ScriptLine& line, std::size_t word) {
-    return static_cast<int>(ParseInteger(line.Text(word)).value_or(0));
-}
-
 void Same(const std::string& found, const std::string& wanted) {
     if (found != wanted) NotSeen(Quoted(wanted), Quoted(found));
 }
 
 void Holds(const std::string& found, const std::string& part) {
     if (found.find(part) == found.npos) NotSeen("a text with " + Quoted(part), Quoted(found));
-}
-
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r')) line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 void SameLines(const std::vector<std::string>& found, const std::vector<std::string>& wanted) {
@@ -44,18 +29,16 @@ void SameLines(const std::vector<std::string>& found, const std::vector<std::str
     }
 }
 
-std::string FileText(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) NotSeen("the file " + path, "none");
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
+std::string WantedFile(const std::string& path) {
+    const auto text = FileText(path);
+    if (!text) NotSeen("the file " + path, "none");
+    return *text;
 }
 
-bool IsOn(const ui::Control& control) {
-    if (const auto* box = dynamic_cast<const ui::CheckBox*>(&control)) return box->Value();
-    if (const auto* item = dynamic_cast<const ui::MenuItem*>(&control)) return item->Checked();
-    CannotDo("a control that can be on", control.Name() + " is of another kind");
+bool MustBeOn(const ui::Control& control, bool wanted) {
+    const auto on = IsOn(control);
+    if (!on) CannotDo("a control that can be on", control.Name() + " is of another kind");
+    return *on == wanted;
 }
 
 bool HasNothing(const ui::Grid& grid) {
@@ -89,8 +72,7 @@ bool IsInState(const ui::Control& control, const std::string& state) {
     if (state == "disabled") return !IsEnabledThrough(control);
     if (state == "visible") return IsSeen(control);
     if (state == "hidden") return !IsSeen(control);
-    if (state == "on") return IsOn(control);
-    if (state == "off") return !IsOn(control);
+    if (state == "on" || state == "off") return MustBeOn(control, state == "on");
     if (state == "empty") return IsEmpty(control);
     return control.HasFocus();
 }
@@ -105,37 +87,34 @@ void CheckState(const ui::Control& control, const std::string& state) {
     NotSeen(control.Name() + ' ' + state, found);
 }
 
+template <class T>
+const T& As(const ui::Control& control, const char* what) {
+    const auto* wanted = dynamic_cast<const T*>(&control);
+    if (!wanted) CannotDo(what, control.Name() + " is none");
+    return *wanted;
+}
+
 const ui::ItemList& List(const ui::Control& control) {
-    const auto* list = dynamic_cast<const ui::ItemList*>(&control);
-    if (!list) CannotDo("a list", control.Name() + " is none");
-    return *list;
+    return As<ui::ItemList>(control, "a list");
 }
 
 const ui::Grid& Table(const ui::Control& control) {
-    const auto* grid = dynamic_cast<const ui::Grid*>(&control);
-    if (!grid) CannotDo("a grid", control.Name() + " is none");
-    return *grid;
-}
-
-std::string Entries(const ui::ItemList& list) {
-    std::string text;
-    for (const std::string& item : list.Items())
-        text += (text.empty() ? "" : ", ") + Quoted(item);
-    return text.empty() ? "no entries" : text;
+    return As<ui::Grid>(control, "a grid");
 }
 
 void CheckCount(const ui::Control& control, int wanted) {
     const bool isGrid = control.Kind() == ui::ControlKind::Grid;
     const int found = isGrid ? Table(control).Rows() : List(control).Count();
     if (found == wanted) return;
-    const std::string entries = isGrid ? std::string() : ": " + Entries(List(control));
+    const std::string entries =
+        isGrid ? std::string() : ": " + EntriesText(List(control), "no entries");
     NotSeen("count " + std::to_string(wanted), "count " + std::to_string(found) + entries);
 }
 
 void CheckEntry(const ui::ItemList& list, const ScriptWord& entry, bool wanted) {
     if ((EntryIndex(list, entry.text, entry.quoted) >= 0) == wanted) return;
     const std::string verb = wanted ? "entry " : "no entry ";
-    NotSeen(verb + Quoted(entry.text), Entries(list));
+    NotSeen(verb + Quoted(entry.text), EntriesText(list, "no entries"));
 }
 
 } // namespace
@@ -149,7 +128,7 @@ void Player::Expect(const ScriptLine& line) {
     else if (line.Is(1, "no"))
         ExpectNo(line);
     else if (line.Is(1, "tree"))
-        SameLines(Lines(TreeText(Tree())), *line.block);
+        SameLines(LinesOf(TreeText(Tree())), *line.block);
     else if (line.Is(1, "node") || line.Is(1, "selected"))
         ExpectNode(line);
     else if (line.Is(1, "file"))
@@ -171,9 +150,9 @@ void Player::ExpectControl(const ScriptLine& line) {
     else if (line.Is(2, "has") || line.Is(2, "lacks"))
         CheckEntry(List(control), line.words[3], line.Is(2, "has"));
     else if (line.Is(2, "count"))
-        CheckCount(control, Int(line, 3));
+        CheckCount(control, line.Int(3));
     else if (line.Is(2, "cell"))
-        Same(Table(control).Cell(Int(line, 3), Int(line, 4)), line.Text(5));
+        Same(Table(control).Cell(line.Int(3), line.Int(4)), line.Text(5));
     else
         CheckState(control, line.Text(2));
 }
@@ -184,10 +163,8 @@ void Player::ExpectNo(const ScriptLine& line) {
     } else if (line.Is(2, "file")) {
         if (std::ifstream(line.Text(3))) NotSeen("no file " + line.Text(3), "it is there");
     } else {
-        const bool byKey = line.Is(3, "key");
-        const std::string& path = line.Text(byKey ? 4 : 3);
-        const bool there = byKey ? Tree().Find(path) != nullptr : !NodesAt(Tree(), path).empty();
-        if (there) NotSeen("no node " + Quoted(path), "it is there");
+        if (!NodesNamed(Tree(), line, 3).empty())
+            NotSeen("no node " + Quoted(line.words.back().text), "it is there");
     }
 }
 
@@ -212,14 +189,8 @@ void Player::ExpectMessage(const ScriptLine& line) {
 
 void Player::ExpectNode(const ScriptLine& line) {
     const ui::TreeView& tree = Tree();
-    const bool byKey = line.Is(2, "key");
-    const std::string& path = line.Text(byKey ? 3 : 2);
-    std::vector<ui::TreeNode*> nodes;
-    if (byKey)
-        nodes = {tree.Find(path)};
-    else
-        nodes = NodesAt(tree, path);
-    std::erase(nodes, nullptr);
+    const std::string& path = line.words.back().text;
+    const auto nodes = NodesNamed(tree, line, 2);
     if (nodes.empty()) NotSeen("the node " + Quoted(path), "none");
     if (line.Is(1, "node")) return;
     const ui::TreeNode* selected = tree.SelectedNode();
@@ -229,9 +200,9 @@ void Player::ExpectNode(const ScriptLine& line) {
 }
 
 void Player::ExpectFile(const ScriptLine& line) {
-    const std::string text = FileText(line.Text(2));
+    const std::string text = WantedFile(line.Text(2));
     if (line.block)
-        SameLines(Lines(text), *line.block);
+        SameLines(LinesOf(text), *line.block);
     else
         Holds(text, line.Text(4));
 }
@@ -241,12 +212,12 @@ void Player::ExpectXml(const ScriptLine& line) {
     const std::string& path = line.Text(counts ? 4 : 3);
     std::vector<std::string> texts;
     try {
-        texts = XmlTexts(FileText(line.Text(2)), path);
+        texts = XmlTexts(WantedFile(line.Text(2)), path);
     } catch (const XmlError& error) {
         NotSeen("a well-formed file and a path", error.what());
     }
     if (counts) {
-        Same(std::to_string(texts.size()), std::to_string(Int(line, 5)));
+        Same(std::to_string(texts.size()), std::to_string(line.Int(5)));
     } else {
         if (texts.empty()) NotSeen(path, "no such element");
         Same(texts.front(), line.Text(4));

@@ -1,6 +1,3 @@
-#include <fstream>
-#include <sstream>
-
 #include "host/PlayFailure.h"
 #include "host/Player.h"
 #include "host/Reach.h"
@@ -24,17 +21,11 @@ bool IsLocked(const ui::Control& control) {
     return false;
 }
 
-bool IsOn(const ui::Control& control) {
-    if (const auto* box = dynamic_cast<const ui::CheckBox*>(&control)) return box->Value();
-    const auto* item = dynamic_cast<const ui::MenuItem*>(&control);
-    return item && item->Checked();
-}
-
 /// One line: name, kind, text and what is special about it.
 std::string StateLine(const ui::Control& control) {
     std::string line = control.Name() + ' ' + KindName(control.Kind());
     line += ' ' + Quoted(ShownText(control));
-    if (IsOn(control)) line += " on";
+    if (IsOn(control).value_or(false)) line += " on";
     if (IsLocked(control)) line += " locked";
     if (!IsEnabledThrough(control)) line += " disabled";
     if (!IsSeen(control)) line += " hidden";
@@ -83,12 +74,10 @@ void PrintForm(std::ostream& out, const ui::Form& form) {
 }
 
 void PrintFile(std::ostream& out, const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream) CannotDo("the file " + path, "none");
-    for (std::string line; std::getline(stream, line);) {
-        if (line.ends_with('\r')) line.pop_back();
+    const auto text = FileText(path);
+    if (!text) CannotDo("the file " + path, "none");
+    for (const std::string& line : LinesOf(*text))
         out << line << '\n';
-    }
 }
 
 } // namespace

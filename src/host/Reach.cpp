@@ -101,6 +101,19 @@ std::string ShownText(const ui::Control& control) {
     return text;
 }
 
+std::string EntriesText(const ui::ItemList& list, const std::string& none) {
+    std::string text;
+    for (const std::string& item : list.Items())
+        text += (text.empty() ? "" : ", ") + Quoted(item);
+    return text.empty() ? none : text;
+}
+
+std::optional<bool> IsOn(const ui::Control& control) {
+    if (const auto* box = dynamic_cast<const ui::CheckBox*>(&control)) return box->Value();
+    if (const auto* item = dynamic_cast<const ui::MenuItem*>(&control)) return item->Checked();
+    return {};
+}
+
 int EntryIndex(const ui::ItemList& list, const std::string& word, bool quoted) {
     if (quoted) return list.Find(word);
     const auto index = ParseInteger(std::string_view(word).substr(1));
@@ -111,6 +124,13 @@ std::vector<ui::TreeNode*> NodesAt(const ui::TreeView& tree, const std::string& 
     std::vector<ui::TreeNode*> found;
     Collect(tree.Roots(), path, found);
     return found;
+}
+
+std::vector<ui::TreeNode*> NodesNamed(const ui::TreeView& tree, const ScriptLine& line,
+                                      std::size_t word) {
+    if (!line.Is(word, "key")) return NodesAt(tree, line.Text(word));
+    ui::TreeNode* node = tree.Find(line.Text(word + 1));
+    return std::vector<ui::TreeNode*>(node ? 1 : 0, node);
 }
 
 } // namespace vexora::host

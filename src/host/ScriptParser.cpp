@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "host/ScriptGrammar.h"
+#include "reference/Numbers.h"
 
 namespace vexora::host {
 
@@ -16,19 +17,6 @@ constexpr std::string_view blanks = " \t\r";
 std::string FolderOf(const std::string& file) {
     const std::string folder = std::filesystem::path(file).parent_path().string();
     return folder.empty() ? "." : folder;
-}
-
-std::vector<std::string> LinesOf(std::string_view text) {
-    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        std::string line(text.substr(0, end));
-        if (line.ends_with('\r')) line.pop_back();
-        lines.push_back(std::move(line));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines;
 }
 
 /// Reads the words of one line.
@@ -126,6 +114,7 @@ public:
     }
 
     void Parse(std::string_view text) {
+        if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
         lines_ = LinesOf(text);
         for (at_ = 0; at_ < lines_.size(); ++at_) {
             const std::size_t first = at_;
@@ -189,11 +178,9 @@ private:
     void Include(const std::string& path) {
         if (depth_ >= deepestInclude) throw std::runtime_error("includes too deep: " + path);
         const auto full = std::filesystem::path(FolderOf(file_)) / path;
-        std::ifstream stream(full, std::ios::binary);
-        if (!stream) throw std::runtime_error("cannot read " + full.string());
-        std::ostringstream text;
-        text << stream.rdbuf();
-        FileParser(script_, full.string(), variables_, depth_ + 1).Parse(text.str());
+        const auto text = FileText(full.string());
+        if (!text) throw std::runtime_error("cannot read " + full.string());
+        FileParser(script_, full.string(), variables_, depth_ + 1).Parse(*text);
     }
 
     Script& script_;
@@ -206,6 +193,10 @@ private:
 
 } // namespace
 
+int ScriptLine::Int(std::size_t word) const {
+    return static_cast<int>(ParseInteger(Text(word)).value_or(0));
+}
+
 std::string ScriptLine::BlockText() const {
     std::string text;
     if (!block) return text;
@@ -217,13 +208,9 @@ std::string ScriptLine::BlockText() const {
 }
 
 Script ReadScript(const std::string& path, const ScriptVariables& variables) {
-    std::ifstream stream(path, std::ios::binary);
-    std::ostringstream text;
-    text << stream.rdbuf();
-    if (!stream || std::filesystem::is_directory(path)) {
-        throw ScriptError(path + ":0: cannot be read");
-    }
-    return ParseScript(text.str(), path, variables);
+    const auto text = FileText(path);
+    if (!text) throw ScriptError(path + ":0: cannot be read");
+    return ParseScript(*text, path, variables);
 }
 
 Script ParseScript(std::string_view text, const std::string& name,
@@ -231,6 +218,26 @@ Script ParseScript(std::string_view text, const std::string& name,
     Script script;
     FileParser(script, name, variables, 0).Parse(text);
     return script;
+}
+
+std::optional<std::string> FileText(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || std::filesystem::is_directory(path)) return {};
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string line(text.substr(0, end));
+        if (line.ends_with('\r')) line.pop_back();
+        lines.push_back(std::move(line));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
 }
 
 std::string Quoted(std::string_view text) {

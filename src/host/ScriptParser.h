@@ -29,6 +29,8 @@ struct ScriptLine {
     bool Is(std::size_t word, std::string_view keyword) const {
         return Has(word) && words[word].Is(keyword);
     }
+    /// A word that the grammar has found to be a number from 0.
+    int Int(std::size_t word) const;
     /// The block as one text, lines parted by line feeds.
     std::string BlockText() const;
 };
@@ -50,6 +52,11 @@ Script ReadScript(const std::string& path, const ScriptVariables& variables);
 /// The same for a text; name stands for the file in messages and gives the folder of the script.
 Script ParseScript(std::string_view text, const std::string& name,
                    const ScriptVariables& variables);
+
+/// The whole content of a file, nothing when it cannot be read.
+std::optional<std::string> FileText(const std::string& path);
+/// The lines of a text, without their ends.
+std::vector<std::string> LinesOf(std::string_view text);
 
 /// A text as a script writes it: in quotes, with \" \\ \n and \t.
 std::string Quoted(std::string_view text);

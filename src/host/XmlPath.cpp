@@ -195,73 +195,66 @@ struct Step {
     std::vector<std::pair<std::string, std::string>> children; // name and text asked for
 };
 
-[[noreturn]] void BadPath(std::string_view path) {
-    throw XmlError("no path: " + std::string(path));
-}
+/// Takes a path apart.
+class PathReader {
+public:
+    explicit PathReader(std::string_view path) : path_(path) {}
 
-/// Where a step that begins at `from` ends: at the next "/" outside brackets.
-std::size_t EndOfStep(std::string_view path, std::size_t from) {
-    bool inText = false;
-    bool inBrackets = false;
-    for (std::size_t at = from; at < path.size(); ++at) {
-        if (path[at] == '\'') inText = !inText;
-        if (inText) continue;
-        if (path[at] == '[' || path[at] == ']') inBrackets = path[at] == '[';
-        if (path[at] == '/' && !inBrackets) return at;
+    std::vector<Step> Steps() {
+        std::vector<Step> steps;
+        do
+            steps.push_back(ReadStep());
+        while (at_ < path_.size());
+        return steps;
     }
-    return path.size();
-}
 
-void ReadCondition(Step& step, std::string_view condition, std::string_view path) {
-    if (const auto number = ParseInteger(condition)) {
-        if (*number < 1) BadPath(path);
-        step.position = *number;
-        return;
+private:
+    [[noreturn]] void Fail() const { throw XmlError("no path: " + std::string(path_)); }
+
+    bool Take(std::string_view what) {
+        if (!path_.substr(at_).starts_with(what)) return false;
+        at_ += what.size();
+        return true;
     }
-    const std::size_t sign = condition.find("='");
-    if (sign == condition.npos || sign == 0 || sign + 3 > condition.size() ||
-        !condition.ends_with('\''))
-        BadPath(path);
-    step.children.emplace_back(condition.substr(0, sign),
-                               condition.substr(sign + 2, condition.size() - sign - 3));
-}
 
-Step ReadStep(std::string_view text, std::string_view path) {
-    Step step;
-    std::size_t at = std::min(text.find('['), text.size());
-    step.name = std::string(text.substr(0, at));
-    if (step.name.empty()) BadPath(path);
-    while (at < text.size()) {
+    Step ReadStep() {
+        Step step;
+        step.anyDepth = Take("//");
+        if (!step.anyDepth) Take("/");
+        const std::size_t end = std::min(path_.find_first_of("[/", at_), path_.size());
+        step.name = path_.substr(at_, end - at_);
+        if (step.name.empty()) Fail();
+        at_ = end;
+        while (Take("["))
+            ReadCondition(step);
+        if (at_ < path_.size() && path_[at_] != '/') Fail();
+        return step;
+    }
+
+    void ReadCondition(Step& step) {
         bool inText = false;
-        std::size_t end = at + 1;
-        while (end < text.size() && (inText || text[end] != ']')) {
-            if (text[end++] == '\'') inText = !inText;
+        std::size_t end = at_;
+        while (end < path_.size() && (inText || path_[end] != ']'))
+            if (path_[end++] == '\'') inText = !inText;
+        if (end == path_.size()) Fail();
+        const std::string_view condition = path_.substr(at_, end - at_);
+        at_ = end + 1;
+        if (const auto number = ParseInteger(condition)) {
+            if (*number < 1) Fail();
+            step.position = *number;
+            return;
         }
-        if (text[at] != '[' || end >= text.size()) BadPath(path);
-        ReadCondition(step, text.substr(at + 1, end - at - 1), path);
-        at = end + 1;
+        const std::size_t sign = condition.find("='");
+        if (sign == condition.npos || sign == 0 || sign + 3 > condition.size() ||
+            !condition.ends_with('\''))
+            Fail();
+        step.children.emplace_back(condition.substr(0, sign),
+                                   condition.substr(sign + 2, condition.size() - sign - 3));
     }
-    return step;
-}
 
-std::vector<Step> ReadPath(std::string_view path) {
-    std::vector<Step> steps;
-    for (std::size_t at = 0; at < path.size();) {
-        bool anyDepth = false;
-        if (path.substr(at, 2) == "//") {
-            anyDepth = true;
-            at += 2;
-        } else if (path[at] == '/') {
-            ++at;
-        }
-        const std::size_t end = EndOfStep(path, at);
-        steps.push_back(ReadStep(path.substr(at, end - at), path));
-        steps.back().anyDepth = anyDepth;
-        at = end;
-    }
-    if (steps.empty()) BadPath(path);
-    return steps;
-}
+    std::string_view path_;
+    std::size_t at_ = 0;
+};
 
 bool HasChild(const Element& element, const std::string& name, const std::string& text) {
     return std::any_of(element.children.begin(), element.children.end(), [&](const auto& child) {
@@ -296,7 +289,7 @@ std::vector<std::string> XmlTexts(std::string_view document, std::string_view pa
     Element above;
     above.children.push_back(XmlReader(document).Document());
     Found found{&above};
-    for (const Step& step : ReadPath(path)) {
+    for (const Step& step : PathReader(path).Steps()) {
         Found next;
         for (const Element* element : found)
             TakeStep(*element, step, next);

@@ -17,17 +17,6 @@
 
 namespace vexora::qt {
 
-namespace {
-
-void Enter(ui::Control& control) {
-    control.SetFocus();
-    if (!control.HasFocus()) {
-        throw host::ActorError(control.Name() + " did not take the focus");
-    }
-}
-
-} // namespace
-
 QtActor::QtActor() {
     windows_.PlaysScripts = true;
     windows_.OnFault = [this](std::exception_ptr fault) {
@@ -109,22 +98,14 @@ void QtActor::DoubleClick(ui::Control& control) {
     });
 }
 
-void QtActor::ReplaceText(ui::Control& control, const std::string& text) {
-    if (control.Kind() == ui::ControlKind::ComboBox) {
-        static_cast<DropBox*>(ViewOf<ComboView>(control).Widget())->setEditText(ToQt(text));
-    } else {
-        ViewOf<TextView>(control).ReplaceAll(ToQt(text));
-    }
-}
-
-void QtActor::Set(ui::Control& control, const std::string& text) {
-    ui::Form& form = control.Owner();
+void QtActor::Replace(ui::Control& control, const std::string& text) {
     Do([&] {
         Enter(control);
-        ReplaceText(control, text);
+        if (control.Kind() == ui::ControlKind::ComboBox)
+            static_cast<DropBox*>(ViewOf<ComboView>(control).Widget())->setEditText(ToQt(text));
+        else
+            ViewOf<TextView>(control).ReplaceAll(ToQt(text));
     });
-    if (form.IsOpen() && control.HasFocus()) form.FocusTo(nullptr);
-    Settle();
 }
 
 void QtActor::SendKey(ui::Control& control, const ui::Key& key) {
@@ -136,11 +117,8 @@ void QtActor::Type(ui::Control& control, const std::string& text) {
     ui::Form& form = control.Owner();
     Do([&] { Enter(control); });
     for (const char32_t character : ui::ToPoints(text)) {
-        const ui::Key key = character == U'\n'   ? ui::ParseKey("Enter")
-                            : character == U'\t' ? ui::ParseKey("Tab")
-                                                 : ui::CharacterKey(character);
         if (!form.IsReachable() || !form.ActiveControl()) return;
-        Do([&] { SendKey(*form.ActiveControl(), key); });
+        Do([&] { SendKey(*form.ActiveControl(), ui::CharacterKey(character)); });
     }
 }
 
@@ -184,20 +162,13 @@ void QtActor::Select(ui::ListBox& list, int index, bool on) {
     }
     Do([&] {
         auto& view = ViewOf<ListView>(list);
-        const QRect entry = view.EntryRect(index);
-        if (list.SelectionMode() == ui::ListBox::Mode::Multi) {
-            return MouseClick(view.ClickTarget(), entry.center());
-        }
-        MouseClick(view.ClickTarget(), view.CheckPoint(index));
+        const bool isMulti = list.SelectionMode() == ui::ListBox::Mode::Multi;
+        MouseClick(view.ClickTarget(),
+                   isMulti ? view.EntryRect(index).center() : view.CheckPoint(index));
     });
 }
 
-void QtActor::Check(ui::CheckBox& box, bool on) {
-    if (box.Value() != on) Click(box);
-}
-
 void QtActor::ClickNode(ui::TreeView& tree, ui::TreeNode& node) {
-    node.EnsureVisible();
     Do([&] {
         auto& view = ViewOf<TreeWidgetView>(tree);
         MouseClick(view.ClickTarget(), view.PlaceOf(node));
@@ -205,7 +176,6 @@ void QtActor::ClickNode(ui::TreeView& tree, ui::TreeNode& node) {
 }
 
 void QtActor::DoubleClickNode(ui::TreeView& tree, ui::TreeNode& node) {
-    node.EnsureVisible();
     Do([&] {
         auto& view = ViewOf<TreeWidgetView>(tree);
         MouseDoubleClick(view.ClickTarget(), view.PlaceOf(node));
@@ -214,7 +184,6 @@ void QtActor::DoubleClickNode(ui::TreeView& tree, ui::TreeNode& node) {
 
 // From the node above or below it, by one arrow key.
 void QtActor::ReachNode(ui::TreeView& tree, ui::TreeNode& node) {
-    node.EnsureVisible();
     Do([&] {
         tree.SetFocus();
         ViewOf<TreeWidgetView>(tree).ReachByKey(node);

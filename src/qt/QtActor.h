@@ -8,8 +8,6 @@
 #include "host/Actor.h"
 #include "qt/Windows.h"
 
-class QDialog;
-
 namespace vexora::qt {
 
 /// Plays a person on the real windows, by mouse and key events. What a handler of the program
@@ -25,13 +23,11 @@ public:
 
     void Click(ui::Control& control) override;
     void DoubleClick(ui::Control& control) override;
-    void Set(ui::Control& control, const std::string& text) override;
     void Type(ui::Control& control, const std::string& text) override;
     void PressKey(ui::Control& control, const ui::Key& key) override;
     void DropDown(ui::ComboBox& combo) override;
     void Choose(ui::ItemList& list, int index) override;
     void Select(ui::ListBox& list, int index, bool on) override;
-    void Check(ui::CheckBox& box, bool on) override;
     void ClickNode(ui::TreeView& tree, ui::TreeNode& node) override;
     void DoubleClickNode(ui::TreeView& tree, ui::TreeNode& node) override;
     void ReachNode(ui::TreeView& tree, ui::TreeNode& node) override;
@@ -54,7 +50,8 @@ public:
     std::optional<std::string> PngOf(const ui::Picture& picture) override;
     void Settle() override;
 
-    Windows& Screen() { return windows_; }
+protected:
+    void Replace(ui::Control& control, const std::string& text) override;
 
 private:
     FormWindow& WindowOf(const ui::Control& control);
@@ -65,7 +62,6 @@ private:
     void ClickMenu(ui::MenuItem& item);
     void SendKey(ui::Control& control, const ui::Key& key);
     void ChooseInPopup(ui::ItemList& list, int index);
-    void ReplaceText(ui::Control& control, const std::string& text);
 
     Windows windows_;
     std::exception_ptr fault_;

@@ -20,7 +20,7 @@ protected:
     int Run(std::vector<std::string> arguments) {
         out_.str({});
         err_.str({});
-        host::ModelActor actor;
+        host::Actor actor;
         const auto program = [](const Places&) { return MakeSmallProgram; };
         return host::PlayMain(arguments, {actor, out_, err_, "vexora-cli", program});
     }

@@ -229,7 +229,7 @@ TEST(Player, EndOfTheScriptBelowAModalFormEndsTheProgram) {
 }
 
 /// A front whose event handling no exception may pass, as that of windows.
-class WindowLikeActor : public host::ModelActor {
+class WindowLikeActor : public host::Actor {
 public:
     bool LetsExceptionsThrough() const override { return false; }
 };

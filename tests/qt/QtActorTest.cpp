@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "qt/EveryKind.h"
 #include "qt/SilentDesktop.h"
 
@@ -27,7 +27,7 @@ std::string After(host::Actor& actor, const Doing& doing) {
 
 /// Both fronts do the same, and what is left must be the same; the answer is that state.
 std::string OnBoth(const Doing& doing) {
-    host::ModelActor models;
+    host::Actor models;
     const std::string expected = After(models, doing);
     QtActor windows;
     EXPECT_EQ(After(windows, doing), expected);

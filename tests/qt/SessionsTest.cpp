@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "host/PlayMain.h"
 #include "host/PosixFileSystem.h"
 #include "host/WorkbenchProgram.h"
@@ -78,7 +78,7 @@ std::vector<fs::path> Sessions() {
 class OnBothFronts : public testing::TestWithParam<fs::path> {};
 
 TEST_P(OnBothFronts, LeavesTheSameTranscriptAndFiles) {
-    host::ModelActor models;
+    host::Actor models;
     const Played expected = Play(models, GetParam());
     QtActor windows;
     const Played found = Play(windows, GetParam());

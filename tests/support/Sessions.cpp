@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "host/PlayMain.h"
 #include "host/WorkbenchProgram.h"
 #include "reference/Text.h"
@@ -44,7 +44,7 @@ SessionPlay PlaySession(const std::string& path) {
     std::filesystem::create_directory(out);
     std::ostringstream transcript;
     std::ostringstream errors;
-    host::ModelActor actor;
+    host::Actor actor;
     const int status =
         host::PlayMain({"--home", home, "--date", "2026-01-15", "--var", "OUT=" + out, path},
                        {actor, transcript, errors, "vexora-tests", host::WorkbenchIn});

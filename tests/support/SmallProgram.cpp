@@ -110,7 +110,7 @@ std::unique_ptr<host::Program> MakeSmallProgram(ui::Desktop& desktop) {
 }
 
 SmallPlay PlaySmall(const std::string& lines, host::PlayOptions options) {
-    host::ModelActor actor;
+    host::Actor actor;
     return PlaySmall(lines, std::move(options), actor);
 }
 

@@ -4,7 +4,7 @@
 #include <sstream>
 #include <string>
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "host/Player.h"
 #include "host/PosixFileSystem.h"
 

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "host/ModelActor.h"
+#include "host/Actor.h"
 #include "host/Player.h"
 #include "host/WorkbenchProgram.h"
 #include "shell/Places.h"
@@ -60,7 +60,7 @@ protected:
     }
 
     FailingFileSystem Files;
-    host::ModelActor Actor;
+    host::Actor Actor;
 
 private:
     ScratchFolder folder_;
