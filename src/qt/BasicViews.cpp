@@ -46,22 +46,13 @@ void ButtonView::Draw() {
     own_->setDefault(model_.Owner().DefaultButton == &model_);
 }
 
-bool ButtonView::MouseEvent(QEvent& event) {
-    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
-    Act([this] { model_.UserDoubleClick(); });
-    return true;
-}
-
 ToggleView::ToggleView(FormWindow& window, ui::CheckBox& box, QAbstractButton* button)
     : ViewOf(window, box, button) {
     own_->setParent(&window);
     own_->setFocusPolicy(Qt::TabFocus);
     own_->setAutoExclusive(false); // the model knows which belong together
-    QObject::connect(own_, &QAbstractButton::clicked, this, [this] {
-        QPointer<ToggleView> self(this);
-        Act([this] { model_.UserClick(); });
-        if (self) self->Refresh();
-    });
+    QObject::connect(own_, &QAbstractButton::clicked, this,
+                     [this] { ActAndRefresh([this] { model_.UserClick(); }); });
 }
 
 // The words may be shorter than the widget: aim at the mark itself.
@@ -87,9 +78,8 @@ RichTextView::RichTextView(FormWindow& window, ui::RichText& text)
 }
 
 bool RichTextView::Wants(const ui::Key& key) const {
-    return key.name == "Up" || key.name == "Down" || key.name.starts_with("Page") ||
-           key.name == "Home" || key.name == "End" || key.FullName() == "Ctrl+C" ||
-           key.FullName() == "Ctrl+A";
+    return IsOneOf(key.name, {"Up", "Down", "PageUp", "PageDown", "Home", "End"}) ||
+           IsOneOf(key.FullName(), {"Ctrl+C", "Ctrl+A"});
 }
 
 // A text is set only when it is another, so that the place being read does not jump.

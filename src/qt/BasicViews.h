@@ -29,7 +29,6 @@ public:
 
 protected:
     void Draw() override;
-    bool MouseEvent(QEvent& event) override;
 };
 
 /// A check box or an option button.

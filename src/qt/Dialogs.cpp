@@ -1,5 +1,8 @@
 #include "qt/Dialogs.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -9,34 +12,16 @@ namespace vexora::qt {
 
 namespace {
 
-QMessageBox::StandardButton StandardOf(ui::Answer answer) {
-    switch (answer) {
-    case ui::Answer::Yes:
-        return QMessageBox::Yes;
-    case ui::Answer::No:
-        return QMessageBox::No;
-    case ui::Answer::Cancel:
-        return QMessageBox::Cancel;
-    case ui::Answer::YesToAll:
-        return QMessageBox::YesToAll;
-    case ui::Answer::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
-}
+using Box = QMessageBox;
 
-QMessageBox::StandardButtons ButtonsOf(ui::MessageButtons buttons) {
-    switch (buttons) {
-    case ui::MessageButtons::YesNo:
-        return QMessageBox::Yes | QMessageBox::No;
-    case ui::MessageButtons::YesNoCancel:
-        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case ui::MessageButtons::YesNoAll:
-        return QMessageBox::Yes | QMessageBox::No | QMessageBox::YesToAll;
-    case ui::MessageButtons::Ok:
-        break;
-    }
-    return QMessageBox::Ok;
+// In the order of ui::Answer and of ui::MessageButtons.
+constexpr Box::StandardButton buttonOf[] = {Box::Ok, Box::Yes, Box::No, Box::Cancel, Box::YesToAll};
+constexpr Box::StandardButtons buttonsOf[] = {Box::Ok, Box::Yes | Box::No,
+                                              Box::Yes | Box::No | Box::Cancel,
+                                              Box::Yes | Box::No | Box::YesToAll};
+
+Box::StandardButton StandardOf(ui::Answer answer) {
+    return buttonOf[static_cast<std::size_t>(answer)];
 }
 
 } // namespace
@@ -46,7 +31,7 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const ui::Message& message, QWidget*
     const QString title = message.title.empty() ? QStringLiteral("Vexora") : ToQt(message.title);
     auto box = std::make_unique<QMessageBox>(
         question ? QMessageBox::Question : QMessageBox::Information, title, ToQt(message.text),
-        ButtonsOf(message.buttons), parent);
+        buttonsOf[static_cast<std::size_t>(message.buttons)], parent);
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setDefaultButton(StandardOf(message.safe));
@@ -62,11 +47,9 @@ QAbstractButton* ButtonFor(const QMessageBox& box, ui::Answer answer) {
 }
 
 ui::Answer AnswerOf(const QMessageBox& box, const ui::Message& message) {
-    for (const ui::Answer answer : {ui::Answer::Yes, ui::Answer::No, ui::Answer::Cancel,
-                                    ui::Answer::YesToAll, ui::Answer::Ok}) {
-        if (box.result() == StandardOf(answer)) return answer;
-    }
-    return message.safe;
+    const auto* pressed = std::find(std::begin(buttonOf), std::end(buttonOf), box.result());
+    if (pressed == std::end(buttonOf)) return message.safe;
+    return static_cast<ui::Answer>(pressed - std::begin(buttonOf));
 }
 
 std::unique_ptr<QInputDialog> MakeInputBox(const ui::Input& input, QWidget* parent) {

@@ -329,9 +329,7 @@ bool GridView::MouseEvent(QEvent& event) {
     if (event.type() == QEvent::MouseButtonRelease && model_.OnClick) {
         Act([this] { model_.UserClick(); });
     }
-    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
-    Act([this] { model_.UserDoubleClick(); });
-    return true;
+    return View::MouseEvent(event);
 }
 
 } // namespace vexora::qt

@@ -1,6 +1,7 @@
 #include "qt/LayoutBuilder.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -145,7 +146,7 @@ QWidget* LayoutBuilder::Build(const ui::Form& form) {
     auto* content = new QWidget(&window_);
     auto* column = new QVBoxLayout(content);
     if (made) column->addWidget(made, 1);
-    if (!rest.empty()) column->addWidget(MakeColumn(rest), empty ? 1 : 0);
+    if (!rest.empty()) column->addWidget(MakeColumn(ui::Column(rest)), empty ? 1 : 0);
     return content;
 }
 
@@ -163,28 +164,17 @@ void LayoutBuilder::Leftovers(const ui::Form& form, std::vector<ui::Layout>& par
 }
 
 QWidget* LayoutBuilder::Make(const ui::Layout& layout) {
-    switch (layout.kind) {
-    case Kind::Column:
-        return MakeColumn(layout.parts);
-    case Kind::Row:
-        return MakeRow(layout.parts);
-    case Kind::Group:
-        return MakeGroup(layout);
-    case Kind::Field:
-        return MakeLoneField(layout);
-    case Kind::Item:
-        return MakeSized(layout);
-    case Kind::Pages:
-        return MakePages(layout);
-    case Kind::Split:
-        return MakeSplit(layout);
-    case Kind::Buttons:
-        return MakeButtons(layout);
-    case Kind::Note:
-        return MakeNote(layout);
-    case Kind::Stretch:
-        break;
-    }
+    using Builder = LayoutBuilder;
+    // In the order of ui::Layout::Kind.
+    static constexpr QWidget* (Builder::*makers[])(const ui::Layout&) = {
+        &Builder::MakeColumn, &Builder::MakeRow,    &Builder::MakeGroup, &Builder::MakeLoneField,
+        &Builder::MakeSized,  &Builder::MakePages,  &Builder::MakeSplit, &Builder::MakeButtons,
+        &Builder::MakeNote,   &Builder::MakeStretch};
+    static_assert(std::size(makers) == static_cast<std::size_t>(Kind::Stretch) + 1);
+    return (this->*makers[static_cast<std::size_t>(layout.kind)])(layout);
+}
+
+QWidget* LayoutBuilder::MakeStretch(const ui::Layout&) {
     auto* room = new QWidget(&window_);
     room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return room;
@@ -206,7 +196,8 @@ QWidget* LayoutBuilder::MakeSized(const ui::Layout& layout) {
     return widget;
 }
 
-QWidget* LayoutBuilder::MakeColumn(const std::vector<ui::Layout>& parts) {
+QWidget* LayoutBuilder::MakeColumn(const ui::Layout& layout) {
+    const std::vector<ui::Layout>& parts = layout.parts;
     auto* owner = new QWidget(&window_);
     auto* grid = Bare<QGridLayout>(owner);
     grid->setColumnStretch(1, 1);
@@ -283,9 +274,7 @@ QWidget* LayoutBuilder::LabelOf(const ui::Layout& field, QWidget* part) {
         if (mnemonic) plain->setBuddy(part);
         label = plain;
     }
-    Companion companion{label, field.label, {}, field.label == nullptr};
-    Gather(field.parts.front(), companion.controls);
-    companions_.push_back(std::move(companion));
+    Accompany(label, field.parts.front(), field.label, field.label == nullptr);
     return label;
 }
 
@@ -299,11 +288,11 @@ QWidget* LayoutBuilder::MakeLoneField(const ui::Layout& layout) {
     return owner;
 }
 
-QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
+QWidget* LayoutBuilder::MakeRow(const ui::Layout& layout) {
     auto* owner = new QWidget(&window_);
     auto* row = Bare<QHBoxLayout>(owner);
     bool grows = false;
-    for (const ui::Layout& part : parts) {
+    for (const ui::Layout& part : layout.parts) {
         const bool wide = GrowsAcross(part);
         grows = grows || wide;
         if (part.kind == Kind::Stretch) {
@@ -318,16 +307,14 @@ QWidget* LayoutBuilder::MakeRow(const std::vector<ui::Layout>& parts) {
         row->addWidget(widget, 0, block ? Qt::Alignment() : Qt::AlignVCenter);
     }
     if (!grows) row->addStretch(1);
-    HideWith(parts, owner);
+    Accompany(owner, layout); // a row of nothing that is shown keeps no place
     return owner;
 }
 
-// A row of nothing that is shown keeps no place.
-void LayoutBuilder::HideWith(const std::vector<ui::Layout>& parts, QWidget* owner) {
-    Companion companion{owner, nullptr, {}};
-    for (const ui::Layout& part : parts)
-        Gather(part, companion.controls);
-    companions_.push_back(std::move(companion));
+void LayoutBuilder::Accompany(QWidget* widget, const ui::Layout& layout, const ui::Control* own,
+                              bool dims) {
+    companions_.push_back({widget, own, {}, dims});
+    Gather(layout, companions_.back().controls);
 }
 
 QWidget* LayoutBuilder::MakeGroup(const ui::Layout& layout) {
@@ -336,13 +323,11 @@ QWidget* LayoutBuilder::MakeGroup(const ui::Layout& layout) {
         box = qobject_cast<QGroupBox*>(MakeItem(*layout.control));
     } else {
         box = new QGroupBox(Literal(layout.text), &window_);
-        Companion companion{box, nullptr, {}};
-        Gather(layout, companion.controls);
-        companions_.push_back(std::move(companion));
+        Accompany(box, layout);
     }
-    if (!box) return MakeColumn(layout.parts);
+    if (!box) return MakeColumn(layout);
     auto* inside = new QVBoxLayout(box);
-    inside->addWidget(MakeColumn(layout.parts));
+    inside->addWidget(MakeColumn(layout));
     return box;
 }
 

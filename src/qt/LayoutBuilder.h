@@ -50,18 +50,21 @@ private:
     QWidget* Make(const ui::Layout& layout);
     void KeepRoom(QGridLayout& column, int row, int share);
     void ShareRooms();
-    QWidget* MakeColumn(const std::vector<ui::Layout>& parts);
+    QWidget* MakeColumn(const ui::Layout& layout);
     void AddToColumn(QGridLayout& grid, int row, const ui::Layout& part, bool hasFields);
     void AddField(QGridLayout& grid, int row, const ui::Layout& part);
     void AddRowOfFields(QGridLayout& grid, int row, const ui::Layout& part);
-    QWidget* MakeRow(const std::vector<ui::Layout>& parts);
-    void HideWith(const std::vector<ui::Layout>& parts, QWidget* owner);
+    QWidget* MakeRow(const ui::Layout& layout);
+    /// The widget shows while something in the layout does.
+    void Accompany(QWidget* widget, const ui::Layout& layout, const ui::Control* own = nullptr,
+                   bool dims = false);
     QWidget* MakeGroup(const ui::Layout& layout);
     QWidget* MakeLoneField(const ui::Layout& layout);
     QWidget* MakePages(const ui::Layout& layout);
     QWidget* MakeSplit(const ui::Layout& layout);
     QWidget* MakeButtons(const ui::Layout& layout);
     QWidget* MakeNote(const ui::Layout& layout);
+    QWidget* MakeStretch(const ui::Layout& layout);
     QWidget* MakeSized(const ui::Layout& layout);
     QWidget* MakeItem(ui::Control& control);
     QWidget* LabelOf(const ui::Layout& field, QWidget* part);

@@ -25,14 +25,9 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     own_->setMinimumContentsLength(12);
     own_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     own_->setFocusPolicy(Qt::StrongFocus); // the wheel must not change a value in passing
-    own_->OnPopup = [this] {
-        Act([this] { model_.UserDropDown(); });
-        Refresh();
-    };
+    own_->OnPopup = [this] { ActAndRefresh([this] { model_.UserDropDown(); }); };
     QObject::connect(own_, &QComboBox::activated, this, [this](int index) {
-        QPointer<ComboView> self(this);
-        Act([this, index] { model_.UserChoose(index); });
-        if (self) self->Refresh();
+        ActAndRefresh([this, index] { model_.UserChoose(index); });
     });
     if (!combo.IsEditable()) return;
     own_->setCompleter(nullptr);
@@ -41,20 +36,16 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
         // Picked from the list: that comes by another signal.
         const int row = own_->currentIndex();
         if (row >= 0 && row != model_.Index() && own_->itemText(row) == text) return;
-        QPointer<ComboView> self(this);
-        Act([this, &text] { model_.UserEdited(FromQt(text)); });
-        if (self) self->Refresh();
+        ActAndRefresh([this, &text] { model_.UserEdited(FromQt(text)); });
     });
 }
 
 bool ComboView::Wants(const ui::Key& key) const {
     const std::string name = key.FullName();
-    if (name == "F4" || name == "Alt+Down" || name == "Alt+Up") return true;
-    if (key.character >= U' ') return true;
+    if (key.character >= U' ' || IsOneOf(name, {"F4", "Alt+Down", "Alt+Up"})) return true;
     return model_.IsEditable() &&
-           (key.name == "Backspace" || key.name == "Delete" || key.name == "Left" ||
-            key.name == "Right" || key.name == "Home" || key.name == "End" || name == "Ctrl+A" ||
-            name == "Ctrl+C" || name == "Ctrl+V" || name == "Ctrl+X" || name == "Ctrl+Z");
+           (IsOneOf(key.name, {"Backspace", "Delete", "Left", "Right", "Home", "End"}) ||
+            IsOneOf(name, {"Ctrl+A", "Ctrl+C", "Ctrl+V", "Ctrl+X", "Ctrl+Z"}));
 }
 
 void ComboView::Draw() {
@@ -90,12 +81,6 @@ QSize KeyedList::sizeHint() const {
     const int wide = std::clamp(sizeHintForColumn(0) + 30, metrics.averageCharWidth() * 24,
                                 metrics.averageCharWidth() * 60);
     return {wide, metrics.lineSpacing() * 8};
-}
-
-void KeyedList::keyPressEvent(QKeyEvent* event) {
-    QPointer<KeyedList> self(this);
-    QListWidget::keyPressEvent(event);
-    if (self && OnKeyDone) OnKeyDone();
 }
 
 ListView::ListView(FormWindow& window, ui::ListBox& list)
@@ -154,14 +139,12 @@ bool ListView::IsOn(int index) const {
 
 void ListView::HandOver() {
     if (IsDrawing()) return;
-    QPointer<ListView> self(this);
-    Act([this] {
+    ActAndRefresh([this] {
         for (int i = 0; i < model_.Count() && i < own_->count(); ++i) {
             const bool on = IsOn(i);
             if (on != model_.Selected(i)) return model_.UserSelect(i, on);
         }
     });
-    if (self) self->Refresh();
 }
 
 void ListView::Fill() {
@@ -201,20 +184,8 @@ void ListView::Draw() {
     }
 }
 
-bool ListView::MouseEvent(QEvent& event) {
-    if (event.type() != QEvent::MouseButtonDblClick || !model_.OnDoubleClick) return false;
-    Act([this] { model_.UserDoubleClick(); });
-    return true;
-}
-
-void PageBar::keyPressEvent(QKeyEvent* event) {
-    QPointer<PageBar> self(this);
-    QTabBar::keyPressEvent(event);
-    if (self && OnKeyDone) OnKeyDone();
-}
-
 TabView::TabView(FormWindow& window, ui::TabStrip& tabs)
-    : ViewOf(window, tabs, new PageBar(&window)) {
+    : ViewOf(window, tabs, new Keyed<QTabBar>(&window)) {
     own_->setExpanding(false);
     own_->setDrawBase(false);
     own_->setFocusPolicy(Qt::TabFocus);
@@ -232,7 +203,7 @@ TabView::TabView(FormWindow& window, ui::TabStrip& tabs)
 }
 
 bool TabView::Wants(const ui::Key& key) const {
-    return key.name == "Left" || key.name == "Right" || key.name == "Home" || key.name == "End";
+    return IsOneOf(key.name, {"Left", "Right", "Home", "End"});
 }
 
 void TabView::Draw() {

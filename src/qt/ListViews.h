@@ -30,15 +30,25 @@ private:
     std::vector<std::string> shown_;
 };
 
-/// A list that knows whether its current entry moves by the keyboard.
-class KeyedList : public QListWidget {
+/// A widget that tells when it has done with a key, which may have moved its current entry.
+template <class TWidget>
+class Keyed : public TWidget {
 public:
-    using QListWidget::QListWidget;
+    using TWidget::TWidget;
     std::function<void()> OnKeyDone;
-    QSize sizeHint() const override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override {
+        QPointer<Keyed> self(this);
+        TWidget::keyPressEvent(event);
+        if (self && OnKeyDone) OnKeyDone();
+    }
+};
+
+class KeyedList : public Keyed<QListWidget> {
+public:
+    using Keyed::Keyed;
+    QSize sizeHint() const override;
 };
 
 class ListView : public ViewOf<ui::ListBox, KeyedList> {
@@ -52,7 +62,6 @@ public:
 
 protected:
     void Draw() override;
-    bool MouseEvent(QEvent& event) override;
 
 private:
     bool filledLater_ = false; // then its height must not jump with what a search finds
@@ -65,16 +74,7 @@ private:
     std::vector<std::string> shown_;
 };
 
-class PageBar : public QTabBar {
-public:
-    using QTabBar::QTabBar;
-    std::function<void()> OnKeyDone;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-};
-
-class TabView : public ViewOf<ui::TabStrip, PageBar> {
+class TabView : public ViewOf<ui::TabStrip, Keyed<QTabBar>> {
 public:
     TabView(FormWindow& window, ui::TabStrip& tabs);
     bool Wants(const ui::Key& key) const override;

@@ -1,3 +1,5 @@
+#include <iterator>
+
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QTextBrowser>
@@ -13,9 +15,9 @@ namespace vexora::qt {
 
 namespace {
 
-template <class TView, class TControl>
+template <class TView>
 std::unique_ptr<View> As(FormWindow& window, ui::Control& control) {
-    return std::make_unique<TView>(window, static_cast<TControl&>(control));
+    return std::make_unique<TView>(window, static_cast<typename TView::OfControl&>(control));
 }
 
 template <class TButton>
@@ -25,51 +27,28 @@ std::unique_ptr<View> Toggle(FormWindow& window, ui::Control& control) {
 }
 
 std::unique_ptr<View> Text(FormWindow& window, ui::Control& control) {
-    auto& box = static_cast<ui::TextBox&>(control);
-    if (box.IsMultiLine()) return std::make_unique<LinesView>(window, box);
-    return std::make_unique<LineView>(window, box);
+    const bool isMultiLine = static_cast<ui::TextBox&>(control).IsMultiLine();
+    return isMultiLine ? As<LinesView>(window, control) : As<LineView>(window, control);
 }
+
+using Maker = std::unique_ptr<View> (*)(FormWindow&, ui::Control&);
+
+// In the order of ui::ControlKind; the entries of menus have no view.
+constexpr Maker makers[] = {As<LabelView>,        Text,
+                            As<ButtonView>,       Toggle<QCheckBox>,
+                            Toggle<QRadioButton>, As<ComboView>,
+                            As<ListView>,         As<FrameView>,
+                            As<GridView>,         As<TreeWidgetView>,
+                            As<ToolbarView>,      As<ToolButtonView>,
+                            As<TabView>,          nullptr,
+                            As<PictureView>,      As<RichTextView>};
+static_assert(std::size(makers) == static_cast<std::size_t>(ui::ControlKind::RichText) + 1);
 
 } // namespace
 
-// A pure table of kinds.
 std::unique_ptr<View> MakeView(FormWindow& window, ui::Control& control) {
-    using Kind = ui::ControlKind;
-    switch (control.Kind()) {
-    case Kind::Label:
-        return As<LabelView, ui::Label>(window, control);
-    case Kind::TextBox:
-        return Text(window, control);
-    case Kind::CommandButton:
-        return As<ButtonView, ui::CommandButton>(window, control);
-    case Kind::CheckBox:
-        return Toggle<QCheckBox>(window, control);
-    case Kind::OptionButton:
-        return Toggle<QRadioButton>(window, control);
-    case Kind::ComboBox:
-        return As<ComboView, ui::ComboBox>(window, control);
-    case Kind::ListBox:
-        return As<ListView, ui::ListBox>(window, control);
-    case Kind::Frame:
-        return As<FrameView, ui::Frame>(window, control);
-    case Kind::Grid:
-        return As<GridView, ui::Grid>(window, control);
-    case Kind::TreeView:
-        return As<TreeWidgetView, ui::TreeView>(window, control);
-    case Kind::Toolbar:
-        return As<ToolbarView, ui::Toolbar>(window, control);
-    case Kind::ToolButton:
-        return As<ToolButtonView, ui::ToolButton>(window, control);
-    case Kind::TabStrip:
-        return As<TabView, ui::TabStrip>(window, control);
-    case Kind::Picture:
-        return As<PictureView, ui::Picture>(window, control);
-    case Kind::RichText:
-        return As<RichTextView, ui::RichText>(window, control);
-    case Kind::MenuItem:
-        break;
-    }
-    return nullptr;
+    const Maker make = makers[static_cast<std::size_t>(control.Kind())];
+    return make ? make(window, control) : nullptr;
 }
 
 } // namespace vexora::qt

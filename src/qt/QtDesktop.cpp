@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDate>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -105,11 +104,6 @@ void QtDesktop::PrintPicture(const std::string& title, const ui::Picture& pictur
 
 std::optional<std::string> QtDesktop::PngOf(const ui::Picture& picture) {
     return PngBytes(picture);
-}
-
-ui::Date QtDesktop::Today() {
-    const QDate today = QDate::currentDate();
-    return {today.year(), today.month(), today.day()};
 }
 
 void QtDesktop::RunModal(ui::Form& form) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "host/HostClock.h"
 #include "qt/Windows.h"
 #include "ui/Desktop.h"
 
@@ -27,7 +28,7 @@ public:
     void Print(const std::string& title, const std::string& text) override;
     void PrintPicture(const std::string& title, const ui::Picture& picture) override;
     std::optional<std::string> PngOf(const ui::Picture& picture) override;
-    ui::Date Today() override;
+    ui::Date Today() override { return host::ClockToday(); }
     ui::FileSystem& Files() override { return files_; }
     void RunModal(ui::Form& form) override;
     void EndProgram() override;

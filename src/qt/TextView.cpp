@@ -1,7 +1,5 @@
 #include "qt/TextView.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 #include <QEvent>
@@ -24,27 +22,20 @@ public:
 };
 
 bool IsMove(const ui::Key& key, bool manyLines) {
-    const std::string& name = key.name;
-    if (name == "Left" || name == "Right" || name == "Home" || name == "End") return true;
-    return manyLines && (name == "Up" || name == "Down" || name.starts_with("Page"));
+    return IsOneOf(key.name, {"Left", "Right", "Home", "End"}) ||
+           (manyLines && IsOneOf(key.name, {"Up", "Down", "PageUp", "PageDown"}));
 }
 
 bool IsClipboard(const ui::Key& key) {
-    constexpr std::array names{"Ctrl+A", "Ctrl+C",       "Ctrl+X",      "Ctrl+V",      "Ctrl+Z",
-                               "Ctrl+Y", "Ctrl+Shift+Z", "Ctrl+Insert", "Shift+Insert"};
-    const std::string name = key.FullName();
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return IsOneOf(key.FullName(), {"Ctrl+A", "Ctrl+C", "Ctrl+X", "Ctrl+V", "Ctrl+Z", "Ctrl+Y",
+                                    "Ctrl+Shift+Z", "Ctrl+Insert", "Shift+Insert"});
 }
 
 } // namespace
 
 TextView::TextView(FormWindow& window, ui::TextBox& box, QWidget* widget)
-    : View(window, box, widget), model_(box) {
+    : ViewOf(window, box, widget) {
     widget->setFocusPolicy(Qt::StrongFocus);
-}
-
-QWidget* TextView::ClickTarget() const {
-    return Widget();
 }
 
 bool TextView::Wants(const ui::Key& key) const {
@@ -71,12 +62,10 @@ void TextView::Draw() {
 
 void TextView::Edited() {
     if (IsDrawing()) return;
-    QPointer<TextView> self(this);
-    Act([this] {
+    ActAndRefresh([this] {
         const QString text = WidgetText();
         model_.UserEdited(FromQt(text), PointsBefore(text, WidgetCaret()));
     });
-    if (self) self->Refresh(); // a handler may have corrected what was typed
 }
 
 void TextView::Moved() {
@@ -104,20 +93,8 @@ bool TextView::MouseEvent(QEvent& event) {
 }
 
 LineView::LineView(FormWindow& window, ui::TextBox& box)
-    : TextView(window, box, new QLineEdit(&window)), own_(static_cast<QLineEdit*>(Widget())) {
+    : EditView(window, box, new QLineEdit(&window)) {
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 12);
-    QObject::connect(own_, &QLineEdit::textChanged, this, [this] { Edited(); });
-    QObject::connect(own_, &QLineEdit::cursorPositionChanged, this, [this] { Moved(); });
-    QObject::connect(own_, &QLineEdit::selectionChanged, this, [this] { Moved(); });
-}
-
-void LineView::Draw() {
-    own_->setReadOnly(model_.Locked());
-    TextView::Draw();
-}
-
-int LineView::WidgetSelectionStart() const {
-    return own_->selectionStart();
 }
 
 void LineView::PutSelection(int start, int length) {
@@ -135,19 +112,11 @@ void LineView::ReplaceAll(const QString& text) {
 }
 
 LinesView::LinesView(FormWindow& window, ui::TextBox& box)
-    : TextView(window, box, new LinesEdit(&window)), own_(static_cast<QPlainTextEdit*>(Widget())) {
+    : EditView(window, box, new LinesEdit(&window)) {
     Watch(own_->viewport());
     own_->setTabChangesFocus(true);
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 4);
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 28);
-    QObject::connect(own_, &QPlainTextEdit::textChanged, this, [this] { Edited(); });
-    QObject::connect(own_, &QPlainTextEdit::cursorPositionChanged, this, [this] { Moved(); });
-    QObject::connect(own_, &QPlainTextEdit::selectionChanged, this, [this] { Moved(); });
-}
-
-void LinesView::Draw() {
-    own_->setReadOnly(model_.Locked());
-    TextView::Draw();
 }
 
 int LinesView::WidgetSelectionLength() const {

@@ -9,10 +9,9 @@ namespace vexora::qt {
 
 /// A text field. The widget edits; text, caret and selection go to the model after every change,
 /// and what a handler corrected comes back at once.
-class TextView : public View {
+class TextView : public ViewOf<ui::TextBox, QWidget> {
 public:
     TextView(FormWindow& window, ui::TextBox& box, QWidget* widget);
-    QWidget* ClickTarget() const override;
     bool Wants(const ui::Key& key) const override;
 
     /// Puts a text in the place of all that stands there, as pasting over everything does.
@@ -31,47 +30,57 @@ protected:
     void Edited();
     void Moved();
 
-    ui::TextBox& model_;
-
 private:
     bool afterDouble_ = false; // the release that ends a double click is no click
 };
 
-class LineView : public TextView {
+/// What the fields of one and of many lines have alike.
+template <class TEdit>
+class EditView : public TextView {
+public:
+    EditView(FormWindow& window, ui::TextBox& box, TEdit* edit)
+        : TextView(window, box, edit), own_(edit) {
+        QObject::connect(own_, &TEdit::textChanged, this, [this] { Edited(); });
+        QObject::connect(own_, &TEdit::cursorPositionChanged, this, [this] { Moved(); });
+        QObject::connect(own_, &TEdit::selectionChanged, this, [this] { Moved(); });
+    }
+
+protected:
+    void Draw() override {
+        own_->setReadOnly(model_.Locked());
+        TextView::Draw();
+    }
+
+    TEdit* own_;
+};
+
+class LineView : public EditView<QLineEdit> {
 public:
     LineView(FormWindow& window, ui::TextBox& box);
     void ReplaceAll(const QString& text) override;
 
 protected:
-    void Draw() override;
     QString WidgetText() const override { return own_->text(); }
     int WidgetCaret() const override { return own_->cursorPosition(); }
-    int WidgetSelectionStart() const override;
+    int WidgetSelectionStart() const override { return own_->selectionStart(); }
     int WidgetSelectionLength() const override { return own_->selectionLength(); }
     void PutText(const QString& text) override { own_->setText(text); }
     void PutSelection(int start, int length) override;
-
-private:
-    QLineEdit* own_;
 };
 
-class LinesView : public TextView {
+class LinesView : public EditView<QPlainTextEdit> {
 public:
     LinesView(FormWindow& window, ui::TextBox& box);
     QWidget* ClickTarget() const override { return own_->viewport(); }
     void ReplaceAll(const QString& text) override;
 
 protected:
-    void Draw() override;
     QString WidgetText() const override { return own_->toPlainText(); }
     int WidgetCaret() const override { return own_->textCursor().position(); }
     int WidgetSelectionStart() const override { return own_->textCursor().selectionStart(); }
     int WidgetSelectionLength() const override;
     void PutText(const QString& text) override { own_->setPlainText(text); }
     void PutSelection(int start, int length) override;
-
-private:
-    QPlainTextEdit* own_;
 };
 
 } // namespace vexora::qt

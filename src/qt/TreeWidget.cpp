@@ -111,9 +111,8 @@ void TreeWidgetView::Listen() {
 
 bool TreeWidgetView::Wants(const ui::Key& key) const {
     if (key.control || key.alt) return false;
-    return key.name == "Up" || key.name == "Down" || key.name == "Left" || key.name == "Right" ||
-           key.name == "Home" || key.name == "End" || key.name.starts_with("Page") ||
-           key.character >= U' ';
+    return key.character >= U' ' || key.name.starts_with("Page") ||
+           IsOneOf(key.name, {"Up", "Down", "Left", "Right", "Home", "End"});
 }
 
 QTreeWidgetItem* TreeWidgetView::ItemOf(const ui::TreeNode& node) const {

@@ -1,5 +1,7 @@
 #include "qt/View.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -41,6 +43,18 @@ void View::Act(const std::function<void()>& action) {
     if (!drawing_) window_.Perform(action);
 }
 
+void View::ActAndRefresh(const std::function<void()>& action) {
+    QPointer<View> self(this);
+    Act(action);
+    if (self) self->Refresh();
+}
+
+bool View::MouseEvent(QEvent& event) {
+    if (event.type() != QEvent::MouseButtonDblClick || !control_.OnDoubleClick) return false;
+    Act([this] { control_.UserDoubleClick(); });
+    return true;
+}
+
 bool View::HandleKey(QEvent& event) {
     ui::Key key = KeyOf(static_cast<QKeyEvent&>(event));
     if (key.name.empty()) return false;
@@ -54,7 +68,7 @@ bool View::HandleKey(QEvent& event) {
         if (control_.IsUsable() && control_.OnKey) control_.OnKey(key);
         if (!self || key.swallowed) return;
         window_.Flush();
-        done = WidgetKey(key);
+        done = false;
     });
     return done;
 }
@@ -79,6 +93,10 @@ bool View::eventFilter(QObject* watched, QEvent* event) {
     default:
         return false;
     }
+}
+
+bool IsOneOf(const std::string& name, std::initializer_list<std::string_view> names) {
+    return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 void Shade(QWidget& widget, bool closed) {

@@ -39,15 +39,17 @@ public:
 
 protected:
     virtual void Draw() = 0;
-    /// The widget saw a press that was not swallowed; true when the view has done all about it.
-    virtual bool WidgetKey(const ui::Key&) { return false; }
-    virtual bool MouseEvent(QEvent&) { return false; }
+    /// A press, a release or the second press of a double click; true when the widget must not see
+    /// it. As it stands here a control that listens gets its double clicks.
+    virtual bool MouseEvent(QEvent& event);
 
     void Watch(QWidget* widget) { widget->installEventFilter(this); }
     bool IsDrawing() const { return drawing_; }
     FormWindow& Window() const { return window_; }
     /// Runs what a person did, unless it is only the echo of our own drawing.
     void Act(const std::function<void()>& action);
+    /// The same, and then draws, for a handler may have corrected what was done.
+    void ActAndRefresh(const std::function<void()>& action);
 
 private:
     bool HandleKey(QEvent& event);
@@ -62,6 +64,7 @@ private:
 template <class TControl, class TWidget>
 class ViewOf : public View {
 public:
+    using OfControl = TControl;
     ViewOf(FormWindow& window, TControl& control, TWidget* widget)
         : View(window, control, widget), model_(control), own_(widget) {}
 
@@ -69,6 +72,8 @@ protected:
     TControl& model_;
     TWidget* own_;
 };
+
+bool IsOneOf(const std::string& name, std::initializer_list<std::string_view> names);
 
 /// What cannot be typed into looks like the window around it.
 void Shade(QWidget& widget, bool closed);
