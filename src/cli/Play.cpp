@@ -6,7 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <iostream>
 
 namespace vexora {

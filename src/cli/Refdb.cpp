@@ -74,20 +74,14 @@ int TellImported(const ImportResult& result) {
 }
 
 int Import(const Arguments& arguments) {
-    try {
-        ReferenceDatabases databases;
-        databases.LocalDb.Open(VocabularyFor(arguments), true);
-        UseDatabases(&databases);
-        const ImportResult result = ImportCompounds(
-            arguments.compounds, arguments.database,
-            {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; }});
-        if (!result.readable)
-            return TellUnreadable(arguments.compounds + ": the file cannot be read");
-        return TellImported(result);
-    } catch (const DatabaseError& error) {
-        std::cerr << "error: " << error.what() << '\n';
-        return error.CannotWrite() ? kExitCannotWrite : kExitUnreadable;
-    }
+    ReferenceDatabases databases;
+    databases.LocalDb.Open(VocabularyFor(arguments), true);
+    UseDatabases(&databases);
+    const ImportResult result = ImportCompounds(
+        arguments.compounds, arguments.database,
+        {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; }});
+    if (!result.readable) return TellUnreadable(arguments.compounds + ": the file cannot be read");
+    return TellImported(result);
 }
 
 int Check(const Arguments& arguments) {
@@ -98,17 +92,13 @@ int Check(const Arguments& arguments) {
                                               (folder / kCompoundsName).string()))
         return TellUnreadable(*error);
     UseDatabases(&databases);
-    try {
-        const RowRemarks findings = CheckTables(databases);
-        for (const RowRemark& finding : findings)
-            std::cerr << finding.Line() << '\n';
-        if (arguments.summary)
-            for (const auto& [what, count] : CountTables(databases))
-                std::cout << what << ' ' << count << '\n';
-        return findings.empty() ? kExitClean : kExitFindings;
-    } catch (const DatabaseError& error) {
-        return TellUnreadable(error.what());
-    }
+    const RowRemarks findings = CheckTables(databases);
+    for (const RowRemark& finding : findings)
+        std::cerr << finding.Line() << '\n';
+    if (arguments.summary)
+        for (const auto& [what, count] : CountTables(databases))
+            std::cout << what << ' ' << count << '\n';
+    return findings.empty() ? kExitClean : kExitFindings;
 }
 
 } // namespace
@@ -121,7 +111,12 @@ void AddRefdbCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
     const auto add = [&](const char* name, const char* what, int (*run)(const Arguments&)) {
         CLI::App* command = refdb->add_subcommand(name, what);
         command->callback([arguments, run, &exitCode] {
-            exitCode = run(*arguments);
+            try {
+                exitCode = run(*arguments);
+            } catch (const DatabaseError& error) {
+                std::cerr << "error: " << error.what() << '\n';
+                exitCode = error.CannotWrite() ? kExitCannotWrite : kExitUnreadable;
+            }
             UseDatabases(nullptr);
         });
         return command;

@@ -31,8 +31,8 @@ const Player::Row Player::commands[] = {
     {"quit", &Player::Quit},
     {"click", &Player::Click},
     {"dblclick", &Player::DoubleClick},
-    {"set", &Player::Set},
-    {"type", &Player::Type},
+    {"set", &Player::Enter},
+    {"type", &Player::Enter},
     {"key", &Player::PressKey},
     {"choose", &Player::ChooseEntry},
     {"select", &Player::SelectEntry},
@@ -42,7 +42,7 @@ const Player::Row Player::commands[] = {
     {"dblnode", &Player::Node},
     {"keynode", &Player::Node},
     {"cell", &Player::Cell},
-    {"cells", &Player::Cells},
+    {"cells", &Player::Cell},
     {"block", &Player::Block},
     {"clipboard", &Player::Clipboard},
     {"drag", &Player::Drag},
@@ -102,8 +102,7 @@ bool Player::PlayNext() {
 
 void Player::Execute(const ScriptLine& line) {
     const std::string& name = line.Text(0);
-    const auto row = std::find_if(std::begin(commands), std::end(commands),
-                                  [&name](const Row& entry) { return entry.name == name; });
+    const auto* row = std::ranges::find(commands, name, &Row::name);
     if (row == std::end(commands)) CannotDo("a known command", name);
     const bool looksOnly = name == "expect" || name == "print" || name == "note" ||
                            name == "shot" || name == "include";

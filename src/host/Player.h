@@ -80,8 +80,7 @@ private:
     void Quit(const ScriptLine& line);
     void Click(const ScriptLine& line);
     void DoubleClick(const ScriptLine& line);
-    void Set(const ScriptLine& line);
-    void Type(const ScriptLine& line);
+    void Enter(const ScriptLine& line);
     void PressKey(const ScriptLine& line);
     void ChooseEntry(const ScriptLine& line);
     void SelectEntry(const ScriptLine& line);
@@ -89,7 +88,6 @@ private:
     void Tab(const ScriptLine& line);
     void Node(const ScriptLine& line);
     void Cell(const ScriptLine& line);
-    void Cells(const ScriptLine& line);
     void Block(const ScriptLine& line);
     void Clipboard(const ScriptLine& line);
     void Drag(const ScriptLine& line);

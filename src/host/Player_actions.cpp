@@ -148,16 +148,13 @@ void Player::DoubleClick(const ScriptLine& line) {
     actor_.DoubleClick(Reached<ui::Control>(line.Text(1)));
 }
 
-void Player::Set(const ScriptLine& line) {
+void Player::Enter(const ScriptLine& line) {
     auto& control = Reached<ui::Control>(line.Text(1));
     NeedsTyping(control);
-    actor_.Set(control, line.Text(2));
-}
-
-void Player::Type(const ScriptLine& line) {
-    auto& control = Reached<ui::Control>(line.Text(1));
-    NeedsTyping(control);
-    actor_.Type(control, line.Text(2));
+    if (line.Is(0, "set"))
+        actor_.Set(control, line.Text(2));
+    else
+        actor_.Type(control, line.Text(2));
 }
 
 void Player::PressKey(const ScriptLine& line) {
@@ -210,13 +207,10 @@ void Player::Node(const ScriptLine& line) {
 void Player::Cell(const ScriptLine& line) {
     auto& grid = Reached<ui::Grid>(line.Text(1));
     NeedsCell(grid, line.Int(2), line.Int(3), true);
-    actor_.TypeCell(grid, line.Int(2), line.Int(3), line.Text(4));
-}
-
-void Player::Cells(const ScriptLine& line) {
-    auto& grid = Reached<ui::Grid>(line.Text(1));
-    NeedsCell(grid, line.Int(2), line.Int(3), true);
-    actor_.PasteCells(grid, line.Int(2), line.Int(3), line.BlockText());
+    if (line.block)
+        actor_.PasteCells(grid, line.Int(2), line.Int(3), line.BlockText());
+    else
+        actor_.TypeCell(grid, line.Int(2), line.Int(3), line.Text(4));
 }
 
 void Player::Block(const ScriptLine& line) {

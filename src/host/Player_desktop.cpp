@@ -23,7 +23,7 @@ std::string ButtonsText(ui::MessageButtons buttons) {
 std::optional<ui::Answer> AnswerOf(const ui::Message& message, const std::string& word) {
     const std::string buttons = "/" + ButtonsText(message.buttons) + "/";
     if (buttons.find("/" + word + "/") == buttons.npos) return {};
-    const auto* found = std::find(std::begin(answerWords), std::end(answerWords), word);
+    const auto* found = std::ranges::find(answerWords, word);
     return static_cast<ui::Answer>(found - std::begin(answerWords));
 }
 

@@ -6,7 +6,6 @@
 #include "host/Reach.h"
 #include "host/TreeText.h"
 #include "host/XmlPath.h"
-#include "reference/Numbers.h"
 
 namespace vexora::host {
 

@@ -13,8 +13,8 @@ constexpr std::string_view pathSeparator = " / ";
 
 bool Holds(const ui::Layout& layout, const ui::Control& control) {
     if (layout.control == &control || layout.label == &control) return true;
-    return std::any_of(layout.parts.begin(), layout.parts.end(),
-                       [&control](const ui::Layout& part) { return Holds(part, control); });
+    return std::ranges::any_of(layout.parts,
+                               [&](const auto& part) { return Holds(part, control); });
 }
 
 /// False when the control stands on a page that is not turned up.

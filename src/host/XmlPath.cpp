@@ -43,9 +43,7 @@ public:
 
 private:
     [[noreturn]] void Fail(const std::string& what) const {
-        const auto line = std::count(
-            text_.begin(), text_.begin() + static_cast<std::ptrdiff_t>(std::min(at_, text_.size())),
-            '\n');
+        const auto line = std::ranges::count(text_.substr(0, at_), '\n');
         throw XmlError("line " + std::to_string(line + 1) + ": " + what);
     }
 
@@ -257,28 +255,23 @@ private:
 };
 
 bool HasChild(const Element& element, const std::string& name, const std::string& text) {
-    return std::any_of(element.children.begin(), element.children.end(), [&](const auto& child) {
+    return std::ranges::any_of(element.children, [&](const auto& child) {
         return child->name == name && Trim(child->text) == text;
     });
 }
 
 using Found = std::vector<const Element*>;
 
-void AddUnique(Found& found, const Element* element) {
-    if (std::find(found.begin(), found.end(), element) == found.end()) found.push_back(element);
-}
-
 void TakeStep(const Element& parent, const Step& step, Found& found) {
     std::int64_t position = 0;
     for (const auto& child : parent.children) {
         const bool named = step.name == "*" || child->name == step.name;
-        const bool fits =
-            named &&
-            std::all_of(step.children.begin(), step.children.end(), [&child](const auto& wanted) {
-                return HasChild(*child, wanted.first, wanted.second);
-            });
-        if (fits && (++position == step.position || step.position == 0))
-            AddUnique(found, child.get());
+        const bool fits = named && std::ranges::all_of(step.children, [&](const auto& wanted) {
+                              return HasChild(*child, wanted.first, wanted.second);
+                          });
+        const bool isMeant = fits && (++position == step.position || step.position == 0);
+        if (isMeant && std::ranges::find(found, child.get()) == found.end())
+            found.push_back(child.get());
         if (step.anyDepth) TakeStep(*child, step, found);
     }
 }

@@ -1,9 +1,8 @@
 #include "qt/BasicViews.h"
 
 #include <QAction>
-#include <QMouseEvent>
+#include <QEvent>
 #include <QStyle>
-#include <QStyleOption>
 #include <QTextBrowser>
 
 #include "qt/FormWindow.h"

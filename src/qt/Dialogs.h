@@ -1,9 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
-
-#include <QDialog>
 
 #include "ui/Desktop.h"
 

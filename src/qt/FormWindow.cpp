@@ -1,6 +1,5 @@
 #include "qt/FormWindow.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -110,11 +109,9 @@ View* FormWindow::ViewFor(const ui::Control& control) const {
 void FormWindow::FollowFocus() {
     const ui::Control* active = form_.ActiveControl();
     View* view = active ? ViewFor(*active) : nullptr;
-    if (!view || !view->Widget()) return;
-    if (!view->Widget()->hasFocus()) {
-        Flush();
-        view->Widget()->setFocus(Qt::OtherFocusReason);
-    }
+    if (!view || !view->Widget() || view->Widget()->hasFocus()) return;
+    Flush();
+    view->Widget()->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::MarkDirty(View& view) {

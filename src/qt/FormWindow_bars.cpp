@@ -24,9 +24,7 @@ void FormWindow::MakeMenus() {
 // A document picked here is opened as if its file had been dropped on the tree.
 void FormWindow::AddRecentMenu() {
     const auto& controls = form_.Controls();
-    const auto tree = std::find_if(controls.begin(), controls.end(), [](const auto* control) {
-        return control->Kind() == ui::ControlKind::TreeView;
-    });
+    const auto tree = std::ranges::find(controls, ui::ControlKind::TreeView, &ui::Control::Kind);
     if (!windows_.Recent || tree == controls.end() || menuBar()->actions().isEmpty()) return;
     QMenu* first = menuBar()->actions().constFirst()->menu();
     auto& target = static_cast<ui::TreeView&>(**tree);

@@ -1,14 +1,13 @@
 #include "qt/Icons.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 
 #include <QPainter>
 #include <QPixmap>
 
 #include "qt/Text.h"
+#include "reference/Text.h"
 
 namespace vexora::qt {
 
@@ -146,9 +145,7 @@ void Letter(Brush& brush, std::string_view key) {
 }
 
 void DrawIcon(Brush& brush, std::string_view key) {
-    std::string lower(key);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string lower = LowerAscii(key);
     for (const Known& entry : known) {
         if (lower.find(entry.word) != std::string::npos) return entry.draw(brush);
     }
@@ -179,13 +176,10 @@ QIcon ApplicationIcon() {
 }
 
 QIcon IconFor(std::string_view key, const QPalette& palette) {
-    const auto colour = [&palette](QPalette::ColorGroup group, QPalette::ColorRole role) {
-        return palette.color(group, role);
-    };
-    QIcon icon(Drawn(key, colour(QPalette::Active, QPalette::ButtonText),
-                     colour(QPalette::Active, QPalette::Highlight)));
-    icon.addPixmap(Drawn(key, colour(QPalette::Disabled, QPalette::ButtonText),
-                         colour(QPalette::Active, QPalette::Mid)),
+    QIcon icon(Drawn(key, palette.color(QPalette::Active, QPalette::ButtonText),
+                     palette.color(QPalette::Active, QPalette::Highlight)));
+    icon.addPixmap(Drawn(key, palette.color(QPalette::Disabled, QPalette::ButtonText),
+                         palette.color(QPalette::Active, QPalette::Mid)),
                    QIcon::Disabled);
     return icon;
 }

@@ -26,9 +26,9 @@ void Gather(const ui::Layout& layout, std::vector<const ui::Control*>& controls)
         Gather(part, controls);
 }
 
-bool IsToggle(const ui::Layout& layout) {
-    return layout.kind == Kind::Item && (layout.control->Kind() == ControlKind::CheckBox ||
-                                         layout.control->Kind() == ControlKind::OptionButton);
+bool IsItem(const ui::Layout& layout, std::initializer_list<ControlKind> kinds) {
+    return layout.kind == Kind::Item &&
+           std::ranges::find(kinds, layout.control->Kind()) != kinds.end();
 }
 
 bool BeginsWithField(const ui::Layout& layout) {
@@ -36,27 +36,19 @@ bool BeginsWithField(const ui::Layout& layout) {
            layout.parts.front().kind == Kind::Field;
 }
 
-bool IsBar(const ui::Layout& layout) {
-    return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Toolbar;
-}
-
-// A table gets more of the room than the lists beside it.
-bool IsTable(const ui::Layout& layout) {
-    return layout.kind == Kind::Item && layout.control->Kind() == ControlKind::Grid;
-}
-
 // Buttons and options without a label of their own stand under the fields.
+bool IsButton(const ui::Layout& layout) {
+    using enum ControlKind;
+    return layout.kind == Kind::Stretch || IsItem(layout, {CheckBox, OptionButton, CommandButton});
+}
+
 bool IsRowOfButtons(const ui::Layout& layout) {
     return layout.kind == Kind::Row && !layout.parts.empty() &&
-           std::all_of(layout.parts.begin(), layout.parts.end(), [](const ui::Layout& part) {
-               return part.kind == Kind::Stretch || IsToggle(part) ||
-                      (part.kind == Kind::Item &&
-                       part.control->Kind() == ControlKind::CommandButton);
-           });
+           std::ranges::all_of(layout.parts, IsButton);
 }
 
 bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
-    return std::any_of(layout.parts.begin(), layout.parts.end(), test);
+    return std::ranges::any_of(layout.parts, test);
 }
 
 constexpr int shortList = 8; // so many entries are shown without scrolling
@@ -201,21 +193,22 @@ QWidget* LayoutBuilder::MakeColumn(const ui::Layout& layout) {
     auto* owner = new QWidget(&window_);
     auto* grid = Bare<QGridLayout>(owner);
     grid->setColumnStretch(1, 1);
-    const bool hasFields = std::any_of(parts.begin(), parts.end(), [](const ui::Layout& part) {
+    const bool hasFields = std::ranges::any_of(parts, [](const ui::Layout& part) {
         return part.kind == Kind::Field || BeginsWithField(part);
     });
     int row = 0;
     bool grows = false;
     bool loose = false; // the room left over stands above a closing button row
     for (const ui::Layout& part : parts) {
-        if (IsBar(part)) continue;
+        if (IsItem(part, {ControlKind::Toolbar})) continue;
         const bool last = &part == &parts.back();
         if (last && !grows && part.kind == Kind::Buttons) {
             grid->setRowStretch(row++, 1);
             loose = true;
         }
         AddToColumn(*grid, row, part, hasFields);
-        if (GrowsDown(part)) KeepRoom(*grid, row, IsTable(part) ? 3 : 1);
+        // A table gets more of the room than the lists beside it.
+        if (GrowsDown(part)) KeepRoom(*grid, row, IsItem(part, {ControlKind::Grid}) ? 3 : 1);
         grows = grows || GrowsDown(part);
         ++row;
     }
@@ -230,11 +223,11 @@ void LayoutBuilder::AddToColumn(QGridLayout& grid, int row, const ui::Layout& pa
     if (BeginsWithField(part)) return AddRowOfFields(grid, row, part);
     const bool underField = part.kind == Kind::Note && grid.itemAtPosition(row - 1, 1) != nullptr &&
                             grid.itemAtPosition(row - 1, 0) != grid.itemAtPosition(row - 1, 1);
-    const bool indented = hasFields && (IsToggle(part) || IsRowOfButtons(part) || underField);
+    const bool isToggle = IsItem(part, {ControlKind::CheckBox, ControlKind::OptionButton});
+    const bool indented = hasFields && (isToggle || IsRowOfButtons(part) || underField);
     QWidget* widget = Make(part);
     const bool narrow = part.kind == Kind::Item && !GrowsAcross(part) &&
-                        part.control->Kind() != ControlKind::Label &&
-                        part.control->Kind() != ControlKind::TabStrip;
+                        !IsItem(part, {ControlKind::Label, ControlKind::TabStrip});
     const Qt::Alignment side = narrow ? Qt::AlignLeft : Qt::Alignment();
     grid.addWidget(widget, row, indented ? 1 : 0, 1, indented ? 1 : 2, side);
 }
@@ -243,8 +236,7 @@ void LayoutBuilder::AddField(QGridLayout& grid, int row, const ui::Layout& part)
     QWidget* widget = Make(part.parts.front());
     QWidget* label = LabelOf(part, widget);
     const ui::Layout& inside = part.parts.front();
-    const bool isList = inside.kind == Kind::Item && inside.control->Kind() == ControlKind::ListBox;
-    const bool tall = isList || GrowsDown(part);
+    const bool tall = IsItem(inside, {ControlKind::ListBox}) || GrowsDown(part);
     const bool marks = part.label && part.label->Kind() == ControlKind::CheckBox;
     const Qt::Alignment side = marks ? Qt::AlignLeft : Qt::AlignRight; // marks one below the other
     grid.addWidget(label, row, 0, side | (tall ? Qt::AlignTop : Qt::AlignVCenter));
@@ -394,7 +386,7 @@ void LayoutBuilder::KeepRoom(QGridLayout& column, int row, int share) {
 // What is hidden leaves its room to the others; where all is hidden the room stays as it was.
 void LayoutBuilder::ShareRooms() {
     for (const Room& room : rooms_) {
-        const bool others = std::any_of(rooms_.begin(), rooms_.end(), [&](const Room& other) {
+        const bool others = std::ranges::any_of(rooms_, [&](const Room& other) {
             return other.column == room.column && !other.part->isHidden();
         });
         room.column->setRowStretch(room.row, room.part->isHidden() && others ? 0 : room.share);
@@ -406,9 +398,8 @@ void LayoutBuilder::Follow() {
         ShareLabelEdge(*column);
     for (const Companion& companion : companions_) {
         const auto& of = companion.controls;
-        const bool any = of.empty() || std::any_of(of.begin(), of.end(), [](const auto* control) {
-                             return control->Visible();
-                         });
+        const auto isVisible = [](const ui::Control* control) { return control->Visible(); };
+        const bool any = of.empty() || std::ranges::any_of(of, isVisible);
         const bool shown = any && (companion.own == nullptr || companion.own->Visible());
         if (companion.widget->isHidden() == shown) companion.widget->setVisible(shown);
         if (companion.dims && !of.empty()) companion.widget->setEnabled(of.front()->Enabled());

@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QRadioButton>
-#include <QTextBrowser>
 
 #include "qt/BasicViews.h"
 #include "qt/GridView.h"

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <map>
 #include <tuple>
-#include <utility>
 
 #include <QBuffer>
 #include <QImage>

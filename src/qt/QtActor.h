@@ -3,8 +3,6 @@
 #include <exception>
 #include <functional>
 
-#include <QPointer>
-
 #include "host/Actor.h"
 #include "qt/Windows.h"
 

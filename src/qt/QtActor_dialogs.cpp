@@ -1,8 +1,7 @@
+#include <QAbstractButton>
 #include <QInputDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include "qt/Dialogs.h"
 #include "qt/Events.h"

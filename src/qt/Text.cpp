@@ -15,20 +15,12 @@ QString Literal(std::string_view text) {
 }
 
 std::size_t PointsBefore(const QString& text, qsizetype position) {
-    std::size_t points = 0;
-    for (qsizetype i = 0; i < position && i < text.size(); ++i) {
-        if (!text[i].isLowSurrogate()) ++points;
-    }
-    return points;
+    return text.left(position).toStdU32String().size();
 }
 
 int PositionAfter(const QString& text, std::size_t points) {
-    qsizetype position = 0;
-    while (points > 0 && position < text.size()) {
-        position += text[position].isHighSurrogate() && position + 1 < text.size() ? 2 : 1;
-        --points;
-    }
-    return static_cast<int>(position);
+    const auto before = QString::fromStdU32String(text.toStdU32String().substr(0, points));
+    return static_cast<int>(before.size());
 }
 
 } // namespace vexora::qt

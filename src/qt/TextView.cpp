@@ -119,11 +119,6 @@ LinesView::LinesView(FormWindow& window, ui::TextBox& box)
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 28);
 }
 
-int LinesView::WidgetSelectionLength() const {
-    const QTextCursor cursor = own_->textCursor();
-    return cursor.selectionEnd() - cursor.selectionStart();
-}
-
 void LinesView::PutSelection(int start, int length) {
     QTextCursor cursor = own_->textCursor();
     cursor.setPosition(start);

@@ -78,7 +78,9 @@ protected:
     QString WidgetText() const override { return own_->toPlainText(); }
     int WidgetCaret() const override { return own_->textCursor().position(); }
     int WidgetSelectionStart() const override { return own_->textCursor().selectionStart(); }
-    int WidgetSelectionLength() const override;
+    int WidgetSelectionLength() const override {
+        return static_cast<int>(own_->textCursor().selectedText().size());
+    }
     void PutText(const QString& text) override { own_->setPlainText(text); }
     void PutSelection(int start, int length) override;
 };

@@ -96,7 +96,7 @@ bool View::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool IsOneOf(const std::string& name, std::initializer_list<std::string_view> names) {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return std::ranges::find(names, name) != names.end();
 }
 
 void Shade(QWidget& widget, bool closed) {

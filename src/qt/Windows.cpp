@@ -2,8 +2,6 @@
 
 #include <QSettings>
 
-#include "qt/Text.h"
-
 namespace vexora::qt {
 
 struct Windows::Watch {

@@ -3,7 +3,6 @@
 #include <exception>
 #include <functional>
 #include <memory>
-#include <string>
 #include <unordered_map>
 
 #include <QPointer>

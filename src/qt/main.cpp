@@ -51,8 +51,7 @@ Request Read(std::vector<std::string> words) {
     Request request;
     const char* look = std::getenv("VEXORA_LOOK");
     request.look = TakeOption(words, "--look").value_or(look ? look : "");
-    const auto play = std::find(words.begin(), words.end(), "--play");
-    if (play != words.end()) {
+    if (const auto play = std::ranges::find(words, "--play"); play != words.end()) {
         request.plays = true;
         words.erase(play);
         request.play = words;
@@ -82,12 +81,10 @@ int Play(const Request& request, const std::string& argv0) {
 
 int main(int count, char** arguments) {
     const std::vector<std::string> first(arguments + 1, arguments + count);
-    if (std::find(first.begin(), first.end(), "--help") != first.end()) {
-        std::cout << usage;
-        return 0;
-    }
-    if (std::find(first.begin(), first.end(), "--version") != first.end()) {
-        std::cout << "vexora " VEXORA_VERSION "\n";
+    for (const auto& [option, told] :
+         {std::pair("--help", usage), std::pair("--version", "vexora " VEXORA_VERSION "\n")}) {
+        if (std::ranges::find(first, option) == first.end()) continue;
+        std::cout << told;
         return 0;
     }
     vexora::qt::Application application(count, arguments);

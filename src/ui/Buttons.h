@@ -82,7 +82,6 @@ public:
     OptionButton(Form& form, std::string name, std::string caption, int group = 0)
         : CheckBox(form, ControlKind::OptionButton, std::move(name), std::move(caption)),
           group_(group) {}
-    int Group() const { return group_; }
     void Value(bool value);
     using CheckBox::Value;
     void UserClick() override;

@@ -59,8 +59,7 @@ Form& Forms::Get(std::string_view name) {
 }
 
 Form* Forms::Find(std::string_view name) const {
-    const auto found = std::find_if(open_.begin(), open_.end(),
-                                    [name](const Form* form) { return form->Name() == name; });
+    const auto found = std::ranges::find(open_, name, &Form::Name);
     return found == open_.end() ? nullptr : *found;
 }
 
@@ -88,9 +87,7 @@ void Forms::Raise(Form& form) {
 
 void Forms::NoteClosed(Form& form) {
     std::erase(open_, &form);
-    const auto place =
-        std::find_if(instances_.begin(), instances_.end(),
-                     [&form](const auto& instance) { return instance.get() == &form; });
+    const auto place = std::ranges::find(instances_, &form, &std::unique_ptr<Form>::get);
     if (place != instances_.end()) {
         closed_.push_back(std::move(*place));
         instances_.erase(place);

@@ -9,20 +9,6 @@
 
 namespace vexora::ui {
 
-namespace {
-
-std::vector<std::string_view> Pieces(std::string_view text, char separator) {
-    std::vector<std::string_view> pieces;
-    for (std::size_t at = 0; at <= text.size();) {
-        const std::size_t end = std::min(text.find(separator, at), text.size());
-        pieces.push_back(text.substr(at, end - at));
-        at = end + 1;
-    }
-    return pieces;
-}
-
-} // namespace
-
 Grid::Grid(Form& form, std::string name, int rows, int columns, int fixedRows, int fixedColumns)
     : Control(form, ControlKind::Grid, std::move(name)), columns_(columns), fixedRows_(fixedRows),
       fixedColumns_(fixedColumns) {
@@ -140,30 +126,10 @@ void Grid::UserCell(int row, int column, const std::string& text) {
         OnEdit(row, column, text);
     else
         Cell(row, column, text);
-    if (OnCellChanged) OnCellChanged(row, column);
 }
 
 void Grid::UserPaste(const std::string& text) {
-    if (!IsUsable() || !editable_) return;
-    if (OnPaste) {
-        OnPaste(text);
-        return;
-    }
-    const int top = selection_.top;
-    const int left = selection_.left;
-    std::string_view all(text);
-    while (all.ends_with('\n') || all.ends_with('\r'))
-        all.remove_suffix(1);
-    int row = top;
-    for (std::string_view line : Pieces(all, '\n')) {
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        int column = left;
-        for (const std::string_view cell : Pieces(line, '\t')) {
-            UserCell(row, column++, std::string(cell));
-        }
-        ++row;
-    }
-    UserSelect({top, left, top, left});
+    if (IsUsable() && editable_ && OnPaste) OnPaste(text);
 }
 
 bool Grid::UserKey(Key& key) {

@@ -2,7 +2,6 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,7 +12,7 @@ namespace vexora::ui {
 class TextBox;
 
 /// A table of texts with fixed rows and columns at its head. Rows and columns count from 0, the
-/// fixed ones included. OnCellChanged follows every change of one cell's text by a person.
+/// fixed ones included.
 class Grid : public Control {
 public:
     struct Block {
@@ -87,10 +86,9 @@ public:
 
     std::string Display() const override { return Cell(selection_.top, selection_.left); }
 
-    std::function<void(int row, int column)> OnCellChanged;
     /// Takes the text that a person enters in a cell; without it the text goes in as it stands.
     std::function<void(int row, int column, const std::string& text)> OnEdit;
-    /// Takes a pasted text; without it the text goes in as it stands.
+    /// Takes a pasted text; without it nothing is pasted.
     std::function<void(const std::string& text)> OnPaste;
 
     void UserCell(int row, int column, const std::string& text);

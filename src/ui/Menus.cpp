@@ -22,9 +22,4 @@ ToolButton::ToolButton(Form& form, std::string key, std::string caption, std::st
     ToolTip(std::move(toolTip));
 }
 
-ToolButton* Toolbar::Button(int index) const {
-    const bool inside = index >= 1 && index <= static_cast<int>(buttons_.size());
-    return inside ? buttons_[static_cast<std::size_t>(index - 1)] : nullptr;
-}
-
 } // namespace vexora::ui

@@ -44,8 +44,6 @@ public:
     Toolbar(Form& form, std::string name) : Control(form, ControlKind::Toolbar, std::move(name)) {}
     void Add(ToolButton& button) { buttons_.push_back(&button); }
     const std::vector<ToolButton*>& Buttons() const { return buttons_; }
-    /// The button with an index counted from 1, or null.
-    ToolButton* Button(int index) const;
     bool TakesFocus() const override { return false; }
     std::string Display() const override { return {}; }
 

@@ -1,7 +1,5 @@
 #include "ui/TreeView.h"
 
-#include <algorithm>
-
 namespace vexora::ui {
 
 TreeNode::TreeNode(TreeView& tree, TreeNode* parent, std::string key, std::string text)

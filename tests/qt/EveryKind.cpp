@@ -1,5 +1,6 @@
 #include "qt/EveryKind.h"
 
+#include "support/PasteByTabs.h"
 #include "ui/Forms.h"
 
 namespace vexora::qt::test {
@@ -51,6 +52,7 @@ void EveryKind::Load() {
     lstOne.Assign({"one", "two", "three"});
     lstMany.Assign({"a", "b", "c"});
     lstMarks.Assign({"x", "y", "z"});
+    vexora::test::PasteByTabs(tblData);
     tblData.Cell(0, 1, "T/K");
     tblData.Cell(0, 2, "p/kPa");
     for (int row = 1; row < tblData.Rows(); ++row)
@@ -102,7 +104,8 @@ void EveryKind::ListenToSurfaces() {
         Tell("cboType drops down");
         if (cboType.Find("Report") < 0) cboType.Add("Report");
     };
-    tblData.OnCellChanged = [this](int row, int column) {
+    tblData.OnEdit = [this](int row, int column, const std::string& text) {
+        tblData.Cell(row, column, text);
         Tell("cell " + std::to_string(row) + " " + std::to_string(column) + " = " +
              tblData.Cell(row, column));
     };

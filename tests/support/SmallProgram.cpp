@@ -1,5 +1,6 @@
 #include "support/SmallProgram.h"
 
+#include "support/PasteByTabs.h"
 #include "ui/Forms.h"
 
 namespace vexora::test {
@@ -50,6 +51,7 @@ frmSmall::frmSmall() : Form("frmSmall", "Small") {
     txtLocked.Text("fixed");
     txtLocked.Locked(true);
     grdData.Cell(0, 0, "T");
+    PasteByTabs(grdData);
     HelpContext = 110;
     auto& root = treDocument.Add(nullptr, "S", "Source");
     treDocument.Add(&root, "C1", "water / ice");

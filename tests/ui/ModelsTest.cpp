@@ -114,23 +114,27 @@ TEST(Grid, APersonReachesOnlyTheCellsBehindTheFixedOnes) {
     ui::Form form("frmGrid", "Grid");
     ui::Grid grid(form, "grdData", 3, 3, 1, 1);
     std::string told;
-    grid.OnCellChanged = [&](int row, int column) {
-        told += std::to_string(row) + std::to_string(column) + "=" + grid.Cell(row, column) + " ";
+    grid.OnEdit = [&](int row, int column, const std::string& text) {
+        told += std::to_string(row) + std::to_string(column) + "=" + text + " ";
+        grid.Cell(row, column, text);
     };
+    grid.OnPaste = [&](const std::string& text) { told += "paste " + text; };
     grid.UserCell(0, 1, "x");
     grid.UserCell(1, 0, "x");
     grid.UserCell(9, 9, "x");
     grid.UserCell(1, 1, "5");
     grid.UserCell(1, 1, "5");
     grid.UserSelect({1, 1, 1, 1});
-    grid.UserPaste("6\t7\t8\r\n9\r\n\r\n");
-    EXPECT_EQ(told, "11=5 11=6 12=7 21=9 ");
+    grid.UserPaste("6\t7");
+    EXPECT_EQ(told, "11=5 paste 6\t7");
     grid.Editable(false);
+    grid.UserPaste("8");
+    EXPECT_EQ(told, "11=5 paste 6\t7");
     grid.UserCell(2, 2, "x");
     EXPECT_EQ(grid.Cell(2, 2), "");
     grid.Resize(2, 2);
     EXPECT_EQ(grid.Cell(2, 1), "");
-    EXPECT_EQ(grid.Cell(1, 1), "6");
+    EXPECT_EQ(grid.Cell(1, 1), "5");
 }
 
 TEST(OptionButton, OneOfItsGroupIsOn) {
