@@ -279,6 +279,7 @@ std::vector<FitVerdict> LocalFit(const std::vector<FitPoint>& points, FitScale s
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t a, std::size_t b) { return points[a].x < points[b].x; });
     Curve curve;
+    curve.reserve(order.size());
     for (const std::size_t at : order)
         curve.push_back(points[at]);
     const std::vector<View> views = ViewsOf(curve, scale);
@@ -298,6 +299,7 @@ std::vector<std::size_t> FarRows(const std::vector<FitRow>& rows,
     for (std::size_t n = 0; n < scales.size(); ++n) {
         for (const auto& curve : CurvesAlong(rows, n, scales.size())) {
             std::vector<FitPoint> points;
+            points.reserve(curve.size());
             for (const std::size_t at : curve)
                 points.push_back({rows[at].x[n], rows[at].y, rows[at].least});
             const std::vector<FitVerdict> verdicts = LocalFit(points, scales[n]);

@@ -40,7 +40,7 @@ std::string NextSymbol(std::string_view& text) {
     // A group is not looked up: its braces keep it apart from the elements.
     if (first == '{') {
         const std::size_t close = text.find('}');
-        const std::string symbol(text.substr(0, close == text.npos ? close : close + 1));
+        std::string symbol(text.substr(0, close == text.npos ? close : close + 1));
         text.remove_prefix(symbol.size());
         return symbol;
     }

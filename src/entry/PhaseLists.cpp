@@ -12,6 +12,7 @@ namespace {
 
 std::vector<std::string> PhaseNames(const std::vector<std::string>& codes) {
     std::vector<std::string> names;
+    names.reserve(codes.size());
     for (const std::string& code : codes)
         names.push_back(PhaseName(code));
     return names;

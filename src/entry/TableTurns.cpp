@@ -14,6 +14,7 @@ Cells TextsOf(const ui::Grid& grid) {
     std::size_t filled = 0;
     for (int row = grid.FixedRows(); row < grid.Rows(); ++row) {
         std::vector<std::string> texts;
+        texts.reserve(static_cast<std::size_t>(grid.Columns()));
         for (int column = 0; column < grid.Columns(); ++column)
             texts.push_back(grid.Cell(row, column));
         const bool empty =

@@ -78,6 +78,7 @@ ui::Layout frmUnc::FrameLayout(int i) {
 void frmUnc::ArrangeControls() {
     using namespace ui;
     std::vector<Layout> parts;
+    parts.reserve(static_cast<std::size_t>(frameCount) + 3);
     for (int i = 0; i < frameCount; ++i)
         parts.push_back(FrameLayout(i));
     parts.push_back(Field(lblKVOU, Row({txtKVOU, lblKVOunit})));

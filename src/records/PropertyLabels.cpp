@@ -14,7 +14,7 @@ PropertyLabels* present = nullptr;
 
 template <class Set>
 std::string UnitOf(const Set& value) {
-    const std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
+    std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
     if (!value.isOriginalUnit) return unit;
     const double factor = FactorInUnit(value.PROPERTY_UNIT, value.Factor);
     return unit == "1" && factor <= 0 ? unit : UnitText(unit, value.PROPERTY_UNIT, value.Factor);

@@ -102,7 +102,7 @@ void ReadCompound(ReaderState& state, std::string_view line) {
 std::string MendedRN(ReaderState& state, const std::string& rn) {
     const auto known = state.mendedRN.find(rn);
     if (known != state.mendedRN.end()) return known->second;
-    const std::string mended = WithCheckDigit(rn);
+    std::string mended = WithCheckDigit(rn);
     if (mended != rn) state.Tell({{"RN was corrected: from " + rn + " to " + mended, {}}});
     return mended;
 }

@@ -64,7 +64,7 @@ Initials InitialsOf(std::string_view firstName) {
 std::string TakeBracketed(std::string& firstName) {
     const std::size_t bracket = firstName.find(']');
     if (bracket == std::string::npos) return {};
-    const std::string extension(TrimBlanks(std::string_view(firstName).substr(bracket + 1)));
+    std::string extension(TrimBlanks(std::string_view(firstName).substr(bracket + 1)));
     firstName.resize(bracket);
     return extension;
 }

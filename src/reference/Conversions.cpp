@@ -176,6 +176,7 @@ double ConversionFactor(std::string_view code, std::string_view unit) {
 
 std::vector<std::string_view> BuiltInConversions() {
     std::vector<std::string_view> codes;
+    codes.reserve(std::size(kBuiltIn));
     for (const BuiltIn& unit : kBuiltIn)
         codes.push_back(unit.code);
     return codes;

@@ -50,7 +50,7 @@ std::string SecondName(ui::FileSystem& files, const std::string& path, const std
 std::string Exchange(ui::FileSystem& files, TemporaryFile& finished, const std::string& target,
                      const std::string& backup) {
     if (backup.empty()) {
-        const std::string error = files.Rename(finished.Path(), target);
+        std::string error = files.Rename(finished.Path(), target);
         if (error.empty()) finished.Keep();
         return error;
     }

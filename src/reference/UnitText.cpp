@@ -19,7 +19,7 @@ std::string UnitText(const std::string& systemUnit, std::string_view code, doubl
     const bool isOne = systemUnit == "1"; // of a dimensionless quantity
     std::string known(code);
     if (factor <= 0 && !isOne && !IsSystemUnit(code)) { // a number may be the code of a named unit
-        const std::string text = ConversionText(known, systemUnit);
+        std::string text = ConversionText(known, systemUnit);
         if (!text.empty()) return text;
     }
     factor = FactorInUnit(code, factor);

@@ -24,7 +24,7 @@ bool IsFullPath(std::string_view path) {
 }
 
 std::string AbsolutePath(std::string_view path) {
-    const std::string text = WithSlashes(path);
+    std::string text = WithSlashes(path);
     if (text.empty() || IsFullPath(text)) return text;
     std::error_code failed;
     const std::filesystem::path whole = std::filesystem::absolute(text, failed);
