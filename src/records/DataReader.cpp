@@ -18,6 +18,7 @@ namespace vexora {
 namespace {
 
 /// "*" and "S1" mean the current sample; other texts are the number of one.
+/// The text stays in the record as read; to whom it belongs is told by the sample it hangs on.
 std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
     const KVOGlobal& globals = Globals();
     const bool isCurrent = text == "*" || (text.starts_with('S') && IsNumeric(text.substr(1)));
@@ -27,6 +28,7 @@ std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
     return found == samples.end() ? nullptr : found->second;
 }
 
+/// Blanks part the fields: run together, property "P1" of set 1 would be "P" of set 11.
 std::string SetKey(const clsZ& value) {
     return "Z" + std::to_string(value.nVar) + " " + value.PRPCODE + " " + value.PRPSETNO;
 }
@@ -36,6 +38,7 @@ std::string SetKey(const clsTwo& set) {
 }
 
 /// Notes the set among those of its sample; false when its like is there already.
+/// A walk through all siblings for each record would cost the square of their number.
 bool IsNewSet(ReaderState& state, const clsS& sample, const std::string& key) {
     const auto [entry, isFirst] = state.setKeys.try_emplace(&sample);
     if (isFirst) {
@@ -68,6 +71,7 @@ std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
         state.Abandon(PlaceOfRead() + std::string(Trim(line)), "Sample not specified");
         return nullptr;
     }
+    // Whatever refers to a set names its number, so two of one number cannot both be meant.
     if (!IsNewSet(state, *sample, SetKey(*record))) {
         state.Abandon("This property set already exists\n" + PlaceOfRead() + "Sample # " +
                       record->SMPNM);
@@ -75,6 +79,7 @@ std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
     }
     record->TakePending(state.pending);
     record->AttachTo(*sample);
+    // The header has found its record: its lines are kept.
     state.pendingLines = 0;
     state.lastNotKept = false;
     state.open = record;
@@ -86,6 +91,7 @@ void ReadPureValue(ReaderState& state, std::string_view line) {
 }
 
 void ReadPureSet(ReaderState& state, std::string_view line) {
+    // A pure compound in one phase has two state variables; a third is a fault of the file.
     if (line.starts_with("^3")) return state.AbandonIncomplete(line);
     if (auto set = Attached<clsTwo>(state, line)) Globals().CurrentTwo = std::move(set);
 }
@@ -103,12 +109,14 @@ void ReadSet(ReaderState& state, std::string_view line) {
 }
 
 void ReadRow(ReaderState& state, std::string_view line) {
+    // Rows behind a record that is passed over go with it; rows behind nothing are a fault.
     if (!state.lines || (!state.open && state.lastNotKept)) return state.PassOver();
     const auto taken = state.open ? state.open->LoadRow(line) : OpenRecord::Taken::NoRows;
     if (taken != OpenRecord::Taken::Yes) state.AbandonIncomplete(line);
 }
 
 void ReadRowStatements(ReaderState& state, std::string_view line) {
+    // Data stay true without their statements, so the read goes on; the loss is counted.
     if (!state.open || !state.open->LoadRowStatements(line)) ++state.linesNotKept;
 }
 

@@ -39,6 +39,7 @@ std::vector<Quantity> DataSet::Quantities() const {
 
 void DataSet::AddX(const clsX& item) {
     clsX added = item;
+    // A line may lack its number; then the code tells what it is about.
     if (added.N < 0 && added.PRPCODE == PRPCODE) added.N = 0;
     for (int n = 1; n <= nVar && added.N < 0; ++n)
         if (added.PRPCODE == VARIABLE(n)) added.N = n;
@@ -46,11 +47,13 @@ void DataSet::AddX(const clsX& item) {
         OtherX.push_back(added);
         return;
     }
+    // The places behind the variables are for what is the same in all rows.
     added.Constr = added.N > nVar;
     UX[static_cast<std::size_t>(added.N)] = added;
 }
 
 clsData& DataSet::AddRow(clsData row) {
+    // The first row decides for a set that had none; system values later do not turn it back.
     isOriginalUnit = row.inOriginalUnits || (isOriginalUnit && !recData.IsEmpty());
     return recData.Add(std::move(row));
 }
@@ -72,10 +75,13 @@ void DataSet::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
     if (pending.Factor <= 0) return;
     if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
+    // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
+    // value.
     if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 
 double DataSet::MolarMass() const {
+    // One for all rows, so any row will do to ask with.
     return MolarMassFollowsRows() ? 0 : MolarMass(clsData());
 }
 
@@ -84,6 +90,7 @@ bool DataSet::NeedsMolarMass() const {
 }
 
 void DataSet::PrintEnd(LineWriter& out) const {
+    // With or without a factor: what follows must not take over one.
     out.Line("^M 0");
 }
 
@@ -92,6 +99,7 @@ std::string DataSet::PropertyUnitField() const {
 }
 
 void DataSet::Print(LineWriter& out) const {
+    // A reader that knows no formula of the compound can still convert what stands by mass.
     if (NeedsMolarMass() && !MolarMassFollowsRows()) out.Line("^M " + NumberText(MolarMass()));
     PrintHead(out);
     PrintStatements(out);
@@ -115,11 +123,14 @@ void DataSet::PrintStatements(LineWriter& out) const {
         const bool inEnteredUnit = isOriginalUnit && n <= nVar; // a constraint is in system units
         UX[static_cast<std::size_t>(n)].SaveX(out, inEnteredUnit ? VAR_UNIT(n) : "");
     }
+    // Those of the property stand in the unit of its values, as the line names it.
     UX[0].SaveX(out, "");
     SaveOthers(out, OtherX);
 }
 
 void DataSet::PrintRows(LineWriter& out) const {
+    // ^M is the property's alone, so a variable whose unit has no letter leaves it in each row. The
+    // row goes on being one in original units, for the rest of it is.
     std::array<UnitConversion, MostVariables + 1> units;
     bool converts = false;
     for (int n = 1; n <= nVar; ++n) {

@@ -35,8 +35,13 @@ public:
     static constexpr int Items = std::tuple_size_v<StatementsOfSet>;
 
     int nVar = 1;
+    /// Code of the property, conversion code of its unit, relation of results to it
+    /// (ResultDefinition.h), number of the set, presentation in the paper (Presentation.h).
     std::string PRPCODE, PROPERTY_UNIT, PROPERTY_FUNCT = "DIR", PRPSETNO, DATATYPE;
+    /// Given by the user, or read from ^M; it wins over the unit code.
     double Factor = 0; // factor of a non-standard unit to the system unit, 0 when none
+    /// Values stand in the units of the paper; each row knows for itself
+    /// (clsData::inOriginalUnits).
     bool isOriginalUnit = true;
     /// Precision tags of the comment stand in system units (see clsX::inSystemUnits).
     bool commentInSystemUnits = false;
@@ -93,6 +98,7 @@ public:
     Taken LoadRow(std::string_view line) override;
     bool LoadRowStatements(std::string_view line) override;
     /// Header fields and a pending factor of the reader.
+    /// To be called once, before rows are added.
     virtual void TakePending(const clsA& pending);
     /// Writes the set with its statements and rows. Values of variables in units without a letter
     /// are brought to system units in the lines. Throws SaveRefused for a unit that has no factor.
@@ -113,6 +119,7 @@ public:
     }
     /// Brings all rows and statements to system units; the unit codes stay as the memory of the
     /// paper's units. False, and nothing changes, when a unit or a molar mass is not known.
+    /// Never called for writing: the file keeps the figures of the paper wherever it can.
     bool AdjustUnits();
 
 protected:

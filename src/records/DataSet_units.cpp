@@ -30,12 +30,14 @@ bool DataSet::AdjustUnits() {
     std::vector<UnitConversion> units;
     for (int n = 0; n <= nVar; ++n)
         units.push_back(Conversion(n));
+    // All is asked before the first change: a set that is converted in part tells nothing true.
     for (std::size_t n = byRow ? 1 : 0; n < units.size(); ++n)
         if (isOriginalUnit && !units[n].IsPossible()) return false;
     if (byRow) {
         for (const clsData& row : recData)
             if (row.inOriginalUnits && !PropertyConversion(row).IsPossible()) return false;
     }
+    // Between two values the zero point of a scale drops out.
     const bool isDifference = Relation() == "D";
     if (isOriginalUnit) AdjustStatements();
     for (clsData& row : recData) {

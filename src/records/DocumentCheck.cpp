@@ -34,6 +34,7 @@ private:
 
 void CheckSource(const clsR& source, std::vector<DocumentFinding>& findings) {
     Remarks remarks(findings, source);
+    // Of a known source the database has title and authors, and the file need not.
     if (source.isNew && source.TTITLE.empty()) remarks.Warn("The source has no title");
     if (source.isNew && source.recAuthor.IsEmpty()) remarks.Warn("The source has no authors");
     if (source.recL.IsEmpty()) remarks.Warn("The source has no compounds");
@@ -42,6 +43,7 @@ void CheckSource(const clsR& source, std::vector<DocumentFinding>& findings) {
 void CheckCompound(const clsL& compound, std::vector<DocumentFinding>& findings) {
     Remarks remarks(findings, compound);
     const std::string name = "Compound " + compound.ShowKey();
+    // Only a number stands in the file of a compound that is not new: all else is looked up.
     if (compound.Name.empty()) remarks.Warn(name + " is not in the reference database");
     if (compound.Formula.empty()) remarks.Warn(name + " has no formula");
     if (compound.recS.IsEmpty()) remarks.Warn(name + " has no sample");
@@ -60,9 +62,11 @@ void CheckPhases(std::initializer_list<std::string> phases, Remarks& remarks) {
     for (const std::string& phase : phases) {
         if (!IsBlankField(phase) && !PhaseValid(phase)) remarks.Error("Unknown phase " + phase);
     }
+    // The first is the phase that was measured; others need not be there.
     if (IsBlankField(*phases.begin())) remarks.Error("No phase is given");
 }
 
+/// What nature does not allow is an error, what is rarely met a warning.
 void CheckLimits(const std::string& code, double system, Remarks& remarks,
                  const std::string& name) {
     const std::string words = name + ": value " + NumberText(system);
@@ -85,6 +89,7 @@ void CheckVariable(const clsZ& value, Remarks& remarks, const std::string& prope
     } else if (!IsUsableUnit(unit)) {
         remarks.Error(name + ": unknown unit " + unit);
     } else {
+        // State variables know neither a factor nor a unit by mass.
         const double system = ToSystem(unit, Val(value.INDVARIABLE), 0, 0);
         CheckLimits(value.Variable(), system, remarks, name);
     }
@@ -111,6 +116,7 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
 }
 
 // Rows of a set about which the same is to be said.
+// A wrong unit shows in every row: told once, it does not bury what else there is to tell.
 class RowTally {
 public:
     void Add(std::size_t row, const std::string& text) {
@@ -163,6 +169,7 @@ void CheckColumn(const DataSet& set, int n, const std::string& name, Remarks& re
 
 void CheckUnit(const DataSet& set, int n, const std::string& name, Remarks& remarks) {
     const std::string& unit = n == 0 ? set.PROPERTY_UNIT : set.VAR_UNIT(n);
+    // Values in the system unit, and those with a factor, need no code to be understood.
     const bool isFree = !set.isOriginalUnit || (n == 0 && set.Factor > 0);
     if (isFree || IsKnownConversion(unit))
         CheckColumn(set, n, name, remarks);

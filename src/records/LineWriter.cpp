@@ -18,6 +18,7 @@ void LineWriter::Fields(const std::vector<std::string>& fields) {
 
 void LineWriter::Fields(const std::vector<std::string>& fields, std::string_view rest) {
     Fields(fields);
+    // The line that has just ended goes on.
     text_.back() = ' ';
     Line(OrPlaceholder(Trim(rest)));
 }

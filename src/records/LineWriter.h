@@ -39,6 +39,7 @@ public:
 
 /// Appends a field to a line that begins: a blank in front, "&" for an empty one, and "_" for each
 /// blank inside, which would shift all words behind it.
+/// An empty field must not vanish: reading counts words.
 void AppendField(std::string& line, std::string_view field);
 /// "&" for an empty field, else the field.
 std::string OrPlaceholder(std::string_view field);

@@ -14,6 +14,8 @@ class clsX;
 /// which the reader hands to the one that is open, whatever its class.
 class OpenRecord : public Record {
 public:
+    /// In the file one header may stand for many records; each keeps a copy, so that every one of
+    /// them can be edited or deleted alone.
     clsA Header; // NOTE ... DATACOMMENT
 
     /// The element of the record in the export, or a word to the user why there is none.
@@ -25,6 +27,7 @@ public:
     enum class Taken { Yes, Incomplete, NoRows };
     virtual Taken LoadRow(std::string_view) { return Taken::NoRows; }
     /// A ^Y line, which belongs to the row read last; false when there is none.
+    /// It names no row: it goes by its place in the file.
     virtual bool LoadRowStatements(std::string_view) { return false; }
 };
 

@@ -18,6 +18,7 @@ namespace vexora {
 
 namespace {
 
+/// A pure number shows no unit.
 std::string WithUnit(const std::string& name, const std::string& unit) {
     return unit.empty() || unit == "1" ? name : name + ", " + unit;
 }
@@ -30,6 +31,7 @@ std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& 
     head->Factor = factor;
     head->Relation = "A";
     const auto row = FindProperty(code);
+    // A code that no table has reads as itself.
     head->Name = row ? WithUnit(row->Property, row->Unit) : code;
     return head;
 }
@@ -90,6 +92,7 @@ void NameConstraints(DataSet& set) {
         item.Name.clear();
         if (item.IsStated()) take(item, item.PRPCODE);
     }
+    // What else the comment holds constant takes the places that are left.
     for (const char* code : {"T", "P", "WL", "WF"}) {
         const auto isOfCode = [code](const clsX& item) {
             return item.IsStated() && item.PRPCODE == code;
@@ -106,6 +109,7 @@ void NameConstraints(DataSet& set) {
 void PrecisionInEnteredUnit(clsProperty& item, double molarMass) {
     if (item.Relation == "R" || !IsNumeric(item.PrecisionText)) return;
     const UnitConversion unit{item.ConversionCode, item.Factor, molarMass};
+    // Units differ by a factor once the zero point is out of it, so one unit tells all.
     const double one = unit.ChangesValues() ? unit.Difference(1) : 1;
     if (one == 0 || one == 1) return;
     item.PrecisionText =
@@ -122,6 +126,7 @@ std::string EnteredStatement(std::string_view text, std::string_view unitCode, b
 clsX InEnteredUnit(const clsX& item, std::string_view unitCode) {
     clsX entered = item;
     entered.inSystemUnits = false;
+    // The property is never brought to another unit than that of its values.
     if (item.N == 0 || !item.inSystemUnits) return entered;
     for (std::string clsX::*text : {&clsX::DSValue, &clsX::RValue, &clsX::UValue, &clsX::CDRms})
         entered.*text = EnteredStatement(item.*text, unitCode, true);
@@ -145,6 +150,7 @@ std::shared_ptr<clsProperty> BuildChain(const DataSet& set) {
 
 std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original) {
     const std::string& comment = set.Header.DATACOMMENT;
+    // Rows in system units need no factor: the code stays in the set as a memory of the paper.
     auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
     head->Relation = set.Relation();
     TakeMasters(*head, set.UX[0]);

@@ -19,6 +19,7 @@ class clsX;
 /// its comment, all in the units in which the rows are entered. Texts and values are empty.
 std::shared_ptr<clsProperty> BuildChain(const DataSet& set);
 /// The same with the rows in the units of the paper or not, whatever the set says.
+/// The table of a set may be brought to system units while the set itself is still as it was.
 std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original);
 std::shared_ptr<clsProperty> BuildChain(const SingleValue& value);
 
@@ -27,6 +28,7 @@ void TakeMasters(clsProperty& item, const clsX& statements);
 
 /// The precision of a quantity, read from a file in its system unit, as it reads in the unit of its
 /// values; molarMass in g/mol. Per cent, and texts that are no number, stay.
+/// 0 g/mol for a unit that needs none; where the unit cannot be converted the text stays.
 void PrecisionInEnteredUnit(clsProperty& item, double molarMass);
 
 /// A statement as it reads in the entered unit of a variable: one read from a file stands in the
@@ -36,6 +38,7 @@ std::string EnteredStatement(std::string_view text, std::string_view unitCode, b
 clsX InEnteredUnit(const clsX& item, std::string_view unitCode);
 
 /// Codes, names and units of the items of a set, for the dialog that edits them.
+/// The record file has no names: they follow from the codes, and the units from the set.
 void NameStatements(DataSet& set);
 void NameStatements(DataSet& set, bool original);
 /// The items of a single value, the property first, with their codes, names and units.

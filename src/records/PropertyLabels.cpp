@@ -10,6 +10,8 @@ namespace vexora {
 
 namespace {
 
+/// The pass under way, null between two. Nodes ask for their labels from deep inside, where none
+/// can be handed in.
 PropertyLabels* present = nullptr;
 
 template <class Set>
@@ -26,6 +28,7 @@ PropertyLabel LookUp(const Set& value) {
     return {name.empty() ? std::string(value.PRPCODE) : name, UnitOf(value)};
 }
 
+/// A factor of its own makes another unit, hence another label.
 template <class Set>
 std::string KindOf(const Set& value) {
     const std::string factor =

@@ -7,6 +7,7 @@
 namespace vexora {
 
 /// One quantity of a set as its table shows it, whatever the class of the set.
+/// Columns, checks and turns of a table go by a list of these, never by a count of variables.
 struct Quantity {
     int item = 0; // its place in a row: 0 the property, 1 and on the variables
     bool isProperty = false;

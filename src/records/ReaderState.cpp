@@ -20,6 +20,7 @@ namespace {
 
 using Handler = void (*)(ReaderState&, std::string_view);
 
+/// A factor that nothing closed must not reach the data of somebody else.
 void ForgetPending(ReaderState& state) {
     state.pending.Factor = 0;
     state.CloseRecord();
@@ -37,6 +38,7 @@ void ReadSource(ReaderState& state, std::string_view line) {
     state.Tell(told);
     if (!isValid)
         return state.AbandonSaid("Invalid reference identification: " + std::string(Trim(line)));
+    // Two heads of one identity are one source: the first stays, and what follows adds to it.
     if (const auto known = globals.recR.Item(source->Source()))
         source = known;
     else
@@ -44,6 +46,7 @@ void ReadSource(ReaderState& state, std::string_view line) {
     globals.CurrentR = source;
     if (globals.CurrentMethod)
         globals.CurrentMethod->Year = static_cast<std::int32_t>(ToInteger(Val(source->YEARPUB)));
+    // A sample in front of the first compound would otherwise go to one of the source before.
     globals.CurrentL = nullptr;
     globals.CurrentS = nullptr;
 }
@@ -62,6 +65,7 @@ void ReadAuthor(ReaderState& state, std::string_view line) {
     auto author = std::make_shared<clsAuthor>();
     author->Line = state.lineNumber;
     state.Tell(author->Load(line));
+    // A source that comes twice brings its authors twice.
     const auto twin = source->recAuthor.Item(author->Key());
     if (twin && twin->LASTNM == author->LASTNM && twin->INITNM == author->INITNM) return;
     source->recAuthor.Add(author, author->Key());
@@ -83,13 +87,16 @@ void ReadCompound(ReaderState& state, std::string_view line) {
         state.endsProgram = true;
         return state.AbandonSaid("Invalid RN: RN = " + compound->RN);
     }
+    // An empty field would be "&", so the line has been cut short.
     if (compound->REFPROP.empty()) return state.AbandonIncomplete(line);
+    // The file still has the number that was wrong.
     if (!compound->NewRn.empty()) {
         WordReader words(line);
         words.NextWord();
         state.mendedRN[std::string(words.NextWord())] = compound->RN;
         globals.Saved = false;
     }
+    // A repeat keeps the first, with all that hangs on it; what follows is added there.
     if (const auto known = globals.CurrentR->FindL(compound->RN))
         compound = known;
     else
@@ -126,6 +133,7 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
     compound->Name = WithoutPlaceholder(Trim(words.Rest()));
     compound->Formula = WithoutPlaceholder(formula);
     compound->isNew = true;
+    // A mass that is known would be given back unasked, though the formula is another now.
     compound->MMass = 0;
     compound->MMass = MolarMassOfRN(rn, source.get());
     compound->Refresh();
@@ -142,6 +150,7 @@ void ReadSample(ReaderState& state, std::string_view line) {
     if (sample->SMPNM.empty()) return state.AbandonIncomplete(line);
     const int number = static_cast<int>(ToInteger(Val(sample->SMPNM)));
     const auto [entry, isNew] = state.SamplesOf(*globals.CurrentL).try_emplace(number, sample);
+    // As with compounds, a repeat keeps the first and adds to it.
     if (isNew) sample->AttachTo(*globals.CurrentL);
     globals.CurrentS = entry->second;
 }
@@ -153,6 +162,7 @@ void ReadHeader(ReaderState& state, std::string_view line) {
 
 void ReadFactor(ReaderState& state, std::string_view line) {
     constexpr std::size_t tagLength = 2;
+    // All behind the tag, for the blank may lack.
     state.pending.Factor = Val(line.substr(tagLength));
     if (state.pending.Factor == 0 && state.lastNotKept)
         ++state.linesNotKept; // closes the record that was passed over
@@ -170,6 +180,8 @@ void PassOverLine(ReaderState& state, std::string_view) {
     state.PassOver();
 }
 
+/// Upper and lower case are different tags: by them values in system units and in those of the
+/// paper are told apart.
 const std::unordered_map<std::string_view, Handler>& Handlers() {
     static const std::unordered_map<std::string_view, Handler> handlers = [] {
         std::unordered_map<std::string_view, Handler> table = {
@@ -204,6 +216,7 @@ void ReaderState::CloseRecord() {
 void ReaderState::PassOver() {
     linesNotKept += pendingLines + 1;
     pendingLines = 0;
+    // Its header is not that of the next record.
     pending = clsA();
     CloseRecord();
     lastNotKept = true;
@@ -240,6 +253,7 @@ void ReaderState::AbandonSaid(const std::string& text) {
 void ReadRecord(ReaderState& state, std::string_view line) {
     constexpr std::size_t tagLength = 2;
     const auto handler = Handlers().find(line.substr(0, tagLength));
+    // A tag unknown here may be known to a later edition and is no fault.
     if (handler != Handlers().end()) handler->second(state, line);
 }
 

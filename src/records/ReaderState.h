@@ -23,9 +23,12 @@ struct ReaderState {
     explicit ReaderState(ReadTalk& whoListens) : talk(whoListens) {}
 
     ReadTalk& talk;
+    /// The header stays in force until the next ^A, the factor until ^M says 0, or another sample,
+    /// compound or source begins.
     clsA pending; // header and factor that stand for the next data record
 
     int lineNumber = 0;
+    /// A save would lose these lines, so a document that has any is not to be saved over its file.
     int linesNotKept = 0;
     int pendingLines = 0;     // lines of the header since the last data record
     bool lastNotKept = false; // the last data record is one that this edition does not keep
@@ -36,10 +39,12 @@ struct ReaderState {
     std::shared_ptr<OpenRecord> open;
 
     bool isAbandoned = false;
+    /// A registry number that is no number: nothing behind it can be told to a compound.
     bool endsProgram = false;
     std::string fault;
 
     /// Registry numbers that were mended, by the number that the file names.
+    /// Lines further down still name the old number and must find their compound.
     std::unordered_map<std::string, std::string> mendedRN;
     /// What is there already, so that looking for a twin takes no walk through all siblings.
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;

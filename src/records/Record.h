@@ -22,19 +22,24 @@ public:
     int Line = 0;
 
     /// Short identity text, unique among siblings.
+    /// A collection holds the record under the key that it had on joining: who changes a part of
+    /// the key has to rekey it there.
     virtual std::string Key() const = 0;
     /// The text of the node.
     virtual std::string ShowKey() const = 0;
     /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
+    /// The lowest record speaks first, so CurrentKey names the kind of what was selected.
     virtual void SetMe() = 0;
     /// Its own lines in the record file, without those of the records below it.
     virtual void Print(LineWriter&) const {}
     /// The records below it, in the order of the record file.
+    /// What is not named here is neither saved nor checked nor exported.
     virtual void EachChild(const std::function<void(Record&)>&) const {}
 
     /// Brings the node's text and key back in line with the record.
     void Refresh();
 
+    /// T has to be the class of the record, which is not tested.
     template <class T>
     std::shared_ptr<T> As() {
         return std::static_pointer_cast<T>(shared_from_this());

@@ -26,6 +26,7 @@ std::string_view TakeLine(std::string_view& text) {
 
 void EmptyDocument() {
     KVOGlobal& globals = Globals();
+    // First of all: no question about saving may come, for a Yes would put a torso over the file.
     globals.Saved = true;
     globals.recR.Clear();
     if (globals.tvwTree) globals.tvwTree->Clear();
@@ -36,6 +37,7 @@ void EmptyDocument() {
 void RegisterNewSources(ReadTalk& talk) {
     Database& known = Globals().CompoundDb();
     try {
+        // All or none; a database that refuses does not take the document away.
         std::optional<Transaction> transaction;
         for (const auto& source : Globals().recR) {
             if (!source->toRegister) continue;
@@ -55,6 +57,7 @@ void Finish(ReadPurpose purpose, ReadTalk& talk) {
         source->Synchronize();
         source->CheckPresence();
     }
+    // Last, for a label tells names, and a line at the very end may still bring one.
     RefreshLabels();
     Globals().CurrentKey.clear();
 }
@@ -67,6 +70,7 @@ void ReadLines(std::string_view text, ReaderState& state) {
         std::string_view line = TakeLine(text);
         Globals().LineInHand = ++state.lineNumber;
         if (Trim(line).empty()) continue;
+        // By line, for old files hold some lines of each encoding.
         if (!IsValidUtf8(line)) {
             decoded = ToUtf8(line);
             line = decoded;
@@ -93,6 +97,7 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
     globals.LineInHand = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
+    // A header with no record behind it goes lost, too.
     result.linesNotKept = state.linesNotKept + state.pendingLines;
     if (result.whole) return result;
     EmptyDocument();

@@ -28,6 +28,7 @@ public:
 };
 
 /// Work adds sources that the reference database lacks to it; Look leaves it as it is.
+/// A look (check, tree, export by command) must leave no trace in the database of the workplace.
 enum class ReadPurpose { Work, Look };
 
 /// Reads the text of a record file into the globals: sources join recR, their nodes the tree. The
@@ -38,6 +39,7 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk,
                        ReadPurpose purpose = ReadPurpose::Work);
 
 /// The document as a record file, and what its records have to say to the user about it.
+/// All of it stands in memory before a file is touched: a refusal costs nothing.
 struct PrintedDocument {
     std::string text;
     std::vector<std::string> notices;

@@ -63,6 +63,7 @@ double MolarMassOfRN(std::string_view rn, const clsR* source) {
 }
 
 std::string NewSubstanceRN() {
+    // Far below 50-00-0, the smallest number of the registry, so that it meets none of them.
     std::int64_t n = 100;
     for (const auto& source : Globals().recR) {
         for (const auto& compound : source->recL) {

@@ -7,9 +7,12 @@ namespace vexora {
 
 /// The number with its last digit set right; the text itself when it is not all digits, or one
 /// digit only.
+/// The sum cannot tell which digit was mistyped; the check digit is the one set right, and whoever
+/// calls this has to tell the user.
 std::string WithCheckDigit(std::string_view rn);
 
 /// True for the texts that name no compound: "", "999999994" (an empty slot), no number, 0.
+/// Systems with fewer members than places fill up with the empty slot.
 bool NamesNoCompound(std::string_view rn);
 
 } // namespace vexora

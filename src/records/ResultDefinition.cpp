@@ -34,6 +34,7 @@ bool ResultDefinition::IsRelative() const {
 }
 
 std::string_view ResultDefinition::Relation() const {
+    // A mean has the limits of the property and a zero point, a difference has neither.
     if (IsOneOf(function, {"DT", "DX"})) return "D";
     if (!IsRelative()) return "A";
     return function == "D" ? "D" : "R";

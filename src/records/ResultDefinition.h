@@ -10,6 +10,7 @@ namespace vexora {
 /// or a difference ("D"), ratio ("R") or relative difference ("K") to a reference state, whose code
 /// follows the letter ("DFR").
 struct ResultDefinition {
+    /// The relation is empty for the property itself and for two temperatures or pressures.
     std::string function, relation;
     bool operator==(const ResultDefinition&) const = default;
 
@@ -24,9 +25,11 @@ struct ResultDefinition {
     /// counts.
     std::string_view Relation() const;
     /// One that values can be stored by.
+    /// Others are kept and written back, but no value of theirs can be entered.
     bool IsKnown() const;
 
     /// What the reference state of the relation consists of.
+    /// "FR" fixes both, "PF" a temperature at the pressure of the row, "TF" the other way round.
     bool FixesTemperature() const;
     bool FixesPressure() const;
     bool NamesPhase() const;

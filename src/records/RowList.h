@@ -13,6 +13,7 @@ namespace vexora {
 
 /// The rows of a data set by position from 1, in few blocks of memory that grow with the set. A row
 /// keeps its address as long as it is here.
+/// One vector would move all rows whenever it grows, and hold them twice meanwhile.
 class RowList {
 public:
     RowList() = default;
@@ -29,6 +30,7 @@ public:
     }
 
     /// Adds at the end.
+    /// The reference holds until the rows are cleared or assigned.
     clsData& Add(clsData row) {
         if (blocks_.empty() || blocks_.back().size() == blocks_.back().capacity()) Grow();
         ++count_;
@@ -63,6 +65,7 @@ public:
         Walker(List* list, std::size_t block) : list_(list), block_(block) {}
         Row& operator*() const { return list_->blocks_[block_][at_]; }
         Row* operator->() const { return &**this; }
+        // No block is ever empty: one is made only for the row that goes into it.
         Walker& operator++() {
             if (++at_ < list_->blocks_[block_].size()) return *this;
             at_ = 0;
@@ -99,6 +102,7 @@ private:
             blocks_.empty() ? FirstBlock : std::min(blocks_.back().capacity() * 2, LargestBlock);
         blocks_.emplace_back().reserve(rows);
     }
+    // Growing block b begins at row 16 (2^b - 1), so the bit width of the index tells the block.
     clsData& At(std::size_t index) {
         if (index >= GrowingRows) {
             const std::size_t behind = index - GrowingRows;

@@ -31,6 +31,7 @@ std::vector<std::string> Words(std::string_view section) {
 }
 
 /// "99.5m%" as number and unit, or nothing for another word.
+/// A bare number is none: without its unit it says neither of what nor by what.
 std::optional<PurityStatement> Statement(std::string_view word) {
     if (word.starts_with('(')) return std::nullopt;
     for (const PurityUnit& unit : PurityUnits()) {
@@ -41,7 +42,8 @@ std::optional<PurityStatement> Statement(std::string_view word) {
     return std::nullopt;
 }
 
-/// Statements with their methods; nothing when a word fits nowhere.
+/// Statements with their methods; nothing when a word fits nowhere. A word that states nothing is
+/// the method of the statement before it, which has one at most.
 std::optional<std::vector<PurityStatement>> Statements(const std::vector<std::string>& words) {
     std::vector<PurityStatement> statements;
     for (const std::string& word : words) {
@@ -91,6 +93,7 @@ std::optional<SampleDescription> ParseDescription(std::string_view text) {
     SampleDescription description;
     text = TrimBlanks(text);
     const std::vector<std::string> sections = SplitOutsideBrackets(text, ';');
+    // Without a ";" only the short forms are meant: nothing is known, or there was no sample.
     if (sections.size() == 1) {
         if (text.empty() || IndexOfCode(SampleAvailabilities(), text) < 0) return std::nullopt;
         description.Availability = text;
@@ -103,6 +106,7 @@ std::optional<SampleDescription> ParseDescription(std::string_view text) {
     description.Source = words[0];
     words.erase(words.begin());
     const auto initial = Statements(words);
+    // A seller states one figure.
     if (!initial || initial->size() > 1) return std::nullopt;
     if (!initial->empty()) description.Initial = initial->front();
 

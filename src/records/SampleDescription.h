@@ -18,14 +18,21 @@ bool IsImpurityUnit(std::string_view code);
 /// One statement of purity: the number as typed, the code of the unit, the code of the method or
 /// free text in round brackets. An empty number is no statement.
 struct PurityStatement {
+    /// The number stays as typed, for its digits belong to the statement; the unit tells purity
+    /// from impurity and what the per cent count ("m%" mole, "w%" mass).
     std::string Value, Unit, Method;
 };
 
+/// Codes as the vocabulary has them. Either Availability alone is given, or the rest.
 struct SampleDescription {
+    /// "ns": the paper does not describe it; "xx": no sample was used.
     std::string Availability; // "", "ns" or "xx"
     std::string Source;
+    /// As it was bought or made, before the authors worked on it.
     PurityStatement Initial;
+    /// In the order in which the steps were done.
     std::vector<std::string> Purification;
+    /// Behind the last step; each method of analysis states its own.
     std::vector<PurityStatement> Final;
 };
 
@@ -38,6 +45,7 @@ std::optional<SampleDescription> ParseDescription(std::string_view text);
 
 /// A free text as it stands in the line: without brackets and semicolons, commas as blanks, in
 /// round brackets; empty when nothing remains.
+/// The brackets part it from the codes; a mark of the line inside would cut it in two.
 std::string FreeText(std::string_view typed);
 
 /// What is wrong with a typed purity, in words for the user; empty for an empty or sound one.

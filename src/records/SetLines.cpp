@@ -17,6 +17,7 @@ std::string NextPhase(WordReader& words) {
 }
 
 std::string PhasesInBrief(std::initializer_list<std::string_view> phases) {
+    // "L" alone, or "L+G" where two are there together.
     std::string text;
     for (const std::string_view phase : phases) {
         if (IsBlankField(phase)) continue;

@@ -22,6 +22,7 @@ clsX SingleValue::Statements(int n) const {
     if (stated_ && place < stated_->items.size()) item = stated_->items[place];
     item.N = n;
     if (n > 0) return item;
+    // Held once, in the value line; the ^X line repeats what it can.
     item.KVOUValue = PRPUNCERTY;
     item.RValue = PRECIS;
     item.Repetitions = DETERMNM;
@@ -35,6 +36,7 @@ void SingleValue::Statements(int n, const clsX& item) {
         PRECIS = item.RValue;
         DETERMNM = item.Repetitions;
     }
+    // Nearly all values say no more than their line, and go without the pointer.
     if (item == Statements(n)) return;
     auto& items = Rare().items;
     while (items.size() <= place) {
@@ -54,6 +56,7 @@ void SingleValue::AddX(const clsX& item) {
         return;
     }
     if (added.N == 0) added.KVOUValue = PRPUNCERTY; // the line of an item does not carry it
+    // A line that is silent on repeatability does not take away what the value line says.
     if (!added.iRep && added.RValue.empty() && added.Repetitions.empty()) {
         const clsX before = Statements(added.N);
         added.RValue = before.RValue;
@@ -67,6 +70,8 @@ void SingleValue::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
     if (pending.Factor <= 0 || !isOriginalUnit) return;
     if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
+    // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
+    // value.
     if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 
@@ -76,6 +81,7 @@ void SingleValue::LoadValue(WordReader& words) {
     PRECIS = NextField(words);
     DETERMNM = WithoutPlaceholder(Trim(words.Rest()));
     Factor = 0;
+    // The writer has converted them; the unit in which they were typed is not in the file.
     commentInSystemUnits = true;
 }
 
@@ -101,6 +107,7 @@ void SingleValue::Print(LineWriter& out) const {
         LineFields(bySystemUnit ? std::string("S") : UnitField(PROPERTY_UNIT));
     fields.insert(fields.end(), {PRPVALUE, PRPUNCERTY, PrecisionForRecord()});
     out.Fields(fields, DETERMNM);
+    // Closed at once, so that the next value does not inherit it.
     if (factorStands || NeedsMolarMass()) out.Line("^M 0");
     PrintStatements(out);
 }

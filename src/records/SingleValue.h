@@ -21,10 +21,15 @@ class XmlWriter;
 /// stated in ^X lines, so these stand behind one pointer.
 class SingleValue : public OpenRecord {
 public:
+    /// Code of the property, conversion code of its unit, number of the set, value as typed: texts,
+    /// for the digits that the author gave are part of the datum.
     ShortText PRPCODE, PROPERTY_UNIT, PRPSETNO, PRPVALUE;
+    /// In the unit of the value; never part of a ^X line.
     ShortText PRPUNCERTY; // figure of the evaluation
-    ShortText PRECIS;     // repeatability, and the number of determinations behind it
+    /// A trailing "%" is per cent of the value.
+    ShortText PRECIS; // repeatability, and the number of determinations behind it
     ShortText DETERMNM;
+    /// Values stand in the unit of the paper, not in the system unit.
     bool isOriginalUnit = true;
     /// Precision tags of the comment stand in system units (see clsX::inSystemUnits).
     bool commentInSystemUnits = false;
@@ -51,12 +56,14 @@ public:
     /// The statements about quantity n, 0 the property; figures and repeatability of the property
     /// are those of the value line.
     clsX Statements(int n) const;
+    /// Makes no memory of its own for an item that says no more than the value line.
     void Statements(int n, const clsX& item);
     /// Puts a statement in its place; what has none is kept as read, and what the line of an item
     /// does not carry stays as it is.
     void AddX(const clsX& item) override;
     /// Takes over what stood in front of the value line. The pending factor is the user's own for
     /// a value in the system unit, and the molar mass for a unit that is based on mass.
+    /// To be called once, before anything else is done with a value that was read.
     void TakePending(const clsA& pending);
     /// Writes header, factor, value line and statements. Throws SaveRefused for a unit that has no
     /// factor.

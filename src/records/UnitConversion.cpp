@@ -6,6 +6,7 @@
 namespace vexora {
 
 bool UnitConversion::ChangesValues() const {
+    // "*" is no unit: it says that a factor stands for one.
     return factor > 0 || (!IsSystemUnit(code) && code != "*");
 }
 
@@ -25,6 +26,7 @@ double UnitConversion::Difference(double value) const {
 std::string UnitConversion::DifferenceText(const std::string& typed) const {
     if (!ChangesValues() || !IsNumeric(typed)) return typed;
     const double system = Difference(Val(typed));
+    // 0 is a unit that is not known, or a zero whose digits only the typed text shows.
     return system == 0 ? typed : FormatValue(system, SignificantDigits(typed));
 }
 

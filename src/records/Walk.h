@@ -30,6 +30,7 @@ public:
                                   });
         return std::move(*this);
     }
+    /// Classes are matched exactly, never by their base: a new one has to be named.
     Result operator()(const Record& record, Args... args) const {
         const auto found = actions_.find(std::type_index(typeid(record)));
         return found == actions_.end() ? Result() : found->second(record, args...);

@@ -15,6 +15,7 @@ namespace {
 // Bit 2, the recommendation to reject the value, is not taken over from a file.
 constexpr std::uint64_t kFlagMask = 0x7FFB;
 
+/// Old files have the mask in hexadecimal digits; what comes before a wrong one counts.
 std::uint64_t HexFlag(std::string_view word, bool& isValid) {
     std::uint64_t value = 0;
     for (const char c : word) {
@@ -53,10 +54,12 @@ std::string SlashedDate(std::string_view text) {
     for (const std::string& part : parts)
         if (!AllDigits(part)) return std::string(text);
     const std::string year = (parts[2].size() == 2 ? "20" : "") + parts[2];
+    // Where dates have dots the day comes first, unless the second part can be no month.
     return Val(parts[1]) <= 12 ? parts[1] + "/" + parts[0] + "/" + year
                                : parts[0] + "/" + parts[1] + "/" + year;
 }
 
+/// With its last tag closed, so that another can be put behind it.
 std::string ClosedComment(std::string_view rest) {
     CommentTags comment(WithoutPlaceholder(Trim(rest)));
     comment.Close();
@@ -87,6 +90,7 @@ Notices clsA::Load(std::string_view line) {
 
 void clsA::TakeHeader(const clsA& other) {
     const double factor = Factor;
+    // The factor of a record is its own affair: it depends on the unit of that record.
     *this = other;
     Factor = factor;
 }

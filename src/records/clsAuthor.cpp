@@ -17,6 +17,7 @@ bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
+/// Spelling of names varies in dots, hyphens and blanks, hardly in letters.
 std::string LettersOf(std::string_view text) {
     std::string letters;
     for (const char c : LowerAscii(text))
@@ -78,6 +79,7 @@ void clsAuthor::CreateAbbr() {
     const std::string bracketed = TakeBracketed(firstName);
     const Initials initials = InitialsOf(firstName);
     Extension = bracketed.empty() ? initials.remainder : bracketed;
+    // Letters even for a name without first names, for authors are looked up by them.
     INITNM = "zz";
     if (!initials.letters.empty())
         INITNM = initials.letters[0] + (initials.letters.size() > 1 ? initials.letters[1] : " ");
@@ -96,6 +98,7 @@ Notices clsAuthor::Load(std::string_view line) {
     LASTNM = NextHashField(text);
     INITNM = NextHashField(text);
     FULLNM = Trim(NextHashField(text));
+    // Only the file knows the name of a new one; all others are looked up.
     isNew = !FULLNM.empty();
     if (isNew) return {};
     const Database& known = Globals().CompoundDb();

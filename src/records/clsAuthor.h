@@ -18,10 +18,13 @@ class clsR;
 /// FULLNM stands in the line only when the author is new; else it is looked up in SOURCE_AUTHOR.
 class clsAuthor : public Record {
 public:
+    /// Key of the author in the list of the source: the first author is the one cited.
     std::string AUTHSEQNO; // place in the list, from "1"
-    std::string LASTNM;    // six letters of the last name, padded with blanks
-    std::string INITNM;    // two initials and a mark that keeps namesakes apart
-    std::string FULLNM;    // name as printed
+    /// Both codes are looked up without trailing blanks, which a database may have cut.
+    std::string LASTNM; // six letters of the last name, padded with blanks
+    std::string INITNM; // two initials and a mark that keeps namesakes apart
+    /// "Last,F.M." without blanks.
+    std::string FULLNM;                         // name as printed
     std::string LastName, FirstName, Extension; // as typed
     bool isNew = false;                         // not in SOURCE_AUTHOR yet
 
@@ -29,6 +32,7 @@ public:
     void CreateAbbr();
     /// Whether a full name has the same letters.
     bool CompareName(std::string_view fullName) const;
+    /// Reads a ^I line. An author who is nowhere to be found is told, and stays without a name.
     Notices Load(std::string_view line);
     void Print(LineWriter& out) const;
 

@@ -28,6 +28,7 @@ std::array<std::size_t, MostVariables + 1> ItemOrder(int variables) {
     return order; // place `variables` holds 0, the property
 }
 
+/// A count that cannot be meant is brought into what the field holds.
 int WrittenCount(std::string_view digits) {
     return static_cast<int>(std::clamp<std::int64_t>(ToInteger(Val(digits)), 0, MostDigits));
 }
@@ -75,6 +76,7 @@ const RowStatements& clsData::StatementsOf(int n) const {
 int clsData::DigitCount(int n) const {
     if (!IsPlace(n)) return 0;
     const auto place = static_cast<std::size_t>(n);
+    // The line wins: the text may be a converted one, whose digits are not the author's.
     if (isDigit && Digits[place] > 0) return Digits[place];
     return SignificantDigits(Values[place]);
 }
@@ -119,6 +121,7 @@ void clsData::LoadExtras(std::string_view line) {
 }
 
 void clsData::PrintData(LineWriter& out) const {
+    // Case tells the unit, the letter whether counts of digits go along.
     std::string line = isDigit ? (inOriginalUnits ? "^g" : "^G") : (inOriginalUnits ? "^d" : "^D");
     for (const std::size_t n : ItemOrder(nVar)) {
         AppendField(line, Values[n]);
@@ -144,6 +147,7 @@ void clsData::PrintExtras(LineWriter& out) const {
     }
     AppendField(line, Extras->userCU);
     AppendField(line, Extras->CD);
+    // A line of "&" alone says nothing.
     if (isStated) out.Line(line);
 }
 
@@ -164,8 +168,10 @@ void clsData::Convert(int n, const UnitConversion& unit, bool isDifference) {
     if (!IsNumeric(text)) return;
     const double typed = Val(text);
     const double system = isDifference ? unit.Difference(typed) : unit.Absolute(typed);
+    // "0.00" would lose its digits; and a unit that is not known must not wipe the value out.
     if (system == 0) return;
     int digits = DigitCount(n);
+    // Only scales with a zero point of their own shift digits, and a factor has none.
     if (!isDifference && unit.factor <= 0) digits = ShownDigits(text, digits, unit.code, system);
     text = FormatValue(system, digits);
     RecordDigits(place, digits);
@@ -173,6 +179,7 @@ void clsData::Convert(int n, const UnitConversion& unit, bool isDifference) {
 
 void clsData::RecordDigits(std::size_t n, int digits) {
     if (!isDigit) {
+        // Counts stand in the line only where a text would tell another; then all of them do.
         if (SignificantDigits(Values[n]) == digits) return;
         for (std::size_t i = 0; i < Digits.size(); ++i)
             Digits[i] = static_cast<std::uint8_t>(DigitCount(static_cast<int>(i)));

@@ -17,6 +17,8 @@ struct UnitConversion;
 
 /// The uncertainty statements of one quantity in one row, as typed; "%" at the end is per cent of
 /// the value.
+/// DS is the device specification, Rep the repeatability, Unc the uncertainty that the author
+/// states. An empty text takes what the whole set states.
 struct RowStatements {
     std::string DS, Rep, Repetitions, Unc;
     bool IsEmpty() const;
@@ -41,13 +43,20 @@ struct RowExtras {
 ///
 /// ^d and ^g hold values in the units of the paper, ^D and ^G in system units; ^Y follows its row
 /// and stands only where something is stated.
+///
+/// "&" is an empty value. VARIABLE and PRPVALUE are the numbers as typed, digits the count of
+/// significant ones, PRPUNCERTY the figure of the evaluation; userCU is a combined uncertainty, CD
+/// the deviation from a fitted curve, both of the property.
 class clsData {
 public:
     std::array<ShortText, 4> Values; // 0 the property, 1 to 3 the variables, as typed
+    /// The tie number is the same for rows of coexisting phases.
     ShortText PRPUNCERTY, TIELINE;
     std::array<std::uint8_t, 4> Digits{}; // counts of significant digits
-    bool isDigit = false;                 // counts of digits stand in the line
-    bool inOriginalUnits = false;         // values stand in the units of the paper
+    /// A converted value cannot show its digits: 25 bar is 2500 kPa, still of two digits.
+    bool isDigit = false; // counts of digits stand in the line
+    /// Rows of one set may differ: each knows for itself, so that none is converted twice.
+    bool inOriginalUnits = false; // values stand in the units of the paper
     std::int8_t nVar = 1;
     std::unique_ptr<RowExtras> Extras; // empty for nearly all rows
 
@@ -68,8 +77,11 @@ public:
     int DigitCount(int n) const;
 
     /// Reads a row of so many variables; false when a word is missing.
+    /// The line does not say how many: the set does. A count of digits of 0 or none is that of the
+    /// text; a word behind the property may lack.
     bool Load(std::string_view line, int variables);
     /// Reads the ^Y line that follows the row.
+    /// Words that lack are empty, words too many are passed over.
     void LoadExtras(std::string_view line);
     /// Writes the row as it stands, and its ^Y line where something is stated.
     void PrintData(LineWriter& out) const;
@@ -77,6 +89,8 @@ public:
 
     /// Brings value n (0 the property) with its statements to the system unit; its count of digits
     /// stays, and goes into the line where the new text would tell another one.
+    /// For a value in the units of the paper only, which the caller has to see to: nothing here
+    /// stops a second conversion. A text that is no number stays.
     void Convert(int n, const UnitConversion& unit, bool isDifference = false);
 
     /// One NumValues element; see SetRows for what the set gives.

@@ -37,6 +37,7 @@ private:
         const auto known = letters_.find(kind);
         if (known != letters_.end()) return known->second;
         const std::string kindOfProperty = PureAvailable(code, mode);
+        // Of one state variable, or none, such a property can only hold along the boundary.
         const bool onBoundary = kindOfProperty == "DD" && (mode == "Single" || mode == "One");
         return letters_[kind] = PureLetter(kindOfProperty, onBoundary, phase).value_or("");
     }
@@ -73,6 +74,7 @@ bool clsL::Load(std::string_view line, Notices& told) {
     const bool bioLine = words.NextWord() == "BL";
     RN = words.NextWord();
     if (RN.empty()) return false;
+    // Data of a compound that nobody can name would go to whatever came before.
     if (!IsNumeric(RN)) {
         told.push_back({"RN = " + RN, "Invalid RN"});
         return false;
@@ -108,6 +110,7 @@ void clsL::LoadPlain(WordReader& words) {
 }
 
 void clsL::LoadBio(WordReader& words) {
+    // Bio compounds are never in the reference database, so their line carries all of it.
     isBio = isNew = true;
     SYSTYPES = "NNNNN";
     REFPROP = "&";
@@ -127,6 +130,7 @@ void clsL::PrintL(LineWriter& out) const {
         return;
     }
     const std::string letters = OrPlaceholder(REFPROP);
+    // Data of a kind that has no letter: the tables are at fault, not the user.
     if (!SYSTYPES.starts_with('N') && letters == "&") out.Tell("REFPROP internal error");
     out.Fields({"^L", RN, SYSTYPES, letters});
     if (isNew) out.Fields({"^N", RN, Formula}, Name);
@@ -144,6 +148,7 @@ void clsL::EachChild(const std::function<void(Record&)>& visit) const {
 std::shared_ptr<clsS> clsL::FindS(int number, std::size_t* index) const {
     if (index) *index = 0;
     for (std::size_t i = 1; i <= recS.Count(); ++i) {
+        // By value: "01" is sample 1.
         if (ToInteger(Val(recS.Item(i)->SMPNM)) != number) continue;
         if (index) *index = i;
         return recS.Item(i);
@@ -170,6 +175,7 @@ void clsL::UpdateInfo() {
 }
 
 int clsL::NextSampleNumber() const {
+    // A sample that was deleted leaves a gap, and then one above the count may be taken.
     int number = static_cast<int>(recS.Count()) + 1;
     while (FindS(number))
         ++number;

@@ -29,13 +29,22 @@ class XmlWriter;
 ///   ^L RN SYSTYPES REFPROP
 ///   ^N RN Formula Name                  (behind it, for a compound new to the reference database)
 ///   BL RN EC PDB Formula Charge Name    (instead of both, for a bio compound)
+///
+/// RN is the number without dashes, its last digit the check digit. SYSTYPES has a letter for pure,
+/// binary and ternary data, reaction changes and equilibria, "D" for data and "N" for none; REFPROP
+/// one for each kind of pure property. Name is the rest of its line and may hold blanks, EC and PDB
+/// write theirs as "_"; "&" is an empty field.
 class clsL : public Record {
 public:
+    /// NewRn is empty unless the file had a wrong check digit.
     std::string RN, NewRn, SYSTYPES = "NNNNN", REFPROP = "&", Name;
+    /// Follows from the formula; units by mass cannot be converted while it is 0.
     double MMass = 0; // molar mass [g/mol]
     std::string Formula;
+    /// Not in the reference database, so name and formula have to travel in the file.
     bool isNew = false;
     bool isBio = false;
+    /// Enzyme classification and protein data bank code of a bio compound.
     std::string EC, PDB;
     std::int32_t Charge = 0;
     ui::Collection<clsS> recS;
@@ -51,8 +60,10 @@ public:
     /// mended number. False for a line without a number, and for one that is not numeric, which is
     /// told.
     bool Load(std::string_view line, Notices& told);
+    /// Writes its lines whatever hangs below it.
     void PrintL(LineWriter& out) const;
     /// Of compounds without samples only those that are new to the reference database.
+    /// One that is neither used nor new says nothing that the database does not know.
     void Print(LineWriter& out) const override;
     void EachChild(const std::function<void(Record&)>& visit) const override;
     /// The sample whose SMPNM has this value, or null; its place from 1 goes into index.

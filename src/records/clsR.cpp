@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::string_view kSourceLetters = "AOXCLZ";
 
+/// Digits only: the number stands in file names and in keys.
 bool IsSequenceNumber(std::string_view text) {
     constexpr std::size_t mostDigits = 4;
     return !text.empty() && text.size() <= mostDigits &&
@@ -29,6 +30,7 @@ std::string HashField(std::string_view text) {
     return Replace(SingleLine(text), "#", " ");
 }
 
+/// Control characters and the parting mark of folders have no place in a name.
 std::string ForFileName(std::string name) {
     for (char& c : name)
         if (c == '/' || c == '\x7f' || (c >= '\0' && c < ' ')) c = '_';
@@ -94,6 +96,7 @@ void clsR::PrepareOutput() {
 void clsR::PrintR(LineWriter& out) const {
     out.Blank();
     out.Fields({"^R", YEARPUB, AUTHOR1, AUTHOR2}, AUTHORN);
+    // Of a known source the database has all this, and its text may be better by now.
     if (isNew) PrintDescription(out);
 }
 
@@ -121,6 +124,7 @@ std::string clsR::QuestionOfOrigin() const {
 void clsR::TakeOrigin(std::string_view answer) {
     const std::string letter = UpperAscii(Trim(answer)).substr(0, 1);
     SOURCEDOC = IsOriginCode(letter) ? letter : "&";
+    // Left open it is asked again: a guess would stand in every header.
     if (IsOriginCode(letter)) Stamp(*this);
 }
 

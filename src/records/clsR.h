@@ -34,6 +34,12 @@ class XmlWriter;
 ///   ^I... one for each author
 ///
 /// ^J and ^I stand only for a source that is new to the reference database.
+///
+/// YEARPUB has four digits, AUTHOR1 and AUTHOR2 are the first letters of two authors ("&" for no
+/// second one), AUTHORN counts sources that have these three in common, 1 to 9999. TYPDOC is the
+/// kind of document, SOURCEDOC where it was taken from, SSOURCE its citation, TTITLE its title,
+/// PRPCLASS the letters of the properties in it, "authors" their number; CASCIT, CODEN, ISSN and
+/// BULCT are its numbers in abstracts and catalogues. No field can hold "#".
 class clsR : public Record {
 public:
     std::string YEARPUB, AUTHOR1, AUTHOR2 = "&", AUTHORN;
@@ -44,6 +50,7 @@ public:
     ui::Collection<clsBR> recBR;
     ui::Collection<clsBP> recBP;
     ui::Collection<clsAuthor> recAuthor;
+    /// Stays true over saves, for elsewhere the database does not know the source.
     bool isNew = false;
     std::string TYPDOC, SOURCEDOC = "&", SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
                         CASCIT, CODEN, ISSN, BULCT;
@@ -69,11 +76,13 @@ public:
     std::string LoadJ(std::string_view line);
     /// Takes the next free number of its authors and year, and is to be registered under it. The
     /// document is changed thereby, which is told.
+    /// A file name that was made from the old number is wrong from here on.
     Notice TakeNextNumber();
     void PrintR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintR(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;
     /// Composes PRPCLASS and the letters of every compound from what the document holds.
+    /// Nothing reads these letters back: they are made anew at every save.
     void UpdateRefInfo();
     /// Every compound that a mixture or a reaction names exists; missing ones are made.
     void CheckPresence();

@@ -12,6 +12,7 @@ namespace vexora {
 namespace {
 
 /// Rows of SOURCE_REFINFO with the first three parts of the identity.
+/// No second author is "", "&" or nothing at all, as the row was made.
 Recordset RowsOf(std::string_view year, std::string_view author1, std::string_view author2) {
     return Globals().CompoundDb().Query(
         "select * from SOURCE_REFINFO where YEARPUB = ? and AUTHOR1 = ? and "
@@ -28,6 +29,7 @@ std::optional<std::string> KnownSource(const clsR& source) {
     return std::nullopt;
 }
 
+/// By number: as text "10" comes before "9". Gaps stay, for a number once given may be cited.
 int OneAboveGreatest(Recordset rows) {
     std::int64_t highest = 0;
     for (; !rows.IsEnd(); rows.MoveNext())
@@ -51,6 +53,7 @@ std::string clsR::LoadJ(std::string_view line) {
     BULCT = Trim(BULCT);
     const std::size_t comma = SSOURCE.rfind(", ");
     if (TYPDOC == "S" && comma != std::string::npos) ManuscriptID = SSOURCE.substr(comma + 2);
+    // The line would not be there otherwise; it stays new whatever the database says.
     isNew = true;
     if (!Globals().CompoundDb().IsOpen()) return {};
     const auto known = KnownSource(*this);

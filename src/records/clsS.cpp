@@ -16,6 +16,7 @@ namespace vexora {
 
 namespace {
 
+// Low ratings are the good ones: any method beats none.
 constexpr int kNoRatingYet = 255;
 constexpr int kUnknownMethod = 252;
 constexpr std::string_view kFreeTextMethod = "y";
@@ -37,6 +38,7 @@ std::vector<std::string> WordsOf(std::string_view description) {
     return words;
 }
 
+/// Free text may speak of per cent without stating a purity.
 bool HoldsOneOf(std::string_view word, std::initializer_list<std::string_view> units) {
     if (word.starts_with('(')) return false;
     for (const std::string_view unit : units)
@@ -67,6 +69,7 @@ std::shared_ptr<Set> FindSet(const ui::Collection<Set>& sets, std::string_view c
 
 template <class Set>
 int NextNumber(const ui::Collection<Set>& sets, std::string_view code, int nVar) {
+    // One above the count; after a deletion that may be taken, then the next free one.
     int number = 1;
     for (const auto& set : sets)
         number += set->nVar == nVar && set->PRPCODE == code ? 1 : 0;
@@ -125,10 +128,12 @@ void clsS::AssessPurity() {
         ++i; // the word behind is the method
         if (isPurity) {
             const int rating = RatingOf(i < words.size() ? words[i] : std::string());
+            // Of methods rated alike the last counts: it stands behind the last step.
             if (rating > best || !value) continue;
             Purity = *value;
             best = rating;
         } else if (value && 100 - *value < Purity) {
+            // No sample is purer than its impurity leaves room for.
             Purity = 100 - *value;
         }
     }
@@ -139,6 +144,7 @@ std::string clsS::Formula() const {
 }
 
 double clsS::MolarMass() const {
+    // Of its own source, which need not be the current one.
     return Parent ? MolarMassOfRN(Parent->RN, Parent->Parent) : 0;
 }
 

@@ -19,6 +19,9 @@ class XmlWriter;
 /// purified and how pure it was.
 ///
 ///   ^S SMPNM SMPDESC
+///
+/// SMPNM counts the samples of a compound from "1" and never changes, for values name it; SMPDESC
+/// is the rest of the line (see SampleDescription.h), "&" for none.
 class clsS : public Record {
 public:
     std::string SMPNM, SMPDESC;
@@ -33,7 +36,10 @@ public:
     void SetMe() override;
     void AttachTo(clsL& compound);
 
+    /// Takes any line; SMPNM is empty when it ends too soon. The description is judged by the
+    /// check, not here, so that a file with an odd one can be opened and mended.
     void Load(std::string_view line);
+    /// Its own line; values and sets write theirs.
     void PrintS(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintS(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;
@@ -43,6 +49,7 @@ public:
     /// Molar mass of the compound [g/mol], 0 when it is not known.
     double MolarMass() const;
     /// The single value with this property, number of variables and set number, or null.
+    /// Asks the records, not their keys: "P1" and set "1" read like "P" and set "11".
     std::shared_ptr<clsZ> FindZ(std::string_view code, int nVar, std::string_view setNumber) const;
     /// The next free set number for a property with so many variables.
     int NextSetNumber(std::string_view code, int nVar) const;

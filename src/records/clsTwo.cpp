@@ -21,6 +21,8 @@ namespace {
 const std::string NoText;
 
 /// The code of a property as lines of a gas bear it.
+/// In the file a pressure is P whatever it is the pressure of; the gas beside it tells that it is a
+/// vapour pressure, and a heat of transition into a gas is one of vaporization.
 std::string_view CodeInLine(std::string_view code, bool hasGas) {
     if (hasGas && code == "PV") return "P";
     return hasGas && code == "HVP" ? "HTR" : code;
@@ -62,6 +64,7 @@ double clsTwo::MolarMass(const clsData&) const {
 
 std::shared_ptr<DataSet> clsTwo::Copy() const {
     auto copy = std::make_shared<clsTwo>(*this);
+    // The node goes on belonging to the set in the document.
     copy->tNode = nullptr;
     return copy;
 }
@@ -84,6 +87,7 @@ bool clsTwo::Load(std::string_view line) {
     PHASE1 = NextPhase(words);
     PHASE2 = NextPhase(words);
     CONSTRAINT = NextField(words);
+    // As the line was written; memory must equal what a reload gives, or numbers of sets collide.
     if (HasGas() && PRPCODE == "P") PRPCODE = "PV";
     if (HasGas() && PRPCODE == "HTR") PRPCODE = "HVP";
     VARIABLE1 = nVar == 2 ? NextField(words) : DerivedVariable();
@@ -91,6 +95,7 @@ bool clsTwo::Load(std::string_view line) {
         VAR1_UNIT = NextField(words);
         VARIABLE2 = NextField(words);
     }
+    // The reference state may lack, the units may not.
     if (words.AtEnd()) return false;
     (nVar == 2 ? VAR2_UNIT : VAR1_UNIT) = NextField(words);
     REF_TEMP = NextField(words);
@@ -98,12 +103,14 @@ bool clsTwo::Load(std::string_view line) {
     REF_PHASE = WithoutPlaceholder(Trim(words.Rest()));
     Factor = 0;
     isOriginalUnit = true;
+    // What the file holds has been converted by its writer and is never converted again.
     commentInSystemUnits = true;
     return true;
 }
 
 void clsTwo::TakePending(const clsA& pending) {
     DataSet::TakePending(pending);
+    // Only here, for the comment comes in front of the line and with the header.
     const std::string stated = CommentTags(Header.DATACOMMENT).TrimmedValue("V1");
     if (nVar == 1 && !stated.empty()) VARIABLE1 = stated;
 }
@@ -145,6 +152,7 @@ void clsTwo::Replace(const clsTwo& other) {
 std::string clsTwo::DefinitionLine() const {
     std::string line = Joined({nVar == 2 ? "^2" : "^1", SMPNM, CodeInLine(PRPCODE, HasGas()),
                                PropertyUnitField(), PROPERTY_FUNCT, PRPSETNO});
+    // The one tab of the format; readers take it for a blank.
     line += '\t' + Joined({DATATYPE, PHASE1, PHASE2, CONSTRAINT});
     if (nVar == 2) AppendField(line, VARIABLE1);
     AppendField(line, UnitField(VAR1_UNIT));

@@ -20,6 +20,13 @@ class clsS;
 ///
 /// The variable of ^1 is not in the line: it follows from constraint and property, else a tag "V1:"
 /// of the comment names it. PV and HVP of a gas are written as P and HTR.
+///
+/// SMPNM is the number of the sample, or "*" or "S1" for the one above; unit and VARn_UNIT are
+/// conversion codes of one letter, "S" the system unit; PROPERTY_FUNCT says how the number relates
+/// to the property, PRPSETNO tells sets of one property apart, DATATYPE how the paper presents
+/// them. CONSTRAINT is "PB" on a phase boundary, "FP", "FT", "FV" in a single phase with one
+/// quantity fixed, "DP" for a derived property; REF_TEMP [K], REF_PRESSURE [kPa] and REF_PHASE are
+/// the state that relative results go by. "&" is an empty field, but a value in a phase.
 class clsTwo : public DataSet {
 public:
     std::string SMPNM, PHASE1, PHASE2 = "&", CONSTRAINT, VARIABLE1, VAR1_UNIT, VARIABLE2, VAR2_UNIT,
@@ -41,6 +48,7 @@ public:
     void PrintAll(LineWriter& out) const { Print(out); }
 
     /// Reads the line of the definition; false when it ends before the units.
+    /// Codes that no table holds are kept: the check tells of them.
     bool Load(std::string_view line);
     void TakePending(const clsA& pending) override;
 

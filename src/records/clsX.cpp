@@ -54,12 +54,15 @@ void clsX::Load(std::string_view line) {
     CDRms = NextField(words);
     CDSpec = UnderscoresToBlanks(NextField(words));
     CValue = NextField(words);
+    // The writer of the line has converted its values.
     inSystemUnits = true;
+    // Should the set have no place for it, it can only be given back as it came.
     Verbatim = Trim(line);
 }
 
 bool clsX::IsStated() const {
     if (N < 0) return false;
+    // A flag alone states nothing of a combined uncertainty.
     const bool hasCombined = iCU && !(CValue.empty() && CType.empty() && CLevel.empty());
     return iDS || iRep || iUnc || iCD || hasCombined;
 }
@@ -70,6 +73,7 @@ void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double m
     const auto system = [&](const std::string& typed) {
         return inSystemUnits ? typed : unit.DifferenceText(typed);
     };
+    // The value line has it already, and would be contradicted when it is edited.
     const bool statesRep = iRep || !repOfValueLine;
     out.Fields({"^X",
                 std::to_string(N),
@@ -97,6 +101,7 @@ void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double m
 
 void SaveOthers(LineWriter& out, const std::vector<clsX>& others) {
     for (const clsX& other : others) {
+        // Without a line of a file it was made here, and can be written like any other.
         if (other.Verbatim.empty())
             other.SaveX(out, "");
         else

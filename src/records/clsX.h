@@ -15,10 +15,18 @@ class XmlWriter;
 ///
 ///   ^X N PRPCODE PHASE iDS DSEvaluator DSLevel DSValue iRep RType RValue Repetitions
 ///      iUnc ULevel UValue iCU CType CLevel iCD CDRms CDSpec CValue
+///
+/// PHASE is the phase that the quantity is meant in. iDS to iCD are "+" or "-": what is meant to
+/// hold. DS is the device specification, R the repeatability, U the uncertainty that the author
+/// states, C the combined one and CD the deviation from a curve; a Level is a level of confidence
+/// in per cent. DSEvaluator says who judged the device, CType "A" propagation or "B" comparison,
+/// CDSpec the equation of the curve. Words of two parts have "_" for the blank; "&" is empty.
 class clsX {
 public:
     int N = -1; // 0 the property, 1 to 4 variables, -1 not known
+    /// Name and Unit follow from the code and are not in the line.
     std::string PRPCODE, PHASE, Name, Unit;
+    /// Of a state variable that is the same for all rows; it has its place behind the variables.
     bool Constr = false;
     bool iDS = false;
     std::string DSEvaluator, DSLevel, DSValue;
@@ -28,10 +36,12 @@ public:
     bool iUnc = false;
     std::string ULevel, UValue;
     bool iCU = false;
+    /// KVOUValue, the figure of the evaluation, belongs to the line of the value.
     std::string CLevel, CValue, KVOUValue, CType;
     bool iCD = false;
     std::string CDSpec, CDRms;
     /// Values stand in system units: true after Load, false when a dialog wrote them.
+    /// Without it each load and save would convert them once more.
     bool inSystemUnits = false;
     /// RValue and Repetitions came with the value line; a ^X line states them only with iRep.
     bool repOfValueLine = false;
@@ -40,6 +50,7 @@ public:
 
     bool operator==(const clsX&) const = default;
 
+    /// Takes any line: a word that lacks or makes no sense counts as not stated, N as -1.
     void Load(std::string_view line);
     /// Whether there is a statement that would be written.
     bool IsStated() const;

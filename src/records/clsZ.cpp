@@ -24,6 +24,7 @@ std::pair<std::string, std::string> VariableFields(const clsZ& value) {
     const ShortText& code = value.VARIABLE_UNIT;
     if (!IsUnitLong(code)) return {value.INDVARIABLE, code};
     if (!value.isOriginalUnit) return {value.INDVARIABLE, "S"};
+    // For its refusal: what cannot be converted must not be written as 0.
     FactorOfLongUnit(code, value, value.Parent);
     const double system = ToSystem(code, Val(value.INDVARIABLE), 0, 0);
     return {FormatConverted(value.INDVARIABLE, code, system), "S"};
@@ -50,6 +51,8 @@ bool clsZ::Load(std::string_view line) {
     }
     if (words.AtEnd()) return false;
     LoadValue(words);
+    // Normal boiling and melting points hold under one atmosphere, and the latter in air, whatever
+    // the line says.
     if (PRPCODE == "TBN") PHASE3 = "&";
     if (PRPCODE == "TMN") PHASE3 = "air";
     return true;
@@ -107,6 +110,7 @@ const Record* clsZ::Owner() const {
 
 double clsZ::MolarMass() const {
     const double mass = Parent ? Parent->MolarMass() : 0;
+    // The formula is the better witness: the file may have been written with another one.
     return mass > 0 ? mass : FallbackMolarMass;
 }
 

@@ -23,9 +23,17 @@ class clsS;
 ///   ^X            (of the variable, then of the property)
 ///
 /// ^z and ^f hold values in the unit of the paper, ^Z and ^F in the system unit.
+///
+/// SMPNM is the number of the sample, or "*" or "S1" for the one above; the units are conversion
+/// codes of one letter, "S" the system unit; PRPSETNO tells values of one property apart. "&" in
+/// PHASE2 and PHASE3 says that there is no such phase. INDVARIABLE is the fixed variable as typed;
+/// which one it is follows from the property. PRPUNCERTY is the figure of the evaluation, PRECIS
+/// the repeatability, DETERMNM the number of determinations.
 class clsZ : public SingleValue {
 public:
     int nVar = 0;
+    /// The phases are those that the property connects: a boiling point has two, a triple point
+    /// three.
     ShortText SMPNM, PHASE1, PHASE2 = "&", PHASE3 = "&", INDVARIABLE, VARIABLE_UNIT;
     clsS* Parent = nullptr;
 
