@@ -74,7 +74,7 @@ void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode)
         command->add_option("--home", arguments->home, "Application folder with the databases");
         command->add_option("DOCUMENT", arguments->document, "A record file")->required();
         command->callback([arguments, run, &exitCode] {
-            OpenedDocument document(arguments->document);
+            OpenedDocument document(arguments->document, run == Tree);
             exitCode = document.Open(arguments->home, arguments->argv0);
             if (exitCode == kExitClean) exitCode = run(document, *arguments);
         });

@@ -11,12 +11,12 @@
 
 namespace vexora {
 
-OpenedDocument::OpenedDocument(std::string path)
+OpenedDocument::OpenedDocument(std::string path, bool withTree)
     : path_(std::move(path)), desktop_([this](const ui::Message& message) {
           Tell(globals_.LineInHand, false, message.text);
       }),
       forms_(desktop_) {
-    globals_.tvwTree = &form_.tvwTree;
+    if (withTree) globals_.tvwTree = &form_.tvwTree;
 }
 
 void OpenedDocument::Tell(int line, bool isError, const std::string& text) {

@@ -14,7 +14,8 @@ namespace vexora {
 /// error.
 class OpenedDocument {
 public:
-    explicit OpenedDocument(std::string path);
+    /// The tree takes as much memory as the records, so it is made only when it is asked for.
+    OpenedDocument(std::string path, bool withTree);
 
     /// Opens the databases of the application folder, or those installed, and reads the document.
     /// The answer is an exit code; with anything but kExitClean there is no document.

@@ -33,7 +33,7 @@ TreeNode& TreeView::Add(TreeNode* parent, std::string_view key, std::string text
     auto& siblings = parent ? parent->children_ : roots_;
     siblings.push_back(std::make_unique<TreeNode>(*this, parent, unique, std::move(text)));
     TreeNode& node = *siblings.back();
-    byKey_[unique] = &node;
+    byKey_[node.key_] = &node;
     NodeAdded.Emit(&node);
     return node;
 }
@@ -48,7 +48,7 @@ std::string TreeView::Unique(std::string_view key) const {
 void TreeView::Rekey(TreeNode& node, std::string_view key) {
     const std::string before = node.key_;
     if (before == key) return;
-    byKey_.erase(before);
+    byKey_.erase(node.key_); // looks into the key that goes
     node.key_ = Unique(key);
     byKey_[node.key_] = &node;
     for (const auto& child : node.children_) {
@@ -78,7 +78,7 @@ void TreeView::Clear() {
 }
 
 TreeNode* TreeView::Find(std::string_view key) const {
-    const auto found = byKey_.find(std::string(key));
+    const auto found = byKey_.find(key);
     return found == byKey_.end() ? nullptr : found->second;
 }
 

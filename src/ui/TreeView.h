@@ -92,7 +92,7 @@ private:
     std::string Unique(std::string_view key) const;
 
     std::vector<std::unique_ptr<TreeNode>> roots_;
-    std::unordered_map<std::string, TreeNode*> byKey_;
+    std::unordered_map<std::string_view, TreeNode*> byKey_; // keys are those of the nodes
     TreeNode* selected_ = nullptr;
 };
 
