@@ -153,7 +153,7 @@ void DataSet::PrintRows(LineWriter& out) const {
 
 /// The comment with the precisions that a dialog wrote brought to system units, as differences.
 std::string DataSet::CommentForRecord() const {
-    const std::string comment = CommentOfLine();
+    std::string comment = CommentOfLine();
     if (commentInSystemUnits || !isOriginalUnit) return comment;
     return CommentInSystemUnits(comment, [this](const std::string& code, const std::string& typed) {
         return SystemPrecision(code, typed);

@@ -34,7 +34,7 @@ public:
     bool CompareName(std::string_view fullName) const;
     /// Reads a ^I line. An author who is nowhere to be found is told, and stays without a name.
     Notices Load(std::string_view line);
-    void Print(LineWriter& out) const;
+    void Print(LineWriter& out) const override;
 
     std::string Key() const override { return AUTHSEQNO; }
     std::string ShowKey() const override { return FULLNM; }

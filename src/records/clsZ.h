@@ -46,7 +46,6 @@ public:
     const Record* Owner() const override;
     void ExportAll(XmlWriter& xml) const override { ExportZ(xml); }
     void ExportZ(XmlWriter& xml) const;
-    void PrintZ(LineWriter& out) const { Print(out); }
 
     /// Reads the value line; false when it ends before the value.
     bool Load(std::string_view line);

@@ -96,13 +96,13 @@ bool ContextFlags::IsIn(std::string_view context) const {
 }
 
 std::string PhaseCode(std::string_view name) {
-    const std::string solution = CodeOfText(kSolutions, name);
+    std::string solution = CodeOfText(kSolutions, name);
     if (!solution.empty()) return solution;
     return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Phase, name, &PhaseRow::Code);
 }
 
 std::string PhaseName(std::string_view code) {
-    const std::string solution = TextOfCode(kSolutions, code);
+    std::string solution = TextOfCode(kSolutions, code);
     if (!solution.empty()) return solution;
     return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Code, code, &PhaseRow::Phase);
 }

@@ -23,7 +23,7 @@ public:
 
     /// Adds at the end; the answer is the key under which the entry really stands.
     std::string Add(Pointer entry, std::string_view key = {}) {
-        const std::string unique = Unique(key);
+        std::string unique = Unique(key);
         if (!positions_.empty()) positions_[entry.get()] = entries_.size();
         entries_.push_back(std::move(entry));
         keys_.push_back(unique);

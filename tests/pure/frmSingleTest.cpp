@@ -85,7 +85,7 @@ protected:
     }
     static std::string Lines(clsZ& record) {
         LineWriter out;
-        record.PrintZ(out);
+        record.Print(out);
         return out.Text();
     }
     std::string ValueLines(std::size_t position = 1) const {
