@@ -12,7 +12,7 @@ namespace {
 
 /// Method and statements share the tags of a comment with the words of CommentTags.
 bool IsTagWord(std::string_view key) {
-    return CommentTags::IsOwnWord(key) || IndexOfCode(LetteredStatements(), key) >= 0;
+    return CommentTags::IsOwnWord(key) || IndexOfCode(LetteredStatements, key) >= 0;
 }
 
 void CheckMethodCode(TableRows& row, const std::string& code) {

@@ -53,7 +53,7 @@ void CheckFactor(TableRows& row, const std::string& code) {
 }
 
 void CheckStateVariables(const Database& vocabulary, RowRemarks& findings) {
-    for (const QuantityText& state : StateVariables()) {
+    for (const QuantityText& state : StateVariables) {
         // With exact case: rules find state variables by these texts.
         const Recordset rows =
             vocabulary.Query("select * from IndVariables where IndVarCode=? collate binary"

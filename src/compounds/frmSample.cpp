@@ -96,12 +96,12 @@ void frmSample::Load() {
 }
 
 void frmSample::FillLists() {
-    lstDescAvail.Assign(Texts(SampleAvailabilities()));
-    lstSmpSrc.Assign(Texts(SampleSources()));
+    lstDescAvail.Assign(Texts(SampleAvailabilities));
+    lstSmpSrc.Assign(Texts(SampleSources));
     lstPurify.Assign(PurificationList());
     lstPurify.Add(otherEntry);
     for (const Purity& boxes : purities_) {
-        for (const PurityUnit& unit : PurityUnits())
+        for (const PurityUnit& unit : PurityUnits)
             boxes.unit.Add(std::string(unit.text));
         boxes.method.Assign(DeterminationList());
         boxes.method.Add(otherEntry);

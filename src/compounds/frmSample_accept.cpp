@@ -15,7 +15,7 @@ namespace vexora {
 namespace {
 
 bool IsImpurity(const ui::ComboBox& unit) {
-    for (const PurityUnit& row : PurityUnits())
+    for (const PurityUnit& row : PurityUnits)
         if (row.text == unit.Chosen()) return IsImpurityUnit(row.code);
     return false;
 }

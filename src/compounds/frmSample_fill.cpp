@@ -20,7 +20,7 @@ std::string ListText(const std::string& code, NameLookUp nameOf) {
 }
 
 std::string UnitCode(std::string_view text) {
-    for (const PurityUnit& unit : PurityUnits())
+    for (const PurityUnit& unit : PurityUnits)
         if (unit.text == text) return std::string(unit.code);
     return {};
 }
@@ -34,8 +34,8 @@ PurityStatement frmSample::ReadPurity(const Purity& boxes) {
 
 SampleDescription frmSample::Read() const {
     SampleDescription description;
-    description.Availability = CodeOfText(SampleAvailabilities(), lstDescAvail.Chosen());
-    description.Source = CodeOfText(SampleSources(), lstSmpSrc.Chosen());
+    description.Availability = CodeOfText(SampleAvailabilities, lstDescAvail.Chosen());
+    description.Source = CodeOfText(SampleSources, lstSmpSrc.Chosen());
     description.Initial = ReadPurity(initial_);
     for (int i = 0; i < lstPurify.Count(); ++i)
         if (lstPurify.Selected(i))
@@ -66,10 +66,10 @@ void frmSample::Fill() {
 /// False when a code is unknown or there are more statements than boxes.
 bool frmSample::ShowDescription(const SampleDescription& description) {
     ClearDescription();
-    lstDescAvail.Index(IndexOfCode(SampleAvailabilities(), description.Availability));
+    lstDescAvail.Index(IndexOfCode(SampleAvailabilities, description.Availability));
     FollowAvailability();
     if (!IsDescribed()) return true;
-    lstSmpSrc.Index(IndexOfCode(SampleSources(), description.Source));
+    lstSmpSrc.Index(IndexOfCode(SampleSources, description.Source));
     if (!ShowPurity(description.Initial, initial_)) return false;
     for (const std::string& code : description.Purification) {
         const int place = PlaceOfMethod(lstPurify, ListText(code, PurificationName));

@@ -1,8 +1,6 @@
 #include "entry/PhaseRules.h"
 
-#include <algorithm>
-#include <array>
-
+#include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora {
@@ -10,10 +8,6 @@ namespace vexora {
 namespace {
 
 using Codes = std::vector<std::string>;
-
-bool IsOneOf(std::string_view code, std::initializer_list<std::string_view> codes) {
-    return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 /// Codes of the phases of a context that pass a test, in table order.
 template <class Test>

@@ -42,13 +42,11 @@ std::string DateText(const ui::Date& date) {
 
 void TakeProperty(const StoredProperty& stored, const clsA& header) {
     KVOGlobal& globals = Globals();
-    const auto found = FindProperty(stored.code, globals.DataContext);
-    PropertyRow row = found ? *found : PropertyRow();
-    if (!found) row.Property = stored.code;
+    globals.PropertyCode = stored.code;
+    const PropertyRow row = PropertyInForce();
     // Values that stand in system units are shown in these, whatever unit the paper had.
     const std::string unit = stored.isOriginalUnit ? stored.unit : "S";
     const double factor = stored.isOriginalUnit ? stored.factor : 0;
-    globals.PropertyCode = stored.code;
     // The unit of the paper is kept as what the record knows, even where its values are converted.
     globals.PropertyUnit = stored.unit;
     globals.OriginalUnits = stored.isOriginalUnit;

@@ -1,7 +1,5 @@
 #include "entry/PropertyRules.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 
 #include "reference/Conversions.h"
@@ -29,11 +27,11 @@ bool LetterApplies(std::string_view letter, std::string_view code) {
 
 std::vector<Statement> StatementsFor(std::string_view propertyCode) {
     std::vector<Statement> statements;
-    const CodeTexts flags = ValueStatements();
+    const CodeTexts flags = ValueStatements;
     for (std::size_t i = 0; i < flags.size(); ++i) {
         if (i != Rejection) statements.push_back({std::string(flags[i].text), 1 << i, {}});
     }
-    for (const CodeText& entry : LetteredStatements()) {
+    for (const CodeText& entry : LetteredStatements) {
         if (LetterApplies(entry.code, propertyCode))
             statements.push_back({std::string(entry.text), 0, std::string(entry.code)});
     }

@@ -8,6 +8,14 @@ namespace {
 
 using Cells = std::vector<std::vector<std::string>>;
 
+/// Cells up to the last one that holds something.
+std::size_t Width(const std::vector<std::string>& row) {
+    std::size_t width = row.size();
+    while (width > 0 && row[width - 1].empty())
+        --width;
+    return width;
+}
+
 /// All texts behind the fixed rows, without empty rows at the end.
 Cells TextsOf(const ui::Grid& grid) {
     Cells cells;
@@ -17,21 +25,12 @@ Cells TextsOf(const ui::Grid& grid) {
         texts.reserve(static_cast<std::size_t>(grid.Columns()));
         for (int column = 0; column < grid.Columns(); ++column)
             texts.push_back(grid.Cell(row, column));
-        const bool empty =
-            std::all_of(texts.begin(), texts.end(), [](const auto& text) { return text.empty(); });
+        const bool empty = Width(texts) == 0;
         cells.push_back(std::move(texts));
         if (!empty) filled = cells.size();
     }
     cells.resize(filled);
     return cells;
-}
-
-/// Cells up to the last one that holds something.
-std::size_t Width(const std::vector<std::string>& row) {
-    std::size_t width = row.size();
-    while (width > 0 && row[width - 1].empty())
-        --width;
-    return width;
 }
 
 /// The top row, its values standing over the columns they belong to.
@@ -59,14 +58,6 @@ std::vector<Triple> TriplesOf(const Cells& cells, const std::vector<std::string>
         }
     }
     return triples;
-}
-
-/// Whether the columns from this one on may go without loss.
-bool IsEmptyBehind(const ui::Grid& grid, int column) {
-    for (int row = grid.FixedRows(); row < grid.Rows(); ++row)
-        for (int at = column; at < grid.Columns(); ++at)
-            if (!grid.Cell(row, at).empty()) return false;
-    return true;
 }
 
 bool AnyOutside(const ui::Grid& grid, const ui::Grid::Block& block) {
@@ -136,7 +127,9 @@ bool MoveBlockBelow(TableUndo& table, const TableColumns& columns) {
                 edit.Cell(row, static_cast<int>(column), texts[column]);
             ++row;
         }
-        if (IsEmptyBehind(grid, columns.Count())) edit.Columns(columns.Count());
+        // Columns behind those of the set go where that loses nothing.
+        const bool anyBehind = AnyOutside(grid, {0, 0, grid.Rows() - 1, columns.Count() - 1});
+        if (!anyBehind) edit.Columns(columns.Count());
     };
     return table.Do(writer);
 }

@@ -55,7 +55,7 @@ void frmProperty::Store(int variableCount) {
     globals.VariableCount = variableCount;
     globals.OriginalUnits = optOriginal.Value();
     globals.ExpPurpose =
-        CodeAt(ExperimentPurposes(), static_cast<std::size_t>(lstExpPurpose.Index()));
+        CodeAt(ExperimentPurposes, static_cast<std::size_t>(lstExpPurpose.Index()));
     globals.PropertyComment = txtComment.Text();
     method.Method = ChosenMethod();
     method.sMethod = method.Method == "OTHER" ? std::string(Trim(txtMethod.Text())) : "";

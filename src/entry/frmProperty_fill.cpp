@@ -45,7 +45,7 @@ void frmProperty::FillGroups() {
     lstPropGroup.Assign({"SELECT PROPERTY GROUP"});
     for (const PropertyGroupRow& group : groups_)
         lstPropGroup.Add(group.GroupName);
-    lstExpPurpose.Assign(Texts(ExperimentPurposes()));
+    lstExpPurpose.Assign(Texts(ExperimentPurposes));
 }
 
 /// A review offers what suits the entry dialog that asked for it, and what it came with.
@@ -69,17 +69,16 @@ void frmProperty::Fill() {
     const ui::FillingScope filling(*this);
     FillGroups();
     const auto property = FindProperty(globals.PropertyCode, globals.DataContext);
-    const auto isGroup = [&](const auto& group) {
-        return property && group.GROUP == property->GROUP;
-    };
-    const auto group = std::find_if(groups_.begin(), groups_.end(), isGroup);
+    const auto group = property
+                           ? std::ranges::find(groups_, property->GROUP, &PropertyGroupRow::GROUP)
+                           : groups_.end();
     lstPropGroup.Index(group == groups_.end() ? 0 : static_cast<int>(group - groups_.begin()) + 1);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (rows_[i].Code == globals.PropertyCode) lstProp.Index(static_cast<int>(i) + 1);
     }
     optOriginal.Value(globals.OriginalUnits);
     optSystem.Value(!globals.OriginalUnits);
-    lstExpPurpose.Index(std::max(0, IndexOfCode(ExperimentPurposes(), globals.ExpPurpose)));
+    lstExpPurpose.Index(std::max(0, IndexOfCode(ExperimentPurposes, globals.ExpPurpose)));
     txtMethod.Text(method.sMethod);
     txtFactor.Text(NumberText(method.f));
     txtComment.Text(globals.PropertyComment);
@@ -119,17 +118,14 @@ void frmProperty::FillMethods(const PropertyRow& row) {
 /// A method that the table does not list, as a file may have it, is offered under its code.
 void frmProperty::SelectMethod(const std::string& code) {
     if (code.empty()) return;
-    const auto found = std::find_if(methods_.begin(), methods_.end(), [&code](const auto& method) {
-        return method.MethodCode == code;
-    });
-    const int index = static_cast<int>(found - methods_.begin());
-    if (found == methods_.end()) {
+    const auto found = std::ranges::find(methods_, code, &MethodRow::MethodCode);
+    const bool isListed = found != methods_.end();
+    const int index = isListed ? static_cast<int>(found - methods_.begin()) : 0;
+    if (!isListed) {
         methods_.insert(methods_.begin(), {code, code});
         lstMethod.Insert(0, code);
-        lstMethod.Index(0);
-    } else {
-        lstMethod.Index(index);
     }
+    lstMethod.Index(index);
 }
 
 void frmProperty::NoteList() {

@@ -31,11 +31,10 @@ double Level(const std::string& text) {
 } // namespace
 
 bool frmUnc::CheckValue(ui::TextBox& box) {
-    if (!box.Enabled()) return true;
-    box.Text(NormalizeNumber(box.Text()));
+    if (!CheckLevel(box)) return false;
     // In a table the cell of a row may give the figure.
-    if (box.IsEmpty()) return !IsSingleValue() || Refuse(box, "Please enter the value");
-    return IsNumeric(box.Text()) || Refuse(box, InvalidNumber);
+    const bool isMissing = box.Enabled() && box.IsEmpty() && IsSingleValue();
+    return !isMissing || Refuse(box, "Please enter the value");
 }
 
 bool frmUnc::CheckLevel(ui::TextBox& box) {

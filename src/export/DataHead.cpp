@@ -57,7 +57,7 @@ void ExportComponent(XmlWriter& xml, const clsL& compound, std::string_view samp
 }
 
 void ExportOrigin(XmlWriter& xml, const clsA& header) {
-    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes(), header.EXPPURPOSE));
+    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
     xml.ElementIfAny("sCompiler", Globals().UserName);
     xml.ElementIfAny("sContributor", Globals().Organization);
     xml.ElementIfAny("dateDateAdded", IsoDate(header.DATEADDED));

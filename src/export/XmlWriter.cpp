@@ -1,7 +1,5 @@
 #include "export/XmlWriter.h"
 
-#include <algorithm>
-
 #include "reference/Text.h"
 
 namespace vexora {
@@ -60,8 +58,7 @@ void XmlWriter::Indent() {
 
 void XmlWriter::Open(std::string_view name, const std::vector<std::string>& attributes) {
     Indent();
-    text_ += "<";
-    text_ += name;
+    text_.append("<").append(name);
     for (std::size_t i = 0; i + 1 < attributes.size(); i += 2) {
         text_ += " " + attributes[i] + "=\"" + Escaped(attributes[i + 1], true) + "\"";
     }
@@ -78,11 +75,8 @@ void XmlWriter::Close() {
 
 void XmlWriter::Element(std::string_view name, std::string_view text) {
     Indent();
-    text_ += "<";
-    text_ += name;
-    text_ += ">" + Escaped(text) + "</";
-    text_ += name;
-    text_ += ">\n";
+    text_.append("<").append(name).append(">").append(Escaped(text));
+    text_.append("</").append(name).append(">\n");
 }
 
 void XmlWriter::ElementIfAny(std::string_view name, std::string_view text) {

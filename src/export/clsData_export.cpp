@@ -23,38 +23,24 @@ void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n,
 
 } // namespace
 
-void clsData::ExportPropUnc(XmlWriter& xml, SetRows& rows) const {
-    ExportUnc(xml, "Prop", *this, 0, rows);
-}
-
-void clsData::ExportVarUnc(XmlWriter& xml, int n, SetRows& rows) const {
-    ExportUnc(xml, "Var", *this, n, rows);
-}
-
 void clsData::ExportData(XmlWriter& xml, SetRows& rows) const {
-    const auto number = [&](int n) {
+    const auto exportValue = [&](const char* element, const std::string& role, int n) {
         const auto place = static_cast<std::size_t>(n);
-        return ExportedValue(Values[place], rows.UnitIn(*this, n), DigitCount(n));
+        const ExportNumber value =
+            ExportedValue(Values[place], rows.UnitIn(*this, n), DigitCount(n));
+        xml.Open(element);
+        // The number of the head to which the value belongs; there is one property.
+        xml.Element("n" + role + "Number", std::to_string(std::max(n, 1)));
+        xml.Element("n" + role + "Value", value.text);
+        xml.Element("n" + role + "Digits", std::to_string(value.digits));
+        ExportUnc(xml, role, *this, n, rows);
+        xml.Close();
     };
     // Variables first and then the property, as the schema has them.
     xml.Open("NumValues");
-    for (int n = 1; n <= nVar; ++n) {
-        const ExportNumber value = number(n);
-        xml.Open("VariableValue");
-        xml.Element("nVarNumber", std::to_string(n));
-        xml.Element("nVarValue", value.text);
-        xml.Element("nVarDigits", std::to_string(value.digits));
-        ExportVarUnc(xml, n, rows);
-        xml.Close();
-    }
-    const ExportNumber value = number(0);
-    xml.Open("PropertyValue");
-    // The number of the head to which the value belongs.
-    xml.Element("nPropNumber", "1");
-    xml.Element("nPropValue", value.text);
-    xml.Element("nPropDigits", std::to_string(value.digits));
-    ExportPropUnc(xml, rows);
-    xml.Close();
+    for (int n = 1; n <= nVar; ++n)
+        exportValue("VariableValue", "Var", n);
+    exportValue("PropertyValue", "Prop", 0);
     xml.Close();
 }
 

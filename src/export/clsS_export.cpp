@@ -44,7 +44,7 @@ void ExportInitial(XmlWriter& xml, const SampleDescription& description) {
     xml.Open("purity");
     xml.Element("nStep", "1");
     ExportFigure(xml, description.Initial);
-    xml.ElementIfAny("eSource", TextOfCode(SampleSources(), description.Source));
+    xml.ElementIfAny("eSource", TextOfCode(SampleSources, description.Source));
     ExportAnalysis(xml, description.Initial);
     xml.Close();
 }

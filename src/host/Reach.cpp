@@ -32,8 +32,8 @@ bool IsOnTurnedPage(const ui::Layout& layout, const ui::Control& control) {
 }
 
 const ui::MenuItem* MenuAbove(const ui::Control& control) {
-    if (control.Kind() != ui::ControlKind::MenuItem) return nullptr;
-    return static_cast<const ui::MenuItem&>(control).Parent();
+    const auto* item = dynamic_cast<const ui::MenuItem*>(&control);
+    return item ? item->Parent() : nullptr;
 }
 
 using Nodes = std::vector<std::unique_ptr<ui::TreeNode>>;

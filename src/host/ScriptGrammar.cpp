@@ -1,10 +1,10 @@
 #include "host/ScriptGrammar.h"
 
 #include <array>
-#include <sstream>
 
 #include "host/ScriptParser.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 namespace vexora::host {
 
@@ -80,14 +80,6 @@ constexpr std::array commandForms = {
     "note TEXT",
 };
 
-std::vector<std::string> Parts(const std::string& form, char separator) {
-    std::vector<std::string> parts;
-    std::istringstream stream(form);
-    for (std::string part; std::getline(stream, part, separator);)
-        parts.push_back(part);
-    return parts;
-}
-
 bool IsName(const std::string& text) {
     return !text.empty() && text.find_first_of(".\"()/\\") == text.npos;
 }
@@ -110,14 +102,14 @@ bool Fits(const ScriptWord& word, const std::string& part) {
     if (part == "FORM") return IsName(word.text);
     if (part == "INT") return IsInt(word.text);
     if (part == "NUMBER") return IsNumeric(word.text);
-    for (const std::string& keyword : Parts(part, '|')) {
+    for (const std::string& keyword : Split(part, '|')) {
         if (word.text == keyword) return true;
     }
     return false;
 }
 
 bool Fits(const ScriptLine& line, const std::string& form) {
-    std::vector<std::string> parts = Parts(form, ' ');
+    std::vector<std::string> parts = Split(form, ' ');
     const bool wantsBlock = parts.back() == "BLOCK";
     if (wantsBlock) parts.pop_back();
     if (wantsBlock != line.block.has_value() || line.words.size() > parts.size()) return false;

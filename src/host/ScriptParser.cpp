@@ -6,6 +6,7 @@
 
 #include "host/ScriptGrammar.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 namespace vexora::host {
 
@@ -136,7 +137,7 @@ private:
         line.number = static_cast<int>(at_ + 1);
         line.words = LineScanner(lines_[at_], variables_).Words();
         if (line.words.empty()) return;
-        line.source.push_back(WithoutMargin(lines_[at_]));
+        line.source.emplace_back(Trim(lines_[at_]));
         const ScriptWord& last = line.words.back();
         if (!last.quoted && last.text.starts_with("<<")) TakeBlock(line);
         if (const std::string wrong = WhatIsWrong(line); !wrong.empty()) {
@@ -144,11 +145,6 @@ private:
         }
         script_.push_back(line);
         if (line.Is(0, "include")) Include(line.Text(1));
-    }
-
-    static std::string WithoutMargin(const std::string& text) {
-        const std::size_t first = text.find_first_not_of(blanks);
-        return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
     }
 
     void TakeBlock(ScriptLine& line) {
@@ -165,13 +161,8 @@ private:
     }
 
     std::string Replaced(std::string text) const {
-        for (const auto& [name, value] : variables_) {
-            const std::string mark = "${" + name + "}";
-            for (std::size_t at = text.find(mark); at != text.npos;
-                 at = text.find(mark, at + value.size())) {
-                text.replace(at, mark.size(), value);
-            }
-        }
+        for (const auto& [name, value] : variables_)
+            text = Replace(text, "${" + name + "}", value);
         return text;
     }
 

@@ -1,18 +1,14 @@
 #include "pure/TwoRules.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora {
 
 namespace {
-
-bool IsOneOf(std::string_view code, std::initializer_list<std::string_view> codes) {
-    return std::find(codes.begin(), codes.end(), code) != codes.end();
-}
 
 bool IsTemperature(std::string_view property) {
     return IsOneOf(property, {"T", "TB", "TF"});
@@ -45,10 +41,10 @@ bool HasLimits(const TwoDraft& draft) {
 }
 
 std::vector<CodeText> ResultFunctions() {
-    std::vector<CodeText> functions = {PureReferenceStates()[0]};
-    for (const CodeText& entry : ReferenceRelations())
+    std::vector<CodeText> functions = {PureReferenceStates[0]};
+    for (const CodeText& entry : ReferenceRelations)
         functions.push_back(entry);
-    for (const CodeText& entry : PureReferenceStates()) {
+    for (const CodeText& entry : PureReferenceStates) {
         if (IsOneOf(entry.code, {"DT", "DX", "MN"})) functions.push_back(entry);
     }
     return functions;
@@ -56,7 +52,7 @@ std::vector<CodeText> ResultFunctions() {
 
 std::vector<CodeText> ResultRelations() {
     std::vector<CodeText> relations;
-    for (const CodeText& entry : PureReferenceStates()) {
+    for (const CodeText& entry : PureReferenceStates) {
         if (!IsOneOf(entry.code, {"DIR", "DT", "DX", "MN"})) relations.push_back(entry);
     }
     return relations;

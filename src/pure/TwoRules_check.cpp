@@ -57,7 +57,7 @@ void Checks::Constants() {
          "Please select Wavelength as one of the variables");
     const bool mayBeEmpty = draft.constant.empty() && !open.isObligatory;
     if (open.code.empty() || mayBeEmpty) return;
-    const QuantityText* quantity = QuantityByCode(StateVariables(), open.code);
+    const QuantityText* quantity = QuantityByCode(StateVariables, open.code);
     Tell(!IsNumeric(draft.constant), Constant,
          "Enter a constant value of the state variable " +
              std::string(quantity ? quantity->text : open.code));

@@ -27,7 +27,7 @@ constexpr const char* SelectVariable = "SELECT VARIABLE";
 } // namespace
 
 void frmTwo::FillLists() {
-    lstCONSTRAINT.Assign(Texts(ConstraintKinds()));
+    lstCONSTRAINT.Assign(Texts(ConstraintKinds));
     lstPROPERTY_FUNCT.Assign(Texts(ResultFunctions()));
     lstRelation.Assign(Texts(ResultRelations()));
     lstNumerical.Assign(Texts(Presentation::Kinds()));
@@ -107,7 +107,7 @@ void frmTwo::ShowPhases() {
 
 void frmTwo::ShowVar3() {
     const ConstantVariable open = OpenVariable(Draft());
-    const QuantityText* quantity = QuantityByCode(StateVariables(), open.code);
+    const QuantityText* quantity = QuantityByCode(StateVariables, open.code);
     const bool same = quantity && lblVar3.Caption() == std::string(quantity->text) + ":";
     for (ui::Control* control : std::initializer_list<ui::Control*>{&lblVar3, &txtVar3, &lblUnit3})
         control->Visible(quantity != nullptr);
@@ -141,7 +141,7 @@ void frmTwo::PreSet() {
     if (cboVar1.Index() < 0) cboVar1.Index(0);
     for (ui::ComboBox* list : {&lstPhase1, &lstPhase2})
         list->Clear();
-    ChooseCode(lstCONSTRAINT, ConstraintKinds(), preset.constraint);
+    ChooseCode(lstCONSTRAINT, ConstraintKinds, preset.constraint);
     ShowPhases();
     ChoosePhase(lstPhase2, preset.phase2);
     ShowPhases();
@@ -173,7 +173,7 @@ void frmTwo::ShowRecord(const clsTwo& record) {
     Globals().CurrentProperty = BuildChain(record); // the tags of the comment name its quantities
     txtComment.Text(TakeComment(record.Header.DATACOMMENT));
     ShowVariables(record);
-    ChooseCode(lstCONSTRAINT, ConstraintKinds(), record.CONSTRAINT);
+    ChooseCode(lstCONSTRAINT, ConstraintKinds, record.CONSTRAINT);
     lstPhase1.Index(0);
     lstPhase2.Index(0);
     ChoosePhase(lstPhase1, record.PHASE1);
@@ -253,7 +253,7 @@ TwoDraft frmTwo::Draft() const {
     draft.refPhase = PhaseChosen(lstREF_PHASE);
     draft.refTemp = txtREF_TEMP.Text();
     draft.refPressure = txtREF_PRESSURE.Text();
-    draft.constraint = CodeChosen(lstCONSTRAINT, ConstraintKinds());
+    draft.constraint = CodeChosen(lstCONSTRAINT, ConstraintKinds);
     draft.phase1 = PhaseChosen(lstPhase1);
     draft.phase2 = lstPhase2.Visible() ? PhaseChosen(lstPhase2) : std::string();
     draft.numerical = CodeChosen(lstNumerical, Presentation::Kinds());

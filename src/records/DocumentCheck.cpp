@@ -197,7 +197,7 @@ void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
     if (!PropertyValid(set.PRPCODE)) return remarks.Error("Unknown property " + set.PRPCODE);
     const std::string name = PropertyName(set.PRPCODE, set.DataContext());
     CheckPhases({set.PHASE1, set.PHASE2}, remarks);
-    if (IndexOfCode(ConstraintKinds(), set.CONSTRAINT) < 0)
+    if (IndexOfCode(ConstraintKinds, set.CONSTRAINT) < 0)
         remarks.Error(name + ": unknown constraint " + set.CONSTRAINT);
     CheckRows(set, name, remarks);
 }

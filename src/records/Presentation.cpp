@@ -30,7 +30,7 @@ std::string Presentation::Code() const {
 }
 
 std::vector<CodeText> Presentation::Kinds() {
-    const CodeTexts types = DataTypes();
+    const CodeTexts types = DataTypes;
     std::vector<CodeText> kinds(types.begin(), types.end());
     kinds.push_back({"No numerical data", NoNumbers});
     return kinds;

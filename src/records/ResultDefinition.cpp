@@ -1,15 +1,10 @@
 #include "records/ResultDefinition.h"
 
-#include <algorithm>
-#include <initializer_list>
+#include "reference/Text.h"
 
 namespace vexora {
 
 namespace {
-
-bool IsOneOf(std::string_view code, std::initializer_list<std::string_view> codes) {
-    return std::ranges::find(codes, code) != codes.end();
-}
 
 bool IsReferenceState(std::string_view relation) {
     return IsOneOf(relation,

@@ -34,7 +34,7 @@ std::vector<std::string> Words(std::string_view section) {
 /// A bare number is none: without its unit it says neither of what nor by what.
 std::optional<PurityStatement> Statement(std::string_view word) {
     if (word.starts_with('(')) return std::nullopt;
-    for (const PurityUnit& unit : PurityUnits()) {
+    for (const PurityUnit& unit : PurityUnits) {
         if (!word.ends_with(unit.code)) continue;
         const std::string value(TrimBlanks(word.substr(0, word.size() - unit.code.size())));
         if (IsNumeric(value)) return PurityStatement{value, std::string(unit.code), {}};
@@ -95,14 +95,14 @@ std::optional<SampleDescription> ParseDescription(std::string_view text) {
     const std::vector<std::string> sections = SplitOutsideBrackets(text, ';');
     // Without a ";" only the short forms are meant: nothing is known, or there was no sample.
     if (sections.size() == 1) {
-        if (text.empty() || IndexOfCode(SampleAvailabilities(), text) < 0) return std::nullopt;
+        if (text.empty() || IndexOfCode(SampleAvailabilities, text) < 0) return std::nullopt;
         description.Availability = text;
         return description;
     }
     if (sections.size() != 3) return std::nullopt;
 
     std::vector<std::string> words = Words(sections[0]);
-    if (words.empty() || IndexOfCode(SampleSources(), words[0]) < 0) return std::nullopt;
+    if (words.empty() || IndexOfCode(SampleSources, words[0]) < 0) return std::nullopt;
     description.Source = words[0];
     words.erase(words.begin());
     const auto initial = Statements(words);

@@ -1,20 +1,17 @@
 #include "reference/KVODefinitions.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vexora {
 
-namespace {
-
-constexpr std::array<CodeText, 3> kDataTypes{{
+constexpr std::array<CodeText, 3> DataTypes{{
     {"Experimental values", "Y"},
     {"Smoothed values", "S"},
     {"Calculated from the authors' equation", "C"},
 }};
 
 // Which state variables are held, and with them how many the phase rule leaves free.
-constexpr std::array<CodeText, 5> kConstraintKinds{{
+constexpr std::array<CodeText, 5> ConstraintKinds{{
     {"Phase boundary", "PB"},
     {"Single phase at fixed pressure", "FP"},
     {"Single phase at fixed temperature", "FT"},
@@ -22,20 +19,7 @@ constexpr std::array<CodeText, 5> kConstraintKinds{{
     {"Derived property", "DP"},
 }};
 
-constexpr std::array<CodeText, 2> kSingleConstraintKinds{{
-    {"Single phase", "SP"},
-    {"Phase boundary", "PB"},
-}};
-
-constexpr std::array<CodeText, 5> kSingleReferenceStates{{
-    {"Direct value", "DIR"},
-    {"Rel. to ref. phase at fixed T and P", "FR"},
-    {"Rel. to ref. phase at same T and fixed P", "FX"},
-    {"Rel. to ref. phase in equil. with Phase 1", "PH"},
-    {"The reference state described in a comment", "RX"},
-}};
-
-constexpr std::array<CodeText, 10> kPureReferenceStates{{
+constexpr std::array<CodeText, 10> PureReferenceStates{{
     {"Direct value", "DIR"},
     {"Rel. to ref. phase at fixed T and P", "FR"},
     {"Rel. to ref. phase at fixed T and same P", "PF"},
@@ -48,7 +32,7 @@ constexpr std::array<CodeText, 10> kPureReferenceStates{{
     {"Mean between Upper and Lower T", "MN"},
 }};
 
-constexpr std::array<CodeText, 13> kMixtureReferenceStates{{
+constexpr std::array<CodeText, 13> MixtureReferenceStates{{
     {"Direct value", "DIR"},
     {"Rel. to ref. phase with same composition at FIXED T and P", "FR"},
     {"Rel. to ref. phase at fixed T and same P", "PF"},
@@ -65,13 +49,13 @@ constexpr std::array<CodeText, 13> kMixtureReferenceStates{{
 }};
 
 // The letter leads the code of a result definition, a reference state follows.
-constexpr std::array<CodeText, 3> kReferenceRelations{{
+constexpr std::array<CodeText, 3> ReferenceRelations{{
     {"Difference X-Xref", "D"},
     {"Ratio X/Xref", "R"},
     {"Ratio of the difference (X-Xref)/Xref", "K"},
 }};
 
-constexpr std::array<CodeText, 6> kSourceKinds{{
+constexpr std::array<CodeText, 6> SourceKinds{{
     {"", ""},
     {"Original document", "O"},
     {"Chemical Abstracts", "A"},
@@ -80,14 +64,14 @@ constexpr std::array<CodeText, 6> kSourceKinds{{
     {"Other document", "X"},
 }};
 
-constexpr std::array<CodeText, 4> kExperimentPurposes{{
+constexpr std::array<CodeText, 4> ExperimentPurposes{{
     {"", ""},
     {"Principal objective of the work", "B"},
     {"Secondary purpose (by-product of other objective)", "C"},
     {"Determined for identification of a synthesized compound", "D"},
 }};
 
-constexpr std::array<CodeText, 5> kStandardStates{{
+constexpr std::array<CodeText, 5> StandardStates{{
     {"Pure compound", "P"},
     {"Pure liquid solute", "L"},
     {"Standard molality (1 mol/kg) solute", "M"},
@@ -96,7 +80,7 @@ constexpr std::array<CodeText, 5> kStandardStates{{
 }};
 
 // Place n is bit n of the flag word, so nothing may be put in between.
-constexpr std::array<CodeText, 4> kValueStatements{{
+constexpr std::array<CodeText, 4> ValueStatements{{
     {"The property value was reported as a range", ""},
     {"A correction of some kind was applied to the value", ""},
     {"The compiler recommends rejection of this data", ""},
@@ -104,7 +88,7 @@ constexpr std::array<CodeText, 4> kValueStatements{{
 }};
 
 // M, C, W and V are of combustion calorimetry: what the heat was referred to.
-constexpr std::array<CodeText, 9> kLetteredStatements{{
+constexpr std::array<CodeText, 9> LetteredStatements{{
     {"It is not clear whether the reported data value was a new measurement by the author", "m"},
     {"The enthalpy change data was obtained by a second law calculation", "H"},
     {"The value of Cp or adiabatic compressibility was calculated from the speed of sound", "S"},
@@ -118,13 +102,13 @@ constexpr std::array<CodeText, 9> kLetteredStatements{{
     {"Equilibrium constant reported as log(K)", "L"},
 }};
 
-constexpr std::array<CodeText, 3> kSampleAvailabilities{{
+constexpr std::array<CodeText, 3> SampleAvailabilities{{
     {"The sample description is available", ""},
     {"The sample was not described in the document", "ns"},
     {"No sample used", "xx"},
 }};
 
-constexpr std::array<CodeText, 6> kSampleSources{{
+constexpr std::array<CodeText, 6> SampleSources{{
     {"Commercial source", "cm"},
     {"Synthesized by the authors", "sa"},
     {"Synthesized by others", "sx"},
@@ -133,7 +117,7 @@ constexpr std::array<CodeText, 6> kSampleSources{{
     {"Not stated in the document", "ns"},
 }};
 
-constexpr std::array<CodeText, 8> kParticipantCompositions{{
+constexpr std::array<CodeText, 8> ParticipantCompositions{{
     {"Amount ratio of solvent to participant", "P"},
     {"Molality - amount of participant per mass of solvent, mol/kg", "M"},
     {"Amount of participant per mass of solution, mol/kg", "N"},
@@ -144,20 +128,20 @@ constexpr std::array<CodeText, 8> kParticipantCompositions{{
     {"Mass of participant per volume of solution, kg/m3", "E"},
 }};
 
-constexpr std::array<CodeText, 2> kContentCompositions{{
+constexpr std::array<CodeText, 2> ContentCompositions{{
     {"Mole fraction", "X"},
     {"Moles", "n"},
 }};
 
-constexpr std::array<CodeText, 2> kBioPhases{{
+constexpr std::array<CodeText, 2> BioPhases{{
     {"Native", "N"},
     {"Denaturated", "D"},
 }};
 
-constexpr std::array<std::string_view, 5> kCriticalCurves{"CUL", "CLL", "CLG", "AZ", "MCL"};
+constexpr std::array<std::string_view, 5> CriticalCurves{"CUL", "CLL", "CLG", "AZ", "MCL"};
 
 // "A" is the Angstrom, in which the system keeps wavelengths.
-constexpr std::array<QuantityText, 13> kStateVariables{{
+constexpr std::array<QuantityText, 13> StateVariables{{
     {"T", "Temperature", "K"},
     {"TU", "Upper temperature", "K"},
     {"TL", "Lower temperature", "K"},
@@ -173,7 +157,7 @@ constexpr std::array<QuantityText, 13> kStateVariables{{
     {"WF", "Frequency", "MHz"},
 }};
 
-constexpr std::array<QuantityText, 24> kBioVariables{{
+constexpr std::array<QuantityText, 24> BioVariables{{
     {"T", "Temperature", "K"},
     {"P", "Pressure", "kPa"},
     {"pH", "pH", "1"},
@@ -200,7 +184,7 @@ constexpr std::array<QuantityText, 24> kBioVariables{{
     {"G", "Gibbs Energy", "kJ/mol"},
 }};
 
-constexpr std::array<QuantityText, 16> kBioProperties{{
+constexpr std::array<QuantityText, 16> BioProperties{{
     {"T12", "Temperature of 1/2 conversion", "K"},
     {"Tp", "Peak temperature", "K"},
     {"T0", "Zero-Gibbs energy temperature", "K"},
@@ -219,7 +203,7 @@ constexpr std::array<QuantityText, 16> kBioProperties{{
     {"E", "Mass concentration", "kg/dm3"},
 }};
 
-constexpr std::array<PurityUnit, 8> kPurityUnits{{
+constexpr std::array<PurityUnit, 8> PurityUnits{{
     {"mol %", "m%", "nPurityMol"},
     {"mass %", "w%", "nPurityMass"},
     {"vol %", "v%", "nPurityVol"},
@@ -231,7 +215,7 @@ constexpr std::array<PurityUnit, 8> kPurityUnits{{
 }};
 
 // FX is what single values have for TF; both leave with one text.
-constexpr std::array<CodeText, 6> kPureReferenceTexts{{
+constexpr std::array<CodeText, 6> PureReferenceTexts{{
     {"Reference phase with the same composition at fixed temperature and pressure", "FR"},
     {"Reference phase with the same composition, temperature and pressure", "TP"},
     {"Reference phase at fixed temperature and the same pressure", "PF"},
@@ -240,7 +224,7 @@ constexpr std::array<CodeText, 6> kPureReferenceTexts{{
     {"Phase in equilibrium with primary phase at the same temperature and pressure", "PH"},
 }};
 
-constexpr std::array<CodeText, 9> kMixtureReferenceTexts{{
+constexpr std::array<CodeText, 9> MixtureReferenceTexts{{
     {"Reference phase with the same composition at fixed temperature and pressure", "FR"},
     {"Reference phase at fixed temperature and the same pressure", "PF"},
     {"Reference phase at the same temperature and fixed pressure", "TF"},
@@ -252,6 +236,8 @@ constexpr std::array<CodeText, 9> kMixtureReferenceTexts{{
     {"Pure solute at the same temperature and pressure", "PT"},
 }};
 
+namespace {
+
 template <class Table, class Member>
 auto FindIn(const Table& table, Member member, std::string_view wanted) {
     const auto found = std::ranges::find(table, wanted, member);
@@ -259,79 +245,6 @@ auto FindIn(const Table& table, Member member, std::string_view wanted) {
 }
 
 } // namespace
-
-CodeTexts DataTypes() {
-    return kDataTypes;
-}
-CodeTexts ConstraintKinds() {
-    return kConstraintKinds;
-}
-CodeTexts SingleConstraintKinds() {
-    return kSingleConstraintKinds;
-}
-CodeTexts SingleReferenceStates() {
-    return kSingleReferenceStates;
-}
-CodeTexts PureReferenceStates() {
-    return kPureReferenceStates;
-}
-CodeTexts MixtureReferenceStates() {
-    return kMixtureReferenceStates;
-}
-CodeTexts ReferenceRelations() {
-    return kReferenceRelations;
-}
-CodeTexts SourceKinds() {
-    return kSourceKinds;
-}
-CodeTexts ExperimentPurposes() {
-    return kExperimentPurposes;
-}
-CodeTexts StandardStates() {
-    return kStandardStates;
-}
-CodeTexts ValueStatements() {
-    return kValueStatements;
-}
-CodeTexts LetteredStatements() {
-    return kLetteredStatements;
-}
-CodeTexts SampleAvailabilities() {
-    return kSampleAvailabilities;
-}
-CodeTexts SampleSources() {
-    return kSampleSources;
-}
-CodeTexts ParticipantCompositions() {
-    return kParticipantCompositions;
-}
-CodeTexts ContentCompositions() {
-    return kContentCompositions;
-}
-CodeTexts BioPhases() {
-    return kBioPhases;
-}
-std::span<const std::string_view> CriticalCurves() {
-    return kCriticalCurves;
-}
-QuantityTexts StateVariables() {
-    return kStateVariables;
-}
-QuantityTexts BioVariables() {
-    return kBioVariables;
-}
-QuantityTexts BioProperties() {
-    return kBioProperties;
-}
-std::span<const PurityUnit> PurityUnits() {
-    return kPurityUnits;
-}
-CodeTexts PureReferenceTexts() {
-    return kPureReferenceTexts;
-}
-CodeTexts MixtureReferenceTexts() {
-    return kMixtureReferenceTexts;
-}
 
 std::string CodeAt(CodeTexts table, std::size_t index) {
     return index < table.size() ? std::string(table[index].code) : std::string();
@@ -356,12 +269,8 @@ const QuantityText* QuantityByCode(QuantityTexts table, std::string_view code) {
     return FindIn(table, &QuantityText::code, code);
 }
 
-const QuantityText* QuantityByText(QuantityTexts table, std::string_view text) {
-    return FindIn(table, &QuantityText::text, text);
-}
-
 const PurityUnit* PurityUnitByCode(std::string_view code) {
-    return FindIn(PurityUnits(), &PurityUnit::code, code);
+    return FindIn(PurityUnits, &PurityUnit::code, code);
 }
 
 } // namespace vexora

@@ -4,6 +4,7 @@
 // Codes stand in records: one that was given out keeps its meaning, only texts may change.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <span>
 #include <string>
@@ -35,55 +36,53 @@ using QuantityTexts = std::span<const QuantityText>;
 
 /// Experimental, smoothed or calculated values.
 /// First letter of `DATATYPE`.
-CodeTexts DataTypes();
-/// Kinds of constraint of a pure data set, and the shorter list for single values.
-CodeTexts ConstraintKinds();
-CodeTexts SingleConstraintKinds();
-/// Reference-state codes for single values, pure data sets and mixture data sets.
+extern const std::array<CodeText, 3> DataTypes;
+/// Kinds of constraint of a pure data set.
+extern const std::array<CodeText, 5> ConstraintKinds;
+/// Reference-state codes for pure and mixture data sets.
 /// They say to which state a value is relative: of the same sample at another state, of a phase in
 /// equilibrium, or of pure components.
-CodeTexts SingleReferenceStates();
-CodeTexts PureReferenceStates();
-CodeTexts MixtureReferenceStates();
+extern const std::array<CodeText, 10> PureReferenceStates;
+extern const std::array<CodeText, 13> MixtureReferenceStates;
 /// Difference and ratios to the reference state.
-CodeTexts ReferenceRelations();
+extern const std::array<CodeText, 3> ReferenceRelations;
 /// Kinds of document source, `SOURCEDOC`; first row blank.
-CodeTexts SourceKinds();
+extern const std::array<CodeText, 6> SourceKinds;
 /// Purpose of the experiment, `EXPPURPOSE`; first row blank.
-CodeTexts ExperimentPurposes();
+extern const std::array<CodeText, 4> ExperimentPurposes;
 /// Standard states of a reaction's solute.
-CodeTexts StandardStates();
+extern const std::array<CodeText, 5> StandardStates;
 /// Statements about a value: the four of `PRPFLAG` in bit order (no codes), and the lettered ones.
 /// The first ones are bits of a number in the header of a record, the others tags in its comment.
-CodeTexts ValueStatements();
-CodeTexts LetteredStatements();
+extern const std::array<CodeText, 4> ValueStatements;
+extern const std::array<CodeText, 9> LetteredStatements;
 /// Availability of a sample description, and sources of a sample.
 /// "ns" and "xx" stand for a whole description: nothing follows them.
-CodeTexts SampleAvailabilities();
-CodeTexts SampleSources();
+extern const std::array<CodeText, 3> SampleAvailabilities;
+extern const std::array<CodeText, 6> SampleSources;
 /// Composition of a participant in solution.
-CodeTexts ParticipantCompositions();
+extern const std::array<CodeText, 8> ParticipantCompositions;
 /// "Mole fraction" and "Moles" of a hydrate's content.
-CodeTexts ContentCompositions();
+extern const std::array<CodeText, 2> ContentCompositions;
 /// Phases of a bio transition.
-CodeTexts BioPhases();
+extern const std::array<CodeText, 2> BioPhases;
 /// Constraint codes of critical curves.
 /// Lines along which phases become alike: consolute, critical and azeotropic ones.
-std::span<const std::string_view> CriticalCurves();
+extern const std::array<std::string_view, 5> CriticalCurves;
 
 /// State variables of pure data.
-QuantityTexts StateVariables();
+extern const std::array<QuantityText, 13> StateVariables;
 /// Variables and properties of bio data.
 /// Their codes are a list of their own: "S" is an entropy here.
-QuantityTexts BioVariables();
-QuantityTexts BioProperties();
+extern const std::array<QuantityText, 24> BioVariables;
+extern const std::array<QuantityText, 16> BioProperties;
 
-std::span<const PurityUnit> PurityUnits();
+extern const std::array<PurityUnit, 8> PurityUnits;
 
 /// Texts of the reference states in the export, for pure and mixture data.
 /// Words of the schema; they are longer than those of the dialogs.
-CodeTexts PureReferenceTexts();
-CodeTexts MixtureReferenceTexts();
+extern const std::array<CodeText, 6> PureReferenceTexts;
+extern const std::array<CodeText, 9> MixtureReferenceTexts;
 
 /// Code of the entry at a list index from 0; "" outside the table.
 std::string CodeAt(CodeTexts table, std::size_t index);
@@ -92,9 +91,8 @@ int IndexOfCode(CodeTexts table, std::string_view code);
 /// Text of a code, code of a text (both exact); "" if absent.
 std::string TextOfCode(CodeTexts table, std::string_view code);
 std::string CodeOfText(CodeTexts table, std::string_view text);
-/// The quantity with this code or this text; null if absent.
+/// The quantity with this code; null if absent.
 const QuantityText* QuantityByCode(QuantityTexts table, std::string_view code);
-const QuantityText* QuantityByText(QuantityTexts table, std::string_view text);
 /// The purity unit with this code; null if absent.
 const PurityUnit* PurityUnitByCode(std::string_view code);
 

@@ -2,7 +2,6 @@
 
 #include "reference/Numbers.h"
 #include "reference/Schema.h"
-#include "reference/Text.h"
 
 #include <filesystem>
 #include <optional>
@@ -137,8 +136,8 @@ std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
     const PendingFile local(fs::path(outFolder) / "VXRLocal.mdb");
     const PendingFile compounds(fs::path(outFolder) / "VXR.mdb");
     std::vector<LineRemark> findings;
-    FillDatabase(local.Path(), LocalTables(), dataFolder, findings);
-    FillDatabase(compounds.Path(), CompoundTables(), dataFolder, findings);
+    FillDatabase(local.Path(), LocalTables, dataFolder, findings);
+    FillDatabase(compounds.Path(), CompoundTables, dataFolder, findings);
     // With a fault in one table neither file is replaced: both are of one edition.
     if (!findings.empty()) return findings;
     local.Keep();

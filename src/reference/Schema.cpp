@@ -2,8 +2,6 @@
 
 #include "reference/Text.h"
 
-#include <array>
-
 namespace vexora {
 
 namespace {
@@ -48,33 +46,37 @@ constexpr ColumnSchema kSourceRefInfo[] = {
 constexpr ColumnSchema kSourceAuthor[] = {
     {"LASTNM", Text}, {"INITNM", Text}, {"FULLNM", Text}, {"NEW", Flag}};
 
-constexpr TableSchema kLocalTables[] = {
-    {"Properties", kProperties,
-     "create index PropertiesCode on Properties(Code);"
-     "create index PropertiesGroup on Properties(\"GROUP\")"},
-    {"PropertyGroups", kPropertyGroups, ""},
-    {"IndVariables", kIndVariables, ""},
-    {"Conversions", kConversions,
-     "create index ConversionsCode on Conversions(ConversionCode);"
-     "create index ConversionsUnit on Conversions(Unit);"
-     "create index ConversionsText on Conversions(Conversion)"},
-    {"Phases", kPhases, ""},
-    {"Methods", kMethods, "create index MethodsCode on Methods(Code)"},
-    {"Questions", kQuestions, ""},
-    {"Reactions", kReactions, ""},
-    {"Journals", kJournals, ""},
-    {"Publishers", kPublishers, ""},
-    {"Purification", kPurification, ""},
-    {"PurityDetermination", kPurityDetermination, ""},
-    {"AMASS", kAmass, ""}};
+} // namespace
 
-constexpr TableSchema kCompoundTables[] = {
-    {"ALLNAME", kAllName,
-     "create index AllNameRN on ALLNAME(RN);"
-     "create index AllNameName on ALLNAME(NAME)"},
-    {"SOURCE_REFINFO", kSourceRefInfo,
-     "create index SourceYear on SOURCE_REFINFO(YEARPUB, AUTHOR1)"},
-    {"SOURCE_AUTHOR", kSourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}};
+constexpr std::array<TableSchema, 13> LocalTables{
+    {{"Properties", kProperties,
+      "create index PropertiesCode on Properties(Code);"
+      "create index PropertiesGroup on Properties(\"GROUP\")"},
+     {"PropertyGroups", kPropertyGroups, ""},
+     {"IndVariables", kIndVariables, ""},
+     {"Conversions", kConversions,
+      "create index ConversionsCode on Conversions(ConversionCode);"
+      "create index ConversionsUnit on Conversions(Unit);"
+      "create index ConversionsText on Conversions(Conversion)"},
+     {"Phases", kPhases, ""},
+     {"Methods", kMethods, "create index MethodsCode on Methods(Code)"},
+     {"Questions", kQuestions, ""},
+     {"Reactions", kReactions, ""},
+     {"Journals", kJournals, ""},
+     {"Publishers", kPublishers, ""},
+     {"Purification", kPurification, ""},
+     {"PurityDetermination", kPurityDetermination, ""},
+     {"AMASS", kAmass, ""}}};
+
+constexpr std::array<TableSchema, 3> CompoundTables{
+    {{"ALLNAME", kAllName,
+      "create index AllNameRN on ALLNAME(RN);"
+      "create index AllNameName on ALLNAME(NAME)"},
+     {"SOURCE_REFINFO", kSourceRefInfo,
+      "create index SourceYear on SOURCE_REFINFO(YEARPUB, AUTHOR1)"},
+     {"SOURCE_AUTHOR", kSourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}}};
+
+namespace {
 
 std::string_view SqlType(ColumnType type) {
     switch (type) {
@@ -92,13 +94,6 @@ std::string_view SqlType(ColumnType type) {
 }
 
 } // namespace
-
-std::span<const TableSchema> LocalTables() {
-    return kLocalTables;
-}
-std::span<const TableSchema> CompoundTables() {
-    return kCompoundTables;
-}
 
 std::optional<ColumnSchema> FindColumn(const TableSchema& table, std::string_view name) {
     for (const ColumnSchema& column : table.columns)

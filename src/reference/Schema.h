@@ -4,6 +4,7 @@
 
 #include "reference/Database.h"
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -30,9 +31,9 @@ struct TableSchema {
 };
 
 /// Tables of the vocabulary.
-std::span<const TableSchema> LocalTables();
+extern const std::array<TableSchema, 13> LocalTables;
 /// Tables of compounds, sources and authors.
-std::span<const TableSchema> CompoundTables();
+extern const std::array<TableSchema, 3> CompoundTables;
 /// The column of that name, case apart.
 std::optional<ColumnSchema> FindColumn(const TableSchema& table, std::string_view name);
 /// Makes the tables, empty; indexes are made by CreateIndexes once the rows are in.

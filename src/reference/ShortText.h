@@ -26,23 +26,11 @@ public:
     ShortText(ShortText&& other) noexcept : bytes_(other.bytes_) { other.bytes_ = {}; }
     ~ShortText() { Drop(); }
 
-    ShortText& operator=(const ShortText& other) {
-        if (this != &other) Put(other);
+    /// By value: the text may be a part of this one.
+    ShortText& operator=(ShortText other) noexcept {
+        std::swap(bytes_, other.bytes_);
         return *this;
     }
-    ShortText& operator=(ShortText&& other) noexcept {
-        if (this == &other) return *this;
-        Drop();
-        bytes_ = other.bytes_;
-        other.bytes_ = {};
-        return *this;
-    }
-    ShortText& operator=(std::string_view text) {
-        Put(text);
-        return *this;
-    }
-    ShortText& operator=(const std::string& text) { return *this = std::string_view(text); }
-    ShortText& operator=(const char* text) { return *this = std::string_view(text); }
 
     // A heap block holds the length and then the characters.
     operator std::string_view() const {
@@ -57,7 +45,7 @@ public:
     std::string_view View() const { return *this; }
     bool empty() const { return Mark() == 0; }
     std::size_t size() const { return View().size(); }
-    void clear() { Put({}); }
+    void clear() { *this = ShortText(); }
     bool starts_with(std::string_view text) const { return View().starts_with(text); }
     bool starts_with(char c) const { return View().starts_with(c); }
     std::size_t find(std::string_view text) const { return View().find(text); }
@@ -108,11 +96,6 @@ private:
             Take(other);
         else
             bytes_ = other.bytes_;
-    }
-    /// The text may be a part of this one.
-    void Put(std::string_view text) {
-        ShortText fresh(text);
-        std::swap(bytes_, fresh.bytes_);
     }
     void Drop() {
         if (IsOnHeap()) delete[] Block();

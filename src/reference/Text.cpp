@@ -41,13 +41,6 @@ bool WordReader::AtEnd() const {
     return Strip(rest_, kWhite).empty();
 }
 
-std::string FirstWord(std::string& text) {
-    WordReader reader(text);
-    std::string word(reader.NextWord());
-    text = std::string(reader.Rest());
-    return word;
-}
-
 std::string NextHashField(std::string& text) {
     if (text.empty()) return {};
     const std::size_t start = text[0] == '#' && text.size() > 1 ? 1 : 0;
@@ -82,6 +75,10 @@ std::string LowerAscii(std::string_view text) {
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> texts) {
+    return std::ranges::find(texts, text) != texts.end();
 }
 
 std::string Replace(std::string_view text, std::string_view what, std::string_view with) {
@@ -137,10 +134,6 @@ std::string Substring(std::string_view text, std::size_t from, std::size_t count
     return std::string(text.substr(0, ByteOffset(text, count + 1)));
 }
 
-std::string CharacterAt(std::string_view text, std::size_t position) {
-    return Substring(text, position, 1);
-}
-
 std::string SingleLine(std::string_view text) {
     std::string result = Replace(text, "\r\n", "\n");
     std::ranges::replace(result, '\r', ' ');
@@ -156,12 +149,6 @@ bool IsXmlName(std::string_view text) {
         return letter(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
     };
     return !text.empty() && letter(text.front()) && std::ranges::all_of(text, follows);
-}
-
-std::string StripUnitOne(std::string_view code) {
-    if (code == "1") return {};
-    if (code.size() > 1 && code.front() == '*' && code.back() == '1') code.remove_suffix(1);
-    return std::string(code);
 }
 
 bool IsBlankField(std::string_view field) {

@@ -3,22 +3,20 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vexora {
 
-/// Takes the first word off a text: white space at both ends goes, the word is what stands before
-/// the first blank, tab, CR or LF; the text keeps what stands behind that separator.
-std::string FirstWord(std::string& text);
-
 /// Takes the next field off a "#"-separated text. A leading "#" is passed over; the text keeps its
 /// tail from the "#" that ended the field. An empty text gives "".
 /// Record fields that may hold blanks are parted so, the names of an author among them.
 std::string NextHashField(std::string& text);
 
-/// Reads words off a record line without copying it; same rules as FirstWord.
+/// Reads words off a record line without copying it: white space at both ends goes, a word is what
+/// stands before the first blank, tab, CR or LF; the rest is what stands behind that separator.
 class WordReader {
 public:
     explicit WordReader(std::string_view text) : rest_(text) {}
@@ -44,6 +42,9 @@ std::string LowerAscii(std::string_view text);
 /// Equal without regard to the case of ASCII letters.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
+/// True for a text that is one of these, case and all.
+bool IsOneOf(std::string_view text, std::initializer_list<std::string_view> texts);
+
 /// Every occurrence of `what` replaced; an empty `what` changes nothing.
 std::string Replace(std::string_view text, std::string_view what, std::string_view with);
 /// Parts between separators; n separators give n + 1 parts.
@@ -57,8 +58,6 @@ std::size_t Find(std::string_view text, std::string_view what, std::size_t from 
 /// `count` characters from position `from` on (all by default); outside the text gives "".
 std::string Substring(std::string_view text, std::size_t from,
                       std::size_t count = std::string::npos);
-/// The character at a position, "" outside the text.
-std::string CharacterAt(std::string_view text, std::size_t position);
 /// Byte offset of a position; the length in bytes when it lies behind the end.
 std::size_t ByteOffset(std::string_view text, std::size_t position);
 /// The code point that starts at byte `offset`, which moves behind it. A byte that starts no valid
@@ -83,9 +82,6 @@ std::string SingleLine(std::string_view text);
 /// "[a-z]" one of a list, "[!a-z]" none of it; an unclosed "[" stands for itself. Case of ASCII
 /// letters counts only when asked for.
 bool Like(std::string_view pattern, std::string_view text, bool caseSensitive = false);
-
-/// "1" gives "", "*...1" loses the last character, any other conversion code stays.
-std::string StripUnitOne(std::string_view code);
 
 /// True when a record field holds nothing: "" or "&".
 bool IsBlankField(std::string_view field);

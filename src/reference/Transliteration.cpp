@@ -23,53 +23,15 @@ constexpr std::string_view kLatinAdditional = // U+1E00 to U+1EFF
     "WwWwWwWwWwXxXxYyZzZzZzhtwy      AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
     "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy      ";
 
-using Table = std::array<std::string, 256>;
-
-void Fill(Table& table, std::size_t first, std::size_t last, std::string_view text) {
-    for (std::size_t code = first; code <= last; ++code)
-        table[code] = text;
-}
-
-void FillSigns(Table& table) {
-    static constexpr std::array<std::string_view, 31> kSigns{
-        // 161 to 191
-        "!", "cents", "pounds", "$", "yen",  "|",   "",    "",    "(C)", "a",     "<<",
-        "",  "-",     "(R)",    "-", "deg ", "+-",  "^2",  "^3",  "'",   "micro", "",
-        "*", ",",     "^1",     "o", ">>",   "1/4", "1/2", "3/4", "?"};
-    for (std::size_t i = 0; i < kSigns.size(); ++i)
-        table[161 + i] = kSigns[i];
-    table[60] = "less than";
-    table[62] = "greater than";
-}
-
-void FillLetters(Table& table) {
-    static constexpr std::array<std::string_view, 64> kLetters{
-        // 192 to 255
-        "A", "A", "A", "A", "A", "A", "Ae", "C", "E", "E", "E", "E", "I", "I", "I", "I",
-        "D", "N", "O", "O", "O", "O", "O",  "*", "O", "U", "U", "U", "U", "Y", "P", "ss",
-        "a", "a", "a", "a", "a", "a", "ae", "c", "e", "e", "e", "e", "i", "i", "i", "i",
-        "o", "n", "o", "o", "o", "o", "o",  "/", "o", "u", "u", "u", "u", "y", "p", "y"};
-    for (std::size_t i = 0; i < kLetters.size(); ++i)
-        table[192 + i] = kLetters[i];
-}
-
-Table MakeTable() {
-    Table table;
-    // Never asked for: what is below 161 and no plain character becomes a blank before.
-    Fill(table, 0, 31, "0");
-    for (std::size_t code = 32; code < 256; ++code) {
-        table[code].clear();
-        AppendCodePoint(table[code], static_cast<char32_t>(code));
-    }
-    FillSigns(table);
-    FillLetters(table);
-    return table;
-}
-
-const Table& TheTable() {
-    static const Table table = MakeTable();
-    return table;
-}
+constexpr std::array<std::string_view, 95> kLatin1{
+    // U+00A1 to U+00FF
+    "!",   "cents", "pounds", "$",  "yen", "|", "",      "",  "(C)", "a",  "<<", "",  "-",  "(R)",
+    "-",   "deg ",  "+-",     "^2", "^3",  "'", "micro", "",  "*",   ",",  "^1", "o", ">>", "1/4",
+    "1/2", "3/4",   "?",      "A",  "A",   "A", "A",     "A", "A",   "Ae", "C",  "E", "E",  "E",
+    "E",   "I",     "I",      "I",  "I",   "D", "N",     "O", "O",   "O",  "O",  "O", "*",  "O",
+    "U",   "U",     "U",      "U",  "Y",   "P", "ss",    "a", "a",   "a",  "a",  "a", "a",  "ae",
+    "c",   "e",     "e",      "e",  "e",   "i", "i",     "i", "i",   "o",  "n",  "o", "o",  "o",
+    "o",   "o",     "/",      "o",  "u",   "u", "u",     "u", "y",   "p",  "y"};
 
 char32_t BaseLetter(char32_t c) {
     if (c >= 0x100 && c <= 0x24F) return static_cast<unsigned char>(kLatinExtended[c - 0x100]);
@@ -77,15 +39,18 @@ char32_t BaseLetter(char32_t c) {
     return c;
 }
 
+/// What stands for a character in the output; a plain one has to pass by itself.
+std::string Plain(char32_t c) {
+    if (c == U'<') return "less than";
+    if (c == U'>') return "greater than";
+    return std::string(c < 161 || c > 255 ? " " : kLatin1[c - 161]);
+}
+
 bool PassesAsItIs(char32_t c) {
     return c >= 32 && c < 128 && c != U'<' && c != U'>';
 }
 
 } // namespace
-
-void InitTransliteration() {
-    TheTable();
-}
 
 std::string Transliterate(std::string_view text) {
     return TransliterateAt(text, 0).text;
@@ -104,11 +69,8 @@ TextAndCaret TransliterateAt(std::string_view text, std::size_t caret) {
         if (untouched) {
             AppendCodePoint(result.text, c);
             ++written;
-        } else if (c > 255 || (c < 161 && c != U'<' && c != U'>')) {
-            result.text += ' ';
-            ++written;
         } else {
-            const std::string& plain = TheTable()[c];
+            const std::string plain = Plain(c);
             result.text += plain;
             written += plain.size();
             // A sign without a replacement, such as a dead accent, lets the character behind it

@@ -9,9 +9,6 @@
 
 namespace vexora {
 
-/// Fills the table; called once at start. Transliterate fills it by itself if that was forgotten.
-void InitTransliteration();
-
 /// The text in plain ASCII. A sign whose replacement is empty takes the character behind it out of
 /// the treatment, so that one stays as it is.
 std::string Transliterate(std::string_view text);

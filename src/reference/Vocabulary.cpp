@@ -70,20 +70,6 @@ std::string CodeOf(SampleMethods table, std::string_view text) {
     return TextOf(Kept(table), &SampleMethodRow::Method, text, &SampleMethodRow::Code);
 }
 
-/// The first title that begins with the typed text, which may hold wildcards.
-std::string CompleteTitle(const KeptTable<TitleRow>& titles, std::string_view typed) {
-    const std::string pattern = std::string(typed) + "*";
-    for (const TitleRow& row : titles.Rows())
-        if (Like(pattern, row.Title)) return row.Title;
-    return {};
-}
-
-std::optional<Recordset> CompoundsByName(std::string_view name) {
-    const ReferenceDatabases* databases = CurrentDatabases();
-    if (!databases || !databases->CompoundDb.IsOpen()) return std::nullopt;
-    return databases->CompoundDb.Query("select * from ALLNAME where NAME=? order by rowid", {name});
-}
-
 } // namespace
 
 bool ContextFlags::IsIn(std::string_view context) const {
@@ -123,7 +109,7 @@ std::vector<std::string> PhaseList(std::string_view context, std::string_view pr
 }
 
 bool IsCriticalCurve(std::string_view code) {
-    return std::ranges::find(CriticalCurves(), code) != CriticalCurves().end();
+    return std::ranges::find(CriticalCurves, code) != CriticalCurves.end();
 }
 
 bool IsCrystalPhase(std::string_view code) {
@@ -132,9 +118,6 @@ bool IsCrystalPhase(std::string_view code) {
 
 bool IsLiquidPhase(std::string_view code) {
     return code.starts_with('L');
-}
-bool IsGasPhase(std::string_view code) {
-    return code == "G";
 }
 
 const VariableRow* FindVariable(std::string_view code) {
@@ -204,16 +187,6 @@ std::optional<int> PurityRating(std::string_view code) {
     return row ? std::optional(row->Rating) : std::nullopt;
 }
 
-std::string CompoundFormula(std::string_view name) {
-    const auto rows = CompoundsByName(name);
-    return rows ? rows->Text("FORMULA") : std::string();
-}
-
-std::int64_t CompoundRN(std::string_view name) {
-    const auto rows = CompoundsByName(name);
-    return rows ? rows->Integer("RN") : 0;
-}
-
 std::vector<CompoundRow> CompoundsOf(std::int64_t rn) {
     std::vector<CompoundRow> found;
     const ReferenceDatabases* databases = CurrentDatabases();
@@ -242,22 +215,6 @@ std::vector<std::string> ReactionTypes() {
 std::optional<double> AtomicMass(std::string_view symbol) {
     const ElementRow* row = Kept(&VocabularyTables::Elements).First(&ElementRow::SYMBOL, symbol);
     return row ? std::optional(row->AMASS) : std::nullopt;
-}
-
-std::vector<std::string> JournalTitles() {
-    return Texts(Kept(&VocabularyTables::Journals), &TitleRow::Title);
-}
-
-std::vector<std::string> PublisherNames() {
-    return Texts(Kept(&VocabularyTables::Publishers), &TitleRow::Title);
-}
-
-std::string CompleteJournal(std::string_view typed) {
-    return CompleteTitle(Kept(&VocabularyTables::Journals), typed);
-}
-
-std::string CompletePublisher(std::string_view typed) {
-    return CompleteTitle(Kept(&VocabularyTables::Publishers), typed);
 }
 
 } // namespace vexora

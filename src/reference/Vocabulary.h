@@ -12,8 +12,6 @@
 // Property contexts are "", "lle", "sle", "vle": variants of one property by kind of equilibrium.
 #pragma once
 
-#include "reference/Conversions.h"
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -47,7 +45,6 @@ std::vector<std::string> PhaseList(std::string_view context, std::string_view pr
 bool IsCriticalCurve(std::string_view code);
 bool IsCrystalPhase(std::string_view code);
 bool IsLiquidPhase(std::string_view code);
-bool IsGasPhase(std::string_view code);
 
 // Independent variables.
 
@@ -155,11 +152,8 @@ std::vector<std::string> DeterminationList();
 /// Rating of a way to determine purity, lower is more trusted.
 std::optional<int> PurityRating(std::string_view code);
 
-// Compounds, reactions, sources.
+// Compounds, reactions.
 
-/// Of the first row with the name, case apart; "" or 0 if there is none.
-std::string CompoundFormula(std::string_view name);
-std::int64_t CompoundRN(std::string_view name);
 struct CompoundRow {
     std::int64_t RN = 0;
     std::string NAME;
@@ -173,11 +167,6 @@ std::vector<std::string> ReactionTypes();
 /// Standard atomic mass [g/mol].
 /// Values of IUPAC; of D and T the mass of the isotope. Exact case: "Co" is not "CO".
 std::optional<double> AtomicMass(std::string_view symbol);
-std::vector<std::string> JournalTitles();
-std::vector<std::string> PublisherNames();
-/// The first title or name that begins with the typed text; "" if none.
-std::string CompleteJournal(std::string_view typed);
-std::string CompletePublisher(std::string_view typed);
 
 // Words of the export.
 
@@ -191,9 +180,5 @@ std::string XMLMethod(std::string_view methodCode, std::string_view propertyCode
 std::string XMLVariableGroup(std::string_view code);
 std::string XMLVariableName(std::string_view code);
 std::string ReferenceStateText(std::string_view code);
-std::string MixtureReferenceText(std::string_view code);
-std::string BioPhaseWord(std::string_view code);
-std::string CompositionWord(std::string_view code);
-std::string CompositionCode(std::string_view word);
 
 } // namespace vexora

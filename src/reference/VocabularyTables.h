@@ -4,7 +4,6 @@
 
 #include "reference/KeptTable.h"
 #include "reference/ReferenceDatabases.h"
-#include "reference/Vocabulary.h"
 
 #include <cstdint>
 #include <string>
@@ -23,14 +22,12 @@ struct ConversionRow {
     std::string Unit;  // system unit
     double FACTOR = 0; // of the system unit
 };
-struct MethodOfProperty {
-    std::string Code;
-    MethodRow Row;
+struct MethodOfProperty : MethodRow {
+    std::string Code; // of the property
 };
-struct QuestionOfMethod {
+struct QuestionOfMethod : QuestionRow {
     std::string Method; // its code
     std::string Context;
-    QuestionRow Row;
 };
 struct ReactionRow {
     std::string RCode;
@@ -45,9 +42,6 @@ struct SampleMethodRow {
 struct ElementRow {
     std::string SYMBOL;
     double AMASS = 0; // [g/mol]
-};
-struct TitleRow {
-    std::string Title;
 };
 
 struct VocabularyTables {
@@ -65,8 +59,6 @@ struct VocabularyTables {
     KeptTable<SampleMethodRow> Purification;
     KeptTable<SampleMethodRow> PurityDetermination;
     KeptTable<ElementRow> Elements;
-    KeptTable<TitleRow> Journals;
-    KeptTable<TitleRow> Publishers;
 };
 
 /// The tables that belong to the vocabulary in force; null without one.

@@ -149,14 +149,14 @@ std::vector<MethodRow> MethodsOf(std::string_view propertyCode) {
     std::vector<MethodRow> methods;
     for (const MethodOfProperty* row :
          Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
-        methods.push_back(row->Row);
+        methods.push_back(*row);
     return methods;
 }
 
 std::string MethodCode(std::string_view name, std::string_view propertyCode) {
     for (const MethodOfProperty* row :
          Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
-        if (EqualNoCase(row->Row.Method, name)) return row->Row.MethodCode;
+        if (EqualNoCase(row->Method, name)) return row->MethodCode;
     return {};
 }
 
@@ -164,7 +164,7 @@ std::vector<QuestionRow> Questions(std::string_view method, std::string_view con
     std::vector<QuestionRow> questions;
     for (const QuestionOfMethod* row :
          Kept(&VocabularyTables::Questions).With(&QuestionOfMethod::Method, method))
-        if (EqualNoCase(row->Context, context)) questions.push_back(row->Row);
+        if (EqualNoCase(row->Context, context)) questions.push_back(*row);
     return questions;
 }
 

@@ -33,7 +33,7 @@ std::string XMLPropertyName(std::string_view code, std::string_view context,
 std::string XMLMethod(std::string_view methodCode, std::string_view propertyCode) {
     for (const MethodOfProperty* row :
          Kept(&VocabularyTables::Methods).With(&MethodOfProperty::Code, propertyCode))
-        if (row->Row.MethodCode == methodCode) return row->Row.Method;
+        if (row->MethodCode == methodCode) return row->Method;
     return {};
 }
 
@@ -63,21 +63,7 @@ std::string XMLVariableName(std::string_view code) {
 }
 
 std::string ReferenceStateText(std::string_view code) {
-    return TextOfCode(PureReferenceTexts(), code);
-}
-
-std::string MixtureReferenceText(std::string_view code) {
-    return TextOfCode(MixtureReferenceTexts(), code);
-}
-
-std::string BioPhaseWord(std::string_view code) {
-    return TextOfCode(BioPhases(), code);
-}
-std::string CompositionWord(std::string_view code) {
-    return TextOfCode(ContentCompositions(), code);
-}
-std::string CompositionCode(std::string_view word) {
-    return CodeOfText(ContentCompositions(), word);
+    return TextOfCode(PureReferenceTexts, code);
 }
 
 } // namespace vexora

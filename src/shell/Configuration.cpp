@@ -34,10 +34,11 @@ constexpr FlagSetting FlagSettings[] = {
     {"GH", &KVOGlobal::GHEnabled},
 };
 
-void TakeLine(std::string line) {
-    const std::string key = FirstWord(line);
+void TakeLine(std::string_view line) {
+    WordReader reader(line);
+    const std::string_view key = reader.NextWord();
     for (const auto& setting : ValueSettings) {
-        if (key == setting.key) Globals().*setting.value = std::string(Trim(line));
+        if (key == setting.key) Globals().*setting.value = std::string(Trim(reader.Rest()));
     }
     for (const auto& setting : FlagSettings) {
         if (key == setting.key) Globals().*setting.value = true;

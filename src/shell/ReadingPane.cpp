@@ -113,8 +113,8 @@ void DescribeSample(ReadingPage& page, const clsS& sample) {
         page.Need(true, "A description that can be interpreted");
         return;
     }
-    page.Line("Description:", TextOfCode(SampleAvailabilities(), description->Availability));
-    page.Line("Source:", TextOfCode(SampleSources(), description->Source));
+    page.Line("Description:", TextOfCode(SampleAvailabilities, description->Availability));
+    page.Line("Source:", TextOfCode(SampleSources, description->Source));
     page.Line("Initial purity:", PurityInWords(description->Initial));
     for (const std::string& code : description->Purification)
         page.Line("Purified by:", PurificationName(code));
@@ -152,7 +152,7 @@ std::string ReadingOf(const clsZ& value) {
     page.Line("In equilibrium with:", PhaseText(value.PHASE2));
     page.Line("And with:", PhaseText(value.PHASE3));
     page.Line("Method:", MethodText(value.Header, value.PRPCODE));
-    page.Line("Purpose:", TextOfCode(ExperimentPurposes(), value.Header.EXPPURPOSE));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes, value.Header.EXPPURPOSE));
     page.Line("Comment:", CommentTags(value.Header.DATACOMMENT).Text());
     page.Line("Set:", value.PRPSETNO);
     page.Line("Entered:", value.Header.DATEADDED);

@@ -69,11 +69,11 @@ std::string PropertyUnitText(const DataSet& set) {
 std::string DefinitionText(const DataSet& set) {
     const std::string& code = set.PROPERTY_FUNCT;
     if (code == "DIR") return {};
-    const std::string whole = TextOfCode(PureReferenceStates(), code);
+    const std::string whole = TextOfCode(PureReferenceStates, code);
     if (!whole.empty() || code.size() < 2) return whole.empty() ? code : whole;
     const ResultDefinition definition = set.Definition();
-    const std::string relation = TextOfCode(ReferenceRelations(), definition.function);
-    const std::string reference = TextOfCode(PureReferenceStates(), definition.relation);
+    const std::string relation = TextOfCode(ReferenceRelations, definition.function);
+    const std::string reference = TextOfCode(PureReferenceStates, definition.relation);
     return relation.empty() ? code : relation + "; " + reference;
 }
 
@@ -109,7 +109,7 @@ std::string Listed(std::initializer_list<std::string> parts) {
 
 /// What is the same for all rows: a state variable, and the state that the values are relative to.
 void DescribeConstants(ReadingPage& page, const clsTwo& set) {
-    for (const QuantityText& quantity : StateVariables())
+    for (const QuantityText& quantity : StateVariables)
         page.Line("Constant " + LowerAscii(quantity.text) + ":",
                   WithUnitIfAny(set.ConstantOf(quantity.code), std::string(quantity.unit)));
     const auto stated = [](const std::string& value, const std::string& unit) {
@@ -138,11 +138,11 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("Results are:", DefinitionText(set));
     DescribePresentation(page, set);
     DescribeConstants(page, set);
-    page.Line("Constraint:", TextOfCode(ConstraintKinds(), set.CONSTRAINT));
+    page.Line("Constraint:", TextOfCode(ConstraintKinds, set.CONSTRAINT));
     page.Line("Phase:", PhaseText(set.PHASE1));
     page.Line("In equilibrium with:", PhaseText(set.PHASE2));
     page.Line("Method:", MethodText(set.Header, set.PRPCODE));
-    page.Line("Purpose:", TextOfCode(ExperimentPurposes(), set.Header.EXPPURPOSE));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes, set.Header.EXPPURPOSE));
     page.Line("Comment:", CommentTags(set.Header.DATACOMMENT).Text());
     page.Line("Set:", set.PRPSETNO);
     page.Line("Entered:", set.Header.DATEADDED);

@@ -83,7 +83,6 @@ void InitGlobals(const Places& places) {
     globals.InstalledFolder = places.Installed;
     globals.CurrentMethod = std::make_shared<clsMethod>();
     globals.CurrentProperty = std::make_shared<clsProperty>();
-    InitTransliteration();
     SetConfigurationDefaults();
     ReadConfiguration();
     if (globals.ContributorCode.empty()) globals.ContributorCode = "XXX";

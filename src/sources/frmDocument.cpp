@@ -67,7 +67,7 @@ void frmDocument::FillLists() {
         cboTypeDoc.Add(std::string(type.text));
     cboTypeDoc.Index(0);
     lstSourceDoc.Add("SELECT THE SOURCE OF INFORMATION HERE");
-    for (const CodeText& kind : SourceKinds()) {
+    for (const CodeText& kind : SourceKinds) {
         if (!kind.text.empty()) lstSourceDoc.Add(std::string(kind.text));
     }
     lstSourceDoc.Index(0);
@@ -81,7 +81,7 @@ void frmDocument::Fill(const clsR& source) {
     authors_.assign(source.recAuthor.begin(), source.recAuthor.end());
     ShowAuthors();
     lstSourceDoc.Index(0);
-    const std::string kind = TextOfCode(SourceKinds(), source.SOURCEDOC);
+    const std::string kind = TextOfCode(SourceKinds, source.SOURCEDOC);
     if (!kind.empty()) lstSourceDoc.Choose(kind);
     txtKeyWords.Enter(source.KEYWORDS);
     txtAbstract.Enter(source.ABSTRACT);

@@ -113,8 +113,8 @@ void frmDocument::cmdAccept_Click() {
 }
 
 std::string frmDocument::ChosenSourceKind(const std::string& before) const {
-    if (lstSourceDoc.Index() > 0) return CodeOfText(SourceKinds(), lstSourceDoc.Chosen());
-    const bool unlisted = !IsBlankField(before) && TextOfCode(SourceKinds(), before).empty();
+    if (lstSourceDoc.Index() > 0) return CodeOfText(SourceKinds, lstSourceDoc.Chosen());
+    const bool unlisted = !IsBlankField(before) && TextOfCode(SourceKinds, before).empty();
     return unlisted ? before : "O";
 }
 

@@ -55,7 +55,7 @@ frmRef::frmRef() : ChainForm("frmRef", "Add reference") {
 void frmRef::Load() {
     Globals().DialogAccepted = false;
     cboSource.Add("SELECT THE SOURCE OF INFORMATION HERE");
-    for (const CodeText& kind : SourceKinds()) {
+    for (const CodeText& kind : SourceKinds) {
         if (!kind.text.empty()) cboSource.Add(std::string(kind.text));
     }
     cboSource.Index(0);
@@ -159,7 +159,7 @@ void frmRef::Store(const Row& row) const {
     source->AUTHORN = row.AUTHORN;
     source->SSOURCE = row.SOURCE;
     source->TTITLE = row.TITLE;
-    source->SOURCEDOC = CodeOfText(SourceKinds(), cboSource.Chosen());
+    source->SOURCEDOC = CodeOfText(SourceKinds, cboSource.Chosen());
     source->AttachTo();
 }
 

@@ -113,14 +113,14 @@ TEST(RegistryNumber, TheLastDigitChecksTheOthers) {
 }
 
 TEST(Definitions, ListsAndCodesGoBothWays) {
-    EXPECT_EQ(CodeAt(SourceKinds(), 0), "");
-    EXPECT_EQ(CodeAt(SourceKinds(), 1), "O");
-    EXPECT_EQ(CodeAt(SourceKinds(), 6), "");
-    EXPECT_EQ(IndexOfCode(PureReferenceStates(), "RX"), 6);
-    EXPECT_EQ(IndexOfCode(MixtureReferenceStates(), "TP"), -1);
-    EXPECT_EQ(TextOfCode(LetteredStatements(), "M"), "Heat of combustion based on sample mass");
-    EXPECT_EQ(QuantityByCode(BioVariables(), "pCs")->text, "pC of solvent");
-    EXPECT_EQ(QuantityByText(StateVariables(), "Wavelength")->unit, "A");
+    EXPECT_EQ(CodeAt(SourceKinds, 0), "");
+    EXPECT_EQ(CodeAt(SourceKinds, 1), "O");
+    EXPECT_EQ(CodeAt(SourceKinds, 6), "");
+    EXPECT_EQ(IndexOfCode(PureReferenceStates, "RX"), 6);
+    EXPECT_EQ(IndexOfCode(MixtureReferenceStates, "TP"), -1);
+    EXPECT_EQ(TextOfCode(LetteredStatements, "M"), "Heat of combustion based on sample mass");
+    EXPECT_EQ(QuantityByCode(BioVariables, "pCs")->text, "pC of solvent");
+    EXPECT_EQ(QuantityByCode(StateVariables, "WL")->unit, "A");
     EXPECT_EQ(PurityUnitByCode("g%")->element, "nWaterMolPerCent");
     EXPECT_EQ(PurityUnitByCode("q%"), nullptr);
 }
