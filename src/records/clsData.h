@@ -95,8 +95,6 @@ public:
 
     /// One NumValues element; see SetRows for what the set gives.
     void ExportData(XmlWriter& xml, SetRows& rows) const;
-    void ExportPropUnc(XmlWriter& xml, SetRows& rows) const;
-    void ExportVarUnc(XmlWriter& xml, int n, SetRows& rows) const;
 
 private:
     void LoadValue(std::string_view text, std::string_view digits, std::size_t n);

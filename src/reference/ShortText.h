@@ -5,7 +5,6 @@
 #include <cstring>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <utility>
 
 namespace vexora {
@@ -54,15 +53,10 @@ public:
     friend bool operator==(const ShortText& a, std::string_view b) { return a.View() == b; }
     friend bool operator==(const ShortText& a, const std::string& b) { return a.View() == b; }
     friend bool operator==(const ShortText& a, const char* b) { return a.View() == b; }
-    template <class Text>
-    requires std::is_convertible_v<const Text&, std::string_view>
-    friend std::string operator+(const ShortText& a, const Text& b) {
-        return std::string(a.View()).append(std::string_view(b));
+    friend std::string operator+(const ShortText& a, std::string_view b) {
+        return std::string(a).append(b);
     }
-    template <class Text>
-    requires(std::is_convertible_v<const Text&, std::string_view> &&
-             !std::is_same_v<Text, ShortText>) friend std::string
-    operator+(const Text& a, const ShortText& b) {
+    friend std::string operator+(std::string_view a, const ShortText& b) {
         return std::string(a).append(b.View());
     }
 
