@@ -75,15 +75,10 @@ void FormWindow::TakeFirstSize() {
     const QFontMetrics metrics(font());
     QSize size = sizeHint().expandedTo(minimumSizeHint());
     constexpr int leastColumns = 60; // fields for paths and names want room
-    if (GrowsAcross(form_.Arrangement)) {
-        size.setWidth(std::max(size.width(), metrics.averageCharWidth() * leastColumns));
-    }
-    if (form_.PreferredColumns > 0) {
-        size.setWidth(std::max(size.width(), metrics.averageCharWidth() * form_.PreferredColumns));
-    }
-    if (form_.PreferredRows > 0) {
-        size.setHeight(std::max(size.height(), metrics.lineSpacing() * form_.PreferredRows));
-    }
+    const int columns =
+        std::max(form_.PreferredColumns, GrowsAcross(form_.Arrangement) ? leastColumns : 0);
+    size = size.expandedTo(
+        {metrics.averageCharWidth() * columns, metrics.lineSpacing() * form_.PreferredRows});
     if (QGuiApplication::platformName() != "offscreen") {
         size = size.boundedTo(screen()->availableSize() - QSize(20, 60));
     }

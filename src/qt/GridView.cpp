@@ -39,13 +39,6 @@ public:
         editor->setFrame(false);
         return editor;
     }
-    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
-        static_cast<CellEditor*>(editor)->setText(index.data(Qt::EditRole).toString());
-    }
-    void setModelData(QWidget* editor, QAbstractItemModel* model,
-                      const QModelIndex& index) const override {
-        model->setData(index, static_cast<CellEditor*>(editor)->text(), Qt::EditRole);
-    }
 };
 
 } // namespace

@@ -18,11 +18,8 @@ void Press(QAbstractButton* button) {
 
 // The box that stands for the file chooser: what a person does there leaves only a path behind.
 std::unique_ptr<QInputDialog> MakeChooser(const ui::FileChoice& choice, QWidget* parent) {
-    ui::Input input;
-    input.title = choice.save ? "Save" : "Open";
-    input.prompt = choice.filter.empty() ? "File" : choice.filter;
-    input.text = choice.proposed;
-    return MakeInputBox(input, parent);
+    const std::string prompt = choice.filter.empty() ? "File" : choice.filter;
+    return MakeInputBox({prompt, choice.save ? "Save" : "Open", choice.proposed}, parent);
 }
 
 void Fill(QInputDialog& box, const std::optional<std::string>& answer) {

@@ -1,7 +1,5 @@
 #include "qt/View.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -93,10 +91,6 @@ bool View::eventFilter(QObject* watched, QEvent* event) {
     default:
         return false;
     }
-}
-
-bool IsOneOf(const std::string& name, std::initializer_list<std::string_view> names) {
-    return std::ranges::find(names, name) != names.end();
 }
 
 void Shade(QWidget& widget, bool closed) {

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "reference/Text.h"
 #include "ui/Form.h"
 
 namespace vexora::qt {
@@ -72,8 +73,6 @@ protected:
     TControl& model_;
     TWidget* own_;
 };
-
-bool IsOneOf(const std::string& name, std::initializer_list<std::string_view> names);
 
 /// What cannot be typed into looks like the window around it.
 void Shade(QWidget& widget, bool closed);
