@@ -89,6 +89,10 @@ void frmTwo::VariableClick(int n) {
 
 void frmTwo::ConstraintClick() {
     ShowPhases();
+    if (!Filling && lstPhase2.Index() > 0 && lstPhase2.Chosen() == lstPhase1.Chosen()) {
+        lstPhase2.Index(0); // it was out of sight when the first one became the same
+        ShowPhases();
+    }
     ShowVar3();
     const TwoDraft draft = Draft();
     const bool ofOnePhase = PresetTwo(row_.Code).constraint == "FP";

@@ -106,6 +106,8 @@ private:
     bool EnterNumbers(const std::shared_ptr<clsTwo>& set);
     void Store(const std::shared_ptr<clsTwo>& set);
     bool CheckUnits();
+    std::vector<int> ReplacedItems() const;
+    bool MayDropStatements();
     std::string UnitCodeOf(int n) const;
 
     SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }, "SELECT SAMPLE"};

@@ -17,6 +17,7 @@
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -43,6 +44,20 @@ std::shared_ptr<clsTwo> DefinitionOf(const clsTwo& pattern) {
     return set;
 }
 
+/// What a row states of one quantity, and of the property alone.
+bool HasStatements(const clsData& row, int item) {
+    if (!row.StatementsOf(item).IsEmpty()) return true;
+    if (item > 0) return false;
+    const bool combined = row.Extras && (!row.Extras->userCU.empty() || !row.Extras->CD.empty());
+    return combined || !IsBlankField(row.PRPUNCERTY);
+}
+
+void DropStatements(clsData& row, int item) {
+    if (row.Extras) row.Statements(item) = {};
+    if (item > 0) return;
+    if (row.Extras) row.Extras->userCU = row.Extras->CD = "";
+    row.PRPUNCERTY = "";
+}
 /// The working context as it was before the table opened; the table makes its own.
 class ContextScope {
 public:
@@ -93,7 +108,7 @@ bool frmTwo::Check() {
     if (!fault.empty()) return Refuse(cmdMethod, fault);
     if (TurnsRows() && !CopyOf(*record_)->AdjustUnits())
         return Refuse(cmdMethod, "Invalid conversion factor");
-    return CheckUnits();
+    return CheckUnits() && MayDropStatements();
 }
 
 /// The set is to stand in system units, and its rows stand in those of the paper.
@@ -111,6 +126,39 @@ bool frmTwo::CheckUnits() {
         return Refuse(n == 1 ? lstVariable_Unit : lstVar2_Unit, "Invalid conversion factor");
     }
     return true;
+}
+
+/// The quantities of the set that are other ones now: 0 the property, 1 and on
+/// the variables.
+std::vector<int> frmTwo::ReplacedItems() const {
+    std::vector<int> items;
+    if (!as_) return items;
+    if (Globals().PropertyCode != as_->PRPCODE) items.push_back(0);
+    const TwoDraft draft = Draft();
+    for (int n = 1; n <= draft.nVar; ++n)
+        if (as_->VARIABLE(n) != (n == 1 ? draft.variable1 : draft.variable2)) items.push_back(n);
+    return items;
+}
+
+/// What rows state about a quantity is not true of another one; that it goes is
+/// asked once.
+bool frmTwo::MayDropStatements() {
+    if (!record_ || Draft().numerical == Presentation::NoNumbers) return true;
+    std::string names;
+    ui::Control* field = nullptr;
+    for (const int item : ReplacedItems()) {
+        const auto states = [item](const clsData& row) { return HasStatements(row, item); };
+        if (std::ranges::none_of(record_->recData, states)) continue;
+        names += (names.empty() ? "" : " and ") +
+                 (item == 0 ? PropertyName(record_->PRPCODE, record_->DataContext())
+                            : VariableName(record_->VARIABLE(item)));
+        if (!field)
+            field = item == 0   ? &static_cast<ui::Control&>(cmdMethod)
+                    : item == 1 ? &cboVar1
+                                : &cboVar2;
+    }
+    return !field || Confirm(*field, "Rows of the table state uncertainties of " + names +
+                                         ", which go with it\nGo on?");
 }
 
 void frmTwo::NormalizeNumbers() {
@@ -159,13 +207,17 @@ void frmTwo::WriteVariables(clsTwo& set) const {
     set.VAR1_UNIT = UnitCodeOf(1);
     set.VARIABLE2 = set.nVar > 1 ? draft.variable2 : "";
     set.VAR2_UNIT = set.nVar > 1 ? UnitCodeOf(2) : "";
+    for (const int n : ReplacedItems()) {
+        set.UX[static_cast<std::size_t>(n)] = clsX();
+        for (clsData& row : set.recData)
+            DropStatements(row, n);
+    }
     for (int n = 1; n <= set.nVar; ++n) {
         clsX& item = set.UX[static_cast<std::size_t>(n)];
         const bool another = !item.PRPCODE.empty() && item.PRPCODE != set.VARIABLE(n);
         if (another) item = clsX(); // what was stated about another quantity is not true of this
         item.PHASE = set.PHASE1;
     }
-    if (as_ && Globals().PropertyCode != as_->PRPCODE) set.UX[0] = clsX();
     set.UX[0].PHASE = set.PHASE1;
 }
 

@@ -471,5 +471,64 @@ TEST_F(frmTwoTest, ReviewOffersWhatHasTablesAndAnUnknownCodeIsTold) {
     EndEdit();
 }
 
+TEST_F(frmTwoTest, StatementsOfRowsGoWithTheirQuantity) {
+    const auto set = Add("^1 2 VDN S DIR 1\tY L & FP S & & &");
+    set->AddX(Statement("^X 1 T L + 1 95 0.05 - & & & - & & - & & - & & &"));
+    ASSERT_EQ(set->LoadRow("^D 300 996.5 0.7"), OpenRecord::Taken::Yes);
+    ASSERT_TRUE(set->LoadRowStatements("^Y & & & 0.05 0.1 & & 0.5 0.6 0.2"));
+    const auto accept = [](ui::Form& shown) { dynamic_cast<frmTable&>(shown).Accept(); };
+    {
+        auto& form = Edit(set);
+        Pick(form.cboVar1, "Pressure");
+        Pick(form.lstVariable_Unit, "kPa");
+        Pick(form.lstCONSTRAINT, "Single phase at fixed temperature");
+        const std::string question =
+            "Rows of the table state uncertainties of Temperature, which go with it\nGo on?";
+        desktop.Expect(question, ui::Answer::No);
+        form.cmdOK.UserClick();
+        EXPECT_TRUE(form.cboVar1.HasFocus());
+        EXPECT_EQ(set->recData.Item(1)->StatementsOf(1).Unc, "0.05");
+        desktop.Expect(question, ui::Answer::Yes);
+        desktop.OnModal(accept);
+        form.cmdOK.UserClick();
+        EndEdit();
+    }
+    EXPECT_NE(Lines(*set).find("^Y & & & & 0.1 & & 0.5 0.6 0.2"), std::string::npos) << Lines(*set);
+    EXPECT_EQ(Lines(*set).find("^X"), std::string::npos);
+    auto& form = Edit(set);
+    desktop.OnModal([](ui::Form& shown) {
+        auto& property = dynamic_cast<frmProperty&>(shown);
+        Pick(property.lstProp, "Specific volume");
+        Pick(property.lstConv, "m3/kg");
+        property.lstMethod.UserChoose(0);
+        Pick(property.lstExpPurpose, "Principal objective of the work");
+        property.cmdOK.UserClick();
+    });
+    form.cmdMethod.UserClick();
+    forms.DropClosed();
+    Pick(form.cboVar1, "Pressure");
+    Pick(form.lstVariable_Unit, "kPa");
+    Pick(form.lstCONSTRAINT, "Single phase at fixed temperature");
+    Pick(form.lstPhase1, "Liquid");
+    desktop.Expect("Rows of the table state uncertainties of Density, which go with it\nGo on?",
+                   ui::Answer::Yes);
+    desktop.OnModal(accept);
+    form.cmdOK.UserClick();
+    EndEdit();
+    EXPECT_EQ(Lines(*set).find("^Y"), std::string::npos) << Lines(*set);
+    EXPECT_NE(Lines(*set).find("^D 300 996.5 &"), std::string::npos) << Lines(*set);
+}
+
+TEST_F(frmTwoTest, TheSamePhaseTwiceIsNotReachedByGoingBack) {
+    auto& form = VaporPressure();
+    EXPECT_EQ(form.lstPhase2.Chosen(), "Gas");
+    Pick(form.lstCONSTRAINT, "Single phase at fixed volume");
+    Pick(form.lstPhase1, "Gas");
+    Pick(form.lstCONSTRAINT, "Phase boundary");
+    EXPECT_EQ(form.lstPhase2.Find("Gas"), -1);
+    Pick(form.lstPhase1, "Liquid");
+    EXPECT_EQ(form.lstPhase2.Chosen(), "Gas");
+}
+
 } // namespace
 } // namespace vexora::test
