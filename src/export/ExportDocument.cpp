@@ -2,11 +2,15 @@
 
 #include <chrono>
 
+#include "export/SetRows.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
+#include "records/DataSet.h"
+#include "records/Walk.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/Vocabulary.h"
 
 namespace vexora {
 
@@ -18,6 +22,25 @@ bool HoldsBioData() {
         if (!source->recBR.IsEmpty() || !source->recBP.IsEmpty()) return true;
     }
     return false;
+}
+
+/// Sets that have no numbers on purpose are named together: a box for each
+/// would only be clicked away.
+void TellSetsWithoutNumbers() {
+    constexpr int mostNamed = 20; // more lines would not fit on a screen
+    std::string names;
+    int count = 0;
+    WalkDocument([&](Record& record) {
+        const auto* set = dynamic_cast<const DataSet*>(&record);
+        if (!set || !IsWithoutNumbers(*set) || ++count > mostNamed) return;
+        names += "\n" + set->SystemName() + ": " + PropertyName(set->PRPCODE, set->DataContext()) +
+                 ", Set " + set->PRPSETNO;
+    });
+    if (count == 0) return;
+    if (count > mostNamed) names += "\nand " + std::to_string(count - mostNamed) + " more";
+    ui::Say("These sets are stated to have no numerical data and are not in the "
+            "file:" +
+            names);
 }
 
 std::string Padded(std::int64_t number) {
@@ -59,6 +82,7 @@ std::string ExportDocument(const ui::Date& today) {
     for (const auto& source : Globals().recR)
         source->ExportAll(xml, today);
     xml.Close();
+    TellSetsWithoutNumbers();
     return xml.Text();
 }
 

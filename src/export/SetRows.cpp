@@ -6,6 +6,7 @@
 #include "export/DataHead.h"
 #include "export/XmlWriter.h"
 #include "records/DataSet.h"
+#include "records/Presentation.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -74,6 +75,7 @@ void AnnounceRows(const DataSet& set, SetRows& rows) {
             clsX& item = rows.quantities[static_cast<std::size_t>(n)].item;
             item.iDS = item.iDS || !own.DS.empty();
             item.iRep = item.iRep || !own.Rep.empty();
+            rows.quantities[static_cast<std::size_t>(n)].repeatsInRows |= !own.Rep.empty();
             item.iUnc = item.iUnc || !own.Unc.empty();
         }
         clsX& property = rows.quantities[0].item;
@@ -92,8 +94,12 @@ constexpr const char* NoRepeatability = "Missing repeatability in ";
 
 } // namespace
 
+bool IsWithoutNumbers(const DataSet& set) {
+    return set.recData.IsEmpty() && !Presentation::Of(set.DATATYPE).HasNumbers();
+}
+
 SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
-    quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0]};
+    quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0], false};
     // A difference of temperatures in degrees Celsius is one in kelvin.
     quantities[0].unit.difference = set.Relation() == "D";
     for (int n = 1; n <= set.nVar; ++n) {
@@ -103,7 +109,7 @@ SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
         // Angstroms.
         unit.wavelength = set.VARIABLE(n) == "WL";
         if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
-        quantities[place] = {unit, set.UX[place]};
+        quantities[place] = {unit, set.UX[place], false};
     }
     for (Quantity& quantity : quantities)
         DropUnstated(quantity.item);

@@ -20,10 +20,11 @@ struct SetRows {
     struct Quantity {
         ExportUnit unit; // converts tells of the statements of the set; a row has its own flag
         clsX item;
+        bool repeatsInRows = false; // some rows state the repeatability
     };
     const DataSet& set;
     std::array<Quantity, 4> quantities;
-    bool lacksRepeatability = false; // announced, but without a figure in some row
+    bool lacksRepeatability = false; // announced, but without a figure in the set or any row
 
     /// Statements that only some rows make announce themselves like those of the set.
     explicit SetRows(const DataSet& set);
@@ -49,5 +50,9 @@ struct SetRows {
     /// Rows are left out one by one, the set is not: the good values are worth having.
     void ExportRows(XmlWriter& xml);
 };
+
+/// The set is stated to have no numbers, and has none.
+/// Such sets are no fault of the data; the export names them together.
+bool IsWithoutNumbers(const DataSet& set);
 
 } // namespace vexora

@@ -17,8 +17,10 @@ void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n,
         own.combined = row.Extras->userCU;
         own.curveDeviation = row.Extras->CD;
     }
-    if (!ExportStatements(xml, quantity.item, role, row.Values[place], rows.UnitIn(row, n), &own))
-        rows.lacksRepeatability = true;
+    const bool whole =
+        ExportStatements(xml, quantity.item, role, row.Values[place], rows.UnitIn(row, n), &own);
+    // What some rows state by themselves is not owed by the others.
+    if (!whole && !quantity.repeatsInRows) rows.lacksRepeatability = true;
 }
 
 } // namespace

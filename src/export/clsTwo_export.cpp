@@ -27,6 +27,7 @@ bool IsUnderOneAtmosphere(const clsTwo& set) {
 void clsTwo::ExportAll(XmlWriter& xml) const {
     // A set outside a document has no compound to refer to.
     if (Parent == nullptr || Parent->Parent == nullptr) return;
+    if (IsWithoutNumbers(*this)) return; // named behind all others
     const std::string group = XMLPropertyGroup(PRPCODE, DataContext());
     SetRows rows(*this);
     const std::string fault = rows.Fault(group);

@@ -157,6 +157,23 @@ TEST_F(SetExport, WhatCannotLeaveIsToldOnce) {
     EXPECT_EQ(At(Exported(kDensity, "^d 25 x 250 &\n"), ""), "");
 }
 
+TEST_F(SetExport, ARepeatabilityOfSomeRowsIsNotMissingInTheOthers) {
+    for (const std::string rep : {"", "^X 0 VDN L - & & & + 1 & & - & & - & & - & & &\n"}) {
+        const std::string xml =
+            Exported(kDensity, rep + "^d 25 1 250 &\n^Y & & & & & & & & & 0.4 5 &"
+                                     " & &\n^d 26 1 251 &\n");
+        EXPECT_EQ(At(xml, "//nPropRepeatValue"), "0.4");
+    }
+}
+
+TEST_F(SetExport, SetsThatAreToHaveNoNumbersAreNamedOnceAtTheEnd) {
+    const std::string none = "^2 1 VDN S DIR 1\tN L & DP T C P S & & &\n^M 0\n"
+                             "^1 1 VDN S DIR 1\tNG L & FP S & & &\n";
+    desktop.Expect("These sets are stated to have no numerical data and are not in the file:\n"
+                   "water: Density, Set 1\nwater: Density, Set 1");
+    EXPECT_EQ(At(Exported(none, ""), ""), "");
+}
+
 TEST_F(SetExport, SetsAreCheckedAndReadInWords) {
     Read(test::kHead + "^A & O & & & & & &\n" + kDensity +
          "\n^d 25.0 100 997.05 &\n^d 10 100 -1 &\n^d 30 x 995 &\n^d 40 y 990 &\n^M 0\n");
