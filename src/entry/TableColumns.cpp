@@ -46,10 +46,84 @@ auto* StatementIn(Extras& extras, const TableColumn& column) {
     }
 }
 
+/// What a row states itself: kind, item and text of each entry that is not
+/// empty.
+template <class Action>
+void EachEntry(const clsData& row, const Action& action) {
+    if (!row.Extras) return;
+    const auto give = [&](Kind kind, int item, const std::string& text) {
+        if (!text.empty()) action(kind, item, text);
+    };
+    for (int item = 0; item < static_cast<int>(row.Extras->items.size()); ++item) {
+        const RowStatements& own = row.StatementsOf(item);
+        give(Kind::DS, item, own.DS);
+        give(Kind::Rep, item, own.Rep);
+        give(Kind::Repetitions, item, own.Repetitions);
+        give(Kind::Unc, item, own.Unc);
+    }
+    give(Kind::CU, 0, row.Extras->userCU);
+    give(Kind::CD, 0, row.Extras->CD);
+}
+
 } // namespace
 
-TableColumns::TableColumns(const std::vector<Quantity>& quantities, bool withDigits,
-                           bool withTies) {
+const std::string& FigureOf(const clsX& statements, TableColumn::Kind kind) {
+    static const std::string none;
+    switch (kind) {
+    case Kind::DS:
+        return statements.DSValue;
+    case Kind::Rep:
+        return statements.RValue;
+    case Kind::Unc:
+        return statements.UValue;
+    case Kind::CU:
+        return statements.CValue;
+    case Kind::CD:
+        return statements.CDRms;
+    default:
+        return none;
+    }
+}
+
+bool* MarkOf(clsX& statements, TableColumn::Kind kind) {
+    switch (kind) {
+    case Kind::DS:
+        return &statements.iDS;
+    case Kind::Rep:
+    case Kind::Repetitions:
+        return &statements.iRep;
+    case Kind::Unc:
+        return &statements.iUnc;
+    case Kind::CU:
+        return &statements.iCU;
+    case Kind::CD:
+        return &statements.iCD;
+    default:
+        return nullptr;
+    }
+}
+
+void MarkStatementsOfRows(const RowList& rows, std::span<clsX> items) {
+    for (const clsData& row : rows) {
+        EachEntry(row, [&](Kind kind, int item, const std::string&) {
+            const auto place = static_cast<std::size_t>(item);
+            if (place < items.size()) *MarkOf(items[place], kind) = true;
+        });
+    }
+}
+
+OwnSigns AbsoluteEntries(const RowList& rows) {
+    OwnSigns found;
+    for (const clsData& row : rows) {
+        EachEntry(row, [&](Kind kind, int item, const std::string& text) {
+            if (!text.ends_with('%')) found.emplace(kind, item);
+        });
+    }
+    return found;
+}
+
+TableColumns::TableColumns(const std::vector<Quantity>& quantities, bool withDigits, bool withTies,
+                           const OwnSigns& ownSigns) {
     const auto properties = std::ranges::count_if(quantities, &Quantity::isProperty);
     if (withTies) Add(Kind::Tie, 0, "Tie");
     int variable = 0;
@@ -60,31 +134,36 @@ TableColumns::TableColumns(const std::vector<Quantity>& quantities, bool withDig
                     single                ? "Property"
                     : quantity.isProperty ? "Property" + std::to_string(++property)
                                           : "Var" + std::to_string(++variable),
-                    withDigits);
+                    withDigits, ownSigns);
     }
     // Always last, so that other columns may come and go in front of it.
     Add(Kind::KVO, 0, "KVO Uncert.");
 }
 
-void TableColumns::AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits) {
+void TableColumns::AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits,
+                               const OwnSigns& ownSigns) {
     const clsX& stated = quantity.statements;
     const int item = quantity.item;
+    const auto add = [&](Kind kind, const std::string& name) {
+        // As the set states its figure, so do its rows, but where one says
+        // otherwise.
+        const bool percent = FigureOf(stated, kind).find('%') != std::string::npos;
+        Add(kind, item, name, percent && !ownSigns.contains({kind, item}));
+    };
     Add(Kind::Value, item, head);
     if (withDigits) Add(Kind::Digits, item, "Digits");
-    if (stated.iDS) Add(Kind::DS, item, "Dev.Spec.", stated.DSValue);
+    if (stated.iDS) add(Kind::DS, "Dev.Spec.");
     if (stated.iRep) {
-        Add(Kind::Rep, item, "Repeatab.", stated.RValue);
-        Add(Kind::Repetitions, item, "Repetitions");
+        add(Kind::Rep, "Repeatab.");
+        add(Kind::Repetitions, "Repetitions");
     }
-    if (stated.iUnc) Add(Kind::Unc, item, "Uncert.", stated.UValue);
+    if (stated.iUnc) add(Kind::Unc, "Uncert.");
     if (!quantity.isProperty) return;
-    if (stated.iCU) Add(Kind::CU, item, "Comb.Unc.", stated.CValue);
-    if (stated.iCD) Add(Kind::CD, item, "Curve Dev.", stated.CDRms);
+    if (stated.iCU) add(Kind::CU, "Comb.Unc.");
+    if (stated.iCD) add(Kind::CD, "Curve Dev.");
 }
 
-void TableColumns::Add(Kind kind, int item, const std::string& head, const std::string& setValue) {
-    // As the set states its figure, so do its rows: one column has one kind of figure.
-    const bool percent = setValue.find('%') != setValue.npos;
+void TableColumns::Add(Kind kind, int item, const std::string& head, bool percent) {
     columns_.push_back({kind, item, percent, percent ? head + "%" : head});
 }
 

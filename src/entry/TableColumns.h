@@ -1,9 +1,13 @@
 #pragma once
 
+#include <set>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "records/Quantity.h"
+#include "records/RowList.h"
 #include "records/clsData.h"
 
 namespace vexora {
@@ -23,6 +27,21 @@ struct TableColumn {
     bool operator==(const TableColumn&) const = default;
 };
 
+/// Columns whose cells bear "%" each by itself, because some of them are
+/// absolute: kind and item.
+using OwnSigns = std::set<std::pair<TableColumn::Kind, int>>;
+
+/// The figure of the set that stands for the empty cells of such a column;
+/// empty for a kind that has none.
+const std::string& FigureOf(const clsX& statements, TableColumn::Kind kind);
+/// The mark of the statement that such a column belongs to; null for a kind
+/// that has none.
+bool* MarkOf(clsX& statements, TableColumn::Kind kind);
+/// Marks in the items of a set (0 the property, then its variables) what its
+/// rows state, so that nothing of it is without a column.
+void MarkStatementsOfRows(const RowList& rows, std::span<clsX> items);
+/// The columns in which a row states an absolute figure.
+OwnSigns AbsoluteEntries(const RowList& rows);
 /// The columns of a table from left to right: the number of the tie where rows have one, then each
 /// quantity with its digits when they are shown and the statements that its set makes for every
 /// row; at last the figure of the evaluation. Any number of variables and properties has room.
@@ -31,10 +50,11 @@ struct TableColumn {
 class TableColumns {
 public:
     TableColumns() = default;
-    /// A column exists for each statement whose mark is set; its empty cells stand for the figure
-    /// of the set.
+    /// A column exists for each statement whose mark is set; its empty cells
+    /// stand for the figure of the set. The head says "%" for all cells where the
+    /// set states per cent and the cells have no signs of their own.
     explicit TableColumns(const std::vector<Quantity>& quantities, bool withDigits = false,
-                          bool withTies = false);
+                          bool withTies = false, const OwnSigns& ownSigns = {});
 
     const std::vector<TableColumn>& All() const { return columns_; }
     int Count() const { return static_cast<int>(columns_.size()); }
@@ -56,9 +76,9 @@ public:
 private:
     void StoreValue(clsData& row, int column, const std::string& cell) const;
     static void StoreDigits(clsData& row, int item, const std::string& cell);
-    void AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits);
-    void Add(TableColumn::Kind kind, int item, const std::string& head,
-             const std::string& setValue = {});
+    void AddQuantity(const Quantity& quantity, const std::string& head, bool withDigits,
+                     const OwnSigns& ownSigns);
+    void Add(TableColumn::Kind kind, int item, const std::string& head, bool percent = false);
 
     std::vector<TableColumn> columns_;
 };

@@ -97,9 +97,12 @@ bool TableBlocks::FillSelection(const PastedTable& block) {
 
 void TableBlocks::PutIn(const PastedTable& block, int row, int column) {
     if (IsRefused(block, row, column, history_.LastFilledRow() < grid_.FixedRows())) return;
-    Enter({column, column + static_cast<int>(block.Columns()) - 1},
-          [&] { PasteTable(history_, block, row, column, {.widens = true}); });
-    Tell(block.notices);
+    BlockToPut put{block, column};
+    if (OnPut && !OnPut(put)) return;
+    Enter({put.column, put.column + static_cast<int>(put.block.Columns()) - 1}, [&] {
+        PasteTable(history_, put.block, row, put.column, {.widens = true, .ahead = put.ahead});
+    });
+    Tell(put.block.notices);
 }
 
 /// A block that is too wide is refused, but for a table that is to be turned: one in two dimensions
@@ -179,10 +182,13 @@ void TableBlocks::OpenFile() {
     const PastedTable block = BesideStatements(CleanTable(ToUtf8(*text)), 0);
     const int first = grid_.FixedRows();
     if (IsRefused(block, first, 0, true)) return;
+    BlockToPut put{block};
+    if (OnPut && !OnPut(put)) return;
     const int replaced = history_.LastFilledRow() - first + 1;
-    PasteTable(history_, block, first, 0, {.replaces = true, .widens = true});
+    PasteTable(history_, put.block, first, put.column,
+               {.replaces = true, .widens = true, .ahead = put.ahead});
     SelectCell(grid_, first, 0);
-    std::vector<PasteNotice> told = block.notices;
+    std::vector<PasteNotice> told = put.block.notices;
     if (replaced > 0)
         told.insert(told.begin(), {0, "The table of the file replaced " + std::to_string(replaced) +
                                           (replaced == 1 ? " row" : " rows") +

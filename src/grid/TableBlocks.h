@@ -9,6 +9,12 @@
 
 namespace vexora {
 
+/// A block on its way into the table.
+struct BlockToPut {
+    PastedTable block;
+    int column = 0;                            // where it begins
+    std::function<void(bool done)> ahead = {}; // makes room for it, see TableUndo::Do
+};
 /// Whole blocks of a table: pasted, filled, emptied, put in and taken out as rows, read from files
 /// and written into them; and the notices that stand below the table. Every change is a step of the
 /// history. Belongs to the table editor.
@@ -54,6 +60,10 @@ public:
     /// Runs what types or pastes into these columns, so that the form can tell it from its own
     /// writing when it follows a change.
     void Enter(EnteredColumns columns, const std::function<void()>& enters);
+
+    /// Lets the form ask about a block that fits, and make room for what it
+    /// holds; false when it is not to go in.
+    std::function<bool(BlockToPut&)> OnPut;
 
 private:
     /// Column counts from 0 in the grid.

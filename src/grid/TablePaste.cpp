@@ -311,13 +311,13 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
 }
 
 bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
-                PasteManner manner) {
+                const PasteManner& manner) {
     const ui::Grid& grid = table.Table();
     const std::size_t columns = block.Columns();
     const int wide = column + static_cast<int>(columns);
     if (wide > grid.Columns() && !manner.widens) return false;
     const int rows = static_cast<int>(block.rows.size());
-    table.Do([&](TableEdit& edit) {
+    const auto writer = [&](TableEdit& edit) {
         if (manner.replaces) edit.Rows(grid.FixedRows());
         edit.Columns(std::max(grid.Columns(), wide));
         // All rows at once, and the spare one below them: to grow row by row is slow.
@@ -329,7 +329,8 @@ bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
                 edit.Cell(row + i, column + static_cast<int>(j),
                           j < cells.size() ? cells[j] : std::string());
         }
-    });
+    };
+    table.Do(writer, {}, manner.ahead);
     return true;
 }
 

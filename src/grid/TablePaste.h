@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,8 +39,9 @@ bool MayPartThousands(std::string_view cell);
 
 /// How a block comes into a table, all in one step of its history.
 struct PasteManner {
-    bool replaces = false; // all that stood in the table goes first
-    bool widens = false;   // the table gets the columns that it lacks
+    bool replaces = false;                     // all that stood in the table goes first
+    bool widens = false;                       // the table gets the columns that it lacks
+    std::function<void(bool done)> ahead = {}; // goes along, in front of the cells (TableUndo::Do)
 };
 
 /// Writes the block from this cell on, the grid growing downward as it needs to; cells that a short
@@ -47,6 +49,6 @@ struct PasteManner {
 /// written, when it has more columns than the grid has from there on and does not widen it.
 /// Rows and columns count as in the grid, heads included.
 bool PasteTable(TableUndo& table, const PastedTable& block, int row, int column,
-                PasteManner manner = {});
+                const PasteManner& manner = {});
 
 } // namespace vexora

@@ -103,8 +103,10 @@ bool TableUndo::Step::IsEmpty() const {
 }
 
 bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
-                   const std::function<void(bool)>& beside) {
+                   const std::function<void(bool)>& beside,
+                   const std::function<void(bool)>& ahead) {
     Step step;
+    if (ahead) ahead(true);
     {
         Recorder recorder(*this);
         writer(recorder);
@@ -119,8 +121,9 @@ bool TableUndo::Do(const std::function<void(TableEdit&)>& writer,
         KeepSpareRow(recorder);
         step = std::move(recorder.step);
     }
-    if (step.IsEmpty() && !beside) return false;
+    if (step.IsEmpty() && !beside && !ahead) return false;
     step.beside = beside;
+    step.ahead = ahead;
     if (beside) beside(true);
     // A new step ends the way forward.
     steps_.resize(done_);
@@ -189,12 +192,14 @@ void TableUndo::Undo() {
         for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
             Apply(step, *change, false);
     }
+    if (step.ahead) step.ahead(false);
     Tell(step);
 }
 
 void TableUndo::Redo() {
     if (!CanRedo()) return;
     const Step& step = steps_[done_++];
+    if (step.ahead) step.ahead(true);
     {
         const ui::Grid::Batch batch(grid_);
         for (const Change& change : step.changes)
@@ -208,7 +213,7 @@ void TableUndo::Redo() {
 void TableUndo::Tell(const Step& step) {
     firstRow_ = grid_.Rows();
     lastRow_ = grid_.FixedRows();
-    const bool more = !step.rows.empty() || !step.widths.empty() || step.beside;
+    const bool more = !step.rows.empty() || !step.widths.empty() || step.beside || step.ahead;
     columns_.assign(static_cast<std::size_t>(grid_.Columns()), more);
     for (const Change& change : step.changes) {
         if (!change.IsOfCell() || change.row < grid_.FixedRows()) continue;

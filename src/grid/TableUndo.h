@@ -36,13 +36,17 @@ public:
     explicit TableUndo(ui::Grid& grid) : grid_(grid) { Clear(); }
 
     ui::Grid& Table() const { return grid_; }
-    /// Runs the writer; what it changed becomes one step. False when it changed nothing. What goes
-    /// along with the step beside the cells is done by `beside`, with true when the step has been
-    /// done or done again and with false before it is taken back; that is a step without changes
-    /// of cells as well. It may lay out other columns, for each step finds those that it knew.
-    /// The writer must not call Do again. Steps that were taken back are forgotten.
+    /// Runs the writer; what it changed becomes one step. False when it changed
+    /// nothing. What goes along with the step beside the cells is done by
+    /// `beside`, with true when the step has been done or done again and with
+    /// false before it is taken back; that is a step without changes of cells as
+    /// well. It may lay out other columns, for each step finds those that it
+    /// knew. `ahead` is the same for what must be there before the cells are
+    /// written: columns for them. The writer must not call Do again. Steps that
+    /// were taken back are forgotten.
     bool Do(const std::function<void(TableEdit&)>& writer,
-            const std::function<void(bool done)>& beside = {});
+            const std::function<void(bool done)>& beside = {},
+            const std::function<void(bool done)>& ahead = {});
     bool CanUndo() const { return done_ > 0; }
     bool CanRedo() const { return done_ < steps_.size(); }
     /// Takes back the last step, or does the next one again.
@@ -88,7 +92,7 @@ private:
         std::vector<Change> changes;
         std::vector<RowChange> rows;
         std::vector<WidthChange> widths;
-        std::function<void(bool)> beside;
+        std::function<void(bool)> beside, ahead;
         bool IsEmpty() const;
     };
     class Recorder;

@@ -43,6 +43,7 @@ void frmData2::ArrangeControls() {
 }
 
 void frmData2::WireEvents() {
+    table_.Blocks().OnPut = [this](BlockToPut& put) { return MakeRoom(put); };
     cmdView.OnClick = [this] { View(); };
     cmdAssign.OnClick = [this] { Assign(); };
     cmdClear.OnClick = [this] { table_.Blocks().Clear(); };

@@ -114,6 +114,24 @@ private:
 
     std::vector<int> FarRowsOfTable() const;
 
+    // The statements of the set beside the entries of its rows
+    // (frmData2_statements.cpp).
+    void Assign();
+    bool AssignAccepted();
+    bool MayLoseColumns() const;
+    struct Signs {
+        OwnSigns own;
+        std::vector<int> marked; // columns whose cells get their own sign
+    };
+    Signs SignsAfter(const StatementsOfSet& before) const;
+    bool ChangesMeaning(int column, bool toPercent) const;
+    bool HasEntries(TableColumn::Kind kind, int item) const;
+    void UseStatements(const StatementsOfSet& statements);
+    void TakeSelectedRow();
+    void DropIdleMarks();
+    bool MakeRoom(BlockToPut& put);
+    std::vector<int> ItemsWithoutUncertainty(int from) const;
+
     // Checks, evaluation and storing (frmData2_accept.cpp).
     bool Check();
     bool CheckUnits();
@@ -122,11 +140,6 @@ private:
     void Calc_unc(int row, bool& ok, const ConfirmValue& confirm);
     void TakeStatements(clsProperty& item, int place, int row) const;
     bool Refuse(const Finding& finding, const std::string& title = {});
-    void Assign();
-    bool AssignAccepted();
-    bool MayLoseColumns() const;
-    void UseStatements(const StatementsOfSet& statements);
-    void TakeSelectedRow();
     void Save();
     void Store();
     std::vector<const clsData*> OldRows() const;
@@ -155,6 +168,8 @@ private:
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
     TableColumns columns_;
+    OwnSigns ownSigns_;         // columns whose cells are not all per cent, though the
+                                // set says so
     TableColumns firstColumns_; // those that the table began with
     TableEditor table_{*this,
                        {tblData, txtCell, lblNotice, lstFindings},

@@ -4,7 +4,6 @@
 #include <map>
 #include <utility>
 
-#include "entry/EditStatements.h"
 #include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
@@ -130,77 +129,6 @@ bool frmData2::CheckUnc() {
     return true;
 }
 
-void frmData2::Assign() {
-    if (Check()) AssignAccepted();
-}
-
-/// The statements of the set; what they ask for in every row gets its column. It is a step of the
-/// history, for what was typed before stood in other columns. False on Cancel.
-bool frmData2::AssignAccepted() {
-    if (!ui::Forms::Current().Knows("frmUnc")) return true;
-    KVOGlobal& globals = Globals();
-    TakeSelectedRow();
-    globals.CurrentProperty = chain_;
-    const std::string key = std::exchange(globals.CurrentKey, "RLS1");
-    const StatementsOfSet before = set_->UX;
-    const bool accepted = EditStatements(set_->UX);
-    globals.CurrentKey = key;
-    if (!accepted) return false;
-    if (!MayLoseColumns()) {
-        set_->UX = before;
-        return false;
-    }
-    const bool assignedBefore = std::exchange(assigned_, true);
-    if (set_->UX == before) return true;
-    const auto emptiesColumns = [this](TableEdit& edit) {
-        const TableColumns next = ColumnsOfSet();
-        const std::vector<int> places = columns_.PlacesIn(next);
-        for (int column = 0; column < columns_.Count(); ++column) {
-            if (places[static_cast<std::size_t>(column)] >= 0) continue;
-            for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
-                edit.Cell(row, column, {});
-        }
-    };
-    table_.History().Do(emptiesColumns,
-                        [this, before, assignedBefore, after = set_->UX](bool done) {
-                            UseStatements(done ? after : before);
-                            assigned_ = done || assignedBefore;
-                        });
-    return true;
-}
-
-void frmData2::UseStatements(const StatementsOfSet& statements) {
-    set_->UX = statements;
-    AnalyseCurrentProperty();
-    FillHeader();
-    table_.Findings().FindAgain();
-}
-
-/// Entries of rows whose column goes with its statement are not thrown away unasked.
-bool frmData2::MayLoseColumns() const {
-    const TableColumns next = ColumnsOfSet();
-    const std::vector<int> places = columns_.PlacesIn(next);
-    for (int column = 0; column < columns_.Count(); ++column) {
-        if (places[static_cast<std::size_t>(column)] >= 0) continue;
-        for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
-            if (tblData.Cell(row, column).empty()) continue;
-            return ui::AskYesNo("The entries in the column " + columns_[column].head +
-                                " go with its statement\nGo on?");
-        }
-    }
-    return true;
-}
-
-/// The values by which the dialog of statements shows the figures that follow.
-void frmData2::TakeSelectedRow() {
-    const int property = columns_.Find(Kind::Value, 0);
-    int row = tblData.Selection().top;
-    if (row < tblData.FixedRows() || tblData.Cell(row, property).empty()) row = tblData.FixedRows();
-    int place = 0;
-    for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
-        item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place++));
-}
-
 void frmData2::Save() {
     if (!Check() || !CheckUnits()) return;
     if (!assigned_ && !AssignAccepted()) return;
@@ -219,6 +147,7 @@ void frmData2::Store() {
         fresh.Add(NewRow(row, sources[static_cast<std::size_t>(row)]));
     }
     std::swap(set_->recData, fresh);
+    DropIdleMarks();
     set_->isOriginalUnit = original_;
     if (adjusted_) {
         set_->Header.DATACOMMENT = adjusted_->Header.DATACOMMENT;

@@ -1,6 +1,7 @@
 #include "tables/frmData2.h"
 
 #include <algorithm>
+#include <span>
 
 #include "chem/clsProperty.h"
 #include "globals/KVOGlobal.h"
@@ -28,6 +29,9 @@ void frmData2::TakeSet() {
     statementsBefore_ = set_->UX;
     molarMass_ = set_->MolarMass();
     TakeRows();
+    MarkStatementsOfRows(rows_,
+                         std::span(set_->UX).first(static_cast<std::size_t>(set_->nVar) + 1));
+    ownSigns_ = AbsoluteEntries(rows_);
     AnalyseCurrentProperty();
     NameStatements(*set_, original_);
     ShowUnits();
@@ -91,7 +95,7 @@ std::string frmData2::ColumnsText() const {
 }
 
 TableColumns frmData2::ColumnsOfSet() const {
-    return TableColumns(set_->Quantities(), Globals().IncludeDigits, set_->HasTies());
+    return TableColumns(set_->Quantities(), Globals().IncludeDigits, set_->HasTies(), ownSigns_);
 }
 
 /// Lays the columns out anew; cells keep their texts, and the empty columns of a printed table that

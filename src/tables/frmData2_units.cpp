@@ -1,6 +1,7 @@
 #include "tables/frmData2.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
@@ -34,12 +35,12 @@ void frmData2::AdjustUnits() {
     bool needsDigits = false;
     for (std::size_t place = 1; place <= rows.size(); ++place)
         needsDigits = needsDigits || adjusted->recData.Item(place)->isDigit;
-    if (needsDigits && !Globals().IncludeDigits) { // counts that the texts would not tell
-        table_.History().Do([](TableEdit&) {},
-                            [this](bool done) {
-                                Globals().IncludeDigits = done;
-                                FillHeader();
-                            });
+    std::function<void(bool)> digits; // counts that the texts would not tell
+    if (needsDigits && !Globals().IncludeDigits) {
+        digits = [this](bool done) {
+            Globals().IncludeDigits = done;
+            FillHeader();
+        };
     }
     const auto before = [this, statements = set_->UX, typed = rows_] {
         TakeUnits(nullptr, statements, typed);
@@ -52,7 +53,7 @@ void frmData2::AdjustUnits() {
                     edit.Cell(rows[i], column,
                               columns_.CellOf(*adjusted->recData.Item(i + 1), column));
         },
-        [before, after](bool done) { done ? after() : before(); });
+        [before, after](bool done) { done ? after() : before(); }, digits);
 }
 
 /// The set in system units: first these rows of the table, then the rows as they stood; null when

@@ -168,14 +168,15 @@ TEST_F(frmData2EditTest, OnlyATableThatHasChangedIsNotGivenUpUnasked) {
 TEST_F(frmData2EditTest, RowsAreInsertedAndRemovedWithAllThatBelongsToThem) {
     for (const char* t : {"275", "285", "295", "295"})
         AddRow(t, "999.8");
-    set->recData.Item(2)->Statements(0).Unc = "0.5"; // in no column
+    set->recData.Item(2)->Statements(0).Unc = "0.5";
     set->recData.Item(4)->Statements(0).Unc = "0.7";
     OpenTable();
     form_->tblData.SetFocus();
     form_->tblData.UserSelect({2, 0, 3, 0});
     Press("Ctrl++");
     EXPECT_EQ(form_->TableText(),
-              "275\t999.8\t0.1\n\t\t\n\t\t\n285\t999.8\t0.1\n295\t999.8\t0.1\n295\t999.8\t0.1\n");
+              "275\t999.8\t\t0.1\n\t\t\t\n\t\t\t\n285\t999.8\t0.5\t0.1\n295\t999.8\t\t0.1\n"
+              "295\t999.8\t0.7\t0.1\n");
     form_->tblData.UserCell(2, 0, "280");
     form_->tblData.UserCell(2, 1, "99x");
     EXPECT_EQ(Findings().substr(0, 5), "Row 2");

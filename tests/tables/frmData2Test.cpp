@@ -122,8 +122,9 @@ TEST_F(frmData2Test, EditedRowsKeepWhatTheTableDoesNotShow) {
     AddRow("310", "990.0");
     set->recData.Item(2)->Statements(0).Unc = "0.5";
     OpenTable();
-    EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;275|999.80|0.1;300|996.5|0.1;310|990.0|0.1;||;");
-    form_->tblData.Select({1, 0, 1, 2});
+    EXPECT_EQ(Cells(), "Var1|Property|Uncert.|KVO Uncert.;275|999.80||0.1;300|996.5|0.5|0.1;"
+                       "310|990.0||0.1;|||;");
+    form_->tblData.Select({1, 0, 1, 3});
     form_->tblData.UserKey(*std::make_unique<ui::Key>(ui::ParseKey("Delete")));
     form_->tblData.UserCell(3, 0, "311");
     form_->tblData.UserCell(2, 1, "996.50");
@@ -282,6 +283,11 @@ TEST_F(frmData2Test, FailedEvaluationIsForgottenWhenItsRowChanges) {
 
 TEST_F(frmData2Test, FigureThatIsNoNumberIsRefusedAndNotDropped) {
     OpenTable();
+    for (const char* quantity : {"Density?", "Temperature?"})
+        desktop.Expect("The last column of the block comes to stand under KVO Uncert., the figure "
+                       "of the evaluation\nIs it the uncertainty of " +
+                           std::string(quantity),
+                       ui::Answer::No);
     Paste("275 999.8 0.5x");
     EXPECT_EQ(Findings(), "Row 1, KVO Uncert.: Invalid number. Correct it or clear the cell;");
     desktop.Expect("Invalid number\nCorrect it or clear the cell");
@@ -301,20 +307,21 @@ TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
     set->VAR2_UNIT = "bar";
     AddRow("25.0", "997.0");
     set->recData.Item(1)->Values[2] = "25";
-    set->recData.Item(1)->Statements(1).Unc = "0.05"; // in no column
+    set->recData.Item(1)->Statements(1).Unc = "0.05";
     set->recData.Item(1)->Statements(2).Unc = "1";
     set->UX[2].iDS = true;
     set->UX[2].DSValue = "2";
     OpenTable();
-    form_->tblData.UserCell(1, 3, "997.10");
+    form_->tblData.UserCell(1, 5, "997.10");
     form_->mnuSystemUnits.UserClick();
-    EXPECT_EQ(Cells(), "Var1|Digits|Var2|Digits|Dev.Spec.|Property|Digits|KVO Uncert.;"
-                       "298.2|4|2500|2||997.10|5|0.1;|||||||;");
+    EXPECT_EQ(Cells(), "Var1|Digits|Uncert.|Var2|Digits|Dev.Spec.|Uncert.|Property|Digits|"
+                       "KVO Uncert.;298.2|4|0.05|2500|2||100|997.10|5|0.1;|||||||||;");
     EXPECT_EQ(form_->lblColumns.Caption(), "Var1: Temperature, K    Var2: Pressure, kPa    "
                                            "Property: Density, kg/m3");
     EXPECT_FALSE(form_->mnuSystemUnits.Enabled());
     form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->tblData.Cell(1, 2), "25");
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "25"); // one step back, the columns of digits too
+    EXPECT_FALSE(globals.IncludeDigits);
     EXPECT_EQ(set->UX[2].DSValue, "2");
     EXPECT_TRUE(form_->mnuSystemUnits.Enabled());
     form_->mnuRedo.UserClick();
