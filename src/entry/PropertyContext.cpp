@@ -10,6 +10,7 @@
 #include "records/clsR.h"
 #include "reference/Conversions.h"
 #include "reference/UnitText.h"
+#include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 #include "ui/Form.h"
 #include "ui/Forms.h"
@@ -58,7 +59,7 @@ void TakeProperty(const StoredProperty& stored, const clsA& header) {
     globals.CurrentProperty = std::make_shared<clsProperty>();
     clsProperty& head = *globals.CurrentProperty;
     head.PropertyCode = stored.code;
-    head.ConversionCode = unit;
+    head.ConversionCode = CodeInField(unit, row.Unit);
     head.Factor = factor;
     // Absolute values. A set that states differences says so when its own chain is made.
     head.Relation = "A";
@@ -121,8 +122,8 @@ std::string UnitFault(const clsProperty& head) {
     // The operator's factor goes before the code and before the molar mass.
     if (head.Factor > 0) return {};
     const std::string& code = head.ConversionCode;
-    if (code == "*" || !IsKnownConversion(code) || ConversionFactor(code) <= 0)
-        return "Invalid conversion factor";
+    const std::string unit = UnitOfProperty(head.PropertyCode, Globals().DataContext);
+    if (code == "*" || ConversionFactor(code, unit) <= 0) return "Invalid conversion factor";
     // Per mass into per mole: without the molar mass every value would be 0.
     if (IsMassBased(code) && Globals().CurrentMethod->MMass <= 0)
         return "Molar mass of the compound is not known";

@@ -39,7 +39,7 @@ std::string PresentationOf(const ResultDefinition& definition) {
 void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::string& digits,
                          const std::string& typed) {
     if (!IsNumeric(typed)) return;
-    const ExportNumber number = ExportedValue(typed, {"S"});
+    const ExportNumber number = ExportedValue(typed, ExportUnit());
     xml.Element(element, number.text);
     xml.Element(digits, std::to_string(number.digits));
 }
@@ -54,7 +54,7 @@ const clsX* StatementsOf(const DataSet& set, const std::string& code) {
 }
 
 ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
-    return {conversion.code, conversion.factor, conversion.molarMass, converts};
+    return {conversion, converts};
 }
 
 // What stands behind a mark that is off is not stated, and says nothing about the rows either.
@@ -104,11 +104,10 @@ SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
     quantities[0].unit.difference = set.Relation() == "D";
     for (int n = 1; n <= set.nVar; ++n) {
         const auto place = static_cast<std::size_t>(n);
-        ExportUnit unit{set.VAR_UNIT(n), 0, 0, set.isOriginalUnit};
+        ExportUnit unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
         // Wavelengths have a rule of their own, for the schema wants nm and the system keeps
         // Angstroms.
         unit.wavelength = set.VARIABLE(n) == "WL";
-        if (!unit.wavelength) unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
         quantities[place] = {unit, set.UX[place], false};
     }
     for (Quantity& quantity : quantities)
@@ -160,7 +159,7 @@ void SetRows::ExportConstants(XmlWriter& xml) const {
     for (const std::string code : {"T", "P", "WL", "WF"}) {
         const std::string value = set.ConstantOf(code);
         if (value.empty()) continue;
-        ExportUnit unit{"S"};
+        ExportUnit unit;
         unit.wavelength = code == "WL";
         const ExportNumber number = ExportedValue(value, unit);
         const clsX* stated = StatementsOf(set, code);

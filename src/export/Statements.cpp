@@ -32,21 +32,12 @@ bool IsInNanometres(const ExportUnit& unit) {
     return unit.wavelength && unit.converts && unit.code == "nm";
 }
 
-/// What needs no conversion leaves digit by digit as typed.
-bool ChangesValues(const ExportUnit& unit) {
-    if (unit.wavelength) return !IsInNanometres(unit);
-    if (!unit.converts) return false;
-    return unit.factor > 0 || (!IsSystemUnit(unit.code) && unit.code != "*");
-}
-
-// A figure of an uncertainty in the unit in which the value leaves.
-double ConvertedDifference(double figure, const ExportUnit& unit) {
-    if (!ChangesValues(unit)) return figure;
-    const auto system = [&unit](double value) {
-        return unit.converts ? ToSystem(unit.code, value, unit.factor, unit.molarMass) : value;
-    };
-    // What an offset adds to both cancels.
-    return (system(figure) - system(0)) / (unit.wavelength ? AngstromsInNanometre : 1);
+/// How a value in this unit gets the one in which it leaves; what needs no conversion leaves digit
+/// by digit as typed.
+UnitConversion OnLeaving(const ExportUnit& unit) {
+    if (IsInNanometres(unit) || (!unit.wavelength && !unit.converts)) return {};
+    if (!unit.wavelength) return unit;
+    return {"*", (unit.converts ? unit.Difference(1) : 1) / AngstromsInNanometre};
 }
 
 // A sign in front is no digit.
@@ -62,38 +53,21 @@ std::string RoundedText(double figure) {
     return NumberText(Val(FormatValue(figure, digits)));
 }
 
-// One digit of 1 mmHg would make 0.1 kPa of 0.13 kPa: so many digits that the figure stays what it
-// is.
-std::string TrueText(double figure, int digits) {
-    constexpr double tolerance = 0.05; // of the figure
-    constexpr int mostDigits = 15;
-    const auto isOff = [&] {
-        return std::abs(Val(FormatValue(figure, digits)) - figure) > tolerance * figure;
-    };
-    while (digits < mostDigits && isOff())
-        ++digits;
-    return FormatValue(figure, digits);
-}
-
 // A statement as an absolute figure of the exported unit; empty when nothing is stated. Per cent
-// are of the entered value, whose unit may be another one than that of the figure. A figure of a
-// variable has the digits typed, which are those that its record keeps.
+// are of the entered value, whose unit may be another one than that of the figure.
 std::string Figure(std::string_view statement, std::string_view value, const ExportUnit& ofValue,
-                   const ExportUnit& ofFigure, bool ofProperty = false) {
+                   const ExportUnit& ofFigure) {
     std::string text = WithoutPlus(NormalizeNumber(statement));
     if (text.ends_with('%')) {
         text.pop_back();
         if (!IsNumeric(text)) return {};
         const double figure = Val(text) * Val(NormalizeNumber(value)) / 100;
-        return RoundedText(std::abs(ConvertedDifference(figure, ofValue)));
+        return RoundedText(std::abs(OnLeaving(ofValue).Difference(figure)));
     }
     if (!IsNumeric(text)) return {};
     // An uncertainty has no sign; one typed with it is meant by its size.
     if (text.starts_with('-')) text.erase(0, 1);
-    if (!ChangesValues(ofFigure)) return text;
-    const double figure = std::abs(ConvertedDifference(Val(text), ofFigure));
-    const int digits = SignificantDigits(text);
-    return ofProperty ? TrueText(figure, digits) : FormatValue(figure, digits);
+    return OnLeaving(ofFigure).DifferenceText(text);
 }
 
 void ExportLevel(XmlWriter& xml, std::string_view element, std::string_view level) {
@@ -184,32 +158,17 @@ void WithNumber(XmlWriter& xml, const std::string& group, std::string_view numbe
 
 std::string ConversionFault(const ExportUnit& unit) {
     if (!unit.converts || unit.factor > 0) return {};
-    if (unit.code == "*" || !IsKnownConversion(unit.code)) return "Invalid conversion factor";
-    if (IsMassBased(unit.code) && unit.molarMass <= 0) {
-        return "Molar mass of the compound is not known";
-    }
-    return {};
+    if (unit.code == "*" || !IsConversionOf(unit.code, unit.unit))
+        return "Invalid conversion factor";
+    return unit.IsPossible() ? "" : "Molar mass of the compound is not known";
 }
 
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count) {
-    std::string text = WithoutPlus(NormalizeNumber(typed));
-    const int ofText = SignificantDigits(text);
+    const std::string text = WithoutPlus(NormalizeNumber(typed));
     // The recorded count goes before the text: the operator may have stated it.
-    int digits = count > 0 ? count : ofText;
-    if (!ChangesValues(unit)) return {std::move(text), std::max(1, digits)};
-    const bool isAbsolute = !unit.difference && !unit.wavelength;
-    const double value = isAbsolute ? ToSystem(unit.code, Val(text), unit.factor, unit.molarMass)
-                                    : ConvertedDifference(Val(text), unit);
-    // A zero has no first digit to count from.
-    if (value == 0) return {std::move(text), std::max(1, digits)};
-    // Digits that an offset adds or takes away; the others are as recorded.
-    if (isAbsolute) {
-        const int shown = ConvertedDigits(text, unit.factor > 0 ? "" : unit.code, value);
-        digits = ofText == 0 ? shown : digits + shown - ofText;
-    }
+    ConvertedNumber number = OnLeaving(unit).Converted(text, count, unit.difference);
     // The schema knows no count of 0.
-    digits = std::max(1, digits);
-    return {FormatValue(value, digits), digits};
+    return {std::move(number.text), std::max(1, number.digits)};
 }
 
 // Combined, author's, repeatability, device: the order of the schema.
@@ -247,8 +206,8 @@ bool ExportStatements(XmlWriter& xml, const clsX& item, std::string_view role,
     static const RowStatements none;
     const RowStatements& own = row ? row->statements : none;
     const auto figure = [&](const std::string& statement, std::string_view ofRow = {}) {
-        const std::string text = Figure(ofRow, value, unit, unit, ofProperty);
-        return text.empty() ? Figure(statement, value, unit, ofSet, ofProperty) : text;
+        const std::string text = Figure(ofRow, value, unit, unit);
+        return text.empty() ? Figure(statement, value, unit, ofSet) : text;
     };
     if (ofProperty && HasCombined(item)) {
         WithNumber(xml, "CombinedUncertainty", "nCombUncertAssessNum",

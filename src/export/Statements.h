@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "records/UnitConversion.h"
+
 namespace vexora {
 
 class clsX;
@@ -13,10 +15,7 @@ struct RowStatements;
 /// mass [g/mol] for units by mass. converts is false for values that already are in system units.
 /// Of a value as it stands in its record; the unit in which it leaves is the system unit (nm for
 /// wavelengths).
-struct ExportUnit {
-    std::string code;
-    double factor = 0;
-    double molarMass = 0;
+struct ExportUnit : UnitConversion {
     bool converts = false;
     bool wavelength = false; // leaves in nm: what was entered in nm as typed, system units by 10
     bool difference = false; // the values are differences, so that an offset of the unit cancels

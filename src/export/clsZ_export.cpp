@@ -31,12 +31,12 @@ void ExportProperty(XmlWriter& xml, const clsZ& value, const std::string& group)
 }
 
 ExportUnit PropertyUnitOf(const clsZ& value) {
-    return {value.PROPERTY_UNIT, value.Factor, value.MolarMass(), value.isOriginalUnit};
+    return {value.PropertyConversion(), value.isOriginalUnit};
 }
 
 /// A variable is intensive and needs no molar mass.
 ExportUnit VariableUnitOf(const clsZ& value) {
-    ExportUnit unit{value.VARIABLE_UNIT, 0, 0, value.isOriginalUnit};
+    ExportUnit unit{value.VariableConversion(1), value.isOriginalUnit};
     unit.wavelength = value.Variable() == "WL";
     return unit;
 }

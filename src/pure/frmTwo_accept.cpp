@@ -122,7 +122,8 @@ bool frmTwo::CheckUnits() {
     if (!Globals().OriginalUnits) return true;
     for (int n = 1; n <= Globals().VariableCount; ++n) {
         const std::string code = UnitCodeOf(n);
-        if (IsKnownConversion(code) && ConversionFactor(code) > 0) continue;
+        const std::string unit = UnitOfVariable(VariableOf(n == 1 ? cboVar1 : cboVar2));
+        if (ConversionFactor(code, unit) > 0) continue;
         return Refuse(n == 1 ? lstVariable_Unit : lstVar2_Unit, "Invalid conversion factor");
     }
     return true;

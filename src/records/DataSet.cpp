@@ -5,6 +5,7 @@
 #include "records/SetLines.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
 
 namespace vexora {
 
@@ -73,6 +74,7 @@ bool DataSet::LoadRowStatements(std::string_view line) {
 
 void DataSet::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
+    PROPERTY_UNIT = KeptField(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()));
     if (pending.Factor <= 0) return;
     if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
     // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
@@ -112,7 +114,8 @@ void DataSet::PrintHead(LineWriter& out) const {
     if (isOriginalUnit) {
         double factor = Factor;
         if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
-            factor = FactorOfLongUnit(PROPERTY_UNIT, *this, Owner());
+            factor = FactorOfLongUnit(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()), *this,
+                                      Owner());
         if (factor > 0) PrintFactor(out, factor);
     }
     out.Line(DefinitionLine());
@@ -136,7 +139,8 @@ void DataSet::PrintRows(LineWriter& out) const {
     for (int n = 1; n <= nVar; ++n) {
         const std::string& code = VAR_UNIT(n);
         if (!isOriginalUnit || !IsUnitLong(code)) continue;
-        units[static_cast<std::size_t>(n)].factor = FactorOfLongUnit(code, *this, Owner());
+        units[static_cast<std::size_t>(n)].factor =
+            FactorOfLongUnit(code, UnitOfVariable(VARIABLE(n)), *this, Owner());
         converts = true;
     }
     for (const clsData& row : recData) {

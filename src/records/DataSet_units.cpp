@@ -1,13 +1,18 @@
 #include "records/DataSet.h"
 
 #include "reference/Conversions.h"
+#include "reference/Vocabulary.h"
+
+#include <utility>
 
 namespace vexora {
 
 UnitConversion DataSet::PropertyConversion(double molarMass) const {
     if (Relation() == "R") return {}; // a ratio has no unit
     const bool byMass = Factor <= 0 && IsMassBased(PROPERTY_UNIT);
-    return {PROPERTY_UNIT, Factor, byMass ? molarMass : 0};
+    std::string unit = UnitOfProperty(PRPCODE, DataContext());
+    std::string code(CodeInField(PROPERTY_UNIT, unit));
+    return {std::move(code), Factor, byMass ? molarMass : 0, std::move(unit)};
 }
 
 UnitConversion DataSet::PropertyConversion() const {
@@ -19,10 +24,11 @@ UnitConversion DataSet::PropertyConversion(const clsData& row) const {
 }
 
 UnitConversion DataSet::VariableConversion(int n) const {
-    const std::string& code = VAR_UNIT(n);
+    std::string unit = UnitOfVariable(VARIABLE(n));
+    std::string code(CodeInField(VAR_UNIT(n), unit));
     // The factor is looked up once here, not for every row.
-    const double factor = IsUnitLong(code) ? ConversionFactor(code) : 0;
-    return {code, factor};
+    const double factor = IsUnitLong(code) ? ConversionFactor(code, unit) : 0;
+    return {std::move(code), factor, 0, std::move(unit)};
 }
 
 bool DataSet::AdjustUnits() {

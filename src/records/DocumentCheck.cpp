@@ -76,22 +76,25 @@ void CheckLimits(const std::string& code, double system, Remarks& remarks,
         remarks.Warn(words + " is suspicious");
 }
 
-// "*" says nothing without a factor of its own.
-bool IsUsableUnit(const std::string& code) {
-    return code != "*" && IsKnownConversion(code);
+// What is wrong with a unit; empty when nothing is. "*" says nothing without a factor of its own.
+std::string UnitFault(const UnitConversion& entered) {
+    if (entered.factor > 0) return {};
+    if (entered.code == "*" || !IsKnownConversion(entered.code))
+        return "unknown unit " + entered.code;
+    if (IsConversionOf(entered.code, entered.unit)) return {};
+    return "Invalid conversion factor: " + entered.code + " is no unit of " + entered.unit;
 }
 
 void CheckVariable(const clsZ& value, Remarks& remarks, const std::string& property) {
     const std::string name = property + ": " + VariableName(value.Variable(), value.DataContext());
-    const std::string unit = value.isOriginalUnit ? value.VAR_UNIT(1) : "S";
+    const UnitConversion entered = value.VariableConversion(1);
+    const std::string fault = UnitFault(entered);
     if (!IsNumeric(value.INDVARIABLE)) {
         remarks.Error(property + ": the variable is no number: " + value.INDVARIABLE);
-    } else if (!IsUsableUnit(unit)) {
-        remarks.Error(name + ": unknown unit " + unit);
+    } else if (!fault.empty()) {
+        remarks.Error(name + ": " + fault);
     } else {
-        // State variables know neither a factor nor a unit by mass.
-        const double system = ToSystem(unit, Val(value.INDVARIABLE), 0, 0);
-        CheckLimits(value.Variable(), system, remarks, name);
+        CheckLimits(value.Variable(), entered.Absolute(Val(value.INDVARIABLE)), remarks, name);
     }
 }
 
@@ -104,10 +107,11 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
     const std::string name = PropertyName(value.PRPCODE, value.DataContext());
     CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
     if (value.nVar == 1) CheckVariable(value, remarks, name);
+    const std::string fault = UnitFault(value.PropertyConversion());
     if (!IsNumeric(value.PRPVALUE)) {
         remarks.Error(name + ": the value is no number: " + value.PRPVALUE);
-    } else if (value.isOriginalUnit && value.Factor <= 0 && !IsUsableUnit(value.PROPERTY_UNIT)) {
-        remarks.Error(name + ": unknown unit " + value.PROPERTY_UNIT);
+    } else if (!fault.empty()) {
+        remarks.Error(name + ": " + fault);
     } else if (value.NeedsMolarMass() && value.MolarMass() <= 0) {
         remarks.Error(name + ": the molar mass of the compound is not known");
     } else {
@@ -168,13 +172,11 @@ void CheckColumn(const DataSet& set, int n, const std::string& name, Remarks& re
 }
 
 void CheckUnit(const DataSet& set, int n, const std::string& name, Remarks& remarks) {
-    const std::string& unit = n == 0 ? set.PROPERTY_UNIT : set.VAR_UNIT(n);
-    // Values in the system unit, and those with a factor, need no code to be understood.
-    const bool isFree = !set.isOriginalUnit || (n == 0 && set.Factor > 0);
-    if (isFree || IsKnownConversion(unit))
+    const std::string fault = set.isOriginalUnit ? UnitFault(set.Conversion(n)) : "";
+    if (fault.empty())
         CheckColumn(set, n, name, remarks);
     else
-        remarks.Error(name + ": unknown unit " + unit);
+        remarks.Error(name + ": " + fault);
 }
 
 /// What all kinds of sets are checked for, once their own line has been.

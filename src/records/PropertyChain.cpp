@@ -27,10 +27,10 @@ std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& 
                                     double factor) {
     auto head = std::make_shared<clsProperty>();
     head->PropertyCode = code;
-    head->ConversionCode = unit;
+    const auto row = FindProperty(code);
+    head->ConversionCode = CodeInField(unit, row ? row->Unit : "");
     head->Factor = factor;
     head->Relation = "A";
-    const auto row = FindProperty(code);
     // A code that no table has reads as itself.
     head->Name = row ? WithUnit(row->Property, row->Unit) : code;
     return head;
@@ -39,9 +39,9 @@ std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& 
 std::shared_ptr<clsProperty> VariableItem(const std::string& code, const std::string& unit) {
     auto item = std::make_shared<clsProperty>();
     item->PropertyCode = code;
-    item->ConversionCode = unit;
-    item->Relation = "A";
     const auto row = FindVariable(code);
+    item->ConversionCode = CodeInField(unit, row ? row->Unit : "");
+    item->Relation = "A";
     item->Name = row ? WithUnit(row->IndVariable, row->Unit) : code;
     return item;
 }
@@ -107,20 +107,15 @@ void NameConstraints(DataSet& set) {
 } // namespace
 
 void PrecisionInEnteredUnit(clsProperty& item, double molarMass) {
-    if (item.Relation == "R" || !IsNumeric(item.PrecisionText)) return;
+    if (item.Relation == "R") return;
     const UnitConversion unit{item.ConversionCode, item.Factor, molarMass};
-    // Units differ by a factor once the zero point is out of it, so one unit tells all.
-    const double one = unit.ChangesValues() ? unit.Difference(1) : 1;
-    if (one == 0 || one == 1) return;
-    item.PrecisionText =
-        FormatValue(Val(item.PrecisionText) / one, SignificantDigits(item.PrecisionText));
+    item.PrecisionText = unit.EnteredDifferenceText(item.PrecisionText);
 }
 
 std::string EnteredStatement(std::string_view text, std::string_view unitCode, bool inSystemUnit) {
-    if (!inSystemUnit || !IsNumeric(text) || IsSystemUnit(unitCode)) return std::string(text);
-    const double one = ToSystem(unitCode, 1, 0, 0) - ToSystem(unitCode, 0, 0, 0);
-    if (one == 0 || one == 1) return std::string(text);
-    return FormatValue(Val(text) / one, SignificantDigits(text));
+    const std::string stated(text);
+    return inSystemUnit ? UnitConversion{std::string(unitCode)}.EnteredDifferenceText(stated)
+                        : stated;
 }
 
 clsX InEnteredUnit(const clsX& item, std::string_view unitCode) {

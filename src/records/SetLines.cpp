@@ -31,8 +31,13 @@ std::string UnitField(std::string_view code) {
     return IsUnitLetter(code) ? std::string(code) : "S";
 }
 
-double FactorOfLongUnit(std::string_view code, const Record& set, const Record* parent) {
-    const double factor = ConversionFactor(code);
+std::string KeptField(std::string_view field, std::string_view unit) {
+    return std::string(IsUnitLong(field) ? CodeInField(field, unit) : field);
+}
+
+double FactorOfLongUnit(std::string_view code, std::string_view unit, const Record& set,
+                        const Record* parent) {
+    const double factor = ConversionFactor(code, unit);
     if (factor != 0) return factor;
     throw SaveRefused("Invalid conversion factor: " + std::string(code) + "\n" +
                       (parent ? parent->Key() + "\n" : std::string()) + set.ShowKey());

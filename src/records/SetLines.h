@@ -25,10 +25,13 @@ std::string PhasesInBrief(std::initializer_list<std::string_view> phases);
 /// What the unit field of a record line holds: letters stay, all else stands as system unit.
 /// The field has room for one letter; what a named or numeric unit means goes in front, as ^M.
 std::string UnitField(std::string_view code);
-/// Factor of a unit that has no letter. Throws SaveRefused, which names the set and its parent, for
-/// a unit that has none.
-/// A factor of 0 in the file would make every value 0 at the next load.
-double FactorOfLongUnit(std::string_view code, const Record& set, const Record* parent);
+/// A unit field as read: the text of the system unit itself counts as "S", and becomes it where it
+/// could not be written back, being no letter.
+std::string KeptField(std::string_view field, std::string_view unit);
+/// Factor of a unit that has no letter to this system unit. Throws SaveRefused, which names the set
+/// and its parent, for a unit that has none.
+double FactorOfLongUnit(std::string_view code, std::string_view unit, const Record& set,
+                        const Record* parent);
 /// The line that states a factor.
 void PrintFactor(LineWriter& out, double factor);
 

@@ -5,8 +5,10 @@
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/Vocabulary.h"
 
 #include <cmath>
+#include <utility>
 
 namespace vexora {
 
@@ -68,6 +70,7 @@ void SingleValue::AddX(const clsX& item) {
 
 void SingleValue::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
+    PROPERTY_UNIT = KeptField(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()));
     if (pending.Factor <= 0 || !isOriginalUnit) return;
     if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
     // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
@@ -87,7 +90,16 @@ void SingleValue::LoadValue(WordReader& words) {
 
 UnitConversion SingleValue::PropertyConversion() const {
     if (!isOriginalUnit) return {};
-    return {PROPERTY_UNIT, Factor, NeedsMolarMass() ? MolarMass() : 0};
+    std::string unit = UnitOfProperty(PRPCODE, DataContext());
+    std::string code(CodeInField(PROPERTY_UNIT, unit));
+    return {std::move(code), Factor, NeedsMolarMass() ? MolarMass() : 0, std::move(unit)};
+}
+
+UnitConversion SingleValue::VariableConversion(int n) const {
+    if (!isOriginalUnit) return {};
+    std::string unit = UnitOfVariable(VARIABLE(n));
+    const std::string field = VAR_UNIT(n);
+    return {std::string(CodeInField(field, unit)), 0, 0, unit};
 }
 
 double SingleValue::SystemValue() const {
@@ -126,7 +138,8 @@ bool SingleValue::PrintFactor(LineWriter& out) const {
     if (!isOriginalUnit) return false;
     double factor = Factor;
     if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
-        factor = FactorOfLongUnit(PROPERTY_UNIT, *this, Owner());
+        factor =
+            FactorOfLongUnit(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()), *this, Owner());
     if (factor <= 0) return false;
     vexora::PrintFactor(out, factor);
     return true;
@@ -153,7 +166,7 @@ std::string SingleValue::CommentForRecord() const {
 std::string SingleValue::SystemPrecision(const std::string& code, const std::string& typed) const {
     if (PRPCODE == code) return PropertyConversion().DifferenceText(typed);
     for (int n = 1; n <= VariableCount(); ++n)
-        if (code == VARIABLE(n)) return UnitConversion{VAR_UNIT(n)}.DifferenceText(typed);
+        if (code == VARIABLE(n)) return VariableConversion(n).DifferenceText(typed);
     return typed;
 }
 

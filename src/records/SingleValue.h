@@ -71,6 +71,8 @@ public:
 
     /// The conversion of the property as entered; none in system units.
     UnitConversion PropertyConversion() const;
+    /// The same of variable n.
+    UnitConversion VariableConversion(int n) const;
     /// Value of the property in the system unit, 0 when it cannot be converted.
     double SystemValue() const;
     /// The unit is based on mass, so that the molar mass stands in front of the value.

@@ -33,14 +33,6 @@ int WrittenCount(std::string_view digits) {
     return static_cast<int>(std::clamp<std::int64_t>(ToInteger(Val(digits)), 0, MostDigits));
 }
 
-/// Digits of an entered value once it is converted: the offset of a temperature unit may add some
-/// in front of the point.
-int ShownDigits(std::string_view typed, int count, const std::string& unit, double converted) {
-    const int shown = ConvertedDigits(typed, unit, converted);
-    const int ofText = SignificantDigits(typed);
-    return ofText == 0 ? shown : count + shown - ofText;
-}
-
 } // namespace
 
 bool RowStatements::IsEmpty() const {
@@ -164,17 +156,10 @@ void clsData::Convert(int n, const UnitConversion& unit, bool isDifference) {
         if (Extras) Extras->userCU = unit.DifferenceText(Extras->userCU);
         if (Extras) Extras->CD = unit.DifferenceText(Extras->CD);
     }
-    ShortText& text = Values[place];
-    if (!IsNumeric(text)) return;
-    const double typed = Val(text);
-    const double system = isDifference ? unit.Difference(typed) : unit.Absolute(typed);
-    // "0.00" would lose its digits; and a unit that is not known must not wipe the value out.
-    if (system == 0) return;
-    int digits = DigitCount(n);
-    // Only scales with a zero point of their own shift digits, and a factor has none.
-    if (!isDifference && unit.factor <= 0) digits = ShownDigits(text, digits, unit.code, system);
-    text = FormatValue(system, digits);
-    RecordDigits(place, digits);
+    if (!IsNumeric(Values[place])) return;
+    const ConvertedNumber number = unit.Converted(Values[place], DigitCount(n), isDifference);
+    Values[place] = number.text;
+    RecordDigits(place, number.digits);
 }
 
 void clsData::RecordDigits(std::size_t n, int digits) {

@@ -113,6 +113,8 @@ void clsTwo::TakePending(const clsA& pending) {
     // Only here, for the comment comes in front of the line and with the header.
     const std::string stated = CommentTags(Header.DATACOMMENT).TrimmedValue("V1");
     if (nVar == 1 && !stated.empty()) VARIABLE1 = stated;
+    VAR1_UNIT = KeptField(VAR1_UNIT, UnitOfVariable(VARIABLE1));
+    VAR2_UNIT = KeptField(VAR2_UNIT, UnitOfVariable(VARIABLE2));
 }
 
 std::string clsTwo::Key() const {

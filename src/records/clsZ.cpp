@@ -24,10 +24,9 @@ std::pair<std::string, std::string> VariableFields(const clsZ& value) {
     const ShortText& code = value.VARIABLE_UNIT;
     if (!IsUnitLong(code)) return {value.INDVARIABLE, code};
     if (!value.isOriginalUnit) return {value.INDVARIABLE, "S"};
-    // For its refusal: what cannot be converted must not be written as 0.
-    FactorOfLongUnit(code, value, value.Parent);
-    const double system = ToSystem(code, Val(value.INDVARIABLE), 0, 0);
-    return {FormatConverted(value.INDVARIABLE, code, system), "S"};
+    // The factor is asked for its refusal: what cannot be converted must not be written as 0.
+    FactorOfLongUnit(code, UnitOfVariable(value.Variable()), value, value.Parent);
+    return {value.VariableConversion(1).Converted(value.INDVARIABLE).text, "S"};
 }
 
 } // namespace
@@ -47,7 +46,7 @@ bool clsZ::Load(std::string_view line) {
         PHASE3 = NextPhase(words);
     } else {
         INDVARIABLE = NextField(words);
-        VARIABLE_UNIT = NextField(words);
+        VARIABLE_UNIT = KeptField(NextField(words), UnitOfVariable(Variable()));
     }
     if (words.AtEnd()) return false;
     LoadValue(words);

@@ -166,7 +166,9 @@ double FromSystem(std::string_view code, double value, double factor, double mol
 }
 
 double ConversionFactor(std::string_view code, std::string_view unit) {
+    code = CodeInField(code, unit);
     if (IsIdentity(code)) return 1;
+    if (!IsConversionOf(code, unit)) return 0;
     if (const BuiltIn* builtIn = FindBuiltIn(code)) {
         if (IsTemperatureOffset(code)) return code == "C" ? 1 : 1 / 1.8;
         return Forward(*builtIn, 1, 1);
@@ -204,7 +206,18 @@ bool IsUnitLong(std::string_view code) {
 }
 
 bool IsKnownConversion(std::string_view code) {
-    return IsIdentity(code) || ConversionFactor(code) != 0;
+    return IsConversionOf(code, {});
+}
+
+bool IsConversionOf(std::string_view code, std::string_view unit) {
+    if (IsIdentity(code)) return true;
+    if (IsNumeric(code)) return Val(code) != 0;
+    if (unit.empty()) return FindBuiltIn(code) || RowFactor(code, {}) != 0;
+    return RowFactor(code, unit) != 0;
+}
+
+std::string_view CodeInField(std::string_view field, std::string_view unit) {
+    return !field.empty() && field == unit ? "S" : field;
 }
 
 std::string ConversionText(std::string& code, std::string_view unit, std::string_view context) {

@@ -24,6 +24,7 @@ double FromSystem(std::string_view code, double value, double factor, double mol
 /// mass-based), the number that the code itself is, or the row's FACTOR (of this system unit, when
 /// one is named); 0 if there is none, 1 for a code that means the system unit.
 /// For "C" and "F" it is the width of one degree in kelvin, without the offset.
+/// With a system unit named, 0 for a code that is no unit of that quantity.
 double ConversionFactor(std::string_view code, std::string_view unit = {});
 
 /// The codes whose constants stand in the program, in their order.
@@ -43,6 +44,13 @@ bool IsUnitLetter(std::string_view code);
 bool IsUnitLong(std::string_view code);
 /// True when ToSystem knows the code, by heart or by a row.
 bool IsKnownConversion(std::string_view code);
+/// True when values of a quantity with this system unit may stand in the code: "K" is kgf/cm2, and
+/// so no unit of a temperature. It takes a row for both, but for a number and for what leaves
+/// values as they are. Without a system unit, IsKnownConversion.
+bool IsConversionOf(std::string_view code, std::string_view unit);
+/// The code that a unit field stands for: "S" for the text of the system unit itself, else as it
+/// is.
+std::string_view CodeInField(std::string_view field, std::string_view unit);
 
 /// The unit text of a code, of this system unit when one is named; "" if there is none. "X" is
 /// always "*8.31451". In the context "React" a code with a blank that has no row gets its old first

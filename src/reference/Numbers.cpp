@@ -245,11 +245,13 @@ int TemperatureDigits(std::string_view text, std::string_view unitCode) {
     return digits + (v < 1 ? 3 : v < 10 ? 2 : v < 100 ? 1 : 0);
 }
 
-int ConvertedDigits(std::string_view typed, std::string_view unitCode, double converted) {
-    const int digits = TemperatureDigits(typed, unitCode);
-    if (!HasOffset(unitCode)) return digits;
-    // Of 0.05 only one digit is significant, yet its second decimal was measured: 273.20 K.
-    return std::max(digits, IntegerDigits(converted) + DecimalPlaces(typed));
+double LastPlace(std::string_view text) {
+    text = TrimBlanks(text);
+    const std::size_t e = std::min(text.find_first_of("eE"), text.size());
+    const std::size_t point = text.substr(0, e).find('.');
+    const auto places = point < e ? static_cast<double>(e - 1 - point) : 0.0;
+    const double exponent = e < text.size() ? Val(text.substr(e + 1)) : 0;
+    return std::pow(10.0, exponent - places);
 }
 
 std::string FormatDigits(std::string_view text, int digits) {
@@ -259,11 +261,6 @@ std::string FormatDigits(std::string_view text, int digits) {
 std::string FormatValue(double v, int digits) {
     if (digits == 0) digits = SignificantDigits(NumberText(v));
     return FormatFixed(v, std::max(0, digits - IntegerDigits(v)));
-}
-
-std::string FormatConverted(std::string_view typed, std::string_view unitCode, double converted) {
-    if (converted == 0) return std::string(typed);
-    return FormatValue(converted, ConvertedDigits(typed, unitCode, converted));
 }
 
 } // namespace vexora

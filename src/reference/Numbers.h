@@ -48,9 +48,8 @@ int SignificantDigits(std::string_view text);
 /// to kelvin adds.
 /// 25.0 in degrees Celsius has three digits; 298.2 K, with the same decimals, has four.
 int TemperatureDigits(std::string_view text, std::string_view unitCode);
-/// Digits to show for `converted`, made from `typed` in unit `unitCode`: TemperatureDigits for "C"
-/// and "F", and then at least as many decimals as were typed; else SignificantDigits.
-int ConvertedDigits(std::string_view typed, std::string_view unitCode, double converted);
+/// One unit of the last digit shown: 0.01 for "1.25", 1 for "1200", 10 for "7.6e2".
+double LastPlace(std::string_view text);
 
 /// The value of the text at `digits` significant digits (0: as many as the text has). Integer
 /// digits are never zeroed, no exponent is ever used.
@@ -58,8 +57,5 @@ int ConvertedDigits(std::string_view typed, std::string_view unitCode, double co
 std::string FormatDigits(std::string_view text, int digits);
 /// Same for a double; 0 digits: as many as NumberText shows.
 std::string FormatValue(double v, int digits);
-/// A converted value printed at ConvertedDigits; exactly 0 keeps the typed text.
-/// A converted 0 has no digits to count from, so it stays as typed.
-std::string FormatConverted(std::string_view typed, std::string_view unitCode, double converted);
 
 } // namespace vexora

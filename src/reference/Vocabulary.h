@@ -114,6 +114,9 @@ std::string PropertyName(std::string_view code, std::string_view context = {},
 bool PropertyValid(std::string_view code);
 /// System unit of a property or variable name.
 std::string DefaultUnit(std::string_view name);
+/// System unit of a property or variable code; empty when no table knows it.
+std::string UnitOfProperty(std::string_view code, std::string_view context = {});
+std::string UnitOfVariable(std::string_view code);
 /// Class of the property where the mode ("Single", "Fixed", "One", "Two") is open to it, else "".
 std::string PureAvailable(std::string_view code, std::string_view mode);
 /// Class of the property where the mode ("MixZ", "MixV") is open to it, else "".

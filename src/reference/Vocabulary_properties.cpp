@@ -118,6 +118,16 @@ std::string DefaultUnit(std::string_view name) {
     return variable ? variable->Unit : std::string();
 }
 
+std::string UnitOfProperty(std::string_view code, std::string_view context) {
+    const PropertyRow* row = FindProperty(code, context);
+    return row ? row->Unit : std::string();
+}
+
+std::string UnitOfVariable(std::string_view code) {
+    const VariableRow* row = FindVariable(code);
+    return row ? row->Unit : std::string();
+}
+
 std::string PureAvailable(std::string_view code, std::string_view mode) {
     return TextWhere(code, mode, PureModes, &PropertyRow::PureAvail);
 }

@@ -62,8 +62,9 @@ std::string ValueText(const clsZ& value) {
 std::string ConvertedText(const clsZ& value) {
     const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, value.DataContext()));
     if (PropertyLabels::Of(value).unit == unit || !IsNumeric(value.PRPVALUE)) return {};
-    return NumberWithUnit(FormatConverted(value.PRPVALUE, value.PROPERTY_UNIT, value.SystemValue()),
-                          unit);
+    const UnitConversion entered = value.PropertyConversion();
+    if (!entered.IsPossible()) return {};
+    return NumberWithUnit(entered.Converted(value.PRPVALUE).text, unit);
 }
 
 std::string VariableText(const clsZ& value) {

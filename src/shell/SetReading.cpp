@@ -37,7 +37,7 @@ std::string RangeOf(const DataSet& set, int n) {
         if (!IsNumeric(typed)) continue;
         const bool converts = inSystem && row.inOriginalUnits;
         const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
-        const std::string& text = converts ? FormatConverted(typed, entered.code, value) : typed;
+        const std::string text = converts ? entered.Converted(typed).text : typed;
         if (least.empty() || value < low) {
             low = value;
             least = text;

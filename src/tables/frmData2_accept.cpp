@@ -9,6 +9,7 @@
 #include "records/DataSet.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -57,8 +58,10 @@ bool frmData2::CheckUnits() {
     if (!original_) return true;
     for (const clsProperty* item = chain_.get(); item; item = item->NextItem.get()) {
         const std::string& code = item->ConversionCode;
-        const bool known = item->Factor > 0 ||
-                           (code != "*" && IsKnownConversion(code) && ConversionFactor(code) > 0);
+        const std::string unit = item == chain_.get()
+                                     ? UnitOfProperty(item->PropertyCode, set_->DataContext())
+                                     : UnitOfVariable(item->PropertyCode);
+        const bool known = item->Factor > 0 || (code != "*" && ConversionFactor(code, unit) > 0);
         if (known) continue;
         ui::Say("Invalid conversion factor");
         return false;

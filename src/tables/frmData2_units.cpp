@@ -19,6 +19,13 @@ bool AnyUnitChanges(const DataSet& set) {
     return any;
 }
 
+/// The cell of a row in system units. Of a value all digits: until Accept only the table holds
+/// them.
+std::string TurnedCell(const TableColumns& columns, const clsData& row, int column) {
+    if (columns[column].kind != TableColumn::Kind::Value) return columns.CellOf(row, column);
+    return row.Values.at(static_cast<std::size_t>(columns[column].item));
+}
+
 } // namespace
 
 /// Brings the table from the units of the paper to system units, in one step that can be undone.
@@ -51,7 +58,7 @@ void frmData2::AdjustUnits() {
             for (std::size_t i = 0; i < rows.size(); ++i)
                 for (int column = 0; column < columns_.Count(); ++column)
                     edit.Cell(rows[i], column,
-                              columns_.CellOf(*adjusted->recData.Item(i + 1), column));
+                              TurnedCell(columns_, *adjusted->recData.Item(i + 1), column));
         },
         [before, after](bool done) { done ? after() : before(); }, digits);
 }

@@ -135,7 +135,9 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
                                 value("^z 1 PC * 2 L G & 22") + value("^z 1 VDC S 1 Q9 G & 322") +
                                 value("^z 1 VC S 1 L G & a") + value("^f 1 VDN S 1 L -300 C 997") +
                                 value("^f 1 VDN S 2 L 20 nounit 997") +
-                                value("^z 1 QQQ S 1 L G & 1"));
+                                value("^z 1 QQQ S 1 L G & 1") + value("^z 1 TC K 4 L G & 500") +
+                                value("^f 1 VDN T 3 L 300 S 997") +
+                                value("^f 1 VDN S 4 L 300 T 997"));
     const Outcome outcome = Run("check doc.txt");
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.out, "");
@@ -147,7 +149,11 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
                            "doc.txt:17: error: Critical molar volume: the value is no number: a\n"
                            "doc.txt:19: error: Density: Temperature: value -26.85 is not valid\n"
                            "doc.txt:21: error: Density: Temperature: unknown unit nounit\n"
-                           "doc.txt:23: error: Unknown property QQQ\n");
+                           "doc.txt:23: error: Unknown property QQQ\n"
+                           "doc.txt:27: error: Density: Invalid conversion factor: T is no unit "
+                           "of kg/m3\n"
+                           "doc.txt:29: error: Density: Temperature: Invalid conversion factor: "
+                           "T is no unit of K\n");
 }
 
 TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {

@@ -44,7 +44,7 @@ TEST_F(SetExport, ValuesLeaveInSystemUnitsWithTheirDigits) {
     EXPECT_EQ(At(xml, "//eVarPhase"), "Liquid | Liquid");
     EXPECT_EQ(At(xml, "/Variable//VariableType"), "Temperature, K | Pressure, kPa");
     EXPECT_EQ(At(xml, "/PhaseID"), "Liquid");
-    EXPECT_EQ(At(xml, "//nVarValue"), "298.7 | 99.24 | 300 | 20.0 | 273.2 | 2500");
+    EXPECT_EQ(At(xml, "//nVarValue"), "298.65 | 99.24 | 300 | 20.0 | 273.15 | 2500");
     EXPECT_EQ(At(xml, "//nVarDigits"), "4 | 4 | 3 | 3 | 4 | 2");
     EXPECT_EQ(At(xml, "//nPropValue"), "996.5560 | 1005 | 997.0");
     EXPECT_EQ(At(xml, "//nPropDigits"), "7 | 4 | 4");

@@ -33,8 +33,12 @@ private:
         return Of({"0", "0.00", "25", "25.50", "-10.0", "1e-3", "1.50E+2", "997.05", "0.00120", "&",
                    "x", "12.", "-.5", "0012"});
     }
-    std::string Unit() {
-        return Of({"S", "D", "C", "F", "T", "L", "bar", "g/cm3", "0.5", "Z", "z", "&", "a", "K"});
+    /// A letter may stand anywhere; a unit without one is refused where it is none of the quantity.
+    std::string Unit(std::string_view code = {}) {
+        const bool isPressure = code == "P" || code == "PV";
+        if (isPressure && Below(4) == 0) return Of({"bar", "kPa"});
+        if (code == "VDN" && Below(4) == 0) return Of({"g/cm3", "kg/m3"});
+        return Of({"S", "D", "C", "F", "T", "L", "0.5", "Z", "z", "&", "a", "K"});
     }
     std::string Figure() { return Of({"&", "0.1", "0.10", "1%", "%", "few", "-0.2", "1e-2", "0"}); }
     std::string Level() { return Of({"&", "95", "68", "high"}); }
@@ -65,7 +69,8 @@ private:
     }
     std::string Value(int number) {
         const std::string code = Code();
-        const std::string front = " 1 " + code + " " + Unit() + " " + std::to_string(number) + " ";
+        const std::string front =
+            " 1 " + code + " " + Unit(code) + " " + std::to_string(number) + " ";
         const std::string back = " " + Number() + " " + Figure() + " " + Figure() + " " +
                                  Of({"&", "3", "3 4"}) + "\n" + Statements(code);
         if (Below(2) == 0)
@@ -75,11 +80,11 @@ private:
     std::string Set(int number) {
         const int variables = 1 + Below(2);
         const std::string code = Code();
-        std::string text = "^" + std::to_string(variables) + " 1 " + code + " " + Unit() + " " +
+        std::string text = "^" + std::to_string(variables) + " 1 " + code + " " + Unit(code) + " " +
                            Of({"DIR", "DFR", "MN", "RPH", "QQ"}) + " " + std::to_string(number) +
                            "\tY " + Phase() + " " + Phase() + " " + Of({"FP", "FT", "&"}) + " ";
         if (variables == 2) text += Of({"T", "WL"}) + " " + Unit() + " P ";
-        text += Unit() + " & & &\n" + Statements(code);
+        text += Unit(variables == 2 ? "P" : "") + " & & &\n" + Statements(code);
         for (int rows = Below(4); rows > 0; --rows)
             text += Row(variables);
         return text;

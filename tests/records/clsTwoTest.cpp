@@ -188,9 +188,9 @@ TEST_F(Sets, SystemUnitsKeepDigitsAndLeavePerCentAlone) {
     EXPECT_EQ(Saved(), once);
     EXPECT_EQ(once, "^A & O & & & & & ::Method:X:dT:0.5:dP:14:\n"
                     "^2 1 VDN v DIR 1\tY L & DP T C P L & & &\n"
-                    "^X 0 VDN & - & & & - & 1% & + & 0.02 - & & - & & &\n"
-                    "^D 298.7 69 15.97 0.002\n^Y 0.1 & & & 7 1% & & & & & & 0.003 &\n"
-                    "^D 300 100 996 &\n^G 273.2 4 172 2 16.02 4 &\n" +
+                    "^X 0 VDN & - & & & - & 1% & + & 0.016 - & & - & & &\n"
+                    "^G 298.65 4 69 2 15.9704 4 0.0016\n^Y 0.1 & & & 7 1% & & & & & & 0.003 &\n"
+                    "^D 300 100 996 &\n^G 273.15 4 172 2 16.02 4 &\n" +
                         kEnd);
 }
 
@@ -201,8 +201,8 @@ TEST_F(Sets, DifferencesLoseNoOffsetAndRatiosAreNotConverted) {
         EXPECT_TRUE(set.AdjustUnits());
         return std::string(set.Relation()) + " " + Row().PRPVALUE() + " " + Row().PRPUNCERTY;
     };
-    EXPECT_EQ(adjusted("DIR"), "A 298.7 0.5");
-    EXPECT_EQ(adjusted("MN"), "A 298.7 0.5");
+    EXPECT_EQ(adjusted("DIR"), "A 298.65 0.5");
+    EXPECT_EQ(adjusted("MN"), "A 298.65 0.5");
     EXPECT_EQ(adjusted("DFR"), "D 25.5 0.5");
     EXPECT_EQ(adjusted("DT"), "D 25.5 0.5");
     EXPECT_EQ(adjusted("RPH"), "R 25.5 0.5");

@@ -116,10 +116,14 @@ TEST(Numbers, TemperaturesKeepTheirDecimalPlaceInKelvin) {
     EXPECT_EQ(TemperatureDigits("0.5", "F"), 4);
     EXPECT_EQ(TemperatureDigits("125.5", "C"), 4);
     EXPECT_EQ(TemperatureDigits("25.5", "c"), 3);
-    EXPECT_EQ(FormatConverted("25.5", "C", 298.65), "298.7");
-    EXPECT_EQ(FormatConverted("0.0", "C", 273.15), "273.2");
-    EXPECT_EQ(FormatConverted("0.00", "T", 0), "0.00");
-    EXPECT_EQ(FormatConverted("760", "T", 101.32472), "101");
+}
+
+TEST(Numbers, TheLastPlaceFollowsPointAndExponent) {
+    const std::pair<const char*, double> cases[] = {{"1.25", 0.01},    {"1200", 1}, {" 0.0 ", 0.1},
+                                                    {"7.6e2", 10},     {"12.", 1},  {"1e-3", 0.001},
+                                                    {"-1.50E-2", 1e-4}};
+    for (const auto& [text, place] : cases)
+        EXPECT_DOUBLE_EQ(LastPlace(text), place) << text;
 }
 
 TEST(Numbers, FormatDigitsNeverZeroesDigitsOfTheIntegerPart) {

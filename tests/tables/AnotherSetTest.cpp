@@ -212,7 +212,7 @@ TEST_F(AnotherSet, GoesToSystemUnitsByTheMolarMassOfEachRow) {
     set.AdjustUnits();
     EXPECT_EQ(set.recData.Item(1)->PRPVALUE(), "0.01800"); // of 1 J/g
     EXPECT_EQ(set.recData.Item(2)->PRPVALUE(), "0.04600");
-    EXPECT_EQ(set.recData.Item(1)->VARIABLE(1), "298.2");
+    EXPECT_EQ(set.recData.Item(1)->VARIABLE(1), "298.15");
 }
 
 TEST_F(AnotherSet, LeavesWithItsVariablesPhasesAndRows) {

@@ -162,11 +162,21 @@ TEST_F(frmData2Test, MixedRowsAreEditedInSystemUnits) {
 }
 
 TEST_F(frmData2Test, UnitsThatCannotBeConvertedAreRefused) {
+    set->PRPCODE = "HVP";
     set->PROPERTY_UNIT = "B";
     OpenTable();
     Paste("275 999.8");
-    EXPECT_EQ(Findings(), ""); // nothing is known of the value
+    EXPECT_EQ(Findings(), "");                   // nothing is known of the value
     desktop.Expect("Molar mass of the compound is not known");
+    form_->cmdSave.UserClick();
+    EXPECT_TRUE(form_->IsOpen());
+}
+
+TEST_F(frmData2Test, UnitsOfAnotherQuantityAreRefused) {
+    set->PROPERTY_UNIT = "T"; // torr, of a density
+    OpenTable();
+    Paste("275 999.8");
+    desktop.Expect("Invalid conversion factor");
     form_->cmdSave.UserClick();
     EXPECT_TRUE(form_->IsOpen());
 }
@@ -315,7 +325,7 @@ TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
     form_->tblData.UserCell(1, 5, "997.10");
     form_->mnuSystemUnits.UserClick();
     EXPECT_EQ(Cells(), "Var1|Digits|Uncert.|Var2|Digits|Dev.Spec.|Uncert.|Property|Digits|"
-                       "KVO Uncert.;298.2|4|0.05|2500|2||100|997.10|5|0.1;|||||||||;");
+                       "KVO Uncert.;298.15|4|0.05|2500|2||100|997.10|5|0.1;|||||||||;");
     EXPECT_EQ(form_->lblColumns.Caption(), "Var1: Temperature, K    Var2: Pressure, kPa    "
                                            "Property: Density, kg/m3");
     EXPECT_FALSE(form_->mnuSystemUnits.Enabled());
@@ -327,7 +337,7 @@ TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
     form_->mnuRedo.UserClick();
     EXPECT_EQ(set->UX[2].DSValue, "200");
     Accept();
-    EXPECT_EQ(Rows(), "298.2 2500 997.10 0.1;");
+    EXPECT_EQ(Rows(), "298.15 2500 997.10 0.1;");
     const clsData& row = *set->recData.Item(1);
     EXPECT_FALSE(set->isOriginalUnit || row.inOriginalUnits);
     EXPECT_EQ(row.Digits[2], 2);
@@ -337,7 +347,7 @@ TEST_F(frmData2Test, TableGoesToSystemUnitsAndBack) {
 TEST_F(frmData2Test, StatementsAndUnitsAreTakenBackOneBehindTheOther) {
     set->VAR1_UNIT = "C";
     OpenTable();
-    Paste("25.0 997.05\n30.0 995.65");
+    Paste("25.00 997.05\n30.00 995.65");
     form_->mnuSystemUnits.UserClick();
     const auto state = [this](const char* value) {
         desktop.OnModal([this, value](ui::Form& form) {
@@ -354,18 +364,18 @@ TEST_F(frmData2Test, StatementsAndUnitsAreTakenBackOneBehindTheOther) {
     desktop.Expect("The entries in the column Uncert. go with its statement\nGo on?",
                    ui::Answer::Yes);
     state("");
-    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t\n303.2\t995.65\t\n");
+    EXPECT_EQ(form_->TableText(), "298.15\t997.05\t\n303.15\t995.65\t\n");
     form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t0.3\t\n303.2\t995.65\t\t\n");
+    EXPECT_EQ(form_->TableText(), "298.15\t997.05\t0.3\t\n303.15\t995.65\t\t\n");
     EXPECT_EQ(set->UX[0].UValue, "0.5");
     for (int i = 0; i < 3; ++i)
         form_->mnuUndo.UserClick();
-    EXPECT_EQ(form_->TableText(), "25.0\t997.05\t\n30.0\t995.65\t\n");
+    EXPECT_EQ(form_->TableText(), "25.00\t997.05\t\n30.00\t995.65\t\n");
     EXPECT_FALSE(set->UX[0].iUnc);
     EXPECT_NE(form_->lblColumns.Caption().find("Temperature, C"), std::string::npos);
     for (int i = 0; i < 3; ++i)
         form_->mnuRedo.UserClick();
-    EXPECT_EQ(form_->TableText(), "298.2\t997.05\t0.3\t\n303.2\t995.65\t\t\n");
+    EXPECT_EQ(form_->TableText(), "298.15\t997.05\t0.3\t\n303.15\t995.65\t\t\n");
     form_->cmdSave.UserClick();
     EXPECT_EQ(set->recData.Item(1)->StatementsOf(0).Unc, "0.3");
 }
