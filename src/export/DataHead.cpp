@@ -24,8 +24,8 @@ bool IsBoilingProperty(std::string_view code) {
     return code == "PV" || code == "TB" || code == "HVP";
 }
 
-/// A method of the tables leaves as one of the schema's texts, any other in the author's words;
-/// what the paper does not state is not guessed.
+/// A method of the tables leaves as one of the schema's texts, any other in the author's words or
+/// by its code; what the paper does not state is not guessed.
 void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& header) {
     const CommentTags tags(header.DATACOMMENT);
     const std::string code = tags.Value("Method");
@@ -33,15 +33,17 @@ void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& hea
     if (code.empty() || code == "OTHER") {
         xml.ElementIfAny("sMethodName", tags.TrimmedValue("sMethod"));
     } else {
-        xml.ElementIfAny("eMethodName", XMLMethod(code, propertyCode));
+        const std::string text = XMLMethod(code, propertyCode);
+        xml.Element(text.empty() ? "sMethodName" : "eMethodName", text.empty() ? code : text);
     }
 }
 
 } // namespace
 
 void TellDataError(const DataName& data, const std::string& fault) {
+    const std::string name = PropertyName(data.propertyCode, data.context);
     ui::Say(fault + "\nSystem: " + data.system +
-                "\nProperty: " + PropertyName(data.propertyCode, data.context),
+                "\nProperty: " + (name.empty() ? std::string(data.propertyCode) : name),
             "Data Error!");
 }
 

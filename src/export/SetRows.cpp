@@ -124,9 +124,10 @@ ExportUnit SetRows::UnitIn(const clsData& row, int n) const {
 }
 
 std::string SetRows::Fault(const std::string& group) const {
-    bool hasPlace = IsXmlName(group);
+    bool hasPlace = IsXmlName(group) && !XMLPropertyName(set.PRPCODE, set.DataContext()).empty();
     for (int n = 1; n <= set.nVar; ++n)
-        hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n)));
+        hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n))) &&
+                   !XMLVariableName(set.VARIABLE(n)).empty();
     if (!hasPlace) return NoPlaceInExport;
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;

@@ -72,7 +72,14 @@ void ExportValues(XmlWriter& xml, const clsZ& value) {
 // Why the value cannot leave, in words for the user; empty when it can.
 std::string FaultOf(const clsZ& value, const std::string& group) {
     const bool fixed = value.nVar == 1;
-    if (!IsXmlName(group) || (fixed && !IsXmlName(XMLVariableGroup(value.Variable()))))
+    const auto hasNoPlace = [](const std::string& element, const std::string& name) {
+        return !IsXmlName(element) || name.empty();
+    };
+    if (hasNoPlace(group, XMLPropertyName(value.PRPCODE, value.DataContext()))) {
+        return NoPlaceInExport;
+    }
+    const std::string variable = value.Variable();
+    if (fixed && hasNoPlace(XMLVariableGroup(variable), XMLVariableName(variable)))
         return NoPlaceInExport;
     const auto isNumber = [](const std::string& text) { return IsNumeric(NormalizeNumber(text)); };
     if (!isNumber(value.PRPVALUE)) return "The value is no number: " + value.PRPVALUE;

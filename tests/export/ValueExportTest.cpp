@@ -251,7 +251,7 @@ TEST_F(ValueExport, WhatCannotLeaveIsToldOnceAndTheRestGoesOn) {
         EXPECT_EQ(Values(lines + kHeader + good), OfProperty("22064", 5)) << lines;
     };
     skips("^z 1 QQQ S 1 L & & 1 & & &\n",
-          Fault("The reference tables have no place for these data in the export", ""));
+          Fault("The reference tables have no place for these data in the export", "QQQ"));
     skips("^z 1 TC S 1 L G & many & & &\n",
           Fault("The value is no number: many", "Critical temperature"));
     skips("^f 1 VDN S 1 L warm C 997 & & &\n", Fault("The variable is no number: warm", "Density"));

@@ -174,6 +174,17 @@ TEST_F(SetExport, SetsThatAreToHaveNoNumbersAreNamedOnceAtTheEnd) {
     EXPECT_EQ(At(Exported(none, ""), ""), "");
 }
 
+TEST_F(SetExport, CodesThatNoTableKnowsAreTold) {
+    const std::string noPlace = "The reference tables have no place for these data in the "
+                                "export\nSystem: water\nProperty: ";
+    desktop.Expect(noPlace + "Density | Data Error!");
+    EXPECT_EQ(At(Exported("^2 1 VDN S DIR 1\tY L & DP QX S P S & & &", "^d 1 2 250 &\n"), ""), "");
+    desktop.Expect(noPlace + "QQQ | Data Error!");
+    EXPECT_EQ(At(Exported("^1 1 QQQ S DIR 1\tY L & FP S & & &", "^d 25 250 &\n"), ""), "");
+    const std::string xml = Exported(kDensity, "^d 25 1 250 &\n", "::Method:OWNWAY:");
+    EXPECT_EQ(At(xml, "//sMethodName"), "OWNWAY");
+}
+
 TEST_F(SetExport, SetsAreCheckedAndReadInWords) {
     Read(test::kHead + "^A & O & & & & & &\n" + kDensity +
          "\n^d 25.0 100 997.05 &\n^d 10 100 -1 &\n^d 30 x 995 &\n^d 40 y 990 &\n^M 0\n");
