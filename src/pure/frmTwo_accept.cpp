@@ -79,6 +79,16 @@ private:
     std::size_t depth_;
 };
 
+/// What was stated about a constant is not true of what came in its place.
+void DropStatementsOfNoConstant(clsTwo& set) {
+    for (int n = set.nVar + 1; n < DataSet::Items; ++n) {
+        clsX& item = set.UX[static_cast<std::size_t>(n)];
+        if (item.PRPCODE.empty() || !set.ConstantOf(item.PRPCODE).empty()) continue;
+        item = clsX();
+        item.N = n;
+    }
+}
+
 } // namespace
 
 void frmTwo::Accept() {
@@ -175,6 +185,7 @@ std::shared_ptr<clsTwo> frmTwo::MakeSet() {
     WriteVariables(*set);
     WriteResults(*set);
     WriteComment(*set);
+    DropStatementsOfNoConstant(*set);
     NameStatements(*set);
     return set;
 }

@@ -367,6 +367,28 @@ TEST_F(frmTwoTest, ConstantGoesIntoItsTag) {
     EXPECT_EQ(Stored()->VAR1_UNIT + Stored()->PHASE2, "C&");
 }
 
+TEST_F(frmTwoTest, StatementsOfAConstantGoWithIt) {
+    auto& form = Choose("Density", "kg/m3", 1);
+    Pick(form.lstVariable_Unit, "C");
+    Pick(form.lstCONSTRAINT, "Single phase at fixed pressure");
+    form.txtVar3.UserReplaceAll("101.325");
+    Pick(form.lstPhase1, "Liquid");
+    Pick(form.lstNumerical, "No numerical data");
+    form.cmdOK.UserClick();
+    ASSERT_EQ(globals.CurrentS->recTwo.Count(), 1u);
+    Stored()->AddX(Statement("^X 2 P L - & & & - & & & + 95 0.2 - & & - & & &"));
+    const auto accept = [this](const char* pressure) {
+        auto& again = Edit(Stored());
+        again.txtVar3.UserReplaceAll(pressure);
+        again.cmdOK.UserClick();
+        EndEdit();
+    };
+    accept("101.3");
+    EXPECT_EQ(Stored()->UX[2].UValue, "0.2");
+    accept("");
+    EXPECT_EQ(Stored()->UX[2].UValue, "");
+}
+
 TEST_F(frmTwoTest, RepeatedSetTakesTheDefinitionAndNoMore) {
     const auto set = std::make_shared<clsTwo>();
     ASSERT_TRUE(set->Load("^2 2 VDN v RPF 3\tSGq L & DP T C P L 298.15 & C"));
