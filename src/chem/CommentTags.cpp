@@ -195,7 +195,7 @@ void CommentTags::ChangePrecisions(
 }
 
 std::string CommentDisplayText(std::string_view comment) {
-    CommentTags tags = CommentTags::OfTags(comment);
+    CommentTags tags(comment);
     tags.TakeFreeMethod();
     std::string text = tags.Stored();
     const std::size_t firstPrecision = text.find(":d");

@@ -91,7 +91,7 @@ void EncodeTags(const clsProperty& head) {
 }
 
 std::string TakeSMethod(std::string_view comment) {
-    CommentTags tags = CommentTags::OfTags(comment);
+    CommentTags tags(comment);
     Method().sMethod = tags.TakeFreeMethod();
     return tags.Stored();
 }
@@ -116,7 +116,11 @@ std::string BuildComment(std::string_view text, const clsProperty& head, std::st
     std::string tags = Method().KeySaved;
     // The empty pair opens the tags where no method does.
     if (Method().Method.empty()) tags.insert(1, ":Method:");
-    std::string comment = CommentTags(SingleLine(text)).Text();
+    std::string words = SingleLine(text);
+    // A doubled colon would open the tags and end the operator's words.
+    for (std::size_t at = words.find("::"); at != std::string::npos; at = words.find("::"))
+        words.insert(at + 1, " ");
+    std::string comment = CommentTags(words).Text();
     if (!comment.empty()) comment += " ";
     comment = AppendSMethod(comment + tags);
     if (!state.empty()) comment += std::string(state) + ":";

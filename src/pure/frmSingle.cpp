@@ -202,7 +202,7 @@ void frmSingle::TakeRecord(const clsZ& record) {
 
 /// A state that the form does not ask for stays among the tags.
 void frmSingle::ShowComment(const clsZ& record) {
-    CommentTags tags = CommentTags::OfTags(record.Header.DATACOMMENT);
+    CommentTags tags(record.Header.DATACOMMENT);
     const std::string state = frmConstraint.Visible() ? tags.TakeState() : "";
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
@@ -219,7 +219,7 @@ void frmSingle::ShowRecord(const clsZ& record) {
         ChoosePhase(lstPhase3, record.PHASE3);
     }
     txtIndVariable.Text(record.INDVARIABLE);
-    if (IsSystemUnit(record.VARIABLE_UNIT)) {
+    if (IsSystemUnit(CodeInField(record.VARIABLE_UNIT, variableUnit_))) {
         lstVariable_Unit.Index(0);
     } else if (record.isOriginalUnit) {
         std::string code = record.VARIABLE_UNIT;

@@ -30,7 +30,7 @@ protected:
         std::string text, state;
     };
     Reading Read(const std::string& comment, clsProperty& head) {
-        CommentTags whole = CommentTags::OfTags(comment);
+        CommentTags whole(comment);
         const std::string state = whole.TakeState();
         const CommentTags others(TakeSMethod(whole.Stored()));
         globals.CurrentMethod->KeySaved = others.Tags();
@@ -169,15 +169,26 @@ TEST_F(Tags, WhatWouldTearTheTagsApartNeverBecomesOne) {
     method.f = -3;
     globals.KeyRest = ":UFactor:7:k:UFactor:8:";
     EXPECT_EQ(BuildComment("text::more", Item("TC", "1:2"), "FP"),
-              "text ::Method:OTHER:k:sMethod:a b:FP:");
+              "text: :more ::Method:OTHER:k:sMethod:a b:FP:");
     EXPECT_EQ(BuildComment("line\r\nbreak", Item("TC", " 5 "), ""),
               "line break ::Method:OTHER:k:dTC:5:sMethod:a b:");
+}
+
+TEST_F(Tags, WordsInFrontOfTheTagsAreNone) {
+    clsProperty head = Item("TC", "");
+    const std::string comment = "ratio 1:PB:2, see :sMethod: there ::Method:X:";
+    const Reading read = Read(comment, head);
+    EXPECT_EQ(read.text, "ratio 1:PB:2, see :sMethod: there");
+    EXPECT_EQ(read.state + globals.CurrentMethod->sMethod, "");
+    EXPECT_FALSE(CommentTags(comment).Has("PB"));
+    EXPECT_EQ(ReadAndWrite(comment, head), comment);
+    EXPECT_EQ(BuildComment("a:::b", head, ""), "a: : :b ::Method:X:");
 }
 
 TEST_F(Tags, UnterminatedFreeMethodLosesItsLastLetter) {
     EXPECT_EQ(TakeSMethod("::Method:OTHER:sMethod:foo"), "::Method:OTHER");
     EXPECT_EQ(globals.CurrentMethod->sMethod, "fo");
-    EXPECT_EQ(TakeSMethod("a:sMethod:"), "a");
+    EXPECT_EQ(TakeSMethod("a:sMethod:"), "a:sMethod:");
     EXPECT_EQ(globals.CurrentMethod->sMethod, "");
     EXPECT_EQ(TakeSMethod("::Method:OTHER:sMethod:foo:k:"), "::Method:OTHER:k:");
     EXPECT_EQ(globals.CurrentMethod->sMethod, "foo");

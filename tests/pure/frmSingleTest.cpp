@@ -145,7 +145,8 @@ TEST_F(frmSingleTest, CriticalPressureOfWaterIsStoredAsThePaperHasIt) {
     desktop.Expect("Value 22064 Critical pressure, kPa is suspicious\nIs that all right?",
                    ui::Answer::Yes);
     form.cmdAccept.UserClick();
-    EXPECT_EQ(Lines(*Stored()), "^A & O B & abc XXX 1/15/2026 Table 6.1 footnote ::Method:VISOBS:\n"
+    EXPECT_EQ(Lines(*Stored()), "^A & O B & abc XXX 1/15/2026 Table 6.1 footnote : : cut "
+                                "::Method:VISOBS:\n"
                                 "^M 1000\n"
                                 "^z 1 PC S 1 L G & 22.064 & & &\n"
                                 "^M 0\n");
