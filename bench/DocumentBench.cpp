@@ -8,9 +8,9 @@
 #include "BenchDesktop.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
-#include "shell/DocumentText.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
+#include "shell/DocumentText.h"
 #include "ui/Forms.h"
 
 namespace vexora {

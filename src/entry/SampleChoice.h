@@ -24,8 +24,8 @@ public:
                  std::function<void()> follow, std::string prompt = {});
 
     /// Lists the compounds of the document and chooses the current one with its current sample.
-    /// To be called when the dialog loads; the handlers of the form are held off meanwhile. Locked when
-    /// a record is edited, which keeps its sample.
+    /// To be called when the dialog loads; the handlers of the form are held off meanwhile. Locked
+    /// when a record is edited, which keeps its sample.
     void Fill(bool isLocked);
 
     /// The chosen one, null for none or without a source.

@@ -130,14 +130,13 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
     const auto value = [](const std::string& fields) {
         return "^A & O & & AB CD & &\n" + fields + " & & &\n";
     };
-    folder.Write("doc.txt", kHead + value("^z 1 TC S 1 L G & 2000") +
-                                value("^z 1 TC S 2 L G & -1") + value("^z 1 PC nounit 1 L G & 22") +
-                                value("^z 1 PC * 2 L G & 22") + value("^z 1 VDC S 1 Q9 G & 322") +
-                                value("^z 1 VC S 1 L G & a") + value("^f 1 VDN S 1 L -300 C 997") +
-                                value("^f 1 VDN S 2 L 20 nounit 997") +
-                                value("^z 1 QQQ S 1 L G & 1") + value("^z 1 TC K 4 L G & 500") +
-                                value("^f 1 VDN T 3 L 300 S 997") +
-                                value("^f 1 VDN S 4 L 300 T 997"));
+    folder.Write("doc.txt",
+                 kHead + value("^z 1 TC S 1 L G & 2000") + value("^z 1 TC S 2 L G & -1") +
+                     value("^z 1 PC nounit 1 L G & 22") + value("^z 1 PC * 2 L G & 22") +
+                     value("^z 1 VDC S 1 Q9 G & 322") + value("^z 1 VC S 1 L G & a") +
+                     value("^f 1 VDN S 1 L -300 C 997") + value("^f 1 VDN S 2 L 20 nounit 997") +
+                     value("^z 1 QQQ S 1 L G & 1") + value("^z 1 TC K 4 L G & 500") +
+                     value("^f 1 VDN T 3 L 300 S 997") + value("^f 1 VDN S 4 L 300 T 997"));
     const Outcome outcome = Run("check doc.txt");
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.out, "");

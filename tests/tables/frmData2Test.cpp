@@ -166,7 +166,7 @@ TEST_F(frmData2Test, UnitsThatCannotBeConvertedAreRefused) {
     set->PROPERTY_UNIT = "B";
     OpenTable();
     Paste("275 999.8");
-    EXPECT_EQ(Findings(), "");                   // nothing is known of the value
+    EXPECT_EQ(Findings(), ""); // nothing is known of the value
     desktop.Expect("Molar mass of the compound is not known");
     form_->cmdSave.UserClick();
     EXPECT_TRUE(form_->IsOpen());
