@@ -14,20 +14,20 @@ namespace vexora {
 namespace {
 
 // The thresholds are wide on purpose: a mark that is wrong teaches the operator to pass over marks.
-constexpr std::size_t leastPoints = 12;
-constexpr std::size_t shortCurve = 50;    // here each point is judged by all the others
-constexpr std::size_t sampleSize = 50;    // points that tell which polynomial fits best
-constexpr double timesLocal = 10;         // the scatter of the neighbours
-constexpr double timesAtEnd = 5;          // nobody stands beyond the first and the last point
-constexpr double timesWhole = 8;          // the scatter of the whole curve
-constexpr double timesNeighbour = 10;     // what the neighbours miss without the point
-constexpr std::size_t calmReach = 2;      // so many on each side
-constexpr double timesDigit = 4;          // the last digit
-constexpr std::size_t pairReach = 5;      // two misprints so close may hide each other
-constexpr double madToDeviation = 1.4826; // of normally distributed errors
+constexpr std::size_t LeastPoints = 12;
+constexpr std::size_t ShortCurve = 50;    // here each point is judged by all the others
+constexpr std::size_t SampleSize = 50;    // points that tell which polynomial fits best
+constexpr double TimesLocal = 10;         // the scatter of the neighbours
+constexpr double TimesAtEnd = 5;          // nobody stands beyond the first and the last point
+constexpr double TimesWhole = 8;          // the scatter of the whole curve
+constexpr double TimesNeighbour = 10;     // what the neighbours miss without the point
+constexpr std::size_t CalmReach = 2;      // so many on each side
+constexpr double TimesDigit = 4;          // the last digit
+constexpr std::size_t PairReach = 5;      // two misprints so close may hide each other
+constexpr double MadToDeviation = 1.4826; // of normally distributed errors
 
 // Each leaves degrees of freedom to tell the scatter by.
-constexpr std::array<Degree, 3> degrees{{{2, 8}, {3, 10}, {4, 10}}};
+constexpr std::array<Degree, 3> Degrees{{{2, 8}, {3, 10}, {4, 10}}};
 
 /// The scatter of the curve about its fits, from every stride-th point. Nothing when too few of
 /// them can be judged.
@@ -35,12 +35,12 @@ std::optional<double> WholeScatter(const Curve& curve, Degree degree, std::size_
     std::vector<double> sizes;
     for (std::size_t at = 0; at < curve.size(); at += stride)
         if (const auto verdict = Judge(curve, at, degree, at)) sizes.push_back(verdict->Size());
-    if (sizes.size() < leastPoints / 2) return std::nullopt;
+    if (sizes.size() < LeastPoints / 2) return std::nullopt;
     const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
     std::nth_element(sizes.begin(), middle, sizes.end());
     // The median of absolute deviations times 1 / 0.6745, the upper quartile of the normal
     // distribution, estimates its standard deviation and is not moved by the misprint looked for.
-    return madToDeviation * *middle;
+    return MadToDeviation * *middle;
 }
 
 /// The polynomial that fits a curve best, and the scatter of the whole curve about it.
@@ -51,9 +51,9 @@ struct BestFit {
 
 std::optional<BestFit> BestFitOf(const Curve& curve) {
     // A sample of a long curve tells its kind well enough, and keeps the time of a table short.
-    const std::size_t stride = (curve.size() - 1) / sampleSize + 1;
+    const std::size_t stride = (curve.size() - 1) / SampleSize + 1;
     std::optional<BestFit> best;
-    for (const Degree degree : degrees) {
+    for (const Degree degree : Degrees) {
         const auto scatter = WholeScatter(curve, degree, stride);
         if (scatter && (!best || *scatter < best->scatter)) best = BestFit{degree, *scatter};
     }
@@ -64,40 +64,40 @@ std::optional<BestFit> BestFitOf(const Curve& curve) {
 /// whole one alone condemns the noisy end of a range.
 bool IsFar(const Verdict& verdict, const BestFit& fit, bool isEnd) {
     const double size = verdict.Size();
-    return size > timesWhole * fit.scatter &&
-           size > timesLocal * (isEnd ? timesAtEnd : 1) * verdict.scatter;
+    return size > TimesWhole * fit.scatter &&
+           size > TimesLocal * (isEnd ? TimesAtEnd : 1) * verdict.scatter;
 }
 
 /// Rounding alone may put it there. A rounding error is spread evenly over one unit, which is a
 /// deviation of 0.29 units.
 /// Rectangular distribution of half-width 1/2 (JCGM 100:2008, 4.3.7).
 bool IsRounding(double size, double digit) {
-    return size <= timesDigit * digit || size <= timesLocal * digit / std::sqrt(12.0);
+    return size <= TimesDigit * digit || size <= TimesLocal * digit / std::sqrt(12.0);
 }
 
 /// Without the point its neighbours fit to one another: the curve has no peak, edge or end here
 /// that a polynomial cannot follow.
 bool IsCalmWithout(const Curve& curve, std::size_t at, Degree degree, double size) {
-    const std::size_t from = at > calmReach ? at - calmReach : 0;
-    for (std::size_t i = from; i <= std::min(at + calmReach, curve.size() - 1); ++i) {
+    const std::size_t from = at > CalmReach ? at - CalmReach : 0;
+    for (std::size_t i = from; i <= std::min(at + CalmReach, curve.size() - 1); ++i) {
         if (i == at) continue;
         const auto verdict = Judge(curve, i, degree, at);
-        if (!verdict || verdict->Size() * timesNeighbour > size) return false;
+        if (!verdict || verdict->Size() * TimesNeighbour > size) return false;
     }
     return true;
 }
 
 bool IsFarByAnyDegree(const Curve& curve, std::size_t at) {
-    return std::any_of(degrees.begin(), degrees.end(), [&](Degree degree) {
+    return std::any_of(Degrees.begin(), Degrees.end(), [&](Degree degree) {
         const auto verdict = Judge(curve, at, degree, at);
-        return verdict && verdict->Size() > timesLocal * verdict->scatter &&
+        return verdict && verdict->Size() > TimesLocal * verdict->scatter &&
                !IsRounding(verdict->Size(), DigitAt(curve, at, degree.neighbours));
     });
 }
 
 /// On a short curve one misprint is a neighbour of most points, and would hide in their scatter.
 BestFit FitWithout(const Curve& curve, std::size_t at, const BestFit& whole) {
-    if (curve.size() > shortCurve || !IsFarByAnyDegree(curve, at)) return whole;
+    if (curve.size() > ShortCurve || !IsFarByAnyDegree(curve, at)) return whole;
     Curve others = curve;
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(at));
     return BestFitOf(others).value_or(whole);
@@ -124,14 +124,14 @@ FitVerdict VerdictOn(const Curve& curve, std::size_t at, const BestFit& whole) {
 /// It stands out on the whole curve, but its neighbours scatter too much to tell.
 bool IsSuspect(const Curve& curve, std::size_t at, const BestFit& whole) {
     const auto verdict = Judge(curve, at, whole.degree, at);
-    return verdict && verdict->Size() > timesWhole * whole.scatter &&
+    return verdict && verdict->Size() > TimesWhole * whole.scatter &&
            !IsRounding(verdict->Size(), DigitAt(curve, at, whole.degree.neighbours));
 }
 
 /// The verdict on a point as if another one beside it were not in the table.
 FitVerdict VerdictWithout(const Curve& curve, std::size_t at, std::size_t other,
                           const BestFit& whole) {
-    constexpr std::size_t reach = shortCurve + 10; // enough for a fit, and no copy of a long curve
+    constexpr std::size_t reach = ShortCurve + 10; // enough for a fit, and no copy of a long curve
     const std::size_t from = at > reach ? at - reach : 0;
     const std::size_t to = std::min(at + reach + 1, curve.size());
     const auto place = [&curve](std::size_t i) {
@@ -139,7 +139,7 @@ FitVerdict VerdictWithout(const Curve& curve, std::size_t at, std::size_t other,
     };
     Curve others(place(from), place(other));
     others.insert(others.end(), place(other + 1), place(to));
-    const bool isShort = curve.size() <= shortCurve;
+    const bool isShort = curve.size() <= ShortCurve;
     const BestFit fit = isShort ? BestFitOf(others).value_or(whole) : whole;
     return VerdictOn(others, at - from - (other < at ? 1 : 0), fit);
 }
@@ -238,7 +238,7 @@ void MarkPairs(const std::vector<View>& views, std::vector<FitVerdict>& verdicts
         for (std::size_t b = a + 1; b < suspects.size(); ++b) {
             const std::size_t one = suspects[a];
             const std::size_t two = suspects[b];
-            if (two - one > pairReach) break;
+            if (two - one > PairReach) break;
             if (isFar(one, two) && isFar(two, one)) verdicts[one] = verdicts[two] = FitVerdict::Far;
         }
     }
@@ -273,7 +273,7 @@ std::vector<std::vector<std::size_t>> CurvesAlong(const std::vector<FitRow>& row
 
 std::vector<FitVerdict> LocalFit(const std::vector<FitPoint>& points, FitScale scale) {
     std::vector<FitVerdict> verdicts(points.size(), FitVerdict::None);
-    if (points.size() < leastPoints) return verdicts;
+    if (points.size() < LeastPoints) return verdicts;
     std::vector<std::size_t> order(points.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(),

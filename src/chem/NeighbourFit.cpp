@@ -8,9 +8,9 @@ namespace vexora {
 
 namespace {
 
-constexpr std::size_t mostTerms = 5; // of a polynomial
+constexpr std::size_t MostTerms = 5; // of a polynomial
 // What is left of a power after the lower ones were taken off, if it says nothing new.
-constexpr double sameDirection = 1e-7;
+constexpr double SameDirection = 1e-7;
 
 using Values = std::array<double, Neighbours::Most>;
 
@@ -66,7 +66,7 @@ private:
             value -= part * here_[j];
         }
         const double size = std::sqrt(Product(next, next));
-        if (size < sameDirection * before) return false;
+        if (size < SameDirection * before) return false;
         for (std::size_t i = 0; i < count_; ++i) {
             next[i] /= size;
             power_[i] *= t_[i];
@@ -88,8 +88,8 @@ private:
     std::size_t count_ = 0;
     Values t_{}, power_{};
     Values left_{}; // of the values, against the point's own, that is not explained yet
-    std::array<Values, mostTerms> basis_{};
-    std::array<double, mostTerms> here_{}; // value of each at the point
+    std::array<Values, MostTerms> basis_{};
+    std::array<double, MostTerms> here_{}; // value of each at the point
     double fitted_ = 0;
     // Starts with the point's own error.
     double spread_ = 1;

@@ -12,11 +12,11 @@ namespace vexora {
 
 namespace {
 
-constexpr std::int64_t kEmptySlot = 999999994; // the registry number of no compound
-constexpr int kHighestRating = 251;            // above it come the marks for "no row" and "none"
+constexpr std::int64_t EmptySlot = 999999994; // the registry number of no compound
+constexpr int HighestRating = 251;            // above it come the marks for "no row" and "none"
 
 // Flags of a sample are read off its description by these two letters, wherever they stand.
-constexpr std::array<std::string_view, 4> kSampleMarks{{"fd", "db", "cm", "av"}};
+constexpr std::array<std::string_view, 4> SampleMarks{{"fd", "db", "cm", "av"}};
 
 /// Codes are joined in the description of a sample.
 /// These marks part the codes there; a text in brackets is the operator's.
@@ -71,7 +71,7 @@ void CheckLists(const Database& vocabulary, RowRemarks& findings) {
         CheckListRow(row, "Code", "Method");
         CheckSampleCode(row);
         const std::string code = row.Text("Code");
-        for (const std::string_view mark : kSampleMarks)
+        for (const std::string_view mark : SampleMarks)
             row.Expect(code == mark || code.find(mark) == code.npos,
                        Quoted(code) + " holds " + Quoted(mark) + ", which marks a sample");
     }
@@ -79,7 +79,7 @@ void CheckLists(const Database& vocabulary, RowRemarks& findings) {
         CheckListRow(row, "Code", "Method");
         CheckSampleCode(row);
         const std::int64_t rating = row.Integer("Rating");
-        row.Expect(rating >= 1 && rating <= kHighestRating, "the rating is not from 1 to 251");
+        row.Expect(rating >= 1 && rating <= HighestRating, "the rating is not from 1 to 251");
     }
 }
 
@@ -98,7 +98,7 @@ void CheckCompounds(const Database& compounds, RowRemarks& findings) {
     std::map<std::int64_t, std::string> formulas;
     for (TableRows row(compounds, "ALLNAME", findings); !row.IsEnd(); row.MoveNext()) {
         const std::int64_t rn = row.Integer("RN");
-        row.Expect(IsRegistryNumber(rn) && rn != kEmptySlot,
+        row.Expect(IsRegistryNumber(rn) && rn != EmptySlot,
                    std::to_string(rn) + " is no registry number, or its check digit is wrong");
         const std::string name = row.Required("NAME");
         // Synonyms have rows of their own; one that stands twice would be offered twice.

@@ -9,7 +9,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::array<std::string_view, 13> kClasses{
+constexpr std::array<std::string_view, 13> Classes{
     {"NN", "FF", "GG", "DD", "HH", "AA", "YY", "PP", "EE", "II", "WW", "ZZ", "XX"}};
 
 bool IsForPure(const TableRows& row) {
@@ -37,7 +37,7 @@ void CheckClasses(TableRows& row) {
     row.Expect(mixture.empty() != IsForMixture(row),
                "MixtAvail must name a class just where mixture data can be entered");
     for (const std::string& name : {pure, mixture})
-        row.Expect(name.empty() || std::ranges::find(kClasses, name) != kClasses.end(),
+        row.Expect(name.empty() || std::ranges::find(Classes, name) != Classes.end(),
                    Quoted(name) + " is no class of properties");
     const std::string phase = pure.empty() ? "" : PhaseWithoutLetter(pure);
     row.Expect(phase.empty(),

@@ -13,24 +13,24 @@ namespace vexora {
 namespace {
 
 // Stored data stand in these; a unit that changes here would change the meaning of stored data.
-constexpr std::array<std::string_view, 32> kUnits{
+constexpr std::array<std::string_view, 32> Units{
     {"1",      "K",          "kPa",    "1/K",     "1/kPa",  "kg/m3",   "m3/kg",  "m3/mol",
      "mol/m3", "m6/mol2",    "kJ/mol", "J/K/mol", "J/K/kg", "J/K/m3",  "Pa*s",   "1/(Pa*s)",
      "m2/s",   "W/m/K",      "N/m",    "m/s",     "mol/kg", "mol/dm3", "V",      "A",
      "MHz",    "kPa*kg/mol", "kJ/kg",  "K/kPa",   "kPa/K",  "S/m",     "kg/dm3", "kPa*dm3/mol"}};
 
 // Codes that differ by case only: each letter of these units has its own meaning.
-constexpr std::string_view kCasePairs = "AKVUZWXY";
+constexpr std::string_view CasePairs = "AKVUZWXY";
 
 // Names of the schema (ThermoML, VariableType and ConstraintType).
-constexpr std::array<std::string_view, 5> kVariableGroups{
-    {"eTemperature", "ePressure", "eComponentComposition", "eSolventComposition",
-     "eMiscellaneous"}};
+constexpr std::array<std::string_view, 5> VariableGroups{{"eTemperature", "ePressure",
+                                                          "eComponentComposition",
+                                                          "eSolventComposition", "eMiscellaneous"}};
 
 /// What must stand once among the codes. A number is its own factor and may serve several units.
 std::string CodeIdentity(const std::string& code, const std::string& unit) {
     if (IsNumeric(code)) return code + " to " + unit;
-    const bool hasTwin = code.size() == 1 && kCasePairs.find(UpperAscii(code)) != kCasePairs.npos;
+    const bool hasTwin = code.size() == 1 && CasePairs.find(UpperAscii(code)) != CasePairs.npos;
     return hasTwin ? code : LowerAscii(code);
 }
 
@@ -86,7 +86,7 @@ void CheckKindOfPhase(TableRows& row, const std::string& code) {
 } // namespace
 
 bool IsUnitOfTables(std::string_view unit) {
-    return std::ranges::find(kUnits, unit) != kUnits.end();
+    return std::ranges::find(Units, unit) != Units.end();
 }
 
 void CheckUnitAndExportName(TableRows& row) {
@@ -119,7 +119,7 @@ void CheckVariables(const Database& vocabulary, RowRemarks& findings) {
         CheckListRow(row, "IndVarCode", "IndVariable");
         CheckUnitAndExportName(row);
         const std::string group = row.Required("XMLGroup");
-        row.Expect(std::ranges::find(kVariableGroups, group) != kVariableGroups.end(),
+        row.Expect(std::ranges::find(VariableGroups, group) != VariableGroups.end(),
                    Quoted(group) + " is no group of variables");
         row.Expect(group != "eSolventComposition" || row.Flag("NeedSolvent"),
                    "a composition of the solvent needs NeedSolvent");

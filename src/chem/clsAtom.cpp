@@ -13,9 +13,9 @@ namespace vexora {
 namespace {
 
 // No symbol: it can never be met in a formula as typed, for no element has five letters.
-constexpr std::string_view kError = "Error";
+constexpr std::string_view ErrorText = "Error";
 // Brackets nested deeper are no formula that anybody typed; they must not exhaust the stack.
-constexpr int kDeepestBracket = 50;
+constexpr int DeepestBracket = 50;
 
 bool IsUpper(char c) {
     return c >= 'A' && c <= 'Z';
@@ -29,7 +29,7 @@ std::string TakeElement(std::string_view& text) {
     const std::size_t length = text.size() > 1 && IsLower(text[1]) ? 2 : 1;
     const std::string symbol(text.substr(0, length));
     text.remove_prefix(length);
-    return AtomicMass(symbol) ? symbol : std::string(kError);
+    return AtomicMass(symbol) ? symbol : std::string(ErrorText);
 }
 
 /// "(" or a symbol or "Error"; "" at the end of the text and at a closing bracket.
@@ -46,7 +46,7 @@ std::string NextSymbol(std::string_view& text) {
     }
     text.remove_prefix(1);
     if (first == '(') return "(";
-    if (first != ')') return std::string(kError);
+    if (first != ')') return std::string(ErrorText);
     // A bracket that nobody opened ends the formula.
     if (!text.empty()) text.remove_prefix(1);
     return {};
@@ -112,23 +112,23 @@ clsAtom::~clsAtom() {
 
 // What is read later is put behind this node, so that the error stays in front.
 void clsAtom::SetError() {
-    Symbol = kError;
+    Symbol = ErrorText;
     isLast = true;
     nextAtom = nullptr;
 }
 
 void clsAtom::Build(std::string_view text) {
     *this = clsAtom();
-    if (DepthOf(text) > kDeepestBracket) return SetError();
+    if (DepthOf(text) > DeepestBracket) return SetError();
     for (std::string token = NextSymbol(text); !token.empty(); token = NextSymbol(text)) {
-        if (token == kError) {
+        if (token == ErrorText) {
             SetError();
             continue;
         }
         clsAtom B;
         if (token == "(") {
             B.Build(TakeGroup(text));
-            if (B.Symbol == kError || B.Symbol.empty()) SetError();
+            if (B.Symbol == ErrorText || B.Symbol.empty()) SetError();
         } else {
             B.Symbol = token;
             B.Count = 1;
@@ -170,7 +170,7 @@ void clsAtom::AddB(clsAtom& B) {
 }
 
 std::string clsAtom::Formula() const {
-    if (Symbol.empty() || Symbol == kError) return {};
+    if (Symbol.empty() || Symbol == ErrorText) return {};
     bool hasCarbon = false;
     for (const clsAtom* node = this; node; node = node->nextAtom.get())
         hasCarbon = hasCarbon || node->Symbol == "C";

@@ -12,14 +12,14 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* playHelp =
+constexpr const char* PlayHelp =
     "Play session scripts: [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--keep-going] "
     "FILE...";
 
 } // namespace
 
 void AddPlayCommand(CLI::App& app, int& exitCode) {
-    CLI::App* play = app.add_subcommand("play", playHelp);
+    CLI::App* play = app.add_subcommand("play", PlayHelp);
     play->prefix_command();
     play->callback([play, &app, &exitCode] {
         host::Actor actor;

@@ -18,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kVocabularyName = "VXRLocal.mdb";
-constexpr const char* kCompoundsName = "VXR.mdb";
+constexpr const char* VocabularyName = "VXRLocal.mdb";
+constexpr const char* CompoundsName = "VXR.mdb";
 
 struct Arguments {
     std::string argv0;
@@ -56,12 +56,12 @@ std::string InstalledFolder(const std::string& argv0) {
 
 /// The vocabulary beside a compound database, else the installed one: formulas are read with it.
 std::string VocabularyFor(const Arguments& arguments) {
-    const fs::path beside = fs::path(arguments.database).parent_path() / kVocabularyName;
-    const fs::path installed = fs::path(InstalledFolder(arguments.argv0)) / kVocabularyName;
+    const fs::path beside = fs::path(arguments.database).parent_path() / VocabularyName;
+    const fs::path installed = fs::path(InstalledFolder(arguments.argv0)) / VocabularyName;
     std::error_code error;
     for (const fs::path& path : {beside, installed})
         if (fs::exists(path, error)) return path.string();
-    throw DatabaseError("no " + std::string(kVocabularyName) +
+    throw DatabaseError("no " + std::string(VocabularyName) +
                         " to read formulas with, neither beside the database nor installed");
 }
 
@@ -88,8 +88,8 @@ int Check(const Arguments& arguments) {
     const fs::path folder =
         arguments.folder.empty() ? InstalledFolder(arguments.argv0) : arguments.folder;
     ReferenceDatabases databases;
-    if (const auto error = databases.OpenBoth((folder / kVocabularyName).string(),
-                                              (folder / kCompoundsName).string()))
+    if (const auto error = databases.OpenBoth((folder / VocabularyName).string(),
+                                              (folder / CompoundsName).string()))
         return TellUnreadable(*error);
     UseDatabases(&databases);
     const RowRemarks findings = CheckTables(databases);

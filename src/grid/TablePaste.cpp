@@ -129,11 +129,11 @@ void NoteCommas(std::string_view cell, std::size_t row, Decimals& decimals, Noti
     decimals.comma = decimals.comma || !thousands;
 }
 
-constexpr std::string_view plusMinus = "\u00b1";
+constexpr std::string_view PlusMinus = "\u00b1";
 
 /// What tables print where there is no value, or in a column of its own between two.
 bool StandsForNothing(std::string_view cell) {
-    if (cell.empty() || cell == plusMinus) return !cell.empty();
+    if (cell.empty() || cell == PlusMinus) return !cell.empty();
     for (std::size_t at = 0; at < cell.size();) {
         const char32_t c = NextCodePoint(cell, at);
         const bool dash = c == U'-' || (c >= 0x2010 && c <= 0x2015) || c == 0x2212;
@@ -173,7 +173,7 @@ void NoteNoNumber(const std::string& cell, const std::string& typed, std::size_t
 void NoteNothing(const std::string& piece, const std::string& next, std::size_t row,
                  Notices& notices) {
     const bool dash = CodePointCount(piece) == 1 && piece != "." && piece != "\u2026" &&
-                      piece != "\u00b7" && piece != "\u22ef" && piece != plusMinus;
+                      piece != "\u00b7" && piece != "\u22ef" && piece != PlusMinus;
     const bool sign = dash && !next.empty() && (IsDigit(next.front()) || next.front() == '.');
     if (sign)
         notices.Add("loose sign", row,
@@ -184,11 +184,11 @@ void NoteNothing(const std::string& piece, const std::string& next, std::size_t 
 
 /// The pieces of a cell between its blanks; a value and what stands behind "±" are two.
 std::vector<std::string> PiecesOf(const std::string& part, std::size_t row, Notices& notices) {
-    if (part == plusMinus) return {part};
+    if (part == PlusMinus) return {part};
     std::vector<std::string> pieces;
-    const bool parted = part.find(plusMinus) != part.npos;
+    const bool parted = part.find(PlusMinus) != part.npos;
     if (parted) notices.Add("plus-minus", row, Quoted(part) + " was parted at its \u00b1");
-    for (const std::string& piece : Split(parted ? Replace(part, plusMinus, " ") : part, ' ')) {
+    for (const std::string& piece : Split(parted ? Replace(part, PlusMinus, " ") : part, ' ')) {
         if (!piece.empty() || part.empty()) pieces.push_back(piece);
     }
     return pieces;
@@ -200,7 +200,7 @@ std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size
     std::vector<std::string> cells;
     for (const std::string& part : Split(WithoutEdges(line), '\t')) {
         const std::vector<std::string> pieces = PiecesOf(part, row, notices);
-        const bool parted = part.find(plusMinus) != part.npos;
+        const bool parted = part.find(PlusMinus) != part.npos;
         if (tabbed && pieces.size() > (parted ? 2u : 1u))
             notices.Add("inner blank", row, Quoted(part) + " was split at its blank");
         for (std::size_t i = 0; i < pieces.size(); ++i) {

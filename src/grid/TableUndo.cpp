@@ -9,11 +9,11 @@ namespace vexora {
 namespace {
 
 // Changes of cells that are kept in all; some seven pastes of the largest table.
-constexpr std::size_t mostChanges = 1'000'000;
+constexpr std::size_t MostChanges = 1'000'000;
 
 // The columns of changes that are none of a cell.
-constexpr int wholeRows = -2;
-constexpr int wholeColumns = -3;
+constexpr int WholeRows = -2;
+constexpr int WholeColumns = -3;
 
 bool IsEmptyRow(const ui::Grid& grid, int row) {
     for (int column = 0; column < grid.Columns(); ++column) {
@@ -71,7 +71,7 @@ public:
             for (int column = columns; column < grid_.Columns(); ++column)
                 Cell(row, column, {});
         }
-        step.changes.push_back({static_cast<int>(step.widths.size()), wholeColumns, {}, {}});
+        step.changes.push_back({static_cast<int>(step.widths.size()), WholeColumns, {}, {}});
         step.widths.push_back({grid_.Columns(), columns});
         grid_.Resize(grid_.Rows(), columns);
     }
@@ -81,7 +81,7 @@ public:
 
 private:
     void Note(RowChange change) {
-        step.changes.push_back({static_cast<int>(step.rows.size()), wholeRows, {}, {}});
+        step.changes.push_back({static_cast<int>(step.rows.size()), WholeRows, {}, {}});
         table_.MoveRows(change, change.inserted);
         step.rows.push_back(std::move(change));
     }
@@ -162,7 +162,7 @@ void TableUndo::ForgetOldest() {
     std::size_t changes = 0;
     std::size_t first = steps_.size();
     // From the newest step back; the last one stays, however large it is.
-    while (first > 0 && (changes += steps_[first - 1].changes.size()) <= mostChanges)
+    while (first > 0 && (changes += steps_[first - 1].changes.size()) <= MostChanges)
         --first;
     first = std::min(first, steps_.size() - 1);
     steps_.erase(steps_.begin(), steps_.begin() + static_cast<std::ptrdiff_t>(first));
@@ -173,7 +173,7 @@ void TableUndo::Apply(const Step& step, const Change& change, bool done) {
     const auto place = static_cast<std::size_t>(change.row);
     if (change.IsOfCell()) {
         grid_.Cell(change.row, change.column, done ? change.after : change.before);
-    } else if (change.column == wholeRows) {
+    } else if (change.column == WholeRows) {
         MoveRows(step.rows[place], step.rows[place].inserted == done);
     } else {
         const WidthChange& width = step.widths[place];

@@ -15,7 +15,7 @@ namespace {
 
 enum Status { allHeld = 0, notHeld = 1, malformed = 2 };
 
-constexpr const char* usage = "play [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
+constexpr const char* Usage = "play [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
                               "[--keep-going] [--shots DIR] FILE...";
 
 struct Request {
@@ -102,7 +102,7 @@ int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) 
             scripts.push_back(ReadScript(file, request.variables));
     } catch (const ScriptError& error) {
         front.err << error.what() << '\n';
-        if (scripts.empty() && request.files.empty()) front.err << "usage: " << usage << '\n';
+        if (scripts.empty() && request.files.empty()) front.err << "usage: " << Usage << '\n';
         return malformed;
     }
     PosixFileSystem files;

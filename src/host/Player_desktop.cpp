@@ -8,23 +8,23 @@ namespace vexora::host {
 namespace {
 
 // In the order of ui::Answer and of ui::MessageButtons.
-constexpr const char* answerWords[] = {"OK", "Yes", "No", "Cancel", "YesToAll"};
-constexpr const char* buttonTexts[] = {"OK", "Yes/No", "Yes/No/Cancel", "Yes/No/YesToAll"};
+constexpr const char* AnswerWords[] = {"OK", "Yes", "No", "Cancel", "YesToAll"};
+constexpr const char* ButtonTexts[] = {"OK", "Yes/No", "Yes/No/Cancel", "Yes/No/YesToAll"};
 
 std::string Word(ui::Answer answer) {
-    return answerWords[static_cast<std::size_t>(answer)];
+    return AnswerWords[static_cast<std::size_t>(answer)];
 }
 
 std::string ButtonsText(ui::MessageButtons buttons) {
-    return buttonTexts[static_cast<std::size_t>(buttons)];
+    return ButtonTexts[static_cast<std::size_t>(buttons)];
 }
 
 /// The answer that a button with this word gives, nothing when the message has no such button.
 std::optional<ui::Answer> AnswerOf(const ui::Message& message, const std::string& word) {
     const std::string buttons = "/" + ButtonsText(message.buttons) + "/";
     if (buttons.find("/" + word + "/") == buttons.npos) return {};
-    const auto* found = std::ranges::find(answerWords, word);
-    return static_cast<ui::Answer>(found - std::begin(answerWords));
+    const auto* found = std::ranges::find(AnswerWords, word);
+    return static_cast<ui::Answer>(found - std::begin(AnswerWords));
 }
 
 std::string Told(const ui::Message& message) {

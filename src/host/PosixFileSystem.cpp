@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t newFileMode = 0666; // before the umask of the user
+constexpr mode_t NewFileMode = 0666; // before the umask of the user
 
 std::string Reason(int error) {
     return std::generic_category().message(error);
@@ -61,7 +61,7 @@ mode_t ModeFor(const std::string& target) {
     if (::stat(target.c_str(), &status) == 0) return status.st_mode & 07777;
     const mode_t mask = ::umask(0);
     ::umask(mask);
-    return newFileMode & ~mask;
+    return NewFileMode & ~mask;
 }
 
 int OpenRetrying(const std::string& path, int flags) {

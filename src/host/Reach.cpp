@@ -9,7 +9,7 @@ namespace vexora::host {
 
 namespace {
 
-constexpr std::string_view pathSeparator = " / ";
+constexpr std::string_view PathSeparator = " / ";
 
 bool Holds(const ui::Layout& layout, const ui::Control& control) {
     if (layout.control == &control || layout.label == &control) return true;
@@ -45,16 +45,16 @@ bool MatchesLabel(const std::string& text, std::string_view label) {
 
 void Collect(const Nodes& nodes, std::string_view path, std::vector<ui::TreeNode*>& found) {
     for (std::size_t end = 0; end != path.npos;) {
-        const std::size_t next = path.find(pathSeparator, end);
+        const std::size_t next = path.find(PathSeparator, end);
         const std::string_view label = path.substr(0, next);
         for (const auto& node : nodes) {
             if (!MatchesLabel(node->Text(), label)) continue;
             if (next == path.npos)
                 found.push_back(node.get());
             else
-                Collect(node->Children(), path.substr(next + pathSeparator.size()), found);
+                Collect(node->Children(), path.substr(next + PathSeparator.size()), found);
         }
-        end = next == path.npos ? next : next + pathSeparator.size();
+        end = next == path.npos ? next : next + PathSeparator.size();
     }
 }
 

@@ -13,7 +13,7 @@ namespace {
 // Every form of every command. CONTROL is form.control, TEXT is quoted, ENTRY is quoted or #n, INT
 // counts from 0, [TEXT] may be left out, BLOCK is <<END; other words stand for themselves, with
 // "|" between alternatives.
-constexpr std::array commandForms = {
+constexpr std::array CommandForms = {
     "start [TEXT]",
     "quit",
     "click CONTROL",
@@ -124,7 +124,7 @@ bool Fits(const ScriptLine& line, const std::string& form) {
 
 std::string WhatIsWrong(const ScriptLine& line) {
     std::string known;
-    for (const std::string form : commandForms) {
+    for (const std::string form : CommandForms) {
         if (!line.words[0].Is(form.substr(0, form.find(' ')))) continue;
         if (Fits(line, form)) return {};
         known += "\n  " + form;

@@ -12,8 +12,8 @@ namespace vexora::host {
 
 namespace {
 
-constexpr int deepestInclude = 20;
-constexpr std::string_view blanks = " \t\r";
+constexpr int DeepestInclude = 20;
+constexpr std::string_view Blanks = " \t\r";
 
 std::string FolderOf(const std::string& file) {
     const std::string folder = std::filesystem::path(file).parent_path().string();
@@ -34,13 +34,13 @@ public:
 
 private:
     bool SkipBlanks() {
-        at_ = std::min(text_.find_first_not_of(blanks, at_), text_.size());
+        at_ = std::min(text_.find_first_not_of(Blanks, at_), text_.size());
         return at_ < text_.size() && (text_[at_] != '#' || IsPosition());
     }
 
     // "#3" is a list position where a command takes an entry, anywhere else a comment.
     bool IsPosition() const {
-        const std::size_t end = std::min(text_.find_first_of(blanks, at_), text_.size());
+        const std::size_t end = std::min(text_.find_first_of(Blanks, at_), text_.size());
         const std::string_view digits = text_.substr(at_ + 1, end - at_ - 1);
         return !digits.empty() && digits.find_first_not_of("0123456789") == digits.npos &&
                TakesEntryNext(words_);
@@ -57,7 +57,7 @@ private:
         }
         if (at_ == text_.size()) throw std::runtime_error("the quotes are not closed");
         ++at_;
-        if (at_ < text_.size() && blanks.find(text_[at_]) == blanks.npos) {
+        if (at_ < text_.size() && Blanks.find(text_[at_]) == Blanks.npos) {
             throw std::runtime_error("a blank is missing behind the quotes");
         }
         return word;
@@ -81,7 +81,7 @@ private:
 
     ScriptWord PlainWord() {
         ScriptWord word;
-        while (at_ < text_.size() && blanks.find(text_[at_]) == blanks.npos) {
+        while (at_ < text_.size() && Blanks.find(text_[at_]) == Blanks.npos) {
             if (text_[at_] == '"') throw std::runtime_error("quotes in the middle of a word");
             if (!TakeVariable(word.text)) word.text += text_[at_++];
         }
@@ -167,7 +167,7 @@ private:
     }
 
     void Include(const std::string& path) {
-        if (depth_ >= deepestInclude) throw std::runtime_error("includes too deep: " + path);
+        if (depth_ >= DeepestInclude) throw std::runtime_error("includes too deep: " + path);
         const auto full = std::filesystem::path(FolderOf(file_)) / path;
         const auto text = FileText(full.string());
         if (!text) throw std::runtime_error("cannot read " + full.string());

@@ -15,13 +15,13 @@ namespace {
 using Box = QMessageBox;
 
 // In the order of ui::Answer and of ui::MessageButtons.
-constexpr Box::StandardButton buttonOf[] = {Box::Ok, Box::Yes, Box::No, Box::Cancel, Box::YesToAll};
-constexpr Box::StandardButtons buttonsOf[] = {Box::Ok, Box::Yes | Box::No,
+constexpr Box::StandardButton ButtonOf[] = {Box::Ok, Box::Yes, Box::No, Box::Cancel, Box::YesToAll};
+constexpr Box::StandardButtons ButtonsOf[] = {Box::Ok, Box::Yes | Box::No,
                                               Box::Yes | Box::No | Box::Cancel,
                                               Box::Yes | Box::No | Box::YesToAll};
 
 Box::StandardButton StandardOf(ui::Answer answer) {
-    return buttonOf[static_cast<std::size_t>(answer)];
+    return ButtonOf[static_cast<std::size_t>(answer)];
 }
 
 } // namespace
@@ -31,7 +31,7 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const ui::Message& message, QWidget*
     const QString title = message.title.empty() ? QStringLiteral("Vexora") : ToQt(message.title);
     auto box = std::make_unique<QMessageBox>(
         question ? QMessageBox::Question : QMessageBox::Information, title, ToQt(message.text),
-        buttonsOf[static_cast<std::size_t>(message.buttons)], parent);
+        ButtonsOf[static_cast<std::size_t>(message.buttons)], parent);
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
     box->setDefaultButton(StandardOf(message.safe));
@@ -47,9 +47,9 @@ QAbstractButton* ButtonFor(const QMessageBox& box, ui::Answer answer) {
 }
 
 ui::Answer AnswerOf(const QMessageBox& box, const ui::Message& message) {
-    const auto* pressed = std::find(std::begin(buttonOf), std::end(buttonOf), box.result());
-    if (pressed == std::end(buttonOf)) return message.safe;
-    return static_cast<ui::Answer>(pressed - std::begin(buttonOf));
+    const auto* pressed = std::find(std::begin(ButtonOf), std::end(ButtonOf), box.result());
+    if (pressed == std::end(ButtonOf)) return message.safe;
+    return static_cast<ui::Answer>(pressed - std::begin(ButtonOf));
 }
 
 std::unique_ptr<QInputDialog> MakeInputBox(const ui::Input& input, QWidget* parent) {

@@ -118,22 +118,22 @@ struct Known {
     void (*draw)(Brush&);
 };
 
-constexpr std::array<Known, 16> known{{{"start", Triangle},
-                                       {"author", Person},
-                                       {"complex", Cage},
-                                       {"comp", Ring},
-                                       {"subst", Ring},
-                                       {"sample", Bottle},
-                                       {"mix", Circles},
-                                       {"bio", Helix},
-                                       {"react", Arrows},
-                                       {"table", Table},
-                                       {"struct", Lattice},
-                                       {"sheet", Sheet},
-                                       {"prop", Curve},
-                                       {"del", Cross},
-                                       {"doc", Page},
-                                       {"ref", Page}}};
+constexpr std::array<Known, 16> KnownIcons{{{"start", Triangle},
+                                            {"author", Person},
+                                            {"complex", Cage},
+                                            {"comp", Ring},
+                                            {"subst", Ring},
+                                            {"sample", Bottle},
+                                            {"mix", Circles},
+                                            {"bio", Helix},
+                                            {"react", Arrows},
+                                            {"table", Table},
+                                            {"struct", Lattice},
+                                            {"sheet", Sheet},
+                                            {"prop", Curve},
+                                            {"del", Cross},
+                                            {"doc", Page},
+                                            {"ref", Page}}};
 
 void Letter(Brush& brush, std::string_view key) {
     brush.Fill(true);
@@ -146,7 +146,7 @@ void Letter(Brush& brush, std::string_view key) {
 
 void DrawIcon(Brush& brush, std::string_view key) {
     const std::string lower = LowerAscii(key);
-    for (const Known& entry : known) {
+    for (const Known& entry : KnownIcons) {
         if (lower.find(entry.word) != std::string::npos) return entry.draw(brush);
     }
     Letter(brush, key);

@@ -14,7 +14,7 @@ struct Named {
     const char* name;
 };
 
-constexpr std::array<Named, 16> names{{{Qt::Key_Return, "Enter"},
+constexpr std::array<Named, 16> Names{{{Qt::Key_Return, "Enter"},
                                        {Qt::Key_Enter, "Enter"},
                                        {Qt::Key_Escape, "Escape"},
                                        {Qt::Key_Tab, "Tab"},
@@ -32,7 +32,7 @@ constexpr std::array<Named, 16> names{{{Qt::Key_Return, "Enter"},
                                        {Qt::Key_PageDown, "PageDown"}}};
 
 std::string SpecialName(int key) {
-    for (const Named& entry : names) {
+    for (const Named& entry : Names) {
         if (entry.key == key) return entry.name;
     }
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return "F" + std::to_string(key - Qt::Key_F1 + 1);
@@ -81,7 +81,7 @@ KeyStroke StrokeOf(const ui::Key& key) {
     if (key.control) stroke.modifiers |= Qt::ControlModifier;
     if (key.shift) stroke.modifiers |= Qt::ShiftModifier;
     if (key.alt) stroke.modifiers |= Qt::AltModifier;
-    for (const Named& entry : names) {
+    for (const Named& entry : Names) {
         if (stroke.key == 0 && key.name == entry.name) stroke.key = entry.key;
     }
     if (stroke.key == 0 && key.name.size() > 1 && key.name[0] == 'F' && key.name[1] < 0x7F) {

@@ -51,13 +51,13 @@ bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
     return std::ranges::any_of(layout.parts, test);
 }
 
-constexpr int shortList = 8; // so many entries are shown without scrolling
+constexpr int ShortList = 8; // so many entries are shown without scrolling
 
 bool ItemGrowsDown(const ui::Control& control) {
     switch (control.Kind()) {
     case ControlKind::ListBox: {
         const int entries = static_cast<const ui::ListBox&>(control).Count();
-        return entries == 0 || entries > shortList;
+        return entries == 0 || entries > ShortList;
     }
     case ControlKind::Grid:
     case ControlKind::TreeView:

@@ -33,7 +33,7 @@ std::unique_ptr<View> Text(FormWindow& window, ui::Control& control) {
 using Maker = std::unique_ptr<View> (*)(FormWindow&, ui::Control&);
 
 // In the order of ui::ControlKind; the entries of menus have no view.
-constexpr Maker makers[] = {As<LabelView>,        Text,
+constexpr Maker Makers[] = {As<LabelView>,        Text,
                             As<ButtonView>,       Toggle<QCheckBox>,
                             Toggle<QRadioButton>, As<ComboView>,
                             As<ListView>,         As<FrameView>,
@@ -41,12 +41,12 @@ constexpr Maker makers[] = {As<LabelView>,        Text,
                             As<ToolbarView>,      As<ToolButtonView>,
                             As<TabView>,          nullptr,
                             As<PictureView>,      As<RichTextView>};
-static_assert(std::size(makers) == static_cast<std::size_t>(ui::ControlKind::RichText) + 1);
+static_assert(std::size(Makers) == static_cast<std::size_t>(ui::ControlKind::RichText) + 1);
 
 } // namespace
 
 std::unique_ptr<View> MakeView(FormWindow& window, ui::Control& control) {
-    const Maker make = makers[static_cast<std::size_t>(control.Kind())];
+    const Maker make = Makers[static_cast<std::size_t>(control.Kind())];
     return make ? make(window, control) : nullptr;
 }
 

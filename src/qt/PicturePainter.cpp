@@ -19,7 +19,7 @@ namespace {
 using Stroke = ui::Picture::Stroke;
 using Shape = ui::Picture::Shape;
 
-constexpr std::size_t manyStrokes = 2000;
+constexpr std::size_t ManyStrokes = 2000;
 
 /// Nearly the ground, and no darker where many lie over one another.
 QColor Faint(const QColor& text, const QColor& ground) {
@@ -174,7 +174,7 @@ void PaintStrokes(QPainter& painter, const ui::Picture& picture,
                   const QPalette& palette) {
     painter.setRenderHint(QPainter::Antialiasing);
     const bool onScreen = painter.device()->devType() != QInternal::Printer;
-    StrokePainter own(painter, picture, size, palette, onScreen && strokes.size() > manyStrokes);
+    StrokePainter own(painter, picture, size, palette, onScreen && strokes.size() > ManyStrokes);
     for (const Stroke& stroke : strokes)
         own.Paint(stroke);
 }

@@ -9,21 +9,21 @@ namespace vexora::qt {
 
 namespace {
 
-const QString key = QStringLiteral("recent/files");
+const QString Key = QStringLiteral("recent/files");
 
 } // namespace
 
 void RecentFiles::Add(const std::string& path) {
     constexpr qsizetype most = 10;
     const QString full = QFileInfo(ToQt(path)).absoluteFilePath();
-    QStringList files = settings_.value(key).toStringList();
+    QStringList files = settings_.value(Key).toStringList();
     files.removeAll(full);
     files.prepend(full);
-    settings_.setValue(key, QStringList(files.mid(0, most)));
+    settings_.setValue(Key, QStringList(files.mid(0, most)));
 }
 
 QStringList RecentFiles::Present() const {
-    QStringList files = settings_.value(key).toStringList();
+    QStringList files = settings_.value(Key).toStringList();
     files.removeIf([](const QString& file) { return !QFileInfo::exists(file); });
     return files;
 }

@@ -17,7 +17,7 @@ namespace vexora::qt {
 
 namespace {
 
-constexpr int nodeRole = Qt::UserRole;
+constexpr int NodeRole = Qt::UserRole;
 
 QString DroppedFile(const QDropEvent& event) {
     for (const QUrl& url : event.mimeData()->urls()) {
@@ -122,7 +122,7 @@ QTreeWidgetItem* TreeWidgetView::ItemOf(const ui::TreeNode& node) const {
 
 ui::TreeNode* TreeWidgetView::NodeOf(QTreeWidgetItem* item) const {
     if (!item) return nullptr;
-    return static_cast<ui::TreeNode*>(item->data(0, nodeRole).value<void*>());
+    return static_cast<ui::TreeNode*>(item->data(0, NodeRole).value<void*>());
 }
 
 void TreeWidgetView::Rebuild() {
@@ -137,7 +137,7 @@ void TreeWidgetView::Add(ui::TreeNode& node) {
     QScopedValueRollback guard(following_, true);
     QTreeWidgetItem* parent = node.Parent() ? ItemOf(*node.Parent()) : nullptr;
     auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(own_);
-    item->setData(0, nodeRole, QVariant::fromValue(static_cast<void*>(&node)));
+    item->setData(0, NodeRole, QVariant::fromValue(static_cast<void*>(&node)));
     items_[&node] = item;
     for (const auto& child : node.Children())
         Add(*child);

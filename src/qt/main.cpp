@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr const char* usage =
+constexpr const char* Usage =
     "vexora [--home DIR] [--look dark|light] [DOCUMENT]\n"
     "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--shots DIR]\n"
     "vexora --help | --version\n";
@@ -82,7 +82,7 @@ int Play(const Request& request, const std::string& argv0) {
 int main(int count, char** arguments) {
     const std::vector<std::string> first(arguments + 1, arguments + count);
     for (const auto& [option, told] :
-         {std::pair("--help", usage), std::pair("--version", "vexora " VEXORA_VERSION "\n")}) {
+         {std::pair("--help", Usage), std::pair("--version", "vexora " VEXORA_VERSION "\n")}) {
         if (std::ranges::find(first, option) == first.end()) continue;
         std::cout << told;
         return 0;
@@ -91,7 +91,7 @@ int main(int count, char** arguments) {
     // The toolkit has taken its own options off by now.
     const Request request = Read({arguments + 1, arguments + count});
     if (request.malformed) {
-        std::cerr << usage;
+        std::cerr << Usage;
         return 2;
     }
     vexora::qt::TakeLook(request.look);

@@ -13,8 +13,8 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view kEmptySlot = "999999994";
-constexpr std::string_view kWater = "7732185";
+constexpr std::string_view EmptySlot = "999999994";
+constexpr std::string_view Water = "7732185";
 
 std::shared_ptr<clsL> CompoundOfRN(std::string_view rn, const clsR* source) {
     if (!source) source = Globals().CurrentR.get();
@@ -42,13 +42,13 @@ std::string WithCheckDigit(std::string_view rn) {
 }
 
 bool NamesNoCompound(std::string_view rn) {
-    return rn.empty() || rn == kEmptySlot || !IsNumeric(rn) || Val(rn) == 0;
+    return rn.empty() || rn == EmptySlot || !IsNumeric(rn) || Val(rn) == 0;
 }
 
 std::string NameOfRN(std::string_view rn) {
     const auto compound = CompoundOfRN(rn, nullptr);
     const std::string name = compound ? compound->Name : std::string();
-    return name.empty() && rn == kWater ? "water" : name;
+    return name.empty() && rn == Water ? "water" : name;
 }
 
 std::string FormulaOfRN(std::string_view rn) {

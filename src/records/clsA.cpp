@@ -13,7 +13,7 @@ namespace vexora {
 namespace {
 
 // Bit 2, the recommendation to reject the value, is not taken over from a file.
-constexpr std::uint64_t kFlagMask = 0x7FFB;
+constexpr std::uint64_t FlagMask = 0x7FFB;
 
 /// Old files have the mask in hexadecimal digits; what comes before a wrong one counts.
 std::uint64_t HexFlag(std::string_view word, bool& isValid) {
@@ -39,7 +39,7 @@ std::uint64_t WholePart(std::string_view word) {
 std::string FlagOf(std::string_view word, bool& isValid) {
     if (word.empty() || word == "&") return "0";
     const std::uint64_t flag = IsNumeric(word) ? WholePart(word) : HexFlag(word, isValid);
-    return std::to_string(flag & kFlagMask);
+    return std::to_string(flag & FlagMask);
 }
 
 bool AllDigits(std::string_view text) {

@@ -11,7 +11,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::size_t kCodeLength = 6;
+constexpr std::size_t CodeLength = 6;
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -73,8 +73,8 @@ std::string TakeBracketed(std::string& firstName) {
 } // namespace
 
 void clsAuthor::CreateAbbr() {
-    LASTNM = LettersOf(TrimBlanks(LastName)).substr(0, kCodeLength);
-    LASTNM.resize(kCodeLength, ' ');
+    LASTNM = LettersOf(TrimBlanks(LastName)).substr(0, CodeLength);
+    LASTNM.resize(CodeLength, ' ');
     std::string firstName(TrimBlanks(FirstName));
     const std::string bracketed = TakeBracketed(firstName);
     const Initials initials = InitialsOf(firstName);

@@ -15,7 +15,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view kSourceLetters = "AOXCLZ";
+constexpr std::string_view SourceLetters = "AOXCLZ";
 
 /// Digits only: the number stands in file names and in keys.
 bool IsSequenceNumber(std::string_view text) {
@@ -38,7 +38,7 @@ std::string ForFileName(std::string name) {
 }
 
 bool IsOriginCode(std::string_view code) {
-    return code.size() == 1 && kSourceLetters.find(code) != std::string_view::npos;
+    return code.size() == 1 && SourceLetters.find(code) != std::string_view::npos;
 }
 
 /// Every header in the document says where the document comes from.

@@ -17,9 +17,9 @@ namespace vexora {
 namespace {
 
 // Low ratings are the good ones: any method beats none.
-constexpr int kNoRatingYet = 255;
-constexpr int kUnknownMethod = 252;
-constexpr std::string_view kFreeTextMethod = "y";
+constexpr int NoRatingYet = 255;
+constexpr int UnknownMethod = 252;
+constexpr std::string_view FreeTextMethod = "y";
 
 /// Words between blanks, commas and semicolons; a text in round brackets is one word.
 std::vector<std::string> WordsOf(std::string_view description) {
@@ -55,8 +55,7 @@ std::optional<double> PerCentOf(std::string_view word) {
 }
 
 int RatingOf(std::string_view method) {
-    return PurityRating(method.starts_with('(') ? kFreeTextMethod : method)
-        .value_or(kUnknownMethod);
+    return PurityRating(method.starts_with('(') ? FreeTextMethod : method).value_or(UnknownMethod);
 }
 
 template <class Set>
@@ -119,7 +118,7 @@ void clsS::EachChild(const std::function<void(Record&)>& visit) const {
 void clsS::AssessPurity() {
     Purity = 0;
     if (SMPDESC.find(';') == std::string::npos) return;
-    int best = kNoRatingYet;
+    int best = NoRatingYet;
     const std::vector<std::string> words = WordsOf(SMPDESC);
     for (std::size_t i = 0; i < words.size(); ++i) {
         const bool isPurity = HoldsOneOf(words[i], {"m%", "w%", "x%", "v%"});

@@ -26,7 +26,7 @@ struct BuiltIn {
 // atmosphere and pound definitions, rounded as the stored data were entered with.
 // To change a figure here would move every stored value that was entered with its code. 255.372 K
 // is 0 degrees Fahrenheit, 273.15 - 32 / 1.8.
-constexpr std::array<BuiltIn, 49> kBuiltIn{{
+constexpr std::array<BuiltIn, 49> BuiltInFactors{{
     {"C", Kind::Celsius, 273.15},
     {"F", Kind::Fahrenheit, 255.372},
     {"R", Kind::Divide, 1.8},
@@ -79,8 +79,8 @@ constexpr std::array<BuiltIn, 49> kBuiltIn{{
 }};
 
 const BuiltIn* FindBuiltIn(std::string_view code) {
-    const auto* found = std::ranges::find(kBuiltIn, code, &BuiltIn::code);
-    return found == kBuiltIn.end() ? nullptr : found;
+    const auto* found = std::ranges::find(BuiltInFactors, code, &BuiltIn::code);
+    return found == BuiltInFactors.end() ? nullptr : found;
 }
 
 /// To the system unit. 1000 in the kilo kinds turns J into kJ.
@@ -178,8 +178,8 @@ double ConversionFactor(std::string_view code, std::string_view unit) {
 
 std::vector<std::string_view> BuiltInConversions() {
     std::vector<std::string_view> codes;
-    codes.reserve(std::size(kBuiltIn));
-    for (const BuiltIn& unit : kBuiltIn)
+    codes.reserve(std::size(BuiltInFactors));
+    for (const BuiltIn& unit : BuiltInFactors)
         codes.push_back(unit.code);
     return codes;
 }

@@ -26,8 +26,8 @@ void LikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
 
 void Configure(sqlite3* handle) {
     // Another copy of the workbench may be adding a compound at this moment.
-    constexpr int kBusyMilliseconds = 3000;
-    sqlite3_busy_timeout(handle, kBusyMilliseconds);
+    constexpr int busyMilliseconds = 3000;
+    sqlite3_busy_timeout(handle, busyMilliseconds);
     // A text that equals no column name must stay an error, not turn into a text constant.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);

@@ -190,9 +190,9 @@ std::optional<std::int64_t> ParseInteger(std::string_view text) {
 std::int64_t ToInteger(double v) {
     if (std::isnan(v)) return 0;
     // Not every int64 is a double; this one is, and the first that does not fit.
-    constexpr double kBound = 9223372036854775808.0; // 2^63
-    if (v >= kBound) return std::numeric_limits<std::int64_t>::max();
-    if (v <= -kBound) return std::numeric_limits<std::int64_t>::min();
+    constexpr double bound = 9223372036854775808.0; // 2^63
+    if (v >= bound) return std::numeric_limits<std::int64_t>::max();
+    if (v <= -bound) return std::numeric_limits<std::int64_t>::min();
     const double floor = std::floor(v);
     const double rest = v - floor;
     const auto low = static_cast<std::int64_t>(floor);

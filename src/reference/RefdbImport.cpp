@@ -80,10 +80,10 @@ ImportResult ImportCompounds(const std::string& path, const std::string& databas
     // In memory: to ask the table about each row would take longer than the load itself.
     std::unordered_set<std::string> keys = PresentRows(database);
     BulkInsert insert(database, "ALLNAME", {"RN", "NAME", "FORMULA"});
-    constexpr std::size_t kProgressStep = 10000;
+    constexpr std::size_t progressStep = 10000;
     for (std::size_t count = 1; const auto cells = reader.NextRow(); ++count) {
         if (count == 1 && EqualNoCase(Trim(cells->front()), "RN")) continue;
-        if (options.progress && count % kProgressStep == 0) options.progress(count);
+        if (options.progress && count % progressStep == 0) options.progress(count);
         CompoundCells compound;
         const std::string fault = ReadCompound(*cells, options, compound);
         if (!fault.empty()) {

@@ -9,72 +9,73 @@ namespace {
 using enum ColumnType;
 
 // Single, Fixed, One and Two open the ways to enter pure data, MixZ and MixV those of mixtures.
-constexpr ColumnSchema kProperties[] = {
+constexpr ColumnSchema PropertiesTable[] = {
     {"Code", Text},    {"Property", Text},    {"Unit", Text},      {"GROUP", Text},
     {"CONTEXT", Text}, {"IndVarFixed", Text}, {"PureAvail", Text}, {"MixtAvail", Text},
     {"MixZ", Flag},    {"MixV", Flag},        {"Single", Flag},    {"Fixed", Flag},
     {"One", Flag},     {"Two", Flag},         {"Bin", Flag},       {"Tern", Flag},
     {"REACT", Flag},   {"XMLNAME", Text}};
-constexpr ColumnSchema kPropertyGroups[] = {
+constexpr ColumnSchema PropertyGroupsTable[] = {
     {"GROUP", Text}, {"GroupName", Text}, {"XMLGroup", Text}, {"Pure", Flag},
     {"Bin", Flag},   {"Tern", Flag},      {"React", Flag}};
-constexpr ColumnSchema kIndVariables[] = {
+constexpr ColumnSchema IndVariablesTable[] = {
     {"IndVarCode", Text}, {"IndVariable", Text}, {"Unit", Text}, {"Constr", Flag},
     {"Pure", Flag},       {"Bin", Flag},         {"Tern", Flag}, {"XMLGroup", Text},
     {"XMLNAME", Text},    {"NeedSolvent", Flag}};
 // A value times FACTOR is the value in Unit, the system unit.
-constexpr ColumnSchema kConversions[] = {
+constexpr ColumnSchema ConversionsTable[] = {
     {"ConversionCode", Text}, {"Conversion", Text}, {"Unit", Text}, {"FACTOR", Real}};
-constexpr ColumnSchema kPhases[] = {{"Code", Text}, {"Phase", Text}, {"Pure", Flag}, {"Bin", Flag},
-                                    {"Tern", Flag}, {"React", Flag}, {"GH", Flag}};
-constexpr ColumnSchema kMethods[] = {{"Code", Text}, {"MethodCode", Text}, {"Method", Text}};
-constexpr ColumnSchema kQuestions[] = {
+constexpr ColumnSchema PhasesTable[] = {{"Code", Text}, {"Phase", Text}, {"Pure", Flag},
+                                        {"Bin", Flag},  {"Tern", Flag},  {"React", Flag},
+                                        {"GH", Flag}};
+constexpr ColumnSchema MethodsTable[] = {{"Code", Text}, {"MethodCode", Text}, {"Method", Text}};
+constexpr ColumnSchema QuestionsTable[] = {
     {"Question", Text}, {"Method", Text}, {"Context", Text}, {"Key", Text}};
-constexpr ColumnSchema kReactions[] = {{"RCode", Text}, {"RType", Text}};
-constexpr ColumnSchema kJournals[] = {{"ShortTitle", Text}};
-constexpr ColumnSchema kPublishers[] = {{"Publisher", Text}};
-constexpr ColumnSchema kPurification[] = {{"Code", Text}, {"Method", Text}};
-constexpr ColumnSchema kPurityDetermination[] = {
+constexpr ColumnSchema ReactionsTable[] = {{"RCode", Text}, {"RType", Text}};
+constexpr ColumnSchema JournalsTable[] = {{"ShortTitle", Text}};
+constexpr ColumnSchema PublishersTable[] = {{"Publisher", Text}};
+constexpr ColumnSchema PurificationTable[] = {{"Code", Text}, {"Method", Text}};
+constexpr ColumnSchema PurityDeterminationTable[] = {
     {"Code", Text}, {"Method", Text}, {"Rating", Integer}};
-constexpr ColumnSchema kAmass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
+constexpr ColumnSchema Amass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
 
 // A compound has a row for each of its names.
-constexpr ColumnSchema kAllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
-constexpr ColumnSchema kSourceRefInfo[] = {
+constexpr ColumnSchema AllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
+constexpr ColumnSchema SourceRefInfo[] = {
     {"YEARPUB", Integer}, {"AUTHOR1", Text}, {"AUTHOR2", Text}, {"AUTHORN", Integer},
     {"SOURCE", Text},     {"TITLE", Text},   {"NEW", Flag}};
-constexpr ColumnSchema kSourceAuthor[] = {
+constexpr ColumnSchema SourceAuthor[] = {
     {"LASTNM", Text}, {"INITNM", Text}, {"FULLNM", Text}, {"NEW", Flag}};
 
 } // namespace
 
 constexpr std::array<TableSchema, 13> LocalTables{
-    {{"Properties", kProperties,
+    {{"Properties", PropertiesTable,
       "create index PropertiesCode on Properties(Code);"
       "create index PropertiesGroup on Properties(\"GROUP\")"},
-     {"PropertyGroups", kPropertyGroups, ""},
-     {"IndVariables", kIndVariables, ""},
-     {"Conversions", kConversions,
+     {"PropertyGroups", PropertyGroupsTable, ""},
+     {"IndVariables", IndVariablesTable, ""},
+     {"Conversions", ConversionsTable,
       "create index ConversionsCode on Conversions(ConversionCode);"
       "create index ConversionsUnit on Conversions(Unit);"
       "create index ConversionsText on Conversions(Conversion)"},
-     {"Phases", kPhases, ""},
-     {"Methods", kMethods, "create index MethodsCode on Methods(Code)"},
-     {"Questions", kQuestions, ""},
-     {"Reactions", kReactions, ""},
-     {"Journals", kJournals, ""},
-     {"Publishers", kPublishers, ""},
-     {"Purification", kPurification, ""},
-     {"PurityDetermination", kPurityDetermination, ""},
-     {"AMASS", kAmass, ""}}};
+     {"Phases", PhasesTable, ""},
+     {"Methods", MethodsTable, "create index MethodsCode on Methods(Code)"},
+     {"Questions", QuestionsTable, ""},
+     {"Reactions", ReactionsTable, ""},
+     {"Journals", JournalsTable, ""},
+     {"Publishers", PublishersTable, ""},
+     {"Purification", PurificationTable, ""},
+     {"PurityDetermination", PurityDeterminationTable, ""},
+     {"AMASS", Amass, ""}}};
 
 constexpr std::array<TableSchema, 3> CompoundTables{
-    {{"ALLNAME", kAllName,
+    {{"ALLNAME", AllName,
       "create index AllNameRN on ALLNAME(RN);"
       "create index AllNameName on ALLNAME(NAME)"},
-     {"SOURCE_REFINFO", kSourceRefInfo,
+     {"SOURCE_REFINFO", SourceRefInfo,
       "create index SourceYear on SOURCE_REFINFO(YEARPUB, AUTHOR1)"},
-     {"SOURCE_AUTHOR", kSourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}}};
+     {"SOURCE_AUTHOR", SourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}}};
 
 namespace {
 

@@ -19,8 +19,8 @@ TableReader::TableReader(const std::string& path)
     if (!file || std::filesystem::is_directory(path)) return;
     text_.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     isOpen_ = !file.bad();
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (text_.starts_with(kByteOrderMark)) at_ = kByteOrderMark.size();
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text_.starts_with(byteOrderMark)) at_ = byteOrderMark.size();
 }
 
 bool TableReader::NextLine(std::string_view& line) {

@@ -7,7 +7,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view kWhite = " \t\r\n";
+constexpr std::string_view White = " \t\r\n";
 
 std::string_view Strip(std::string_view text, std::string_view characters) {
     const std::size_t first = text.find_first_not_of(characters);
@@ -29,8 +29,8 @@ bool IsContinuation(char c) {
 } // namespace
 
 std::string_view WordReader::NextWord() {
-    rest_ = Strip(rest_, kWhite);
-    const std::size_t end = std::min(rest_.find_first_of(kWhite), rest_.size());
+    rest_ = Strip(rest_, White);
+    const std::size_t end = std::min(rest_.find_first_of(White), rest_.size());
     const std::string_view word = rest_.substr(0, end);
     // One separator goes: blanks behind it may belong to a text that is the rest of the line.
     rest_.remove_prefix(std::min(end + 1, rest_.size()));
@@ -38,7 +38,7 @@ std::string_view WordReader::NextWord() {
 }
 
 bool WordReader::AtEnd() const {
-    return Strip(rest_, kWhite).empty();
+    return Strip(rest_, White).empty();
 }
 
 std::string NextHashField(std::string& text) {
@@ -58,7 +58,7 @@ std::string_view TrimBlanks(std::string_view text) {
     return Strip(text, " ");
 }
 std::string_view Trim(std::string_view text) {
-    return Strip(text, kWhite);
+    return Strip(text, White);
 }
 
 std::string UpperAscii(std::string_view text) {
@@ -165,14 +165,14 @@ char32_t NextCodePoint(std::string_view text, std::size_t& offset) {
     ++offset;
     if (length == 1 || offset + length - 1 > text.size()) return lead;
     // Overlong forms would give one character several spellings.
-    constexpr std::array<char32_t, 5> kSmallest{0, 0, 0x80, 0x800, 0x10000};
+    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
     char32_t value = lead & (0x7FU >> length);
     for (std::size_t i = 0; i + 1 < length; ++i) {
         if (!IsContinuation(text[offset + i])) return lead;
         value = (value << 6U) | (static_cast<unsigned char>(text[offset + i]) & 0x3FU);
     }
     const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
-    if (value < kSmallest[length] || value > 0x10FFFF || surrogate) return lead;
+    if (value < smallest[length] || value > 0x10FFFF || surrogate) return lead;
     offset += length - 1;
     return value;
 }
@@ -207,14 +207,14 @@ bool IsValidUtf8(std::string_view text) {
 
 std::string FromWindows1252(std::string_view bytes) {
     // The code page differs from Latin-1 in 128 to 159 only (Unicode mapping table CP1252).
-    static constexpr std::array<char16_t, 32> kHigh{
+    static constexpr std::array<char16_t, 32> high{
         0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
         0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
         0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
     std::string result;
     for (const char c : bytes) {
         const auto code = static_cast<unsigned char>(c);
-        AppendCodePoint(result, code >= 128 && code < 160 ? char32_t{kHigh[code - 128U]} : code);
+        AppendCodePoint(result, code >= 128 && code < 160 ? char32_t{high[code - 128U]} : code);
     }
     return result;
 }

@@ -10,20 +10,20 @@ namespace {
 
 // Base letters of the canonical decompositions (Unicode character database), one a code point, with
 // the stroked and dotless letters besides; a blank where there is none.
-constexpr std::string_view kLatinExtended = // U+0100 to U+024F
+constexpr std::string_view LatinExtended = // U+0100 to U+024F
     "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIi  JjKk LlLlLl "
     " LlNnNnNn   OoOoOo  RrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZz "
     "                                Oo             Uu               "
     "             AaIiOoUuUuUuUuUu AaAa    GgKkOoOo  j   Gg  NnAa  Oo"
     "AaAaEeEeIiIiOoOoRrRrUuUuSsTt  Hh      AaEeOoOoOoOoYy            "
     "                ";
-constexpr std::string_view kLatinAdditional = // U+1E00 to U+1EFF
+constexpr std::string_view LatinAdditional = // U+1E00 to U+1EFF
     "AaBbBbBbCcDdDdDdDdDdEeEeEeEeEeFfGgHhHhHhHhHhIiIiKkKkKkLlLlLlLlMm"
     "MmMmNnNnNnNnOoOoOoOoPpPpRrRrRrRrSsSsSsSsSsTtTtTtTtUuUuUuUuUuVvVv"
     "WwWwWwWwWwXxXxYyZzZzZzhtwy      AaAaAaAaAaAaAaAaAaAaAaAaEeEeEeEe"
     "EeEeEeEeIiIiOoOoOoOoOoOoOoOoOoOoOoOoUuUuUuUuUuUuUuYyYyYyYy      ";
 
-constexpr std::array<std::string_view, 95> kLatin1{
+constexpr std::array<std::string_view, 95> Latin1{
     // U+00A1 to U+00FF
     "!",   "cents", "pounds", "$",  "yen", "|", "",      "",  "(C)", "a",  "<<", "",  "-",  "(R)",
     "-",   "deg ",  "+-",     "^2", "^3",  "'", "micro", "",  "*",   ",",  "^1", "o", ">>", "1/4",
@@ -34,8 +34,8 @@ constexpr std::array<std::string_view, 95> kLatin1{
     "o",   "o",     "/",      "o",  "u",   "u", "u",     "u", "y",   "p",  "y"};
 
 char32_t BaseLetter(char32_t c) {
-    if (c >= 0x100 && c <= 0x24F) return static_cast<unsigned char>(kLatinExtended[c - 0x100]);
-    if (c >= 0x1E00 && c <= 0x1EFF) return static_cast<unsigned char>(kLatinAdditional[c - 0x1E00]);
+    if (c >= 0x100 && c <= 0x24F) return static_cast<unsigned char>(LatinExtended[c - 0x100]);
+    if (c >= 0x1E00 && c <= 0x1EFF) return static_cast<unsigned char>(LatinAdditional[c - 0x1E00]);
     return c;
 }
 
@@ -43,7 +43,7 @@ char32_t BaseLetter(char32_t c) {
 std::string Plain(char32_t c) {
     if (c == U'<') return "less than";
     if (c == U'>') return "greater than";
-    return std::string(c < 161 || c > 255 ? " " : kLatin1[c - 161]);
+    return std::string(c < 161 || c > 255 ? " " : Latin1[c - 161]);
 }
 
 bool PassesAsItIs(char32_t c) {

@@ -7,7 +7,7 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* dimensionless = "Dimensionless";
+constexpr const char* Dimensionless = "Dimensionless";
 
 } // namespace
 
@@ -25,12 +25,12 @@ std::string UnitText(const std::string& systemUnit, std::string_view code, doubl
     factor = FactorInUnit(code, factor);
     // The star says "times": the typed value times the factor is in the unit behind it.
     if (factor > 0) return NumberText(factor) + (isOne ? "*" : "* " + systemUnit);
-    if (isOne) return dimensionless;
+    if (isOne) return Dimensionless;
     return IsSystemUnit(code) ? systemUnit : std::string(code);
 }
 
 std::string NumberWithUnit(const std::string& number, const std::string& unitText) {
-    if (unitText.empty() || unitText == "1" || unitText == dimensionless) return number;
+    if (unitText.empty() || unitText == "1" || unitText == Dimensionless) return number;
     const bool hasFactor = unitText.ends_with('*') || unitText.find("* ") != std::string::npos;
     return number + (hasFactor ? " (" + unitText + ")" : " " + unitText);
 }

@@ -11,7 +11,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::array<CodeText, 3> kSolutions{{
+constexpr std::array<CodeText, 3> Solutions{{
     {"Solution", "S"},
     {"Solution 1", "S1"},
     {"Solution 2", "S2"},
@@ -82,13 +82,13 @@ bool ContextFlags::IsIn(std::string_view context) const {
 }
 
 std::string PhaseCode(std::string_view name) {
-    std::string solution = CodeOfText(kSolutions, name);
+    std::string solution = CodeOfText(Solutions, name);
     if (!solution.empty()) return solution;
     return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Phase, name, &PhaseRow::Code);
 }
 
 std::string PhaseName(std::string_view code) {
-    std::string solution = TextOfCode(kSolutions, code);
+    std::string solution = TextOfCode(Solutions, code);
     if (!solution.empty()) return solution;
     return TextOf(Kept(&VocabularyTables::Phases), &PhaseRow::Code, code, &PhaseRow::Phase);
 }

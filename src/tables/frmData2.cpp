@@ -11,13 +11,13 @@ namespace vexora {
 
 namespace {
 
-constexpr int helpAbout = 310;
-constexpr int helpSequence = 320;
-constexpr int helpList = 330;
-constexpr int helpHow = 340;
-constexpr int helpUncertainty = 345;
+constexpr int HelpAbout = 310;
+constexpr int HelpSequence = 320;
+constexpr int HelpList = 330;
+constexpr int HelpHow = 340;
+constexpr int HelpUncertainty = 345;
 
-constexpr const char* firstRunText =
+constexpr const char* FirstRunText =
     "Numerical data are entered in an electronic table: type the values, paste them from another "
     "program, or read them from a text file. Each row holds the variables and the property. "
     "Cells that need a look are marked while you work, and listed below the table.";
@@ -29,7 +29,7 @@ frmData2::frmData2() : Form("frmData2", "Data table") {
     WireEvents();
     WireMenus();
     CancelButton = &cmdFinish;
-    HelpContext = helpAbout;
+    HelpContext = HelpAbout;
 }
 
 frmData2::~frmData2() = default;
@@ -58,11 +58,11 @@ void frmData2::WireMenus() {
     const auto help = [](ui::MenuItem& item, int context) {
         item.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
     };
-    help(mnuHelpAbout, helpAbout);
-    help(mnuHelpSeq, helpSequence);
-    help(mnuHelpList, helpList);
-    help(mnuHelpHow, helpHow);
-    help(mnuUnc, helpUncertainty);
+    help(mnuHelpAbout, HelpAbout);
+    help(mnuHelpSeq, HelpSequence);
+    help(mnuHelpList, HelpList);
+    help(mnuHelpHow, HelpHow);
+    help(mnuUnc, HelpUncertainty);
 }
 
 void frmData2::Load() {
@@ -74,7 +74,7 @@ void frmData2::Load() {
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr);
     if (!set_) mnuSystemUnits.Enabled(false);
-    if (Globals().FirstRun) ui::Say(firstRunText);
+    if (Globals().FirstRun) ui::Say(FirstRunText);
 }
 
 void frmData2::Activate() {

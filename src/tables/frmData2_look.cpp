@@ -14,7 +14,7 @@ namespace {
 
 using Kind = TableColumn::Kind;
 
-constexpr const char* lookAgainText = "Look again: far from what its neighbours say";
+constexpr const char* LookAgainText = "Look again: far from what its neighbours say";
 
 /// A vapor pressure is nearly straight as its logarithm against the reciprocal temperature.
 FitScale ScaleOf(const DataSet& set, int variable) {
@@ -29,7 +29,7 @@ std::vector<Finding> frmData2::Hints() const {
     std::vector<Finding> hints;
     if (!set_) return hints;
     for (const int row : FarRowsOfTable())
-        hints.push_back({row, columns_.Find(Kind::Value, 0), lookAgainText, false});
+        hints.push_back({row, columns_.Find(Kind::Value, 0), LookAgainText, false});
     return hints;
 }
 

@@ -8,7 +8,7 @@ namespace vexora::ui {
 
 namespace {
 
-constexpr int page = 10; // entries that PageUp and PageDown pass
+constexpr int Page = 10; // entries that PageUp and PageDown pass
 
 char32_t Folded(char32_t letter) {
     return letter >= U'A' && letter <= U'Z' ? letter + (U'a' - U'A') : letter;
@@ -151,8 +151,8 @@ bool ComboBox::Jump(const Key& key) {
     int next = -1;
     if (key.name == "Home") next = 0;
     if (key.name == "End") next = last;
-    if (key.name == "PageUp") next = std::max(Index() - page, 0);
-    if (key.name == "PageDown") next = std::min(Index() + page, last);
+    if (key.name == "PageUp") next = std::max(Index() - Page, 0);
+    if (key.name == "PageDown") next = std::min(Index() + Page, last);
     for (int step = 1; key.character > U' ' && next < 0 && step <= Count(); ++step) {
         const int at = (Index() + step) % Count();
         if (BeginsWith(Item(at), key.character)) next = at;

@@ -136,7 +136,7 @@ bool TextBox::UserKey(Key& key) {
 }
 
 std::string RichText::Display() const {
-    static constexpr std::pair<std::string_view, char> kEntities[] = {
+    static constexpr std::pair<std::string_view, char> entities[] = {
         {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&amp;", '&'}};
     std::string text;
     bool inTag = false;
@@ -144,7 +144,7 @@ std::string RichText::Display() const {
         char c = html_[i];
         if (c == '<') inTag = true;
         if (!inTag) {
-            for (const auto& [entity, sign] : kEntities) {
+            for (const auto& [entity, sign] : entities) {
                 if (html_.compare(i, entity.size(), entity) != 0) continue;
                 i += entity.size() - 1;
                 c = sign;
