@@ -11,7 +11,7 @@
 namespace vexora {
 
 SampleChoice::SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox& samples,
-                           std::function<void()> follow, std::string prompt)
+                           const std::function<void()>& follow, std::string prompt)
     : form_(form), compounds_(compounds), sampleBox_(samples),
       samples_(form, samples, std::move(prompt)) {
     compounds.OnClick = [this, follow] {

@@ -21,7 +21,7 @@ public:
     /// samples makes one; the form then follows what was chosen. A prompt, if there is one, leads
     /// the list of samples.
     SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox& samples,
-                 std::function<void()> follow, std::string prompt = {});
+                 const std::function<void()>& follow, std::string prompt = {});
 
     /// Lists the compounds of the document and chooses the current one with its current sample.
     /// To be called when the dialog loads; the handlers of the form are held off meanwhile. Locked
