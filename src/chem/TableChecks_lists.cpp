@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <unordered_map>
 
+#include "chem/AbridgedWeights.h"
 #include "chem/TableChecks.h"
 #include "chem/clsAtom.h"
 #include "reference/Numbers.h"
@@ -55,6 +58,14 @@ void CheckFormula(TableRows& row) {
                                              " is not canonical, that is " + Quoted(canonical));
 }
 
+void CompareMass(TableRows& row, double mass, const AbridgedWeight& abridged) {
+    // Half of the fifth figure, and isotopes that are some units apart.
+    const double tolerance = abridged.isMassNumber ? 0.03 : 1e-4;
+    row.Expect(std::abs(mass - abridged.weight) <= tolerance * abridged.weight,
+               "the mass " + NumberText(mass) + " of " + Quoted(abridged.symbol) +
+                   " differs from " + NumberText(abridged.weight) + " of a second list");
+}
+
 void ExpectWidth(TableRows& row, const char* field, std::size_t width) {
     row.Expect(CodePointCount(row.Text(field)) == width,
                std::string(field) + " is not " + std::to_string(width) + " characters wide");
@@ -84,18 +95,27 @@ void CheckLists(const Database& vocabulary, RowRemarks& findings) {
 }
 
 void CheckAtomicMasses(const Database& vocabulary, RowRemarks& findings) {
+    std::map<std::string, AbridgedWeight> weights;
+    for (const AbridgedWeight& weight : AbridgedWeights())
+        weights.emplace(weight.symbol, weight);
     for (TableRows row(vocabulary, "AMASS", findings); !row.IsEnd(); row.MoveNext()) {
         const std::string symbol = row.Required("SYMBOL");
         row.Expect(IsElementSymbol(symbol) && symbol != "Xx" && symbol != "R",
                    Quoted(symbol) + " is no symbol of an element");
         row.ExpectOnce("the symbol", symbol);
         // Even hydrogen (1.008 g/mol) is above 1.
-        row.Expect(row.Number("AMASS") > 1, "the mass of " + Quoted(symbol) + " is not above 1");
+        const double mass = row.Number("AMASS");
+        row.Expect(mass > 1, "the mass of " + Quoted(symbol) + " is not above 1");
+        const auto found = weights.extract(symbol);
+        if (mass > 1 && found) CompareMass(row, mass, found.mapped());
     }
+    for (const auto& [symbol, weight] : weights)
+        findings.push_back({"AMASS", 0, "the element " + Quoted(symbol) + " is missing", false});
 }
 
 void CheckCompounds(const Database& compounds, RowRemarks& findings) {
     std::map<std::int64_t, std::string> formulas;
+    std::unordered_map<std::string, std::int64_t> numbers; // of each name, whatever its case
     for (TableRows row(compounds, "ALLNAME", findings); !row.IsEnd(); row.MoveNext()) {
         const std::int64_t rn = row.Integer("RN");
         row.Expect(IsRegistryNumber(rn) && rn != EmptySlot,
@@ -103,6 +123,8 @@ void CheckCompounds(const Database& compounds, RowRemarks& findings) {
         const std::string name = row.Required("NAME");
         // Synonyms have rows of their own; one that stands twice would be offered twice.
         row.ExpectOnce("for " + std::to_string(rn) + " the name", LowerAscii(name));
+        const std::int64_t known = numbers.emplace(LowerAscii(name), rn).first->second;
+        row.Expect(known == rn, Quoted(name) + " is a name of " + std::to_string(known) + " too");
         CheckFormula(row);
         // The molar mass of data is taken from the first row found.
         const std::string& first = formulas.emplace(rn, row.Text("FORMULA")).first->second;

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "chem/TableChecks.h"
+#include "chem/UnitMeasure.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
@@ -50,6 +52,30 @@ void CheckFactor(TableRows& row, const std::string& code) {
     row.Expect(difference <= 1e-12 * constant,
                "FACTOR " + NumberText(factor) + " differs from the constant " +
                    NumberText(constant) + " of the code " + Quoted(code));
+}
+
+/// The factor against what the parts of the unit text make of it.
+void CompareFactor(TableRows& row, const std::string& code) {
+    // Constants were rounded when data were entered with them; inches of mercury are furthest off.
+    constexpr double ofBuiltIn = 2e-4;
+    constexpr double ofRows = 1e-6;
+    const std::vector<std::string_view> builtIn = BuiltInConversions();
+    const bool known = std::ranges::find(builtIn, code) != builtIn.end();
+    const std::string text = row.Text("Conversion");
+    const std::string unit = row.Text("Unit");
+    const double factor = row.Number("FACTOR");
+    if (factor <= 0) return;
+    // "*8.31451" says how many of the system unit.
+    const auto expected =
+        FactorBetween(text.starts_with('*') ? unit + text : text, unit, IsMassBased(code));
+    if (!expected)
+        row.Tell("the unit text " + Quoted(text) + " cannot be read");
+    else if (*expected == 0)
+        row.Tell(Quoted(text) + " has not the dimension of " + Quoted(unit));
+    else
+        row.Expect(std::abs(factor - *expected) <= (known ? ofBuiltIn : ofRows) * *expected,
+                   "FACTOR " + NumberText(factor) + " is not that of " + Quoted(text) + ", " +
+                       NumberText(*expected));
 }
 
 void CheckStateVariables(const Database& vocabulary, RowRemarks& findings) {
@@ -141,6 +167,7 @@ void CheckConversions(const Database& vocabulary, RowRemarks& findings) {
         row.Expect(!IsUnitOfTables(text), Quoted(text) + " is a system unit itself");
         row.Expect(text.find('\'') == text.npos, "a text with an apostrophe is never found");
         CheckFactor(row, code);
+        CompareFactor(row, code);
     }
     const std::vector<std::string> codes = ColumnTexts(vocabulary, "Conversions", "ConversionCode");
     for (const std::string_view code : BuiltInConversions())

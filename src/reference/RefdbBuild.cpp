@@ -96,7 +96,10 @@ void FillDatabase(const std::string& path, std::span<const TableSchema> tables,
     for (const TableSchema& table : tables) {
         const std::string file =
             (fs::path(dataFolder) / (std::string(table.name) + ".tsv")).string();
-        if (fs::exists(file)) TableLoader(table, file, findings).Load(database);
+        if (fs::exists(file))
+            TableLoader(table, file, findings).Load(database);
+        else
+            findings.push_back({file, 1, "the table is missing"});
     }
     // Behind the rows: an index made at once is smaller and is done sooner than one that grows.
     CreateIndexes(database, tables);

@@ -14,8 +14,8 @@
 
 namespace vexora {
 
-/// Writes VXRLocal.mdb and VXR.mdb into `outFolder` (made if need be) from `dataFolder`. A table
-/// without a file is empty. With findings nothing is written. Throws DatabaseError when a file
+/// Writes VXRLocal.mdb and VXR.mdb into `outFolder` (made if need be) from `dataFolder`, which
+/// must hold every table. With findings nothing is written. Throws DatabaseError when a file
 /// cannot be written; the files that stand there are replaced only by whole ones.
 std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
                                                 const std::string& outFolder);

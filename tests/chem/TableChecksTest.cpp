@@ -106,6 +106,8 @@ TEST_F(TableChecks, CompoundsNeedACheckDigitACanonicalFormulaAndOneFormulaEach) 
               first + "NAME has blanks at an end\n");
     EXPECT_EQ(found("update ALLNAME set NAME='HEAVY WATER' where rowid=3"),
               "ALLNAME:3: error: for 7789200 the name \"heavy water\" stands in row 2 already\n");
+    EXPECT_EQ(found("update ALLNAME set NAME='Water' where rowid=2"),
+              "ALLNAME:2: error: \"Water\" is a name of 7732185 too\n");
     EXPECT_EQ(found("update ALLNAME set FORMULA='H2O' where rowid=3"),
               "ALLNAME:3: error: 7789200 has the formula \"D2O\" in an earlier row\n");
     EXPECT_EQ(found("delete from ALLNAME"), "ALLNAME: error: the table is empty\n");

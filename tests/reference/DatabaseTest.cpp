@@ -176,6 +176,7 @@ TEST_F(DatabaseTest, EveryOpeningAndChangeBeginsAnEdition) {
 class OpenBothTest : public testing::Test {
 protected:
     void SetUp() override {
+        test::WriteEmptyTables(folder);
         BuildReferenceDatabases(folder.Path(), folder.Path());
         local = folder.File("VXRLocal.mdb");
         compounds = folder.File("VXR.mdb");

@@ -20,8 +20,11 @@ TEST(RefdbBuild, BadLinesAreToldWithTheirPlaceAndNothingIsWritten) {
     folder.Write("Phases.tsv", "Code\tPhase\tPure\tSOURCE_OF_ROW\nL\tLiquid\t2\t-\n");
     folder.Write("Reactions.tsv", "RCode\tKind\tSOURCE_OF_ROW\n");
     folder.Write("Journals.tsv", "");
+    test::WriteEmptyTables(folder);
+    std::filesystem::remove(folder.File("Methods.tsv"));
     EXPECT_EQ(Lines(BuildReferenceDatabases(folder.Path(), folder.Path())),
               "Phases.tsv:2: error: Pure cannot be \"2\"\n"
+              "Methods.tsv:1: error: the table is missing\n"
               "Reactions.tsv:1: error: unknown column Kind\n"
               "Journals.tsv:1: error: the line of column names is missing\n"
               "AMASS.tsv:4: error: AMASS cannot be \"two\"\n"

@@ -3,9 +3,11 @@
 
 #include "reference/RefdbBuild.h"
 #include "reference/ReferenceDatabases.h"
+#include "reference/Schema.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -37,12 +39,27 @@ private:
     std::filesystem::path path_;
 };
 
+/// The tables that a test did not write, each with its heading alone.
+inline void WriteEmptyTables(const TemporaryFolder& folder) {
+    const auto write = [&folder](const TableSchema& table) {
+        const std::string file = std::string(table.name) + ".tsv";
+        if (std::filesystem::exists(folder.File(file))) return;
+        std::string heading;
+        for (const ColumnSchema& column : table.columns)
+            heading += std::string(column.name) + '\t';
+        folder.Write(file, heading + "SOURCE_OF_ROW\n");
+    };
+    std::ranges::for_each(LocalTables, write);
+    std::ranges::for_each(CompoundTables, write);
+}
+
 class ReferenceFixture : public testing::Test {
 protected:
     ~ReferenceFixture() override { UseDatabases(nullptr); }
 
-    /// Builds both databases from the tables written so far and installs them.
+    /// Builds both databases from the tables written so far, the others empty, and installs them.
     void Build() {
+        WriteEmptyTables(folder);
         for (const LineRemark& finding : BuildReferenceDatabases(folder.Path(), folder.Path()))
             ADD_FAILURE() << finding.Line();
         const auto error = databases.OpenBoth(folder.File("VXRLocal.mdb"), folder.File("VXR.mdb"));
