@@ -24,7 +24,7 @@ struct Rule {
 
 // What thermodynamics forbids [system units: K, kPa, kg/m3, m3/mol, J/K/mol, kJ/mol ...].
 constexpr Rule HardLimits[] = {
-    {"T TMN TBN TB TC TE TLC TUC", 0, None},
+    {"T TMN TBN TB TC TE TLC TUC TG TTR TDC", 0, None},
     {"TA PA", 0, None, false, false, false, true},
     {"P PV P# PC PO F", 0, None},
     {"VDN VDM VS VM VC VSC VDC", 0, None, true},
@@ -36,7 +36,7 @@ constexpr Rule HardLimits[] = {
     // "WL" without a number is a wavelength.
     {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S", 0, 1},
     {"KT KP KX KM KJ EE YRC PHx PHM PHM# PHJ PHJ# RSS Z ZC VLC VLR CGM", 0, None},
-    {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC", 0, None},
+    {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC NMC", 0, None},
 };
 
 // Where the data of common compounds lie; helium and molten salts are asked about.
@@ -44,7 +44,7 @@ constexpr Rule SoftLimits[] = {
     {"TMN", 100, 700},
     {"TB TBN", 100, 800},
     {"TC", 190, 1000},
-    {"T", 1, 2000},
+    {"T TG TTR TDC", 1, 2000},
     {"TE TLC TUC", 100, 1000},
     {"TA", 100, 1000, false, false, false, true},
     {"PC", 500, 10000},
@@ -63,7 +63,7 @@ constexpr Rule SoftLimits[] = {
     {"CEX", 0.001, 1000, false, false, true},
     {"CPW CVW", 1, 4200, false, false, true},
     {"CPV CVV", 1000, 4200000, false, false, true},
-    {"HEX", 0, 10, false, false, true},
+    {"HEX GEX", 0, 10, false, false, true},
     {"HTR HVP", 0, 300},
     {"RID RIX", -None, 2, false, true},
     {"M# J#", -None, 20, false, true},

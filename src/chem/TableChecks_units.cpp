@@ -15,11 +15,12 @@ namespace vexora {
 namespace {
 
 // Stored data stand in these; a unit that changes here would change the meaning of stored data.
-constexpr std::array<std::string_view, 32> Units{
-    {"1",      "K",          "kPa",    "1/K",     "1/kPa",  "kg/m3",   "m3/kg",  "m3/mol",
-     "mol/m3", "m6/mol2",    "kJ/mol", "J/K/mol", "J/K/kg", "J/K/m3",  "Pa*s",   "1/(Pa*s)",
-     "m2/s",   "W/m/K",      "N/m",    "m/s",     "mol/kg", "mol/dm3", "V",      "A",
-     "MHz",    "kPa*kg/mol", "kJ/kg",  "K/kPa",   "kPa/K",  "S/m",     "kg/dm3", "kPa*dm3/mol"}};
+constexpr std::array<std::string_view, 34> Units{
+    {"1",       "K",        "kPa",     "1/K",         "1/kPa",      "kg/m3",     "m3/kg",
+     "m3/mol",  "mol/m3",   "m6/mol2", "kJ/mol",      "J/K/mol",    "J/K/kg",    "J/K/m3",
+     "Pa*s",    "1/(Pa*s)", "m2/s",    "W/m/K",       "N/m",        "m/s",       "mol/kg",
+     "mol/dm3", "V",        "A",       "MHz",         "kPa*kg/mol", "kJ/kg",     "K/kPa",
+     "kPa/K",   "S/m",      "kg/dm3",  "kPa*dm3/mol", "S*m2/mol",   "m3/kPa/mol"}};
 
 // Codes that differ by case only: each letter of these units has its own meaning.
 constexpr std::string_view CasePairs = "AKVUZWXY";

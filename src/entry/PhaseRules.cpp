@@ -36,8 +36,10 @@ bool IsLiquidOrCrystal(std::string_view code) {
 
 PhaseOffer OfferAll(std::string_view code, std::string_view context) {
     const auto phasesThat = [context](auto test) { return PhasesThat(context, test); };
-    // At the critical point and on a liquid's surface the two phases are known.
-    if (IsOneOf(code, {"TC", "PC", "VC", "VDC", "VSC", "ZC", "IST"})) return {{"L"}, {"G"}, {}};
+    // At the critical point the two phases are known.
+    if (IsOneOf(code, {"TC", "PC", "VC", "VDC", "VSC", "ZC"})) return {{"L"}, {"G"}, {}};
+    // A liquid's surface is measured under its vapour or in air.
+    if (code == "IST") return {{"L"}, {"G", "air"}, {}};
     // Boiling and sublimation: vapour pressure and enthalpy belong to the same equilibrium.
     if (IsOneOf(code, {"TBN", "TB", "PV", "HVP"}))
         return {phasesThat(IsLiquidOrCrystal), {"G"}, {}};
@@ -45,6 +47,10 @@ PhaseOffer OfferAll(std::string_view code, std::string_view context) {
     if (code == "TMN") return {phasesThat(IsCrystalPhase), {"L"}, {"air"}};
     // Freezing and cryoscopy: crystal and liquid, the air is not stated.
     if (IsOneOf(code, {"TF", "YRC"})) return {phasesThat(IsCrystalPhase), {"L"}, {}};
+    // A glass softens to a liquid, a mesophase or a crystal without order.
+    if (code == "TG") return {{"VG"}, phasesThat(IsCondensed), {}};
+    if (code == "TTR") return {phasesThat(IsCrystalPhase), phasesThat(IsCrystalPhase), {}};
+    if (code == "TDC") return {phasesThat(IsCondensed), {}, {}};
     if (code == "HTR") return {phasesThat(IsCondensed), phasesThat(IsCondensed), {}};
     // Three phases are in equilibrium at a triple point; the third is nearly always the vapour.
     if (IsOneOf(code, {"TTP", "PTP"}))
@@ -60,8 +66,10 @@ PhaseOffer OfferPhases(std::string_view propertyCode, int variableCount, std::st
     // A transition needs two different phases.
     std::erase(offer.Phase2, phase1);
     if (variableCount == 0) return offer;
-    // With temperature or pressure fixed the state is that of one phase.
-    return {offer.Phase1, {}, {}};
+    // With temperature or pressure fixed the state is that of one phase, but for a surface.
+    if (propertyCode != "IST") offer.Phase2.clear();
+    offer.Phase3.clear();
+    return offer;
 }
 
 } // namespace vexora

@@ -102,7 +102,7 @@ void clsZ::ExportZ(XmlWriter& xml) const {
     ExportComponent(xml, *Parent->Parent, SMPNM);
     ExportOrigin(xml, Header);
     ExportProperty(xml, *this, group);
-    ExportPhases(xml, PRPCODE, Header, {PHASE1, PHASE2, PHASE3});
+    ExportPhases(xml, PRPCODE, Header, {PHASE1, PhaseBeside(), PHASE3});
     if (IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml);
     if (nVar == 1) ExportVariable(xml, 1, Variable(), PHASE1, Statements(1));
     ExportValues(xml, *this);

@@ -11,7 +11,7 @@ namespace vexora {
 namespace {
 
 bool IsTemperature(std::string_view property) {
-    return IsOneOf(property, {"T", "TB", "TF"});
+    return IsOneOf(property, {"T", "TB", "TF", "TG", "TTR", "TDC"});
 }
 
 bool IsPressure(std::string_view property) {

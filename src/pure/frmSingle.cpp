@@ -203,7 +203,7 @@ void frmSingle::TakeRecord(const clsZ& record) {
 /// A state that the form does not ask for stays among the tags.
 void frmSingle::ShowComment(const clsZ& record) {
     CommentTags tags(record.Header.DATACOMMENT);
-    const std::string state = frmConstraint.Visible() ? tags.TakeState() : "";
+    const std::string state = frmConstraint.Visible() || AsksForSurface() ? tags.TakeState() : "";
     optPB.Value(state == "PB");
     optFP.Value(state == "FP");
     txtComment.Text(TakeComment(tags.Stored()));
@@ -214,10 +214,8 @@ void frmSingle::ShowRecord(const clsZ& record) {
     ShowComment(record);
     ChoosePhase(lstPhase1, record.PHASE1);
     ShowPhases();
-    if (record.nVar == 0) {
-        ChoosePhase(lstPhase2, record.PHASE2);
-        ChoosePhase(lstPhase3, record.PHASE3);
-    }
+    ChoosePhase(lstPhase2, record.PhaseBeside());
+    ChoosePhase(lstPhase3, record.PHASE3);
     txtIndVariable.Text(record.INDVARIABLE);
     if (IsSystemUnit(CodeInField(record.VARIABLE_UNIT, variableUnit_))) {
         lstVariable_Unit.Index(0);
@@ -226,6 +224,10 @@ void frmSingle::ShowRecord(const clsZ& record) {
         lstVariable_Unit.Choose(ConversionText(code, variableUnit_));
     }
     txtValue.Text(record.PRPVALUE);
+}
+
+bool frmSingle::AsksForSurface() const {
+    return IsFixed() && lstPhase2.Enabled();
 }
 
 bool frmSingle::IsFixed() const {
@@ -262,6 +264,8 @@ bool frmSingle::Check() {
 
 bool frmSingle::CheckPhases() {
     for (ui::ComboBox* list : {&lstPhase1, &lstPhase2, &lstPhase3}) {
+        // A file may leave open what a surface lies against.
+        if (list == &lstPhase2 && editing_ && AsksForSurface()) continue;
         if (list->Enabled() && list->Index() < 0)
             return Refuse(*list, "Select the phase", "Phase of the substance");
     }
@@ -298,10 +302,17 @@ void frmSingle::Store() {
 }
 
 void frmSingle::StoreHeader(clsZ& record) const {
-    const bool asked = frmConstraint.Visible();
-    const std::string state = asked && optFP.Value() ? "FP" : asked && optPB.Value() ? "PB" : "";
     FillHeader(record.Header, !editing_,
-               BuildComment(txtComment.Text(), *Globals().CurrentProperty, state));
+               BuildComment(txtComment.Text(), *Globals().CurrentProperty, StateTag()));
+}
+
+/// The line of a value at a fixed variable has no second phase: a tag tells it.
+std::string frmSingle::StateTag() const {
+    const std::string beside = AsksForSurface() ? PhaseChosen(lstPhase2) : "";
+    const bool asked = frmConstraint.Visible();
+    if (beside == "air" || (asked && optFP.Value())) return "FP";
+    if (beside == "G" || (asked && optPB.Value())) return "PB";
+    return {};
 }
 
 void frmSingle::StoreValues(clsZ& record) const {

@@ -63,6 +63,7 @@ private:
     void ShowComment(const clsZ& record);
     void ShowRecord(const clsZ& record);
     bool IsFixed() const;
+    bool AsksForSurface() const;
 
     // Accepting.
     void Accept();
@@ -71,6 +72,7 @@ private:
     bool CheckVariable();
     void Store();
     void StoreHeader(clsZ& record) const;
+    std::string StateTag() const;
     void StoreValues(clsZ& record) const;
     void StoreStatements(clsZ& record) const;
     void TakeTexts();

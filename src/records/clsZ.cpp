@@ -76,8 +76,8 @@ std::string clsZ::Key() const {
 std::string clsZ::ShowKey() const {
     const PropertyLabel label = PropertyLabels::Of(*this);
     std::string text = (nVar == 0 ? "^0: " : "^F: ") + label.name + " (" +
-                       PhasesInBrief({PHASE1, PHASE2, PHASE3}) + "," + label.unit + "), Set " +
-                       PRPSETNO;
+                       PhasesInBrief({PHASE1, PhaseBeside(), PHASE3}) + "," + label.unit +
+                       "), Set " + PRPSETNO;
     if (!Header.DATACOMMENT.empty()) text += ", " + CommentDisplayText(Header.DATACOMMENT);
     return text;
 }
@@ -111,6 +111,12 @@ double clsZ::MolarMass() const {
     const double mass = Parent ? Parent->MolarMass() : 0;
     // The formula is the better witness: the file may have been written with another one.
     return mass > 0 ? mass : FallbackMolarMass;
+}
+
+std::string clsZ::PhaseBeside() const {
+    if (nVar == 0 || PRPCODE != "IST") return PHASE2;
+    const std::string state = CommentTags(Header.DATACOMMENT).TakeState();
+    return state == "PB" ? "G" : state == "FP" ? "air" : std::string(PHASE2);
 }
 
 std::string clsZ::Variable() const {

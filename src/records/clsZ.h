@@ -57,6 +57,9 @@ public:
     /// Puts it under the key that it has now, at the same place among its siblings.
     void Rekey();
 
+    /// Code of the phase beside PHASE1. At a fixed variable the line has no place for it: of a
+    /// surface the tag PB tells the gas and FP the air; "" or "&" when it is not stated.
+    std::string PhaseBeside() const;
     /// Code of the fixed variable (nVar 1).
     std::string Variable() const;
 

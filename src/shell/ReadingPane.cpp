@@ -150,7 +150,7 @@ std::string ReadingOf(const clsZ& value) {
         page.Line("At " + LowerAscii(VariableName(value.Variable(), value.DataContext())) + ":",
                   VariableText(value));
     page.Line("Phase:", PhaseText(value.PHASE1));
-    page.Line("In equilibrium with:", PhaseText(value.PHASE2));
+    page.Line("In equilibrium with:", PhaseText(value.PhaseBeside()));
     page.Line("And with:", PhaseText(value.PHASE3));
     page.Line("Method:", MethodText(value.Header, value.PRPCODE));
     page.Line("Purpose:", TextOfCode(ExperimentPurposes, value.Header.EXPPURPOSE));

@@ -231,11 +231,16 @@ TEST_F(PhasesOfferedTest, PhasesFollowThePropertyAndTheContext) {
     const std::string crystals = "C C1 C2 C3 C4 C5 CMS";
     const std::string liquids = "LC LCN LCS LCC";
     const std::string all = "L G IG FL " + crystals + " " + liquids + " VG";
-    for (const char* code : {"TC", "PC", "VC", "VDC", "VSC", "ZC", "IST"})
+    for (const char* code : {"TC", "PC", "VC", "VDC", "VSC", "ZC"})
         EXPECT_EQ(Offered(code), "L|G|") << code;
     for (const char* code : {"TBN", "TB", "PV", "HVP"})
         EXPECT_EQ(Offered(code), "L " + crystals + "|G|") << code;
     EXPECT_EQ(Offered("TMN"), crystals + "|L|air");
+    EXPECT_EQ(Offered("IST"), "L|G air|");
+    EXPECT_EQ(OfferPhases("IST", 1).Phase2, (std::vector<std::string>{"G", "air"}));
+    EXPECT_TRUE(OfferPhases("TF", 1).Phase2.empty());
+    EXPECT_EQ(Offered("TG"), "VG|L " + crystals + " " + liquids + " VG|");
+    EXPECT_EQ(Offered("TTR"), crystals + "|" + crystals + "|");
     const std::string condensed = "L " + crystals + " " + liquids + " VG";
     EXPECT_EQ(Offered("HTR"), condensed + "|" + condensed + "|");
     EXPECT_EQ(Offered("VDN"), all + "||");
