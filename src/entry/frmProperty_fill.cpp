@@ -98,7 +98,7 @@ void frmProperty::Fill() {
 void frmProperty::FillUnits(const PropertyRow& row) {
     const ui::FillingScope filling(*this);
     factor_ = 0;
-    lstConv.Assign(UnitList(row.Unit));
+    lstConv.Assign(UnitList(row.Unit, row.Code));
     // Several units: none is preset, for a wrong unit is the gravest slip and the least seen.
     const bool only = lstConv.Count() == 1;
     lstConv.Add(AllOtherUnits);

@@ -156,7 +156,8 @@ void frmSingle::ShowVariable() {
     variableUnit_ = row.Unit;
     frmIndVar.Caption("Independent variable: " + row.IndVariable);
     const std::string chosen = lstVariable_Unit.Chosen();
-    lstVariable_Unit.Assign(globals.OriginalUnits ? UnitList(row.Unit) : FixedUnitList(row.Unit));
+    lstVariable_Unit.Assign(globals.OriginalUnits ? UnitList(row.Unit, variable_)
+                                                  : FixedUnitList(row.Unit));
     lstVariable_Unit.Index(lstVariable_Unit.Count() == 1 ? 0 : lstVariable_Unit.Find(chosen));
     clsProperty& head = *globals.CurrentProperty;
     if (!head.isLast && head.NextItem && head.NextItem->PropertyCode == variable_) return;

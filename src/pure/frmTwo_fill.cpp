@@ -85,7 +85,7 @@ void frmTwo::ShowUnits(int n) {
     units.Clear();
     if (code.empty()) return;
     if (const auto row = FindVariable(code))
-        units.Assign(original ? UnitList(row->Unit) : FixedUnitList(row->Unit));
+        units.Assign(original ? UnitList(row->Unit, code) : FixedUnitList(row->Unit));
     if (as_ && as_->VARIABLE(n) == code && as_->isOriginalUnit == original) {
         const std::string own = UnitShown(*as_, n);
         if (!own.empty() && units.Find(own) < 0) units.Add(own);

@@ -138,6 +138,18 @@ double RowFactor(std::string_view code, std::string_view unit) {
     return 0;
 }
 
+/// Mole, mass and volume fractions: of a component (X1), of it in a state (WE2) or in the solvent
+/// (V1S), and of a participant of a reaction (X).
+bool IsFraction(std::string_view code) {
+    if (code == "X" || code == "XI") return true;
+    if (code.empty() || std::string_view("XWV").find(code.front()) == code.npos) return false;
+    code.remove_prefix(1);
+    if (!code.empty() && std::string_view("ULAEC").find(code.front()) != code.npos)
+        code.remove_prefix(1);
+    if (code.ends_with('S')) code.remove_suffix(1);
+    return code == "1" || code == "2" || code == "3";
+}
+
 /// A code may be the factor itself.
 double OuterFactor(std::string_view code) {
     return IsNumeric(code) ? Val(code) : RowFactor(code, {});
@@ -248,12 +260,12 @@ std::string ConversionCodeOf(std::string_view text, std::string_view unit) {
     return "S";
 }
 
-std::vector<std::string> UnitList(std::string_view unit) {
+std::vector<std::string> UnitList(std::string_view unit, std::string_view quantity) {
     std::vector<std::string> list = FixedUnitList(unit);
-    if (unit == "1") return list;
+    if (unit == "1" && !IsFraction(quantity)) return list;
     for (const ConversionRow* row :
          Kept(&VocabularyTables::Conversions).With(&ConversionRow::Unit, unit))
-        list.push_back(row->Conversion);
+        if (!IsSystemUnit(row->ConversionCode)) list.push_back(row->Conversion);
     return list;
 }
 

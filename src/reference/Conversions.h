@@ -53,18 +53,21 @@ bool IsConversionOf(std::string_view code, std::string_view unit);
 std::string_view CodeInField(std::string_view field, std::string_view unit);
 
 /// The unit text of a code, of this system unit when one is named; "" if there is none. "X" is
-/// always "*8.31451". In the context "React" a code with a blank that has no row gets its old first
-/// letter replaced ("Z" by "S", "G" by "J") for the caller's next call.
-/// A number may be the code of units of several quantities; the system unit tells them apart.
+/// always "*8.31451". Of two texts of a letter the last is shown. In the context "React" a code
+/// with a blank that has no row gets its old first letter replaced ("Z" by "S", "G" by "J") for the
+/// caller's next call. A number may be the code of units of several quantities; the system unit
+/// tells them apart.
 std::string ConversionText(std::string& code, std::string_view unit, std::string_view context = {});
 /// The code of a unit text (of this system unit when one is named); "S" when there is none, and for
 /// every text with an apostrophe.
 /// "J/K/g" is offered per mole and per mass, so the system unit should be named. Exact case: "mPa"
 /// and "MPa" are apart by 1e9.
 std::string ConversionCodeOf(std::string_view text, std::string_view unit = {});
-/// The units offered for a system unit, itself first; "Dimensionless" alone for "1".
+/// The units offered for a system unit, itself first; "Dimensionless" alone for "1", with per cent
+/// and its like where the code of the quantity is that of a fraction: refractive index and
+/// compressibility factor share the unit.
 /// In table order, by which the table can put the usual ones first.
-std::vector<std::string> UnitList(std::string_view unit);
+std::vector<std::string> UnitList(std::string_view unit, std::string_view quantity = {});
 /// Only the system unit, or "Dimensionless" for "1".
 std::vector<std::string> FixedUnitList(std::string_view unit);
 

@@ -18,7 +18,7 @@ double FactorInUnit(std::string_view code, double factor) {
 std::string UnitText(const std::string& systemUnit, std::string_view code, double factor) {
     const bool isOne = systemUnit == "1"; // of a dimensionless quantity
     std::string known(code);
-    if (factor <= 0 && !isOne && !IsSystemUnit(code)) { // a number may be the code of a named unit
+    if (factor <= 0 && !IsSystemUnit(code)) { // a number may be the code of a named unit
         std::string text = ConversionText(known, systemUnit);
         if (!text.empty()) return text;
     }

@@ -10,6 +10,7 @@
 #include "reference/ReferenceDatabases.h"
 #include "reference/TableText.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 
 namespace vexora::test {
@@ -89,13 +90,34 @@ TEST_F(ShippedTables, UnitsLeadBothWaysAndValuesComeBackFromThemInEveryRow) {
     EachRow("Conversions", [](const TableRows& row) {
         std::string code = row.Text("ConversionCode");
         const std::string unit = row.Text("Unit");
-        EXPECT_EQ(ConversionText(code, unit), row.Text("Conversion"));
+        const bool isShown = row.Text("Conversion") != "kJ/kg"; // as J/g
+        EXPECT_EQ(ConversionText(code, unit), isShown ? row.Text("Conversion") : "J/g");
         EXPECT_EQ(ConversionCodeOf(row.Text("Conversion"), unit), code);
-        EXPECT_TRUE(Contains(UnitList(unit), row.Text("Conversion"))) << code;
+        EXPECT_TRUE(Contains(UnitList(unit, "X1"), row.Text("Conversion"))) << code;
         const double system = ToSystem(code, 7.25, 0, 18.015);
         EXPECT_NEAR(FromSystem(code, system, 0, 18.015), 7.25, 1e-11) << code;
         EXPECT_NE(system, 0) << code;
     });
+}
+
+TEST_F(ShippedTables, PerCentIsAUnitOfFractionsOnly) {
+    const std::vector<std::string> fractions{"Dimensionless", "per cent", "ppm", "mmol/mol"};
+    const std::vector<std::string> others{"Dimensionless"};
+    EachRow("Properties", [&](const TableRows& row) {
+        if (row.Text("Unit") != "1") return;
+        const bool isFraction =
+            LowerAscii(row.Text("XMLNAME")).ends_with("fraction") && row.Text("Code") != "KX";
+        EXPECT_EQ(UnitList("1", row.Text("Code")), isFraction ? fractions : others)
+            << row.Text("Code");
+    });
+    EachRow("IndVariables", [&](const TableRows& row) {
+        if (row.Text("Unit") != "1") return;
+        const bool isFraction = LowerAscii(row.Text("XMLNAME")).ends_with("fraction");
+        EXPECT_EQ(UnitList("1", row.Text("IndVarCode")), isFraction ? fractions : others)
+            << row.Text("IndVarCode");
+    });
+    EXPECT_EQ(UnitText("1", ConversionCodeOf("ppm", "1"), 0), "ppm");
+    EXPECT_EQ(ToSystem(ConversionCodeOf("per cent", "1"), 12.5, 0, 0), 0.125);
 }
 
 /// A code or a text that is given must be known, and a pair must belong together.
