@@ -25,6 +25,9 @@ constexpr std::array<std::string_view, 34> Units{
 // Codes that differ by case only: each letter of these units has its own meaning.
 constexpr std::string_view CasePairs = "AKVUZWXY";
 
+// Compositions without the number of their component, as files have them.
+constexpr std::string_view CompositionLetters = "MNJOQBE";
+
 // Names of the schema (ThermoML, VariableType and ConstraintType).
 constexpr std::array<std::string_view, 5> VariableGroups{{"eTemperature", "ePressure",
                                                           "eComponentComposition",
@@ -106,6 +109,9 @@ void CheckKindOfPhase(TableRows& row, const std::string& code) {
                "the code of a crystal begins with C");
     row.Expect(!code.starts_with('G') || code == "G", "only the gas begins with G");
     row.Expect(CodePointCount(code) <= 3, "a phase code has at most three letters");
+    // In a slot of a mixture these letters are compositions: molality, molarity and the ratios.
+    row.Expect(code.size() != 1 || CompositionLetters.find(code) == CompositionLetters.npos,
+               "the phase code " + Quoted(code) + " is that of a composition");
     row.Expect(code != "S" && code != "S1" && code != "S2",
                "the solution " + Quoted(code) + " is known without a row");
 }
