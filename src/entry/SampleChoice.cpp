@@ -21,7 +21,7 @@ SampleChoice::SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox
     };
     samples.OnClick = [this, follow] {
         if (form_.Filling) return;
-        samples_.Click();
+        ClickSample();
         follow();
     };
 }
@@ -31,13 +31,28 @@ void SampleChoice::Fill(bool isLocked) {
     compounds_.Enabled(!isLocked);
     sampleBox_.Enabled(!isLocked);
     const KVOGlobal& globals = Globals();
-    const ui::FillingScope filling(form_);
-    FillCompoundList(compounds_);
-    if (!globals.CurrentR) return;
-    // Position 0, for a compound that is not there, becomes index -1: nothing chosen.
-    compounds_.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) - 1);
+    ListCompounds(globals.CurrentL.get());
     samples_.Fill(Compound());
     samples_.Choose(globals.CurrentS.get());
+}
+
+void SampleChoice::ListCompounds(const clsL* chosen) {
+    const ui::FillingScope filling(form_);
+    FillCompoundList(compounds_);
+    const auto source = Globals().CurrentR;
+    // Position 0, for a compound that is not there, becomes index -1: nothing chosen.
+    if (source) compounds_.Index(static_cast<int>(source->recL.Position(chosen)) - 1);
+}
+
+/// The sample dialog may come back with another compound: made on the way, or merely chosen there.
+void SampleChoice::ClickSample() {
+    const auto compound = Compound();
+    const auto made = samples_.Click();
+    const bool elsewhere = made && made->Parent != compound.get();
+    ListCompounds(elsewhere ? made->Parent : compound.get());
+    if (!elsewhere) return;
+    samples_.Fill(Compound());
+    samples_.Choose(made.get());
 }
 
 std::shared_ptr<clsL> SampleChoice::Compound() const {

@@ -18,8 +18,8 @@ class clsS;
 class SampleChoice {
 public:
     /// Answers to clicks in the lists: another compound offers its samples, the "New" of the
-    /// samples makes one; the form then follows what was chosen. A prompt, if there is one, leads
-    /// the list of samples.
+    /// samples makes one, which is chosen with its compound, whichever that is; the form then
+    /// follows what was chosen. A prompt, if there is one, leads the list of samples.
     SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox& samples,
                  const std::function<void()>& follow, std::string prompt = {});
 
@@ -40,6 +40,9 @@ public:
     void PutInContext(double fallbackMolarMass);
 
 private:
+    void ListCompounds(const clsL* chosen);
+    void ClickSample();
+
     ui::Form& form_;
     ui::ComboBox& compounds_;
     ui::ComboBox& sampleBox_;

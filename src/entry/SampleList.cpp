@@ -1,9 +1,11 @@
 #include "entry/SampleList.h"
 
 #include <utility>
+#include <vector>
 
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
+#include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
 #include "ui/Desktop.h"
@@ -15,6 +17,23 @@ namespace {
 
 constexpr const char* NewEntry = "New";
 constexpr const char* SampleDialog = "frmSample";
+
+std::vector<std::size_t> SampleCounts(const clsR& source) {
+    std::vector<std::size_t> counts;
+    for (const auto& compound : source.recL)
+        counts.push_back(compound->recS.Count());
+    return counts;
+}
+
+/// The sample that came since the samples were counted, or null. The dialog may have made its
+/// compound as well, or have gone to another one.
+std::shared_ptr<clsS> AddedSample(const clsR& source, std::vector<std::size_t> before) {
+    before.resize(source.recL.Count());
+    auto count = before.begin();
+    for (const auto& compound : source.recL)
+        if (compound->recS.Count() > *count++) return compound->recS.Item(compound->recS.Count());
+    return nullptr;
+}
 
 } // namespace
 
@@ -39,30 +58,33 @@ void SampleList::Choose(const clsS* sample) {
     if (position > 0) ChoosePosition(position);
 }
 
-void SampleList::Click() {
-    if (list_.Chosen() == NewEntry)
-        Make();
-    else
-        ChoosePosition(static_cast<std::size_t>(list_.Index() + (prompt_.empty() ? 1 : 0)));
+std::shared_ptr<clsS> SampleList::Click() {
+    if (list_.Chosen() == NewEntry) return Make();
+    ChoosePosition(static_cast<std::size_t>(list_.Index() + (prompt_.empty() ? 1 : 0)));
+    return nullptr;
 }
 
-void SampleList::Make() {
+std::shared_ptr<clsS> SampleList::Make() {
     KVOGlobal& globals = Globals();
-    const std::size_t before = compound_->recS.Count();
+    const std::vector<std::size_t> before = SampleCounts(*compound_->Parent);
     const std::size_t chosen = chosen_;
     globals.CurrentL = compound_;
     // By this the dialog knows that it was opened on the way, and comes back here when it closes.
     globals.OpenForms.push_back(form_.Name());
     ui::Forms::Current().Get(SampleDialog).ShowModal();
     Fill(compound_);
-    const std::size_t count = compound_->recS.Count();
     // Cancelled: "New" is no sample and must not stay chosen.
-    if (count == before) return ChoosePosition(chosen);
-    const auto made = compound_->recS.Item(count);
+    ChoosePosition(chosen);
+    const auto made = AddedSample(*compound_->Parent, before);
+    if (!made) return nullptr;
     // What has been made must be found by its number, or data could not refer to it.
-    const auto found = compound_->FindS(static_cast<int>(Val(made->SMPNM)));
-    if (!found) ui::Say("Sample internal error");
-    ChoosePosition(found ? count : 0);
+    const auto found = made->Parent->FindS(static_cast<int>(Val(made->SMPNM)));
+    if (!found) {
+        ui::Say("Sample internal error");
+        ChoosePosition(0);
+    }
+    Choose(found.get());
+    return found;
 }
 
 void SampleList::ChoosePosition(std::size_t position) {

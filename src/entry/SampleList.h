@@ -27,16 +27,17 @@ public:
     void Fill(std::shared_ptr<clsL> compound);
     /// Chooses a sample of the compound; another one, or null, changes nothing.
     void Choose(const clsS* sample);
-    /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form, and
-    /// what it made is chosen, else what was chosen before.
-    void Click();
+    /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form. The
+    /// sample that it made is the answer, null for none; one of the list's own compound is chosen,
+    /// else what was chosen before stays.
+    std::shared_ptr<clsS> Click();
 
     const std::shared_ptr<clsL>& Compound() const { return compound_; }
     /// The sample in force, null for none.
     std::shared_ptr<clsS> Sample() const;
 
 private:
-    void Make();
+    std::shared_ptr<clsS> Make();
     void ChoosePosition(std::size_t position);
 
     ui::Form& form_;
