@@ -99,18 +99,20 @@ void frmSubst::Load() {
     if (editing_) PrepareEdit();
 }
 
-/// The registry number is what mixtures, reactions and data know a compound by, so it stays.
+/// The registry number is what mixtures, reactions and data know a compound by, so it stays. Name
+/// and formula are the database's, unless it has none of them.
 void frmSubst::PrepareEdit() {
     const clsL& compound = *Globals().CurrentL;
+    mendable_ = compound.isNew || compound.Name.empty() || compound.Formula.empty();
     cmdAccept.Caption("OK");
     cmdUseRN.Visible(false);
     ShowEntryNumber("");
     for (ui::TextBox* box : {&txtRN2, &txtRN1, &txtCASD})
         box->Locked(true);
     for (ui::TextBox* box : {&txtName, &txtFormula})
-        box->Locked(!compound.isNew);
-    cmdFind.Enabled(compound.isNew);
-    lstNames.Enabled(compound.isNew);
+        box->Locked(!mendable_);
+    cmdFind.Enabled(mendable_);
+    lstNames.Enabled(mendable_);
     if (compound.isBio) fraBio.Visible(true);
     Fill(compound);
     if (compound.isNew) FindSubstance();

@@ -78,6 +78,8 @@ private:
     void Accept();
     void AcceptNew();
     void AcceptEdit();
+    bool IsMended(const clsL& compound) const;
+    bool StoreMended(clsL& compound);
     bool IdentifySubstance();
     bool AgreesWithNumber();
     bool AgreesWithName();
@@ -92,6 +94,7 @@ private:
     void ClearBoxes();
 
     bool editing_ = false;
+    bool mendable_ = false;   // of the edited compound name and formula are not the database's
     bool forBioData_ = false; // opened by a dialog for bio data
     // Marks of the boxes since the last search or store.
     bool rnEdited_ = false;

@@ -176,19 +176,30 @@ void frmSubst::ClearBoxes() {
 void frmSubst::AcceptEdit() {
     clsL& compound = *Globals().CurrentL;
     if (!CheckCharge()) return;
-    if (compound.isNew) {
-        const std::string formula = CanonicalFormula(Trimmed(txtFormula));
-        if (formula.empty() && !Confirm(txtFormula, "Formula is empty\nIs that OK?")) return;
-        compound.Formula = formula;
-        compound.MMass = 0; // else the mass of the formula before would stand
-        compound.MMass = MolarMassOfRN(compound.RN);
-        if (const std::string name = Trimmed(txtName); !name.empty()) compound.Name = name;
-    }
+    // Looking at a compound without identity does not make it a new one.
+    if (mendable_ && (compound.isNew || IsMended(compound)) && !StoreMended(compound)) return;
     StoreBio(compound);
     compound.Refresh();
     Globals().Saved = false;
     Globals().DialogAccepted = true;
     Close();
+}
+
+bool frmSubst::IsMended(const clsL& compound) const {
+    return Trimmed(txtName) != compound.Name || Trimmed(txtFormula) != compound.Formula;
+}
+
+bool frmSubst::StoreMended(clsL& compound) {
+    const std::string name = Trimmed(txtName);
+    if (name.empty() && !compound.isNew) return Refuse(txtName, "Enter the substance name");
+    const std::string formula = CanonicalFormula(Trimmed(txtFormula));
+    if (formula.empty() && !Confirm(txtFormula, "Formula is empty\nIs that OK?")) return false;
+    compound.isNew = true;
+    compound.Formula = formula;
+    compound.MMass = 0; // else the mass of the formula before would stand
+    compound.MMass = MolarMassOfRN(compound.RN);
+    if (!name.empty()) compound.Name = name;
+    return true;
 }
 
 } // namespace vexora

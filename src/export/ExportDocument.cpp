@@ -1,12 +1,15 @@
 #include "export/ExportDocument.h"
 
+#include <algorithm>
 #include <chrono>
+#include <vector>
 
 #include "export/SetRows.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
 #include "records/Walk.h"
+#include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -24,23 +27,32 @@ bool HoldsBioData() {
     return false;
 }
 
-/// Sets that have no numbers on purpose are named together: a box for each
-/// would only be clicked away.
-void TellSetsWithoutNumbers() {
-    constexpr int mostNamed = 20; // more lines would not fit on a screen
-    std::string names;
-    int count = 0;
+/// What is said of several records in one message: a box for each would only be clicked away.
+void TellTogether(const std::string& saying, const std::vector<std::string>& names) {
+    constexpr std::size_t mostNamed = 20; // more lines would not fit on a screen
+    if (names.empty()) return;
+    std::string text = saying;
+    for (std::size_t i = 0; i < std::min(names.size(), mostNamed); ++i)
+        text += "\n" + names[i];
+    if (names.size() > mostNamed)
+        text += "\nand " + std::to_string(names.size() - mostNamed) + " more";
+    ui::Say(text);
+}
+
+/// Sets that have no numbers on purpose, and compounds that nobody has named.
+void TellWhatIsUnusual() {
+    std::vector<std::string> unnamed, sets;
     WalkDocument([&](Record& record) {
+        const auto* compound = dynamic_cast<const clsL*>(&record);
+        if (compound && compound->Name.empty()) unnamed.push_back(compound->RN);
         const auto* set = dynamic_cast<const DataSet*>(&record);
-        if (!set || !IsWithoutNumbers(*set) || ++count > mostNamed) return;
-        names += "\n" + set->SystemName() + ": " + PropertyName(set->PRPCODE, set->DataContext()) +
-                 ", Set " + set->PRPSETNO;
+        if (!set || !IsWithoutNumbers(*set)) return;
+        sets.push_back(set->SystemName() + ": " + PropertyName(set->PRPCODE, set->DataContext()) +
+                       ", Set " + set->PRPSETNO);
     });
-    if (count == 0) return;
-    if (count > mostNamed) names += "\nand " + std::to_string(count - mostNamed) + " more";
-    ui::Say("These sets are stated to have no numerical data and are not in the "
-            "file:" +
-            names);
+    TellTogether("These compounds have no name and stand under their registry numbers in the file:",
+                 unnamed);
+    TellTogether("These sets are stated to have no numerical data and are not in the file:", sets);
 }
 
 std::string Padded(std::int64_t number) {
@@ -82,7 +94,7 @@ std::string ExportDocument(const ui::Date& today) {
     for (const auto& source : Globals().recR)
         source->ExportAll(xml, today);
     xml.Close();
-    TellSetsWithoutNumbers();
+    TellWhatIsUnusual();
     return xml.Text();
 }
 

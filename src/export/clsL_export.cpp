@@ -17,7 +17,8 @@ void ExportRegNum(XmlWriter& xml, const clsL& compound) {
 
 void clsL::ExportL(XmlWriter& xml) const {
     ExportRegNum(xml, *this);
-    xml.ElementIfAny("sCommonName", Name);
+    // A compound that nobody has named would be told from no other.
+    xml.Element("sCommonName", ShowKey());
     xml.ElementIfAny("sFormulaMolec", Formula);
     // Enzyme Commission number and Protein Data Bank entry.
     if (!isBio) return;
