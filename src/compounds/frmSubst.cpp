@@ -6,6 +6,8 @@
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 
+#include <utility>
+
 namespace vexora {
 
 namespace {
@@ -84,6 +86,8 @@ void frmSubst::WireEvents() {
     txtCASD.OnGotFocus = [this] { txtCASD.SelectAll(); };
     cmdFind.OnClick = [this] { FindSubstance(); };
     lstNames.OnClick = [this] { NamesClick(); };
+    lstNames.OnGotFocus = [this] { byKey_ = false; };
+    lstNames.OnKey = [this](ui::Key& key) { NamesKey(key); };
     cmdUseRN.OnClick = [this] { UseRegistryNumber(); };
     mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(HelpEnter); };
     mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDisplay); };
@@ -194,18 +198,33 @@ void frmSubst::CheckDigitKey(ui::Key& key) {
     if (Writes(key)) key.swallowed = !IsDigitKey(key) || KeptCharacters(txtCASD) >= 1;
 }
 
+/// Whoever walks the list by keys stays in it; a click leads on to the number of the entry.
 void frmSubst::NamesClick() {
     const int index = lstNames.Index();
     if (Filling || index < 0) return;
+    const bool byKey = std::exchange(byKey_, false);
     TakeRow(rows_.at(static_cast<std::size_t>(index)));
+    if (cmdUseRN.IsUsable() && !byKey) cmdUseRN.SetFocus();
+}
+
+void frmSubst::NamesKey(ui::Key& key) {
+    byKey_ = key.name != "Enter";
+    if (byKey_ || !cmdUseRN.IsUsable()) return;
+    key.swallowed = true;
+    UseRegistryNumber();
 }
 
 void frmSubst::UseRegistryNumber() {
-    if (rowRN_.empty()) return;
-    ShowParts(SplitRegistryNumber(rowRN_));
-    RegistryNumberChanged();
+    if (!row_) return;
+    TakeNumber(row_->RN);
     cmdUseRN.Enabled(false);
     cmdAccept.SetFocus();
+}
+
+/// As if it had been typed, so that it is compared with the database.
+void frmSubst::TakeNumber(std::int64_t rn) {
+    ShowParts(SplitRegistryNumber(std::to_string(rn)));
+    RegistryNumberChanged();
 }
 
 } // namespace vexora

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -60,13 +62,16 @@ private:
     void MiddleKey(ui::Key& key);
     void CheckDigitKey(ui::Key& key);
     void NamesClick();
+    void NamesKey(ui::Key& key);
     void UseRegistryNumber();
+    void TakeNumber(std::int64_t rn);
 
     // The search (frmSubst_search.cpp).
     void FindSubstance();
     bool RNCheck();
     void ShowRows(std::vector<CompoundRow> rows);
     void TakeRow(const CompoundRow& row);
+    bool HasMadeUpNumber() const;
     void NewSubstance();
     void AddNewSubstance();
     RegistryParts TypedParts() const;
@@ -77,6 +82,7 @@ private:
     // Accepting (frmSubst_accept.cpp).
     void Accept();
     void AcceptNew();
+    void OfferItsNumber();
     void AcceptEdit();
     bool IsMended(const clsL& compound) const;
     bool StoreMended(clsL& compound);
@@ -100,11 +106,13 @@ private:
     bool rnEdited_ = false;
     bool nameEdited_ = false;
     bool formulaEdited_ = false;
-    bool typedRN_ = false;          // the number in the boxes is the operator's own
-    bool isNew_ = false;            // the compound in the boxes is not in the reference database
-    bool changed_ = true;           // anything changed since the last store
-    std::vector<CompoundRow> rows_; // behind the entries of lstNames
-    std::string rowRN_;             // registry number of the row that was picked
+    bool typedRN_ = false;           // the number in the boxes is the operator's own
+    bool isNew_ = false;             // the compound in the boxes is not in the reference database
+    bool changed_ = true;            // anything changed since the last store
+    std::vector<CompoundRow> rows_;  // behind the entries of lstNames
+    std::optional<CompoundRow> row_; // the row that was picked; its number is on offer
+    bool offered_ = false;           // its number has been asked about
+    bool byKey_ = false;             // a key of the list is being followed
 };
 
 } // namespace vexora

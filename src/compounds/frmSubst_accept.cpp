@@ -32,13 +32,26 @@ void frmSubst::Accept() {
 
 void frmSubst::AcceptNew() {
     if (!CheckCharge() || !RNCheck()) return;
+    OfferItsNumber();
     if (!rnEdited_ && (nameEdited_ || formulaEdited_)) FindSubstance();
-    // Nobody typed a number, but one was made up for the row that was picked.
-    const bool kept = !rnEdited_ && !typedRN_ && !TypedParts().IsEmpty();
-    if (kept ? !CheckKept() : !IdentifySubstance()) return;
+    if (HasMadeUpNumber() ? !CheckKept() : !IdentifySubstance()) return;
     if (!CheckFree()) return;
     Store();
     Finish();
+}
+
+/// A compound that is as the database gives it should not go under a made-up number by oversight.
+void frmSubst::OfferItsNumber() {
+    if (!row_ || offered_ || !HasMadeUpNumber()) return;
+    if (Trimmed(txtName) != row_->NAME || Trimmed(txtFormula) != row_->FORMULA) return;
+    offered_ = true;
+    const std::string number = DashedRegistryNumber(std::to_string(row_->RN));
+    const ui::Message question{"The database knows this compound as " + number +
+                                   ".\nUse this registry number?",
+                               {},
+                               ui::MessageButtons::YesNo,
+                               ui::Answer::Yes};
+    if (ui::TheDesktop().Show(question) == ui::Answer::Yes) TakeNumber(row_->RN);
 }
 
 bool frmSubst::CheckKept() {
@@ -169,6 +182,7 @@ void frmSubst::ClearBoxes() {
                              &thtCharge, &txtEC, &txtPDB})
         box->Text("");
     ShowRows({});
+    row_.reset();
     rnEdited_ = nameEdited_ = formulaEdited_ = false;
     typedRN_ = isNew_ = changed_ = false;
 }

@@ -53,7 +53,6 @@ void frmSubst::ShowRows(std::vector<CompoundRow> rows) {
     for (const CompoundRow& row : rows_)
         names.push_back(row.NAME);
     lstNames.Assign(std::move(names));
-    rowRN_.clear();
     ShowEntryNumber("");
     cmdUseRN.Enabled(false);
 }
@@ -73,13 +72,20 @@ void frmSubst::TakeRow(const CompoundRow& row) {
         txtFormula.Text(row.FORMULA);
         ShowMass();
     }
-    rowRN_ = std::to_string(row.RN);
-    ShowEntryNumber(DashedRegistryNumber(rowRN_));
-    cmdUseRN.Enabled(TypedParts().Joined() != rowRN_);
+    row_ = row;
+    offered_ = false;
+    const std::string rn = std::to_string(row.RN);
+    ShowEntryNumber(DashedRegistryNumber(rn));
+    cmdUseRN.Enabled(TypedParts().Joined() != rn);
     nameEdited_ = true;
     rnEdited_ = typedRN_;
     if (!typedRN_ && !editing_) NewSubstance();
     Touch();
+}
+
+/// Nobody typed a number, but one was made up for the row that was picked.
+bool frmSubst::HasMadeUpNumber() const {
+    return !rnEdited_ && !typedRN_ && !TypedParts().IsEmpty();
 }
 
 void frmSubst::NewSubstance() {

@@ -15,6 +15,8 @@
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
+#include <unordered_map>
+
 namespace vexora {
 
 namespace {
@@ -32,7 +34,44 @@ private:
     int line_;
 };
 
+/// By what a compound can be met again: its name, and name and formula together, of one that the
+/// reference database knows all of its names there.
+std::vector<std::string> Identities(const clsL& compound) {
+    std::vector<std::string> identities;
+    const auto add = [&identities](const std::string& name, const std::string& formula) {
+        identities.push_back(LowerAscii(name) + "\n" + formula);
+    };
+    if (!compound.Name.empty()) {
+        identities.push_back(LowerAscii(compound.Name));
+        add(compound.Name, compound.Formula);
+    }
+    if (compound.isNew) return identities;
+    for (const CompoundRow& row : CompoundsOf(ToInteger(Val(compound.RN))))
+        add(row.NAME, row.FORMULA);
+    return identities;
+}
+
+/// Data of one substance under two numbers are never seen together again.
+void CheckTwins(const clsR& source, std::vector<DocumentFinding>& findings) {
+    std::unordered_map<std::string, const clsL*> known;
+    for (const auto& compound : source.recL) {
+        const clsL* twin = nullptr;
+        for (const std::string& identity : Identities(*compound)) {
+            const clsL* other = known.try_emplace(identity, compound.get()).first->second;
+            if (other == compound.get() || twin) continue;
+            // Isomers that the database knows may share a trivial name there.
+            const bool isName = identity.find('\n') == identity.npos;
+            if (isName || compound->isNew || other->isNew) twin = other;
+        }
+        if (!twin) continue;
+        Remarks(findings, *compound)
+            .Warn("Compound " + compound->Name + " stands twice: " + twin->RN + " and " +
+                  compound->RN);
+    }
+}
+
 void CheckSource(const clsR& source, std::vector<DocumentFinding>& findings) {
+    CheckTwins(source, findings);
     Remarks remarks(findings, source);
     // Of a known source the database has title and authors, and the file need not.
     if (source.isNew && source.TTITLE.empty()) remarks.Warn("The source has no title");

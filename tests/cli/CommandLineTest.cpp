@@ -1,5 +1,6 @@
 // The command line tool as a user calls it: the program itself, in a folder of its own.
 #include "reference/ReferenceFixture.h"
+#include "reference/Text.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -122,6 +123,25 @@ TEST_F(CommandLine, WhatTheExportLeavesOutIsToldWithItsLine) {
     EXPECT_EQ(outcome.err, "doc.txt:9: warning: Invalid conversion factor System: water "
                            "Property: Critical pressure\n");
     EXPECT_EQ(Read("doc.xml").find("Critical pressure"), std::string::npos);
+}
+
+TEST_F(CommandLine, CheckNamesASubstanceThatStandsTwice) {
+    const std::string place = "doc.txt:10: warning: Compound ";
+    const std::string twice = " stands twice: 7789200 and 1003\n";
+    const std::string cases[][2] = {{"D2O Heavy Water", place + "Heavy Water" + twice},
+                                    {"& heavy water", place + "heavy water" + twice},
+                                    {"D2O water-d2", place + "water-d2" + twice},
+                                    {"CH4 water-d2", ""},
+                                    {"D2O water of Vexora", ""}};
+    for (const auto& [formulaAndName, finding] : cases) {
+        folder.Write("doc.txt", kDocument +
+                                    "^L 7789200 NNNNN &\n^S 1 ns\n^L 1003 NNNNN &\n^N 1003 " +
+                                    formulaAndName + "\n^S 1 ns\n");
+        std::string found;
+        for (const std::string& line : Split(Run("check doc.txt").err, '\n'))
+            if (line.find("twice") != line.npos) found += line + "\n";
+        EXPECT_EQ(found, finding) << formulaAndName;
+    }
 }
 
 TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {

@@ -151,7 +151,7 @@ TEST_F(frmSubstTest, AnUnsoundNumberIsRefusedWithTheFaultMarked) {
     EXPECT_EQ(Compounds(), "");
 }
 
-TEST_F(frmSubstTest, APickedRowGetsAMadeUpNumberUnlessItsOwnIsAskedFor) {
+TEST_F(frmSubstTest, APickedRowGetsItsOwnNumberUnlessAMadeUpOneIsWanted) {
     frmSubst& dialog = Open();
     Enter(dialog.txtName, "water*");
     dialog.cmdFind.UserClick();
@@ -160,6 +160,9 @@ TEST_F(frmSubstTest, APickedRowGetsAMadeUpNumberUnlessItsOwnIsAskedFor) {
     EXPECT_EQ(Boxes(dialog), "1-00-3 water H2O");
     EXPECT_EQ(dialog.txtMMass.Text(), "18.015");
     EXPECT_EQ(dialog.lblRN.Caption(), "7732-18-5");
+    EXPECT_TRUE(dialog.cmdUseRN.HasFocus());
+    desktop.Expect("The database knows this compound as 7732-18-5.\nUse this registry number?",
+                   Answer::No);
     dialog.cmdAccept.UserClick();
     EXPECT_EQ(Compounds(), "1003 water H2O 18.015 new\n");
 
