@@ -150,6 +150,8 @@ void frmSubst::Store() {
     compound->Formula = canonical.empty() ? formula : canonical;
     compound->MMass = MolarMassOfFormula(formula);
     compound->isNew = isNew_;
+    const auto known = CompoundsOf(ToInteger(Val(compound->RN)));
+    compound->isNamed = !isNew_ && !known.empty() && known.front().NAME != compound->Name;
     StoreBio(*compound);
     compound->AttachTo(*globals.CurrentR);
     globals.Saved = false;

@@ -13,6 +13,7 @@
 #include "records/clsS.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/Vocabulary.h"
 
 namespace vexora {
 
@@ -114,6 +115,20 @@ std::string MendedRN(ReaderState& state, const std::string& rn) {
     return mended;
 }
 
+/// True for a line that brings no formula because the reference database has one.
+bool BringsNameOnly(const clsL& compound, std::string_view formula) {
+    return !compound.isNew && WithoutPlaceholder(formula).empty() &&
+           !CompoundsOf(ToInteger(Val(compound.RN))).empty();
+}
+
+void TakeIdentity(clsL& compound, const std::string& formula, const clsR& source) {
+    compound.Formula = WithoutPlaceholder(formula);
+    compound.isNew = true;
+    // A mass that is known would be given back unasked, though the formula is another now.
+    compound.MMass = 0;
+    compound.MMass = MolarMassOfRN(compound.RN, &source);
+}
+
 /// ^N [old text] RN Formula Name. No formula is a bare number, so a second word that is one is the
 /// RN.
 void ReadCorrection(ReaderState& state, std::string_view line) {
@@ -130,12 +145,10 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
     rn = MendedRN(state, rn);
     const auto compound = source->FindL(rn);
     if (!compound) return;
-    compound->Name = WithoutPlaceholder(Trim(words.Rest()));
-    compound->Formula = WithoutPlaceholder(formula);
-    compound->isNew = true;
-    // A mass that is known would be given back unasked, though the formula is another now.
-    compound->MMass = 0;
-    compound->MMass = MolarMassOfRN(rn, source.get());
+    const std::string name = WithoutPlaceholder(Trim(words.Rest()));
+    compound->isNamed = BringsNameOnly(*compound, formula) && !name.empty();
+    if (!compound->isNamed) TakeIdentity(*compound, formula, *source);
+    compound->Name = name;
     compound->Refresh();
     if (!compound->NewRn.empty()) Globals().Saved = false;
 }

@@ -133,7 +133,7 @@ void clsL::PrintL(LineWriter& out) const {
     // Data of a kind that has no letter: the tables are at fault, not the user.
     if (!SYSTYPES.starts_with('N') && letters == "&") out.Tell("REFPROP internal error");
     out.Fields({"^L", RN, SYSTYPES, letters});
-    if (isNew) out.Fields({"^N", RN, Formula}, Name);
+    if (isNew || isNamed) out.Fields({"^N", RN, isNew ? Formula : ""}, Name);
 }
 
 void clsL::Print(LineWriter& out) const {

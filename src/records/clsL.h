@@ -28,6 +28,7 @@ class XmlWriter;
 ///
 ///   ^L RN SYSTYPES REFPROP
 ///   ^N RN Formula Name                  (behind it, for a compound new to the reference database)
+///   ^N RN & Name                        (behind it, for one that it knows under another name)
 ///   BL RN EC PDB Formula Charge Name    (instead of both, for a bio compound)
 ///
 /// RN is the number without dashes, its last digit the check digit. SYSTYPES has a letter for pure,
@@ -43,6 +44,8 @@ public:
     std::string Formula;
     /// Not in the reference database, so name and formula have to travel in the file.
     bool isNew = false;
+    /// Known there, but its name was chosen among others and has to travel too.
+    bool isNamed = false;
     bool isBio = false;
     /// Enzyme classification and protein data bank code of a bio compound.
     std::string EC, PDB;

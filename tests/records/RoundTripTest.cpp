@@ -29,6 +29,9 @@ TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
         "^A & & & & & & & &\n"
         "^F * VDN S 1 L 298.15 S 997.0 & & &\n"
         "^S 2 ns\n"
+        "^L 64175 NNNNN &\n"
+        "^N 64175 & 1-hydroxy ethane\n"
+        "^S 1 ns\n"
         "^L 1003 NNNNN &\n"
         "^N 1003 C8H10N4O2 new compound, beta form\n"
         "BL 1014 3.2.1.17_x 1LYZ & -3 lysozyme of hen\n";
@@ -46,7 +49,12 @@ TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
         EXPECT_EQ(again, saved);
         EXPECT_EQ(DocumentAsRecords(), saved) << "saving changed the document";
     }
-    EXPECT_EQ(globals.recR.Item(std::size_t{1})->ManuscriptID, "ab-123");
+    const clsR& source = *globals.recR.Item(std::size_t{1});
+    EXPECT_EQ(source.ManuscriptID, "ab-123");
+    const clsL& ethanol = *source.FindL("64175");
+    EXPECT_EQ(ethanol.Name + " " + ethanol.Formula, "1-hydroxy ethane C2H6O");
+    EXPECT_FALSE(ethanol.isNew);
+    EXPECT_NEAR(ethanol.MMass, 46.069, 1e-3);
 }
 
 TEST_F(RoundTrip, UnitsWithoutALetterGoOutAsFactorAndSystemUnit) {
