@@ -38,14 +38,17 @@ frmSample::frmSample() : ChainForm("frmSample", "Sample") {
     HelpContext = HelpSample;
     txtSampleNo.Locked(true);
     txtSmplDescription.Locked(true);
+    txtPurifySteps.Locked(true);
 }
 
 void frmSample::ArrangeControls() {
     using namespace ui;
     std::vector<Layout> after = {
-        Field("Purified by: (Select all applicable statements)", lstPurify)};
+        Field("Purified by: (Select all applicable statements)", lstPurify),
+        Field("In this order:", txtPurifySteps)};
+    const std::size_t first = after.size();
     for (const auto& [value, unit, method] : final_) {
-        after.push_back(Field(after.size() == 1 ? "Final purity:" : "Another detn.",
+        after.push_back(Field(after.size() == first ? "Final purity:" : "Another detn.",
                               Row({Narrow(value, 8), unit, method})));
     }
     Arrangement = Column(
@@ -170,6 +173,7 @@ void frmSample::PurifyClick() {
         const std::string text = AskMethod();
         lstPurify.Selected(PlaceOfMethod(lstPurify, text), true);
     }
+    if (!Filling) FollowSteps();
     Compose();
 }
 

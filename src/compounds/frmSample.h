@@ -34,6 +34,7 @@ public:
     ui::ComboBox lstSrsDetBy{*this, "lstSrsDetBy"};
     ui::Frame fraFinal{*this, "fraFinal", "Sample after purification"};
     ui::ListBox lstPurify{*this, "lstPurify", ui::ListBox::Mode::Check};
+    ui::TextBox txtPurifySteps{*this, "txtPurifySteps"};
     ui::ControlArray<ui::TextBox> txtFinalPurity{*this, "txtFinalPurity", finalRows};
     ui::ControlArray<ui::ComboBox> lstFinalPurity{*this, "lstFinalPurity", finalRows};
     ui::ControlArray<ui::ComboBox> lstFinalDetBy{*this, "lstFinalDetBy", finalRows};
@@ -74,6 +75,8 @@ private:
     static bool ShowPurity(const PurityStatement& statement, const Purity& boxes);
     void ClearDescription();
     void FollowAvailability();
+    void FollowSteps();
+    void ShowSteps();
     static int PlaceOfMethod(ui::ItemList& list, const std::string& text);
 
     std::shared_ptr<clsL> ChosenCompound() const;
@@ -96,6 +99,9 @@ private:
     const Purity initial_{txtSrcPurity, lstSrcPurity, lstSrsDetBy};
     std::vector<Purity> final_;
     std::vector<Purity> purities_; // the initial one and the final ones
+    /// Codes of the purification in the order of the paper, where a step may come again; the marks
+    /// of the list tell only which of them occur.
+    std::vector<std::string> steps_;
     bool editing_ = false;
     bool changed_ = true;          // anything changed since the last store
     int chosen_ = -1;              // the compound in force while "New" is being made

@@ -37,9 +37,7 @@ SampleDescription frmSample::Read() const {
     description.Availability = CodeOfText(SampleAvailabilities, lstDescAvail.Chosen());
     description.Source = CodeOfText(SampleSources, lstSmpSrc.Chosen());
     description.Initial = ReadPurity(initial_);
-    for (int i = 0; i < lstPurify.Count(); ++i)
-        if (lstPurify.Selected(i))
-            description.Purification.push_back(PurificationCode(lstPurify.Item(i)));
+    description.Purification = steps_;
     for (const Purity& boxes : final_)
         description.Final.push_back(ReadPurity(boxes));
     return description;
@@ -76,6 +74,8 @@ bool frmSample::ShowDescription(const SampleDescription& description) {
         if (place < 0) return false;
         lstPurify.Selected(place, true);
     }
+    steps_ = description.Purification;
+    ShowSteps();
     if (description.Final.size() > final_.size()) return false;
     std::size_t i = 0;
     return std::ranges::all_of(description.Final, [&](const PurityStatement& statement) {
@@ -98,6 +98,8 @@ void frmSample::ClearDescription() {
     lstSmpSrc.Index(-1);
     for (int i = 0; i < lstPurify.Count(); ++i)
         lstPurify.Selected(i, false);
+    steps_.clear();
+    ShowSteps();
     for (const Purity& boxes : purities_) {
         boxes.value.Text("");
         boxes.unit.Index(0); // most purities are reported in mol %
@@ -111,6 +113,26 @@ void frmSample::FollowAvailability() {
     const bool described = lstDescAvail.Index() <= 0;
     fraInitial.Enabled(described);
     fraFinal.Enabled(described);
+}
+
+/// A mark that was taken off removes its step wherever it stands, a new one is the last step.
+void frmSample::FollowSteps() {
+    std::erase_if(steps_, [this](const std::string& code) {
+        return !lstPurify.Selected(lstPurify.Find(ListText(code, PurificationName)));
+    });
+    for (int i = 0; i < lstPurify.Count(); ++i) {
+        const std::string code = PurificationCode(lstPurify.Item(i));
+        if (lstPurify.Selected(i) && std::ranges::find(steps_, code) == steps_.end())
+            steps_.push_back(code);
+    }
+    ShowSteps();
+}
+
+void frmSample::ShowSteps() {
+    std::string text;
+    for (const std::string& code : steps_)
+        text += (text.empty() ? "" : "; ") + ListText(code, PurificationName);
+    txtPurifySteps.Text(text);
 }
 
 /// The entry's place in a list of methods; free text that the list lacks is added in front of

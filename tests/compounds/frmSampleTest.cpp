@@ -68,10 +68,10 @@ TEST_F(frmSampleTest, EveryChangeComposesTheDescription) {
     EXPECT_EQ(dialog.txtSmplDescription.Text(), "cm,99.50m%,gc;;");
     Purify(dialog, "Zone refining");
     Purify(dialog, "Distillation");
-    EXPECT_EQ(dialog.txtSmplDescription.Text(), "cm,99.50m%,gc;dist,zone;");
+    EXPECT_EQ(dialog.txtSmplDescription.Text(), "cm,99.50m%,gc;zone,dist;");
     EnterFinal(dialog, 0, "99.95", "mass %", "Gas chromatography");
     EnterFinal(dialog, 1, "0.01", "water mass %", "Karl Fischer titration");
-    const std::string whole = "cm,99.50m%,gc;dist,zone;99.95w%,gc,0.01h%,kf";
+    const std::string whole = "cm,99.50m%,gc;zone,dist;99.95w%,gc,0.01h%,kf";
     EXPECT_EQ(dialog.txtSmplDescription.Text(), whole);
     dialog.cmdAccept.UserClick();
     EXPECT_EQ(Samples(), "1 " + whole + " 99.95\n");
