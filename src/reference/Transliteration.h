@@ -1,6 +1,7 @@
-// Plain ASCII for texts that reach the export. Letters with marks become their base letter, signs
-// of Latin-1 become words, everything else becomes a blank. The ampersand passes: escaping is the
-// emitter's work.
+// Plain ASCII for texts that reach the export. Letters with marks become their base letter, Greek
+// ones their names, signs of Latin-1 words, printers' dashes and quotes those of a typewriter, and
+// raised and lowered digits "^2" and "2"; everything else becomes a blank. The ampersand passes:
+// escaping is the emitter's work.
 #pragma once
 
 #include <cstddef>

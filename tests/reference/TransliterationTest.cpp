@@ -16,7 +16,16 @@ TEST(Transliteration, SignsAndLettersBecomePlainAscii) {
         {"Dvo\u0159\u00E1k \u0160koda \u017Di\u017Eka \u0141\u00F3d\u017A",
          "Dvorak Skoda Zizka Lodz"},
         {"Nguy\u1EC5n \u0130stanbul \u0131", "Nguyen Istanbul i"},
-        {"a\tb\nc\u00A0d\u2013e\u201Cf\u03B1g\u20AC", "a b c d e f g "},
+        {"a\tb\nc\u00A0d\u2603e\u20AC", "a b c d e "},
+        {"\u03B3-butyrolactone at \u22125 \u00B0C", "gamma-butyrolactone at -5 deg C"},
+        {"1\u20102\u20113\u20124\u20135\u20146\u20157", "1-2-3-4-5-6-7"},
+        {"\u201Ca\u201D \u201Eb\u201F \u2018c\u2019 4,4\u2032", "\"a\" \"b\" 'c' 4,4'"},
+        {"\u0152rsted, \u0153uvre", "OErsted, oeuvre"},
+        {"\u0391\u03A9 \u0394H \u03B1\u03C2\u03C3\u03C9 \u03AC\u03D1\u03F5\u2126",
+         "AlphaOmega DeltaH alphasigmasigmaomega alphathetaepsilonOmega"},
+        {"x\u2074 10\u207B\u00B9\u00B2 a\u207F s\u00B2m\u00B3", "x^4 10^-12 a^n s^2m^3"},
+        {"H\u2082SO\u2084 x\u2081\u2080\u208A", "H2SO4 x10+"},
+        {"Mu\u0308ller A\u030Angstro\u0308m e\u0301", "Muller Angstrom e"},
         {"x\u007Fy", "x\u007Fy"}};
     for (const auto& [text, plain] : cases)
         EXPECT_EQ(Transliterate(text), plain) << text;
@@ -38,6 +47,9 @@ TEST(Transliteration, TheCaretStaysBehindItsCharacter) {
     EXPECT_EQ(at("a\u00DFb", 3), 4U);
     EXPECT_EQ(at("p<", 2), 10U);
     EXPECT_EQ(at("\u00A7x", 2), 1U);
+    EXPECT_EQ(at("u\u0308x", 2), 1U);
+    EXPECT_EQ(at("u\u0308x", 3), 2U);
+    EXPECT_EQ(at("\u03B1\u207B\u00B9x", 3), 8U);
     EXPECT_EQ(at("", 5), 0U);
 }
 
