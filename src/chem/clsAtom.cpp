@@ -32,7 +32,7 @@ std::string TakeElement(std::string_view& text) {
     return AtomicMass(symbol) ? symbol : std::string(ErrorText);
 }
 
-/// "(" or a symbol or "Error"; "" at the end of the text and at a closing bracket.
+/// "(" or a symbol or "Error"; "" at the end of the text.
 std::string NextSymbol(std::string_view& text) {
     if (text.empty()) return {};
     const char first = text.front();
@@ -40,20 +40,18 @@ std::string NextSymbol(std::string_view& text) {
     // A group is not looked up: its braces keep it apart from the elements.
     if (first == '{') {
         const std::size_t close = text.find('}');
-        std::string symbol(text.substr(0, close == text.npos ? close : close + 1));
-        text.remove_prefix(symbol.size());
+        std::string symbol(close == text.npos ? ErrorText : text.substr(0, close + 1));
+        text.remove_prefix(close == text.npos ? text.size() : symbol.size());
         return symbol;
     }
     text.remove_prefix(1);
-    if (first == '(') return "(";
-    if (first != ')') return std::string(ErrorText);
-    // A bracket that nobody opened ends the formula.
-    if (!text.empty()) text.remove_prefix(1);
-    return {};
+    return first == '(' ? "(" : std::string(ErrorText);
 }
 
+constexpr std::string_view NumberSigns = "0123456789.";
+
 double NextNumber(std::string_view& text) {
-    const std::size_t length = std::min(text.find_first_not_of("0123456789."), text.size());
+    const std::size_t length = std::min(text.find_first_not_of(NumberSigns), text.size());
     if (length == 0) return 1;
     // Fractional counts occur in solid solutions and hydrates. Of "1.2.3" the value is 1.2.
     const double value = Val(text.substr(0, length));
@@ -75,6 +73,55 @@ std::string_view TakeGroup(std::string_view& text) {
     }
     text = {};
     return "*";
+}
+
+/// Bytes of the sign that stands here between the parts of an addition compound: a star, or a
+/// raised dot as one of the fonts has it; 0 for any other text.
+std::size_t DotLength(std::string_view text) {
+    for (const std::string_view dot : {"*", "\u00B7", "\u2022", "\u2219", "\u22C5"})
+        if (text.starts_with(dot)) return dot.size();
+    return 0;
+}
+
+/// The texts between the dots that stand outside of brackets and braces.
+std::vector<std::string_view> PartsOf(std::string_view text) {
+    std::vector<std::string_view> parts;
+    std::size_t start = 0;
+    int depth = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        depth += IsOneOf(text.substr(i, 1), {"(", "{"}) ? 1 : 0;
+        depth -= IsOneOf(text.substr(i, 1), {")", "}"}) ? 1 : 0;
+        const std::size_t dot = depth > 0 ? 0 : DotLength(text.substr(i));
+        if (dot == 0) continue;
+        parts.push_back(text.substr(start, i - start));
+        start = i + dot;
+        i = start - 1;
+    }
+    parts.push_back(text.substr(start));
+    return parts;
+}
+
+/// Where the first point stands in each count that has one and is followed by an element or a
+/// bracket.
+std::vector<std::size_t> PointsInFrontOfElements(std::string_view text) {
+    std::vector<std::size_t> points;
+    bool isInBraces = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '{' || text[i] == '}') isInBraces = text[i] == '{';
+        if (isInBraces || text[i] != '.') continue;
+        const std::size_t end = std::min(text.find_first_not_of(NumberSigns, i), text.size());
+        const bool isInFront = end < text.size() && (IsUpper(text[end]) || text[end] == '(');
+        if (isInFront && i > 0) points.push_back(i);
+        i = end - 1;
+    }
+    return points;
+}
+
+/// True for a count and the formula of water behind it.
+bool IsWater(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(NumberSigns), text.size()));
+    if (text.starts_with('(')) text.remove_prefix(1);
+    return text.starts_with("H2O") || text.starts_with("D2O");
 }
 
 int DepthOf(std::string_view text) {
@@ -120,6 +167,22 @@ void clsAtom::SetError() {
 void clsAtom::Build(std::string_view text) {
     *this = clsAtom();
     if (DepthOf(text) > DeepestBracket) return SetError();
+    const std::vector<std::string_view> parts = PartsOf(text);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        std::string_view part = parts[i];
+        // A dot without a number may be a slip of the typist.
+        const bool hasNumber = !part.empty() && NumberSigns.find(part.front()) != part.npos;
+        const double times = i == 0 ? 1 : hasNumber ? NextNumber(part) : 0;
+        clsAtom B;
+        B.BuildPart(part);
+        const bool isMissing = B.Symbol.empty() && parts.size() > 1;
+        if (times == 0 || isMissing || B.Symbol == ErrorText) return SetError();
+        B.Multiply(times);
+        AddB(B);
+    }
+}
+
+void clsAtom::BuildPart(std::string_view text) {
     for (std::string token = NextSymbol(text); !token.empty(); token = NextSymbol(text)) {
         if (token == ErrorText) {
             SetError();
@@ -200,6 +263,19 @@ std::string CanonicalFormula(std::string_view text) {
     clsAtom atom;
     atom.Build(Trim(text));
     return atom.Formula();
+}
+
+std::string HydrateReading(std::string_view text) {
+    const std::vector<std::size_t> points = PointsInFrontOfElements(text);
+    if (points.empty()) return {};
+    // Counts of a solid solution stand in front of the water; without water the last one is meant.
+    const auto water = std::ranges::find_if(
+        points, [text](std::size_t point) { return IsWater(text.substr(point + 1)); });
+    std::string meant(text);
+    for (auto point = water == points.end() ? points.end() - 1 : water; point != points.end();
+         ++point)
+        meant[*point] = '*';
+    return CanonicalFormula(meant);
 }
 
 double MolarMassOfFormula(std::string_view text) {

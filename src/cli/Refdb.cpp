@@ -79,7 +79,8 @@ int Import(const Arguments& arguments) {
     UseDatabases(&databases);
     const ImportResult result = ImportCompounds(
         arguments.compounds, arguments.database,
-        {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; }});
+        {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; },
+         HydrateReading});
     if (!result.readable) return TellUnreadable(arguments.compounds + ": the file cannot be read");
     return TellImported(result);
 }

@@ -26,10 +26,6 @@ std::string NamePattern(std::string_view typed) {
     return pattern == "*" ? std::string() : pattern;
 }
 
-bool IsFormulaPattern(std::string_view formula) {
-    return Find(formula, "*") > 0 || Find(formula, "%") > 0;
-}
-
 std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string_view formula) {
     std::string sql = "select * from ALLNAME where";
     SqlValues values;

@@ -14,9 +14,6 @@ namespace vexora {
 /// become one; a lone "*" asks for nothing and becomes empty.
 std::string NamePattern(std::string_view typed);
 
-/// True for a formula that stands for several ("C6*").
-bool IsFormulaPattern(std::string_view formula);
-
 /// The compounds whose name matches the pattern, case apart, and whose formula matches the formula,
 /// case counting; an empty one is no condition. Table order; nothing when both are empty or there
 /// is no database.

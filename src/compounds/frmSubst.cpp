@@ -1,5 +1,6 @@
 #include "compounds/frmSubst.h"
 
+#include "chem/clsAtom.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "reference/Numbers.h"
@@ -127,6 +128,7 @@ void frmSubst::Fill(const clsL& compound) {
     ShowParts(SplitRegistryNumber(compound.RN));
     txtName.Text(compound.Name);
     txtFormula.Text(compound.Formula);
+    settledFormula_ = CanonicalFormula(compound.Formula);
     if (compound.MMass > 0) txtMMass.Text(NumberText(compound.MMass));
     if (compound.Charge != 0) thtCharge.Text(std::to_string(compound.Charge));
     if (compound.EC != "&") txtEC.Text(compound.EC);
@@ -168,6 +170,7 @@ void frmSubst::CheckDigitChanged() {
 void frmSubst::FormulaChanged() {
     if (Filling) return;
     formulaEdited_ = true;
+    settledFormula_.clear();
     ShowMass();
     Touch();
 }

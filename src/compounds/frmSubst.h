@@ -68,6 +68,7 @@ private:
 
     // The search (frmSubst_search.cpp).
     void FindSubstance();
+    void AskAboutHydrate();
     bool RNCheck();
     void ShowRows(std::vector<CompoundRow> rows);
     void TakeRow(const CompoundRow& row);
@@ -111,8 +112,10 @@ private:
     bool changed_ = true;            // anything changed since the last store
     std::vector<CompoundRow> rows_;  // behind the entries of lstNames
     std::optional<CompoundRow> row_; // the row that was picked; its number is on offer
-    bool offered_ = false;           // its number has been asked about
-    bool byKey_ = false;             // a key of the list is being followed
+    /// Canonical text of a formula with a point that is meant as it stands.
+    std::string settledFormula_;
+    bool offered_ = false; // its number has been asked about
+    bool byKey_ = false;   // a key of the list is being followed
 };
 
 } // namespace vexora

@@ -32,6 +32,7 @@ void frmSubst::Accept() {
 
 void frmSubst::AcceptNew() {
     if (!CheckCharge() || !RNCheck()) return;
+    AskAboutHydrate();
     OfferItsNumber();
     if (!rnEdited_ && (nameEdited_ || formulaEdited_)) FindSubstance();
     if (HasMadeUpNumber() ? !CheckKept() : !IdentifySubstance()) return;
@@ -192,6 +193,7 @@ void frmSubst::ClearBoxes() {
 void frmSubst::AcceptEdit() {
     clsL& compound = *Globals().CurrentL;
     if (!CheckCharge()) return;
+    AskAboutHydrate();
     // Looking at a compound without identity does not make it a new one.
     if (mendable_ && (compound.isNew || IsMended(compound)) && !StoreMended(compound)) return;
     StoreBio(compound);

@@ -10,13 +10,13 @@ namespace vexora {
 
 /// Searches by name and formula. A registry number takes part only when it is all that was given.
 void frmSubst::FindSubstance() {
+    AskAboutHydrate();
     std::string formula(TrimBlanks(txtFormula.Text()));
     const std::string pattern = NamePattern(TrimBlanks(txtName.Text()));
     {
         const ui::FillingScope filling(*this);
         // A text that is no formula stays to be mended; it finds nothing.
-        if (const std::string canonical = CanonicalFormula(formula);
-            !IsFormulaPattern(formula) && !canonical.empty()) {
+        if (const std::string canonical = CanonicalFormula(formula); !canonical.empty()) {
             formula = canonical;
             txtFormula.Text(formula);
         }
@@ -35,6 +35,23 @@ void frmSubst::FindSubstance() {
     } else if (!editing_) {
         ui::Say("Substance not found in the database");
     }
+}
+
+/// The point of "CuSO4.5H2O" reads as a fractional count, which is another compound.
+void frmSubst::AskAboutHydrate() {
+    if (txtFormula.Locked()) return;
+    const std::string typed(TrimBlanks(txtFormula.Text()));
+    const std::string meant = HydrateReading(typed);
+    const std::string asTyped = CanonicalFormula(typed);
+    if (meant.empty() || (!asTyped.empty() && asTyped == settledFormula_)) return;
+    const ui::Message question{"Is this a hydrate?", typed, ui::MessageButtons::YesNo,
+                               ui::Answer::Yes};
+    const bool isHydrate = ui::TheDesktop().Show(question) == ui::Answer::Yes;
+    const ui::FillingScope filling(*this);
+    settledFormula_ = isHydrate ? meant : asTyped;
+    if (!isHydrate) return;
+    txtFormula.Text(meant);
+    ShowMass();
 }
 
 bool frmSubst::RNCheck() {
@@ -70,6 +87,7 @@ void frmSubst::TakeRow(const CompoundRow& row) {
         const ui::FillingScope filling(*this);
         txtName.Text(row.NAME);
         txtFormula.Text(row.FORMULA);
+        settledFormula_ = CanonicalFormula(row.FORMULA);
         ShowMass();
     }
     row_ = row;

@@ -35,6 +35,8 @@ struct ImportOptions {
     std::function<std::string(std::string_view)> canonicalFormula;
     /// Hears the count of lines now and then.
     std::function<void(std::size_t)> progress;
+    /// The sum that a formula with a point may have been meant for, "" where nothing is in doubt.
+    std::function<std::string(std::string_view)> hydrateReading = {};
 };
 
 /// Adds rows of registry number ("7732185" or "7732-18-5"), name and formula to `ALLNAME`, in one

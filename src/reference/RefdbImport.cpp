@@ -50,6 +50,12 @@ std::string ReadCompound(const std::vector<std::string>& cells, const ImportOpti
     if (Trim(cells[1]).empty()) return "the name is missing";
     if (formula.empty()) return "the formula is missing";
     compound = {*number, std::string(Trim(cells[1])), formula};
+    if (options.hydrateReading) {
+        // The reading of the point is another compound, and there is nobody to be asked.
+        const std::string meant = options.hydrateReading(formula);
+        if (!meant.empty())
+            return "\"" + formula + "\" may be a hydrate, " + meant + "; write its dot as *";
+    }
     if (options.canonicalFormula) compound.formula = options.canonicalFormula(formula);
     return compound.formula.empty() ? "\"" + formula + "\" is no formula" : "";
 }

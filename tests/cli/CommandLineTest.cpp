@@ -238,11 +238,15 @@ TEST_F(CommandLine, PlayEndsWithTheResultOfTheScript) {
 TEST_F(CommandLine, CompoundsAreImportedAndBadRowsToldWithTheirLines) {
     folder.Write("new.tsv",
                  "RN\tNAME\tFORMULA\n99999005\ttest compound\tC8H10\n99999006\twrong\tC8H10\n"
-                 "7732185\twater\tH2O\n");
+                 "7732185\twater\tH2O\n99999005\tblue stone\tCuSO4.5H2O\n"
+                 "99999005\tcut\tC2H5)OH\n99999005\tgreen stone\tFeSO4\u00B77H2O\n");
     const Outcome outcome = Run("refdb import --compounds new.tsv VXR.mdb");
     EXPECT_EQ(outcome.code, 1) << outcome.err;
-    EXPECT_EQ(outcome.out, "1 added, 1 already there, 1 skipped\n");
-    EXPECT_TRUE(outcome.err.starts_with("new.tsv:3: error: ")) << outcome.err;
+    EXPECT_EQ(outcome.out, "2 added, 1 already there, 3 skipped\n");
+    EXPECT_EQ(outcome.err,
+              "new.tsv:3: error: \"99999006\" is no valid registry number\n"
+              "new.tsv:5: error: \"CuSO4.5H2O\" may be a hydrate, CuH10O9S; write its dot as *\n"
+              "new.tsv:6: error: \"C2H5)OH\" is no formula\n");
     folder.Write("doc.txt", "^R 2031 wag pru 1\n^J#J#O#S#T##A##P#1####\n^I#1#wagner#w  #Wagner,W.\n"
                             "^L 99999005 NNNNN &\n");
     EXPECT_EQ(Run("tree doc.txt").out, "2031 wag pru 1\n  test compound\n");
