@@ -57,6 +57,7 @@ bool IsBetween(char32_t c, char32_t first, char32_t last) {
 }
 
 char32_t BaseLetter(char32_t c) {
+    if (c < 0x100) return c;
     if (IsBetween(c, 0x100, 0x24F) && c != U'\u0152' && c != U'\u0153')
         return static_cast<unsigned char>(LatinExtended[c - 0x100]);
     if (IsBetween(c, 0x1E00, 0x1EFF))

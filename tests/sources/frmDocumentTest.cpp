@@ -68,8 +68,8 @@ TEST_F(frmDocumentTest, TypedTextTurnsPlainBehindTheCaret) {
     document.txtTitle.SetFocus();
     document.txtTitle.Select(0, 0);
     document.txtTitle.UserPaste("\u03b2, \u00df\r\nand ");
-    EXPECT_EQ(document.txtTitle.Text(), " , ss and pure");
-    EXPECT_EQ(document.txtTitle.Caret(), 10U);
+    EXPECT_EQ(document.txtTitle.Text(), "beta, ss and pure");
+    EXPECT_EQ(document.txtTitle.Caret(), 13U);
 }
 
 TEST_F(frmDocumentTest, TypesWithoutDetailsPutTheirOwnText) {
