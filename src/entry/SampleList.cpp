@@ -78,7 +78,7 @@ std::shared_ptr<clsS> SampleList::Make() {
     const auto made = AddedSample(*compound_->Parent, before);
     if (!made) return nullptr;
     // What has been made must be found by its number, or data could not refer to it.
-    const auto found = made->Parent->FindS(static_cast<int>(Val(made->SMPNM)));
+    auto found = made->Parent->FindS(static_cast<int>(Val(made->SMPNM)));
     if (!found) {
         ui::Say("Sample internal error");
         ChoosePosition(0);

@@ -103,7 +103,7 @@ std::string Typewritten(char32_t c) {
 std::string Plain(char32_t c) {
     if (c == U'<') return "less than";
     if (c == U'>') return "greater than";
-    if (const std::string typed = Typewritten(c); !typed.empty()) return typed;
+    if (std::string typed = Typewritten(c); !typed.empty()) return typed;
     return std::string(c < 161 || c > 255 ? " " : Latin1[c - 161]);
 }
 
