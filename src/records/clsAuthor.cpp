@@ -70,7 +70,28 @@ std::string TakeBracketed(std::string& firstName) {
     return extension;
 }
 
+/// A word of first names that is written out, as "Jr." is and "J." is not.
+bool IsWrittenOut(std::string_view word) {
+    std::size_t at = 0;
+    if (!word.empty()) NextCodePoint(word, at);
+    return at < word.size() && word[at] != '.' && word[at] != '-';
+}
+
 } // namespace
+
+void clsAuthor::SplitName() {
+    if (!LastName.empty()) return;
+    const std::size_t comma = FULLNM.find(',');
+    LastName = TrimBlanks(std::string_view(FULLNM).substr(0, comma));
+    if (comma == std::string::npos) return;
+    for (const std::string& word :
+         Split(TrimBlanks(std::string_view(FULLNM).substr(comma + 1)), ' ')) {
+        // Behind initials it is no first name but a "Jr." or "van".
+        const bool isExtension = FirstName.ends_with('.') && IsWrittenOut(word) &&
+                                 FirstName.find(']') == std::string::npos;
+        FirstName += std::string(FirstName.empty() ? "" : isExtension ? "] " : " ") + word;
+    }
+}
 
 void clsAuthor::CreateAbbr() {
     LASTNM = LettersOf(TrimBlanks(LastName)).substr(0, CodeLength);

@@ -30,6 +30,9 @@ public:
 
     /// Derives LASTNM, INITNM (two characters) and FULLNM from the typed parts.
     void CreateAbbr();
+    /// Fills LastName and FirstName from FULLNM when nothing was typed, so that CreateAbbr gives
+    /// the name back in this system's spelling.
+    void SplitName();
     /// Whether a full name has the same letters.
     bool CompareName(std::string_view fullName) const;
     /// Reads a ^I line. An author who is nowhere to be found is told, and stays without a name.

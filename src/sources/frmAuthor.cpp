@@ -15,10 +15,20 @@ namespace {
 
 constexpr int NameWidth = 6;
 constexpr int InitialsWidth = 3;
+constexpr std::size_t InitialsShown = 2; // the third character is the mark
 
 std::string Padded(std::string text, int width) {
     text.resize(std::max(text.size(), static_cast<std::size_t>(width)), ' ');
     return text;
+}
+
+/// Whether both would be looked up by the same letters, the mark apart.
+bool HasCodes(const clsAuthor& one, const clsAuthor& other) {
+    const auto initials = [](const clsAuthor& author) {
+        return Padded(author.INITNM, InitialsWidth).substr(0, InitialsShown);
+    };
+    return EqualNoCase(TrimBlanks(one.LASTNM), TrimBlanks(other.LASTNM)) &&
+           EqualNoCase(initials(one), initials(other));
 }
 
 /// The mark behind the initials that keeps an author apart from those in the table who share name
@@ -30,8 +40,10 @@ char SequenceMark(const clsAuthor& author) {
     char mark = ' ';
     for (; !rows.IsEnd(); rows.MoveNext()) {
         const std::string initials = Padded(rows.Text("INITNM"), InitialsWidth);
-        if (!EqualNoCase(initials.substr(0, 2), author.INITNM.substr(0, 2))) continue;
-        const char next = initials[2] == '9' ? 'A' : static_cast<char>(initials[2] + 1);
+        if (!EqualNoCase(initials.substr(0, InitialsShown), author.INITNM.substr(0, InitialsShown)))
+            continue;
+        const char last = initials[InitialsShown];
+        const char next = last == '9' ? 'A' : static_cast<char>(last + 1);
         mark = std::max({mark, '1', std::min(next, 'Z')});
     }
     return mark;
@@ -51,7 +63,9 @@ frmAuthor::frmAuthor() : Form("frmAuthor", "Author's Name") {
         ui::Column({ui::Field("Last Name:", txtLast),
                     ui::Field("First && Middle (Names or Initials):", txtFirst),
                     ui::Row({cmdVerify, ui::Stretch()}), ui::Field("Search results:", cboAuthor),
-                    ui::Stretch(), ui::ButtonRow({cmdAdd, cmdFinish})});
+                    ui::Field("Authors of the document:", lstAuthors),
+                    ui::Row({ui::Stretch(), cmdChange, cmdRemove, cmdUp, cmdDown}),
+                    ui::ButtonRow({cmdAdd, cmdFinish})});
     UseButtons(cmdAdd, cmdFinish, [this] { cmdAdd_Click(); });
     HelpContext = 230;
     PreferredColumns = 60;
@@ -59,6 +73,23 @@ frmAuthor::frmAuthor() : Form("frmAuthor", "Author's Name") {
     txtLast.AfterChange = [this] { NameChanged(txtLast); };
     txtFirst.AfterChange = [this] { NameChanged(txtFirst); };
     cmdVerify.OnClick = [this] { cmdVerify_Click(); };
+    lstAuthors.OnClick = [this] { EnableButtons(); };
+    lstAuthors.OnDoubleClick = [this] { cmdChange_Click(); };
+    cmdChange.OnClick = [this] { cmdChange_Click(); };
+    cmdRemove.OnClick = [this] { cmdRemove_Click(); };
+    cmdUp.OnClick = [this] { Move(-1); };
+    cmdDown.OnClick = [this] { Move(1); };
+}
+
+void frmAuthor::Load() {
+    if (const auto* document = ui::Forms::Current().Find<frmDocument>("frmDocument"))
+        recAuthor_ = document->Authors();
+    ShowList(-1);
+}
+
+/// Before the first change the button says "Cancel", and a typed name goes with it.
+bool frmAuthor::QueryUnload() {
+    return !changed_ || SettleTyped();
 }
 
 void frmAuthor::NameChanged(PlainTextBox& field) {
@@ -109,18 +140,13 @@ void frmAuthor::FindKnown() {
     }
 }
 
-std::shared_ptr<clsAuthor> frmAuthor::ChosenAuthor() const {
+std::shared_ptr<clsAuthor> frmAuthor::ChosenKnown() const {
     const auto place = static_cast<std::size_t>(cboAuthor.Index() - 1);
     return cboAuthor.Index() >= 1 && place < known_.size() ? known_[place] : nullptr;
 }
 
 void frmAuthor::cmdAdd_Click() {
-    if (txtLast.Entered().empty()) {
-        Refuse(txtLast, "Enter author's last name");
-        return;
-    }
-    const auto known = ChosenAuthor();
-    AddToList(known ? known : NewAuthor());
+    if (TakeTyped()) txtLast.SetFocus();
 }
 
 std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
@@ -128,8 +154,13 @@ std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
     author->LastName = txtLast.Entered();
     author->FirstName = txtFirst.Entered();
     author->CreateAbbr();
-    author->INITNM = Padded(author->INITNM.substr(0, 2), InitialsWidth);
+    author->INITNM = Padded(author->INITNM.substr(0, InitialsShown), InitialsWidth);
     author->isNew = true;
+    // The same person in another spelling keeps the mark.
+    if (changing_ && HasCodes(*changing_, *author)) {
+        author->INITNM = changing_->INITNM;
+        return author;
+    }
     try {
         author->INITNM.back() = SequenceMark(*author);
         Register(*author);
@@ -139,16 +170,117 @@ std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
     return author;
 }
 
-void frmAuthor::AddToList(std::shared_ptr<clsAuthor> author) {
-    recAuthor_.push_back(std::move(author));
-    if (auto* document = ui::Forms::Current().Find<frmDocument>("frmDocument"))
-        document->Authors(recAuthor_);
+std::shared_ptr<clsAuthor> frmAuthor::Selected() const {
+    const int at = lstAuthors.Index();
+    return at < 0 ? nullptr : recAuthor_.at(static_cast<std::size_t>(at));
+}
+
+bool frmAuthor::HasTyped() const {
+    const std::string last = txtLast.Entered();
+    const std::string first = txtFirst.Entered();
+    if (changing_) return ChosenKnown() || last != shownLast_ || first != shownFirst_;
+    return !last.empty() || !first.empty();
+}
+
+bool frmAuthor::SettleTyped() {
+    if (HasTyped()) {
+        const auto answer =
+            ui::AskYesNoCancel(changing_ ? "Change this author?" : "Add this author?");
+        if (answer == ui::Answer::Yes) return TakeTyped();
+        if (answer == ui::Answer::Cancel) return false;
+    }
+    ClearTyped();
+    return true;
+}
+
+bool frmAuthor::TakeTyped() {
+    if (changing_ && !HasTyped()) {
+        ClearTyped();
+        return true;
+    }
+    if (txtLast.Entered().empty()) return Refuse(txtLast, "Enter author's last name");
+    const auto known = ChosenKnown();
+    const auto author = known ? known : NewAuthor();
+    if (changing_)
+        std::replace(recAuthor_.begin(), recAuthor_.end(), changing_, author);
+    else
+        recAuthor_.push_back(author);
+    ClearTyped();
+    ListChanged(lstAuthors.Index());
+    return true;
+}
+
+void frmAuthor::ClearTyped() {
+    changing_ = nullptr;
+    cmdAdd.Caption("Add  Author");
     known_.clear();
     cboAuthor.Clear();
-    txtLast.Text("");
-    txtFirst.Text("");
-    cmdFinish.Caption("Done");
+    Enter("", "");
+}
+
+void frmAuthor::Enter(const std::string& last, const std::string& first) {
+    txtLast.Text(last);
+    txtFirst.Text(first);
+    shownLast_ = txtLast.Entered();
+    shownFirst_ = txtFirst.Entered();
+}
+
+void frmAuthor::cmdChange_Click() {
+    const auto author = Selected();
+    if (!author || !SettleTyped()) return;
+    clsAuthor parts = *author; // the document may still be left as it was
+    parts.SplitName();
+    Enter(parts.LastName, parts.FirstName);
+    changing_ = author;
+    cmdAdd.Caption("Change Author");
     txtLast.SetFocus();
+}
+
+void frmAuthor::cmdRemove_Click() {
+    const auto author = Selected();
+    if (!author) return;
+    if (author == changing_) ClearTyped();
+    const int at = lstAuthors.Index();
+    recAuthor_.erase(recAuthor_.begin() + at);
+    ListChanged(std::min(at, static_cast<int>(recAuthor_.size()) - 1));
+}
+
+void frmAuthor::Move(int by) {
+    const int from = lstAuthors.Index();
+    const int to = from + by;
+    if (from < 0 || to < 0 || to >= lstAuthors.Count()) return;
+    std::swap(recAuthor_[static_cast<std::size_t>(from)], recAuthor_[static_cast<std::size_t>(to)]);
+    ListChanged(to);
+}
+
+void frmAuthor::ListChanged(int selected) {
+    changed_ = true;
+    cmdFinish.Caption("Done");
+    if (auto* document = ui::Forms::Current().Find<frmDocument>("frmDocument"))
+        document->Authors(recAuthor_);
+    ShowList(selected);
+}
+
+void frmAuthor::ShowList(int selected) {
+    std::vector<std::string> names;
+    for (const auto& author : recAuthor_)
+        names.emplace_back(TrimBlanks(author->FULLNM));
+    lstAuthors.Assign(std::move(names));
+    lstAuthors.Index(selected);
+    EnableButtons();
+}
+
+void frmAuthor::EnableButtons() {
+    const int at = lstAuthors.Index();
+    const std::pair<ui::CommandButton*, bool> live[] = {
+        {&cmdChange, at >= 0},
+        {&cmdRemove, at >= 0},
+        {&cmdUp, at > 0},
+        {&cmdDown, at >= 0 && at + 1 < lstAuthors.Count()}};
+    for (const auto& [button, isLive] : live) {
+        if (!isLive && button->HasFocus()) lstAuthors.SetFocus();
+        button->Enabled(isLive);
+    }
 }
 
 } // namespace vexora

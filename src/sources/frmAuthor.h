@@ -11,9 +11,9 @@ namespace vexora {
 
 class clsAuthor;
 
-/// "Author's Name": finds authors in the table of known ones or registers new ones there. Every
-/// opening starts a new list, which takes the place of the document's list with its first author;
-/// closing the form without having added one leaves the document's list as it was.
+/// "Author's Name": the list of the document's authors, who are found in the table of known ones or
+/// typed anew. It begins with those whom the document has; each change goes to the document at
+/// once.
 class frmAuthor : public ui::Form {
 public:
     frmAuthor();
@@ -23,22 +23,49 @@ public:
     PlainTextBox txtFirst{*this, "txtFirst"};
     ui::CommandButton cmdVerify{*this, "cmdVerify", "Search"};
     ui::ComboBox cboAuthor{*this, "cboAuthor"};
+    ui::ListBox lstAuthors{*this, "lstAuthors"};
+    ui::CommandButton cmdChange{*this, "cmdChange", "Change"};
+    ui::CommandButton cmdRemove{*this, "cmdRemove", "Remove"};
+    ui::CommandButton cmdUp{*this, "cmdUp", "Up"};
+    ui::CommandButton cmdDown{*this, "cmdDown", "Down"};
     ui::CommandButton cmdAdd{*this, "cmdAdd", "Add  Author"};
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
+    void Load() override;
+    bool QueryUnload() override;
+
 private:
+    using Authors = std::vector<std::shared_ptr<clsAuthor>>;
+
     void cmdVerify_Click();
     void cmdAdd_Click();
+    void cmdChange_Click();
+    void cmdRemove_Click();
+    void Move(int by);
 
     void NameChanged(PlainTextBox& field);
     void FindKnown();
-    std::shared_ptr<clsAuthor> ChosenAuthor() const;
+    std::shared_ptr<clsAuthor> ChosenKnown() const;
     std::shared_ptr<clsAuthor> NewAuthor() const;
-    void AddToList(std::shared_ptr<clsAuthor> author);
+    /// The author chosen in the list, or null.
+    std::shared_ptr<clsAuthor> Selected() const;
 
-    using Authors = std::vector<std::shared_ptr<clsAuthor>>;
+    bool HasTyped() const;
+    /// What is typed and stands not in the list yet goes there or is dropped, as the user says;
+    /// false when the form is to stay as it is.
+    bool SettleTyped();
+    bool TakeTyped();
+    void ClearTyped();
+    void Enter(const std::string& last, const std::string& first);
+    void ListChanged(int selected);
+    void ShowList(int selected);
+    void EnableButtons();
+
     Authors known_; // behind the first line of cboAuthor, in its order
     Authors recAuthor_;
+    std::shared_ptr<clsAuthor> changing_; // whose name stands in the fields to be mended
+    std::string shownLast_, shownFirst_;  // as it was put there
+    bool changed_ = false;
 };
 
 } // namespace vexora

@@ -44,6 +44,7 @@ public:
     void Source(const std::string& text);
     /// The chosen type is a manuscript that is not printed yet.
     bool IsManuscript() const;
+    const std::vector<std::shared_ptr<clsAuthor>>& Authors() const { return authors_; }
     /// Takes the list of authors, in place of the one before.
     void Authors(const std::vector<std::shared_ptr<clsAuthor>>& authors);
 

@@ -27,6 +27,43 @@ protected:
     }
 };
 
+TEST_F(frmAuthorTest, ANameComesApartAsItWasPutTogether) {
+    const char* const names[][3] = {{"Wagner, W.", "Wagner", "W."},
+                                    {"van der Waals,J.D.", "van der Waals", "J.D."},
+                                    {"Sartre,J. - P.", "Sartre", "J. - P."},
+                                    {"King,M.L. Jr.", "King", "M.L.] Jr."},
+                                    {"Beethoven,L. van Sr.", "Beethoven", "L.] van Sr."},
+                                    {"Lemmon, Eric W.", "Lemmon", "Eric W."},
+                                    {"Ng", "Ng", ""}};
+    for (const auto& [full, last, first] : names) {
+        clsAuthor author;
+        author.FULLNM = full;
+        author.SplitName();
+        EXPECT_EQ(author.LastName + "|" + author.FirstName, last + ("|" + std::string(first)));
+    }
+}
+
+TEST_F(frmAuthorTest, AChangedNameOfOnePersonKeepsItsCodesAndTheDocumentsRecord) {
+    frmDocument& document = OpenComplete();
+    const auto stored = document.Authors()[0];
+    stored->INITNM = "q 7";
+    document.Authors({stored});
+    desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
+        auto& authors = dynamic_cast<frmAuthor&>(opened);
+        authors.lstAuthors.UserChoose(0);
+        for (const char* last : {"Zymurgista", "Zymurgiste"}) {
+            authors.cmdChange.UserClick();
+            Set(authors.txtLast, last);
+            authors.cmdAdd.UserClick();
+        }
+        authors.cmdFinish.UserClick();
+    });
+    document.txtAuthors.UserClick();
+    ASSERT_EQ(document.Authors().size(), 1U);
+    EXPECT_EQ(document.Authors()[0]->FULLNM + document.Authors()[0]->INITNM, "Zymurgiste,Q.q 7");
+    EXPECT_EQ(stored->FULLNM, "Zymurgist,Q.");
+}
+
 TEST_F(frmAuthorTest, AKnownAuthorIsTakenFromTheTable) {
     frmDocument& document = OpenNew();
     desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
@@ -51,6 +88,10 @@ TEST_F(frmAuthorTest, AnAuthorRegisteredHereStaysNewToEveryOtherWorkplace) {
     frmDocument& document = OpenComplete();
     desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
         auto& authors = dynamic_cast<frmAuthor&>(opened);
+        for (int count = authors.lstAuthors.Count(); count > 0; --count) {
+            authors.lstAuthors.UserChoose(0);
+            authors.cmdRemove.UserClick();
+        }
         for (const char* name : {"Zymurgist,Q.", "Wagner, W."}) {
             Set(authors.txtLast, std::string(name).substr(0, 4));
             authors.cmdVerify.UserClick();

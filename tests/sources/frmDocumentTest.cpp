@@ -34,11 +34,11 @@ TEST_F(frmDocumentTest, ChecksRunFromTopToBottomAndPutTheFocus) {
     }
     Set(document.txtYear, "2027");
     refused("Enter the author(s)", "txtAuthors");
-    AddAuthors(document, {{"123", ""}, {"Abel", ""}});
+    GiveAuthors(document, {{"123", ""}, {"Abel", ""}});
     refused("Illegal character in the 1st author name | Error", "txtAuthors");
-    AddAuthors(document, {{"Abel", ""}, {"123", ""}});
+    GiveAuthors(document, {{"Abel", ""}, {"123", ""}});
     refused("Illegal character in the 2nd author name | Error", "txtAuthors");
-    AddAuthors(document, {{"Ab", ""}});
+    GiveAuthors(document, {{"Ab", ""}});
     document.cmdAccept.UserClick();
     EXPECT_FALSE(document.IsOpen());
     EXPECT_EQ(globals.recR.Item(1)->Source(), "2027 ab & 1");
@@ -185,7 +185,7 @@ TEST_F(EditedSource, AChangedIdentityMovesItsOwnRow) {
     Edit([this](frmDocument& document) {
         Set(document.txtTitle, "Density of water");
         Set(document.txtYear, "2012");
-        AddAuthors(document, {{"Ode", "A. B."}});
+        GiveAuthors(document, {{"Ode", "A. B."}});
         document.cmdAccept.UserClick();
     });
     EXPECT_EQ(State(*globals.recR.Item(1)),
@@ -200,9 +200,10 @@ TEST_F(EditedSource, CancelKeepsTheRecordAndItsAuthors) {
     forms.DropClosed();
     Edit([this](frmDocument& document) {
         Set(document.txtTitle, "Something else");
-        AddAuthors(document, {{"Ode", "A. B."}});
-        AddAuthors(document, {});
+        GiveAuthors(document, {{"Ode", "A. B."}});
         EXPECT_EQ(document.txtAuthors.Text(), "Ode,A.B.");
+        GiveAuthors(document, {});
+        EXPECT_EQ(document.txtAuthors.Text(), "CLICK HERE TO ENTER THE AUTHORS");
         document.cmdCalcel.UserClick();
     });
     EXPECT_EQ(State(*globals.recR.Item(1)), before);

@@ -81,7 +81,7 @@ TEST_F(frmRefTest, CreateLeadsOnWithTheYearAndTheChainEndsEmpty) {
         EXPECT_EQ(ref.IsOpen(), advanced);
         Choose(document.cboTypeDoc, "Personal communication");
         Set(document.txtTitle, "A title");
-        AddAuthors(document, {{"Ode", "A."}});
+        GiveAuthors(document, {{"Ode", "A."}});
         document.cmdAccept.UserClick();
         EXPECT_TRUE(globals.OpenForms.empty());
         EXPECT_TRUE(forms.OpenForms().empty());

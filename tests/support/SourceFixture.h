@@ -52,9 +52,15 @@ protected:
     }
 
     using Names = std::vector<std::pair<std::string, std::string>>;
-    /// Opens the form of authors and adds these, last and first names, as new ones.
-    void AddAuthors(frmDocument& document, const Names& names) {
+    /// Opens the form of authors and puts these, last and first names, in place of the present
+    /// ones.
+    void GiveAuthors(frmDocument& document, const Names& names) {
         desktop.ExpectModal("frmAuthor", [names](ui::Form& authors) {
+            auto& present = dynamic_cast<frmAuthor&>(authors).lstAuthors;
+            while (present.Count() > 0) {
+                present.UserChoose(0);
+                Click(authors, "cmdRemove");
+            }
             for (const auto& [last, first] : names) {
                 Set(authors, "txtLast", last);
                 Set(authors, "txtFirst", first);
@@ -72,7 +78,7 @@ protected:
         Set(document.txtTitle, "Density of heavy water");
         document.txtSource.UserClick();
         Set(document.txtYear, "2011");
-        AddAuthors(document, {{"Zymurgist", "Q."}, {"Ab-Cd Ef", "John Paul"}});
+        GiveAuthors(document, {{"Zymurgist", "Q."}, {"Ab-Cd Ef", "John Paul"}});
         return document;
     }
 
