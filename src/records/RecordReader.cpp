@@ -35,18 +35,9 @@ void EmptyDocument() {
 
 /// Sources that the reference database lacks are added there all at once, the read being whole.
 void RegisterNewSources(ReadTalk& talk) {
-    Database& known = Globals().CompoundDb();
     try {
-        // All or none; a database that refuses does not take the document away.
-        std::optional<Transaction> transaction;
-        for (const auto& source : Globals().recR) {
-            if (!source->toRegister) continue;
-            if (!transaction) transaction.emplace(known);
-            RegisterSource(*source);
-            source->toRegister = false;
-        }
-        if (transaction) transaction->Commit();
-    } catch (const DatabaseError& error) {
+        RegisterReadSources();
+    } catch (const DatabaseError& error) { // it does not take the document away
         talk.Say({error.what(), {}});
     }
 }

@@ -112,6 +112,17 @@ bool clsAuthor::CompareName(std::string_view fullName) const {
     return LettersOf(FULLNM) == LettersOf(fullName);
 }
 
+std::optional<std::string> clsAuthor::KnownName() const {
+    const Database& known = Globals().CompoundDb();
+    if (!known.IsOpen()) return {};
+    const Recordset row =
+        known.Query("select FULLNM from SOURCE_AUTHOR where rtrim(LASTNM) = ? "
+                    "and rtrim(INITNM) = ? order by rowid",
+                    {WithoutTrailingBlanks(LASTNM), WithoutTrailingBlanks(INITNM)});
+    if (row.IsEnd()) return {};
+    return row.Text("FULLNM");
+}
+
 Notices clsAuthor::Load(std::string_view line) {
     std::string text(line);
     NextHashField(text);
@@ -122,14 +133,7 @@ Notices clsAuthor::Load(std::string_view line) {
     // Only the file knows the name of a new one; all others are looked up.
     isNew = !FULLNM.empty();
     if (isNew) return {};
-    const Database& known = Globals().CompoundDb();
-    if (known.IsOpen()) {
-        const Recordset row =
-            known.Query("select FULLNM from SOURCE_AUTHOR where rtrim(LASTNM) = ? and "
-                        "rtrim(INITNM) = ? order by rowid",
-                        {WithoutTrailingBlanks(LASTNM), WithoutTrailingBlanks(INITNM)});
-        if (!row.IsEnd()) FULLNM = row.Text("FULLNM");
-    }
+    FULLNM = KnownName().value_or("");
     if (!FULLNM.empty()) return {};
     return {{"Undefined author " + LASTNM + INITNM + ":", {}}};
 }

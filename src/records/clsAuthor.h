@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,9 @@ public:
     /// Fills LastName and FirstName from FULLNM when nothing was typed, so that CreateAbbr gives
     /// the name back in this system's spelling.
     void SplitName();
+    /// FULLNM of the row with these codes in SOURCE_AUTHOR; nothing when there is none or no
+    /// database is open.
+    std::optional<std::string> KnownName() const;
     /// Whether a full name has the same letters.
     bool CompareName(std::string_view fullName) const;
     /// Reads a ^I line. An author who is nowhere to be found is told, and stays without a name.

@@ -54,7 +54,10 @@ public:
     bool isNew = false;
     std::string TYPDOC, SOURCEDOC = "&", SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
                         CASCIT, CODEN, ISSN, BULCT;
-    bool toRegister = false;  // read from a file and not in the reference database yet
+    bool toRegister = false; // read from a file and not in the reference database yet
+    /// Its identity in the reference database, "" while it stands not there. An edited source keeps
+    /// it until it is saved.
+    std::string RegisteredAs;
     std::string ManuscriptID; // of a submitted manuscript: the part of SSOURCE behind its last ", "
 
     /// The four identifying fields parted by blanks.
@@ -74,10 +77,13 @@ public:
     /// that stands there with another text, else empty; when the two are different sources, this
     /// one is to take the next number.
     std::string LoadJ(std::string_view line);
-    /// Takes the next free number of its authors and year, and is to be registered under it. The
-    /// document is changed thereby, which is told.
+    /// Takes the next free number of its authors and year. The document is changed thereby, which
+    /// is told.
     /// A file name that was made from the old number is wrong from here on.
     Notice TakeNextNumber();
+    /// Takes the number that goes with its year and authors, which have changed: the one under
+    /// which it is registered with these, else the next free one.
+    void Renumber();
     void PrintR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintR(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;
@@ -111,14 +117,19 @@ private:
     void PrintDescription(LineWriter& out) const;
 };
 
-/// The next free AUTHORN for the identity in SOURCE_REFINFO: one above the greatest, 1 for none.
-/// A second author "&" or "" counts as none.
-int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2);
+/// The next free AUTHORN for the identity in SOURCE_REFINFO and in the document, one source of the
+/// document left out: one above the greatest, 1 for none. A second author "&" or "" counts as none.
+int NextAuthorNumber(std::string_view year, std::string_view author1, std::string_view author2,
+                     const clsR* leftOut = nullptr);
 /// The number for a source that is described anew: without a second author it counts on from all
 /// sources of the first, whoever wrote them with him.
 int NextNumberOfNewSource(std::string_view year, std::string_view author1,
                           std::string_view author2);
-/// Adds the source to SOURCE_REFINFO with NEW set.
-void RegisterSource(const clsR& source);
+/// Adds the sources that a read has found new to SOURCE_REFINFO with NEW set, all or none.
+void RegisterReadSources();
+/// Brings SOURCE_REFINFO and SOURCE_AUTHOR in line with the new sources of the saved document and
+/// their authors, all or nothing: a row made here goes along with its source, one that came with
+/// the database stays as it is. Throws DatabaseError.
+void RegisterDocument();
 
 } // namespace vexora

@@ -49,6 +49,16 @@ std::string WriteText(const std::string& path, const std::function<std::string()
     }
 }
 
+/// From its first save on the source and its authors are known to the next document. The file is
+/// written by then, so a database that refuses is told of and no more.
+void RegisterSaved() {
+    try {
+        RegisterDocument();
+    } catch (const DatabaseError& error) {
+        ui::Say(error.what());
+    }
+}
+
 } // namespace
 
 bool frmMain::MayDiscard() {
@@ -175,6 +185,7 @@ bool frmMain::WriteDocument() {
     if (error.empty()) {
         globals.Saved = true;
         globals.DialogAccepted = false;
+        RegisterSaved();
     } else {
         ui::Say("The file " + FileName + " cannot be written.\n" + error);
     }

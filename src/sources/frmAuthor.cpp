@@ -31,30 +31,20 @@ bool HasCodes(const clsAuthor& one, const clsAuthor& other) {
            EqualNoCase(initials(one), initials(other));
 }
 
-/// The mark behind the initials that keeps an author apart from those in the table who share name
-/// and initials: a blank for the first, then "1" to "9" and "A" to "Z".
-char SequenceMark(const clsAuthor& author) {
-    auto rows = Globals().CompoundDb().Query(
-        "select * from SOURCE_AUTHOR where rtrim(LASTNM)=? order by rowid",
-        {std::string(TrimBlanks(author.LASTNM))});
-    char mark = ' ';
-    for (; !rows.IsEnd(); rows.MoveNext()) {
-        const std::string initials = Padded(rows.Text("INITNM"), InitialsWidth);
-        if (!EqualNoCase(initials.substr(0, InitialsShown), author.INITNM.substr(0, InitialsShown)))
-            continue;
-        const char last = initials[InitialsShown];
+/// The mark behind the initials that keeps an author apart from others who share name and initials:
+/// a blank for the first, then "1" to "9" and "A" to "Z".
+class SequenceMark {
+public:
+    void Pass(const std::string& initials) {
+        const char last = Padded(initials, InitialsWidth)[InitialsShown];
         const char next = last == '9' ? 'A' : static_cast<char>(last + 1);
-        mark = std::max({mark, '1', std::min(next, 'Z')});
+        mark_ = std::max({mark_, '1', std::min(next, 'Z')});
     }
-    return mark;
-}
+    char Get() const { return mark_; }
 
-void Register(const clsAuthor& author) {
-    Globals().CompoundDb().Insert("SOURCE_AUTHOR", {{"LASTNM", author.LASTNM},
-                                                    {"INITNM", author.INITNM},
-                                                    {"FULLNM", author.FULLNM},
-                                                    {"NEW", true}});
-}
+private:
+    char mark_ = ' ';
+};
 
 } // namespace
 
@@ -138,6 +128,19 @@ void frmAuthor::FindKnown() {
         // No other workplace knows an author registered here: the document must carry the name.
         author.isNew = rows.Integer("NEW") != 0;
     }
+    AppendOwn(typed.LastName + "*", initials + "*");
+}
+
+/// Authors of the list that are not registered yet, so that one and the same is not made twice.
+void frmAuthor::AppendOwn(std::string_view name, std::string_view initials) {
+    const auto isListed = [this](const clsAuthor& author) {
+        return std::any_of(known_.begin(), known_.end(), [&author](const auto& known) {
+            return known->LASTNM == author.LASTNM && known->INITNM == author.INITNM;
+        });
+    };
+    for (const auto& author : recAuthor_)
+        if (Like(name, author->FULLNM) && Like(initials, author->INITNM) && !isListed(*author))
+            known_.push_back(std::make_shared<clsAuthor>(*author));
 }
 
 std::shared_ptr<clsAuthor> frmAuthor::ChosenKnown() const {
@@ -161,13 +164,29 @@ std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
         author->INITNM = changing_->INITNM;
         return author;
     }
+    author->INITNM.back() = MarkOf(*author);
+    return author;
+}
+
+/// Those of the list count as taken, for they are registered with the document only.
+char frmAuthor::MarkOf(const clsAuthor& author) const {
+    SequenceMark mark;
+    for (const auto& other : recAuthor_)
+        if (other != changing_ && HasCodes(*other, author)) mark.Pass(other->INITNM);
     try {
-        author->INITNM.back() = SequenceMark(*author);
-        Register(*author);
+        auto rows = Globals().CompoundDb().Query(
+            "select LASTNM, INITNM from SOURCE_AUTHOR where rtrim(LASTNM)=? order by rowid",
+            {std::string(TrimBlanks(author.LASTNM))});
+        for (; !rows.IsEnd(); rows.MoveNext()) {
+            clsAuthor known;
+            known.LASTNM = rows.Text("LASTNM");
+            known.INITNM = rows.Text("INITNM");
+            if (HasCodes(known, author)) mark.Pass(known.INITNM);
+        }
     } catch (const DatabaseError& error) {
         ui::Say(error.what()); // the document keeps the author all the same
     }
-    return author;
+    return mark.Get();
 }
 
 std::shared_ptr<clsAuthor> frmAuthor::Selected() const {

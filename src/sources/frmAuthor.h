@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "sources/EntryFields.h"
@@ -46,7 +47,9 @@ private:
     void NameChanged(PlainTextBox& field);
     void FindKnown();
     std::shared_ptr<clsAuthor> ChosenKnown() const;
+    void AppendOwn(std::string_view name, std::string_view initials);
     std::shared_ptr<clsAuthor> NewAuthor() const;
+    char MarkOf(const clsAuthor& author) const;
     /// The author chosen in the list, or null.
     std::shared_ptr<clsAuthor> Selected() const;
 

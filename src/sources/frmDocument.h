@@ -13,9 +13,9 @@ class clsAuthor;
 class clsR;
 
 /// "Literature source description": the first dialog of a new document and the edit dialog of its
-/// root. It fills the citation fields of the source, derives the author codes, and registers a new
-/// source in the reference database. The details of the publication and the authors come from
-/// helper dialogs that hand their result back here.
+/// root. It fills the citation fields of the source and derives the author codes and the number
+/// that keeps it apart. The details of the publication and the authors come from helper dialogs
+/// that hand their result back here.
 class frmDocument : public ChainForm {
 public:
     frmDocument();

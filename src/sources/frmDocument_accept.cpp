@@ -46,24 +46,6 @@ void OrTell(Action action) {
     }
 }
 
-/// Brings the source's own row of the reference database in line with it; a row that came with the
-/// database stays as it is.
-void UpdateRegistered(const clsR& before, const clsR& source) {
-    Database& database = Globals().CompoundDb();
-    const auto row = database.Query(
-        "select rowid as place from SOURCE_REFINFO where YEARPUB=? and AUTHOR1=? and "
-        "coalesce(AUTHOR2,'')=? and AUTHORN=? and NEW<>0 order by rowid",
-        {before.YEARPUB, before.AUTHOR1, StoredCode(before.AUTHOR2), before.AUTHORN});
-    if (row.IsEnd()) return;
-    database.Update("SOURCE_REFINFO", row.Integer("place"),
-                    {{"YEARPUB", source.YEARPUB},
-                     {"AUTHOR1", source.AUTHOR1},
-                     {"AUTHOR2", StoredCode(source.AUTHOR2)},
-                     {"AUTHORN", source.AUTHORN},
-                     {"SOURCE", source.SSOURCE},
-                     {"TITLE", source.TTITLE}});
-}
-
 } // namespace
 
 bool frmDocument::CheckFields() {
@@ -150,25 +132,14 @@ void frmDocument::StoreNew() {
     OrTell([&source] {
         source->AUTHORN = std::to_string(
             NextNumberOfNewSource(source->YEARPUB, source->AUTHOR1, source->AUTHOR2));
-        RegisterSource(*source);
     });
     source->AttachTo();
 }
 
 void frmDocument::StoreEdited(clsR& source) {
-    clsR before;
-    before.YEARPUB = source.YEARPUB;
-    before.AUTHOR1 = source.AUTHOR1;
-    before.AUTHOR2 = source.AUTHOR2;
-    before.AUTHORN = source.AUTHORN;
     const bool same = IsSameIdentity(source);
     Store(source);
-    OrTell([&] {
-        if (!same)
-            source.AUTHORN =
-                std::to_string(NextAuthorNumber(source.YEARPUB, source.AUTHOR1, source.AUTHOR2));
-        UpdateRegistered(before, source);
-    });
+    if (!same) OrTell([&source] { source.Renumber(); });
     source.Synchronize();
 }
 

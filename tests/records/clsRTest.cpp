@@ -59,18 +59,15 @@ TEST_F(Sources, AnotherTextUnderTheSameIdentityIsAskedAbout) {
     EXPECT_EQ(globals.recR.Item("2031 qqq & 11")->AUTHORN, "11");
     EXPECT_FALSE(globals.Saved);
     EXPECT_EQ(Tree(), "2031 qqq & 11\n");
+    EXPECT_EQ(Known("qqq"), "2031//10/J. X/Title/1\n2031//1/J. X/Title/1\n") << "not saved yet";
     EXPECT_EQ(NextAuthorNumber("2031", "qqq", ""), 12);
     EXPECT_EQ(NextAuthorNumber("2031", "qqq", "&"), 12);
     EXPECT_EQ(NextAuthorNumber("2031", "qqq", "rrr"), 1);
 }
 
 TEST_F(Sources, ANewSourceOfOneAuthorCountsOnFromThoseHeSharedWithOthers) {
-    clsR shared;
-    shared.YEARPUB = "2031";
-    shared.AUTHOR1 = "qqq";
-    shared.AUTHOR2 = "rrr";
-    shared.AUTHORN = "20";
-    RegisterSource(shared);
+    ReadDocument("^R 2031 qqq rrr 20\n^J#J#O#J. Z#Title#####0####\n");
+    globals.recR.Clear();
     EXPECT_EQ(NextAuthorNumber("2031", "qqq", "&"), 1);
     EXPECT_EQ(NextNumberOfNewSource("2031", "qqq", "&"), 21);
     EXPECT_EQ(NextNumberOfNewSource("2031", "qqq", "rrr"), 21);

@@ -47,6 +47,26 @@ TEST_F(DocumentTest, ABadRecordLeavesAnEmptyDocumentWithoutAName) {
     EXPECT_EQ(Shell().FileName, "");
 }
 
+TEST_F(DocumentTest, ADatabaseThatRefusesTheSourceIsToldAndTheFileIsSaved) {
+    const std::string path = StartChanged();
+    Globals().CurrentR->isNew = true;
+    Database& known = Globals().CompoundDb();
+    known.Execute("delete from SOURCE_REFINFO");
+    known.Execute("create trigger Refuse before insert on SOURCE_REFINFO "
+                  "begin select raise(abort, 'no room'); end");
+    std::string reason;
+    try {
+        RegisterDocument();
+    } catch (const DatabaseError& error) {
+        reason = error.what();
+    }
+    desktop.Expect(reason);
+    Shell().Save();
+    EXPECT_TRUE(Globals().Saved);
+    EXPECT_NE(FileText(path).find("^J#"), std::string::npos);
+    EXPECT_NE(reason.find("no room"), std::string::npos);
+}
+
 /// Damages the index by which compounds are found; the database opens as if nothing were wrong.
 void DamageLookUps(const std::string& path) {
     Database database;

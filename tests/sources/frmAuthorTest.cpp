@@ -6,23 +6,21 @@ namespace {
 
 class frmAuthorTest : public SourceFixture {
 protected:
-    /// The opened of authors, opened without a description behind it.
+    /// The form of authors, opened without a description behind it.
     frmAuthor& Open() {
         auto& authors = forms.Get<frmAuthor>("frmAuthor");
         authors.Show();
         return authors;
     }
-    void Add(frmAuthor& authors, const std::string& last, const std::string& first) {
-        Set(authors.txtLast, last);
-        Set(authors.txtFirst, first);
-        authors.cmdAdd.UserClick();
-    }
-    std::string Rows(const std::string& lastName) const {
+    /// Accepts the description and registers what it holds; the new rows that this makes.
+    std::string RowsMade(frmDocument& document) {
+        document.cmdAccept.UserClick();
+        RegisterDocument();
         std::string text;
-        auto rows = Globals().CompoundDb().Query(
-            "select * from SOURCE_AUTHOR where LASTNM=? order by rowid", {lastName});
+        auto rows =
+            Globals().CompoundDb().Query("select * from SOURCE_AUTHOR where NEW<>0 order by rowid");
         for (; !rows.IsEnd(); rows.MoveNext())
-            text += rows.Text("INITNM") + "/" + rows.Text("FULLNM") + "/" + rows.Text("NEW") + "\n";
+            text += rows.Text("LASTNM") + rows.Text("INITNM") + "/" + rows.Text("FULLNM") + "\n";
         return text;
     }
 };
@@ -81,18 +79,20 @@ TEST_F(frmAuthorTest, AKnownAuthorIsTakenFromTheTable) {
     });
     document.txtAuthors.UserClick();
     EXPECT_EQ(document.txtAuthors.Text(), "Wagner, W.");
-    EXPECT_EQ(Rows("wagner"), "w  /Wagner, W./0\n");
 }
 
 TEST_F(frmAuthorTest, AnAuthorRegisteredHereStaysNewToEveryOtherWorkplace) {
     frmDocument& document = OpenComplete();
+    globals.CompoundDb().Insert(
+        "SOURCE_AUTHOR",
+        {{"LASTNM", "yeast "}, {"INITNM", "q  "}, {"FULLNM", "Yeast,Q."}, {"NEW", true}});
     desktop.ExpectModal("frmAuthor", [](ui::Form& opened) {
         auto& authors = dynamic_cast<frmAuthor&>(opened);
         for (int count = authors.lstAuthors.Count(); count > 0; --count) {
             authors.lstAuthors.UserChoose(0);
             authors.cmdRemove.UserClick();
         }
-        for (const char* name : {"Zymurgist,Q.", "Wagner, W."}) {
+        for (const char* name : {"Yeast,Q.", "Wagner, W."}) {
             Set(authors.txtLast, std::string(name).substr(0, 4));
             authors.cmdVerify.UserClick();
             Choose(authors.cboAuthor, name);
@@ -128,47 +128,41 @@ TEST_F(frmAuthorTest, AChangedNameDropsThePickedOne) {
     Choose(authors.cboAuthor, "Wagner, W.");
     Set(authors.txtLast, "Wagnerova");
     authors.cmdAdd.UserClick();
-    EXPECT_EQ(Rows("wagner"), "w  /Wagner, W./0\nzz /Wagnerova,/1\n");
+    EXPECT_EQ(authors.lstAuthors.Item(0), "Wagnerova,");
 }
 
 TEST_F(frmAuthorTest, NamesakesGetMarksFromOneToNineThenLetters) {
-    frmAuthor& authors = Open();
-    for (int i = 0; i < 11; ++i)
-        Add(authors, "Zymurgist", "Quentin R.");
-    Add(authors, "Zymurgist", "Quentin");
+    frmDocument& document = OpenComplete();
+    Names names(11, {"Zymurgist", "Quentin R."});
+    names.emplace_back("Zymurgist", "Quentin");
+    GiveAuthors(document, names);
     std::string marks;
-    auto rows =
-        globals.CompoundDb().Query("select * from SOURCE_AUTHOR where NEW<>0 order by rowid");
-    for (; !rows.IsEnd(); rows.MoveNext())
-        marks += rows.Text("LASTNM") + rows.Text("INITNM") + ",";
+    for (const auto& author : document.Authors())
+        marks += author->LASTNM + author->INITNM + ",";
     EXPECT_EQ(marks, "zymurgqr ,zymurgqr1,zymurgqr2,zymurgqr3,zymurgqr4,zymurgqr5,zymurgqr6,"
                      "zymurgqr7,zymurgqr8,zymurgqr9,zymurgqrA,zymurgq  ,");
-}
-
-TEST_F(frmAuthorTest, TheMarkStopsAtZ) {
     globals.CompoundDb().Insert("SOURCE_AUTHOR",
                                 {{"LASTNM", "zymurg"}, {"INITNM", "q Z"}, {"FULLNM", "x"}});
-    Add(Open(), "Zymurgist", "Q.");
-    EXPECT_EQ(Rows("zymurg"), "q Z/x/0\nq Z/Zymurgist,Q./1\n");
+    GiveAuthors(document, {{"Zymurgist", "Q."}});
+    EXPECT_EQ(document.Authors()[0]->INITNM, "q Z") << "the last mark";
 }
 
-TEST_F(frmAuthorTest, ADatabaseThatCannotBeWrittenLosesNoAuthor) {
-    frmDocument& document = OpenNew();
+TEST_F(frmAuthorTest, AuthorsAreRegisteredWithTheDocumentAndOnlyOnce) {
+    frmDocument& document = OpenComplete();
+    EXPECT_EQ(RowsMade(document), "zymurgq  /Zymurgist,Q.\nabcdefjp /Ab-Cd Ef,J.P.\n");
+    EXPECT_EQ(RowsMade(document), "zymurgq  /Zymurgist,Q.\nabcdefjp /Ab-Cd Ef,J.P.\n");
+}
+
+TEST_F(frmAuthorTest, ADatabaseThatRefusesAnAuthorTakesNothingOfTheDocument) {
+    frmDocument& document = OpenComplete();
     globals.CompoundDb().Execute("create trigger Refuse before insert on SOURCE_AUTHOR "
                                  "begin select raise(abort, 'no room'); end");
-    desktop.ExpectModal("frmAuthor", [this](ui::Form& opened) {
-        auto& authors = dynamic_cast<frmAuthor&>(opened);
-        Set(authors.txtLast, "Zymurgist");
-        try {
-            globals.CompoundDb().Insert("SOURCE_AUTHOR", {{"LASTNM", "x"}});
-        } catch (const DatabaseError& error) {
-            desktop.Expect(error.what());
-        }
-        authors.cmdAdd.UserClick();
-        authors.cmdFinish.UserClick();
-    });
-    document.txtAuthors.UserClick();
-    EXPECT_EQ(document.txtAuthors.Text(), "Zymurgist,");
+    EXPECT_THROW(RowsMade(document), DatabaseError);
+    EXPECT_EQ(Registered(), "");
+    EXPECT_EQ(globals.recR.Item(1)->recAuthor.Count(), 2U);
+    globals.CompoundDb().Execute("drop trigger Refuse");
+    RegisterDocument();
+    EXPECT_EQ(Registered(), "2011|zym|abc|1|Unpublished|Density of heavy water|\n");
 }
 
 } // namespace

@@ -86,7 +86,7 @@ TEST_F(frmDocumentTest, TypesWithoutDetailsPutTheirOwnText) {
     }
 }
 
-TEST_F(frmDocumentTest, AcceptMakesTheSourceAndRegistersIt) {
+TEST_F(frmDocumentTest, AcceptMakesTheSourceAndASaveRegistersIt) {
     frmDocument& document = OpenComplete();
     EXPECT_EQ(document.txtAuthors.Text(), "Zymurgist,Q.; Ab-Cd Ef,J.P.");
     Set(document.txtAbstract, "one\r\ntwo");
@@ -101,6 +101,8 @@ TEST_F(frmDocumentTest, AcceptMakesTheSourceAndRegistersIt) {
     EXPECT_EQ(source->KEYWORDS, "");
     EXPECT_TRUE(source->isNew);
     EXPECT_EQ(source->recAuthor.Item(2)->AUTHSEQNO, "2");
+    EXPECT_EQ(Registered(), "");
+    RegisterDocument();
     EXPECT_EQ(Registered(), "2011|zym|abc|1|Unpublished|Density of heavy water|\n");
     EXPECT_EQ(Tree(), "2011 zym abc 1\n");
     EXPECT_TRUE(globals.DialogAccepted);
@@ -115,6 +117,7 @@ TEST_F(frmDocumentTest, TheSeparatorOfTheRecordFileIsLeftOutAtOnce) {
     document.cmdAccept.UserClick();
     EXPECT_EQ(globals.recR.Item(1)->SSOURCE, "@Rep@  12@ Inst");
     EXPECT_EQ(globals.recR.Item(1)->TTITLE, "Run  3");
+    RegisterDocument();
     const auto row = globals.CompoundDb().Query("select * from SOURCE_REFINFO where NEW<>0");
     EXPECT_EQ(row.Text("SOURCE") + "/" + row.Text("TITLE"), "@Rep@  12@ Inst/Run  3");
 }
@@ -166,6 +169,7 @@ TEST_F(EditedSource, AcceptedUnchangedStaysTheSame) {
     Choose(fresh.lstSourceDoc, "Other document");
     fresh.cmdAccept.UserClick();
     const std::string before = State(*globals.recR.Item(1));
+    RegisterDocument();
     const std::string row = Registered();
     forms.DropClosed();
     Edit([](frmDocument& document) {
@@ -176,11 +180,14 @@ TEST_F(EditedSource, AcceptedUnchangedStaysTheSame) {
         document.cmdAccept.UserClick();
     });
     EXPECT_EQ(State(*globals.recR.Item(1)), before);
+    RegisterDocument();
     EXPECT_EQ(Registered(), row);
 }
 
-TEST_F(EditedSource, AChangedIdentityMovesItsOwnRow) {
+TEST_F(EditedSource, AChangedIdentityMovesItsOwnRowOnceItIsSaved) {
     OpenComplete().cmdAccept.UserClick();
+    RegisterDocument();
+    const std::string row = Registered();
     forms.DropClosed();
     Edit([this](frmDocument& document) {
         Set(document.txtTitle, "Density of water");
@@ -190,6 +197,8 @@ TEST_F(EditedSource, AChangedIdentityMovesItsOwnRow) {
     });
     EXPECT_EQ(State(*globals.recR.Item(1)),
               "2012 ode & 1|C|O|Unpublished|Density of water|||1 Ode,A.B.");
+    EXPECT_EQ(Registered(), row);
+    RegisterDocument();
     EXPECT_EQ(Registered(), "2012|ode||1|Unpublished|Density of water|\n");
     EXPECT_EQ(Tree(), "2012 ode & 1\n");
 }
