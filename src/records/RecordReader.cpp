@@ -45,6 +45,8 @@ void RegisterNewSources(ReadTalk& talk) {
 void Finish(ReadPurpose purpose, ReadTalk& talk) {
     if (purpose == ReadPurpose::Work) RegisterNewSources(talk);
     for (const auto& source : Globals().recR) {
+        source->TakeKnownCitation();
+        source->TakeOriginOfData();
         source->Synchronize();
         source->CheckPresence();
     }

@@ -128,6 +128,14 @@ void clsR::TakeOrigin(std::string_view answer) {
     if (IsOriginCode(letter)) Stamp(*this);
 }
 
+void clsR::TakeOriginOfData() {
+    if (!IsBlankField(SOURCEDOC)) return;
+    Walk(*this, [this](const Record& record) {
+        const auto* const data = dynamic_cast<const OpenRecord*>(&record);
+        if (data && IsBlankField(SOURCEDOC)) SOURCEDOC = OrPlaceholder(data->Header.SOURCEDOC);
+    });
+}
+
 void clsR::EachChild(const std::function<void(Record&)>& visit) const {
     for (const auto& compound : recL)
         visit(*compound);

@@ -33,7 +33,8 @@ class XmlWriter;
 ///   ^J#TYPDOC#SOURCEDOC#SSOURCE#TTITLE#KEYWORDS#ABSTRACT#NOTE#PRPCLASS#authors#CASCIT#CODEN#ISSN#BULCT
 ///   ^I... one for each author
 ///
-/// ^J and ^I stand only for a source that is new to the reference database.
+/// ^J and ^I stand only for a source that is new to the reference database; of others the database
+/// has citation and title, and the first data header says where the document was taken from.
 ///
 /// YEARPUB has four digits, AUTHOR1 and AUTHOR2 are the first letters of two authors ("&" for no
 /// second one), AUTHORN counts sources that have these three in common, 1 to 9999. TYPDOC is the
@@ -84,6 +85,10 @@ public:
     /// Takes the number that goes with its year and authors, which have changed: the one under
     /// which it is registered with these, else the next free one.
     void Renumber();
+    /// Of a source that the file does not describe, the reference database has citation and title.
+    void TakeKnownCitation();
+    /// Comes from where the first data come from, as long as nothing else is said.
+    void TakeOriginOfData();
     void PrintR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintR(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;

@@ -135,6 +135,14 @@ std::string clsR::LoadJ(std::string_view line) {
            ": Are these sources different?";
 }
 
+void clsR::TakeKnownCitation() {
+    if (isNew || !Globals().CompoundDb().IsOpen()) return;
+    const Recordset known = RowOf(Source());
+    if (known.IsEnd()) return;
+    SSOURCE = known.Text("SOURCE");
+    TTITLE = known.Text("TITLE");
+}
+
 Notice clsR::TakeNextNumber() {
     auto& sources = Globals().recR;
     const auto me = As<clsR>();

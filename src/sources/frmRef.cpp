@@ -103,7 +103,8 @@ void frmRef::FindRows() {
     auto rows = Globals().CompoundDb().Query(statement + " order by rowid", values);
     for (; !rows.IsEnd(); rows.MoveNext())
         rows_.push_back({rows.Text("SOURCE"), rows.Text("TITLE"), rows.Text("YEARPUB"),
-                         rows.Text("AUTHOR1"), rows.Text("AUTHOR2"), rows.Text("AUTHORN")});
+                         rows.Text("AUTHOR1"), rows.Text("AUTHOR2"), rows.Text("AUTHORN"),
+                         rows.Flag("NEW")});
 }
 
 const frmRef::Row* frmRef::ChosenRow() const {
@@ -160,6 +161,8 @@ void frmRef::Store(const Row& row) const {
     source->SSOURCE = row.SOURCE;
     source->TTITLE = row.TITLE;
     source->SOURCEDOC = CodeOfText(SourceKinds, cboSource.Chosen());
+    source->isNew = row.isNew;
+    if (row.isNew) source->RegisteredAs = source->Source();
     source->AttachTo();
 }
 

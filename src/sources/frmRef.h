@@ -8,8 +8,9 @@
 namespace vexora {
 
 /// "Add reference": finds the source of a new document in the reference database, or leads on to
-/// the description of a new one. A source taken from the database is not new, so its description is
-/// neither edited nor printed into the record file.
+/// the description of a new one. A source that came with the database is known everywhere, so its
+/// description is neither edited nor printed into the record file; one that was added here is new
+/// to every other workplace.
 class frmRef : public ChainForm {
 public:
     frmRef();
@@ -31,6 +32,7 @@ public:
 private:
     struct Row {
         std::string SOURCE, TITLE, YEARPUB, AUTHOR1, AUTHOR2, AUTHORN;
+        bool isNew = false; // added by this workplace
     };
 
     void Identification_Change();

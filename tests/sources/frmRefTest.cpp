@@ -70,6 +70,26 @@ TEST_F(frmRefTest, AKnownSourceStartsADocumentThatIsNotNew) {
     EXPECT_TRUE(globals.OpenForms.empty());
 }
 
+TEST_F(frmRefTest, ASourceThatWasAddedHereIsNewAndKeepsItsRow) {
+    globals.CompoundDb().Insert("SOURCE_REFINFO", {{"YEARPUB", 1999},
+                                                   {"AUTHOR1", "zym"},
+                                                   {"AUTHORN", 3},
+                                                   {"SOURCE", "Unpublished"},
+                                                   {"TITLE", "On beer"},
+                                                   {"NEW", true}});
+    frmRef& ref = Open();
+    Identify(ref, "1999", "zym", "");
+    ref.cmdVerify.UserClick();
+    Choose(ref.lstSourceDoc, "Unpublished");
+    Choose(ref.cboSource, "Original document");
+    ref.cmdAccept.UserClick();
+    const auto source = globals.recR.Item(1);
+    EXPECT_TRUE(source->isNew);
+    source->TTITLE = "On ale";
+    RegisterDocument();
+    EXPECT_EQ(Registered(), "1999|zym||3|Unpublished|On ale|\n");
+}
+
 TEST_F(frmRefTest, CreateLeadsOnWithTheYearAndTheChainEndsEmpty) {
     for (const bool advanced : {false, true}) {
         globals.AdvancedMode = advanced;
