@@ -97,7 +97,7 @@ void clsR::ExportR(XmlWriter& xml, const ui::Date& today) const {
     xml.Element("eType", TextOr(DocumentTypes, TYPDOC, "unspecified"));
     xml.Element("eSourceType", TextOr(SourceTypes, SOURCEDOC.empty() ? "&" : SOURCEDOC, "Other"));
     for (const auto& author : recAuthor)
-        xml.ElementIfAny("sAuthor", Transliterate(author->FULLNM));
+        xml.ElementIfAny("sAuthor", Transliterate(author->PrintedName()));
     xml.ElementIfAny("sPubName", Transliterate(PublicationName(SSOURCE)));
     xml.Element("yrPubYr", Trim(YEARPUB));
     xml.Element("dateCit", IsoDate(today));

@@ -12,6 +12,8 @@ namespace vexora {
 namespace {
 
 constexpr std::size_t CodeLength = 6;
+/// Letters even for a name without first names, for authors are looked up by them.
+constexpr std::string_view NoFirstName = "zz";
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -79,13 +81,29 @@ bool IsWrittenOut(std::string_view word) {
 
 } // namespace
 
+std::string clsAuthor::PrintedName() const {
+    const std::string_view name = TrimBlanks(FULLNM);
+    if (!name.empty()) return std::string(name.substr(0, name.find_last_not_of(", ") + 1));
+    std::string codes(TrimBlanks(LASTNM));
+    const std::string initials(TrimBlanks(Substring(INITNM, 1, NoFirstName.size())));
+    if (initials == NoFirstName) return codes;
+    if (!initials.empty()) codes += ",";
+    for (std::size_t at = 0; at < initials.size();) {
+        const std::size_t start = at;
+        NextCodePoint(initials, at);
+        codes += initials.substr(start, at - start) + ".";
+    }
+    return codes;
+}
+
 void clsAuthor::SplitName() {
     if (!LastName.empty()) return;
-    const std::size_t comma = FULLNM.find(',');
-    LastName = TrimBlanks(std::string_view(FULLNM).substr(0, comma));
+    const std::string name = PrintedName();
+    const std::size_t comma = name.find(',');
+    LastName = TrimBlanks(std::string_view(name).substr(0, comma));
     if (comma == std::string::npos) return;
     for (const std::string& word :
-         Split(TrimBlanks(std::string_view(FULLNM).substr(comma + 1)), ' ')) {
+         Split(TrimBlanks(std::string_view(name).substr(comma + 1)), ' ')) {
         // Behind initials it is no first name but a "Jr." or "van".
         const bool isExtension = FirstName.ends_with('.') && IsWrittenOut(word) &&
                                  FirstName.find(']') == std::string::npos;
@@ -100,8 +118,7 @@ void clsAuthor::CreateAbbr() {
     const std::string bracketed = TakeBracketed(firstName);
     const Initials initials = InitialsOf(firstName);
     Extension = bracketed.empty() ? initials.remainder : bracketed;
-    // Letters even for a name without first names, for authors are looked up by them.
-    INITNM = "zz";
+    INITNM = NoFirstName;
     if (!initials.letters.empty())
         INITNM = initials.letters[0] + (initials.letters.size() > 1 ? initials.letters[1] : " ");
     FULLNM = std::string(TrimBlanks(LastName)) + "," + initials.printed;
@@ -130,7 +147,6 @@ Notices clsAuthor::Load(std::string_view line) {
     LASTNM = NextHashField(text);
     INITNM = NextHashField(text);
     FULLNM = Trim(NextHashField(text));
-    // Only the file knows the name of a new one; all others are looked up.
     isNew = !FULLNM.empty();
     if (isNew) return {};
     FULLNM = KnownName().value_or("");
@@ -142,7 +158,7 @@ void clsAuthor::Print(LineWriter& out) const {
     std::string line = "^I";
     for (const std::string& field : {AUTHSEQNO, LASTNM, INITNM})
         line += "#" + Replace(SingleLine(field), "#", " ");
-    out.Line(line + "#" + (isNew ? Replace(SingleLine(Trim(FULLNM)), "#", " ") : ""));
+    out.Line(line + "#" + Replace(SingleLine(Trim(FULLNM)), "#", " "));
 }
 
 } // namespace vexora

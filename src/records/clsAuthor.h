@@ -16,7 +16,8 @@ class clsR;
 ///
 ///   ^I#AUTHSEQNO#LASTNM#INITNM#[FULLNM]
 ///
-/// FULLNM stands in the line only when the author is new; else it is looked up in SOURCE_AUTHOR.
+/// FULLNM stands in the line whenever it is known, so that the document reads alike everywhere;
+/// only for a line without it SOURCE_AUTHOR is asked.
 class clsAuthor : public Record {
 public:
     /// Key of the author in the list of the source: the first author is the one cited.
@@ -27,11 +28,14 @@ public:
     /// "Last,F.M." without blanks.
     std::string FULLNM;                         // name as printed
     std::string LastName, FirstName, Extension; // as typed
-    bool isNew = false;                         // not in SOURCE_AUTHOR yet
+    bool isNew = false; // not known to be in SOURCE_AUTHOR: to be added there with the document
 
     /// Derives LASTNM, INITNM (two characters) and FULLNM from the typed parts.
     void CreateAbbr();
-    /// Fills LastName and FirstName from FULLNM when nothing was typed, so that CreateAbbr gives
+    /// The name for lists and export: FULLNM, or of an author whose name is known nowhere what the
+    /// codes tell of it.
+    std::string PrintedName() const;
+    /// Fills LastName and FirstName from the name when nothing was typed, so that CreateAbbr gives
     /// the name back in this system's spelling.
     void SplitName();
     /// FULLNM of the row with these codes in SOURCE_AUTHOR; nothing when there is none or no

@@ -31,11 +31,8 @@ std::string Counted(std::size_t count, const std::string& one, const std::string
 
 std::string AuthorsOf(const clsR& source) {
     std::string text;
-    for (const auto& author : source.recAuthor) {
-        if (!text.empty()) text += "; ";
-        const bool named = !IsBlankField(author->FULLNM);
-        text += named ? author->FULLNM : std::string(TrimBlanks(author->LASTNM));
-    }
+    for (const auto& author : source.recAuthor)
+        text += (text.empty() ? "" : "; ") + author->PrintedName();
     return text;
 }
 

@@ -283,7 +283,7 @@ void frmAuthor::ListChanged(int selected) {
 void frmAuthor::ShowList(int selected) {
     std::vector<std::string> names;
     for (const auto& author : recAuthor_)
-        names.emplace_back(TrimBlanks(author->FULLNM));
+        names.push_back(author->PrintedName());
     lstAuthors.Assign(std::move(names));
     lstAuthors.Index(selected);
     EnableButtons();

@@ -138,7 +138,7 @@ void frmDocument::Authors(const std::vector<std::shared_ptr<clsAuthor>>& authors
 void frmDocument::ShowAuthors() {
     std::string names;
     for (const auto& author : authors_)
-        names += (names.empty() ? "" : "; ") + std::string(TrimBlanks(author->FULLNM));
+        names += (names.empty() ? "" : "; ") + author->PrintedName();
     txtAuthors.Text(names.empty() ? AuthorsPrompt : names);
 }
 

@@ -175,6 +175,15 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
                            "T is no unit of K\n");
 }
 
+TEST_F(CommandLine, AnAuthorKnownNowhereIsNamedAndLeavesByHisCodes) {
+    folder.Write("doc.txt", kDocument + "^I#2#nobody#xy1#\n");
+    const std::string told = "doc.txt:8: warning: Undefined author nobodyxy1:\n";
+    EXPECT_EQ(Run("check doc.txt").err, told);
+    const Outcome exported = Run("export doc.txt");
+    EXPECT_EQ(exported.err, told);
+    EXPECT_NE(exported.out.find("<sAuthor>nobody,x.y.</sAuthor>"), std::string::npos);
+}
+
 TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {
     const std::string local = Read("VXRLocal.mdb");
     const std::string compounds = Read("VXR.mdb");

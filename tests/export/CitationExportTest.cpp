@@ -54,6 +54,17 @@ TEST_F(CitationExport, ADocumentWithoutDataIsFrameCitationAndCompounds) {
 )");
 }
 
+TEST_F(CitationExport, EveryAuthorLeavesByTheNameOfTheDocumentAboveAll) {
+    desktop.Expect("Undefined author nobodyxy1:");
+    desktop.Expect("Undefined author noonezz :");
+    desktop.Expect("Undefined author smithx :");
+    EXPECT_EQ(Line(Citation("^J#J#O#S##\n^I#1#nobody#xy1#\n^I#2#noone#zz #\n^I#3#smith#x #\n"
+                            "^I#4#wagner#w  #\n^I#5#wagner#w  #Wagner,Wolfgang\n"),
+                   "sAuthor"),
+              "<sAuthor>nobody,x.y.</sAuthor><sAuthor>noone</sAuthor><sAuthor>smith,x.</sAuthor>"
+              "<sAuthor>Wagner, W.</sAuthor><sAuthor>Wagner,Wolfgang</sAuthor>");
+}
+
 TEST_F(CitationExport, TypesFollowTheLettersOfTheDocument) {
     const std::string types[][2] = {{"B", "book"},
                                     {"J", "journal"},

@@ -14,7 +14,7 @@ TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
         "\n^R 2031 mue & 12\n"
         "^J#S#O#J. Nowhere, ab-123#A title#a, b;c#Abstract.#note#P#2#c1#CODEN#0021-9568#b\n"
         "^I#1#muelle#ab1#Mueller,A.B.\n"
-        "^I#2#wagner#w  #\n"
+        "^I#2#wagner#w  #Wagner, W.\n"
         "^L 7732185 DNNNN P\n"
         "^S 1 cm,99m%,gc;(frozen twice, dried);99.95m%,gc,99.9w%,(by us)\n"
         "^A read_twice O A 3 AB CD 12/25/2004 sealed  cell ::Method:X:later:UFactor:2.5:dTC:0.01:\n"

@@ -128,7 +128,7 @@ TEST_F(frmAuthorTest, AChangedNameDropsThePickedOne) {
     Choose(authors.cboAuthor, "Wagner, W.");
     Set(authors.txtLast, "Wagnerova");
     authors.cmdAdd.UserClick();
-    EXPECT_EQ(authors.lstAuthors.Item(0), "Wagnerova,");
+    EXPECT_EQ(authors.lstAuthors.Item(0), "Wagnerova");
 }
 
 TEST_F(frmAuthorTest, NamesakesGetMarksFromOneToNineThenLetters) {
