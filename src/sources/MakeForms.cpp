@@ -1,178 +1,84 @@
 #include "sources/MakeForms.h"
 
-#include <functional>
+#include <algorithm>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
 #include "reference/Text.h"
-#include "sources/EntryFields.h"
-#include "sources/frmDocument.h"
+#include "sources/MakeForm.h"
 
 namespace vexora {
 
 namespace {
 
-constexpr std::string_view Marks = "@$"; // they part a source text
-
-/// The text with marks around it, "" for an empty text.
-std::string PartText(std::string_view before, std::string_view text, std::string_view behind = {}) {
-    if (text.empty()) return {};
-    return std::string(before) + std::string(text) + std::string(behind);
+bool HasFigures(std::string_view text) {
+    return text.find_first_of("0123456789") != text.npos;
 }
-
-std::string WithoutMarks(std::string_view text) {
-    return Replace(Replace(text, "@", ""), "$", "");
-}
-
-/// Takes a source text apart from its beginning.
-class SourceReader {
-public:
-    explicit SourceReader(std::string_view text) : rest_(text) {}
-
-    bool AtEnd() const { return rest_.empty(); }
-    bool Holds(std::string_view text) const { return rest_.find(text) != std::string::npos; }
-
-    /// The text between two marks if it stands here.
-    std::string Marked(char mark) {
-        if (!rest_.starts_with(mark) || rest_.find(mark, 1) == std::string::npos) return {};
-        rest_.erase(0, 1);
-        return UpTo(std::string(1, mark));
-    }
-
-    /// Passes over a text if it stands here.
-    bool Skip(std::string_view text) {
-        if (!rest_.starts_with(text)) return false;
-        rest_.erase(0, text.size());
-        return true;
-    }
-
-    /// What stands in front of the first `end`, which is passed over; everything if there is none.
-    std::string UpTo(std::string_view end) { return Cut(rest_.find(end), end.size()); }
-    /// What stands in front of the last `end`, or everything; the reader keeps what is behind it.
-    std::string UpToLast(std::string_view end) { return Cut(rest_.rfind(end), end.size()); }
-    std::string Rest() { return Cut(std::string::npos, 0); }
-
-private:
-    std::string Cut(std::size_t length, std::size_t passedOver) {
-        std::string text = rest_.substr(0, length);
-        rest_.erase(0, length == std::string::npos ? length : length + passedOver);
-        return text;
-    }
-
-    std::string rest_;
-};
-
-/// What these forms have in common. The fields stand below one another in their order of
-/// declaration.
-class MakeForm : public ui::Form {
-public:
-    void Load() override {
-        Arrange();
-        const ui::FillingScope filling(*this);
-        Prepare();
-        const std::string source = Document() ? Document()->Source() : "";
-        if (!source.empty()) TakeApart(SourceReader(source));
-    }
-
-protected:
-    /// What stands before and behind a part in the source text.
-    struct Frame {
-        std::string_view before, behind;
-    };
-
-    /// A field for one part; the marks of the source text are kept out of it. One that has to be
-    /// filled says what is missing.
-    class Part : public PlainTextBox {
-    public:
-        Part(MakeForm& form, std::string name, const std::string& label, Frame frame = {},
-             std::string missing = {})
-            : PlainTextBox(form, std::move(name), Lines::One, Marks) {
-            form.Ask(*this, ui::Field(label, *this), frame, std::move(missing));
-        }
-    };
-
-    /// A list for a part that has to be chosen or typed.
-    class Choice : public CompletingCombo {
-    public:
-        Choice(MakeForm& form, std::string name, const std::string& label, std::string missing,
-               std::string prompt, std::string table, std::string column)
-            : CompletingCombo(form, std::move(name), std::move(prompt), std::move(table),
-                              std::move(column)) {
-            form.Ask(*this, ui::Field(label, *this), {", ", ""}, std::move(missing));
-        }
-    };
-
-    struct Asked {
-        ui::Layout layout;
-        ui::Control* field = nullptr;
-        std::function<std::string()> entered = {};
-        Frame frame = {};
-        std::string missing = {};
-    };
-
-    MakeForm(std::string name, std::string caption) : Form(std::move(name), std::move(caption)) {
-        PreferredColumns = 60;
-        UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
-    }
-
-    /// Fills lists before the parts are shown.
-    virtual void Prepare() {}
-    /// The source text, here one part behind the other.
-    virtual std::string Compose() const {
-        std::string text;
-        for (const Asked& one : asked_) {
-            if (!one.entered) continue;
-            const std::string entered = WithoutMarks(one.entered());
-            text += PartText(one.frame.before, entered, one.frame.behind);
-        }
-        return text;
-    }
-    /// Fills the fields from a text that Compose may have built, as far as it can be taken apart.
-    virtual void TakeApart(SourceReader reader) = 0;
-
-    bool IsManuscript() const { return Document() && Document()->IsManuscript(); }
-
-    std::vector<Asked> asked_;
-
-private:
-    template <class Field>
-    void Ask(Field& field, ui::Layout layout, Frame frame, std::string missing) {
-        asked_.push_back({std::move(layout), &field, [&field] { return field.Entered(); }, frame,
-                          std::move(missing)});
-    }
-
-    void Arrange() {
-        for (Asked& one : asked_)
-            Arrangement.parts.push_back(one.layout);
-        Arrangement.parts.push_back(ui::Stretch());
-        Arrangement.parts.push_back(ui::ButtonRow({cmdAccept, cmdCancel}));
-        TabAlongArrangement();
-    }
-
-    void Accept() {
-        for (const Asked& one : asked_) {
-            if (one.missing.empty() || !one.entered().empty()) continue;
-            Refuse(*one.field, one.missing);
-            return;
-        }
-        if (Document()) Document()->Source(Compose());
-        Close();
-    }
-
-    /// The description of the document below this form, or null.
-    static frmDocument* Document() { return ui::Forms::Current().Find<frmDocument>("frmDocument"); }
-
-    ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
-    ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
-};
 
 /// The last two parts are a text and a date, and one may be missing; only a date has figures.
 void TakeTextAndDate(SourceReader& reader, ui::TextBox& text, ui::TextBox& date) {
     const std::string first = reader.UpToLast(", ");
-    const bool dateAlone = reader.AtEnd() && first.find_first_of("0123456789") != first.npos;
+    const bool dateAlone = reader.AtEnd() && HasFigures(first);
     text.Text(dateAlone ? "" : first);
     date.Text(dateAlone ? first : reader.Rest());
 }
+
+/// What follows the title of a book, in pieces between commas. A part may hold commas of its own,
+/// so it is told from the next one by the words that stand with them, which come in this order.
+class BookParts {
+public:
+    explicit BookParts(std::string_view text) : pieces_(Split(Replace(text, ", ", "\n"), '\n')) {}
+
+    std::string TakeEdition() {
+        constexpr std::string_view behind = " ed.";
+        const auto isLast = [](const std::string& piece) { return piece.ends_with(behind); };
+        // A publisher is always left.
+        const auto last = std::find_if(pieces_.begin(), pieces_.end() - 1, isLast);
+        if (last == pieces_.end() - 1) return {};
+        const std::string text = Take(static_cast<std::size_t>(last - pieces_.begin()) + 1);
+        return text.substr(0, text.size() - behind.size());
+    }
+    /// A part with its label, up to the first piece that begins with one of the next labels. The
+    /// last such part goes on as long as there are figures, for no word parts it from the names
+    /// behind.
+    std::string TakeLabelled(std::string_view label, std::initializer_list<std::string_view> next) {
+        if (!pieces_.front().starts_with(label)) return {};
+        std::size_t count = 1;
+        while (count < pieces_.size() && !BeginsWithOne(pieces_[count], next))
+            ++count;
+        if (count == pieces_.size()) {
+            count = 1;
+            while (count + 1 < pieces_.size() && HasFigures(pieces_[count]))
+                ++count;
+        }
+        return Take(count).substr(label.size());
+    }
+    std::string TakeEditor() {
+        const auto mark = std::find(pieces_.begin(), pieces_.end(), "Ed.");
+        if (mark == pieces_.end() || mark == pieces_.begin()) return {};
+        const std::string text = Take(static_cast<std::size_t>(mark - pieces_.begin()));
+        Take(1);
+        return text;
+    }
+    std::string Rest() { return Take(pieces_.size()); }
+
+private:
+    static bool BeginsWithOne(std::string_view piece,
+                              std::initializer_list<std::string_view> labels) {
+        return std::any_of(labels.begin(), labels.end(),
+                           [piece](std::string_view label) { return piece.starts_with(label); });
+    }
+    std::string Take(std::size_t count) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i)
+            text += (i == 0 ? "" : ", ") + pieces_[i];
+        pieces_.erase(pieces_.begin(), pieces_.begin() + static_cast<std::ptrdiff_t>(count));
+        if (pieces_.empty()) pieces_.emplace_back();
+        return text;
+    }
+
+    std::vector<std::string> pieces_; // never none
+};
 
 class frmMakeBook : public MakeForm {
 public:
@@ -198,30 +104,13 @@ private:
     void TakeApart(SourceReader reader) override {
         title_.Text(reader.Marked('@'));
         reader.Skip(", ");
-        std::string unmarked; // parts that bear no word of their own: editors, then the publisher
-        while (!reader.AtEnd()) {
-            const std::string part = reader.UpTo(", ");
-            if (part == "Ed.")
-                editor_.Text(std::exchange(unmarked, {}));
-            else if (!TakeLabelled(part))
-                unmarked += PartText(unmarked.empty() ? "" : ", ", part);
-        }
-        publisher_.Enter(unmarked);
-    }
-
-    bool TakeLabelled(const std::string& part) {
-        if (part.ends_with(" ed.") && edition_.IsEmpty()) {
-            edition_.Text(part.substr(0, part.size() - 4));
-            return true;
-        }
-        const std::pair<std::string_view, Part*> labelled[] = {
-            {"Vol. ", &volume_}, {"Ch. ", &chapter_}, {"Pg. ", &pages_}};
-        for (const auto& [label, field] : labelled) {
-            if (!part.starts_with(label) || !field->IsEmpty()) continue;
-            field->Text(part.substr(label.size()));
-            return true;
-        }
-        return false;
+        BookParts parts(reader.Rest());
+        edition_.Text(parts.TakeEdition());
+        volume_.Text(parts.TakeLabelled("Vol. ", {"Ch. ", "Pg. "}));
+        chapter_.Text(parts.TakeLabelled("Ch. ", {"Pg. "}));
+        pages_.Text(parts.TakeLabelled("Pg. ", {}));
+        editor_.Text(parts.TakeEditor());
+        publisher_.Enter(parts.Rest());
     }
 };
 
@@ -313,10 +202,18 @@ private:
     }
 };
 
+constexpr std::string_view Thesis = " Thesis";
+constexpr std::string_view Dissertation = " Dissertation";
+
 class frmMakeThesis : public MakeForm {
 public:
     frmMakeThesis() : MakeForm("frmMakeThesis", "Thesis/Dissertation") {
-        asked_.insert(asked_.begin() + 1, Asked{ui::Row({optT_, optD_})});
+        asked_.insert(asked_.begin() + 1,
+                      Asked{ui::Row({optT_, optD_}), nullptr,
+                            [this] { return std::string(optD_.Value() ? Dissertation : Thesis); },
+                            [this](const std::string& kind) {
+                                (kind == Thesis ? optT_ : optD_).Value(true);
+                            }});
         optT_.Value(true);
     }
 
@@ -328,13 +225,13 @@ private:
     Part location_{*this, "txtLoc", "Location:"};
 
     std::string Compose() const override {
-        return degree_.Entered() + (optD_.Value() ? " Dissertation" : " Thesis") +
+        return degree_.Entered() + std::string(optD_.Value() ? Dissertation : Thesis) +
                PartText(", ", institution_.Entered()) + PartText(", ", location_.Entered());
     }
 
     void TakeApart(SourceReader reader) override {
-        const bool isThesis = reader.Holds(" Thesis");
-        degree_.Text(reader.UpTo(isThesis ? " Thesis" : " Dissertation"));
+        const bool isThesis = reader.IsBefore(Thesis, Dissertation);
+        degree_.Text(reader.UpTo(isThesis ? Thesis : Dissertation));
         (isThesis ? optT_ : optD_).Value(true);
         reader.Skip(", ");
         institution_.Text(reader.UpTo(", "));

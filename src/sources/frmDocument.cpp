@@ -125,6 +125,16 @@ void frmDocument::Source(const std::string& text) {
     txtSource.Text(text.empty() ? SourcePrompt : text);
 }
 
+const std::vector<std::string>* frmDocument::Parts(const std::string& form,
+                                                   const std::string& text) const {
+    const auto found = parts_.find({form, text});
+    return found == parts_.end() ? nullptr : &found->second;
+}
+
+void frmDocument::KeepParts(const std::string& form, const std::vector<std::string>& parts) {
+    parts_[{form, txtSource.Text()}] = parts;
+}
+
 bool frmDocument::IsManuscript() const {
     const DocumentType* type = TypeAt(cboTypeDoc.Index());
     return type != nullptr && type->code == "S";

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "globals/FormChain.h"
@@ -42,6 +44,10 @@ public:
     std::string Source() const;
     /// Takes the text that a detail form has built.
     void Source(const std::string& text);
+    /// The parts from which a detail form has built this text, or null when it did not.
+    const std::vector<std::string>* Parts(const std::string& form, const std::string& text) const;
+    /// Keeps them for the present text.
+    void KeepParts(const std::string& form, const std::vector<std::string>& parts);
     /// The chosen type is a manuscript that is not printed yet.
     bool IsManuscript() const;
     const std::vector<std::shared_ptr<clsAuthor>>& Authors() const { return authors_; }
@@ -71,6 +77,7 @@ private:
     std::string ChosenSourceKind(const std::string& before) const;
 
     std::vector<std::shared_ptr<clsAuthor>> authors_;
+    std::map<std::pair<std::string, std::string>, std::vector<std::string>> parts_; // by form, text
     std::string code1_; // of the first author: three lower-case letters at most
     std::string code2_; // of the second, "&" when there is none
     int type_ = 0;      // entry of cboTypeDoc for which txtSource was filled
