@@ -23,14 +23,20 @@ void LeadOn(std::string_view opener, std::string_view next) {
         form->Close();
 }
 
+void LeadOnAndWait(std::string_view opener, std::string_view next) {
+    OpenInChain(opener, next);
+    if (ui::Form* form = ui::Forms::Current().Find(opener)) form->Hide();
+}
+
 void CloseForm() {
     KVOGlobal& globals = Globals();
     if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;
     const std::string opener = globals.OpenForms.back();
     globals.OpenForms.pop_back();
     const bool editing = globals.EditReaction || globals.EditChanged || globals.EditEquilibrium;
-    if (opener != "frmMain" && globals.AdvancedMode && !editing) {
-        if (ui::Form* form = ui::Forms::Current().Find(opener)) form->Show();
+    if (opener != "frmMain" && !editing) {
+        ui::Form* form = ui::Forms::Current().Find(opener);
+        if (form && (globals.AdvancedMode || !form->IsVisible())) form->Show();
     }
     if (!globals.OpenForms.empty()) return;
     if (ui::Form* shell = ui::Forms::Current().Find("frmMain")) shell->Activate();

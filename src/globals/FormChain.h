@@ -16,8 +16,12 @@ void OpenInChain(std::string_view opener, std::string_view dialog);
 /// A dialog leads on to the next: the next opens, and the opener hides (advanced mode) or closes.
 void LeadOn(std::string_view opener, std::string_view next);
 
+/// The same from a form that the user may want to come back to: it hides in both modes.
+void LeadOnAndWait(std::string_view opener, std::string_view next);
+
 /// The closing step of a dialog in the chain; called from its Unload. It does nothing while a
-/// record is edited in place. When the chain becomes empty the main form runs its activation step.
+/// record is edited in place. An opener that has hidden is shown again. When the chain becomes
+/// empty the main form runs its activation step.
 void CloseForm();
 
 /// A dialog that is always a link of the chain.

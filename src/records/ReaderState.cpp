@@ -56,7 +56,8 @@ void ReadDescription(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
     if (!source) return state.AbandonIncomplete(line);
     const std::string question = source->LoadJ(line);
-    if (!question.empty() && state.talk.Confirm(question)) state.Tell({source->TakeNextNumber()});
+    source->toSettle = !question.empty() && !state.talk.Confirm(question);
+    if (!question.empty() && !source->toSettle) state.Tell({source->TakeNextNumber()});
     source->Synchronize();
 }
 

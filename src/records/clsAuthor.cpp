@@ -121,7 +121,8 @@ void clsAuthor::CreateAbbr() {
     INITNM = NoFirstName;
     if (!initials.letters.empty())
         INITNM = initials.letters[0] + (initials.letters.size() > 1 ? initials.letters[1] : " ");
-    FULLNM = std::string(TrimBlanks(LastName)) + "," + initials.printed;
+    FULLNM = TrimBlanks(LastName);
+    if (!initials.printed.empty()) FULLNM += "," + initials.printed;
     if (!bracketed.empty()) FULLNM += " " + bracketed;
 }
 

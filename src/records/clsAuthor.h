@@ -25,7 +25,7 @@ public:
     /// Both codes are looked up without trailing blanks, which a database may have cut.
     std::string LASTNM; // six letters of the last name, padded with blanks
     std::string INITNM; // two initials and a mark that keeps namesakes apart
-    /// "Last,F.M." without blanks.
+    /// "Last,F.M." without blanks, "Last" without initials.
     std::string FULLNM;                         // name as printed
     std::string LastName, FirstName, Extension; // as typed
     bool isNew = false; // not known to be in SOURCE_AUTHOR: to be added there with the document

@@ -56,6 +56,7 @@ public:
     std::string TYPDOC, SOURCEDOC = "&", SSOURCE, TTITLE, KEYWORDS, ABSTRACT, NOTE, PRPCLASS,
                         CASCIT, CODEN, ISSN, BULCT;
     bool toRegister = false; // read from a file and not in the reference database yet
+    bool toSettle = false;   // stands there with another text, which is to become that of the file
     /// Its identity in the reference database, "" while it stands not there. An edited source keeps
     /// it until it is saved.
     std::string RegisteredAs;
@@ -130,7 +131,8 @@ int NextAuthorNumber(std::string_view year, std::string_view author1, std::strin
 /// sources of the first, whoever wrote them with him.
 int NextNumberOfNewSource(std::string_view year, std::string_view author1,
                           std::string_view author2);
-/// Adds the sources that a read has found new to SOURCE_REFINFO with NEW set, all or none.
+/// Adds the sources that a read has found new to SOURCE_REFINFO with NEW set, and writes the text
+/// of those that are to be settled into their rows, all or nothing.
 void RegisterReadSources();
 /// Brings SOURCE_REFINFO and SOURCE_AUTHOR in line with the new sources of the saved document and
 /// their authors, all or nothing: a row made here goes along with its source, one that came with

@@ -87,6 +87,14 @@ void Add(const clsR& source, Changes& changes) {
     changes.Begin().Insert("SOURCE_REFINFO", fields);
 }
 
+void Settle(const clsR& source, Changes& changes) {
+    const Recordset row = RowOf(source.Source());
+    if (row.IsEnd()) return;
+    SqlAssignments text{{"SOURCE", source.SSOURCE}};
+    if (!source.TTITLE.empty()) text.emplace_back("TITLE", source.TTITLE);
+    changes.Begin().Update("SOURCE_REFINFO", row.Integer("PLACE"), text);
+}
+
 void Register(const clsR& source, Changes& changes) {
     const Recordset own = RowOf(source.RegisteredAs);
     if (own.IsEnd() || !own.Flag("NEW")) {
@@ -189,11 +197,15 @@ int NextNumberOfNewSource(std::string_view year, std::string_view author1,
 
 void RegisterReadSources() {
     Changes changes;
-    for (const auto& source : Globals().recR)
+    for (const auto& source : Globals().recR) {
         if (source->toRegister) Add(*source, changes);
+        if (source->toSettle) Settle(*source, changes);
+    }
     changes.Commit();
-    for (const auto& source : Globals().recR)
+    for (const auto& source : Globals().recR) {
         if (std::exchange(source->toRegister, false)) source->RegisteredAs = source->Source();
+        source->toSettle = false;
+    }
 }
 
 void RegisterDocument() {

@@ -99,9 +99,14 @@ void frmDocument::FillType(const clsR& source) {
 
 void frmDocument::cboTypeDoc_Click() {
     if (Filling || cboTypeDoc.Index() == type_) return;
+    sources_[type_] = Source();
     type_ = cboTypeDoc.Index();
+    const auto kept = sources_.find(type_);
+    if (kept != sources_.end()) return Source(kept->second);
     const bool personal = cboTypeDoc.Chosen() == PersonalCommunication;
-    txtSource.Text(personal ? std::string(PersonalCommunication) : SourcePrompt);
+    // A text that came without a type, as the reference database has it, goes with whichever is
+    // chosen.
+    Source(personal ? std::string(PersonalCommunication) : sources_[0]);
 }
 
 void frmDocument::txtSource_Click() {

@@ -78,9 +78,10 @@ private:
 
     std::vector<std::shared_ptr<clsAuthor>> authors_;
     std::map<std::pair<std::string, std::string>, std::vector<std::string>> parts_; // by form, text
-    std::string code1_; // of the first author: three lower-case letters at most
-    std::string code2_; // of the second, "&" when there is none
-    int type_ = 0;      // entry of cboTypeDoc for which txtSource was filled
+    std::string code1_;                  // of the first author: three lower-case letters at most
+    std::string code2_;                  // of the second, "&" when there is none
+    int type_ = 0;                       // entry of cboTypeDoc for which txtSource was filled
+    std::map<int, std::string> sources_; // source texts of the types left, by entry
 };
 
 } // namespace vexora

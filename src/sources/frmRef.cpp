@@ -63,7 +63,7 @@ void frmRef::Load() {
 
 void frmRef::Activate() {
     // Shown again behind a description that was accepted: there is nothing left to look for.
-    if (!Globals().recR.IsEmpty()) Close();
+    if (Globals().DialogAccepted) Close();
 }
 
 void frmRef::Identification_Change() {
@@ -176,7 +176,7 @@ void frmRef::cmdAccept_Click() {
 
 void frmRef::cmdCreate_Click() {
     const std::string year = txtYear.Text();
-    LeadOn("frmRef", "frmDocument");
+    LeadOnAndWait("frmRef", "frmDocument");
     if (auto* document = ui::Forms::Current().Find<frmDocument>("frmDocument"))
         document->txtYear.Text(year);
 }
