@@ -27,7 +27,8 @@ public:
     virtual bool Confirm(const std::string& question) = 0;
 };
 
-/// Work adds sources that the reference database lacks to it; Look leaves it as it is.
+/// Work adds sources that the reference database lacks to it and settles their texts there; Look
+/// leaves it as it is.
 /// A look (check, tree, export by command) must leave no trace in the database of the workplace.
 enum class ReadPurpose { Work, Look };
 
