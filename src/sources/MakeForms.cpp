@@ -30,7 +30,7 @@ public:
     explicit BookParts(std::string_view text) : pieces_(Split(Replace(text, ", ", "\n"), '\n')) {}
 
     std::string TakeEdition() {
-        constexpr std::string_view behind = " ed.";
+        static constexpr std::string_view behind = " ed.";
         const auto isLast = [](const std::string& piece) { return piece.ends_with(behind); };
         // A publisher is always left.
         const auto last = std::find_if(pieces_.begin(), pieces_.end() - 1, isLast);
@@ -56,7 +56,7 @@ public:
     std::string TakeEditor() {
         const auto mark = std::find(pieces_.begin(), pieces_.end(), "Ed.");
         if (mark == pieces_.end() || mark == pieces_.begin()) return {};
-        const std::string text = Take(static_cast<std::size_t>(mark - pieces_.begin()));
+        std::string text = Take(static_cast<std::size_t>(mark - pieces_.begin()));
         Take(1);
         return text;
     }
