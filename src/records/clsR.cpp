@@ -98,6 +98,8 @@ void clsR::PrintR(LineWriter& out) const {
     out.Fields({"^R", YEARPUB, AUTHOR1, AUTHOR2}, AUTHORN);
     // Of a known source the database has all this, and its text may be better by now.
     if (isNew) PrintDescription(out);
+    for (const auto& author : recAuthor)
+        author->Print(out);
 }
 
 void clsR::PrintDescription(LineWriter& out) const {
@@ -107,8 +109,6 @@ void clsR::PrintDescription(LineWriter& out) const {
           std::to_string(recAuthor.Count()), CASCIT, CODEN, ISSN, BULCT})
         line += "#" + HashField(field);
     out.Line(line);
-    for (const auto& author : recAuthor)
-        author->Print(out);
 }
 
 std::string clsR::QuestionOfOrigin() const {

@@ -33,8 +33,8 @@ class XmlWriter;
 ///   ^J#TYPDOC#SOURCEDOC#SSOURCE#TTITLE#KEYWORDS#ABSTRACT#NOTE#PRPCLASS#authors#CASCIT#CODEN#ISSN#BULCT
 ///   ^I... one for each author
 ///
-/// ^J and ^I stand only for a source that is new to the reference database; of others the database
-/// has citation and title, and the first data header says where the document was taken from.
+/// ^J stands only for a source that is new to the reference database; of others the database has
+/// citation and title, and the first data header says where the document was taken from.
 ///
 /// YEARPUB has four digits, AUTHOR1 and AUTHOR2 are the first letters of two authors ("&" for no
 /// second one), AUTHORN counts sources that have these three in common, 1 to 9999. TYPDOC is the

@@ -98,6 +98,15 @@ TEST_F(Sources, TheSourceOfTheDocumentIsAskedUntilItIsKnown) {
     DocumentAsRecords();
 }
 
+TEST_F(Sources, WhatTheDataHeaderAndTheAuthorsOfAKnownSourceSayIsKept) {
+    ReadDocument("^R 1996 spa wag 1\n^I#1#span  #r  #Span,R.\n^L 7732185 NNNNN &\n^S 1 ns\n"
+                 "^A & & & & & & & &\n^z 1 TC S 1 L G & 647 & & &\n"
+                 "^A & X & & & & & &\n^z 1 TC S 2 L G & 647 & & &\n");
+    EXPECT_EQ(globals.recR.Item(std::size_t{1})->SOURCEDOC, "X");
+    EXPECT_TRUE(
+        DocumentAsRecords().starts_with("\n^R 1996 spa wag 1\n^I#1#span  #r  #Span,R.\n^L"));
+}
+
 TEST_F(Sources, LettersOfCompoundsAndSourceFollowTheData) {
     ReadDocument("^R 2031 qqq & 1\n^L 7732185 NDDD xyz\n^S 1 ns\n"
                  "^z 1 TC S 1 L G & 647 & & &\n^f 1 VDN S 1 L 298 S 997 & & &\n"
