@@ -12,12 +12,10 @@ namespace {
 
 using Kind = TableColumn::Kind;
 
-/// A value as typed; one that was stored with other digits than its text has shows those.
+/// A value as it is kept, exponent and all; one that has fewer digits than are stated shows zeros
+/// for the rest. A converted value keeps more than were typed, and none of it is hidden.
 std::string Shown(const std::string& value, int digits, bool isDigit) {
-    // A text with as many digits as are stated is shown as typed, exponent and all.
-    if (!isDigit || digits <= 0 || !IsNumeric(value) || SignificantDigits(value) == digits) {
-        return value;
-    }
+    if (!isDigit || !IsNumeric(value) || SignificantDigits(value) >= digits) return value;
     return FormatDigits(value, digits);
 }
 
@@ -214,10 +212,10 @@ void TableColumns::Store(clsData& row, int at, const std::string& cell) const {
     }
 }
 
-/// What was typed stays behind what its digits let show.
+/// A cell that nobody has typed into leaves the text of the record as it is.
 void TableColumns::StoreValue(clsData& row, int at, const std::string& cell) const {
     const int item = (*this)[at].item;
-    // Nobody has typed into the cell: the record keeps more digits than it shows.
+    // The zeros that the cell may show are no part of the text.
     const bool asShown = !cell.empty() && CellOf(row, at) == cell;
     if (!asShown) row.Values.at(static_cast<std::size_t>(item)) = cell;
     if (Find(Kind::Digits, item) >= 0) return; // the count comes with its own cell

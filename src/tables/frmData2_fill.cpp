@@ -53,6 +53,9 @@ void frmData2::TakeRows() {
     adjusted_->isOriginalUnit = true;
     adjusted_->AdjustUnits();
     rows_ = adjusted_->recData;
+    // A converted text no longer tells how many of its digits were measured.
+    const auto isDigit = [](const clsData& row) { return row.isDigit; };
+    if (std::any_of(rows_.begin(), rows_.end(), isDigit)) Globals().IncludeDigits = true;
     set_->UX = adjusted_->UX;
     table_.Blocks().Tell({{0, "Rows in the units of the paper were brought to system units"}});
 }

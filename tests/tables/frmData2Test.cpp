@@ -153,11 +153,12 @@ TEST_F(frmData2Test, MixedRowsAreEditedInSystemUnits) {
     AddRow("25.0", "997.0", true);
     AddRow("310.0", "993.0", false);
     OpenTable();
-    EXPECT_EQ(form_->tblData.Cell(1, 0), "298.2");
+    EXPECT_EQ(form_->tblData.Cell(1, 0), "298.15");
     EXPECT_FALSE(form_->lblNotice.Caption().empty());
     EXPECT_EQ(set->recData.Item(1)->VARIABLE(1), "25.0");
     Accept();
-    EXPECT_EQ(Rows(), "298.2 997.0 0.1;310.0 993.0 0.1;");
+    EXPECT_EQ(Rows(), "298.15 997.0 0.1;310.0 993.0 0.1;");
+    EXPECT_EQ(set->recData.Item(1)->DigitCount(1), 4);
     EXPECT_FALSE(set->isOriginalUnit || set->recData.Item(1)->inOriginalUnits);
 }
 
@@ -233,13 +234,13 @@ TEST_F(frmData2Test, TooManyRowsOfATableInTwoDimensionsAreKeptAndTold) {
     EXPECT_EQ(form_->lblNotice.Caption(), oneTooMany);
 }
 
-TEST_F(frmData2Test, FewerDigitsThanTypedHideTheTextAndDoNotChangeIt) {
+TEST_F(frmData2Test, FewerDigitsThanTypedNeitherHideNorChangeTheText) {
     globals.IncludeDigits = true;
     AddRow("275", "997.05");
     set->recData.Item(1)->isDigit = true;
     set->recData.Item(1)->Digits = {3, 3, 0, 0};
     OpenTable();
-    EXPECT_EQ(form_->tblData.Cell(1, 2), "997");
+    EXPECT_EQ(form_->tblData.Cell(1, 2), "997.05");
     form_->tblData.UserCell(1, 0, "276");
     Accept();
     EXPECT_EQ(Rows(), "276 997.05 0.1;");
