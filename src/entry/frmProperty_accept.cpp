@@ -71,10 +71,16 @@ void frmProperty::Store(int variableCount) {
 void frmProperty::StoreUnit(const PropertyRow& row) {
     KVOGlobal& globals = Globals();
     clsMethod& method = *globals.CurrentMethod;
+    // A record that holds no more than the factor of its unit goes on doing so.
+    const bool same = globals.PropertyCode == row.Code &&
+                      FactorInUnit(globals.PropertyUnit, method.Factor) > 0 &&
+                      lstConv.Chosen() == UnitText(row.Unit, globals.PropertyUnit, method.Factor);
     // The operator's own unit stands in front of the entry that asks for one.
     const bool ownUnit = factor_ > 0 && lstConv.Index() == lstConv.Count() - 2;
-    method.Factor = ownUnit ? factor_ : 0;
-    globals.PropertyUnit = ownUnit ? "*" : UnitCode(row, lstConv.Chosen());
+    if (!same) {
+        method.Factor = ownUnit ? factor_ : 0;
+        globals.PropertyUnit = ownUnit ? "*" : UnitCode(row, lstConv.Chosen());
+    }
     globals.PropertyText = globals.OriginalUnits
                                ? UnitText(row.Unit, globals.PropertyUnit, method.Factor)
                                : UnitText(row.Unit, "S", 0);

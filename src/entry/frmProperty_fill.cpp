@@ -194,8 +194,11 @@ void frmProperty::OfferFactor(double factor) {
     const int last = lstConv.Count() - 1;
     // There is one own unit at most.
     if (factor_ > 0) lstConv.Remove(last - 1);
+    factor_ = 0;
+    const std::string text = UnitText(Chosen()->Unit, "*", factor);
+    if (lstConv.Choose(text)) return; // the factor of a listed unit
     factor_ = factor;
-    lstConv.Insert(lstConv.Count() - 1, UnitText(Chosen()->Unit, "*", factor));
+    lstConv.Insert(lstConv.Count() - 1, text);
     lstConv.Index(lstConv.Count() - 2);
 }
 

@@ -19,6 +19,7 @@
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
+#include "reference/UnitText.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -221,8 +222,7 @@ void frmSingle::ShowRecord(const clsZ& record) {
     if (IsSystemUnit(CodeInField(record.VARIABLE_UNIT, variableUnit_))) {
         lstVariable_Unit.Index(0);
     } else if (record.isOriginalUnit) {
-        std::string code = record.VARIABLE_UNIT;
-        lstVariable_Unit.Choose(ConversionText(code, variableUnit_));
+        lstVariable_Unit.Choose(UnitText(variableUnit_, record.VARIABLE_UNIT, 0));
     }
     txtValue.Text(record.PRPVALUE);
 }

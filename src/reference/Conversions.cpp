@@ -188,6 +188,18 @@ double ConversionFactor(std::string_view code, std::string_view unit) {
     return IsNumeric(code) ? Val(code) : RowFactor(code, unit);
 }
 
+std::string UnitOfFactor(double factor, std::string_view unit) {
+    if (factor <= 0 || factor == 1) return {};
+    const std::string written = NumberText(factor);
+    for (const ConversionRow* row :
+         Kept(&VocabularyTables::Conversions).With(&ConversionRow::Unit, unit)) {
+        const std::string& code = row->ConversionCode;
+        if (row->Unit != unit || IsTemperatureOffset(code) || IsMassBased(code)) continue;
+        if (NumberText(ConversionFactor(code, unit)) == written) return row->Conversion;
+    }
+    return {};
+}
+
 std::vector<std::string_view> BuiltInConversions() {
     std::vector<std::string_view> codes;
     codes.reserve(std::size(BuiltInFactors));

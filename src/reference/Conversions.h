@@ -27,6 +27,12 @@ double FromSystem(std::string_view code, double value, double factor, double mol
 /// With a system unit named, 0 for a code that is no unit of that quantity.
 double ConversionFactor(std::string_view code, std::string_view unit = {});
 
+/// The listed unit that is just so many of this system unit, the first row in table order; "" for
+/// none and for a factor of 1. A unit with an offset or by mass is no mere factor.
+/// A record file keeps of a unit without a letter no more than its factor, to the 15 digits that
+/// NumberText writes.
+std::string UnitOfFactor(double factor, std::string_view unit);
+
 /// The codes whose constants stand in the program, in their order.
 std::vector<std::string_view> BuiltInConversions();
 /// True for the codes that need the molar mass: Z G P B z Y N.

@@ -23,6 +23,7 @@ std::string UnitText(const std::string& systemUnit, std::string_view code, doubl
         if (!text.empty()) return text;
     }
     factor = FactorInUnit(code, factor);
+    if (std::string named = UnitOfFactor(factor, systemUnit); !named.empty()) return named;
     // The star says "times": the typed value times the factor is in the unit behind it.
     if (factor > 0) return NumberText(factor) + (isOne ? "*" : "* " + systemUnit);
     if (isOne) return Dimensionless;

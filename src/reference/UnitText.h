@@ -11,8 +11,9 @@ namespace vexora {
 /// A record may hold a number in the place of a unit code.
 double FactorInUnit(std::string_view code, double factor);
 
-/// A conversion code with its factor as the user reads it: "2.5* kPa" for an own factor, else the
-/// name of the unit; the code itself where no table knows it.
+/// A conversion code with its factor as the user reads it: the name of the unit, also where only
+/// its factor stands in the record; "2.5* kPa" for a factor of nobody else; the code itself where
+/// no table knows it.
 std::string UnitText(const std::string& systemUnit, std::string_view code, double factor);
 
 /// A number with its unit, which "1" and "Dimensionless" are none: "3.54 kPa", "3.54 (2.5* kPa)".

@@ -25,13 +25,22 @@ INSTANTIATE_TEST_SUITE_P(All, Sessions, ::testing::ValuesIn(SessionFiles()),
                          [](const auto& session) { return SessionName(session.param); });
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Sessions);
 
-TEST(Examples, LeaveTheRecordsThatLieBesideThem) {
-    const std::string folder = VEXORA_SOURCE_DIR "/examples/water/";
-    const SessionPlay play = PlaySession(folder + "water.vxs");
+/// A session leaves, under this name, the record file of the example to the last byte.
+void ExpectExample(const std::string& session, const std::string& name) {
+    const SessionPlay play = PlaySession(VEXORA_SOURCE_DIR + session);
     ASSERT_EQ(play.status, 0) << play.errors;
     std::ostringstream lying;
-    lying << std::ifstream(folder + "2002wagpru1.txt", std::ios::binary).rdbuf();
-    EXPECT_EQ(play.files.at("2002wagpru1.txt"), lying.str());
+    lying << std::ifstream(VEXORA_SOURCE_DIR "/examples/water/2002wagpru1.txt", std::ios::binary)
+                 .rdbuf();
+    EXPECT_EQ(play.files.at(name), lying.str());
+}
+
+TEST(Examples, LeaveTheRecordsThatLieBesideThem) {
+    ExpectExample("/examples/water/water.vxs", "2002wagpru1.txt");
+}
+
+TEST(Examples, AreSavedAsTheyWereWhenAcceptedUnchanged) {
+    ExpectExample("/tests/sessions/road/the_example_reopened.vxs", "example.txt");
 }
 
 /// Forms, menu entries and toolbar buttons by the names under which scripts address them.

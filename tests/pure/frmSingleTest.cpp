@@ -277,21 +277,22 @@ TEST_F(frmSingleTest, AStateThatTheFormDoesNotAskForSurvivesAnEdit) {
     }
 }
 
-TEST_F(frmSingleTest, AUnitThatIsANumberReadsAsAFactorAndSurvivesAReview) {
+TEST_F(frmSingleTest, AUnitThatIsANumberReadsAsItsNameAndSurvivesAReview) {
     auto record = std::make_shared<clsZ>();
     record->Load("^z 1 PC 1000 1 L G & 4.064 & & &");
     record->Header.Load("^A & O B & & & & ::Method:VISOBS:");
     record->AttachTo(*globals.CurrentS);
     auto& form = Edit(record);
-    EXPECT_EQ(form.lblUnit.Caption(), "1000* kPa");
+    EXPECT_EQ(form.lblUnit.Caption(), "MPa");
     desktop.OnModal([](ui::Form& shown) {
         auto& property = dynamic_cast<frmProperty&>(shown);
-        EXPECT_EQ(property.lstConv.Chosen(), "1000* kPa");
+        EXPECT_EQ(property.lstConv.Chosen(), "MPa");
         property.cmdOK.UserClick();
     });
     form.cmdMethod.UserClick();
     forms.DropClosed();
-    EXPECT_EQ(form.lblUnit.Caption(), "1000* kPa");
+    EXPECT_EQ(form.lblUnit.Caption(), "MPa");
+    EXPECT_EQ(globals.PropertyUnit, "1000");
     form.cmdAccept.UserClick();
     EndEdit();
     EXPECT_EQ(ValueLines(), "^M 1000\n^z 1 PC S 1 L G & 4.064 & & &\n^M 0\n");

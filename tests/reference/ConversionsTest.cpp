@@ -3,6 +3,7 @@
 #include "reference/Numbers.h"
 #include "reference/ReferenceFixture.h"
 #include "reference/TableText.h"
+#include "reference/UnitText.h"
 
 #include <gtest/gtest.h>
 
@@ -76,6 +77,9 @@ protected:
                                         "A\tatm\tkPa\t101.325\t-\n"
                                         "mPa\tmPa\tkPa\t0.000001\t-\n"
                                         "MegaPa\tMPa\tkPa\t1000\t-\n"
+                                        "F\tF\tK\t0.5555555555555556\t-\n"
+                                        "R\tdegR\tK\t0.5555555555555556\t-\n"
+                                        "Z\tJ/g\tkJ/mol\t0.001\t-\n"
                                         "z\tJ/K/g\tJ/K/mol\t1\t-\n"
                                         "J/K/g\tJ/K/g\tJ/K/kg\t1000\t-\n"
                                         "zero\tzero\tkPa\t0\t-\n"
@@ -117,6 +121,18 @@ TEST_F(ConversionRows, RowsConvertButAZeroFactorNeverDivides) {
     EXPECT_EQ(ConversionFactor("0.001"), 0.001);
     EXPECT_FALSE(IsKnownConversion("zero"));
     EXPECT_TRUE(IsKnownConversion("S"));
+}
+
+TEST_F(ConversionRows, AFactorNamesTheFirstListedUnitThatIsNothingElse) {
+    const auto named = [](double factor, const char* unit) { return UnitText(unit, "S", factor); };
+    EXPECT_EQ(named(1000, "kPa"), "MPa");
+    EXPECT_EQ(UnitText("kPa", "1000", 0), "MPa");
+    EXPECT_EQ(named(1000, "K"), "1000* K"); // of another quantity
+    EXPECT_EQ(named(1 / 1.8, "K"), "degR");
+    EXPECT_EQ(named(Val(NumberText(1 / 1.8)), "K"), "degR"); // as a record has it
+    EXPECT_EQ(named(1, "J/K/mol"), "1* J/K/mol");
+    EXPECT_EQ(named(0.001, "kJ/mol"), "0.001* kJ/mol"); // of a unit by mass, at 1 g/mol
+    EXPECT_EQ(named(1000.0001, "kPa"), "1000.0001* kPa");
 }
 
 TEST_F(ConversionRows, UnitListsBeginWithTheSystemUnit) {
