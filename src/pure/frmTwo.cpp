@@ -57,6 +57,7 @@ void frmTwo::Load() {
     globals.DialogAccepted = false;
     as_ = std::exchange(globals.SetToRepeat, nullptr);
     if (globals.EditTwo) as_ = record_ = globals.CurrentTwo;
+    mayLackPressure_ = record_ && record_->LacksPressure();
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     {
         const ui::FillingScope filling(*this);

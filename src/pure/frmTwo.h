@@ -108,11 +108,13 @@ private:
     bool CheckUnits();
     std::vector<int> ReplacedItems() const;
     bool MayDropStatements();
+    bool MayLackPressure(const clsTwo& set);
     std::string UnitCodeOf(int n) const;
 
     SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }, "SELECT SAMPLE"};
     PropertyRow row_; // the property in hand
     std::vector<VariableRow> variables_;
+    bool mayLackPressure_ = false;   // it has been asked, or the edited set never stated one
     std::string openAtFirst_;        // the variable whose constant value was shown at the beginning
     std::shared_ptr<clsTwo> record_; // the set that is being edited, null for a new one
     std::shared_ptr<const clsTwo> as_; // the set that the form began with: that one, or its pattern

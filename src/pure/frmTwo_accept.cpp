@@ -94,6 +94,7 @@ void DropStatementsOfNoConstant(clsTwo& set) {
 void frmTwo::Accept() {
     if (!Check()) return;
     const auto set = MakeSet();
+    if (!MayLackPressure(*set)) return;
     if (TurnsRows()) ui::Say("The rows of the table are brought to system units");
     if (Draft().numerical == Presentation::NoNumbers ? !DropNumbers(*set) : !EnterNumbers(set))
         return;
@@ -170,6 +171,15 @@ bool frmTwo::MayDropStatements() {
     }
     return !field || Confirm(*field, "Rows of the table state uncertainties of " + names +
                                          ", which go with it\nGo on?");
+}
+
+/// That a set at a fixed pressure leaves its box empty is asked once; of a set that is edited, only
+/// where it did state one.
+bool frmTwo::MayLackPressure(const clsTwo& set) {
+    const bool isAsked = OpenVariable(Draft()).code == "P" && set.LacksPressure();
+    if (!isAsked || mayLackPressure_) return true;
+    mayLackPressure_ = Confirm(txtVar3, "No pressure is stated. Is that all right?");
+    return mayLackPressure_;
 }
 
 void frmTwo::NormalizeNumbers() {

@@ -240,6 +240,7 @@ void CheckSet(const clsTwo& set, std::vector<DocumentFinding>& findings) {
     CheckPhases({set.PHASE1, set.PHASE2}, remarks);
     if (IndexOfCode(ConstraintKinds, set.CONSTRAINT) < 0)
         remarks.Error(name + ": unknown constraint " + set.CONSTRAINT);
+    if (set.LacksPressure()) remarks.Warn(name + ": no pressure is stated");
     CheckRows(set, name, remarks);
 }
 

@@ -117,6 +117,12 @@ void clsTwo::TakePending(const clsA& pending) {
     VAR2_UNIT = KeptField(VAR2_UNIT, UnitOfVariable(VARIABLE2));
 }
 
+bool clsTwo::LacksPressure() const {
+    const bool varies = HasVariable("P") || HasVariable("PU") || HasVariable("PL");
+    const bool isPressure = PRPCODE == "P" || PRPCODE == "PV";
+    return CONSTRAINT == "FP" && !varies && !isPressure && ConstantOf("P").empty();
+}
+
 std::string clsTwo::Key() const {
     return std::to_string(nVar) + SMPNM + PRPCODE + PRPSETNO;
 }

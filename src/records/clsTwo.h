@@ -52,6 +52,9 @@ public:
     bool Load(std::string_view line);
     void TakePending(const clsA& pending) override;
 
+    /// The set is said to hold at one pressure, and which one is not stated.
+    bool LacksPressure() const;
+
     std::string Key() const override;
     std::string ShowKey() const override;
     void SetMe() override;

@@ -147,6 +147,7 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("Set:", set.PRPSETNO);
     page.Line("Entered:", set.Header.DATEADDED);
     page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");
+    page.Need(set.LacksPressure(), "The pressure");
     page.Need(!StatesUncertainty(set), "A statement of uncertainty");
     return page.Html();
 }

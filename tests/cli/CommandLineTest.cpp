@@ -156,7 +156,9 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
                      value("^z 1 VDC S 1 Q9 G & 322") + value("^z 1 VC S 1 L G & a") +
                      value("^f 1 VDN S 1 L -300 C 997") + value("^f 1 VDN S 2 L 20 nounit 997") +
                      value("^z 1 QQQ S 1 L G & 1") + value("^z 1 TC K 4 L G & 500") +
-                     value("^f 1 VDN T 3 L 300 S 997") + value("^f 1 VDN S 4 L 300 T 997"));
+                     value("^f 1 VDN T 3 L 300 S 997") + value("^f 1 VDN S 4 L 300 T 997") +
+                     "^1 1 VDN S DIR 1\tN L & FP S & & &\n^M 0\n^A & O & & & & & ::P = 101.325:\n"
+                     "^1 1 VDN S DIR 2\tN L & FP S & & &\n^M 0\n");
     const Outcome outcome = Run("check doc.txt");
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.out, "");
@@ -172,7 +174,8 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
                            "doc.txt:27: error: Density: Invalid conversion factor: T is no unit "
                            "of kg/m3\n"
                            "doc.txt:29: error: Density: Temperature: Invalid conversion factor: "
-                           "T is no unit of K\n");
+                           "T is no unit of K\n"
+                           "doc.txt:30: warning: Density: no pressure is stated\n");
 }
 
 TEST_F(CommandLine, AnAuthorKnownNowhereIsNamedAndLeavesByHisCodes) {

@@ -385,6 +385,7 @@ TEST_F(frmTwoTest, StatementsOfAConstantGoWithIt) {
     };
     accept("101.3");
     EXPECT_EQ(Stored()->UX[2].UValue, "0.2");
+    desktop.Expect("No pressure is stated. Is that all right?", ui::Answer::Yes);
     accept("");
     EXPECT_EQ(Stored()->UX[2].UValue, "");
 }
