@@ -28,14 +28,17 @@ struct Arguments {
 using Command = int(OpenedDocument& document, const Arguments& arguments);
 
 void TellLinesNotKept(OpenedDocument& document) {
-    if (document.LinesNotKept() == 0) return;
+    const int count = document.LinesNotKept();
+    if (count == 0) return;
     document.Tell(0, false,
-                  std::to_string(document.LinesNotKept()) +
-                      " lines hold data of kinds that this edition does not keep");
+                  std::to_string(count) + (count == 1 ? " line holds" : " lines hold") +
+                      " data of kinds that this edition does not keep");
 }
 
 int Check(OpenedDocument& document, const Arguments&) {
     TellLinesNotKept(document);
+    for (const LineLost& lost : document.LinesLost())
+        document.Tell(lost.line, false, lost.text);
     for (const DocumentFinding& finding : CheckDocument()) {
         document.Tell(finding.line, finding.isError, finding.text);
     }

@@ -50,7 +50,7 @@ int OpenedDocument::Open(const std::optional<std::string>& home, const std::stri
         std::cerr << path_ << ": error: " << error << '\n';
         return kExitUnreadable;
     }
-    const ReadResult result = ReadDocument(*text, ReadPurpose::Look);
+    ReadResult result = ReadDocument(*text, ReadPurpose::Look);
     if (!result.whole) {
         Tell(result.faultLine, true, "the document was not read: " + result.fault);
         return kExitUnreadable;
@@ -60,6 +60,7 @@ int OpenedDocument::Open(const std::optional<std::string>& home, const std::stri
         return kExitUnreadable;
     }
     linesNotKept_ = result.linesNotKept;
+    linesLost_ = std::move(result.lost);
     return kExitClean;
 }
 

@@ -2,9 +2,11 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/QuietDesktop.h"
 #include "globals/KVOGlobal.h"
+#include "records/Notice.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -25,6 +27,7 @@ public:
     void Tell(int line, bool isError, const std::string& text);
     int Findings() const { return findings_; }
     int LinesNotKept() const { return linesNotKept_; }
+    const std::vector<LineLost>& LinesLost() const { return linesLost_; }
     ui::TreeView& Tree() { return form_.tvwTree; }
     ui::FileSystem& Files() { return desktop_.Files(); }
 
@@ -39,6 +42,7 @@ private:
     std::string path_;
     int findings_ = 0;
     int linesNotKept_ = 0;
+    std::vector<LineLost> linesLost_;
     QuietDesktop desktop_;
     ui::Forms forms_;
     TreeForm form_;

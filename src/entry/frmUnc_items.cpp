@@ -96,15 +96,15 @@ void frmUnc::ShowItem(const clsX& item) {
     } else {
         ShowEvaluator(cboDSEvaluator(i), item.DSEvaluator);
     }
-    chkDS(i).Value(item.iDS);
+    chkDS(i).Value(item.iDS || item.HasUnmarkedDS());
     ShowStatement(item.DSValue, txtDSValue(i), chkDSPerCent(i));
     txtDSLevel(i).Text(item.DSLevel);
-    chkRep(i).Value(item.iRep);
+    chkRep(i).Value(item.iRep || item.HasUnmarkedRep());
     ShowStatement(item.RValue, txtRValue(i), chkRPerCent(i));
     txtRepetitions(i).Text(item.Repetitions);
     if (item.RType == 0 || item.RType == 1)
         cboRType(i).Choose(item.RType == 0 ? OfTheMean : OfSingleMeasurement);
-    chkUnc(i).Value(item.iUnc);
+    chkUnc(i).Value(item.iUnc || item.HasUnmarkedUnc());
     ShowStatement(item.UValue, txtUValue(i), chkUPerCent(i));
     txtULevel(i).Text(item.ULevel);
     if (i == 0) ShowPropertyItem(item);
@@ -121,7 +121,7 @@ void frmUnc::ShowCaption(const clsX& item) {
 }
 
 void frmUnc::ShowPropertyItem(const clsX& item) {
-    chkComb.Value(item.iCU);
+    chkComb.Value(item.iCU || item.HasUnmarkedCU());
     ShowStatement(item.CValue, txtCUValue, chkCUPerCent);
     txtCULevel.Text(item.CLevel);
     if (item.CType == "A") cboCUType.Choose(Propagation);
@@ -130,7 +130,7 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
     if (item.CType == "C")
         ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
                 "External mode");
-    chkCD.Value(item.iCD);
+    chkCD.Value(item.iCD || item.HasUnmarkedCD());
     txtKVOU.Text(item.KVOUValue);
     txtEq.Text(item.CDSpec);
     ShowStatement(item.CDRms, txtRMS, chkRMSPerCent);

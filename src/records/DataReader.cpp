@@ -17,6 +17,8 @@ namespace vexora {
 
 namespace {
 
+using Taken = OpenRecord::Taken;
+
 /// "*" and "S1" mean the current sample; other texts are the number of one.
 /// The text stays in the record as read; to whom it belongs is told by the sample it hangs on.
 std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
@@ -50,6 +52,14 @@ bool IsNewSet(ReaderState& state, const clsS& sample, const std::string& key) {
     return entry->second.insert(key).second;
 }
 
+constexpr const char* WordsTooMany = "words stand behind the last field";
+
+/// A statement gives way to the one being read.
+void LoseToThis(ReaderState& state, int line) {
+    state.Lose(line, "what is stated here is stated once more in line " +
+                         std::to_string(state.lineNumber) + ", which takes its place");
+}
+
 /// Where the read stands, as messages name it: source and compound, one a line.
 std::string PlaceOfRead() {
     const KVOGlobal& globals = Globals();
@@ -80,9 +90,9 @@ std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
     record->TakePending(state.pending);
     record->AttachTo(*sample);
     // The header has found its record: its lines are kept.
-    state.pendingLines = 0;
+    state.pendingLines = state.headerLine = 0;
     state.lastNotKept = false;
-    state.open = record;
+    state.OpenNext(record);
     return record;
 }
 
@@ -111,13 +121,24 @@ void ReadSet(ReaderState& state, std::string_view line) {
 void ReadRow(ReaderState& state, std::string_view line) {
     // Rows behind a record that is passed over go with it; rows behind nothing are a fault.
     if (!state.lines || (!state.open && state.lastNotKept)) return state.PassOver();
-    const auto taken = state.open ? state.open->LoadRow(line) : OpenRecord::Taken::NoRows;
-    if (taken != OpenRecord::Taken::Yes) state.AbandonIncomplete(line);
+    state.rowStatementsLine = 0;
+    const auto taken = state.open ? state.open->LoadRow(line) : Taken::NoRows;
+    if (taken == Taken::InPart)
+        state.Lose(state.lineNumber, WordsTooMany);
+    else if (taken != Taken::Yes)
+        state.AbandonIncomplete(line);
 }
 
 void ReadRowStatements(ReaderState& state, std::string_view line) {
+    const auto taken = state.open ? state.open->LoadRowStatements(line) : Taken::NoRows;
     // Data stay true without their statements, so the read goes on; the loss is counted.
-    if (!state.open || !state.open->LoadRowStatements(line)) ++state.linesNotKept;
+    if (taken == Taken::NoRows) {
+        ++state.linesNotKept;
+        return;
+    }
+    if (state.rowStatementsLine != 0) LoseToThis(state, state.rowStatementsLine);
+    state.rowStatementsLine = state.lineNumber;
+    if (taken == Taken::InPart) state.Lose(state.lineNumber, WordsTooMany);
 }
 
 void ReadStatement(ReaderState& state, std::string_view line) {
@@ -127,7 +148,13 @@ void ReadStatement(ReaderState& state, std::string_view line) {
     }
     clsX item;
     item.Load(line);
-    state.open->AddX(item);
+    const auto [place, replaces] = state.open->AddX(item);
+    if (place < 0) return; // kept as it stands
+    const auto [entry, isFirst] = state.statementLines.try_emplace(place, state.lineNumber);
+    // With no statement before, it is the repeatability in the line of the value that goes.
+    if (replaces) LoseToThis(state, isFirst ? state.open->Line : entry->second);
+    entry->second = state.lineNumber;
+    if (!item.HoldsAll()) state.Lose(state.lineNumber, "words of the statement have no meaning");
 }
 
 } // namespace vexora

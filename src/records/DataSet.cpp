@@ -38,7 +38,11 @@ std::vector<Quantity> DataSet::Quantities() const {
     return quantities;
 }
 
-void DataSet::AddX(const clsX& item) {
+bool DataSet::StandsByFactor() const {
+    return isOriginalUnit && (Factor > 0 || FallbackMolarMass > 0);
+}
+
+Placement DataSet::AddX(const clsX& item) {
     clsX added = item;
     // A line may lack its number; then the code tells what it is about.
     if (added.N < 0 && added.PRPCODE == PRPCODE) added.N = 0;
@@ -46,11 +50,14 @@ void DataSet::AddX(const clsX& item) {
         if (added.PRPCODE == VARIABLE(n)) added.N = n;
     if (added.N < 0 || added.N >= Items) {
         OtherX.push_back(added);
-        return;
+        return {};
     }
     // The places behind the variables are for what is the same in all rows.
     added.Constr = added.N > nVar;
-    UX[static_cast<std::size_t>(added.N)] = added;
+    clsX& present = UX[static_cast<std::size_t>(added.N)];
+    const bool replaces = present.IsKept() && !added.SaysTheSame(present);
+    present = added;
+    return {added.N, replaces};
 }
 
 clsData& DataSet::AddRow(clsData row) {
@@ -61,15 +68,18 @@ clsData& DataSet::AddRow(clsData row) {
 
 OpenRecord::Taken DataSet::LoadRow(std::string_view line) {
     clsData row;
-    if (!row.Load(line, nVar)) return Taken::Incomplete;
+    WordReader words(line);
+    if (!row.Load(words, nVar)) return Taken::Incomplete;
     AddRow(std::move(row));
-    return Taken::Yes;
+    return words.AtEnd() ? Taken::Yes : Taken::InPart;
 }
 
-bool DataSet::LoadRowStatements(std::string_view line) {
+OpenRecord::Taken DataSet::LoadRowStatements(std::string_view line) {
     clsData* const row = recData.Last();
-    if (row) row->LoadExtras(line);
-    return row != nullptr;
+    if (!row) return Taken::NoRows;
+    WordReader words(line);
+    row->LoadExtras(words);
+    return words.AtEnd() ? Taken::Yes : Taken::InPart;
 }
 
 void DataSet::TakePending(const clsA& pending) {

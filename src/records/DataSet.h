@@ -91,12 +91,13 @@ public:
     /// and units that their statements bear (NameStatements in PropertyChain.h).
     std::vector<Quantity> Quantities() const;
 
+    bool StandsByFactor() const override;
     /// By its number, else by its code; what has no place in the set is kept as read.
-    void AddX(const clsX& item) override;
+    Placement AddX(const clsX& item) override;
     /// Adds a row; the set is in original units as long as any of its rows is.
     clsData& AddRow(clsData row);
     Taken LoadRow(std::string_view line) override;
-    bool LoadRowStatements(std::string_view line) override;
+    Taken LoadRowStatements(std::string_view line) override;
     /// Header fields and a pending factor of the reader.
     /// To be called once, before rows are added.
     virtual void TakePending(const clsA& pending);

@@ -12,4 +12,10 @@ struct Notice {
 };
 using Notices = std::vector<Notice>;
 
+/// A line of a file of which the document does not hold all, so that a save would lose it.
+struct LineLost {
+    int line = 0; // from 1
+    std::string text;
+};
+
 } // namespace vexora

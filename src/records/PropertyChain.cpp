@@ -90,12 +90,12 @@ void NameConstraints(DataSet& set) {
     for (clsX& item : places) {
         item.Constr = true;
         item.Name.clear();
-        if (item.IsStated()) take(item, item.PRPCODE);
+        if (item.IsKept()) take(item, item.PRPCODE);
     }
     // What else the comment holds constant takes the places that are left.
     for (const char* code : {"T", "P", "WL", "WF"}) {
         const auto isOfCode = [code](const clsX& item) {
-            return item.IsStated() && item.PRPCODE == code;
+            return item.IsKept() && item.PRPCODE == code;
         };
         if (set.ConstantOf(code).empty() || std::ranges::any_of(places, isOfCode)) continue;
         const auto free =

@@ -21,10 +21,32 @@ namespace {
 
 using Handler = void (*)(ReaderState&, std::string_view);
 
+constexpr const char* NothingBehind = "no value or set stands under this header";
+
+/// How a line is lost that a later one takes the place of.
+std::string ReplacedBy(const std::string& what, const ReaderState& state) {
+    return what + " once more in line " + std::to_string(state.lineNumber) +
+           ", which takes its place";
+}
+
+/// A header and a compound as a save writes them.
+std::string LineOf(const clsA& header) {
+    LineWriter out;
+    header.PrintHeader(out, header.DATACOMMENT);
+    return out.Text();
+}
+
+std::string LinesOf(const clsL& compound) {
+    LineWriter out;
+    compound.PrintL(out);
+    return out.Text();
+}
+
 /// A factor that nothing closed must not reach the data of somebody else.
 void ForgetPending(ReaderState& state) {
+    state.LeaveFactor();
+    state.OpenNext();
     state.pending.Factor = 0;
-    state.CloseRecord();
     state.lastNotKept = false;
 }
 
@@ -55,6 +77,13 @@ void ReadSource(ReaderState& state, std::string_view line) {
 void ReadDescription(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
     if (!source) return state.AbandonIncomplete(line);
+    const auto [entry, isFirst] =
+        state.descriptions.try_emplace(source.get(), state.lineNumber, Trim(line));
+    if (!isFirst) {
+        auto& [before, text] = entry->second;
+        if (text != Trim(line)) state.Lose(before, ReplacedBy("the source is described", state));
+        entry->second = {state.lineNumber, std::string(Trim(line))};
+    }
     const std::string question = source->LoadJ(line);
     source->toSettle = !question.empty() && !state.talk.Confirm(question);
     if (!question.empty() && !source->toSettle) state.Tell({source->TakeNextNumber()});
@@ -99,9 +128,11 @@ void ReadCompound(ReaderState& state, std::string_view line) {
         globals.Saved = false;
     }
     // A repeat keeps the first, with all that hangs on it; what follows is added there.
-    if (const auto known = globals.CurrentR->FindL(compound->RN))
+    if (const auto known = globals.CurrentR->FindL(compound->RN)) {
+        if (compound->isBio && LinesOf(*compound) != LinesOf(*known))
+            state.Lose(state.lineNumber, "the compound is described before, in another way");
         compound = known;
-    else
+    } else
         compound->AttachTo(*globals.CurrentR);
     globals.CurrentL = compound;
     globals.CurrentS = nullptr;
@@ -134,7 +165,6 @@ void TakeIdentity(clsL& compound, const std::string& formula, const clsR& source
 /// RN.
 void ReadCorrection(ReaderState& state, std::string_view line) {
     const auto source = Globals().CurrentR;
-    if (!source) return;
     WordReader words(line);
     words.NextWord();
     std::string rn(words.NextWord());
@@ -144,8 +174,8 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
         formula = words.NextWord();
     }
     rn = MendedRN(state, rn);
-    const auto compound = source->FindL(rn);
-    if (!compound) return;
+    const auto compound = source ? source->FindL(rn) : nullptr;
+    if (!compound) return state.Lose(state.lineNumber, "no compound " + rn + " stands before it");
     const std::string name = WithoutPlaceholder(Trim(words.Rest()));
     compound->isNamed = BringsNameOnly(*compound, formula) && !name.empty();
     if (!compound->isNamed) TakeIdentity(*compound, formula, *source);
@@ -165,19 +195,42 @@ void ReadSample(ReaderState& state, std::string_view line) {
     const int number = static_cast<int>(ToInteger(Val(sample->SMPNM)));
     const auto [entry, isNew] = state.SamplesOf(*globals.CurrentL).try_emplace(number, sample);
     // As with compounds, a repeat keeps the first and adds to it.
-    if (isNew) sample->AttachTo(*globals.CurrentL);
+    if (isNew)
+        sample->AttachTo(*globals.CurrentL);
+    else if (sample->SMPDESC != entry->second->SMPDESC)
+        state.Lose(state.lineNumber, "sample " + sample->SMPNM + " is described before, as " +
+                                         OrPlaceholder(entry->second->SMPDESC));
     globals.CurrentS = entry->second;
 }
 
+/// Whether the header that takes the place of another one loses what that says; ^a leaves all but
+/// the comment in force.
+bool LosesHeader(const clsA& before, const clsA& now, std::string_view line) {
+    const bool saysNothing =
+        line.starts_with("^a") ? before.DATACOMMENT.empty() : LineOf(before) == LineOf(clsA());
+    return !saysNothing && LineOf(before) != LineOf(now);
+}
+
 void ReadHeader(ReaderState& state, std::string_view line) {
+    const bool isUnused = state.headerLine != 0;
+    const clsA before = isUnused ? state.pending : clsA();
     state.Tell(state.pending.Load(line));
     ++state.pendingLines;
+    if (isUnused && LosesHeader(before, state.pending, line))
+        state.Lose(state.headerLine, NothingBehind);
+    state.headerLine = state.lineNumber;
 }
 
 void ReadFactor(ReaderState& state, std::string_view line) {
     constexpr std::size_t tagLength = 2;
     // All behind the tag, for the blank may lack.
-    state.pending.Factor = Val(line.substr(tagLength));
+    const std::string_view number = line.substr(tagLength);
+    state.LeaveFactor();
+    state.pending.Factor = Val(number);
+    if (state.pending.Factor != 0)
+        state.factorLine = state.lineNumber;
+    else if (!IsNumeric(number) && !Trim(number).empty())
+        state.Lose(state.lineNumber, "the factor is no number");
     if (state.pending.Factor == 0 && state.lastNotKept)
         ++state.linesNotKept; // closes the record that was passed over
     else if (state.pending.Factor != 0)
@@ -223,16 +276,39 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
 
 } // namespace
 
-void ReaderState::CloseRecord() {
-    open = nullptr;
+void ReaderState::OpenNext(std::shared_ptr<OpenRecord> next) {
+    // The one before has all its lines now, and by its rows it is in the units of the paper or not.
+    if (open && open->StandsByFactor()) factorLine = 0;
+    statementLines.clear();
+    rowStatementsLine = 0;
+    open = std::move(next);
+}
+
+void ReaderState::Lose(int line, const std::string& what) {
+    lost.push_back({line, what});
+}
+
+void ReaderState::LeaveFactor() {
+    if (factorLine != 0 && !(open && open->StandsByFactor()))
+        Lose(factorLine, "no value stands in the unit of the factor " + NumberText(pending.Factor));
+    factorLine = 0;
+}
+
+void ReaderState::Finish() {
+    LeaveFactor();
+    OpenNext();
+    // A header with no record behind it goes lost, too.
+    linesNotKept += pendingLines;
+    if (headerLine != 0) Lose(headerLine, NothingBehind);
 }
 
 void ReaderState::PassOver() {
     linesNotKept += pendingLines + 1;
     pendingLines = 0;
+    OpenNext();
     // Its header is not that of the next record.
     pending = clsA();
-    CloseRecord();
+    headerLine = factorLine = 0;
     lastNotKept = true;
 }
 
@@ -267,8 +343,14 @@ void ReaderState::AbandonSaid(const std::string& text) {
 void ReadRecord(ReaderState& state, std::string_view line) {
     constexpr std::size_t tagLength = 2;
     const auto handler = Handlers().find(line.substr(0, tagLength));
-    // A tag unknown here may be known to a later edition and is no fault.
-    if (handler != Handlers().end()) handler->second(state, line);
+    if (handler != Handlers().end()) return handler->second(state, line);
+    // Known to a later edition, perhaps: no fault, but it has to stay in the file. What begins like
+    // a data record may have rows behind it, which are none of the record before.
+    state.Lose(state.lineNumber, "nobody knows this tag: " + std::string(Trim(line)));
+    if (line.starts_with('^'))
+        state.PassOver();
+    else
+        ++state.linesNotKept;
 }
 
 } // namespace vexora

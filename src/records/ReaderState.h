@@ -6,6 +6,8 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "records/Notice.h"
 #include "records/clsA.h"
@@ -14,6 +16,7 @@ namespace vexora {
 
 class ReadTalk;
 class clsL;
+class clsR;
 class clsS;
 class OpenRecord;
 struct DataLines;
@@ -30,13 +33,19 @@ struct ReaderState {
     int lineNumber = 0;
     /// A save would lose these lines, so a document that has any is not to be saved over its file.
     int linesNotKept = 0;
-    int pendingLines = 0;     // lines of the header since the last data record
-    bool lastNotKept = false; // the last data record is one that this edition does not keep
+    std::vector<LineLost> lost; // what else a save would lose, and lines that nobody knows
+    int pendingLines = 0;       // lines of the header since the last data record
+    int headerLine = 0;         // the header, until a record stands under it
+    int factorLine = 0;         // the factor, until a value stands in the unit that it makes
+    bool lastNotKept = false;   // the last data record is one that this edition does not keep
     /// How lines of data are read in the system that is being read (a compound, a mixture, a
     /// reaction); null behind one that this edition does not keep.
     const DataLines* lines = nullptr;
     /// The record to which ^X lines, rows and ^Y lines belong, null for none.
     std::shared_ptr<OpenRecord> open;
+    /// Lines of the statements of the open record, by the place that they took in it.
+    std::unordered_map<int, int> statementLines;
+    int rowStatementsLine = 0; // that of the row read last, 0 for none
 
     bool isAbandoned = false;
     /// A registry number that is no number: nothing behind it can be told to a compound.
@@ -49,9 +58,16 @@ struct ReaderState {
     /// What is there already, so that looking for a twin takes no walk through all siblings.
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
     std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
+    std::unordered_map<const clsR*, std::pair<int, std::string>> descriptions; // ^J, by its line
 
-    /// Makes what follows belong to none of the data records so far.
-    void CloseRecord();
+    /// Makes the lines that follow belong to another data record, null for none.
+    void OpenNext(std::shared_ptr<OpenRecord> next = nullptr);
+    /// Names a line of which a save would lose something.
+    void Lose(int line, const std::string& what);
+    /// The factor in front is none of what follows: names it, if no value stands by it.
+    void LeaveFactor();
+    /// Names what no record stands behind at the end of the file.
+    void Finish();
     /// Counts the line as one that is not kept; the lines of a header that belong to it go along.
     void PassOver();
     /// The samples of a compound by their number.

@@ -8,6 +8,8 @@
 #include "records/clsR.h"
 #include "reference/Text.h"
 
+#include <algorithm>
+
 namespace vexora {
 
 namespace {
@@ -83,6 +85,7 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
             const LabelsLater unlabelled;
             ReadLines(text, state);
         }
+        state.Finish();
         if (!state.isAbandoned) Finish(purpose, talk);
     } catch (const DatabaseError& error) { // a damaged database shows where it is looked into
         state.Abandon(error.what());
@@ -90,8 +93,9 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
     globals.LineInHand = 0;
     ReadResult result;
     result.whole = !state.isAbandoned;
-    // A header with no record behind it goes lost, too.
-    result.linesNotKept = state.linesNotKept + state.pendingLines;
+    result.linesNotKept = state.linesNotKept;
+    result.lost = std::move(state.lost);
+    std::ranges::stable_sort(result.lost, {}, &LineLost::line);
     if (result.whole) return result;
     EmptyDocument();
     result.fault = state.fault;

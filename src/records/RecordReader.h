@@ -10,8 +10,11 @@ namespace vexora {
 
 /// What came of reading a record file.
 struct ReadResult {
-    bool whole = false;       // false: the read was abandoned and the document is empty
-    int linesNotKept = 0;     // lines of kinds of data that this edition reads over
+    bool whole = false;   // false: the read was abandoned and the document is empty
+    int linesNotKept = 0; // lines of kinds of data that this edition reads over
+    /// Lines that the document holds in part or not at all, in their order: of those not kept only
+    /// the ones whose tag nobody knows.
+    std::vector<LineLost> lost;
     std::string fault;        // the message that was shown when the read was abandoned
     int faultLine = 0;        // line of the file, from 1
     bool endsProgram = false; // the read found what this program cannot go on with
@@ -34,8 +37,8 @@ enum class ReadPurpose { Work, Look };
 
 /// Reads the text of a record file into the globals: sources join recR, their nodes the tree. The
 /// text may be UTF-8 or, line by line, Windows-1252, with any line ends. A bad record is told and
-/// the whole read is dropped: the document is empty then, never half loaded. Lines with a tag that
-/// no edition knows are passed over.
+/// the whole read is dropped: the document is empty then, never half loaded. What a save would not
+/// give back is in the result.
 ReadResult ReadRecords(std::string_view text, ReadTalk& talk,
                        ReadPurpose purpose = ReadPurpose::Work);
 

@@ -26,6 +26,7 @@ clsX SingleValue::Statements(int n) const {
     if (n > 0) return item;
     // Held once, in the value line; the ^X line repeats what it can.
     item.KVOUValue = PRPUNCERTY;
+    if (item.HasUnmarkedRep()) return item;
     item.RValue = PRECIS;
     item.Repetitions = DETERMNM;
     return item;
@@ -35,8 +36,10 @@ void SingleValue::Statements(int n, const clsX& item) {
     const auto place = static_cast<std::size_t>(n);
     if (n == 0) {
         PRPUNCERTY = item.KVOUValue;
-        PRECIS = item.RValue;
-        DETERMNM = item.Repetitions;
+        if (!item.HasUnmarkedRep()) {
+            PRECIS = item.RValue;
+            DETERMNM = item.Repetitions;
+        }
     }
     // Nearly all values say no more than their line, and go without the pointer.
     if (item == Statements(n)) return;
@@ -48,24 +51,33 @@ void SingleValue::Statements(int n, const clsX& item) {
     items[place] = item;
 }
 
-void SingleValue::AddX(const clsX& item) {
+bool SingleValue::StandsByFactor() const {
+    return isOriginalUnit && (Factor > 0 || FallbackMolarMass > 0);
+}
+
+Placement SingleValue::AddX(const clsX& item) {
     clsX added = item;
     if (added.N < 0 && PRPCODE == added.PRPCODE) added.N = 0;
     for (int n = 1; n <= VariableCount() && added.N < 0; ++n)
         if (added.PRPCODE == VARIABLE(n)) added.N = n;
     if (added.N < 0 || added.N > VariableCount()) {
         Rare().others.push_back(added);
-        return;
+        return {};
     }
     if (added.N == 0) added.KVOUValue = PRPUNCERTY; // the line of an item does not carry it
     // A line that is silent on repeatability does not take away what the value line says.
+    const clsX before = Statements(added.N);
     if (!added.iRep && added.RValue.empty() && added.Repetitions.empty()) {
-        const clsX before = Statements(added.N);
         added.RValue = before.RValue;
         added.Repetitions = before.Repetitions;
         added.repOfValueLine = true;
     }
+    const std::string inLine = PRECIS;
     Statements(added.N, added);
+    // Per cent in the one is the figure in the other.
+    const bool changesLine =
+        !inLine.empty() && inLine != PRECIS.View() && inLine != PrecisionForRecord();
+    return {added.N, changesLine || (before.IsKept() && !added.SaysTheSame(before))};
 }
 
 void SingleValue::TakePending(const clsA& pending) {

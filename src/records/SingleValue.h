@@ -58,9 +58,10 @@ public:
     clsX Statements(int n) const;
     /// Makes no memory of its own for an item that says no more than the value line.
     void Statements(int n, const clsX& item);
+    bool StandsByFactor() const override;
     /// Puts a statement in its place; what has none is kept as read, and what the line of an item
     /// does not carry stays as it is.
-    void AddX(const clsX& item) override;
+    Placement AddX(const clsX& item) override;
     /// Takes over what stood in front of the value line. The pending factor is the user's own for
     /// a value in the system unit, and the molar mass for a unit that is based on mass.
     /// To be called once, before anything else is done with a value that was read.

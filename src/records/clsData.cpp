@@ -73,8 +73,7 @@ int clsData::DigitCount(int n) const {
     return SignificantDigits(Values[place]);
 }
 
-bool clsData::Load(std::string_view line, int variables) {
-    WordReader words(line);
+bool clsData::Load(WordReader& words, int variables) {
     const std::string_view tag = words.NextWord();
     isDigit = tag == "^G" || tag == "^g";
     inOriginalUnits = tag == "^d" || tag == "^g";
@@ -97,9 +96,8 @@ void clsData::LoadValue(std::string_view text, std::string_view digits, std::siz
     Digits[n] = static_cast<std::uint8_t>(count > 0 ? count : SignificantDigits(Values[n]));
 }
 
-void clsData::LoadExtras(std::string_view line) {
+void clsData::LoadExtras(WordReader& words) {
     auto extras = std::make_unique<RowExtras>();
-    WordReader words(line);
     words.NextWord();
     for (const std::size_t n : ItemOrder(nVar)) {
         RowStatements& item = extras->items[n];

@@ -11,6 +11,7 @@
 namespace vexora {
 
 class LineWriter;
+class WordReader;
 class XmlWriter;
 struct SetRows;
 struct UnitConversion;
@@ -78,11 +79,11 @@ public:
 
     /// Reads a row of so many variables; false when a word is missing.
     /// The line does not say how many: the set does. A count of digits of 0 or none is that of the
-    /// text; a word behind the property may lack.
-    bool Load(std::string_view line, int variables);
+    /// text; a word behind the property may lack. Words too many are left.
+    bool Load(WordReader& words, int variables);
     /// Reads the ^Y line that follows the row.
-    /// Words that lack are empty, words too many are passed over.
-    void LoadExtras(std::string_view line);
+    /// Words that lack are empty, words too many are left.
+    void LoadExtras(WordReader& words);
     /// Writes the row as it stands, and its ^Y line where something is stated.
     void PrintData(LineWriter& out) const;
     void PrintExtras(LineWriter& out) const;

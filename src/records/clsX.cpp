@@ -67,36 +67,86 @@ bool clsX::IsStated() const {
     return iDS || iRep || iUnc || iCD || hasCombined;
 }
 
+bool clsX::HasUnmarkedDS() const {
+    return !iDS && !(DSEvaluator.empty() && DSLevel.empty() && DSValue.empty());
+}
+
+bool clsX::HasUnmarkedRep() const {
+    const bool ofOwn = !repOfValueLine && !(RValue.empty() && Repetitions.empty());
+    return !iRep && (ofOwn || RType >= 0);
+}
+
+bool clsX::HasUnmarkedUnc() const {
+    return !iUnc && !(ULevel.empty() && UValue.empty());
+}
+
+bool clsX::HasUnmarkedCU() const {
+    return !iCU && !(CValue.empty() && CType.empty() && CLevel.empty());
+}
+
+bool clsX::HasUnmarkedCD() const {
+    return !iCD && !(CDRms.empty() && CDSpec.empty());
+}
+
+bool clsX::IsKept() const {
+    const bool hasUnmarked = HasUnmarkedDS() || HasUnmarkedRep() || HasUnmarkedUnc() ||
+                             HasUnmarkedCU() || HasUnmarkedCD();
+    return N >= 0 && (IsStated() || hasUnmarked);
+}
+
+bool clsX::SaysTheSame(const clsX& other) const {
+    clsX same = *this;
+    same.Verbatim = other.Verbatim;
+    return same == other;
+}
+
+bool clsX::HoldsAll() const {
+    WordReader words(Verbatim);
+    std::size_t place = 0;
+    constexpr std::size_t number = 1; // one that lacks is found by the code
+    for (const std::string& written : Words({})) {
+        const std::string read = WithoutPlaceholder(words.NextWord());
+        const bool same = read == written || place == number || (written == "-" && read.empty());
+        if (!same && !(IsNumeric(read) && IsNumeric(written) && Val(read) == Val(written)))
+            return false;
+        ++place;
+    }
+    const bool isMarkAlone = iCU && !IsKept(); // of a combined uncertainty, which states nothing
+    return words.AtEnd() && !isMarkAlone;
+}
+
 void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double molarMass) const {
-    if (!IsStated()) return;
-    const UnitConversion unit{std::string(code), factor, molarMass};
+    if (IsKept()) out.Fields(Words({std::string(code), factor, molarMass}));
+}
+
+std::vector<std::string> clsX::Words(const UnitConversion& unit) const {
     const auto system = [&](const std::string& typed) {
         return inSystemUnits ? typed : unit.DifferenceText(typed);
     };
     // The value line has it already, and would be contradicted when it is edited.
     const bool statesRep = iRep || !repOfValueLine;
-    out.Fields({"^X",
-                std::to_string(N),
-                PRPCODE,
-                PHASE,
-                Sign(iDS),
-                BlanksToUnderscores(DSEvaluator),
-                DSLevel,
-                system(DSValue),
-                Sign(iRep),
-                RType < 0 ? "" : std::to_string(RType),
-                statesRep ? system(RValue) : "",
-                statesRep && IsNumeric(Repetitions) ? Repetitions : "",
-                Sign(iUnc),
-                ULevel,
-                system(UValue),
-                Sign(iCU),
-                CType,
-                CLevel,
-                Sign(iCD),
-                system(CDRms),
-                BlanksToUnderscores(CDSpec),
-                CValue});
+    return {"^X",
+            std::to_string(N),
+            PRPCODE,
+            PHASE,
+            Sign(iDS),
+            BlanksToUnderscores(DSEvaluator),
+            DSLevel,
+            system(DSValue),
+            Sign(iRep),
+            RType < 0 ? "" : std::to_string(RType),
+            statesRep ? system(RValue) : "",
+            statesRep && IsNumeric(Repetitions) ? Repetitions : "",
+            Sign(iUnc),
+            ULevel,
+            system(UValue),
+            Sign(iCU),
+            CType,
+            CLevel,
+            Sign(iCD),
+            system(CDRms),
+            BlanksToUnderscores(CDSpec),
+            CValue};
 }
 
 void SaveOthers(LineWriter& out, const std::vector<clsX>& others) {

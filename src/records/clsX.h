@@ -8,6 +8,7 @@ namespace vexora {
 
 class LineWriter;
 class XmlWriter;
+struct UnitConversion;
 
 /// The uncertainty statements of one quantity of a data set: of the property (N = 0) or of a
 /// variable. The line and the meaning of a trailing "%" (per cent of the value) are those of the
@@ -17,10 +18,11 @@ class XmlWriter;
 ///      iUnc ULevel UValue iCU CType CLevel iCD CDRms CDSpec CValue
 ///
 /// PHASE is the phase that the quantity is meant in. iDS to iCD are "+" or "-": what is meant to
-/// hold. DS is the device specification, R the repeatability, U the uncertainty that the author
-/// states, C the combined one and CD the deviation from a curve; a Level is a level of confidence
-/// in per cent. DSEvaluator says who judged the device, CType "A" propagation or "B" comparison,
-/// CDSpec the equation of the curve. Words of two parts have "_" for the blank; "&" is empty.
+/// hold; figures that bear no such mark are kept. DS is the device specification, R the
+/// repeatability, U the uncertainty that the author states, C the combined one and CD the deviation
+/// from a curve; a Level is a level of confidence in per cent. DSEvaluator says who judged the
+/// device, CType "A" propagation or "B" comparison, CDSpec the equation of the curve. Words of two
+/// parts have "_" for the blank; "&" is empty.
 class clsX {
 public:
     int N = -1; // 0 the property, 1 to 4 variables, -1 not known
@@ -52,15 +54,32 @@ public:
 
     /// Takes any line: a word that lacks or makes no sense counts as not stated, N as -1.
     void Load(std::string_view line);
-    /// Whether there is a statement that would be written.
+    /// Whether there is a statement that is meant to hold.
     bool IsStated() const;
-    /// Writes the line when something is stated. A code other than "" or "S" converts the values of
-    /// a dialog to system units, as differences; values read from a file are never converted again.
-    /// factor and molarMass [g/mol] are those of the conversion.
+    /// Whether there is anything to write: a statement, or figures without the mark of one, as a
+    /// file may have them.
+    bool IsKept() const;
+    /// Figures without their mark, by blocks of the line.
+    bool HasUnmarkedDS() const;
+    bool HasUnmarkedRep() const; // none of the line of a value, which needs no mark
+    bool HasUnmarkedUnc() const;
+    bool HasUnmarkedCU() const;
+    bool HasUnmarkedCD() const;
+    /// The same statement, whatever line it was read from.
+    bool SaysTheSame(const clsX& other) const;
+    /// False when words of the line that it was read from are not among what it writes.
+    bool HoldsAll() const;
+    /// Writes the line when there is anything to write. A code other than "" or "S" converts the
+    /// values of a dialog to system units, as differences; values read from a file are never
+    /// converted again. factor and molarMass [g/mol] are those of the conversion.
     void SaveX(LineWriter& out, std::string_view code, double factor = 0,
                double molarMass = 0) const;
     /// The heads of the statements in the export; role is "Prop" or "Var".
     void ExportX(XmlWriter& xml, std::string_view role) const;
+
+private:
+    /// The fields of its line.
+    std::vector<std::string> Words(const UnitConversion& unit) const;
 };
 
 /// Writes the statements that have no place in their set: lines of a file as they came.

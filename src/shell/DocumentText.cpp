@@ -3,6 +3,9 @@
 #include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsR.h"
+#include "reference/Text.h"
+
+#include <ranges>
 
 namespace vexora {
 
@@ -23,7 +26,41 @@ void AskSourcesOfDocument() {
     }
 }
 
+/// The lines by their numbers; a box has no room for many or for long ones.
+std::string LinesInBrief(const std::vector<LineLost>& lost) {
+    constexpr std::size_t most = 10;
+    constexpr std::size_t widest = 100;
+    std::string text;
+    for (const LineLost& one : lost | std::views::take(most)) {
+        const bool isLong = CodePointCount(one.text) > widest;
+        text += "\nLine " + std::to_string(one.line) + ": " +
+                (isLong ? Substring(one.text, 1, widest) + "..." : one.text);
+    }
+    if (lost.size() > most)
+        text += "\nand " + std::to_string(lost.size() - most) +
+                " more: the command \"vexora-cli check\" names all of them.";
+    return text;
+}
+
 } // namespace
+
+Notice NoticeOfReading(const ReadResult& result) {
+    const std::string lines = LinesInBrief(result.lost);
+    if (result.linesNotKept == 0 && lines.empty()) return {};
+    if (result.linesNotKept == 0)
+        return {
+            "Not all that this file holds can be kept. When the document is saved, it will lack:" +
+                lines,
+            "Passed over"};
+    const std::string count = result.linesNotKept == 1
+                                  ? std::string("1 line")
+                                  : std::to_string(result.linesNotKept) + " lines";
+    return {"This document holds " + count +
+                " of data that this edition does not keep.\n"
+                "It is opened for reading only, so that nothing of it is lost." +
+                lines,
+            "Read only"};
+}
 
 ReadResult ReadDocument(std::string_view text, ReadPurpose purpose) {
     const ui::HourglassScope hourglass;

@@ -13,6 +13,11 @@ namespace vexora {
 /// Reads the text of a record file (see ReadRecords); what comes up is said and asked at once.
 ReadResult ReadDocument(std::string_view text, ReadPurpose purpose = ReadPurpose::Work);
 
+/// What is to be said of a document that has been read, in one message: lines that it does not
+/// hold, and that it is open for reading only for that. An empty text for one that holds all of
+/// them.
+Notice NoticeOfReading(const ReadResult& result);
+
 /// The document as a record file (see PrintDocument). A source that does not say where it was taken
 /// from is asked about first. Throws SaveRefused.
 std::string DocumentAsRecords();

@@ -111,7 +111,6 @@ private:
     void DropFile(const std::string& path);
     void OpenFile(const std::string& path, bool moveOutDir);
     bool TakeFile(const std::string& path);
-    void TellReadOnly(int linesNotKept);
     bool RefuseReadOnly();
     bool WriteDocument();
     bool MayExport();

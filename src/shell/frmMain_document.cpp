@@ -144,20 +144,10 @@ bool frmMain::TakeFile(const std::string& path) {
         EmptyDocument();
         return false;
     }
-    if (result.linesNotKept > 0) TellReadOnly(result.linesNotKept);
+    if (result.linesNotKept > 0) globals.ReadOnly = globals.Saved = true;
+    const Notice notice = NoticeOfReading(result);
+    if (!notice.text.empty()) ui::Say(notice.text, notice.title);
     return true;
-}
-
-void frmMain::TellReadOnly(int linesNotKept) {
-    KVOGlobal& globals = Globals();
-    globals.ReadOnly = true;
-    globals.Saved = true;
-    const std::string lines =
-        linesNotKept == 1 ? "1 line" : std::to_string(linesNotKept) + " lines";
-    ui::Say("This document holds " + lines +
-                " of data that this edition does not keep.\n"
-                "It is opened for reading only, so that nothing of it is lost.",
-            "Read only");
 }
 
 bool frmMain::RefuseReadOnly() {

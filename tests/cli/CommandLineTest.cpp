@@ -187,6 +187,17 @@ TEST_F(CommandLine, AnAuthorKnownNowhereIsNamedAndLeavesByHisCodes) {
     EXPECT_NE(exported.out.find("<sAuthor>nobody,x.y.</sAuthor>"), std::string::npos);
 }
 
+TEST_F(CommandLine, CheckNamesTheLinesThatASaveWouldLose) {
+    folder.Write("doc.txt", kDocument + "^S 1 ns\n^? a line\n");
+    const Outcome outcome = Run("check doc.txt");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err, "doc.txt: warning: 1 line holds data of kinds that this edition does "
+                           "not keep\n"
+                           "doc.txt:8: warning: sample 1 is described before, as "
+                           "cm;;99.9m%,gc\n"
+                           "doc.txt:9: warning: nobody knows this tag: ^? a line\n");
+}
+
 TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {
     const std::string local = Read("VXRLocal.mdb");
     const std::string compounds = Read("VXR.mdb");

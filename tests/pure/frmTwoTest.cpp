@@ -269,7 +269,7 @@ TEST_F(frmTwoTest, EditThatChangesNothingKeepsEveryByteAndCancelToo) {
     header.Load("^A note O C 9 xyz UUU 3/4/2001 sealed ::Method:REFR:future tag:V1:WL:T = 293.15:"
                 "UFactor:2:dRIX:0.5%:");
     set->TakePending(header);
-    ASSERT_TRUE(set->recData.Add({}).Load("^d 5893 1.3330 &", 1));
+    ASSERT_EQ(set->LoadRow("^d 5893 1.3330 &"), OpenRecord::Taken::Yes);
     set->AttachTo(*globals.CurrentS);
     const std::string before = Lines(*set);
     {
@@ -498,7 +498,7 @@ TEST_F(frmTwoTest, StatementsOfRowsGoWithTheirQuantity) {
     const auto set = Add("^1 2 VDN S DIR 1\tY L & FP S & & &");
     set->AddX(Statement("^X 1 T L + 1 95 0.05 - & & & - & & - & & - & & &"));
     ASSERT_EQ(set->LoadRow("^D 300 996.5 0.7"), OpenRecord::Taken::Yes);
-    ASSERT_TRUE(set->LoadRowStatements("^Y & & & 0.05 0.1 & & 0.5 0.6 0.2"));
+    ASSERT_EQ(set->LoadRowStatements("^Y & & & 0.05 0.1 & & 0.5 0.6 0.2"), OpenRecord::Taken::Yes);
     const auto accept = [](ui::Form& shown) { dynamic_cast<frmTable&>(shown).Accept(); };
     {
         auto& form = Edit(set);

@@ -4,6 +4,7 @@
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "support/DocumentFixture.h"
 
@@ -31,6 +32,12 @@ protected:
         EXPECT_EQ(Tree(), "");
         EXPECT_EQ(globals.CurrentR, nullptr);
         EXPECT_EQ(desktop.HourglassDepth(), 0);
+    }
+    static std::string Named(const ReadResult& result) {
+        std::string text;
+        for (const LineLost& lost : result.lost)
+            text += std::to_string(lost.line) + " " + lost.text + "\n";
+        return text;
     }
     ReadResult Read(const std::string& text) {
         const ReadResult result = ReadDocument(text);
@@ -171,7 +178,9 @@ TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
     const ReadResult result = Read(kWater + foreign + "^z 1 PC S 1 L G & 22 & & &\n" + mixture +
                                    "%% unknown\n^? line\n^L 64175 NNNNN &\n^S 1 ns\n"
                                    "^z 1 TC S 1 L G & 514 & & &\nBR 1\nBE\n");
-    EXPECT_EQ(result.linesNotKept, 6 + 6 + 2);
+    EXPECT_EQ(result.linesNotKept, 6 + 6 + 2 + 2);
+    EXPECT_EQ(Named(result), "17 nobody knows this tag: %% unknown\n"
+                             "18 nobody knows this tag: ^? line\n");
     const auto source = globals.recR.Item(std::size_t{1});
     const auto water = source->FindL("7732185")->FindS(1);
     ASSERT_EQ(water->recZ.Count(), 1U);
@@ -180,6 +189,106 @@ TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
     const auto value = source->FindL("64175")->FindS(1)->recZ.Item(std::size_t{1});
     EXPECT_EQ(value->Factor, 0);
     EXPECT_EQ(value->Header.DATACOMMENT, "");
+}
+
+// What follows kWater from line 4 on, and what is named of it.
+TEST_F(Reader, WhatASaveWouldLoseIsNamedWithItsLine) {
+    const std::string value = "^z 1 TC S 1 L G & 647.1 & & &\n";
+    const std::string set = "^1 1 VDN S DIR 1\tY L & FP S & & &\n";
+    const std::string stated = "^X 0 TC L - & & & - & & & + 95 0.1 - & & - & & &\n";
+    const std::string once = "what is stated here is stated once more in line ";
+    const std::string wins = ", which takes its place\n";
+    const std::string noUnit = "no value stands in the unit of the factor ";
+    const std::string noRecord = "no value or set stands under this header\n";
+    const std::string noWord = "words stand behind the last field\n";
+    const std::string noMeaning = "words of the statement have no meaning\n";
+    const auto header = [](const std::string& comment) {
+        return "^A & & & & & & & " + comment + "\n";
+    };
+    const std::pair<std::string, std::string> cases[] = {
+        // Samples, and lines about compounds and sources.
+        {"^S 1 cm;;99.9m%,gc\n" + value, ""},
+        {"^S 1 another\n^S 01\n", "4 sample 1 is described before, as cm;;99.9m%,gc\n"
+                                  "5 sample 01 is described before, as cm;;99.9m%,gc\n"},
+        {"^N 1014 C2H6O two\n", "4 no compound 1014 stands before it\n"},
+        {"BL 1014 1.2 P & -3 one\nBL 1014 1.2 P & -3 one\nBL 1014 1.2 P & -4 one\n",
+         "6 the compound is described before, in another way\n"},
+        {"^J#J#O#one\n^J#J#O#one\n^J#J#O#two\n",
+         "5 the source is described once more in line 6" + wins},
+        // Statements of which the last one holds.
+        {value + stated + stated, ""},
+        {value + stated + "^X & TC L - & & & - & & & + 95 0.2 - & & - & & &\n",
+         "5 " + once + "6" + wins},
+        {set + "^X 1 T L - & 1 2 - & & & - & & - & & - & & &\n" + "^X 0 VDN L\n" +
+             "^X 1 T L - & 1 3 - & & & - & & - & & - & & &\n",
+         "5 " + once + "7" + wins},
+        {"^z 1 TC S 1 L G & 200 & 1% 4\n^X 0 TC L - & & & + 0 1% 4 - & & - & & - & & &\n", ""},
+        {"^z 1 TC S 1 L G & 200 & 2 4\n^X 0 TC L - & & & + 0 1% 4 - & & - & & - & & &\n", ""},
+        {"^z 1 TC S 1 L G & 200 & 3 4\n^X 0 TC L - & & & + 0 1% 4 - & & - & & - & & &\n",
+         "4 " + once + "5" + wins},
+        {set + "^d 298 997 &\n^Y 1\n^Y 2\n^d 299 996 &\n^Y 1\n", "6 " + once + "7" + wins},
+        // Words without a place or a meaning.
+        {value + "^X 0 TC L - & & & + 2 0.5 3 - & & - & & - & & &\n", "5 " + noMeaning},
+        {value + "^X 0 TC L - & & & + 1 0.5 few - & & - & & - & & &\n", "5 " + noMeaning},
+        {value + "^X 0 TC L - & & & - & & & - & & + & & - & & &\n", "5 " + noMeaning},
+        {value + "^X 0 TC L - & & & - & & & + 95 0.1 - & & - & & & more\n", "5 " + noMeaning},
+        {value + "^X 7 ZZ L whatever it says\n", ""},
+        {set + "^d 298 997 & 1\n^d 298 997 & 1 2\n^Y & & & & & & & & & 1\n^g 1 1 2 1 & 1 2\n",
+         "6 " + noWord + "8 " + noWord},
+        // Factors that change nothing.
+        {"^M 1000\n" + value + "^M 0\n", ""},
+        {"^M 1000\n^Z 1 PC S 1 L G & 22.1 & & &\n^z 1 PC S 2 L G & 22.1 & & &\n^M 0\n", ""},
+        {"^M 1000\n^Z 1 PC S 1 L G & 22.1 & & &\n^M 0\n", "4 " + noUnit + "1000\n"},
+        {"^M 1000\n^z 1 PC A 1 L G & 22.1 & & &\n^S 1\n" + value,
+         "4 " + noUnit + "1000\n6 sample 1 is described before, as cm;;99.9m%,gc\n"},
+        {"^M 2\n^M 3\n" + value + "^M one\n", "4 " + noUnit + "2\n7 the factor is no number\n"},
+        {"^M 2\n" + set + "^d 298 997 &\n^M 0\n", ""},
+        {"^M 2\n" + set + "^D 298 997 &\n", "4 " + noUnit + "2\n"},
+        {"^M 18.015\n^z 1 HVP Z 1 L G & 2256 & & &\n^M 0\n", ""},
+        // Headers that no record stands under.
+        {header("one") + value, ""},
+        {header("&") + header("two") + value, ""},
+        {header("one") + header("two") + "^a three\n" + value + "^a four\n" +
+             "^z 1 TC S 2 L G & 1 & & &\n",
+         "4 " + noRecord + "5 " + noRecord},
+    };
+    const auto reread = [this](const std::string& lines) {
+        globals.recR.Clear();
+        form.tvwTree.Clear();
+        return Read(kWater + lines);
+    };
+    for (const auto& [lines, named] : cases) {
+        const ReadResult result = reread(lines);
+        EXPECT_EQ(Named(result), named) << lines;
+        EXPECT_EQ(result.linesNotKept, 0) << lines;
+    }
+    const ReadResult last = reread(value + header("last"));
+    EXPECT_EQ(Named(last), "5 " + noRecord);
+    EXPECT_EQ(last.linesNotKept, 1);
+}
+
+TEST_F(Reader, RowsBehindASetThatNobodyKnowsGoWithIt) {
+    const ReadResult result = Read(kWater + "^1 1 VDN S DIR 1\tY L & FP S & & &\n^d 298 997 &\n" +
+                                   "^A & & & & & & & later\n^8 1 VDN S\n^d 300 5 &\n^M 0\n");
+    EXPECT_EQ(result.linesNotKept, 4);
+    EXPECT_EQ(Named(result), "7 nobody knows this tag: ^8 1 VDN S\n");
+    EXPECT_EQ(globals.CurrentS->recTwo.Item(std::size_t{1})->recData.Count(), 1U);
+}
+
+TEST_F(Reader, OneMessageNamesTheFirstLinesAndCountsTheOthers) {
+    EXPECT_EQ(NoticeOfReading({}).text, "");
+    ReadResult result;
+    for (int line = 1; line <= 12; ++line)
+        result.lost.push_back({line, std::string(100, 'x')});
+    result.lost[0].text = std::string(99, 'x') + "\xC3\xA9\xC3\xA9";
+    const Notice notice = NoticeOfReading(result);
+    EXPECT_EQ(notice.title, "Passed over");
+    EXPECT_NE(notice.text.find("\nLine 1: " + std::string(99, 'x') + "\xC3\xA9...\nLine 2: "),
+              std::string::npos);
+    EXPECT_TRUE(notice.text.ends_with(
+        "x\nand 2 more: the command \"vexora-cli check\" names all of them."));
+    result.linesNotKept = 2;
+    EXPECT_EQ(NoticeOfReading(result).title, "Read only");
 }
 
 TEST_F(Reader, AnyEncodingAndLineEndIsRead) {

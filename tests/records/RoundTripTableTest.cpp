@@ -89,7 +89,7 @@ TEST_P(RoundTrips, TheFirstSaveSettlesADocument) {
     }
     EXPECT_EQ(DocumentAsRecords(), trip.saved);
     EXPECT_EQ(DocumentAsRecords(), trip.saved) << "saving changed the document";
-    EXPECT_EQ(LoadAndSave(trip.saved), trip.saved);
+    EXPECT_EQ(SavedAgain(trip.saved), trip.saved);
     if (trip.notes.find("alters numbers") != std::string::npos) return;
     EXPECT_EQ(NumbersOf(trip.saved), NumbersOf(trip.document));
 }
