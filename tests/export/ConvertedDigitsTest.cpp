@@ -1,13 +1,18 @@
 #include "chem/TableRows.h"
 #include "export/ExportFixture.h"
 #include "export/Statements.h"
+#include "export/XmlWriter.h"
+#include "records/LineWriter.h"
 #include "records/UnitConversion.h"
 #include "records/clsData.h"
+#include "records/clsTwo.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
 
 #include <cmath>
 #include <functional>
+#include <set>
 #include <vector>
 
 namespace vexora {
@@ -24,9 +29,8 @@ struct Typed {
 
 /// Numbers of one to six digits, the point anywhere among them or up to three zeros in front.
 std::vector<Typed> TypedNumbers() {
-    std::vector<Typed> numbers;
-    for (const std::string digits :
-         {"1", "100000", "123456", "254763", "500001", "760760", "999999", "873215", "375"}) {
+    std::vector<Typed> numbers = {{"7.6e2", 10}, {"1.50E-3", 1e-5}};
+    for (const std::string digits : {"100000", "254763", "500001", "999999"}) {
         for (std::size_t count = 1; count <= std::min<std::size_t>(MostTypedDigits, digits.size());
              ++count) {
             const std::string part = digits.substr(0, count);
@@ -74,6 +78,48 @@ protected:
         leaving.converts = true;
         return ExportedValue(typed, leaving);
     }
+    /// A set of a property against one variable in this unit, a row for each number, which is
+    /// its statement of uncertainty as well.
+    clsTwo SetAgainst(const std::string& variable, const std::string& code,
+                      const std::vector<Typed>& numbers) {
+        clsTwo set;
+        set.Parent = globals.CurrentS.get();
+        set.PRPCODE = "CP";
+        set.PROPERTY_UNIT = "S";
+        set.DATATYPE = "Y";
+        set.VARIABLE1 = variable;
+        set.VAR1_UNIT = code;
+        for (const Typed& typed : numbers) {
+            clsData row;
+            row.inOriginalUnits = true;
+            row.Values = {"1", typed.text};
+            row.Statements(1).Unc = typed.text;
+            set.AddRow(row);
+        }
+        return set;
+    }
+    /// The word at a place of each line with one of these tags.
+    static std::vector<std::string> Words(const std::string& lines, const std::string& tags,
+                                          int place) {
+        std::vector<std::string> found;
+        for (const std::string& line : Split(lines, '\n')) {
+            if (line.size() < 2 || line[0] != '^' || tags.find(line[1]) == tags.npos) continue;
+            WordReader words(line);
+            for (int n = 0; n < place; ++n)
+                words.NextWord();
+            found.emplace_back(words.NextWord());
+        }
+        return found;
+    }
+    static std::vector<std::string> Texts(const std::string& xml, const std::string& element) {
+        std::vector<std::string> found;
+        const std::string opening = "<" + element + ">";
+        for (std::size_t at = xml.find(opening); at != xml.npos; at = xml.find(opening, at + 1)) {
+            const std::size_t from = at + opening.size();
+            found.push_back(xml.substr(from, xml.find('<', from) - from));
+        }
+        return found;
+    }
     /// The figures of one exported element, in one line.
     std::string Exported(const std::string& lines, const std::string& element) {
         return Line(Data(kHeader + lines), element);
@@ -112,6 +158,57 @@ TEST_F(ConvertedDigits, StatementsOfEveryUnitComeBackAsTyped) {
                 ADD_FAILURE() << typed.text << " " << unit.code << " is " << system;
         }
     });
+    EXPECT_EQ(strays, 0);
+}
+
+TEST_F(ConvertedDigits, VariablesOfEveryUnitComeBackFromRecordAndExport) {
+    const std::vector<Typed> numbers = TypedNumbers();
+    Export(kHead);
+    int units = 0, strays = 0;
+    const auto check = [&](const VariableRow& variable, const std::string& code) {
+        const UnitConversion unit{code};
+        const clsTwo set = SetAgainst(variable.IndVarCode, code, numbers);
+        LineWriter lines;
+        set.Print(lines);
+        XmlWriter xml;
+        set.ExportAll(xml);
+        const auto values = Words(lines.Text(), "dg", 1), statements = Words(lines.Text(), "Y", 4);
+        const auto leaving = Texts(xml.Text(), "nVarValue"),
+                   digits = Texts(xml.Text(), "nVarDigits");
+        const auto leavingStatements = Texts(xml.Text(), "nStdUncertValue");
+        for (const auto* texts : {&values, &statements, &leaving, &digits, &leavingStatements})
+            ASSERT_EQ(texts->size(), numbers.size()) << variable.IndVarCode << " " << code;
+        const bool converts = IsUnitLong(code); // a letter stays in the record
+        const double inSystem =
+            code == "nm" || variable.IndVarCode == "WL" ? 10 : 1; // leaves in nm
+        for (std::size_t n = 0; n < numbers.size(); ++n) {
+            const Typed& typed = numbers[n];
+            const auto comesBack = [&](const std::string& text, double scale, bool isStatement) {
+                const double zero = isStatement ? Entered(unit, "0") : 0;
+                return IsNear(FromSystem(code, Val(text) * scale, 0, 0) - zero, typed);
+            };
+            const bool inRecord =
+                converts ? comesBack(values[n], 1, false) && comesBack(statements[n], 1, true)
+                         : values[n] == typed.text && statements[n] == typed.text;
+            const bool holds = inRecord && comesBack(leaving[n], inSystem, false) &&
+                               comesBack(leavingStatements[n], inSystem, true) &&
+                               digits[n] == std::to_string(TemperatureDigits(typed.text, code));
+            if (!holds && ++strays < 10)
+                ADD_FAILURE() << typed.text << " " << code << " is " << values[n] << " ± "
+                              << statements[n] << ", leaves as " << leaving[n] << " (" << digits[n]
+                              << ") ± " << leavingStatements[n];
+        }
+        ++units;
+    };
+    std::set<std::string> seen;
+    for (const VariableRow& variable : VariablesOf("Pure")) {
+        if (!seen.insert(variable.Unit).second) continue;
+        for (const std::string& text : UnitList(variable.Unit)) {
+            const std::string code = ConversionCodeOf(text, variable.Unit);
+            if (!IsMassBased(code)) check(variable, code);
+        }
+    }
+    EXPECT_GT(units, 40);
     EXPECT_EQ(strays, 0);
 }
 
