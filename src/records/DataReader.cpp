@@ -60,6 +60,12 @@ void LoseToThis(ReaderState& state, int line) {
                          std::to_string(state.lineNumber) + ", which takes its place");
 }
 
+/// A statement about nothing. What is told of a record that is not kept goes with that.
+void PassOverStatement(ReaderState& state) {
+    ++state.linesNotKept;
+    if (!state.lastNotKept) state.Lose(state.lineNumber, "nothing stands before this statement");
+}
+
 /// Where the read stands, as messages name it: source and compound, one a line.
 std::string PlaceOfRead() {
     const KVOGlobal& globals = Globals();
@@ -132,20 +138,14 @@ void ReadRow(ReaderState& state, std::string_view line) {
 void ReadRowStatements(ReaderState& state, std::string_view line) {
     const auto taken = state.open ? state.open->LoadRowStatements(line) : Taken::NoRows;
     // Data stay true without their statements, so the read goes on; the loss is counted.
-    if (taken == Taken::NoRows) {
-        ++state.linesNotKept;
-        return;
-    }
+    if (taken == Taken::NoRows) return PassOverStatement(state);
     if (state.rowStatementsLine != 0) LoseToThis(state, state.rowStatementsLine);
     state.rowStatementsLine = state.lineNumber;
     if (taken == Taken::InPart) state.Lose(state.lineNumber, WordsTooMany);
 }
 
 void ReadStatement(ReaderState& state, std::string_view line) {
-    if (!state.open) {
-        ++state.linesNotKept;
-        return;
-    }
+    if (!state.open) return PassOverStatement(state);
     clsX item;
     item.Load(line);
     const auto [place, replaces] = state.open->AddX(item);

@@ -137,6 +137,12 @@ void CheckVariable(const clsZ& value, Remarks& remarks, const std::string& prope
     }
 }
 
+/// Such figures stay in the record, and nobody else sees them.
+void CheckMarks(const clsX& stated, const std::string& name, Remarks& remarks) {
+    if (stated.HasUnmarked())
+        remarks.Warn(name + ": a figure of uncertainty has no mark and is not exported");
+}
+
 void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
     Remarks remarks(findings, value);
     if (!PropertyValid(value.PRPCODE)) {
@@ -146,6 +152,8 @@ void CheckValue(const clsZ& value, std::vector<DocumentFinding>& findings) {
     const std::string name = PropertyName(value.PRPCODE, value.DataContext());
     CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
     if (value.nVar == 1) CheckVariable(value, remarks, name);
+    for (int n = 0; n <= value.nVar; ++n)
+        CheckMarks(value.Statements(n), name, remarks);
     const std::string fault = UnitFault(value.PropertyConversion());
     if (!IsNumeric(value.PRPVALUE)) {
         remarks.Error(name + ": the value is no number: " + value.PRPVALUE);
@@ -224,6 +232,8 @@ void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
         remarks.Error(name + ": unknown definition of results " + set.PROPERTY_FUNCT);
     if (set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers())
         remarks.Warn(name + ": the data set has no rows");
+    for (const clsX& stated : set.UX)
+        CheckMarks(stated, name, remarks);
     CheckUnit(set, 0, name, remarks);
     for (int n = 1; n <= set.nVar; ++n) {
         if (VariableValid(set.VARIABLE(n)))

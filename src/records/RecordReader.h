@@ -13,7 +13,7 @@ struct ReadResult {
     bool whole = false;   // false: the read was abandoned and the document is empty
     int linesNotKept = 0; // lines of kinds of data that this edition reads over
     /// Lines that the document holds in part or not at all, in their order: of those not kept only
-    /// the ones whose tag nobody knows.
+    /// the ones whose tag nobody knows, and what has no record to belong to.
     std::vector<LineLost> lost;
     std::string fault;        // the message that was shown when the read was abandoned
     int faultLine = 0;        // line of the file, from 1

@@ -88,10 +88,13 @@ bool clsX::HasUnmarkedCD() const {
     return !iCD && !(CDRms.empty() && CDSpec.empty());
 }
 
+bool clsX::HasUnmarked() const {
+    return HasUnmarkedDS() || HasUnmarkedRep() || HasUnmarkedUnc() || HasUnmarkedCU() ||
+           HasUnmarkedCD();
+}
+
 bool clsX::IsKept() const {
-    const bool hasUnmarked = HasUnmarkedDS() || HasUnmarkedRep() || HasUnmarkedUnc() ||
-                             HasUnmarkedCU() || HasUnmarkedCD();
-    return N >= 0 && (IsStated() || hasUnmarked);
+    return N >= 0 && (IsStated() || HasUnmarked());
 }
 
 bool clsX::SaysTheSame(const clsX& other) const {

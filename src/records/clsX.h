@@ -59,7 +59,8 @@ public:
     /// Whether there is anything to write: a statement, or figures without the mark of one, as a
     /// file may have them.
     bool IsKept() const;
-    /// Figures without their mark, by blocks of the line.
+    /// Figures without their mark, in any block of the line and by blocks.
+    bool HasUnmarked() const;
     bool HasUnmarkedDS() const;
     bool HasUnmarkedRep() const; // none of the line of a value, which needs no mark
     bool HasUnmarkedUnc() const;

@@ -5,7 +5,8 @@
 #include "records/clsR.h"
 #include "reference/Text.h"
 
-#include <ranges>
+#include <algorithm>
+#include <span>
 
 namespace vexora {
 
@@ -31,7 +32,7 @@ std::string LinesInBrief(const std::vector<LineLost>& lost) {
     constexpr std::size_t most = 10;
     constexpr std::size_t widest = 100;
     std::string text;
-    for (const LineLost& one : lost | std::views::take(most)) {
+    for (const LineLost& one : std::span(lost).first(std::min(most, lost.size()))) {
         const bool isLong = CodePointCount(one.text) > widest;
         text += "\nLine " + std::to_string(one.line) + ": " +
                 (isLong ? Substring(one.text, 1, widest) + "..." : one.text);

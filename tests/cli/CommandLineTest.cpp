@@ -188,14 +188,16 @@ TEST_F(CommandLine, AnAuthorKnownNowhereIsNamedAndLeavesByHisCodes) {
 }
 
 TEST_F(CommandLine, CheckNamesTheLinesThatASaveWouldLose) {
-    folder.Write("doc.txt", kDocument + "^S 1 ns\n^? a line\n");
+    folder.Write("doc.txt", kDocument + "^X 0 TC L - & & 1\n^S 1 ns\n^? a line\n");
     const Outcome outcome = Run("check doc.txt");
     EXPECT_EQ(outcome.code, 1);
     EXPECT_EQ(outcome.err, "doc.txt: warning: 1 line holds data of kinds that this edition does "
                            "not keep\n"
-                           "doc.txt:8: warning: sample 1 is described before, as "
+                           "doc.txt:9: warning: sample 1 is described before, as "
                            "cm;;99.9m%,gc\n"
-                           "doc.txt:9: warning: nobody knows this tag: ^? a line\n");
+                           "doc.txt:10: warning: nobody knows this tag: ^? a line\n"
+                           "doc.txt:7: warning: Critical temperature: a figure of uncertainty "
+                           "has no mark and is not exported\n");
 }
 
 TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {

@@ -262,6 +262,10 @@ TEST_F(Reader, WhatASaveWouldLoseIsNamedWithItsLine) {
         EXPECT_EQ(Named(result), named) << lines;
         EXPECT_EQ(result.linesNotKept, 0) << lines;
     }
+    const ReadResult orphan = reread(stated + set + "^Y 1\n");
+    EXPECT_EQ(Named(orphan), "4 nothing stands before this statement\n"
+                             "6 nothing stands before this statement\n");
+    EXPECT_EQ(orphan.linesNotKept, 2);
     const ReadResult last = reread(value + header("last"));
     EXPECT_EQ(Named(last), "5 " + noRecord);
     EXPECT_EQ(last.linesNotKept, 1);
