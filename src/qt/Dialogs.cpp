@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
+#include <QAbstractButton>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -34,6 +36,10 @@ std::unique_ptr<QMessageBox> MakeMessageBox(const ui::Message& message, QWidget*
         ButtonsOf[static_cast<std::size_t>(message.buttons)], parent);
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    for (const auto& [button, words] :
+         {std::pair{Box::Yes, &message.yes}, {Box::No, &message.no}}) {
+        if (!words->empty()) box->button(button)->setText(ToQt(*words));
+    }
     box->setDefaultButton(StandardOf(message.safe));
     if (message.buttons == ui::MessageButtons::YesNo ||
         message.buttons == ui::MessageButtons::YesNoAll) {

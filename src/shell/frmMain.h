@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "shell/KnownFile.h"
 #include "shell/Paths.h"
 #include "ui/Form.h"
 
@@ -90,7 +91,8 @@ public:
     /// Opens the document of the command line; an empty path only shows the empty workbench.
     void OpenFromCommandLine(const std::string& path);
     void Save();
-    void SaveAs();
+    /// True when the document stands under the chosen name.
+    bool SaveAs();
     void ExportDocument();
 
 private:
@@ -113,10 +115,12 @@ private:
     bool TakeFile(const std::string& path);
     bool RefuseReadOnly();
     bool WriteDocument();
+    bool LeaveFile(bool saveElsewhere);
     bool MayExport();
     void WriteExport(const std::string& target);
     std::string StartFolder() const;
     std::string ChooseTarget(const std::string& proposed, const std::string& filter);
+    KnownFile known_; // the file of the document as this program left it
 
     // frmMain_toolbar.cpp
     void WireToolbar();

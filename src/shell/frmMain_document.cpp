@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
@@ -34,19 +35,33 @@ bool LosesCompounds(const clsR& source) {
     });
 }
 
-/// Prints what is to be written and writes it; why that failed, empty when it went well. Printing
-/// looks into the databases, and may ask the user, so it goes without the hourglass.
-std::string WriteText(const std::string& path, const std::function<std::string()>& print,
-                      bool keepBackup) {
+/// Prints what is to be written; nothing with the reason in error when that fails. Printing looks
+/// into the databases, and may ask the user, so it goes without the hourglass.
+std::optional<std::string> Printed(const std::function<std::string()>& print, std::string& error) {
     try {
-        const std::string text = print();
-        const ui::HourglassScope hourglass;
-        return WriteSafely(ui::TheDesktop().Files(), path, text, keepBackup);
+        return print();
     } catch (const SaveRefused& refused) {
-        return refused.what();
+        error = refused.what();
     } catch (const DatabaseError& damaged) {
-        return damaged.what();
+        error = damaged.what();
     }
+    return {};
+}
+
+std::string WriteText(const std::string& path, std::string_view text, bool keepBackup) {
+    const ui::HourglassScope hourglass;
+    return WriteSafely(ui::TheDesktop().Files(), path, text, keepBackup);
+}
+
+/// Yes to write over it, No to take another name.
+ui::Answer AskAboutChange() {
+    return ui::TheDesktop().Show(
+        {"The file has been changed by another program since it was opened.",
+         {},
+         ui::MessageButtons::YesNoCancel,
+         ui::Answer::Cancel,
+         "&Save anyway",
+         "Save &as..."});
 }
 
 /// From its first save on the source and its authors are known to the next document. The file is
@@ -86,6 +101,7 @@ void frmMain::EmptyDocument() {
     globals.DialogAccepted = false;
     MouseSelected = false;
     FileName.clear();
+    known_.Forget();
     if (!globals.ShellLocked) Enable();
 }
 
@@ -144,6 +160,7 @@ bool frmMain::TakeFile(const std::string& path) {
         EmptyDocument();
         return false;
     }
+    known_.Note(path, *text);
     if (result.linesNotKept > 0) globals.ReadOnly = globals.Saved = true;
     const Notice notice = NoticeOfReading(result);
     if (!notice.text.empty()) ui::Say(notice.text, notice.title);
@@ -171,8 +188,16 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
-    const std::string error = WriteText(FileName, DocumentAsRecords, true);
+    std::string error;
+    const auto text = Printed(DocumentAsRecords, error);
+    // Printing may ask, and meanwhile the file may change; so it is looked at last of all.
+    if (text && known_.IsChanged(ui::TheDesktop().Files(), FileName)) {
+        const ui::Answer answer = AskAboutChange();
+        if (answer != ui::Answer::Yes) return LeaveFile(answer == ui::Answer::No);
+    }
+    if (text) error = WriteText(FileName, *text, true);
     if (error.empty()) {
+        known_.Note(FileName, *text);
         globals.Saved = true;
         globals.DialogAccepted = false;
         RegisterSaved();
@@ -181,6 +206,13 @@ bool frmMain::WriteDocument() {
     }
     RefreshTexts();
     return error.empty();
+}
+
+/// The file is left to the other program; under another name the document may stand beside it.
+bool frmMain::LeaveFile(bool saveElsewhere) {
+    Globals().Saved = false;
+    RefreshTexts();
+    return saveElsewhere && SaveAs();
 }
 
 /// The full path of a file to be written, after the question about an existing one; empty on
@@ -198,16 +230,17 @@ std::string frmMain::ChooseTarget(const std::string& proposed, const std::string
 }
 
 /// The document keeps its present name when it cannot be written under the new one.
-void frmMain::SaveAs() {
-    if (Globals().recR.IsEmpty() || RefuseReadOnly()) return;
+bool frmMain::SaveAs() {
+    if (Globals().recR.IsEmpty() || RefuseReadOnly()) return false;
     const std::string target = ChooseTarget(
         FileName.empty() ? Source().ProposedName() + ".txt" : FileTitle(), RecordFiles);
-    if (target.empty()) return;
+    if (target.empty()) return false;
     const std::string presentName = std::exchange(FileName, target);
     Globals().OutDir = SplitPath(target).Folder;
-    if (WriteDocument()) return;
+    if (WriteDocument()) return true;
     FileName = presentName;
     RefreshTexts();
+    return false;
 }
 
 /// What a read-only document holds beyond this edition would be missing from the export.
@@ -232,8 +265,9 @@ void frmMain::WriteExport(const std::string& target) {
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (!FileName.empty() && files.Resolve(target) == files.Resolve(FileName))
         return ui::Say("The export cannot take the place of the record file " + FileName + ".");
-    const auto print = [] { return DocumentAsXml(ui::TheDesktop().Today()); };
-    const std::string error = WriteText(target, print, false);
+    std::string error;
+    const auto text = Printed([] { return DocumentAsXml(ui::TheDesktop().Today()); }, error);
+    if (text) error = WriteText(target, *text, false);
     if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
 }
 

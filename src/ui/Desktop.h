@@ -18,6 +18,8 @@ struct Message {
     std::string title;
     MessageButtons buttons = MessageButtons::Ok;
     Answer safe = Answer::Ok; // what Enter gives: the answer that loses nothing
+    std::string yes = {};     // what stands on the button Yes in its place, "&" before its letter
+    std::string no = {};      // the same of No
 };
 
 struct Input {

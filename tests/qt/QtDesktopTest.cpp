@@ -53,6 +53,22 @@ TEST_F(OnTheScreen, EnterAndEscapeGiveTheAnswerThatLosesNothing) {
     EXPECT_TRUE(ui::AskYesNo("Go on?"));
 }
 
+TEST_F(OnTheScreen, ButtonsWithWordsOfTheirOwnGiveTheUsualAnswers) {
+    WhenAsked([](QMessageBox& box) {
+        EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Save anyway");
+        EXPECT_EQ(static_cast<QAbstractButton*>(box.defaultButton()),
+                  box.button(QMessageBox::Cancel));
+        box.button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(desktop_.Show({"The file has been changed by another program since it was opened.",
+                             {},
+                             ui::MessageButtons::YesNoCancel,
+                             ui::Answer::Cancel,
+                             "&Save anyway",
+                             "Save &as..."}),
+              ui::Answer::No);
+}
+
 TEST_F(OnTheScreen, AMissingPageOfHelpIsOneMessage) {
     QString told;
     WhenAsked([&told](QMessageBox& box) {
