@@ -4,6 +4,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
+#include "shell/DocumentAside.h"
 #include "shell/ReadingPane.h"
 #include "shell/StartUp.h"
 #include "ui/Desktop.h"
@@ -30,6 +31,8 @@ frmMain::frmMain() : Form("frmMain", MainCaption) {
     WireTree();
 }
 
+frmMain::~frmMain() = default;
+
 void frmMain::Load() {
     Globals().tvwTree = &tvwTree;
     for (ui::MenuItem* entry :
@@ -48,8 +51,10 @@ void frmMain::Unload() {
 }
 
 void frmMain::WireMenus() {
-    New.OnClick = [this] { BeginWith("frmDocument"); };
-    mnuFindRef.OnClick = [this] { BeginWith("frmRef"); };
+    New.OnClick = [this] {
+        if (NewProc()) OpenDialog("frmDocument");
+    };
+    mnuFindRef.OnClick = [this] { FindReference(); };
     Open.OnClick = [this] { OpenDocument(); };
     SaveEntry.OnClick = [this] { Save(); };
     SaveAsEntry.OnClick = [this] { SaveAs(); };
@@ -81,6 +86,7 @@ void frmMain::WireTree() {
 void frmMain::Activate() {
     KVOGlobal& globals = Globals();
     if (!globals.OpenForms.empty()) return;
+    SettleAside();
     if (!globals.recR.IsEmpty() && globals.CurrentKey.empty()) SelectRoot();
     if (globals.DialogAccepted) globals.Saved = false;
     globals.DialogAccepted = false;

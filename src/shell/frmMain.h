@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -9,12 +10,16 @@
 
 namespace vexora {
 
+class DocumentAside;
+struct ReadResult;
+
 /// The main form: the open document as a tree, the toolbar that offers what the selected node
 /// allows, the selected record in plain words, and a line that says how things stand. It opens and
 /// saves the document and opens every dialog. It is open as long as the program runs.
 class frmMain : public ui::Form {
 public:
     frmMain();
+    ~frmMain() override;
 
     ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
     ui::MenuItem New{*this, "New", "&New", &mnuFile, "Ctrl+N"};
@@ -108,10 +113,13 @@ private:
     std::string StatusText() const;
 
     // frmMain_document.cpp
-    void BeginWith(std::string_view dialog);
+    void FindReference();
+    void PutAside();
+    void SettleAside();
     bool MayDiscard();
     void DropFile(const std::string& path);
     void OpenFile(const std::string& path, bool moveOutDir);
+    ReadResult ReadAside(const std::string& text);
     bool TakeFile(const std::string& path);
     bool RefuseReadOnly();
     bool WriteDocument();
@@ -121,6 +129,8 @@ private:
     std::string StartFolder() const;
     std::string ChooseTarget(const std::string& proposed, const std::string& filter);
     KnownFile known_; // the file of the document as this program left it
+    /// The document before, while it is open whether another one takes its place.
+    std::unique_ptr<DocumentAside> aside_;
 
     // frmMain_toolbar.cpp
     void WireToolbar();

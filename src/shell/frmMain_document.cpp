@@ -12,6 +12,7 @@
 #include "records/clsS.h"
 #include "reference/Database.h"
 #include "reference/SafeFile.h"
+#include "shell/DocumentAside.h"
 #include "shell/DocumentText.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -105,8 +106,25 @@ void frmMain::EmptyDocument() {
     if (!globals.ShellLocked) Enable();
 }
 
-void frmMain::BeginWith(std::string_view dialog) {
-    if (NewProc()) OpenDialog(dialog);
+/// The present document comes back unless the dialogs leave another one.
+void frmMain::FindReference() {
+    if (!MayDiscard()) return;
+    PutAside();
+    OpenDialog("frmRef");
+}
+
+void frmMain::PutAside() {
+    aside_ = std::make_unique<DocumentAside>(FileName, known_);
+    EmptyDocument();
+}
+
+/// A document that was put aside goes when there is another one, and else comes back.
+void frmMain::SettleAside() {
+    const auto before = std::move(aside_);
+    if (!before || !Globals().recR.IsEmpty()) return;
+    before->PutBack(FileName, known_);
+    MouseSelected = true;
+    SelectNode();
 }
 
 std::string frmMain::StartFolder() const {
@@ -114,9 +132,8 @@ std::string frmMain::StartFolder() const {
 }
 
 void frmMain::OpenDocument() {
-    const std::string present = FileName;
-    if (!NewProc()) return;
-    const auto path = ui::TheDesktop().Choose({false, StartFolder(), present, RecordFiles});
+    if (!MayDiscard()) return;
+    const auto path = ui::TheDesktop().Choose({false, StartFolder(), FileName, RecordFiles});
     if (path && !path->empty()) OpenFile(*path, false);
     Activate();
 }
@@ -130,12 +147,12 @@ void frmMain::OpenFromCommandLine(const std::string& path) {
 void frmMain::DropFile(const std::string& path) {
     const KVOGlobal& globals = Globals();
     if (globals.ShellLocked || !globals.OpenForms.empty() || !IsReachable()) return;
-    if (!NewProc()) return;
+    if (!MayDiscard()) return;
     OpenFile(path, true);
     Activate();
 }
 
-/// Opens a document in place of the empty one. The names are set only when the read left a source.
+/// Opens a document in place of the present one, which goes only when the read left a source.
 void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     const std::string whole = AbsolutePath(path);
     if (!TakeFile(whole)) return;
@@ -143,6 +160,18 @@ void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
     SelectRoot();
     SelectBy(true);
+}
+
+/// Reads while the present document is put aside. Of a read that cannot go on nothing stays.
+ReadResult frmMain::ReadAside(const std::string& text) {
+    PutAside();
+    try {
+        return ReadDocument(text);
+    } catch (...) {
+        EmptyDocument();
+        SettleAside();
+        throw;
+    }
 }
 
 bool frmMain::TakeFile(const std::string& path) {
@@ -153,13 +182,12 @@ bool frmMain::TakeFile(const std::string& path) {
         ui::Say("The file " + path + " cannot be read.\n" + error);
         return false;
     }
-    const ReadResult result = ReadDocument(*text);
+    const ReadResult result = ReadAside(*text);
     globals.DialogAccepted = false;
-    if (!result.whole || globals.recR.IsEmpty()) {
-        if (result.whole) ui::Say("The file " + path + " holds no source record.");
-        EmptyDocument();
-        return false;
-    }
+    const bool isEmpty = globals.recR.IsEmpty();
+    if (isEmpty && result.whole) ui::Say("The file " + path + " holds no source record.");
+    SettleAside();
+    if (isEmpty) return false;
     known_.Note(path, *text);
     if (result.linesNotKept > 0) globals.ReadOnly = globals.Saved = true;
     const Notice notice = NoticeOfReading(result);

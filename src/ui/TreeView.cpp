@@ -1,5 +1,7 @@
 #include "ui/TreeView.h"
 
+#include <utility>
+
 namespace vexora::ui {
 
 TreeNode::TreeNode(TreeView& tree, TreeNode* parent, std::string key, std::string text)
@@ -75,6 +77,27 @@ void TreeView::Remove(TreeNode& node) {
 void TreeView::Clear() {
     while (!roots_.empty())
         Remove(*roots_.back());
+}
+
+TreeView::Content TreeView::TakeOut() {
+    for (auto root = roots_.rbegin(); root != roots_.rend(); ++root)
+        NodeRemoved.Emit(root->get());
+    Content content;
+    content.roots_.swap(roots_);
+    content.byKey_.swap(byKey_);
+    content.selected_ = std::exchange(selected_, nullptr);
+    Changed();
+    return content;
+}
+
+void TreeView::PutBack(Content content) {
+    Clear();
+    roots_ = std::move(content.roots_);
+    byKey_ = std::move(content.byKey_);
+    selected_ = content.selected_;
+    for (const auto& root : roots_)
+        NodeAdded.Emit(root.get());
+    Changed();
 }
 
 TreeNode* TreeView::Find(std::string_view key) const {

@@ -59,6 +59,17 @@ public:
     /// Gives a node another key, and with it all below whose keys begin with that of the node.
     void Rekey(TreeNode& node, std::string_view key);
     void Clear();
+    /// All nodes of a tree while they stand in none; they keep their place in memory.
+    class Content {
+        friend class TreeView;
+        std::vector<std::unique_ptr<TreeNode>> roots_;
+        std::unordered_map<std::string_view, TreeNode*> byKey_;
+        TreeNode* selected_ = nullptr;
+    };
+    /// Empties the tree without destroying its nodes.
+    Content TakeOut();
+    /// Puts nodes that were taken out of this tree in place of those that are in it.
+    void PutBack(Content content);
     bool IsEmpty() const { return roots_.empty(); }
     const std::vector<std::unique_ptr<TreeNode>>& Roots() const { return roots_; }
     TreeNode* Find(std::string_view key) const;
