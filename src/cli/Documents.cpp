@@ -59,10 +59,11 @@ int Export(OpenedDocument& document, const Arguments& arguments) {
     const std::string xml = DocumentAsXml(ui::TheDesktop().Today());
     if (arguments.xml.empty()) {
         std::cout << xml;
-    } else if (const std::string error = WriteSafely(document.Files(), arguments.xml, xml, false);
-               !error.empty()) {
-        std::cerr << arguments.xml << ": error: " << error << '\n';
-        return kExitCannotWrite;
+    } else if (const SaveOutcome outcome = WriteSafely(document.Files(), arguments.xml, xml, false);
+               !outcome.fault.empty()) {
+        std::cerr << arguments.xml << (outcome.isSaved ? ": warning: saved, but " : ": error: ")
+                  << outcome.fault << '\n';
+        if (!outcome.isSaved) return kExitCannotWrite;
     }
     return document.Findings() == 0 ? kExitClean : kExitFindings;
 }

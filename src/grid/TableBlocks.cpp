@@ -201,8 +201,8 @@ void TableBlocks::SaveFile() const {
     if (!path) return;
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (files.Exists(*path) && !ui::AskYesNo(*path + " exists already\nReplace it?")) return;
-    const std::string error = WriteSafely(files, *path, Text(), false);
-    if (!error.empty()) ui::Say(error);
+    const SaveOutcome outcome = WriteSafely(files, *path, Text(), false);
+    if (const std::string told = outcome.Told("The file " + *path); !told.empty()) ui::Say(told);
 }
 
 std::string TableBlocks::Text() const {

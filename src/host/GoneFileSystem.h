@@ -23,6 +23,7 @@ public:
         error = gone;
         return nullptr;
     }
+    std::vector<std::string> Leftovers(const std::string&) override { return {}; }
     std::string MakeFolder(const std::string&) override { return gone; }
     std::string Remove(const std::string&) override { return gone; }
     std::string Rename(const std::string&, const std::string&) override { return gone; }

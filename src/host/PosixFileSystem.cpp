@@ -4,7 +4,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cctype>
 #include <cerrno>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -15,6 +17,30 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr mode_t NewFileMode = 0666; // before the umask of the user
+
+// A temporary file is the name of its target with this and six letters or digits behind it, so that
+// it is known again and never taken for a file of the user.
+constexpr std::string_view TemporaryMark = ".vxr-";
+constexpr std::size_t TemporaryLetters = 6;
+constexpr std::time_t LeftoverAge = 60; // [s] no save takes as long
+
+/// What stands behind the name of the target; a copy of a temporary file carries the mark twice.
+bool IsTemporaryEnding(std::string_view ending) {
+    const std::size_t length = TemporaryMark.size() + TemporaryLetters;
+    if (ending.size() < length || !ending.starts_with(TemporaryMark)) return false;
+    for (const char c : ending.substr(TemporaryMark.size(), TemporaryLetters)) {
+        if (std::isalnum(static_cast<unsigned char>(c)) == 0) return false;
+    }
+    return ending.size() == length || IsTemporaryEnding(ending.substr(length));
+}
+
+/// A second name is as young as its making, however old the file is.
+bool IsLeftover(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
+    const std::time_t made = status.st_nlink > 1 ? status.st_ctime : status.st_mtime;
+    return std::time(nullptr) - made > LeftoverAge;
+}
 
 std::string Reason(int error) {
     return std::generic_category().message(error);
@@ -138,7 +164,7 @@ std::string PosixFileSystem::WhyNotWritable(const std::string& path) {
 std::unique_ptr<ui::OutputFile> PosixFileSystem::CreateBeside(const std::string& target,
                                                               std::string& temporaryPath,
                                                               std::string& error) {
-    std::string path = target + ".XXXXXX";
+    std::string path = target + std::string(TemporaryMark) + std::string(TemporaryLetters, 'X');
     const int file = ::mkstemp(path.data());
     if (file < 0) {
         error = Reason(errno);
@@ -153,6 +179,21 @@ std::unique_ptr<ui::OutputFile> PosixFileSystem::CreateBeside(const std::string&
     }
     temporaryPath = path;
     return std::make_unique<PosixOutputFile>(file);
+}
+
+std::vector<std::string> PosixFileSystem::Leftovers(const std::string& target) {
+    const std::string title = fs::path(target).filename().string();
+    std::vector<std::string> found;
+    std::error_code error;
+    fs::directory_iterator entry(FolderOf(target), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (!name.starts_with(title) ||
+            !IsTemporaryEnding(std::string_view(name).substr(title.size())))
+            continue;
+        if (IsLeftover(entry->path().string())) found.push_back(entry->path().string());
+    }
+    return found;
 }
 
 std::string PosixFileSystem::MakeFolder(const std::string& path) {

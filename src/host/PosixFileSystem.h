@@ -17,6 +17,7 @@ public:
     std::unique_ptr<ui::OutputFile> CreateBeside(const std::string& target,
                                                  std::string& temporaryPath,
                                                  std::string& error) override;
+    std::vector<std::string> Leftovers(const std::string& target) override;
     std::string MakeFolder(const std::string& path) override;
     std::string Remove(const std::string& path) override;
     std::string Rename(const std::string& source, const std::string& target) override;

@@ -155,8 +155,8 @@ void frmGraph::mnuFileSave_Click() {
     const auto bytes = isPng ? ui::TheDesktop().PngOf(picPIC) : SvgOf(picPIC, Caption());
     if (!bytes)
         return ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
-    const std::string error = WriteSafely(files, path, *bytes, false);
-    if (!error.empty()) ui::Say(error);
+    const SaveOutcome outcome = WriteSafely(files, path, *bytes, false);
+    if (const std::string told = outcome.Told("The file " + path); !told.empty()) ui::Say(told);
 }
 
 void frmGraph::ChangeTolerance(double factor) {

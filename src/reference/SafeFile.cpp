@@ -6,6 +6,8 @@ namespace vexora {
 
 namespace {
 
+constexpr const char* BackupEnding = ".bak";
+
 /// Removes a file at the end of the scope unless it was kept.
 class TemporaryFile {
 public:
@@ -40,55 +42,89 @@ std::string Fill(ui::OutputFile& file, std::string_view content) {
 
 /// Gives the file a second name; where links are not to be had, a copy.
 std::string SecondName(ui::FileSystem& files, const std::string& path, const std::string& name) {
-    if (files.Exists(name)) files.Remove(name);
     // A link costs no room and cannot be half done.
     return files.Link(path, name).empty() ? std::string() : files.Copy(path, name);
 }
 
-/// Puts the finished file in the place of the target; the present one becomes the backup. Both
-/// happen or neither.
-std::string Exchange(ui::FileSystem& files, TemporaryFile& finished, const std::string& target,
+bool Holds(ui::FileSystem& files, const std::string& path, std::string_view content) {
+    std::string error;
+    const auto present = files.Read(path, error);
+    return present && *present == content;
+}
+
+/// Puts the finished file in the place of the target; the present one becomes the backup, if a name
+/// for that is given. Both happen or neither. A renaming over a network may report a fault and have
+/// happened all the same, so it is looked at what stands.
+SaveOutcome Exchange(ui::FileSystem& files, const TemporaryFile& finished,
+                     const std::string& target, std::string_view content,
                      const std::string& backup) {
-    if (backup.empty()) {
-        std::string error = files.Rename(finished.Path(), target);
-        if (error.empty()) finished.Keep();
-        return error;
-    }
     // Under a temporary name first: the old backup is gone only when there is a new one.
-    TemporaryFile present(files, backup + ".tmp");
-    std::string error = SecondName(files, target, present.Path());
-    if (error.empty()) error = files.Rename(finished.Path(), target);
-    if (!error.empty()) return error;
-    finished.Keep();
-    // If the backup cannot be put in place, what stood there comes back and the save has failed.
+    TemporaryFile present(files, backup.empty() ? std::string()
+                                                : backup + finished.Path().substr(target.size()));
+    std::string error;
+    if (!backup.empty()) error = SecondName(files, target, present.Path());
+    if (!error.empty()) return {false, error};
+    error = files.Rename(finished.Path(), target);
+    if (!error.empty() && (files.Exists(finished.Path()) || !Holds(files, target, content)))
+        return {false, error};
+    if (backup.empty()) return {true, {}};
     error = files.Rename(present.Path(), backup);
-    if (!error.empty() && !files.Rename(present.Path(), target).empty()) present.Keep();
-    return error;
+    if (error.empty() || !files.Exists(present.Path())) return {true, {}};
+    // What stood there comes back, and the save has failed.
+    files.Rename(present.Path(), target);
+    if (!files.Exists(present.Path())) return {false, error};
+    present.Keep();
+    return {true, error + "\nThe version before is " + present.Path()};
+}
+
+/// A rename lives in the folder; without this a power cut may bring back the old file.
+std::string FlushFolders(ui::FileSystem& files, const std::string& target,
+                         const std::string& backup) {
+    const std::string error = files.FlushFolder(FolderOf(target));
+    if (backup.empty() || FolderOf(backup) == FolderOf(target)) return error;
+    const std::string ofBackup = files.FlushFolder(FolderOf(backup));
+    return error.empty() ? ofBackup : error;
+}
+
+/// One that cannot be removed is no reason not to save.
+void RemoveLeftovers(ui::FileSystem& files, const std::string& target) {
+    for (const std::string& path : files.Leftovers(target))
+        files.Remove(path);
 }
 
 } // namespace
 
-std::string WriteSafely(ui::FileSystem& files, const std::string& path, std::string_view content,
+std::string SaveOutcome::Told(const std::string& file) const {
+    if (fault.empty()) return {};
+    return file +
+           (isSaved ? " is saved, but the disk reports a fault.\n" : " cannot be written.\n") +
+           fault;
+}
+
+SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, std::string_view content,
                         bool keepBackup) {
     const std::string target = files.Resolve(path);
     // Before anything is written: a rename would replace a write-protected file without asking.
-    if (std::string reason = files.WhyNotWritable(target); !reason.empty()) return reason;
+    if (const std::string reason = files.WhyNotWritable(target); !reason.empty())
+        return {false, reason};
+    RemoveLeftovers(files, target);
+    if (keepBackup) RemoveLeftovers(files, path + BackupEnding);
     std::string temporaryPath;
     std::string error;
     const std::unique_ptr<ui::OutputFile> file = files.CreateBeside(target, temporaryPath, error);
-    if (!file) return error.empty() ? "The file cannot be made: " + target : error;
-    TemporaryFile temporary(files, temporaryPath);
+    if (!file) return {false, error.empty() ? "The file cannot be made: " + target : error};
+    const TemporaryFile temporary(files, temporaryPath);
     error = Fill(*file, content);
-    if (!error.empty()) return error;
     // On a full disk writing has been seen to report success for a file cut short.
-    if (files.Size(temporaryPath) != static_cast<long long>(content.size()))
-        return "The file was not written whole: " + target;
-    const std::string backup = keepBackup && files.Exists(target) ? path + ".bak" : "";
-    error = Exchange(files, temporary, target, backup);
-    if (!error.empty()) return error;
-    // A rename lives in the folder; without this a power cut may bring back the old file.
-    files.FlushFolder(FolderOf(target));
-    return {};
+    if (error.empty() && files.Size(temporaryPath) != static_cast<long long>(content.size()))
+        error = "The file was not written whole: " + target;
+    if (!error.empty()) return {false, error};
+    const std::string backup = keepBackup && files.Exists(target) ? path + BackupEnding : "";
+    SaveOutcome outcome = Exchange(files, temporary, target, content, backup);
+    if (!outcome.isSaved) return outcome;
+    error = FlushFolders(files, target, backup);
+    if (outcome.fault.empty()) outcome.fault = error;
+    return outcome;
 }
 
 } // namespace vexora

@@ -109,11 +109,11 @@ void ReadConfiguration() {
 
 bool WriteConfiguration() {
     const std::string path = ConfigurationPath();
-    const std::string error =
+    const SaveOutcome outcome =
         WriteSafely(ui::TheDesktop().Files(), path, ConfigurationText(), false);
-    if (error.empty()) return true;
-    ui::Say("The configuration " + path + " cannot be written.\n" + error);
-    return false;
+    if (const std::string told = outcome.Told("The configuration " + path); !told.empty())
+        ui::Say(told);
+    return outcome.isSaved;
 }
 
 } // namespace vexora

@@ -49,9 +49,13 @@ std::optional<std::string> Printed(const std::function<std::string()>& print, st
     return {};
 }
 
-std::string WriteText(const std::string& path, std::string_view text, bool keepBackup) {
+SaveOutcome WriteText(const std::string& path, std::string_view text, bool keepBackup) {
     const ui::HourglassScope hourglass;
     return WriteSafely(ui::TheDesktop().Files(), path, text, keepBackup);
+}
+
+void Tell(const SaveOutcome& outcome, const std::string& path) {
+    if (const std::string told = outcome.Told("The file " + path); !told.empty()) ui::Say(told);
 }
 
 /// Yes to write over it, No to take another name.
@@ -216,24 +220,23 @@ bool frmMain::WriteDocument() {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
     }
-    std::string error;
-    const auto text = Printed(DocumentAsRecords, error);
+    SaveOutcome outcome;
+    const auto text = Printed(DocumentAsRecords, outcome.fault);
     // Printing may ask, and meanwhile the file may change; so it is looked at last of all.
     if (text && known_.IsChanged(ui::TheDesktop().Files(), FileName)) {
         const ui::Answer answer = AskAboutChange();
         if (answer != ui::Answer::Yes) return LeaveFile(answer == ui::Answer::No);
     }
-    if (text) error = WriteText(FileName, *text, true);
-    if (error.empty()) {
+    if (text) outcome = WriteText(FileName, *text, true);
+    if (outcome.isSaved) {
         known_.Note(FileName, *text);
         globals.Saved = true;
         globals.DialogAccepted = false;
         RegisterSaved();
-    } else {
-        ui::Say("The file " + FileName + " cannot be written.\n" + error);
     }
+    Tell(outcome, FileName);
     RefreshTexts();
-    return error.empty();
+    return outcome.isSaved;
 }
 
 /// The file is left to the other program; under another name the document may stand beside it.
@@ -293,10 +296,11 @@ void frmMain::WriteExport(const std::string& target) {
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (!FileName.empty() && files.Resolve(target) == files.Resolve(FileName))
         return ui::Say("The export cannot take the place of the record file " + FileName + ".");
-    std::string error;
-    const auto text = Printed([] { return DocumentAsXml(ui::TheDesktop().Today()); }, error);
-    if (text) error = WriteText(target, *text, false);
-    if (!error.empty()) ui::Say("The file " + target + " cannot be written.\n" + error);
+    SaveOutcome outcome;
+    const auto text =
+        Printed([] { return DocumentAsXml(ui::TheDesktop().Today()); }, outcome.fault);
+    if (text) outcome = WriteText(target, *text, false);
+    Tell(outcome, target);
 }
 
 } // namespace vexora

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexora::ui {
 
@@ -39,6 +40,9 @@ public:
     /// path goes into temporaryPath. Null with the reason in error when that fails.
     virtual std::unique_ptr<OutputFile>
     CreateBeside(const std::string& target, std::string& temporaryPath, std::string& error) = 0;
+    /// The files that CreateBeside made for target more than a minute ago: what a killed program
+    /// has left.
+    virtual std::vector<std::string> Leftovers(const std::string& target) = 0;
     virtual std::string MakeFolder(const std::string& path) = 0;
     virtual std::string Remove(const std::string& path) = 0;
     /// Puts source in the place of target at once, replacing what stands there.

@@ -155,7 +155,7 @@ TEST_F(TableBlocksTest, FullDiskLeavesTheOldFileOfATable) {
     desktop.chosen = path;
     desktop.disk.FailAt("Write");
     desktop.Expect(path + " exists already\nReplace it?", ui::Answer::Yes);
-    desktop.Expect("No space left on device");
+    desktop.Expect("The file " + path + " cannot be written.\nNo space left on device");
     form.mnuSave.UserClick();
     std::string error;
     EXPECT_EQ(desktop.disk.Read(path, error), "1\t2\n");

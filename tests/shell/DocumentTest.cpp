@@ -135,6 +135,16 @@ TEST_F(DocumentTest, AFullDiskKeepsFileAndBackupAndTheDocumentStaysUnsaved) {
     EXPECT_FALSE(Shell().Close());
 }
 
+TEST_F(DocumentTest, AFolderThatIsNotFlushedIsToldOfASavedDocument) {
+    const std::string path = StartChanged();
+    files.FailAt("FlushFolder", 1, "Input/output error");
+    desktop.Expect("The file " + path +
+                   " is saved, but the disk reports a fault.\nInput/output error");
+    Shell().Save();
+    EXPECT_TRUE(Globals().Saved);
+    Shell().Save();
+}
+
 TEST_F(DocumentTest, SavingTwiceKeepsTheFileBeforeTheLastSave) {
     const std::string path = StartChanged();
     const std::string first = FileText(path);

@@ -19,6 +19,13 @@ public:
         failAt_[operation] = call;
         reason_ = std::move(reason);
     }
+    /// Fails at that call and at every later one.
+    void FailFrom(const std::string& operation, int call) {
+        FailAt(operation, call);
+        failsOn_ = true;
+    }
+    /// A renaming that fails has happened all the same, as over a network.
+    bool FailsAfterwards = false;
     int Calls(const std::string& operation) { return calls_[operation]; }
 
     bool Exists(const std::string& path) override { return disk_.Exists(path); }
@@ -46,6 +53,9 @@ public:
         if (!file) return nullptr;
         return std::make_unique<File>(*this, std::move(file));
     }
+    std::vector<std::string> Leftovers(const std::string& target) override {
+        return disk_.Leftovers(target);
+    }
     std::string MakeFolder(const std::string& path) override {
         return Fails("MakeFolder") ? reason_ : disk_.MakeFolder(path);
     }
@@ -53,7 +63,9 @@ public:
         return Fails("Remove") ? reason_ : disk_.Remove(path);
     }
     std::string Rename(const std::string& source, const std::string& target) override {
-        return Fails("Rename") ? reason_ : disk_.Rename(source, target);
+        if (!Fails("Rename")) return disk_.Rename(source, target);
+        if (FailsAfterwards) disk_.Rename(source, target);
+        return reason_;
     }
     std::string Link(const std::string& source, const std::string& name) override {
         return Fails("Link") ? reason_ : disk_.Link(source, name);
@@ -91,13 +103,15 @@ private:
     bool Fails(const std::string& operation) {
         const int call = ++calls_[operation];
         const auto found = failAt_.find(operation);
-        return found != failAt_.end() && found->second == call;
+        return found != failAt_.end() &&
+               (found->second == call || (failsOn_ && call > found->second));
     }
 
     host::PosixFileSystem disk_;
     std::map<std::string, int> failAt_;
     std::map<std::string, int> calls_;
     std::string reason_;
+    bool failsOn_ = false;
 };
 
 } // namespace vexora::test
