@@ -20,12 +20,14 @@ struct FlagSetting {
     bool KVOGlobal::*value;
 };
 
+constexpr std::string_view OutDirKey = "OutDir";
+
 // In the order of the file.
 constexpr ValueSetting ValueSettings[] = {
     {"COMPILER", &KVOGlobal::CompilerCode},  {"CONTRIBUTOR", &KVOGlobal::ContributorCode},
     {"XMLCOMPILER", &KVOGlobal::UserName},   {"ORGANIZATION", &KVOGlobal::Organization},
     {"VXRLocalDB", &KVOGlobal::LocalDbPath}, {"VXRCompoundDB", &KVOGlobal::CompoundDbPath},
-    {"OutDir", &KVOGlobal::OutDir},
+    {OutDirKey, &KVOGlobal::OutDir},
 };
 
 constexpr FlagSetting FlagSettings[] = {
@@ -105,6 +107,17 @@ void ReadConfiguration() {
         TakeConfiguration(*text);
     else
         ui::Say("The configuration " + path + " cannot be read.\n" + error);
+}
+
+std::string ConfiguredOutDir() {
+    std::string error;
+    const auto text = ui::TheDesktop().Files().Read(ConfigurationPath(), error);
+    std::string folder;
+    for (const std::string& line : Split(ToUtf8(text.value_or("")), '\n')) {
+        WordReader reader(line);
+        if (reader.NextWord() == OutDirKey) folder = WithSlashes(Trim(reader.Rest()));
+    }
+    return folder;
 }
 
 bool WriteConfiguration() {

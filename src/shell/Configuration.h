@@ -31,6 +31,8 @@ std::string OpenDatabasesAt(const std::string& localPath, const std::string& com
 
 /// Reads the file, if there is one. One that cannot be read is told.
 void ReadConfiguration();
+/// The output folder that the file states, whichever is in force; empty for none.
+std::string ConfiguredOutDir();
 /// Writes the file; true when it worked, else the reason is told and the program goes on.
 bool WriteConfiguration();
 

@@ -52,6 +52,8 @@ frmConfigure::frmConfigure() : Form("frmConfigure", "Vexora Input: Configuration
 void frmConfigure::Load() {
     const KVOGlobal& globals = Globals();
     FindDatabases();
+    shownOutDir_ = globals.OutDir;
+    configuredOutDir_ = ConfiguredOutDir();
     const ui::FillingScope filling(*this);
     txtContributor.Text(globals.ContributorCode);
     txtCompiler.Text(globals.CompilerCode);
@@ -115,6 +117,7 @@ bool frmConfigure::CheckOutputFolder() {
 bool frmConfigure::OpenBothDatabases() {
     const std::string compoundPath = WithSlashes(txtCompoundDB.Text());
     const std::string fault = OpenDatabasesAt(WithSlashes(txtLocalDB.Text()), compoundPath);
+    hasOpened_ = hasOpened_ || fault.empty();
     if (fault.empty()) return true;
     ui::TextBox& concerned = fault.starts_with(compoundPath) ? txtCompoundDB : txtLocalDB;
     return Refuse(concerned, "Specified databases not found or invalid\n" + fault);
@@ -140,10 +143,26 @@ void frmConfigure::Store() {
     globals.GHEnabled = chkGH.Value();
 }
 
+/// A folder that came with a document holds for this run; only one that was typed is written.
+void frmConfigure::WriteDown() const {
+    std::string& folder = Globals().OutDir;
+    const std::string inForce = folder;
+    if (inForce == shownOutDir_) folder = configuredOutDir_;
+    WriteConfiguration();
+    folder = inForce;
+}
+
+/// Databases that were tried out and dismissed give way to the configured ones.
+bool frmConfigure::HasConfiguredDatabases() const {
+    const KVOGlobal& globals = Globals();
+    if (hasOpened_) return OpenDatabasesAt(globals.LocalDbPath, globals.CompoundDbPath).empty();
+    return FileOrFolderExists(globals.LocalDbPath) && FileOrFolderExists(globals.CompoundDbPath);
+}
+
 void frmConfigure::cmdAccept_Click() {
     if (!CheckDatabases() || !CheckOutputFolder() || !OpenBothDatabases() || !CheckUser()) return;
     Store();
-    WriteConfiguration();
+    WriteDown();
     if (Globals().BioEnabled) ui::TheDesktop().ShowHelp(HelpOfBio);
     accepted_ = true;
     Close();
@@ -152,8 +171,7 @@ void frmConfigure::cmdAccept_Click() {
 bool frmConfigure::QueryUnload() {
     if (accepted_) return true;
     KVOGlobal& globals = Globals();
-    const bool databases =
-        FileOrFolderExists(globals.LocalDbPath) && FileOrFolderExists(globals.CompoundDbPath);
+    const bool databases = HasConfiguredDatabases();
     const bool user = !globals.UserName.empty() && !globals.Organization.empty();
     if (databases && user) return true;
     globals.ProgramEnds = databases ? AskExitWithoutUser() : AskExitWithoutDatabases();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "ui/Form.h"
 #include "ui/TextBox.h"
 
@@ -41,8 +43,13 @@ private:
     bool OpenBothDatabases();
     bool CheckUser();
     void Store();
+    void WriteDown() const;
+    bool HasConfiguredDatabases() const;
 
     bool accepted_ = false;
+    bool hasOpened_ = false;       // databases that may still be dismissed
+    std::string shownOutDir_;      // the folder in force, which may hold for now only
+    std::string configuredOutDir_; // the one of VXR.ini
 };
 
 /// The words by which a user without a usable configuration is asked whether to leave; true on Yes.

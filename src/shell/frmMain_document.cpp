@@ -267,11 +267,14 @@ bool frmMain::SaveAs() {
         FileName.empty() ? Source().ProposedName() + ".txt" : FileTitle(), RecordFiles);
     if (target.empty()) return false;
     const std::string presentName = std::exchange(FileName, target);
-    Globals().OutDir = SplitPath(target).Folder;
-    if (WriteDocument()) return true;
-    FileName = presentName;
-    RefreshTexts();
-    return false;
+    if (!WriteDocument()) {
+        FileName = presentName;
+        RefreshTexts();
+        return false;
+    }
+    // Under yet another name it may stand in yet another folder.
+    Globals().OutDir = SplitPath(FileName).Folder;
+    return true;
 }
 
 /// What a read-only document holds beyond this edition would be missing from the export.
