@@ -125,9 +125,9 @@ std::string clsR::LoadJ(std::string_view line) {
     for (std::string* field : {&SSOURCE, &TTITLE, &KEYWORDS, &ABSTRACT, &NOTE, &PRPCLASS})
         *field = next();
     next(); // the number of authors, told by the ^I lines themselves
-    for (std::string* field : {&CASCIT, &CODEN, &ISSN, &BULCT})
+    for (std::string* field : {&CASCIT, &CODEN, &ISSN})
         *field = next();
-    BULCT = Trim(BULCT);
+    BULCT = WithoutPlaceholder(Trim(NextHashField(text)));
     const std::size_t comma = SSOURCE.rfind(", ");
     if (TYPDOC == "S" && comma != std::string::npos) ManuscriptID = SSOURCE.substr(comma + 2);
     // The line would not be there otherwise; it stays new whatever the database says.

@@ -5,6 +5,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace vexora {
 
@@ -31,6 +33,9 @@ void Configure(sqlite3* handle) {
     // A text that equals no column name must stay an error, not turn into a text constant.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    // A file from elsewhere must neither run functions of ours nor be spoilt by its own schema.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     const int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
     static int caseCounts = 1;
     // In place of the operator's own function, whose wildcards are others.
@@ -39,15 +44,21 @@ void Configure(sqlite3* handle) {
                             nullptr);
 }
 
-/// Failures of the medium, not of the statement.
-bool IsWriteFailure(int code) {
-    return code == SQLITE_READONLY || code == SQLITE_FULL || code == SQLITE_IOERR;
+/// Those that cannot write are failures of the medium, not of the statement.
+DatabaseError::Kind KindOf(int code) {
+    using enum DatabaseError::Kind;
+    if (code == SQLITE_BUSY) return Locked;
+    return code == SQLITE_READONLY || code == SQLITE_FULL || code == SQLITE_IOERR ? CannotWrite
+                                                                                  : Other;
 }
 
 [[noreturn]] void Fail(sqlite3* handle, const std::string& where) {
     if (!handle) throw DatabaseError(where + ": out of memory");
-    throw DatabaseError(where + ": " + sqlite3_errmsg(handle),
-                        IsWriteFailure(sqlite3_errcode(handle)));
+    const DatabaseError::Kind kind = KindOf(sqlite3_errcode(handle));
+    throw DatabaseError(where + (kind == DatabaseError::Kind::Locked
+                                     ? std::string(" is locked by another program")
+                                     : std::string(": ") + sqlite3_errmsg(handle)),
+                        kind);
 }
 
 /// TRANSIENT has SQLite copy the text: it may be gone before the statement is stepped.
@@ -170,6 +181,10 @@ void Database::Closer::operator()(sqlite3* handle) const {
 }
 
 Database::Handle Database::OpenHandle(const std::string& path, int flags) {
+    // Opening a pipe would wait for its other end for ever.
+    std::error_code unknown;
+    if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown))
+        throw DatabaseError(path + ": this is no file of a database");
     sqlite3* raw = nullptr;
     const int code = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
     Handle handle(raw);
@@ -261,7 +276,8 @@ bool Database::HasTable(std::string_view table) const {
     try {
         Query("select * from " + Quoted(table) + " limit 1");
         return true;
-    } catch (const DatabaseError&) {
+    } catch (const DatabaseError& error) {
+        if (error.IsLocked()) throw;
         return false;
     }
 }

@@ -21,14 +21,17 @@ namespace vexora {
 /// What went wrong with a database file or a statement, in words for the user.
 class DatabaseError : public std::runtime_error {
 public:
-    explicit DatabaseError(const std::string& text, bool cannotWrite = false)
-        : std::runtime_error(text), cannotWrite_(cannotWrite) {}
+    enum class Kind { Other, CannotWrite, Locked };
+    explicit DatabaseError(const std::string& text, Kind kind = Kind::Other)
+        : std::runtime_error(text), kind_(kind) {}
     /// True when the file can be read but not written (read-only, disk full).
     /// Nothing is wrong with the data then.
-    bool CannotWrite() const { return cannotWrite_; }
+    bool CannotWrite() const { return kind_ == Kind::CannotWrite; }
+    /// True when another program keeps the file to itself for now.
+    bool IsLocked() const { return kind_ == Kind::Locked; }
 
 private:
-    bool cannotWrite_;
+    Kind kind_;
 };
 
 /// One value of a statement or a row.
@@ -109,7 +112,8 @@ public:
     std::int64_t Insert(std::string_view table, const SqlAssignments& fields);
     /// Changes the row with this rowid.
     void Update(std::string_view table, std::int64_t rowid, const SqlAssignments& fields);
-    /// True when the table exists and its rows can be read.
+    /// True when the table exists and its rows can be read. Of a locked file that cannot be said,
+    /// which is a DatabaseError.
     bool HasTable(std::string_view table) const;
 
 private:

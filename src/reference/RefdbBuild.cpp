@@ -121,7 +121,9 @@ public:
     void Keep() const {
         std::error_code error;
         fs::rename(path_, target_, error);
-        if (error) throw DatabaseError(target_.string() + ": " + error.message(), true);
+        if (error)
+            throw DatabaseError(target_.string() + ": " + error.message(),
+                                DatabaseError::Kind::CannotWrite);
     }
 
 private:
@@ -135,7 +137,8 @@ std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
                                                 const std::string& outFolder) {
     std::error_code error;
     fs::create_directories(outFolder, error);
-    if (error) throw DatabaseError(outFolder + ": " + error.message(), true);
+    if (error)
+        throw DatabaseError(outFolder + ": " + error.message(), DatabaseError::Kind::CannotWrite);
     const PendingFile local(fs::path(outFolder) / "VXRLocal.mdb");
     const PendingFile compounds(fs::path(outFolder) / "VXR.mdb");
     std::vector<LineRemark> findings;

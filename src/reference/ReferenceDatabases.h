@@ -22,6 +22,8 @@ struct ReferenceDatabases {
     /// is wrong; the present databases change only when nothing is.
     std::optional<std::string> OpenBoth(const std::string& localPath,
                                         const std::string& compoundPath);
+    /// The same, but what is wrong is thrown as a DatabaseError.
+    void Open(const std::string& localPath, const std::string& compoundPath);
 };
 
 /// The installed databases, or null: every look-up is then empty.

@@ -93,10 +93,16 @@ std::string ConfigurationText() {
 }
 
 std::string OpenDatabasesAt(const std::string& localPath, const std::string& compoundPath) {
+    const std::string invalid = "Specified databases not found or invalid\n";
     for (const std::string& path : {localPath, compoundPath}) {
-        if (!FileOrFolderExists(path)) return path + " does not exist";
+        if (!FileOrFolderExists(path)) return invalid + path + " does not exist";
     }
-    return Globals().Databases.OpenBoth(localPath, compoundPath).value_or(std::string());
+    try {
+        Globals().Databases.Open(localPath, compoundPath);
+        return {};
+    } catch (const DatabaseError& error) {
+        return (error.IsLocked() ? "" : invalid) + error.what();
+    }
 }
 
 void ReadConfiguration() {

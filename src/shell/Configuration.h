@@ -25,8 +25,9 @@ void TakeConfiguration(std::string_view text);
 /// The settings in force as a configuration text.
 std::string ConfigurationText();
 
-/// Opens and tests two databases; those in force change only when both are good. Empty, or what is
-/// wrong.
+/// Opens and tests two databases; those in force change only when both are good. Empty, or what the
+/// user has to hear: that one is locked, or "Specified databases not found or invalid" and in the
+/// next line why.
 std::string OpenDatabasesAt(const std::string& localPath, const std::string& compoundPath);
 
 /// Reads the file, if there is one. One that cannot be read is told.

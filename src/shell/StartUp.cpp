@@ -64,10 +64,10 @@ bool KnowUser() {
 /// asked whether to correct the configuration: Yes shows frmConfigure, No sets the program to end.
 bool OpenDatabases() {
     KVOGlobal& globals = Globals();
-    if (OpenDatabasesAt(globals.LocalDbPath, globals.CompoundDbPath).empty()) return true;
-    const bool correct = ui::AskYesNo("Specified databases not found or invalid\n"
-                                      "Would you like to correct configuration?",
-                                      "VXR");
+    const std::string fault = OpenDatabasesAt(globals.LocalDbPath, globals.CompoundDbPath);
+    if (fault.empty()) return true;
+    const bool correct = ui::AskYesNo(
+        fault.substr(0, fault.find('\n')) + "\nWould you like to correct configuration?", "VXR");
     if (correct)
         ui::Forms::Current().Get("frmConfigure").ShowModal();
     else

@@ -119,8 +119,8 @@ bool frmConfigure::OpenBothDatabases() {
     const std::string fault = OpenDatabasesAt(WithSlashes(txtLocalDB.Text()), compoundPath);
     hasOpened_ = hasOpened_ || fault.empty();
     if (fault.empty()) return true;
-    ui::TextBox& concerned = fault.starts_with(compoundPath) ? txtCompoundDB : txtLocalDB;
-    return Refuse(concerned, "Specified databases not found or invalid\n" + fault);
+    const bool isCompounds = fault.find(compoundPath) != fault.npos;
+    return Refuse(isCompounds ? txtCompoundDB : txtLocalDB, fault);
 }
 
 bool frmConfigure::CheckUser() {

@@ -3,6 +3,7 @@
 #include "reference/ReferenceFixture.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <utility>
 
@@ -98,6 +99,14 @@ TEST_F(DatabaseTest, AReadOnlyDatabaseRefusesWritesWithAMessage) {
     EXPECT_THROW(Database().Query("select 1"), DatabaseError);
 }
 
+TEST_F(DatabaseTest, WhatAFileSaysOfItselfIsNotTrusted) {
+    database.Execute("create view V as select like_case('a', Name) as X from T");
+    database.Insert("T", {{"Name", "a"}});
+    EXPECT_THROW(database.Query("select X from V"), DatabaseError);
+    database.Execute("pragma writable_schema=1");
+    EXPECT_THROW(database.Execute("update sqlite_master set sql='' where name='V'"), DatabaseError);
+}
+
 TEST_F(DatabaseTest, AStatementInUseIsNotLentTwice) {
     for (const char* name : {"a", "b"})
         database.Insert("T", {{"Name", name}});
@@ -191,8 +200,11 @@ protected:
 TEST_F(OpenBothTest, MissingForeignEmptyAndSwappedFilesAreMessages) {
     ReferenceDatabases databases;
     ASSERT_EQ(databases.OpenBoth(local, compounds), std::nullopt);
-    for (const std::string& bad : {folder.File("absent.mdb"), folder.File("foreign.mdb"),
-                                   folder.File("empty.mdb"), folder.Path(), std::string()}) {
+    // Opening the end of a pipe would wait for ever for the other one.
+    ASSERT_EQ(mkfifo(folder.File("pipe.mdb").c_str(), 0600), 0);
+    for (const std::string& bad :
+         {folder.File("pipe.mdb"), folder.File("absent.mdb"), folder.File("foreign.mdb"),
+          folder.File("empty.mdb"), folder.Path(), std::string()}) {
         EXPECT_NE(databases.OpenBoth(bad, compounds).value_or(""), "") << bad;
         EXPECT_NE(databases.OpenBoth(local, bad).value_or(""), "") << bad;
     }
@@ -200,6 +212,15 @@ TEST_F(OpenBothTest, MissingForeignEmptyAndSwappedFilesAreMessages) {
     EXPECT_FALSE(std::filesystem::exists(folder.File("absent.mdb")));
     EXPECT_EQ(databases.LocalDb.Path(), local);
     EXPECT_TRUE(databases.CompoundDb.HasTable("ALLNAME"));
+}
+
+TEST_F(OpenBothTest, ATableWithoutOneOfItsColumnsIsAMessage) {
+    Database changed;
+    changed.Open(local, false);
+    changed.Execute("alter table Conversions drop column FACTOR");
+    ReferenceDatabases databases;
+    EXPECT_EQ(databases.OpenBoth(local, compounds).value_or(""),
+              local + ": the table Conversions has no column FACTOR");
 }
 
 TEST_F(OpenBothTest, ATruncatedFileIsAMessageNotACrash) {

@@ -1,3 +1,4 @@
+#include "reference/Database.h"
 #include "support/WorkbenchFixture.h"
 
 #include <filesystem>
@@ -100,6 +101,18 @@ click frmConfigure.cmdAccept
 expect open frmMain
 expect file "${HOME_DIR}/VXR.ini" contains "VXRCompoundDB ${HOME_DIR}/good.mdb"
 )");
+}
+
+TEST_F(StartUpTest, ALockedDatabaseIsCalledLocked) {
+    Configure("XMLCOMPILER Ann\nORGANIZATION Lab\n");
+    Database other;
+    other.Open(Home() + "/VXRLocal.mdb", false);
+    other.Execute("begin exclusive");
+    const std::string locked = "${HOME_DIR}/VXRLocal.mdb is locked by another program";
+    Holds("start\ninput \"\"\nanswer Yes \"" + locked +
+          "\\nWould you like to correct configuration?\" \"VXR\"\nclick frmConfigure.cmdAccept\n"
+          "expect message \"" +
+          locked + "\"\n");
 }
 
 TEST_F(StartUpTest, ATruncatedDatabaseIsDamagedWhicheverItIs) {
