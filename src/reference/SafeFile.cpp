@@ -80,7 +80,7 @@ SaveOutcome Exchange(ui::FileSystem& files, const TemporaryFile& finished,
 /// A rename lives in the folder; without this a power cut may bring back the old file.
 std::string FlushFolders(ui::FileSystem& files, const std::string& target,
                          const std::string& backup) {
-    const std::string error = files.FlushFolder(FolderOf(target));
+    std::string error = files.FlushFolder(FolderOf(target));
     if (backup.empty() || FolderOf(backup) == FolderOf(target)) return error;
     const std::string ofBackup = files.FlushFolder(FolderOf(backup));
     return error.empty() ? ofBackup : error;
