@@ -136,7 +136,12 @@ void TreeWidgetView::Rebuild() {
 void TreeWidgetView::Add(ui::TreeNode& node) {
     QScopedValueRollback guard(following_, true);
     QTreeWidgetItem* parent = node.Parent() ? ItemOf(*node.Parent()) : nullptr;
-    auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(own_);
+    auto* item = new QTreeWidgetItem;
+    const int place = static_cast<int>(model_.PlaceOf(node));
+    if (parent)
+        parent->insertChild(place, item);
+    else
+        own_->insertTopLevelItem(place, item);
     item->setData(0, NodeRole, QVariant::fromValue(static_cast<void*>(&node)));
     items_[&node] = item;
     for (const auto& child : node.Children())

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
 
+#include "ui/Collection.h"
 #include "ui/TreeView.h"
 
 namespace vexora {
@@ -36,6 +38,12 @@ public:
     /// What is not named here is neither saved nor checked nor exported.
     virtual void EachChild(const std::function<void(Record&)>&) const {}
 
+    /// Takes it out of the collection of its parent, which it still knows; its place there, from 1,
+    /// and 0 when it stood in none. The node stays.
+    virtual std::size_t Leave() { return 0; }
+    /// Puts it back at a place. False when a sibling bears its number by now; nothing happens then.
+    virtual bool Return(std::size_t) { return false; }
+
     /// Brings the node's text and key back in line with the record.
     void Refresh();
 
@@ -49,6 +57,18 @@ protected:
     /// Makes the node below another (null for a root), labels it and makes it visible. Does nothing
     /// without a tree, as when a document is read without a main form.
     void MakeNode(ui::TreeNode* above);
+    /// What Leave and Return do in the collection that a class stands in.
+    template <class T>
+    std::size_t LeaveFrom(ui::Collection<T>& siblings) {
+        const std::size_t place = siblings.Position(static_cast<T*>(this));
+        siblings.Remove(static_cast<T*>(this));
+        return place;
+    }
+    template <class T>
+    bool ReturnTo(ui::Collection<T>& siblings, std::size_t place, const std::shared_ptr<T>& rival) {
+        if (!rival) siblings.Insert(As<T>(), Key(), place);
+        return rival == nullptr;
+    }
     /// Writes ShowKey, or another text, on the node.
     void Label(const std::string& text);
 

@@ -69,6 +69,14 @@ void clsL::AttachTo(clsR& source) {
     if (source.tNode) MakeNode(source.tNode);
 }
 
+std::size_t clsL::Leave() {
+    return Parent ? LeaveFrom(Parent->recL) : 0;
+}
+
+bool clsL::Return(std::size_t place) {
+    return Parent && ReturnTo(Parent->recL, place, Parent->FindL(RN));
+}
+
 bool clsL::Load(std::string_view line, Notices& told) {
     WordReader words(line);
     const bool bioLine = words.NextWord() == "BL";

@@ -58,6 +58,8 @@ public:
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsR& source);
+    std::size_t Leave() override;
+    bool Return(std::size_t place) override;
 
     /// Reads a ^L or BL line and mends a wrong check digit, which it tells; NewRn then holds the
     /// mended number. False for a line without a number, and for one that is not numeric, which is

@@ -66,6 +66,14 @@ void clsR::AttachTo() {
     MakeNode(nullptr);
 }
 
+std::size_t clsR::Leave() {
+    return LeaveFrom(Globals().recR);
+}
+
+bool clsR::Return(std::size_t place) {
+    return ReturnTo(Globals().recR, place, Globals().recR.Item(std::size_t{1}));
+}
+
 void clsR::Synchronize() {
     Label(Source());
 }

@@ -69,6 +69,8 @@ public:
     void SetMe() override;
     /// Joins the document as its source and makes the root node.
     void AttachTo();
+    std::size_t Leave() override;
+    bool Return(std::size_t place) override;
     /// Brings the node's text back in line with the record.
     void Synchronize();
 

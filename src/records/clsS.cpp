@@ -96,6 +96,15 @@ void clsS::AttachTo(clsL& compound) {
     if (compound.tNode) MakeNode(compound.tNode);
 }
 
+std::size_t clsS::Leave() {
+    return Parent ? LeaveFrom(Parent->recS) : 0;
+}
+
+bool clsS::Return(std::size_t place) {
+    return Parent &&
+           ReturnTo(Parent->recS, place, Parent->FindS(static_cast<int>(ToInteger(Val(SMPNM)))));
+}
+
 void clsS::Load(std::string_view line) {
     WordReader words(line);
     words.NextWord();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ public:
     std::string ShowKey() const override { return Key(); }
     void SetMe() override;
     void AttachTo(clsL& compound);
+    std::size_t Leave() override;
+    bool Return(std::size_t place) override;
 
     /// Takes any line; SMPNM is empty when it ends too soon. The description is judged by the
     /// check, not here, so that a file with an odd one can be opened and mended.

@@ -148,6 +148,14 @@ void clsTwo::AttachTo(clsS& sample) {
     if (sample.tNode) MakeNode(sample.tNode);
 }
 
+std::size_t clsTwo::Leave() {
+    return Parent ? LeaveFrom(Parent->recTwo) : 0;
+}
+
+bool clsTwo::Return(std::size_t place) {
+    return Parent && ReturnTo(Parent->recTwo, place, Parent->FindTwo(PRPCODE, nVar, PRPSETNO));
+}
+
 void clsTwo::Replace(const clsTwo& other) {
     clsS* const parent = Parent;
     ui::TreeNode* const node = tNode;

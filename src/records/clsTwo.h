@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -59,6 +60,8 @@ public:
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsS& sample);
+    std::size_t Leave() override;
+    bool Return(std::size_t place) override;
     /// Takes over all fields and rows of another set and stays where it is: same parent, position
     /// and node, under the key that it has now.
     void Replace(const clsTwo& other);

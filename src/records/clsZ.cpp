@@ -95,6 +95,14 @@ void clsZ::AttachTo(clsS& sample) {
     if (sample.tNode) MakeNode(sample.tNode);
 }
 
+std::size_t clsZ::Leave() {
+    return Parent ? LeaveFrom(Parent->recZ) : 0;
+}
+
+bool clsZ::Return(std::size_t place) {
+    return Parent && ReturnTo(Parent->recZ, place, Parent->FindZ(PRPCODE, nVar, PRPSETNO));
+}
+
 void clsZ::Rekey() {
     if (Parent) Parent->recZ.Rekey(this, Key());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,6 +55,8 @@ public:
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsS& sample);
+    std::size_t Leave() override;
+    bool Return(std::size_t place) override;
     /// Puts it under the key that it has now, at the same place among its siblings.
     void Rekey();
 

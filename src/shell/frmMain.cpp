@@ -4,6 +4,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
+#include "shell/Deletion.h"
 #include "shell/DocumentAside.h"
 #include "shell/ReadingPane.h"
 #include "shell/StartUp.h"
@@ -35,8 +36,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Load() {
     Globals().tvwTree = &tvwTree;
-    for (ui::MenuItem* entry :
-         {&mnuDetect, &mnuMerge, &mnuInvert, &mnuBio, &mnuPreLoad, &mnuDelete})
+    for (ui::MenuItem* entry : {&mnuDetect, &mnuMerge, &mnuInvert, &mnuBio, &mnuPreLoad})
         entry->Enabled(false);
     const ui::Forms& forms = ui::Forms::Current();
     New.Enabled(forms.Knows("frmDocument"));
@@ -65,6 +65,8 @@ void frmMain::WireMenus() {
     };
     mnuEditNode.OnClick = [this] { mnuEditNode_Click(); };
     mnuNewLike.OnClick = [this] { mnuNewLike_Click(); };
+    mnuDelete.OnClick = [this] { mnuDelete_Click(); };
+    mnuUndoDelete.OnClick = [this] { mnuUndoDelete_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
     const std::pair<ui::MenuItem*, int> pages[] = {
         {&mnuIntro, 10},        {&mnuScope, 20},        {&mnuList, 30},

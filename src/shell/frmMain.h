@@ -12,6 +12,8 @@ namespace vexora {
 
 class DocumentAside;
 struct ReadResult;
+class DeletedRecord;
+class Record;
 
 /// The main form: the open document as a tree, the toolbar that offers what the selected node
 /// allows, the selected record in plain words, and a line that says how things stand. It opens and
@@ -34,6 +36,7 @@ public:
     ui::MenuItem mnuEditNode{*this, "mnuEditNode", "Edit Node (Double Click)", &mnuEdit, "F2"};
     ui::MenuItem mnuNewLike{*this, "mnuNewLike", "New set like this", &mnuEdit, "Ctrl+L"};
     ui::MenuItem mnuDelete{*this, "mnuDelete", "Delete Node", &mnuEdit, "Delete"};
+    ui::MenuItem mnuUndoDelete{*this, "mnuUndoDelete", "Undo delete", &mnuEdit, "Ctrl+Z"};
     ui::MenuItem mnuTools{*this, "mnuTools", "T&ools"};
     ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
     ui::MenuItem mnuDetect{*this, "mnuDetect", "Detect Hidden Properties", &mnuTools};
@@ -147,6 +150,14 @@ private:
     bool HasMouseSelection();
     void mnuNewLike_Click();
     bool MayRepeat() const;
+
+    // frmMain_delete.cpp
+    void mnuDelete_Click();
+    void DeleteNode();
+    static bool MayDelete(const Record& record);
+    void mnuUndoDelete_Click();
+
+    std::unique_ptr<DeletedRecord> deleted_; // the last one, until the next deletion or save
 };
 
 } // namespace vexora

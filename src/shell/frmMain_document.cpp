@@ -12,6 +12,7 @@
 #include "records/clsS.h"
 #include "reference/Database.h"
 #include "reference/SafeFile.h"
+#include "shell/Deletion.h"
 #include "shell/DocumentAside.h"
 #include "shell/DocumentText.h"
 #include "shell/frmMain.h"
@@ -101,6 +102,7 @@ void frmMain::EmptyDocument() {
     globals.Saved = true;
     globals.ReadOnly = false;
     globals.ForgetCurrent();
+    deleted_.reset();
     globals.recR.Clear();
     tvwTree.Clear();
     globals.DialogAccepted = false;
@@ -119,13 +121,16 @@ void frmMain::FindReference() {
 
 void frmMain::PutAside() {
     aside_ = std::make_unique<DocumentAside>(FileName, known_);
+    auto deleted = std::move(deleted_); // it may come back with the document
     EmptyDocument();
+    deleted_ = std::move(deleted);
 }
 
 /// A document that was put aside goes when there is another one, and else comes back.
 void frmMain::SettleAside() {
     const auto before = std::move(aside_);
-    if (!before || !Globals().recR.IsEmpty()) return;
+    if (!before) return;
+    if (!Globals().recR.IsEmpty()) return deleted_.reset();
     before->PutBack(FileName, known_);
     MouseSelected = true;
     SelectNode();
@@ -233,6 +238,8 @@ bool frmMain::WriteDocument() {
         globals.Saved = true;
         globals.DialogAccepted = false;
         RegisterSaved();
+        deleted_.reset();
+        mnuUndoDelete.Enabled(false);
     }
     Tell(outcome, FileName);
     RefreshTexts();

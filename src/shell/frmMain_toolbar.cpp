@@ -121,7 +121,10 @@ void frmMain::SetLocked(bool locked) {
         button->Enabled(!locked && IsOffered(*button));
     for (ui::MenuItem* menu : {&mnuFile, &mnuEdit, &mnuTools})
         menu->Enabled(!locked);
-    if (!locked) mnuNewLike.Enabled(MayRepeat());
+    if (!locked) {
+        mnuNewLike.Enabled(MayRepeat());
+        mnuUndoDelete.Enabled(deleted_ != nullptr);
+    }
     RefreshTexts();
 }
 

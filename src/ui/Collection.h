@@ -34,6 +34,19 @@ public:
         return unique;
     }
 
+    /// Adds at a position counted from 1, at the end for one that is beyond it; the answer as of
+    /// Add.
+    std::string Insert(Pointer entry, std::string_view key, std::size_t position) {
+        if (position < 1 || position > entries_.size()) return Add(std::move(entry), key);
+        std::string unique = Unique(key);
+        const auto index = static_cast<std::ptrdiff_t>(position - 1);
+        entries_.insert(entries_.begin() + index, std::move(entry));
+        keys_.insert(keys_.begin() + index, unique);
+        positions_.clear();
+        IndexKeys(4 * keys_.size());
+        return unique;
+    }
+
     std::size_t Count() const { return entries_.size(); }
     bool IsEmpty() const { return entries_.empty(); }
 

@@ -1,5 +1,6 @@
 #include "ui/TreeView.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vexora::ui {
@@ -66,12 +67,43 @@ void TreeView::Forget(TreeNode& node) {
     if (selected_ == &node) selected_ = nullptr;
 }
 
+void TreeView::Remember(TreeNode& node) {
+    node.key_ = Unique(node.key_);
+    byKey_[node.key_] = &node;
+    for (const auto& child : node.children_)
+        Remember(*child);
+}
+
 void TreeView::Remove(TreeNode& node) {
+    Take(node);
+}
+
+std::size_t TreeView::PlaceOf(const TreeNode& node) const {
+    const Nodes& siblings = node.parent_ ? node.parent_->children_ : roots_;
+    if (!siblings.empty() && siblings.back().get() == &node) return siblings.size() - 1;
+    const auto found = std::find_if(siblings.begin(), siblings.end(),
+                                    [&node](const auto& entry) { return entry.get() == &node; });
+    return static_cast<std::size_t>(found - siblings.begin());
+}
+
+std::unique_ptr<TreeNode> TreeView::Take(TreeNode& node) {
     NodeRemoved.Emit(&node);
     Forget(node);
-    auto& siblings = node.parent_ ? node.parent_->children_ : roots_;
-    std::erase_if(siblings, [&node](const auto& entry) { return entry.get() == &node; });
+    Nodes& siblings = SiblingsOf(node);
+    const auto place = siblings.begin() + static_cast<std::ptrdiff_t>(PlaceOf(node));
+    std::unique_ptr<TreeNode> taken = std::move(*place);
+    siblings.erase(place);
     Changed();
+    return taken;
+}
+
+void TreeView::Put(std::unique_ptr<TreeNode> node, std::size_t place) {
+    Nodes& siblings = SiblingsOf(*node);
+    place = std::min(place, siblings.size());
+    TreeNode& entry =
+        **siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(place), std::move(node));
+    Remember(entry);
+    NodeAdded.Emit(&entry);
 }
 
 void TreeView::Clear() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -56,6 +57,13 @@ public:
     /// Adds a node below a parent, or a root for none, as the last of its siblings.
     TreeNode& Add(TreeNode* parent, std::string_view key, std::string text);
     void Remove(TreeNode& node);
+    /// Takes a node out with all below it. Its records still know their nodes, so it has to be kept
+    /// as long as they may come back.
+    std::unique_ptr<TreeNode> Take(TreeNode& node);
+    /// Puts it back below its parent, which has to be there still, at a place counted from 0.
+    void Put(std::unique_ptr<TreeNode> node, std::size_t place);
+    /// Place among its siblings, from 0.
+    std::size_t PlaceOf(const TreeNode& node) const;
     /// Gives a node another key, and with it all below whose keys begin with that of the node.
     void Rekey(TreeNode& node, std::string_view key);
     void Clear();
@@ -99,7 +107,12 @@ public:
 
 private:
     friend class TreeNode;
+    using Nodes = std::vector<std::unique_ptr<TreeNode>>;
+    Nodes& SiblingsOf(const TreeNode& node) {
+        return node.parent_ ? node.parent_->children_ : roots_;
+    }
     void Forget(TreeNode& node);
+    void Remember(TreeNode& node);
     std::string Unique(std::string_view key) const;
 
     std::vector<std::unique_ptr<TreeNode>> roots_;

@@ -1,0 +1,63 @@
+// Deleting the record of the selected node, and putting the last one back.
+
+#include "globals/KVOGlobal.h"
+#include "records/Record.h"
+#include "shell/Deletion.h"
+#include "shell/frmMain.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+void frmMain::mnuDelete_Click() {
+    if (HasMouseSelection()) DeleteNode();
+}
+
+/// Only what nothing else refers to goes, after a question.
+bool frmMain::MayDelete(const Record& record) {
+    if (const std::string reason = WhyItStays(Globals().CurrentKey, record); !reason.empty()) {
+        ui::Say(reason);
+        return false;
+    }
+    return ui::AskYesNo("Are you sure you want to delete the record?") &&
+           (!HasRows(record) ||
+            ui::AskYesNo(
+                "This record has associated data items.\nDo you want to delete the data?"));
+}
+
+void frmMain::DeleteNode() {
+    KVOGlobal& globals = Globals();
+    const ui::TreeNode* node = tvwTree.SelectedNode();
+    if (globals.ShellLocked || node == nullptr || !IsDeletable(globals.CurrentKey)) return;
+    const auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock());
+    if (!record || RefuseReadOnly() || !MayDelete(*record)) return;
+    auto deleted = std::make_unique<DeletedRecord>(record);
+    deleted->FileName = FileName;
+    deleted->Known = known_;
+    deleted->WasDocument = globals.recR.IsEmpty();
+    if (deleted->WasDocument) EmptyDocument();
+    globals.Saved = deleted->WasDocument;
+    globals.CurrentKey.clear();
+    deleted_ = std::move(deleted);
+    Enable();
+}
+
+/// The document counts as saved again when nothing else has been changed since.
+void frmMain::mnuUndoDelete_Click() {
+    KVOGlobal& globals = Globals();
+    if (!deleted_ || globals.ShellLocked) return;
+    const bool wasSaved = deleted_->WasSaved && deleted_->IsLastChange();
+    ui::TreeNode* node = deleted_->PutBack();
+    if (node == nullptr)
+        return ui::Say("\"" + deleted_->What().ShowKey() +
+                       "\" cannot be put back: its number has been given to another record.");
+    globals.Saved = wasSaved;
+    if (deleted_->WasDocument) {
+        FileName = deleted_->FileName;
+        known_ = deleted_->Known;
+    }
+    deleted_.reset();
+    tvwTree.Select(node);
+    SelectBy(true);
+}
+
+} // namespace vexora

@@ -1,0 +1,148 @@
+#include "records/clsL.h"
+#include "records/clsS.h"
+#include "records/clsTwo.h"
+#include "records/clsZ.h"
+#include "shell/ShellFixture.h"
+
+#include <utility>
+
+namespace vexora::test {
+
+namespace {
+
+constexpr const char* Sure = "Are you sure you want to delete the record?";
+constexpr const char* DataToo =
+    "This record has associated data items.\nDo you want to delete the data?";
+constexpr const char* Blocked = "All dependent entries (samples, mixtures, properties)\n"
+                                "must be deleted before this entry can be removed";
+
+} // namespace
+
+/// The example, saved once, so that a further save changes no byte by itself.
+class DeletionTest : public ShellFixture {
+protected:
+    DeletionTest() {
+        std::filesystem::copy_file(VEXORA_SOURCE_DIR "/examples/water/2002wagpru1.txt", path_);
+        EXPECT_TRUE(Start(path_));
+        Shell().Save();
+        saved_ = FileText(path_);
+    }
+    ui::TreeNode& Sample() {
+        return *Shell().tvwTree.Roots().front()->Children().front()->Children().front();
+    }
+    static bool HasRows(const ui::TreeNode& node) { return !node.Text().starts_with("^0"); }
+    void Click(ui::TreeNode& node) { Shell().tvwTree.UserNodeClick(node); }
+    void Delete(ui::TreeNode& node, bool withRows) {
+        Click(node);
+        desktop.Expect(Sure, ui::Answer::Yes);
+        if (withRows) desktop.Expect(DataToo, ui::Answer::Yes);
+        Shell().mnuDelete.UserClick();
+    }
+    std::string SavedAgain() {
+        Globals().Saved = false;
+        Shell().Save();
+        return FileText(path_);
+    }
+
+    std::string path_ = folder.Path("water.txt");
+    std::string saved_;
+};
+
+TEST_F(DeletionTest, EachValueAndSetComesBackToItsPlaceWithTheSameBytes) {
+    const std::size_t count = Sample().Children().size();
+    ASSERT_EQ(count, 7U);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string label = Sample().Children()[i]->Text();
+        Delete(*Sample().Children()[i], HasRows(*Sample().Children()[i]));
+        EXPECT_EQ(Sample().Children().size(), count - 1);
+        EXPECT_FALSE(Globals().Saved);
+        EXPECT_EQ(Globals().CurrentKey, "");
+        EXPECT_EQ(LiveButtons(), "");
+        Shell().mnuUndoDelete.UserClick();
+        EXPECT_TRUE(Globals().Saved) << "nothing else has changed";
+        EXPECT_EQ(Sample().Children()[i]->Text(), label);
+        EXPECT_EQ(Shell().tvwTree.SelectedNode(), Sample().Children()[i].get());
+        EXPECT_EQ(SavedAgain(), saved_) << label;
+        EXPECT_FALSE(Shell().mnuUndoDelete.Enabled()) << "a save ends it";
+    }
+}
+
+TEST_F(DeletionTest, WhatIsLeftIsSavedAndAnotherChangeKeepsTheDocumentUnsaved) {
+    Delete(*Sample().Children()[0], false);
+    EXPECT_EQ(SavedAgain().find("647.096"), std::string::npos);
+    Delete(*Sample().Children()[0], false);
+    Globals().CurrentS->recZ.Item(std::size_t{1})->PRPVALUE = "323";
+    Shell().mnuUndoDelete.UserClick();
+    EXPECT_FALSE(Globals().Saved);
+    EXPECT_EQ(Sample().Children().size(), 6U);
+}
+
+TEST_F(DeletionTest, NoKeepsTheRecordAndItsRows) {
+    ui::TreeNode& table = *Sample().Children()[3];
+    Click(table);
+    for (const ui::Answer toRows : {ui::Answer::Cancel, ui::Answer::No}) {
+        const bool asked = toRows == ui::Answer::No;
+        desktop.Expect(Sure, asked ? ui::Answer::Yes : ui::Answer::No);
+        if (asked) desktop.Expect(DataToo, ui::Answer::No);
+        Shell().mnuDelete.UserClick();
+    }
+    EXPECT_EQ(Sample().Children().size(), 7U);
+    EXPECT_TRUE(Globals().Saved);
+}
+
+TEST_F(DeletionTest, NothingGoesWithWhatDependsOnIt) {
+    ui::TreeNode& source = *Shell().tvwTree.Roots().front();
+    const std::pair<ui::TreeNode*, std::string> nodes[] = {
+        {&source, Blocked},
+        {source.Children().front().get(),
+         "This compound cannot be deleted now\nA sample for this compound is described"},
+        {&Sample(), Blocked}};
+    for (const auto& [node, reason] : nodes) {
+        Click(*node);
+        desktop.Expect(reason);
+        Shell().mnuDelete.UserClick();
+    }
+    EXPECT_TRUE(Globals().Saved);
+    EXPECT_FALSE(Shell().mnuUndoDelete.Enabled());
+}
+
+TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFile) {
+    while (!Sample().Children().empty())
+        Delete(*Sample().Children().back(), HasRows(*Sample().Children().back()));
+    Delete(Sample(), false);
+    ui::TreeNode& source = *Shell().tvwTree.Roots().front();
+    Delete(*source.Children().front(), false);
+    Delete(source, false);
+    EXPECT_TRUE(Globals().recR.IsEmpty());
+    EXPECT_EQ(Shell().FileName, "");
+    EXPECT_EQ(LiveButtons(), "AddRef ");
+    Shell().mnuUndoDelete.UserClick();
+    EXPECT_EQ(Globals().recR.Count(), 1U);
+    EXPECT_EQ(Shell().FileName, path_);
+    EXPECT_EQ(Globals().CurrentKey, "R");
+    EXPECT_FALSE(Globals().Saved) << "its compound is gone";
+    EXPECT_FALSE(SavedAgain().empty());
+}
+
+TEST_F(DeletionTest, ANumberThatWasGivenAwayIsToldAndTheRecordIsKept) {
+    const std::string label = Sample().Children()[0]->Text();
+    Delete(*Sample().Children()[0], false);
+    auto value = std::make_shared<clsZ>();
+    value->Load("^z 1 TC K 1 L G & 647.1 & & &");
+    value->AttachTo(*Globals().CurrentS);
+    desktop.Expect("\"" + label +
+                   "\" cannot be put back: its number has been given to another record.");
+    Shell().mnuUndoDelete.UserClick();
+    EXPECT_EQ(Globals().CurrentS->recZ.Count(), 3U);
+    EXPECT_TRUE(Shell().mnuUndoDelete.Enabled());
+}
+
+TEST_F(DeletionTest, AnotherDocumentEndsIt) {
+    Delete(*Sample().Children()[0], false);
+    Globals().Saved = true;
+    Shell().tvwTree.UserDrop(path_);
+    EXPECT_EQ(Sample().Children().size(), 7U);
+    EXPECT_FALSE(Shell().mnuUndoDelete.Enabled());
+}
+
+} // namespace vexora::test
