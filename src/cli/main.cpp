@@ -1,7 +1,9 @@
+#include "cli/Compare.h"
 #include "cli/Documents.h"
 #include "cli/ExitCodes.h"
 #include "cli/Play.h"
 #include "cli/Refdb.h"
+#include "cli/SetTable.h"
 #include "reference/Database.h"
 
 #include <CLI/CLI.hpp>
@@ -15,6 +17,8 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     int exitCode = vexora::kExitClean;
     vexora::AddDocumentCommands(app, argv[0], exitCode);
+    vexora::AddCompareCommand(app, argv[0], exitCode);
+    vexora::AddTableCommand(app, argv[0], exitCode);
     vexora::AddRefdbCommands(app, argv[0], exitCode);
     vexora::AddPlayCommand(app, exitCode);
     try {

@@ -189,6 +189,23 @@ void NameStatements(DataSet& set, bool original) {
     NameConstraints(set);
 }
 
+std::vector<Quantity> NamedQuantities(const DataSet& set) {
+    std::vector<Quantity> quantities = set.Quantities();
+    const bool original = set.isOriginalUnit;
+    for (Quantity& quantity : quantities) {
+        clsX& item = quantity.statements;
+        if (quantity.isProperty)
+            NameProperty(item, set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
+                         original ? set.Factor : 0);
+        else
+            NameVariable(item, quantity.item, set.VARIABLE(quantity.item),
+                         original ? set.VAR_UNIT(quantity.item) : "S");
+        quantity.name = item.Name;
+        quantity.unit = item.Unit;
+    }
+    return quantities;
+}
+
 std::vector<clsX> NamedStatements(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     std::vector<clsX> items = {value.Statements(0)};

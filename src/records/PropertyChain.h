@@ -14,6 +14,7 @@ class clsProperty;
 class DataSet;
 class SingleValue;
 class clsX;
+struct Quantity;
 
 /// The chain of a set: units and relations of its quantities, its statements and the precisions of
 /// its comment, all in the units in which the rows are entered. Texts and values are empty.
@@ -41,6 +42,8 @@ clsX InEnteredUnit(const clsX& item, std::string_view unitCode);
 /// The record file has no names: they follow from the codes, and the units from the set.
 void NameStatements(DataSet& set);
 void NameStatements(DataSet& set, bool original);
+/// The quantities of a set with their names and units, whatever its statements bear.
+std::vector<Quantity> NamedQuantities(const DataSet& set);
 /// The items of a single value, the property first, with their codes, names and units.
 std::vector<clsX> NamedStatements(const SingleValue& value);
 

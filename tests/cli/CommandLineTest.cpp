@@ -1,70 +1,11 @@
-// The command line tool as a user calls it: the program itself, in a folder of its own.
-#include "reference/ReferenceFixture.h"
+#include "cli/CommandLineFixture.h"
 #include "reference/Text.h"
 
-#include <gtest/gtest.h>
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <string>
-#include <tuple>
-
-namespace vexora {
-namespace {
-
-struct Outcome {
-    int code = -1;
-    std::string out, err;
-};
-
-class CommandLine : public testing::Test {
-protected:
-    CommandLine() {
-        const std::filesystem::path shared = VEXORA_SHARE_DIR;
-        for (const char* name : {"VXRLocal.mdb", "VXR.mdb"})
-            std::filesystem::copy_file(shared / name, folder.File(name));
-        folder.Write("water.txt", kDocument);
-    }
-    /// Runs vexora-cli in the folder, which is the application folder as well.
-    Outcome Run(const std::string& arguments) const {
-        const std::string command = "cd '" + folder.Path() + "' && VEXORA_HOME='" + folder.Path() +
-                                    "' '" VEXORA_BINARY_DIR "/bin/vexora-cli' " + arguments +
-                                    " 2>'" + folder.File("stderr") + "'";
-        Outcome outcome;
-        FILE* pipe = popen(command.c_str(), "r");
-        if (!pipe) return outcome;
-        std::array<char, 4096> block{};
-        for (std::size_t n = 0; (n = fread(block.data(), 1, block.size(), pipe)) > 0;)
-            outcome.out.append(block.data(), n);
-        const int status = pclose(pipe);
-        outcome.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        outcome.err = Read("stderr");
-        return outcome;
-    }
-    std::string Read(const std::string& name) const {
-        std::ifstream file(folder.File(name), std::ios::binary);
-        std::ostringstream text;
-        text << file.rdbuf();
-        return text.str();
-    }
-
-    static inline const std::string kHead = "^R 2031 wag pru 1\n"
-                                            "^J#J#O#@J. Nowhere@, 2031, $1$, 2-3#T##A##P#1####\n"
-                                            "^I#1#wagner#w  #Wagner,W.\n"
-                                            "^L 7732185 DNNNN P\n"
-                                            "^S 1 cm;;99.9m%,gc\n";
-    static inline const std::string kDocument =
-        kHead + "^A & O & & AB CD & &\n^z 1 TC S 1 L G & 647.096 & & &\n";
-    test::TemporaryFolder folder;
-};
+namespace vexora::test {
 
 TEST_F(CommandLine, HelpAndVersionAreCleanAndWrongUseIsTwo) {
-    for (const char* command : {"", "export", "check", "tree", "play", "refdb", "refdb build",
-                                "refdb import", "refdb check"}) {
+    for (const char* command : {"", "export", "check", "tree", "diff", "table", "play", "refdb",
+                                "refdb build", "refdb import", "refdb check"}) {
         const Outcome help = Run(std::string(command) + " --help");
         EXPECT_EQ(help.code, 0) << command;
         EXPECT_NE(help.out.find("Usage: vexora-cli " + std::string(command)), std::string::npos)
@@ -73,7 +14,8 @@ TEST_F(CommandLine, HelpAndVersionAreCleanAndWrongUseIsTwo) {
     }
     EXPECT_EQ(Run("--version").out, "vexora-cli " VEXORA_VERSION "\n");
     for (const char* wrong : {"", "paint", "export", "check", "tree --nix water.txt", "refdb",
-                              "refdb build", "refdb import VXR.mdb", "play"}) {
+                              "refdb build", "refdb import VXR.mdb", "play", "diff water.txt",
+                              "table", "table water.txt --format xls"}) {
         const Outcome outcome = Run(wrong);
         EXPECT_EQ(outcome.code, 2) << wrong;
         EXPECT_NE(outcome.err, "") << wrong;
@@ -297,5 +239,4 @@ TEST_F(CommandLine, TablesAreCheckedAndCounted) {
     EXPECT_EQ(Run("refdb check nowhere").code, 3);
 }
 
-} // namespace
-} // namespace vexora
+} // namespace vexora::test

@@ -1,0 +1,131 @@
+#include "records/Outline.h"
+
+#include "records/DataSet.h"
+#include "records/LineNames.h"
+#include "records/LineWriter.h"
+#include "records/PropertyChain.h"
+#include "records/Walk.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "reference/Text.h"
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <string_view>
+#include <typeinfo>
+
+namespace vexora {
+
+namespace {
+
+/// A key may hold what the user can change; the number stays.
+std::string IdentityOf(const Record& record) {
+    static const auto number = ByClass<std::string>()
+                                   .On<clsR>([](const clsR&) { return std::string("source"); })
+                                   .On<clsS>([](const clsS& sample) { return sample.SMPNM; });
+    return std::string(typeid(record).name()) + " " +
+           (number.Knows(record) ? number(record) : record.Key());
+}
+
+constexpr std::string_view RowKinds[] = {"^D", "^G", "^Y"};
+
+bool IsRow(std::string_view kind) {
+    return std::find(std::begin(RowKinds), std::end(RowKinds), kind) != std::end(RowKinds);
+}
+
+/// Lines of one kind after the first get a number, those of a statement bear its quantity.
+class FieldCollector {
+public:
+    explicit FieldCollector(Outline& outline) : outline_(outline) {}
+
+    void Add(std::string_view line) {
+        const std::string kind = LineKind(line);
+        auto fields = NamedFields(line);
+        std::string prefix;
+        if (kind == "^X" && fields.size() > 1)
+            prefix = fields[1].second + ", ";
+        else if (kind == "^I")
+            prefix = "author ";
+        const int n = ++count_[kind + prefix];
+        if (n > 1 || kind == "^I") prefix += std::to_string(n) + ", ";
+        fields.front().first += " of the " + kind + " line";
+        for (auto& [name, text] : fields)
+            outline_.fields.emplace_back(prefix + name, std::move(text));
+    }
+
+private:
+    Outline& outline_;
+    std::map<std::string, int> count_;
+};
+
+void AddColumns(Outline& outline, const std::vector<Quantity>& quantities) {
+    std::vector<std::string> names;
+    for (const Quantity& quantity : quantities)
+        names.push_back(quantity.name);
+    outline.columns = {"units"};
+    for (const std::string& name : names)
+        outline.columns.push_back(name);
+    for (const std::string& name : names)
+        outline.columns.push_back("digits of " + name);
+    outline.columns.insert(outline.columns.end(), {"evaluated uncertainty", "tie"});
+    for (const std::string& name : names) {
+        for (const char* what :
+             {"device specification", "repeatability", "repetitions", "uncertainty"})
+            outline.columns.push_back(std::string(what) + " of " + name);
+    }
+    outline.columns.insert(outline.columns.end(), {"combined uncertainty", "curve deviation"});
+}
+
+std::string RowText(const DataSet& set, const clsData& row, const std::vector<int>& items) {
+    std::string text = row.inOriginalUnits ? "of the paper" : "system";
+    const auto add = [&text](std::string_view part) { text.append("\t").append(part); };
+    for (const int item : items)
+        add(row.Values[static_cast<std::size_t>(item)]);
+    for (const int item : items)
+        add(row.isDigit ? std::to_string(row.DigitCount(item)) : "");
+    add(row.PRPUNCERTY);
+    add(set.HasTies() ? std::string_view(row.TIELINE) : std::string_view());
+    for (const int item : items) {
+        const RowStatements& stated = row.StatementsOf(item);
+        for (const std::string* part : {&stated.DS, &stated.Rep, &stated.Repetitions, &stated.Unc})
+            add(*part);
+    }
+    add(row.Extras ? std::string_view(row.Extras->userCU) : std::string_view());
+    add(row.Extras ? std::string_view(row.Extras->CD) : std::string_view());
+    return text;
+}
+
+void AddRows(Outline& outline, const DataSet& set) {
+    const std::vector<Quantity> quantities = NamedQuantities(set);
+    outline.variables = static_cast<std::size_t>(set.nVar);
+    AddColumns(outline, quantities);
+    std::vector<int> items;
+    for (const Quantity& quantity : quantities)
+        items.push_back(quantity.item);
+    outline.rows.reserve(set.recData.Count());
+    for (const clsData& row : set.recData)
+        outline.rows.push_back(RowText(set, row, items));
+}
+
+} // namespace
+
+Outline OutlineOf(Record& record) {
+    Outline outline;
+    outline.identity = IdentityOf(record);
+    outline.label = record.ShowKey();
+    LineWriter lines;
+    try {
+        record.Print(lines);
+    } catch (const SaveRefused& refused) {
+        outline.fields.emplace_back("cannot be written", refused.what());
+    }
+    FieldCollector fields(outline);
+    for (const std::string& line : Split(lines.Text(), '\n'))
+        if (!Trim(line).empty() && !IsRow(LineKind(line))) fields.Add(line);
+    if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set);
+    record.EachChild([&outline](Record& child) { outline.children.push_back(OutlineOf(child)); });
+    return outline;
+}
+
+} // namespace vexora
