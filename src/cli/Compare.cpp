@@ -26,8 +26,8 @@ struct Arguments {
 /// read.
 std::optional<Outline> Read(const std::string& path, const Arguments& arguments,
                             const std::string& argv0, int& exitCode) {
-    OpenedDocument document(path, false);
-    exitCode = document.Open(arguments.home, argv0);
+    OpenedDocument document(false);
+    exitCode = document.Open(path, arguments.home, argv0);
     if (exitCode != kExitClean) return std::nullopt;
     return OutlineOf(*Globals().recR.Item(std::size_t{1}));
 }

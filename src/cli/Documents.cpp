@@ -2,11 +2,18 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <set>
+#include <utility>
+#include <vector>
 
+#include "cli/DocumentList.h"
 #include "cli/ExitCodes.h"
+#include "cli/Json.h"
 #include "cli/OpenedDocument.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
@@ -19,13 +26,21 @@ namespace {
 
 struct Arguments {
     std::optional<std::string> home;
-    std::string document;
-    std::string xml;
+    std::vector<std::string> documents;
+    std::string out;
+    std::string format = "text";
     std::string argv0;
 };
 
+/// What a command made of one document, for standard output or for its place.
+struct Product {
+    std::string name; // what it is: "tree", "xml"
+    std::string text;
+    std::string file; // empty for standard output
+};
+
 /// Works on a document that has been read; the answer is an exit code.
-using Command = int(OpenedDocument& document, const Arguments& arguments);
+using Command = int(OpenedDocument& document, Product& product);
 
 void TellLinesNotKept(OpenedDocument& document) {
     const int count = document.LinesNotKept();
@@ -35,37 +50,124 @@ void TellLinesNotKept(OpenedDocument& document) {
                       " data of kinds that this edition does not keep");
 }
 
-int Check(OpenedDocument& document, const Arguments&) {
+int Check(OpenedDocument& document, Product&) {
     TellLinesNotKept(document);
     for (const LineLost& lost : document.LinesLost())
         document.Tell(lost.line, false, lost.text);
     for (const DocumentFinding& finding : CheckDocument()) {
         document.Tell(finding.line, finding.isError, finding.text);
     }
-    return document.Findings() == 0 ? kExitClean : kExitFindings;
+    return document.Findings().empty() ? kExitClean : kExitFindings;
 }
 
-int Tree(OpenedDocument& document, const Arguments&) {
-    std::cout << host::TreeText(document.Tree());
+int Tree(OpenedDocument& document, Product& product) {
+    product.name = "tree";
+    product.text = host::TreeText(document.Tree());
     return kExitClean;
 }
 
-int Export(OpenedDocument& document, const Arguments& arguments) {
-    if (document.Files().Resolve(arguments.xml) == document.Files().Resolve(arguments.document)) {
-        std::cerr << arguments.xml << ": error: this is the record file itself\n";
+int Export(OpenedDocument& document, Product& product) {
+    product.name = "xml";
+    if (document.Files().Resolve(product.file) == document.Files().Resolve(document.Path())) {
+        document.Tell(0, true, "the export cannot take the place of the record file itself");
         return kExitCannotWrite;
     }
     TellLinesNotKept(document);
-    const std::string xml = DocumentAsXml(ui::TheDesktop().Today());
-    if (arguments.xml.empty()) {
-        std::cout << xml;
-    } else if (const SaveOutcome outcome = WriteSafely(document.Files(), arguments.xml, xml, false);
-               !outcome.fault.empty()) {
-        std::cerr << arguments.xml << (outcome.isSaved ? ": warning: saved, but " : ": error: ")
-                  << outcome.fault << '\n';
-        if (!outcome.isSaved) return kExitCannotWrite;
+    product.text = DocumentAsXml(ui::TheDesktop().Today());
+    return document.Findings().empty() ? kExitClean : kExitFindings;
+}
+
+/// An object a document: where it stands, how it went, what there is to say, what came of it.
+void PrintJson(const OpenedDocument& document, int exitCode, const Product& product) {
+    std::cout << "{\"document\": " << JsonText(document.Path()) << ", \"exit\": " << exitCode
+              << ", \"findings\": [";
+    const char* before = "";
+    for (const Diagnostic& finding : document.Findings()) {
+        std::cout << std::exchange(before, ", ") << "{\"line\": " << finding.line
+                  << ", \"severity\": \"" << (finding.isError ? "error" : "warning")
+                  << "\", \"text\": " << JsonText(finding.text) << '}';
     }
-    return document.Findings() == 0 ? kExitClean : kExitFindings;
+    std::cout << ']';
+    if (!product.name.empty())
+        std::cout << ", " << JsonText(product.name) << ": "
+                  << JsonText(product.file.empty() ? product.text : product.file);
+    std::cout << '}';
+}
+
+class Run {
+public:
+    Run(const Arguments& arguments, Command* command)
+        : arguments_(arguments), command_(command),
+          document_(command == Tree, arguments.format != "text") {}
+
+    int All(const std::vector<std::pair<ListedDocument, std::string>>& documents) {
+        int worst = document_.OpenDatabases(arguments_.home, arguments_.argv0);
+        if (worst != kExitClean) return worst;
+        const bool asArray = arguments_.format == "json";
+        const char* before = asArray ? "[" : "";
+        for (const auto& [listed, file] : documents) {
+            std::cout << std::exchange(before, asArray ? ",\n" : "");
+            worst = std::max(worst, One(listed.path, file));
+        }
+        if (asArray) std::cout << (documents.empty() ? "[]\n" : "]\n");
+        return worst;
+    }
+
+private:
+    int One(const std::string& path, const std::string& file) {
+        Product product{{}, {}, file};
+        int exitCode = document_.Read(path);
+        if (exitCode == kExitClean) exitCode = command_(document_, product);
+        if (exitCode != kExitCannotWrite && !product.file.empty() && !product.text.empty())
+            exitCode = Write(product, exitCode);
+        if (arguments_.format != "text")
+            PrintJson(document_, exitCode, product);
+        else if (product.file.empty())
+            std::cout << product.text;
+        if (arguments_.format == "jsonl") std::cout << '\n';
+        return exitCode;
+    }
+    int Write(const Product& product, int exitCode) {
+        std::error_code made; // a folder that cannot be made shows when the file is written
+        const auto folder = std::filesystem::path(product.file).parent_path();
+        if (!arguments_.out.empty()) std::filesystem::create_directories(folder, made);
+        const SaveOutcome outcome =
+            WriteSafely(document_.Files(), product.file, product.text, false);
+        if (outcome.fault.empty()) return exitCode;
+        document_.Tell(0, !outcome.isSaved,
+                       product.file + (outcome.isSaved ? ": saved, but " : ": ") + outcome.fault);
+        return outcome.isSaved ? std::max<int>(exitCode, kExitFindings) : kExitCannotWrite;
+    }
+
+    const Arguments& arguments_;
+    Command* command_;
+    OpenedDocument document_;
+};
+
+/// The documents, each with the file that is to be written; a fault ends the command.
+int RunOnAll(Arguments arguments, Command* command) {
+    std::string single;
+    if (command == Export && arguments.documents.size() == 2 &&
+        arguments.documents[1].ends_with(".xml")) {
+        single = arguments.documents[1];
+        arguments.documents.pop_back();
+    }
+    std::vector<std::pair<ListedDocument, std::string>> documents;
+    std::set<std::string> files;
+    for (const ListedDocument& listed : ListDocuments(arguments.documents)) {
+        std::string file = single;
+        if (!arguments.out.empty()) file = arguments.out + "/" + listed.name + ".xml";
+        if (!file.empty() && !files.insert(file).second) {
+            std::cerr << "error: two documents would be written to " << file << '\n';
+            return kExitUsage;
+        }
+        documents.emplace_back(listed, file);
+    }
+    if (command == Export && documents.size() > 1 && arguments.out.empty()) {
+        std::cerr << "error: --out DIR says where the exports of several documents go\n";
+        return kExitUsage;
+    }
+    return Run(arguments, command).All(documents);
 }
 
 } // namespace
@@ -73,21 +175,25 @@ int Export(OpenedDocument& document, const Arguments& arguments) {
 void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
     auto arguments = std::make_shared<Arguments>();
     arguments->argv0 = argv0;
-    const auto add = [&](const char* name, const char* what, Command* run) {
+    const auto add = [&](const char* name, const char* what, const char* documents, Command* run) {
         CLI::App* command = app.add_subcommand(name, what);
         command->add_option("--home", arguments->home, "Application folder with the databases");
-        command->add_option("DOCUMENT", arguments->document, "A record file")->required();
-        command->callback([arguments, run, &exitCode] {
-            OpenedDocument document(arguments->document, run == Tree);
-            exitCode = document.Open(arguments->home, arguments->argv0);
-            if (exitCode == kExitClean) exitCode = run(document, *arguments);
-        });
+        command->add_option("DOCUMENT", arguments->documents, documents)->required();
+        command
+            ->add_option("--format", arguments->format,
+                         "text, json (one array), or jsonl (one line a document)")
+            ->check(CLI::IsMember({"text", "json", "jsonl"}));
+        command->callback([arguments, run, &exitCode] { exitCode = RunOnAll(*arguments, run); });
         return command;
     };
-    add("export", "Write a document as ThermoML", Export)
-        ->add_option("XML", arguments->xml, "The file to write; standard output when left out");
-    add("check", "Tell what is wrong or doubtful in a document", Check);
-    add("tree", "Print the tree of a document", Tree);
+    constexpr const char* Many = "Record files, and folders of them";
+    add("export", "Write documents as ThermoML",
+        "Record files, and folders of them; a second name that ends in .xml is the file to write",
+        Export)
+        ->add_option("--out", arguments->out,
+                     "Folder for the exports; without it one document goes to standard output");
+    add("check", "Tell what is wrong or doubtful in documents", Many, Check);
+    add("tree", "Print the trees of documents", Many, Tree);
 }
 
 } // namespace vexora

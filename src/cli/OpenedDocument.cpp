@@ -11,8 +11,8 @@
 
 namespace vexora {
 
-OpenedDocument::OpenedDocument(std::string path, bool withTree)
-    : path_(std::move(path)), desktop_([this](const ui::Message& message) {
+OpenedDocument::OpenedDocument(bool withTree, bool isQuiet)
+    : isQuiet_(isQuiet), desktop_([this](const ui::Message& message) {
           Tell(globals_.LineInHand, false, message.text);
       }),
       forms_(desktop_) {
@@ -20,34 +20,43 @@ OpenedDocument::OpenedDocument(std::string path, bool withTree)
 }
 
 void OpenedDocument::Tell(int line, bool isError, const std::string& text) {
-    ++findings_;
+    findings_.push_back({line, isError, Replace(text, "\n", " ")});
+    if (isQuiet_) return;
     std::cerr << path_;
     if (line > 0) std::cerr << ':' << line;
-    std::cerr << (isError ? ": error: " : ": warning: ") << Replace(text, "\n", " ") << '\n';
+    std::cerr << (isError ? ": error: " : ": warning: ") << findings_.back().text << '\n';
 }
 
-std::string OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
-                                          const std::string& argv0) {
+int OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
+                                  const std::string& argv0) {
     const Places places = host::FindPlaces(home, argv0);
     InitGlobals(places); // the user's name stands in the export, and the databases may be elsewhere
     const auto find = [&](const std::string& own, const std::string& name) {
         return Files().Exists(own) ? own : places.Installed + "/" + name;
     };
-    return globals_.Databases
-        .OpenBoth(find(globals_.LocalDbPath, "VXRLocal.mdb"),
-                  find(globals_.CompoundDbPath, "VXR.mdb"))
-        .value_or("");
+    const auto fault = globals_.Databases.OpenBoth(find(globals_.LocalDbPath, "VXRLocal.mdb"),
+                                                   find(globals_.CompoundDbPath, "VXR.mdb"));
+    if (!fault) return kExitClean;
+    std::cerr << "error: " << *fault << '\n';
+    return kExitUnreadable;
 }
 
-int OpenedDocument::Open(const std::optional<std::string>& home, const std::string& argv0) {
-    if (const std::string fault = OpenDatabases(home, argv0); !fault.empty()) {
-        std::cerr << "error: " << fault << '\n';
-        return kExitUnreadable;
-    }
+void OpenedDocument::Forget() {
+    findings_.clear();
+    linesNotKept_ = 0;
+    linesLost_.clear();
+    globals_.ForgetCurrent();
+    globals_.recR.Clear();
+    form_.tvwTree.Clear();
+}
+
+int OpenedDocument::Read(const std::string& path) {
+    Forget();
+    path_ = path;
     std::string error;
-    const std::optional<std::string> text = Files().Read(path_, error);
+    const std::optional<std::string> text = Files().Read(path, error);
     if (!text) {
-        std::cerr << path_ << ": error: " << error << '\n';
+        Tell(0, true, error);
         return kExitUnreadable;
     }
     ReadResult result = ReadDocument(*text, ReadPurpose::Look);
@@ -62,6 +71,12 @@ int OpenedDocument::Open(const std::optional<std::string>& home, const std::stri
     linesNotKept_ = result.linesNotKept;
     linesLost_ = std::move(result.lost);
     return kExitClean;
+}
+
+int OpenedDocument::Open(const std::string& path, const std::optional<std::string>& home,
+                         const std::string& argv0) {
+    const int exitCode = OpenDatabases(home, argv0);
+    return exitCode == kExitClean ? Read(path) : exitCode;
 }
 
 } // namespace vexora

@@ -11,21 +11,36 @@
 
 namespace vexora {
 
-/// A record file opened without the workbench around it, for the commands that only look at it.
-/// What the reader tells the user becomes a line "file:line: error|warning: text" on standard
-/// error.
+/// What there is to say about a document; line 0 for no line of the file.
+struct Diagnostic {
+    int line = 0;
+    bool isError = false;
+    std::string text;
+};
+
+/// Record files opened without the workbench around them, one after the other, for the commands
+/// that only look at them. What the reader tells the user becomes a diagnostic.
 class OpenedDocument {
 public:
     /// The tree takes as much memory as the records, so it is made only when it is asked for.
-    OpenedDocument(std::string path, bool withTree);
+    /// Diagnostics are written at once, as lines "file:line: error|warning: text" on standard
+    /// error, unless they are to be collected only.
+    explicit OpenedDocument(bool withTree, bool isQuiet = false);
 
-    /// Opens the databases of the application folder, or those installed, and reads the document.
-    /// The answer is an exit code; with anything but kExitClean there is no document.
-    int Open(const std::optional<std::string>& home, const std::string& argv0);
+    /// Opens the databases of the application folder, or those installed; an exit code. To be
+    /// called once, before anything is read.
+    int OpenDatabases(const std::optional<std::string>& home, const std::string& argv0);
+    /// Reads a document in place of the one before. The answer is an exit code; with anything but
+    /// kExitClean there is no document.
+    int Read(const std::string& path);
+    /// Both, for a command about one document.
+    int Open(const std::string& path, const std::optional<std::string>& home,
+             const std::string& argv0);
 
-    /// Writes one diagnostic; line 0 is left out.
     void Tell(int line, bool isError, const std::string& text);
-    int Findings() const { return findings_; }
+    /// What was told of the document.
+    const std::vector<Diagnostic>& Findings() const { return findings_; }
+    const std::string& Path() const { return path_; }
     int LinesNotKept() const { return linesNotKept_; }
     const std::vector<LineLost>& LinesLost() const { return linesLost_; }
     ui::TreeView& Tree() { return form_.tvwTree; }
@@ -37,10 +52,11 @@ private:
         ui::TreeView tvwTree{*this, "tvwTree"};
     };
 
-    std::string OpenDatabases(const std::optional<std::string>& home, const std::string& argv0);
+    void Forget();
 
     std::string path_;
-    int findings_ = 0;
+    bool isQuiet_;
+    std::vector<Diagnostic> findings_;
     int linesNotKept_ = 0;
     std::vector<LineLost> linesLost_;
     QuietDesktop desktop_;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "cli/ExitCodes.h"
+#include "cli/Json.h"
 #include "cli/OpenedDocument.h"
 #include "entry/TableColumns.h"
 #include "host/Reach.h"
@@ -86,10 +87,6 @@ std::string CsvField(const std::string& text) {
 std::string TsvField(const std::string& text) {
     return Replace(text, "\t", " ");
 }
-std::string JsonText(const std::string& text) {
-    return '"' + Replace(Replace(text, "\\", "\\\\"), "\"", "\\\"") + '"';
-}
-
 std::string Joined(const std::vector<std::string>& parts, const char* separator,
                    std::string (*written)(const std::string&)) {
     std::string line;
@@ -185,8 +182,8 @@ void AddTableCommand(CLI::App& app, const std::string& argv0, int& exitCode) {
     command->add_flag("--no-head", arguments->noHead, "Print the rows alone");
     command->add_flag("--system", arguments->system, "Print system units, not those of the paper");
     command->callback([arguments, argv0, &exitCode] {
-        OpenedDocument document(arguments->document, true);
-        exitCode = document.Open(arguments->home, argv0);
+        OpenedDocument document(true);
+        exitCode = document.Open(arguments->document, arguments->home, argv0);
         if (exitCode == kExitClean) exitCode = Print(document, *arguments);
     });
 }

@@ -8,6 +8,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <iostream>
 
 int main(int argc, char** argv) {
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "vexora-cli " VEXORA_VERSION);
     app.require_subcommand(1);
     int exitCode = vexora::kExitClean;
+    std::signal(SIGPIPE, SIG_IGN); // whoever reads may stop: that is told below
     vexora::AddDocumentCommands(app, argv[0], exitCode);
     vexora::AddCompareCommand(app, argv[0], exitCode);
     vexora::AddTableCommand(app, argv[0], exitCode);
@@ -29,5 +31,7 @@ int main(int argc, char** argv) {
         std::cerr << "error: " << error.what() << '\n';
         return vexora::kExitUnreadable;
     }
-    return exitCode;
+    if (std::cout.flush()) return exitCode;
+    std::cerr << "error: standard output cannot be written\n";
+    return vexora::kExitCannotWrite;
 }

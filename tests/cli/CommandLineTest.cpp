@@ -51,11 +51,13 @@ TEST_F(CommandLine, TheExportGoesToStandardOutputOrIntoAFile) {
 TEST_F(CommandLine, AnExportThatCannotBeWrittenLeavesWhatIsThere) {
     const Outcome nowhere = Run("export water.txt no/such/folder.xml");
     EXPECT_EQ(nowhere.code, 4);
-    EXPECT_TRUE(nowhere.err.starts_with("no/such/folder.xml: error: ")) << nowhere.err;
-    const Outcome itself = Run("export water.txt ./water.txt");
+    EXPECT_TRUE(nowhere.err.starts_with("water.txt: error: no/such/folder.xml: ")) << nowhere.err;
+    folder.Write("record.xml", kDocument);
+    const Outcome itself = Run("export record.xml ./record.xml");
     EXPECT_EQ(itself.code, 4);
-    EXPECT_EQ(itself.err, "./water.txt: error: this is the record file itself\n");
-    EXPECT_EQ(Read("water.txt"), kDocument);
+    EXPECT_EQ(itself.err, "record.xml: error: the export cannot take the place of the record file "
+                          "itself\n");
+    EXPECT_EQ(Read("record.xml"), kDocument);
 }
 
 TEST_F(CommandLine, WhatTheExportLeavesOutIsToldWithItsLine) {
@@ -153,12 +155,13 @@ TEST_F(CommandLine, LookingAtADocumentWritesToNoDatabase) {
 }
 
 TEST_F(CommandLine, WhatCannotBeReadIsThree) {
+    std::filesystem::create_directory(folder.File("none"));
     folder.Write("empty.txt", "");
     folder.Write("prose.txt", "Dear reader,\nthis is no record file.\n");
     folder.Write("short.txt", kHead + "^A & & & & & & & &\n^z 1 TC S 1 L G &\n");
     const std::string diagnostics[][2] = {
         {"missing.txt", "missing.txt: error: "},
-        {".", ".: error: "},
+        {"none", "none: error: "}, // a folder without a record file
         {"empty.txt", "empty.txt: error: this is no record file: it holds no source\n"},
         {"prose.txt", "prose.txt: error: this is no record file: it holds no source\n"},
         {"short.txt", "short.txt:7: warning: Incomplete record: ^z 1 TC S 1 L G &\n"
