@@ -17,6 +17,7 @@
 #include "cli/OpenedDocument.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
+#include "records/Record.h"
 #include "reference/SafeFile.h"
 #include "shell/DocumentText.h"
 
@@ -73,7 +74,13 @@ int Export(OpenedDocument& document, Product& product) {
         return kExitCannotWrite;
     }
     TellLinesNotKept(document);
-    product.text = DocumentAsXml(ui::TheDesktop().Today());
+    ExportedDocument exported = DocumentForExport(ui::TheDesktop().Today());
+    for (const ExportFinding& finding : exported.findings) {
+        const Record* record = finding.record;
+        document.Tell(record ? record->Line : 0, true,
+                      (record ? record->ShowKey() + ": " : "") + finding.text);
+    }
+    product.text = std::move(exported.xml);
     return document.Findings().empty() ? kExitClean : kExitFindings;
 }
 

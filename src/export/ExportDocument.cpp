@@ -79,7 +79,7 @@ std::string IsoDate(std::string_view recordDate) {
     return date.ok() ? std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day) : "";
 }
 
-std::string ExportDocument(const ui::Date& today) {
+ExportedDocument ExportDocument(const ui::Date& today) {
     XmlWriter xml;
     xml.Declaration();
     xml.Comment("Created by Vexora " VEXORA_VERSION);
@@ -95,7 +95,7 @@ std::string ExportDocument(const ui::Date& today) {
         source->ExportAll(xml, today);
     xml.Close();
     TellWhatIsUnusual();
-    return xml.Text();
+    return {xml.Text(), CheckExport(xml.Text(), xml.Marks())};
 }
 
 } // namespace vexora

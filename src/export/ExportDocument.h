@@ -1,15 +1,23 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "export/ClosingCheck.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
 
+/// A written file, and what its closing check found.
+struct ExportedDocument {
+    std::string xml;
+    std::vector<ExportFinding> findings;
+};
+
 /// The open document as ThermoML. It may ask for the source of the document (see clsR::PrintR), and
 /// tells which data it had to leave out. today is the day that the citation bears.
 /// Nothing is written to disk here. Text beyond ASCII leaves as character references.
-std::string ExportDocument(const ui::Date& today);
+ExportedDocument ExportDocument(const ui::Date& today);
 
 /// yyyy-mm-dd.
 /// ISO 8601, the date type of XML schemas.

@@ -83,16 +83,16 @@ void AnnounceRows(const DataSet& set, SetRows& rows) {
     }
 }
 
+constexpr const char* NoValidRows = "Rows without a valid number in ";
+constexpr const char* NoRepeatability = "Missing repeatability in ";
+
+} // namespace
+
 bool IsNumericRow(const clsData& row) {
     for (int n = 0; n <= row.nVar; ++n)
         if (!IsNumeric(row.Values[static_cast<std::size_t>(n)])) return false;
     return true;
 }
-
-constexpr const char* NoValidRows = "Rows without a valid number in ";
-constexpr const char* NoRepeatability = "Missing repeatability in ";
-
-} // namespace
 
 bool IsWithoutNumbers(const DataSet& set) {
     return set.recData.IsEmpty() && !Presentation::Of(set.DATATYPE).HasNumbers();

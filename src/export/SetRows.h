@@ -13,6 +13,9 @@ class DataSet;
 class clsData;
 class XmlWriter;
 
+/// All values of the row are numbers; others are not exported.
+bool IsNumericRow(const clsData& row);
+
 /// What a set gives to the export of its rows: how values and statements of each quantity are
 /// converted (0 the property, 1 to 3 the variables), and its statements for rows without their own.
 /// Made for one export of one set, which must stay as it is meanwhile.

@@ -126,7 +126,9 @@ void RepeatabilityHead(XmlWriter& xml, const clsX& item, const std::string& role
 
 void DeviceHead(XmlWriter& xml, const clsX& item, const std::string& role,
                 const std::string& figure = {}) {
-    if (!item.iDS) return;
+    // Where nobody says who judged the device there is nothing to announce in front of the rows.
+    const bool hasContent = !item.DSEvaluator.empty() || !figure.empty() || Val(item.DSLevel) > 0;
+    if (!item.iDS || !hasContent) return;
     xml.Open(role + "DeviceSpec");
     // The evaluator is a place in a list, or a name that was typed.
     if (item.DSEvaluator == "0") {

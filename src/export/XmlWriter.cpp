@@ -40,6 +40,7 @@ std::string Escaped(std::string_view text, bool attribute = false) {
 } // namespace
 
 void XmlWriter::Declaration() {
+    Indent();
     text_ += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 }
 
@@ -53,6 +54,7 @@ void XmlWriter::Comment(std::string_view text) {
 }
 
 void XmlWriter::Indent() {
+    ++lines_; // each line begins here
     text_.append(open_.size(), '\t');
 }
 

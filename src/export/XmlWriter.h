@@ -6,6 +6,14 @@
 
 namespace vexora {
 
+class Record;
+
+/// From this line of the file on, counted from 1, the elements come from a record.
+struct XmlMark {
+    int line = 0;
+    const Record* record = nullptr;
+};
+
 /// Writes XML in memory: one element or tag a line, indented by tabs. Texts are escaped here and
 /// nowhere else: "&", "<", ">" (and quotes in attributes) as entities, control characters dropped,
 /// all that is not plain ASCII as a character reference, so that every file is well formed, pure
@@ -28,6 +36,10 @@ public:
     /// The same, but only when the text is not empty.
     void ElementIfAny(std::string_view name, std::string_view text);
 
+    /// What follows comes from this record, until the next one; null for none.
+    void Mark(const Record* record) { marks_.push_back({lines_ + 1, record}); }
+    const std::vector<XmlMark>& Marks() const { return marks_; }
+
     /// Whole once every element is closed.
     const std::string& Text() const { return text_; }
 
@@ -36,6 +48,8 @@ private:
 
     std::string text_;
     std::vector<std::string> open_;
+    int lines_ = 0;
+    std::vector<XmlMark> marks_;
 };
 
 } // namespace vexora

@@ -79,12 +79,12 @@ void ExportKeywords(XmlWriter& xml, std::string_view keywords) {
     }
 }
 
-/// The key by which the house finds the source again; its fields stay even when they are empty.
+/// The key by which the house finds the source again.
 void ExportIdentity(XmlWriter& xml, const clsR& source) {
     xml.Open("KVORefID");
     xml.Element("yrYrPub", source.YEARPUB);
     xml.Element("sAuthor1", source.AUTHOR1);
-    xml.Element("sAuthor2", WithoutPlaceholder(source.AUTHOR2));
+    xml.ElementIfAny("sAuthor2", WithoutPlaceholder(source.AUTHOR2));
     xml.Element("nAuthorn", source.AUTHORN);
     xml.Close();
 }
@@ -112,17 +112,22 @@ void clsR::ExportR(XmlWriter& xml, const ui::Date& today) const {
 void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     PrepareOutput();
     CheckPresence();
+    xml.Mark(this);
     ExportR(xml, today);
-    for (const auto& compound : recL)
+    for (const auto& compound : recL) {
+        xml.Mark(compound.get());
         compound->ExportAll(xml);
+    }
     // Names of properties depend on the context; data begin with those of compounds.
     Globals().DataContext = "Pure";
     Walk(*this, [&xml](const Record& record) {
         const auto* const data = dynamic_cast<const OpenRecord*>(&record);
         if (!data) return;
         Globals().LineInHand = data->Line; // the place that is named with what is said of the data
+        xml.Mark(data);
         data->ExportAll(xml);
     });
+    xml.Mark(nullptr);
     Globals().LineInHand = 0;
 }
 

@@ -1,5 +1,7 @@
 #include "shell/DocumentText.h"
 
+#include <algorithm>
+
 #include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsR.h"
@@ -43,6 +45,20 @@ std::string LinesInBrief(const std::vector<LineLost>& lost) {
     return text;
 }
 
+/// One line each, with the node that it came from; a file that is wrong from end to end says so in
+/// few of them.
+std::string TextOf(const std::vector<ExportFinding>& findings) {
+    constexpr std::size_t mostLines = 20; // more would not fit on a screen
+    std::string text;
+    for (std::size_t i = 0; i < std::min(findings.size(), mostLines); ++i) {
+        const Record* record = findings[i].record;
+        text += (i == 0 ? "" : "\n") + (record ? record->ShowKey() + ": " : "") + findings[i].text;
+    }
+    if (findings.size() > mostLines)
+        text += "\nand " + std::to_string(findings.size() - mostLines) + " more";
+    return text;
+}
+
 } // namespace
 
 Notice NoticeOfReading(const ReadResult& result) {
@@ -79,9 +95,15 @@ std::string DocumentAsRecords() {
     return std::move(printed.text);
 }
 
-std::string DocumentAsXml(const ui::Date& today) {
+ExportedDocument DocumentForExport(const ui::Date& today) {
     AskSourcesOfDocument();
     return ExportDocument(today);
+}
+
+std::string DocumentAsXml(const ui::Date& today) {
+    ExportedDocument exported = DocumentForExport(today);
+    if (!exported.findings.empty()) ui::Say(TextOf(exported.findings), "Please review the export");
+    return std::move(exported.xml);
 }
 
 } // namespace vexora

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "export/ExportDocument.h"
 #include "records/RecordReader.h"
 #include "ui/Desktop.h"
 
@@ -22,7 +23,10 @@ Notice NoticeOfReading(const ReadResult& result);
 /// from is asked about first. Throws SaveRefused.
 std::string DocumentAsRecords();
 
-/// The document as ThermoML, after the same question.
+/// The document as ThermoML with what its closing check found, after the same question.
+ExportedDocument DocumentForExport(const ui::Date& today);
+/// The document as ThermoML, after the same question. What its closing check finds is told at once,
+/// all in one message, each with its node.
 std::string DocumentAsXml(const ui::Date& today);
 
 } // namespace vexora

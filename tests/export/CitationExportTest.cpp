@@ -120,7 +120,6 @@ TEST_F(CitationExport, TextsOfTheCitationBecomePlainAndWellFormed) {
     EXPECT_EQ(Part(xml, "KVORefID"), "<KVORefID>\n"
                                      "\t<yrYrPub>2002</yrYrPub>\n"
                                      "\t<sAuthor1>wag</sAuthor1>\n"
-                                     "\t<sAuthor2></sAuthor2>\n"
                                      "\t<nAuthorn>7</nAuthorn>\n"
                                      "</KVORefID>");
     EXPECT_EQ(Line(xml, "sAuthor"), "<sAuthor>Muller,A.</sAuthor>");

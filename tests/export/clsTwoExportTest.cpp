@@ -70,11 +70,14 @@ TEST_F(SetExport, ARowGoesBeforeItsSet) {
 }
 
 TEST_F(SetExport, StatementsThatOnlyRowsMakeAreAnnounced) {
-    const std::string xml = Exported(kDensity, "^d 25 100 250 &\n"
-                                               "^d 26 100 251 &\n^Y & & & & & & & & 1 & & & & &\n");
-    EXPECT_EQ(At(xml, "/Property/PropDeviceSpec/nDeviceSpecLevOfConfid"), "");
+    const std::string xml =
+        Exported(kDensity, "^d 25 100 250 &\n"
+                           "^d 26 100 251 &\n^Y & & & & & & & & 1 & & 2 & & &\n");
+    EXPECT_EQ(At(xml, "/Property/PropUncertainty/sUncertEvaluator"), "Author");
+    EXPECT_EQ(At(xml, "/NumValues//nStdUncertValue"), "2");
     EXPECT_EQ(At(xml, "/NumValues//nPropDeviceSpecValue"), "1");
-    EXPECT_NE(xml.find("<PropDeviceSpec>\n"), xml.rfind("<PropDeviceSpec>\n"));
+    // Nobody says who judged the device, and an empty head would say nothing.
+    EXPECT_EQ(xml.find("<PropDeviceSpec>\n"), xml.rfind("<PropDeviceSpec>\n"));
 }
 
 TEST_F(SetExport, AReferenceStateComesWithItsConditions) {

@@ -61,13 +61,13 @@ TEST(XmlPath, WhatIsNotWellFormedIsRefused) {
         " <?xml version='1.0'?><a/>",
     };
     for (const std::string text : bad)
-        EXPECT_THROW(XmlTexts(text, "a"), host::XmlError) << text;
+        EXPECT_THROW(XmlTexts(text, "a"), XmlError) << text;
 }
 
 TEST(XmlPath, PathsThatAreNoneAreRefused) {
     for (const std::string path :
          {"", "/", "a//", "a[", "a[]", "a[0]", "a[b]", "a[b=c]", "a[='c']", "a[1]b"})
-        EXPECT_THROW(XmlTexts("<a/>", path), host::XmlError) << path;
+        EXPECT_THROW(XmlTexts("<a/>", path), XmlError) << path;
 }
 
 } // namespace

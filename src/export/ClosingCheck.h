@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vexora {
+
+class Record;
+struct XmlMark;
+
+/// What a reader of a written file could not make sense of.
+struct ExportFinding {
+    std::string text;
+    const Record* record = nullptr; // that the element came from; null for the frame of the file
+};
+
+/// Reads a written file as a stranger would, who has nothing else: is it well formed, does every
+/// number that is referred to stand for something, and for one thing only, do numbers parse and
+/// stand for the value of the record in the system unit, does no count of digits exceed the digits
+/// of its text, is no element empty. marks say which record an element came from, by lines.
+/// The records must stand as they were when the file was written.
+std::vector<ExportFinding> CheckExport(std::string_view xml, const std::vector<XmlMark>& marks);
+
+} // namespace vexora

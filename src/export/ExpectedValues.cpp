@@ -1,0 +1,75 @@
+#include "export/ExpectedValues.h"
+
+#include "export/SetRows.h"
+#include "records/DataSet.h"
+#include "records/clsZ.h"
+#include "reference/Numbers.h"
+
+#include <cmath>
+
+namespace vexora {
+
+namespace {
+
+// Wavelengths are kept in Angstroms and leave in nm.
+constexpr double AngstromsInNanometre = 10;
+
+std::optional<ExpectedValue> Expected(std::string_view typed, const ExportUnit& unit) {
+    const std::string text = NormalizeNumber(typed);
+    if (!IsNumeric(text)) return std::nullopt;
+    // A converted number comes back within a fifth of the last place; some room for the arithmetic.
+    constexpr double part = 0.25;
+    constexpr double ofDouble = 1e-12;
+    double value = Val(text);
+    double place = LastPlace(text);
+    if (unit.converts) {
+        value = unit.difference ? unit.Difference(value) : unit.Absolute(value);
+        place = std::abs(unit.Difference(place));
+    }
+    if (unit.wavelength) {
+        value /= AngstromsInNanometre;
+        place /= AngstromsInNanometre;
+    }
+    return ExpectedValue{value, part * place + ofDouble * std::abs(value)};
+}
+
+std::optional<ExpectedValue> Expected(const SingleValue& value, int n) {
+    if (n == 0) return Expected(value.PRPVALUE, {value.PropertyConversion(), value.isOriginalUnit});
+    const auto* pure = dynamic_cast<const clsZ*>(&value);
+    if (pure == nullptr) return std::nullopt;
+    ExportUnit unit{value.VariableConversion(n), value.isOriginalUnit};
+    unit.wavelength = value.VARIABLE(n) == "WL";
+    return Expected(pure->INDVARIABLE, unit);
+}
+
+} // namespace
+
+ExpectedValues::ExpectedValues(const Record* record)
+    : record_(record), set_(dynamic_cast<const DataSet*>(record)) {
+    if (set_ == nullptr) return;
+    rows_ = std::make_unique<SetRows>(*set_);
+    next_ = set_->recData.begin();
+}
+
+ExpectedValues::~ExpectedValues() = default;
+
+bool ExpectedValues::Next() {
+    if (set_ == nullptr) {
+        const bool isThere = isFirst_ && dynamic_cast<const SingleValue*>(record_) != nullptr;
+        isFirst_ = false;
+        return isThere;
+    }
+    while (next_ != set_->recData.end()) {
+        row_ = next_++;
+        if (IsNumericRow(*row_)) return true;
+    }
+    return false;
+}
+
+std::optional<ExpectedValue> ExpectedValues::Of(int n) const {
+    if (set_ == nullptr) return Expected(static_cast<const SingleValue&>(*record_), n);
+    if (n > row_->nVar) return std::nullopt;
+    return Expected(row_->Values[static_cast<std::size_t>(n)], rows_->UnitIn(*row_, n));
+}
+
+} // namespace vexora
