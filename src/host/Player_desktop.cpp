@@ -2,6 +2,7 @@
 
 #include "host/HostClock.h"
 #include "host/Player.h"
+#include "ui/OneLine.h"
 
 namespace vexora::host {
 
@@ -90,9 +91,10 @@ std::optional<std::string> Player::AnswerNext(const TQuestion& question, std::st
 }
 
 std::optional<std::string> Player::Ask(const ui::Input& input) {
-    return AnswerNext(input, "input",
-                      Quoted(input.title) + ' ' + Quoted(input.prompt) + ' ' + Quoted(input.text),
-                      "no question, or input for it");
+    const auto typed = AnswerNext(
+        input, "input", Quoted(input.title) + ' ' + Quoted(input.prompt) + ' ' + Quoted(input.text),
+        "no question, or input for it");
+    return typed ? std::optional(ui::OneLine(*typed)) : std::nullopt;
 }
 
 std::optional<std::string> Player::Choose(const ui::FileChoice& choice) {

@@ -15,6 +15,7 @@
 #include "qt/HelpWindow.h"
 #include "qt/PicturePainter.h"
 #include "qt/Text.h"
+#include "ui/OneLine.h"
 
 namespace vexora::qt {
 
@@ -39,7 +40,7 @@ ui::Answer QtDesktop::Show(const ui::Message& message) {
 std::optional<std::string> QtDesktop::Ask(const ui::Input& input) {
     const auto box = MakeInputBox(input, Parent());
     if (box->exec() != QDialog::Accepted) return {};
-    return FromQt(box->textValue());
+    return ui::OneLine(FromQt(box->textValue()));
 }
 
 std::optional<std::string> QtDesktop::Choose(const ui::FileChoice& choice) {

@@ -201,7 +201,8 @@ std::int64_t ToInteger(double v) {
 }
 
 std::string NormalizeNumber(std::string_view text) {
-    std::string result(TrimBlanks(text));
+    constexpr std::string_view typesetMinus = "\u2212";
+    std::string result = Replace(TrimBlanks(text), typesetMinus, "-");
     for (std::size_t i = 0; i < result.size(); ++i) {
         if (result[i] == ',')
             result[i] = '.';

@@ -32,10 +32,10 @@ std::optional<std::int64_t> ParseInteger(std::string_view text);
 /// 0.5 gives 0 and 1.5 gives 2, so that no side is preferred.
 std::int64_t ToInteger(double v);
 
-/// Makes a typed or pasted number readable: trims, turns "," into ".", cuts blanks, puts "0" before
-/// a leading ".". The character that moves into the place of a cut blank is not looked at, so of
-/// two adjacent blanks one stays.
-/// A comma that parts thousands is read as a decimal point here; whoever pastes tables tells of it.
+/// Makes a typed or pasted number readable: trims, turns "," into ".", the minus sign U+2212
+/// into "-", cuts blanks, puts "0" before a leading ".". The character that moves into the place of
+/// a cut blank is not looked at, so of two adjacent blanks one stays. A comma that parts thousands
+/// is read as a decimal point here; whoever pastes tables tells of it.
 std::string NormalizeNumber(std::string_view text);
 /// Digits shown behind the point, 0 to 255, exponent taken into account. A mantissa without point
 /// counts one place too many ("1e-3" is 4): stored uncertainties depend on it.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/Desktop.h"
+#include "ui/OneLine.h"
 
 namespace vexora::ui {
 
@@ -116,7 +117,8 @@ std::string Grid::SelectionText() const {
     return text;
 }
 
-void Grid::UserCell(int row, int column, const std::string& text) {
+void Grid::UserCell(int row, int column, const std::string& typed) {
+    const std::string text = OneLine(typed);
     if (!IsUsable() || !editable_ || !IsInside(row, column)) return;
     if (row < fixedRows_ || column < fixedColumns_) return;
     SetFocus();

@@ -91,7 +91,7 @@ public:
     /// Takes a pasted text; without it nothing is pasted.
     std::function<void(const std::string& text)> OnPaste;
 
-    void UserCell(int row, int column, const std::string& text);
+    void UserCell(int row, int column, const std::string& typed);
     void UserPaste(const std::string& text);
     void UserSelect(Block block);
     /// Ctrl+V pastes at the selection, Ctrl+C copies it; arrows, Home, End, PageUp and PageDown

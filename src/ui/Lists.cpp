@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/Desktop.h"
+#include "ui/OneLine.h"
 #include "ui/Utf8.h"
 
 namespace vexora::ui {
@@ -123,7 +125,8 @@ void ComboBox::SelectFrom(std::size_t start) {
     Changed();
 }
 
-void ComboBox::UserEdited(const std::string& text) {
+void ComboBox::UserEdited(const std::string& typed) {
+    const std::string text = OneLine(typed);
     const bool same = Text() == text;
     selectedFrom_.reset();
     if (same)
@@ -164,7 +167,8 @@ bool ComboBox::Jump(const Key& key) {
 
 bool ComboBox::UserKey(Key& key) {
     if (ItemList::UserKey(key)) return true;
-    if (!IsUsable() || key.control || key.alt) return false;
+    const bool pastes = IsEditable() && key.FullName() == "Ctrl+V";
+    if (!IsUsable() || (!pastes && (key.control || key.alt))) return false;
     if (!IsEditable()) return Jump(key);
     std::u32string points = ToPoints(Text());
     const bool selected = selectedFrom_ && *selectedFrom_ < points.size();
@@ -176,6 +180,8 @@ bool ComboBox::UserKey(Key& key) {
     if (selected) points.resize(*selectedFrom_);
     if (key.name == "Backspace" || (selected && key.name == "Delete")) {
         if (!selected && !points.empty()) points.pop_back();
+    } else if (pastes) {
+        points += OneLine(ToPoints(TheDesktop().ClipboardText()));
     } else if (key.character >= U' ') {
         points.push_back(key.character);
     } else {

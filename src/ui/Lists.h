@@ -80,7 +80,7 @@ public:
 
     void UserDropDown();
     void UserChoose(int index) override;
-    void UserEdited(const std::string& text);
+    void UserEdited(const std::string& typed);
     bool UserKey(Key& key) override;
 
 private:

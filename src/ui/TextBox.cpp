@@ -6,23 +6,10 @@
 
 #include "ui/Desktop.h"
 #include "ui/Form.h"
+#include "ui/OneLine.h"
 #include "ui/Utf8.h"
 
 namespace vexora::ui {
-
-namespace {
-
-/// Line ends of what goes into a field of one line become blanks.
-std::u32string OneLine(std::u32string_view text) {
-    std::u32string line;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool pair = text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n';
-        if (!pair) line += text[i] == U'\r' || text[i] == U'\n' ? U' ' : text[i];
-    }
-    return line;
-}
-
-} // namespace
 
 void TextBox::Text(std::string text) {
     if (text == text_) return;
@@ -54,21 +41,40 @@ void TextBox::SelectAll() {
 
 void TextBox::UserReplaceAll(const std::string& text) {
     if (!IsUsable() || locked_) return;
-    const std::u32string points = ToPoints(text);
-    TextAndCaret(IsMultiLine() ? text : FromPoints(OneLine(points)), points.size());
+    const std::u32string points = Fitting(ToPoints(text));
+    TextAndCaret(FromPoints(points), points.size());
 }
 
 void TextBox::UserEdited(std::string text, std::size_t caret) {
-    if (IsUsable() && !locked_) TextAndCaret(std::move(text), caret);
+    if (!IsUsable() || locked_) return;
+    const std::u32string points = ToPoints(text);
+    if (Fitting(points) == points) return TextAndCaret(std::move(text), caret);
+    // Only what has come in for the selection is made to fit, as if it had been pasted here.
+    const std::u32string before = ToPoints(text_);
+    const std::u32string_view head = std::u32string_view(before).substr(0, start_);
+    const std::u32string_view tail = std::u32string_view(before).substr(Caret());
+    const bool isPaste = points.size() >= head.size() + tail.size() && points.starts_with(head) &&
+                         points.ends_with(tail);
+    if (!isPaste) return UserReplaceAll(text);
+    const std::size_t size = points.size() - head.size() - tail.size();
+    ReplaceSelection(std::u32string_view(points).substr(start_, size));
 }
 
 void TextBox::UserPaste(const std::string& text) {
     if (IsUsable() && !locked_) ReplaceSelection(ToPoints(text));
 }
 
+std::u32string TextBox::Fitting(std::u32string_view piece) const {
+    if (!IsMultiLine()) return OneLine(piece);
+    std::u32string lines(piece); // every system has its own line ends
+    for (std::size_t at = 0; (at = lines.find(U'\r', at)) != lines.npos; ++at)
+        lines.replace(at, lines.substr(at, 2) == U"\r\n" ? 2 : 1, U"\n");
+    return lines;
+}
+
 void TextBox::ReplaceSelection(std::u32string_view with) {
     std::u32string points = ToPoints(text_);
-    const std::u32string text = IsMultiLine() ? std::u32string(with) : OneLine(with);
+    const std::u32string text = Fitting(with);
     points.replace(start_, length_, text);
     TextAndCaret(FromPoints(points), start_ + text.size());
 }

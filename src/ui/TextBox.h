@@ -46,6 +46,8 @@ public:
     bool UserKey(Key& key) override;
 
 private:
+    /// A field of one line takes one line, whoever brings it.
+    std::u32string Fitting(std::u32string_view piece) const;
     void ReplaceSelection(std::u32string_view with);
     void Erase(bool backwards);
     bool Move(const Key& key);

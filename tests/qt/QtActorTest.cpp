@@ -56,6 +56,25 @@ TEST(QtActor, TypesIntoFieldsLikeTheModels) {
     EXPECT_TRUE(Holds(state, "cboUnit: MPa/s *"));
 }
 
+TEST(QtActor, OneLineOfWhatIsPastedStaysInAFieldOfOneLine) {
+    const std::string state = OnBoth([](host::Actor& actor, EveryKind& form) {
+        const ui::Key paste = ui::ParseKey("Ctrl+V");
+        actor.Type(form.txtName, "ab");
+        actor.PressKey(form.txtName, ui::ParseKey("Left"));
+        actor.ClipboardText("\tx\r\ny\n");
+        actor.PressKey(form.txtName, paste);
+        actor.Type(form.txtName, "z");
+        actor.PressKey(form.cboUnit, paste);
+        actor.PressKey(form.txtNotes, paste);
+        actor.Set(form.txtDigits, "12.5\t\n");
+        actor.TypeCell(form.tblData, 1, 1, "300\n");
+    });
+    for (const char* line :
+         {"txtName: ax yzb", "cboUnit: x y", "txtDigits: 12.5", "cell 1 1 = 300"})
+        EXPECT_TRUE(Holds(state, line)) << line << '\n' << state;
+    EXPECT_NE(state.find("txtNotes: \tx\ny\n"), state.npos) << state;
+}
+
 TEST(QtActor, KeysFollowTheRulesOfTheForm) {
     const std::string state = OnBoth([](host::Actor& actor, EveryKind& form) {
         actor.PressKey(form.txtName, ui::ParseKey("Enter"));

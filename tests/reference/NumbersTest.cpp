@@ -86,9 +86,16 @@ TEST(Numbers, IntegersAreWholeTextsThatFitSixtyFourBits) {
 }
 
 TEST(Numbers, TypedNumbersAreNormalizedWithoutLookingTwice) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"1 234,5", "1234.5"}, {",5", "0.5"},  {" .5 ", "0.5"}, {"1  2", "1 2"},
-        {"1 ,5", "1,5"},       {"abc", "abc"}, {"", ""},        {"99.50", "99.50"}};
+    const std::pair<const char*, const char*> cases[] = {{"1 234,5", "1234.5"},
+                                                         {",5", "0.5"},
+                                                         {" .5 ", "0.5"},
+                                                         {"1  2", "1 2"},
+                                                         {"1 ,5", "1,5"},
+                                                         {"abc", "abc"},
+                                                         {"", ""},
+                                                         {"99.50", "99.50"},
+                                                         {"\u22120.5", "-0.5"},
+                                                         {"\u2212 2,5e\u22123", "-2.5e-3"}};
     for (const auto& [typed, normal] : cases)
         EXPECT_EQ(NormalizeNumber(typed), normal) << typed;
 }

@@ -74,6 +74,32 @@ TEST_F(TextBoxTest, OnlyAFieldOfManyLinesTakesLineBreaks) {
     EXPECT_EQ(box_.Text(), "c d");
 }
 
+TEST_F(TextBoxTest, OneLineComesOutOfWhateverIsPutInOnEveryRoad) {
+    const std::pair<const char*, const char*> cases[] = {{"12.5\t", "12.5"},
+                                                         {"12.5 \r\n", "12.5"},
+                                                         {"\n\t x", "x"},
+                                                         {"a\n\n b\tc", "a b c"},
+                                                         {"\xE2\x80\xA8z", "z"},
+                                                         {"\r\n", ""},
+                                                         {" two  blanks ", " two  blanks "}};
+    for (const auto& [brought, line] : cases) {
+        box_.Text("");
+        box_.UserPaste(brought);
+        EXPECT_EQ(box_.Text(), line) << brought;
+        box_.UserReplaceAll(brought);
+        EXPECT_EQ(box_.Text(), line) << brought;
+        box_.Text("<old>"); // a widget tells the whole text after a paste over the selection
+        box_.Select(1, 3);
+        box_.UserEdited("<" + std::string(brought) + ">", 0);
+        EXPECT_EQ(box_.Text(), "<" + std::string(line) + ">") << brought;
+    }
+    many_.UserReplaceAll("a\tb\r\nc\rd\n");
+    EXPECT_EQ(many_.Text(), "a\tb\nc\nd\n");
+    box_.Text("<old>");
+    box_.UserEdited("dropped\n elsewhere\n", 3);
+    EXPECT_EQ(box_.Text(), "dropped elsewhere");
+}
+
 TEST_F(TextBoxTest, ClipboardKeysCopyCutAndPaste) {
     box_.Text("abc");
     box_.Select(1, 1);
