@@ -173,6 +173,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !detached_)
+        windows_.WorkedOn(*this);
     if (event->type() != QEvent::PaletteChange || detached_) return;
     for (const auto& view : views_)
         MarkDirty(*view);

@@ -49,14 +49,16 @@ GridModel::GridModel(GridView& view, ui::Grid& grid) : view_(view), grid_(grid) 
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : std::max(rows_ - grid_.FixedRows(), 0);
+    return parent.isValid() || view_.HasLostGrid() ? 0 : std::max(rows_ - grid_.FixedRows(), 0);
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : std::max(columns_ - grid_.FixedColumns(), 0);
+    return parent.isValid() || view_.HasLostGrid() ? 0
+                                                   : std::max(columns_ - grid_.FixedColumns(), 0);
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (view_.HasLostGrid()) return {};
     const int row = index.row() + grid_.FixedRows();
     const int column = index.column() + grid_.FixedColumns();
     if (role == Qt::DisplayRole || role == Qt::EditRole) return ToQt(grid_.Cell(row, column));
@@ -84,7 +86,7 @@ QVariant GridModel::MarkData(const ui::Grid::Mark& mark, int role) const {
 
 // Several fixed rows stand as several lines in the header, several fixed columns side by side.
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
+    if (role != Qt::DisplayRole || view_.HasLostGrid()) return {};
     QStringList texts;
     if (orientation == Qt::Horizontal) {
         for (int row = 0; row < grid_.FixedRows(); ++row)
@@ -99,7 +101,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return grid_.IsEditable() ? flags | Qt::ItemIsEditable : flags;
+    return !view_.HasLostGrid() && grid_.IsEditable() ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -179,6 +181,10 @@ void GridView::UseEditorOfForm(ui::TextBox& editor) {
     editor.Redraw.Connect([self = QPointer<GridView>(this)] {
         if (self && !self->Window().IsDetached()) self->Window().MarkDirty(*self);
     });
+}
+
+bool GridView::HasLostGrid() const {
+    return Window().IsDetached();
 }
 
 bool GridView::Wants(const ui::Key& key) const {

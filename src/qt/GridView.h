@@ -44,6 +44,8 @@ public:
     /// The cell as the model counts it, fixed rows and columns included.
     QModelIndex IndexOf(int row, int column) const;
     QTableView& Table() const { return *own_; }
+    /// The form has gone, and its grid with it; the widgets are still asked for sizes.
+    bool HasLostGrid() const;
     /// Selects as a drag from corner to corner does; false for a block that holds fixed cells.
     bool SelectAsDragged(const ui::Grid::Block& block);
     void Edit(int row, int column, const std::string& text);

@@ -332,8 +332,8 @@ QWidget* LayoutBuilder::MakePages(const ui::Layout& layout) {
     frame->setFrameShape(QFrame::StyledPanel);
     auto* inside = new QVBoxLayout(frame);
     auto* stack = new QStackedWidget(frame);
-    for (const ui::Layout& page : layout.parts)
-        stack->addWidget(Make(page));
+    for (const ui::Layout& page : layout.parts) // a page never is a control that shows itself
+        stack->addWidget(MakeColumn(ui::Column({page})));
     inside->addWidget(stack);
     column->addWidget(frame, 1);
     books_.push_back({static_cast<const ui::TabStrip*>(layout.control), stack});

@@ -216,6 +216,7 @@ void TabView::Draw() {
         else if (own_->tabText(i) != text)
             own_->setTabText(i, text);
     }
+    own_->updateGeometry(); // the bar does not tell of tabs that it gets before it is seen
     const int page = std::max(model_.Index(), 0);
     if (own_->currentIndex() != page) own_->setCurrentIndex(page);
 }

@@ -1,5 +1,6 @@
 #include "qt/Look.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
@@ -33,14 +34,68 @@ QPalette Palette(bool dark) {
     return palette;
 }
 
-/// Draws the edge of marks to tick and the lines of tables: on a dark base the style's own cannot
-/// be seen.
-class EdgedStyle : public QProxyStyle {
+/// The style of the platform, or the named one, with a mark around whatever has the keyboard: most
+/// styles show it only where Tab was seen by the toolkit, and on lists not at all.
+class MarkedStyle : public QProxyStyle {
 public:
-    EdgedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    MarkedStyle() = default;
+    explicit MarkedStyle(const QString& base) : QProxyStyle(base) {}
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
+        const bool ofCell = qobject_cast<const QAbstractItemView*>(widget);
+        if (element == PE_FrameFocusRect && !ofCell) return Mark(*option, *painter);
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool isField = element == PE_FrameLineEdit || (element == PE_Frame && IsArea(widget));
+        if (isField && option->state.testFlag(State_HasFocus)) Mark(*option, *painter);
+    }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        const bool isButton = element == CE_PushButton || element == CE_TabBarTab;
+        if (isButton && option->state.testFlag(State_HasFocus)) Mark(*option, *painter);
+    }
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ComboBox && option->state.testFlag(State_HasFocus))
+            Mark(*option, *painter);
+    }
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        if (metric == PM_DefaultFrameWidth && IsArea(widget)) return MarkWidth;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+private:
+    static constexpr int MarkWidth = 2; // [pixels]
+
+    static bool IsArea(const QWidget* widget) {
+        return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+    }
+    static void Mark(const QStyleOption& option, QPainter& painter) {
+        constexpr int half = 128;
+        constexpr int brighter = 150; // [per cent]
+        const bool dark = option.palette.color(QPalette::Window).lightness() < half;
+        const QColor accent = option.palette.color(QPalette::Active, QPalette::Highlight);
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(dark ? accent.lighter(brighter) : accent);
+        for (int inset = 0; inset < MarkWidth; ++inset)
+            painter.drawRect(option.rect.adjusted(inset, inset, -inset - 1, -inset - 1));
+        painter.restore();
+    }
+};
+
+/// Draws the edge of marks to tick and the lines of tables: on a dark base the style's own cannot
+/// be seen.
+class EdgedStyle : public MarkedStyle {
+public:
+    using MarkedStyle::MarkedStyle;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        MarkedStyle::drawPrimitive(element, option, painter, widget);
         if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) return;
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing, false);
@@ -53,18 +108,22 @@ public:
                   QStyleHintReturn* data) const override {
         if (hint == SH_Table_GridLineColor && option)
             return static_cast<int>(option->palette.color(QPalette::Button).lighter(115).rgb());
-        return QProxyStyle::styleHint(hint, option, widget, data);
+        return MarkedStyle::styleHint(hint, option, widget, data);
     }
 };
 
 } // namespace
 
 void TakeLook(const std::string& look) {
-    if (look != "dark" && look != "light") return;
+    const QString plain = QStringLiteral("Fusion");
+    if (look != "dark" && look != "light") {
+        QApplication::setStyle(new MarkedStyle);
+        return;
+    }
     if (look == "dark")
-        QApplication::setStyle(new EdgedStyle);
+        QApplication::setStyle(new EdgedStyle(plain));
     else
-        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setStyle(new MarkedStyle(plain));
     QApplication::setPalette(Palette(look == "dark"));
 }
 

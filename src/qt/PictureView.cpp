@@ -4,6 +4,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 #include "qt/FormWindow.h"
 #include "qt/PicturePainter.h"
@@ -57,6 +58,10 @@ void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, ground_);
     PaintStrokes(painter, picture_, picture_.Overlay(), size(), palette());
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect mark;
+    mark.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &painter, this);
 }
 
 PictureView::PictureView(FormWindow& window, ui::Picture& picture)

@@ -1,6 +1,9 @@
 #include "qt/Windows.h"
 
+#include <ranges>
+
 #include <QSettings>
+#include <QWindow>
 
 namespace vexora::qt {
 
@@ -49,8 +52,24 @@ FormWindow* Windows::WindowOf(const ui::Form& form) const {
 }
 
 FormWindow* Windows::Front() const {
-    const ui::Form* form = ui::Forms::IsPresent() ? ui::Forms::Current().Front() : nullptr;
-    return form ? WindowOf(*form) : nullptr;
+    return FrontBut(nullptr);
+}
+
+FormWindow* Windows::FrontBut(const FormWindow* other) const {
+    if (!ui::Forms::IsPresent()) return nullptr;
+    const ui::Form* modal = ui::Forms::Current().TopModal();
+    FormWindow* window = modal ? WindowOf(*modal) : nullptr;
+    if (window && window != other) return window;
+    for (const auto& worked : order_ | std::views::reverse) {
+        const bool counts = worked && worked != other && !worked->IsDetached();
+        if (counts && worked->Model().IsVisible()) return worked;
+    }
+    return nullptr;
+}
+
+void Windows::WorkedOn(FormWindow& window) {
+    std::erase_if(order_, [&](const auto& other) { return !other || other == &window; });
+    order_.emplace_back(&window);
 }
 
 void Windows::Flush() {
@@ -59,7 +78,8 @@ void Windows::Flush() {
     }
 }
 
-QWidget* Windows::ParentFor(const ui::Form& form) const {
+// The first of all owns the others: a form may close before those that it has opened.
+QWidget* Windows::OwnerFor(const ui::Form& form) const {
     const ui::Forms& forms = ui::Forms::Current();
     for (const ui::Form* open : forms.OpenForms()) {
         if (open == &form) break;
@@ -72,7 +92,7 @@ QWidget* Windows::ParentFor(const ui::Form& form) const {
 void Windows::Show(ui::Form& form) {
     FormWindow* window = WindowOf(form);
     if (!window) {
-        window = new FormWindow(*this, form, ParentFor(form));
+        window = new FormWindow(*this, form, OwnerFor(form));
         windows_[&form] = window;
         Restore(*window, form);
     }
@@ -81,15 +101,39 @@ void Windows::Show(ui::Form& form) {
         window->hide();
         window->setWindowModality(modality);
     }
+    if (window->isHidden()) PutOver(*window, FrontBut(window));
+    WorkedOn(*window);
     window->Flush();
     window->show();
-    window->raise();
-    window->activateWindow();
-    window->FollowFocus();
+    Enter(*window);
+}
+
+// The screen keeps it above that other one, and together with it.
+void Windows::PutOver(FormWindow& window, const FormWindow* below) const {
+    if (!below || !window.parentWidget()) return;
+    window.winId(); // there is something to put only from here on
+    const QWindow* own = window.windowHandle();
+    for (const QWindow* at = below->windowHandle(); at; at = at->transientParent())
+        if (at == own) return;
+    window.windowHandle()->setTransientParent(below->windowHandle());
+}
+
+void Windows::Enter(FormWindow& window) const {
+    window.raise();
+    window.activateWindow();
+    window.FollowFocus();
+}
+
+// The keyboard goes back to where it was before the window that has gone.
+void Windows::GoBack() const {
+    if (FormWindow* window = Front(); window && window->isVisible()) Enter(*window);
 }
 
 void Windows::Hide(ui::Form& form) {
-    if (FormWindow* window = WindowOf(form)) window->hide();
+    FormWindow* window = WindowOf(form);
+    if (!window) return;
+    window->hide();
+    GoBack();
 }
 
 void Windows::Drop(ui::Form& form) {
@@ -100,6 +144,7 @@ void Windows::Drop(ui::Form& form) {
     window->Detach();
     window->hide();
     window->deleteLater();
+    GoBack();
 }
 
 void Windows::DropAll() {

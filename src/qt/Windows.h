@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 #include <QPointer>
 
@@ -30,8 +31,11 @@ public:
     void Follow();
     /// The window of a form, or null.
     FormWindow* WindowOf(const ui::Form& form) const;
-    /// The window a person works on, or null.
+    /// The window a person works on: of the topmost modal form, else the one worked on last that
+    /// can still be seen; or null.
     FormWindow* Front() const;
+    /// A person has turned to this window.
+    void WorkedOn(FormWindow& window);
     /// Draws all that has changed in any window.
     void Flush();
 
@@ -52,11 +56,16 @@ private:
     void Hide(ui::Form& form);
     void Drop(ui::Form& form);
     void DropAll();
-    QWidget* ParentFor(const ui::Form& form) const;
+    QWidget* OwnerFor(const ui::Form& form) const;
+    FormWindow* FrontBut(const FormWindow* other) const;
+    void PutOver(FormWindow& window, const FormWindow* below) const;
+    void Enter(FormWindow& window) const;
+    void GoBack() const;
     void Remember(const FormWindow& window) const;
     void Restore(FormWindow& window, const ui::Form& form) const;
 
     std::unordered_map<const ui::Form*, QPointer<FormWindow>> windows_;
+    std::vector<QPointer<FormWindow>> order_; // the one worked on last at the end
     std::weak_ptr<Watch> watch_;
 };
 
