@@ -368,12 +368,12 @@ QWidget* LayoutBuilder::MakeButtons(const ui::Layout& layout) {
 QWidget* LayoutBuilder::MakeNote(const ui::Layout& layout) {
     auto* note = new QLabel(ToQt(layout.text), &window_);
     note->setTextFormat(Qt::PlainText);
-    note->setWordWrap(true);
     note->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     // A wrapped label asks for a narrow, high place unless it is told how wide it may be.
     const int widest = note->fontMetrics().averageCharWidth() * 64;
-    const int wide = note->fontMetrics().size(0, note->text()).width();
-    note->setMinimumWidth(std::min(wide + 4, widest));
+    const int wide = note->fontMetrics().size(0, note->text()).width() + 4;
+    note->setWordWrap(wide > widest);
+    note->setMinimumWidth(std::min(wide, widest));
     return note;
 }
 

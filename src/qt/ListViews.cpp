@@ -22,7 +22,11 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     own_->setInsertPolicy(QComboBox::NoInsert);
     own_->setMaxVisibleItems(20);
     own_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    own_->setMinimumContentsLength(12);
+    // What an editable one asks for is no entry; it is to be read as well.
+    constexpr std::size_t shortest = 12;
+    constexpr std::size_t longest = 40;
+    const std::size_t first = combo.IsEditable() ? combo.Text().size() : 0;
+    own_->setMinimumContentsLength(static_cast<int>(std::clamp(first, shortest, longest)));
     own_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     own_->setFocusPolicy(Qt::StrongFocus); // the wheel must not change a value in passing
     own_->OnPopup = [this] { ActAndRefresh([this] { model_.UserDropDown(); }); };

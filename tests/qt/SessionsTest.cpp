@@ -13,7 +13,8 @@
 #include "host/PlayMain.h"
 #include "host/PosixFileSystem.h"
 #include "host/WorkbenchProgram.h"
-#include "qt/QtActor.h"
+#include "qt/FormAudit.h"
+#include "qt/Look.h"
 #include "shell/Places.h"
 
 namespace vexora::qt::test {
@@ -87,6 +88,39 @@ TEST_P(OnBothFronts, LeavesTheSameTranscriptAndFiles) {
     EXPECT_EQ(found.files, expected.files);
     EXPECT_EQ(found.status, expected.status);
 }
+
+using LookAndSize = std::pair<const char*, double>;
+
+class InEachLook : public testing::TestWithParam<LookAndSize> {
+protected:
+    InEachLook() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of closed windows
+        TakeLook(GetParam().first);
+        QFont larger = font_;
+        larger.setPointSizeF(font_.pointSizeF() * GetParam().second);
+        QApplication::setFont(larger);
+    }
+    ~InEachLook() override {
+        QApplication::setFont(font_);
+        QApplication::setPalette(QPalette());
+    }
+
+private:
+    const QFont font_ = QApplication::font();
+};
+
+TEST_P(InEachLook, EveryFormIsReadWholeAndWalkedByTab) {
+    FormAudit audit;
+    for (const fs::path& script : Sessions())
+        Play(audit, script);
+    for (const std::string& fault : audit.Faults)
+        ADD_FAILURE() << fault;
+    for (const std::string& form : audit.Known)
+        EXPECT_GT(audit.Marked[form], 0U) << form;
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, InEachLook,
+                         testing::Values(LookAndSize("light", 1.0), LookAndSize("dark", 1.5)));
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(OnBothFronts);
 INSTANTIATE_TEST_SUITE_P(

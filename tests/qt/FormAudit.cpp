@@ -1,0 +1,144 @@
+#include "qt/FormAudit.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleOptionComboBox>
+
+#include "qt/Picture.h"
+#include "qt/Text.h"
+
+namespace vexora::qt::test {
+
+namespace {
+
+constexpr const char* Seen = "seen"; // property of a window that has been looked at
+
+QWidget* WidgetOf(const FormWindow& window, const ui::Control& control) {
+    const View* view = window.ViewFor(control);
+    return view ? view->Widget() : nullptr;
+}
+
+QRect PlaceIn(const FormWindow& window, const QWidget& widget) {
+    return {widget.mapTo(&window, QPoint()), widget.size()};
+}
+
+/// The room that the text of the widget needs.
+QSize NeededBy(QWidget& widget) {
+    if (auto* label = qobject_cast<QLabel*>(&widget)) {
+        if (label->wordWrap()) return {0, label->heightForWidth(label->width())};
+        return label->sizeHint();
+    }
+    if (auto* box = qobject_cast<QGroupBox*>(&widget))
+        return {box->fontMetrics().horizontalAdvance(box->title()),
+                box->minimumSizeHint().height()};
+    if (qobject_cast<QAbstractItemView*>(&widget)) return {}; // it scrolls
+    return qobject_cast<QAbstractButton*>(&widget) ? widget.sizeHint() : widget.minimumSizeHint();
+}
+
+bool CutsItsEntry(const QComboBox& box) {
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    option.editable = box.isEditable();
+    const QRect field = box.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                    QStyle::SC_ComboBoxEditField, &box);
+    return box.fontMetrics().horizontalAdvance(box.currentText()) > field.width();
+}
+
+} // namespace
+
+void FormAudit::Settle() {
+    QtActor::Settle();
+    if (looking_) return;
+    looking_ = true;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = dynamic_cast<FormWindow*>(widget);
+        if (!window || window->IsDetached() || !window->isVisible()) continue;
+        if (window->property(Seen).toBool()) continue;
+        window->setProperty(Seen, true);
+        LookAt(*window);
+    }
+    looking_ = false;
+}
+
+void FormAudit::LookAt(FormWindow& window) {
+    const auto names = ui::Forms::Current().KnownNames();
+    Known.insert(names.begin(), names.end());
+    window.grab(); // brings all to its place
+    if (window.isActiveWindow() && !QApplication::focusWidget())
+        Fault(window, window, "has the keyboard nowhere");
+    LookForCuts(window);
+    WalkByTab(window);
+    if (Marked.insert({window.Model().Name(), 0}).second) LookForMarks(window);
+}
+
+void FormAudit::Fault(const FormWindow& window, const QWidget& widget, const std::string& what) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    Faults.insert(
+        window.Model().Name() + ": " +
+        FromQt(label && label->objectName().isEmpty() ? label->text() : widget.objectName()) + " " +
+        what);
+}
+
+void FormAudit::LookForCuts(FormWindow& window) {
+    std::set<QWidget*> widgets;
+    for (const ui::Control* control : window.Model().Controls())
+        if (QWidget* widget = WidgetOf(window, *control)) widgets.insert(widget);
+    for (QLabel* label : window.centralWidget()->findChildren<QLabel*>())
+        widgets.insert(label);
+    for (QWidget* widget : widgets) {
+        if (!widget->isVisible()) continue;
+        const QSize needed = NeededBy(*widget);
+        if (widget->width() < needed.width() || widget->height() < needed.height())
+            Fault(window, *widget, "is cut off");
+        if (!window.rect().contains(PlaceIn(window, *widget)))
+            Fault(window, *widget, "reaches out of the window");
+        const auto* box = qobject_cast<QComboBox*>(widget);
+        if (box && CutsItsEntry(*box)) Fault(window, *widget, "cuts its entry");
+    }
+}
+
+// The next control is below or to the right; columns side by side are walked one after the other.
+void FormAudit::WalkByTab(FormWindow& window) {
+    const QWidget* before = nullptr;
+    for (const ui::Control* control : window.Model().Controls()) {
+        const QWidget* widget = WidgetOf(window, *control);
+        if (!widget || !control->TakesFocus() || !control->IsUsable() || !widget->isVisible())
+            continue;
+        if (before) {
+            const QRect from = PlaceIn(window, *before);
+            const QRect to = PlaceIn(window, *widget);
+            const bool toTheRight = to.left() > from.right();
+            const bool below = to.top() > from.bottom();
+            if (!toTheRight && !below)
+                Fault(window, *widget, "follows " + FromQt(before->objectName()) + " by Tab");
+        }
+        before = widget;
+    }
+}
+
+// By the widgets alone: the handlers of the form are not told.
+void FormAudit::LookForMarks(FormWindow& window) {
+    QWidget* const had = QApplication::focusWidget();
+    window.activateWindow();
+    QApplication::processEvents();
+    for (const ui::Control* control : window.Model().Controls()) {
+        QWidget* widget = WidgetOf(window, *control);
+        if (!widget || !control->TakesFocus() || !control->IsUsable() || !widget->isVisible())
+            continue;
+        if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
+        const QImage plain = window.grab(PlaceIn(window, *widget)).toImage();
+        widget->setFocus(Qt::OtherFocusReason);
+        if (!IsMarked(plain, window.grab(PlaceIn(window, *widget)).toImage()))
+            Fault(window, *widget, "shows no mark");
+        ++Marked[window.Model().Name()];
+    }
+    if (had) had->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace vexora::qt::test

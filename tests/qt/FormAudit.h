@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "qt/QtActor.h"
+
+namespace vexora::qt::test {
+
+/// Plays sessions, and looks at each form as it comes up: whether texts are cut off, whether Tab
+/// goes down and to the right, and whether the control with the keyboard shows it.
+class FormAudit : public QtActor {
+public:
+    void Settle() override;
+
+    /// What was found, by form and fault.
+    std::set<std::string> Faults;
+    /// How many controls of a form were seen with the keyboard.
+    std::map<std::string, std::size_t> Marked;
+    /// The forms that the program knows.
+    std::set<std::string> Known;
+
+private:
+    void LookAt(FormWindow& window);
+    void LookForCuts(FormWindow& window);
+    void WalkByTab(FormWindow& window);
+    void LookForMarks(FormWindow& window);
+    void Fault(const FormWindow& window, const QWidget& widget, const std::string& what);
+
+    bool looking_ = false;
+};
+
+} // namespace vexora::qt::test
