@@ -1,6 +1,6 @@
 #include "qt/Windows.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include <QSettings>
 #include <QWindow>
@@ -60,11 +60,10 @@ FormWindow* Windows::FrontBut(const FormWindow* other) const {
     const ui::Form* modal = ui::Forms::Current().TopModal();
     FormWindow* window = modal ? WindowOf(*modal) : nullptr;
     if (window && window != other) return window;
-    for (const auto& worked : order_ | std::views::reverse) {
-        const bool counts = worked && worked != other && !worked->IsDetached();
-        if (counts && worked->Model().IsVisible()) return worked;
-    }
-    return nullptr;
+    const auto last = std::find_if(order_.rbegin(), order_.rend(), [other](const auto& worked) {
+        return worked && worked != other && !worked->IsDetached() && worked->Model().IsVisible();
+    });
+    return last == order_.rend() ? nullptr : last->data();
 }
 
 void Windows::WorkedOn(FormWindow& window) {

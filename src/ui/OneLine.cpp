@@ -1,5 +1,7 @@
 #include "ui/OneLine.h"
 
+#include <algorithm>
+
 #include "ui/Utf8.h"
 
 namespace vexora::ui {

@@ -149,13 +149,14 @@ TEST_F(Focus, IsSeenOnEveryKindOfControlInEveryLook) {
                 if (windows_.WindowOf(form)->ViewFor(*control)->Widget()->isVisible()) break;
             }
             ui::Control& other = control == &form.cmdCancel ? form.cmdAccept : form.cmdCancel;
-            other.SetFocus();
-            ASSERT_TRUE(HasKeyboard(other)) << look;
-            const QImage before = PictureOf(windows_, *control);
-            control->SetFocus();
-            ASSERT_TRUE(HasKeyboard(*control)) << look << ' ' << control->Name();
-            EXPECT_TRUE(IsMarked(before, PictureOf(windows_, *control)))
-                << look << ' ' << control->Name();
+            const auto isMarked = [&] {
+                other.SetFocus();
+                if (!HasKeyboard(other)) return false;
+                const QImage before = PictureOf(windows_, *control);
+                control->SetFocus();
+                return HasKeyboard(*control) && IsMarked(before, PictureOf(windows_, *control));
+            };
+            EXPECT_TRUE(Soon(isMarked)) << look << ' ' << control->Name(); // once all has its place
             ++seen;
         }
         EXPECT_EQ(seen, 19) << look;

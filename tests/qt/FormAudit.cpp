@@ -127,6 +127,7 @@ void FormAudit::LookForMarks(FormWindow& window) {
     QWidget* const had = QApplication::focusWidget();
     window.activateWindow();
     QApplication::processEvents();
+    window.grab();
     for (const ui::Control* control : window.Model().Controls()) {
         QWidget* widget = WidgetOf(window, *control);
         if (!widget || !control->TakesFocus() || !control->IsUsable() || !widget->isVisible())
