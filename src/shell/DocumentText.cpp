@@ -1,14 +1,12 @@
 #include "shell/DocumentText.h"
 
 #include <algorithm>
+#include <span>
 
 #include "export/ExportDocument.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsR.h"
 #include "reference/Text.h"
-
-#include <algorithm>
-#include <span>
 
 namespace vexora {
 
