@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 /// The value of a cell, or nothing when it does not fit its column.
 /// Numbers are checked here because SQLite stores any text in a column of numbers.
 std::optional<SqlValue> CellValue(const std::string& cell, ColumnType type) {
-    if (type == ColumnType::Text) return SqlValue(cell);
+    if (type == ColumnType::Text || type == ColumnType::ExactText) return SqlValue(cell);
     if (type == ColumnType::Real) {
         if (!IsNumeric(cell)) return std::nullopt;
         return SqlValue(Val(cell));

@@ -41,6 +41,9 @@ constexpr ColumnSchema Amass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
 
 // A compound has a row for each of its names.
 constexpr ColumnSchema AllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
+// What other programs know a compound by, a row a number at most. These texts mind their case.
+constexpr ColumnSchema IdentifiersTable[] = {
+    {"RN", Integer}, {"InChI", ExactText}, {"InChIKey", ExactText}, {"SMILES", ExactText}};
 constexpr ColumnSchema SourceRefInfo[] = {
     {"YEARPUB", Integer}, {"AUTHOR1", Text}, {"AUTHOR2", Text}, {"AUTHORN", Integer},
     {"SOURCE", Text},     {"TITLE", Text},   {"NEW", Flag}};
@@ -69,10 +72,11 @@ constexpr std::array<TableSchema, 13> LocalTables{
      {"PurityDetermination", PurityDeterminationTable, ""},
      {"AMASS", Amass, ""}}};
 
-constexpr std::array<TableSchema, 3> CompoundTables{
+constexpr std::array<TableSchema, 4> CompoundTables{
     {{"ALLNAME", AllName,
       "create index AllNameRN on ALLNAME(RN);"
       "create index AllNameName on ALLNAME(NAME)"},
+     {"Identifiers", IdentifiersTable, "create unique index IdentifiersRN on Identifiers(RN)"},
      {"SOURCE_REFINFO", SourceRefInfo,
       "create index SourceYear on SOURCE_REFINFO(YEARPUB, AUTHOR1)"},
      {"SOURCE_AUTHOR", SourceAuthor, "create index AuthorName on SOURCE_AUTHOR(LASTNM)"}}};
@@ -84,6 +88,8 @@ std::string_view SqlType(ColumnType type) {
     case Text:
         // Names are typed in any case; look-ups of codes compare again with exact case.
         return "text collate nocase";
+    case ExactText:
+        return "text";
     case Integer:
         return "integer";
     case Flag:

@@ -12,10 +12,11 @@
 namespace vexora {
 
 enum class ColumnType {
-    Text,    // TEXT, compared without regard to case
-    Integer, // INTEGER
-    Flag,    // INTEGER, 0 when not stated
-    Real     // REAL
+    Text,      // TEXT, compared without regard to case
+    ExactText, // TEXT, compared with its case
+    Integer,   // INTEGER
+    Flag,      // INTEGER, 0 when not stated
+    Real       // REAL
 };
 
 struct ColumnSchema {
@@ -33,7 +34,7 @@ struct TableSchema {
 /// Tables of the vocabulary.
 extern const std::array<TableSchema, 13> LocalTables;
 /// Tables of compounds, sources and authors.
-extern const std::array<TableSchema, 3> CompoundTables;
+extern const std::array<TableSchema, 4> CompoundTables;
 /// The column of that name, case apart.
 std::optional<ColumnSchema> FindColumn(const TableSchema& table, std::string_view name);
 /// Makes the tables, empty; indexes are made by CreateIndexes once the rows are in.
