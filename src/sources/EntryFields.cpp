@@ -1,5 +1,7 @@
 #include "sources/EntryFields.h"
 
+#include <algorithm>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -26,6 +28,48 @@ std::optional<std::string> Inserted(std::string_view text, std::string_view into
     const std::size_t more = text.size() - into.size();
     if (text.substr(front + more) != into.substr(front)) return std::nullopt;
     return std::string(text.substr(front, more));
+}
+
+bool CountsInTitle(char c) {
+    return c != ' ' && c != '.';
+}
+
+/// Journals are abbreviated with and without blanks and points.
+std::string TitleKey(std::string_view title) {
+    std::string key = LowerAscii(title);
+    std::erase_if(key, [](char c) { return !CountsInTitle(c); });
+    return key;
+}
+
+bool BeginsAs(std::string_view title, std::string_view typed) {
+    return LowerAscii(title).starts_with(LowerAscii(typed));
+}
+
+/// The title that a typed text begins; "" if there is none.
+std::string TitleBegunBy(const std::vector<std::string>& titles, std::string_view typed) {
+    const std::string key = TitleKey(typed);
+    if (key.empty()) return "";
+    const std::function<bool(std::string_view)> ranks[] = {
+        [&](std::string_view title) { return EqualNoCase(title, typed); },
+        [&](std::string_view title) { return BeginsAs(title, typed); },
+        [&](std::string_view title) { return TitleKey(title) == key; },
+        [&](std::string_view title) { return TitleKey(title).starts_with(key); }};
+    for (const auto& fits : ranks)
+        if (const auto found = std::ranges::find_if(titles, fits); found != titles.end())
+            return *found;
+    return "";
+}
+
+/// How much of the title a person has typed who typed it in another writing.
+std::string PartTyped(std::string_view title, std::string_view typed) {
+    if (BeginsAs(title, typed)) return std::string(title.substr(0, typed.size()));
+    std::size_t left = TitleKey(typed).size();
+    std::size_t end = 0;
+    for (; end < title.size() && left > 0; ++end)
+        left -= CountsInTitle(title[end]) ? 1 : 0;
+    while (!CountsInTitle(typed.back()) && end < title.size() && !CountsInTitle(title[end]))
+        ++end;
+    return std::string(title.substr(0, end));
 }
 
 } // namespace
@@ -72,10 +116,10 @@ CompletingCombo::CompletingCombo(ui::Form& form, std::string name, std::string p
       table_(std::move(table)), column_(std::move(column)) {
     OnChange = [this] { Complete(); };
     OnGotFocus = [this] {
-        typed_ = Entered();
+        typed_ = onEntry_ = Entered();
         if (typed_.empty()) SelectFrom(0);
     };
-    OnLostFocus = [this] { Enter(Text()); };
+    OnLostFocus = [this] { TakeKnown(); };
 }
 
 void CompletingCombo::Fill() {
@@ -117,14 +161,20 @@ void CompletingCombo::Complete() {
     const std::string before = std::exchange(typed_, typed);
     const std::size_t length = CodePointCount(typed);
     const bool oneMore = length > 0 && Substring(typed, 1, length - 1) == before;
-    if (!oneMore || !Globals().LocalDb().IsOpen()) return; // erased, pasted or put in between
-    const auto rows =
-        Globals().LocalDb().Query("select " + column_ + " from " + table_ + " where " + column_ +
-                                      " like ? order by " + column_ + "=? desc, rowid",
-                                  {typed + "*", typed});
-    if (rows.IsEnd()) return;
-    Enter(rows.Text(column_));
-    SelectFrom(length);
+    if (!oneMore) return; // erased, pasted or put in between
+    const std::string title = TitleBegunBy(Items(), typed);
+    if (title.empty()) return;
+    typed_ = PartTyped(title, typed);
+    Enter(title);
+    SelectFrom(CodePointCount(typed_));
+}
+
+/// What stood there before is another's writing and stays.
+void CompletingCombo::TakeKnown() {
+    const std::string entered = Entered();
+    const auto known = std::ranges::find(Items(), TitleKey(entered), TitleKey);
+    const bool takes = entered != onEntry_ && known != Items().end() && Find(entered) < 0;
+    Enter(takes ? *known : Text());
 }
 
 } // namespace vexora

@@ -45,7 +45,8 @@ private:
 
 /// An editable list of one column of the local database. Every character typed at the end is
 /// completed by the first row that begins with the text, the completion standing selected; an empty
-/// field shows a prompt.
+/// field shows a prompt. Blanks, points and case do not count, rows that have them as typed go
+/// first; a text that differs from a row only in these becomes the row when the field is left.
 class CompletingCombo : public ui::ComboBox {
 public:
     CompletingCombo(ui::Form& form, std::string name, std::string prompt, std::string table,
@@ -60,11 +61,13 @@ public:
 private:
     void DropPrompt();
     void Complete();
+    void TakeKnown();
 
     std::string prompt_;
     std::string table_;
     std::string column_;
     std::string typed_;       // as typed last, without its completion
+    std::string onEntry_;     // what stood there when the field was entered
     bool prompting_ = false;  // the prompt stood before the change
     bool completing_ = false; // the field itself changes its text
 };

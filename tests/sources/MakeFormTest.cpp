@@ -294,6 +294,18 @@ TEST_F(MakeFormTest, TypingInTheListOfJournalsCompletesIt) {
         EXPECT_EQ(journal.Text(), "J. Phys. Chem. R") << "the completion goes, and stays away";
         Type(journal, "x");
         EXPECT_EQ(journal.Text(), "J. Phys. Chem. Rx");
+        for (const char* typed : {"j chem eng da", "J. Chem. Eng. D"}) {
+            Set(opened, "cboJournal", "");
+            journal.SetFocus();
+            Type(journal, typed);
+            EXPECT_EQ(journal.Text(), "J.Chem.Eng.Data") << typed;
+        }
+        EXPECT_EQ(journal.SelectedFrom(), 12U) << "what is proposed beyond J.Chem.Eng.D";
+        for (const char* whole : {"J. Chem. Eng. Data", "J CHEM ENG DATA"}) {
+            Set(opened, "cboJournal", whole);
+            opened.Find("txtPages")->SetFocus();
+            EXPECT_EQ(journal.Text(), "J.Chem.Eng.Data") << whole;
+        }
         Set(opened, "cboJournal", "J. Ph");
         EXPECT_EQ(journal.Text(), "J. Ph") << "what is pasted stays as it is";
         Set(opened, "cboJournal", "");
