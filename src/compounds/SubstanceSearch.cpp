@@ -1,5 +1,7 @@
 #include "compounds/SubstanceSearch.h"
 
+#include "reference/CompoundNames.h"
+#include "reference/NameKey.h"
 #include "reference/ReferenceDatabases.h"
 #include "reference/Text.h"
 
@@ -27,19 +29,15 @@ std::string NamePattern(std::string_view typed) {
 }
 
 std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string_view formula) {
-    std::string sql = "select * from ALLNAME where";
-    SqlValues values;
-    if (!formula.empty()) {
-        sql += " like_case(?, FORMULA)";
-        values.emplace_back(formula);
-    }
-    if (!formula.empty() && !namePattern.empty()) sql += " and";
-    if (!namePattern.empty()) {
-        sql += " NAME like ?";
-        values.emplace_back(namePattern);
-    }
-    if (values.empty()) return {};
-    return Rows(sql + " order by rowid", values);
+    const CompoundNames* names = KnownNames();
+    if (!names || (formula.empty() && NameKey(namePattern).empty())) return {};
+    return names->Matching(namePattern, formula);
+}
+
+std::vector<std::string> NamesBeginningWith(std::string_view typed) {
+    constexpr std::size_t shown = 100;
+    const CompoundNames* names = KnownNames();
+    return names ? names->BeginningWith(typed, shown) : std::vector<std::string>();
 }
 
 std::vector<CompoundRow> CompoundsNamed(std::string_view name) {

@@ -14,10 +14,17 @@ namespace vexora {
 /// become one; a lone "*" asks for nothing and becomes empty.
 std::string NamePattern(std::string_view typed);
 
-/// The compounds whose name matches the pattern, case apart, and whose formula matches the formula,
-/// case counting; an empty one is no condition. Table order; nothing when both are empty or there
-/// is no database.
+/// True for a formula that stands for several ("C6*").
+bool IsFormulaPattern(std::string_view formula);
+
+/// The compounds whose name matches the pattern, apart from case, blanks, hyphens and "n-", and
+/// whose formula matches the formula, case counting; an empty one is no condition. Table order;
+/// nothing when both are empty or there is no database.
 std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string_view formula);
+
+/// The first hundred names that begin with what was typed, compared as by FindCompounds; nothing
+/// for an empty text.
+std::vector<std::string> NamesBeginningWith(std::string_view typed);
 
 /// The compounds of that very name, case apart, in table order.
 std::vector<CompoundRow> CompoundsNamed(std::string_view name);

@@ -75,6 +75,8 @@ void frmSubst::ArrangeControls() {
 
 void frmSubst::WireEvents() {
     txtName.OnChange = [this] { NameChanged(); };
+    txtName.OnDropDown = [this] { OfferNames(); };
+    txtName.OnClick = [this] { NamePicked(); };
     txtRN2.OnChange = [this] { FrontChanged(); };
     txtRN1.OnChange = [this] { RegistryNumberChanged(); };
     txtCASD.OnChange = [this] { CheckDigitChanged(); };
@@ -114,8 +116,8 @@ void frmSubst::PrepareEdit() {
     ShowEntryNumber("");
     for (ui::TextBox* box : {&txtRN2, &txtRN1, &txtCASD})
         box->Locked(true);
-    for (ui::TextBox* box : {&txtName, &txtFormula})
-        box->Locked(!mendable_);
+    txtName.Enabled(mendable_);
+    txtFormula.Locked(!mendable_);
     cmdFind.Enabled(mendable_);
     lstNames.Enabled(mendable_);
     if (compound.isBio) fraBio.Visible(true);
@@ -138,6 +140,7 @@ void frmSubst::Fill(const clsL& compound) {
 
 void frmSubst::NameChanged() {
     if (Filling) return;
+    OfferNames();
     nameEdited_ = true;
     Touch();
 }

@@ -21,7 +21,7 @@ class frmSubst : public ChainForm {
 public:
     frmSubst();
 
-    ui::TextBox txtName{*this, "txtName"};
+    ui::ComboBox txtName{*this, "txtName", ui::ComboBox::Style::Editable};
     ui::TextBox txtRN2{*this, "txtRN2"};
     ui::TextBox txtRN1{*this, "txtRN1"};
     ui::TextBox txtCASD{*this, "txtCASD"};
@@ -65,6 +65,10 @@ private:
     void NamesKey(ui::Key& key);
     void UseRegistryNumber();
     void TakeNumber(std::int64_t rn);
+
+    // The names below what is typed (frmSubst_names.cpp).
+    void OfferNames();
+    void NamePicked();
 
     // The search (frmSubst_search.cpp).
     void FindSubstance();

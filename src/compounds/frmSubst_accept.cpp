@@ -19,6 +19,10 @@ std::string Trimmed(const ui::TextBox& box) {
     return std::string(TrimBlanks(box.Text()));
 }
 
+std::string Trimmed(const ui::ComboBox& box) {
+    return std::string(TrimBlanks(box.Text()));
+}
+
 } // namespace
 
 void frmSubst::Accept() {
@@ -75,7 +79,7 @@ bool frmSubst::IdentifySubstance() {
         ShowMass();
     }
     if (!AgreesWithNumber()) return false;
-    if (txtName.IsEmpty()) return Refuse(txtName, "Enter the substance name");
+    if (txtName.Text().empty()) return Refuse(txtName, "Enter the substance name");
     return CompoundsNamed(txtName.Text()).empty() ? RegisterSubstance() : AgreesWithName();
 }
 
@@ -181,8 +185,9 @@ void frmSubst::Finish() {
 
 void frmSubst::ClearBoxes() {
     const ui::FillingScope filling(*this);
-    for (ui::TextBox* box : {&txtName, &txtRN2, &txtRN1, &txtCASD, &txtFormula, &txtMMass,
-                             &thtCharge, &txtEC, &txtPDB})
+    txtName.Text("");
+    for (ui::TextBox* box :
+         {&txtRN2, &txtRN1, &txtCASD, &txtFormula, &txtMMass, &thtCharge, &txtEC, &txtPDB})
         box->Text("");
     ShowRows({});
     row_.reset();

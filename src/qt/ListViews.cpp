@@ -21,7 +21,9 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     own_->setEditable(combo.IsEditable());
     own_->setInsertPolicy(QComboBox::NoInsert);
     own_->setMaxVisibleItems(20);
-    own_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // Entries that come while a person types must not widen the form.
+    own_->setSizeAdjustPolicy(combo.IsEditable() ? QComboBox::AdjustToMinimumContentsLengthWithIcon
+                                                 : QComboBox::AdjustToContents);
     // What an editable one asks for is no entry; it is to be read as well.
     constexpr std::size_t shortest = 12;
     constexpr std::size_t longest = 40;
@@ -53,6 +55,8 @@ bool ComboView::Wants(const ui::Key& key) const {
 }
 
 void ComboView::Draw() {
+    const QString before = own_->currentText();
+    const int caret = model_.IsEditable() ? own_->lineEdit()->cursorPosition() : 0;
     if (shown_ != model_.Items()) {
         shown_ = model_.Items();
         QStringList texts;
@@ -67,6 +71,7 @@ void ComboView::Draw() {
         own_->setEditText(text);
         if (!own_->hasFocus()) own_->lineEdit()->home(false); // a long text shows its beginning
     }
+    if (model_.IsEditable() && before == text) own_->lineEdit()->setCursorPosition(caret);
     if (model_.IsEditable()) Shade(*own_, !model_.Enabled());
     DrawSelection(text);
 }

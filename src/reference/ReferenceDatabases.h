@@ -10,6 +10,7 @@
 
 namespace vexora {
 
+class CompoundNames;
 struct VocabularyTables;
 
 /// Two files, since the vocabulary comes with the edition and the compounds grow at the user's.
@@ -17,6 +18,7 @@ struct ReferenceDatabases {
     Database LocalDb;                         // vocabulary, VXRLocal.mdb
     Database CompoundDb;                      // compounds, sources, authors, VXR.mdb
     std::shared_ptr<VocabularyTables> Tables; // what the look-ups have read of LocalDb
+    std::shared_ptr<CompoundNames> Names;     // what searches have read of CompoundDb
 
     /// Opens both files and reads their test tables (`Conversions`, `ALLNAME`). The text tells what
     /// is wrong; the present databases change only when nothing is.

@@ -111,10 +111,11 @@ void ComboBox::Text(std::string text) {
         Choose(text);
         return;
     }
-    if (Text() == text) return;
-    typed_ = std::move(text);
+    const bool same = Text() == text;
+    typed_ = std::move(text); // also of a chosen entry, which may leave the list
+    if (!same || Index() < 0) SetIndexQuietly(Find(typed_));
+    if (same) return;
     selectedFrom_.reset();
-    SetIndexQuietly(Find(typed_));
     Changed();
     Fire(OnChange);
 }

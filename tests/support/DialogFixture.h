@@ -38,6 +38,10 @@ protected:
         box.SetFocus();
         box.UserReplaceAll(text);
     }
+    static void Enter(ui::ComboBox& box, const std::string& text) {
+        box.SetFocus();
+        box.UserEdited(text);
+    }
     /// Each character goes to the control that has the focus by then.
     static void Type(ui::TextBox& box, const std::string& text) {
         box.SetFocus();

@@ -1,0 +1,20 @@
+#include "compounds/SubstanceSearch.h"
+#include "compounds/frmSubst.h"
+
+namespace vexora {
+
+/// Names that begin with what was typed drop down below it; the search has its own list.
+void frmSubst::OfferNames() {
+    const std::string typed = txtName.Text();
+    txtName.Assign(NamesBeginningWith(typed));
+    txtName.Text(typed); // the entry that has it is the chosen one
+}
+
+/// A name picked there is taken as one picked from the results of a search.
+void frmSubst::NamePicked() {
+    if (Filling) return;
+    const std::vector<CompoundRow> rows = CompoundsNamed(txtName.Text());
+    if (!rows.empty()) TakeRow(rows.front());
+}
+
+} // namespace vexora

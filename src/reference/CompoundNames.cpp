@@ -1,0 +1,117 @@
+#include "reference/CompoundNames.h"
+
+#include "reference/Database.h"
+#include "reference/NameKey.h"
+#include "reference/ReferenceDatabases.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+/// Another one after each change by another program.
+std::int64_t DataVersion(const Database& database) {
+    return database.Query("pragma data_version").Integer("data_version");
+}
+
+bool HasWildcard(std::string_view pattern) {
+    return pattern.find_first_of("*%?#[") != pattern.npos;
+}
+
+/// A pattern, with the two usual ones tested at once: no wildcard, and one fragment between stars.
+class Pattern {
+public:
+    Pattern(std::string_view pattern, bool caseCounts) : pattern_(pattern), case_(caseCounts) {
+        const bool stars = pattern.size() > 2 && IsStar(pattern.front()) && IsStar(pattern.back());
+        const std::string_view inner = stars ? pattern.substr(1, pattern.size() - 2) : pattern;
+        if (HasWildcard(inner)) return;
+        kind_ = stars ? Kind::Fragment : Kind::Whole;
+        fixed_ = inner;
+    }
+    /// The text has the case of the pattern already, or case counts.
+    bool Matches(std::string_view text) const {
+        if (pattern_.empty()) return true;
+        if (kind_ == Kind::Whole) return text == fixed_;
+        if (kind_ == Kind::Fragment) return text.find(fixed_) != text.npos;
+        return Like(pattern_, text, case_);
+    }
+
+private:
+    enum class Kind { Any, Whole, Fragment };
+    static bool IsStar(char c) { return c == '*' || c == '%'; }
+
+    std::string pattern_;
+    std::string fixed_;
+    bool case_;
+    Kind kind_ = Kind::Any;
+};
+
+} // namespace
+
+CompoundNames::CompoundNames(const Database& database)
+    : edition_(database.Edition()), version_(DataVersion(database)) {
+    const auto length = [](const std::string& text) {
+        return static_cast<std::uint32_t>(text.size());
+    };
+    for (Recordset rows = database.Query("select RN, NAME, FORMULA from ALLNAME order by rowid");
+         !rows.IsEnd(); rows.MoveNext()) {
+        const std::string name = rows.Text("NAME");
+        const std::string formula = rows.Text("FORMULA");
+        const std::string key = NameKey(name);
+        rows_.push_back(
+            {rows.Integer("RN"), text_.size(), length(key), length(name), length(formula)});
+        text_ += key;
+        text_ += name;
+        text_ += formula;
+    }
+}
+
+bool CompoundNames::IsOf(const Database& database) const {
+    return database.Edition() == edition_ && DataVersion(database) == version_;
+}
+
+std::vector<CompoundRow> CompoundNames::Matching(std::string_view namePattern,
+                                                 std::string_view formula) const {
+    const Pattern name(NameKey(namePattern), false);
+    const Pattern elements(formula, true);
+    std::vector<CompoundRow> found;
+    for (const Row& row : rows_)
+        if (elements.Matches(Formula(row)) && name.Matches(Key(row)))
+            found.push_back({row.rn, std::string(Name(row)), std::string(Formula(row))});
+    return found;
+}
+
+std::vector<std::string> CompoundNames::BeginningWith(std::string_view text,
+                                                      std::size_t limit) const {
+    std::vector<std::string> found;
+    const std::string key = NameKey(text);
+    if (key.empty()) return found;
+    for (const Row& row : rows_) {
+        if (found.size() == limit) break;
+        if (Key(row).starts_with(key)) found.emplace_back(Name(row));
+    }
+    return found;
+}
+
+std::string_view CompoundNames::Key(const Row& row) const {
+    return std::string_view(text_).substr(row.start, row.keyLength);
+}
+
+std::string_view CompoundNames::Name(const Row& row) const {
+    return std::string_view(text_).substr(row.start + row.keyLength, row.nameLength);
+}
+
+std::string_view CompoundNames::Formula(const Row& row) const {
+    return std::string_view(text_).substr(row.start + row.keyLength + row.nameLength,
+                                          row.formulaLength);
+}
+
+const CompoundNames* KnownNames() {
+    ReferenceDatabases* databases = CurrentDatabases();
+    if (!databases || !databases->CompoundDb.IsOpen()) return nullptr;
+    if (!databases->Names || !databases->Names->IsOf(databases->CompoundDb))
+        databases->Names = std::make_shared<CompoundNames>(databases->CompoundDb);
+    return databases->Names.get();
+}
+
+} // namespace vexora
