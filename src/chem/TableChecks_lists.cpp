@@ -6,6 +6,7 @@
 #include "chem/AbridgedWeights.h"
 #include "chem/TableChecks.h"
 #include "chem/clsAtom.h"
+#include "reference/CompoundTable.h"
 #include "reference/Numbers.h"
 #include "reference/RefdbBuild.h"
 #include "reference/Text.h"
@@ -15,8 +16,7 @@ namespace vexora {
 
 namespace {
 
-constexpr std::int64_t EmptySlot = 999999994; // the registry number of no compound
-constexpr int HighestRating = 251;            // above it come the marks for "no row" and "none"
+constexpr int HighestRating = 251; // above it come the marks for "no row" and "none"
 
 // Flags of a sample are read off its description by these two letters, wherever they stand.
 constexpr std::array<std::string_view, 4> SampleMarks{{"fd", "db", "cm", "av"}};
@@ -118,7 +118,7 @@ void CheckCompounds(const Database& compounds, RowRemarks& findings) {
     std::unordered_map<std::string, std::int64_t> numbers; // of each name, whatever its case
     for (TableRows row(compounds, "ALLNAME", findings); !row.IsEnd(); row.MoveNext()) {
         const std::int64_t rn = row.Integer("RN");
-        row.Expect(IsRegistryNumber(rn) && rn != EmptySlot,
+        row.Expect(IsRegistryNumber(rn) && rn != EmptySlotNumber,
                    std::to_string(rn) + " is no registry number, or its check digit is wrong");
         const std::string name = row.Required("NAME");
         // Synonyms have rows of their own; one that stands twice would be offered twice.

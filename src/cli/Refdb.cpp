@@ -4,6 +4,7 @@
 #include "chem/clsAtom.h"
 #include "cli/ExitCodes.h"
 #include "host/FindPlaces.h"
+#include "reference/CompoundTable.h"
 #include "reference/RefdbBuild.h"
 
 #include <CLI/CLI.hpp>
@@ -29,6 +30,9 @@ struct Arguments {
     std::string database;
     std::string folder;
     bool summary = false;
+    std::string rn;
+    std::string formula;
+    std::vector<std::string> names;
 };
 
 int TellUnreadable(const std::string& text) {
@@ -81,8 +85,39 @@ int Import(const Arguments& arguments) {
         arguments.compounds, arguments.database,
         {CanonicalFormula, [](std::size_t lines) { std::cerr << lines << " lines read\n"; },
          HydrateReading});
-    if (!result.readable) return TellUnreadable(arguments.compounds + ": the file cannot be read");
+    if (!result.readable)
+        return TellUnreadable(arguments.compounds + ": " +
+                              (result.fault.empty() ? "the file cannot be read" : result.fault));
     return TellImported(result);
+}
+
+int TellRefused(const std::string& text) {
+    std::cerr << "error: " << text << '\n';
+    return kExitFindings;
+}
+
+/// One compound, or those of a file.
+int Add(const Arguments& arguments) {
+    if (!arguments.compounds.empty()) return Import(arguments);
+    ReferenceDatabases databases;
+    databases.LocalDb.Open(VocabularyFor(arguments), true);
+    UseDatabases(&databases);
+    const auto rn = ReadRegistryNumber(arguments.rn);
+    if (!rn) return TellRefused("\"" + arguments.rn + "\" is no valid registry number");
+    const std::string formula = CanonicalFormula(arguments.formula);
+    if (formula.empty()) return TellRefused("\"" + arguments.formula + "\" is no formula");
+    databases.CompoundDb.Open(arguments.database, false);
+    const CompoundAdded result = AddCompound(databases.CompoundDb, *rn, formula, arguments.names);
+    if (!result.fault.empty()) return TellRefused(result.fault);
+    std::cout << result.added << " added, " << result.present << " already there\n";
+    return kExitClean;
+}
+
+int PrintAdded(const Arguments& arguments) {
+    Database database;
+    database.Open(arguments.database, true);
+    std::cout << AddedCompoundsText(database);
+    return kExitClean;
 }
 
 int Check(const Arguments& arguments) {
@@ -131,6 +166,21 @@ void AddRefdbCommands(CLI::App& app, const std::string& argv0, int& exitCode) {
     import->add_option("--compounds", arguments->compounds, "RN, name, formula (.tsv or .csv)")
         ->required();
     import->add_option("DATABASE", arguments->database, "The compound database (VXR.mdb)")
+        ->required();
+
+    CLI::App* one = add("add", "Add one compound, or those of a file, to a database", Add);
+    one->add_option("--rn", arguments->rn, "Registry number, 7732-18-5");
+    one->add_option("--formula", arguments->formula, "Empirical formula");
+    one->add_option("--name", arguments->names, "A name; may be given several times")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    one->add_option("--list", arguments->compounds, "RN, name, formula (.tsv or .csv)")
+        ->excludes("--rn", "--formula", "--name");
+    one->add_option("DATABASE", arguments->database, "The compound database (VXR.mdb)")->required();
+
+    CLI::App* added =
+        add("added", "Print what was added to a database, as a list for import", PrintAdded);
+    added->add_option("DATABASE", arguments->database, "The compound database (VXR.mdb)")
         ->required();
 
     CLI::App* check = add("check", "Tell what is wrong in the tables of both databases", Check);

@@ -7,6 +7,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
+#include "reference/CompoundTable.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
@@ -103,7 +104,9 @@ bool frmSubst::AgreesWithName() {
         return std::to_string(row.RN) == rn && row.FORMULA == txtFormula.Text();
     });
     if (agrees) {
-        isNew_ = false;
+        // What was added here other workplaces may not know: the document carries it.
+        isNew_ =
+            IsAddedHere(Globals().CompoundDb(), {ParseInteger(rn).value_or(0), txtName.Text(), {}});
         return true;
     }
     CorrectBy(rows);

@@ -14,6 +14,8 @@
 
 namespace vexora {
 
+class Database;
+
 /// Writes VXRLocal.mdb and VXR.mdb into `outFolder` (made if need be) from `dataFolder`, which
 /// must hold every table. With findings nothing is written. Throws DatabaseError when a file
 /// cannot be written; the files that stand there are replaced only by whole ones.
@@ -24,9 +26,10 @@ std::vector<LineRemark> BuildReferenceDatabases(const std::string& dataFolder,
 /// fault.
 struct ImportResult {
     bool readable = true;    // the text could be read
+    std::string fault;       // why not, where more is known
     std::size_t added = 0;   // rows that are new
     std::size_t present = 0; // rows that stood there already, kept as they are
-    std::vector<LineRemark> skipped;
+    std::vector<LineRemark> skipped{};
 };
 
 /// What this room cannot know by itself: formulas are read on a higher floor.
@@ -40,8 +43,12 @@ struct ImportOptions {
 };
 
 /// Adds rows of registry number ("7732185" or "7732-18-5"), name and formula to `ALLNAME`, in one
-/// transaction. A heading line that begins with "RN" is passed over, bad rows are told and skipped.
-/// Throws DatabaseError on a bad database.
+/// transaction. A heading line that begins with "RN" is passed over; rows that would be an error of
+/// the table are told and skipped, and so is a file without rows. Throws DatabaseError on a bad
+/// database.
+ImportResult ImportCompounds(const std::string& path, Database& database,
+                             const ImportOptions& options = {});
+/// The same, with a database that is opened for it.
 ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
                              const ImportOptions& options = {});
 

@@ -1,63 +1,52 @@
+#include "reference/CompoundTable.h"
 #include "reference/Database.h"
-#include "reference/Numbers.h"
 #include "reference/RefdbBuild.h"
 #include "reference/Text.h"
-
-#include <optional>
-#include <unordered_set>
 
 namespace vexora {
 
 namespace {
 
-/// A name counts once for a compound, whatever its case; compounds may share a trivial name.
-std::string RowKey(std::int64_t rn, std::string_view name) {
-    return std::to_string(rn) + " " + LowerAscii(name);
-}
-
-std::unordered_set<std::string> PresentRows(const Database& database) {
-    std::unordered_set<std::string> keys;
-    for (Recordset rows = database.Query("select RN, NAME from ALLNAME order by rowid");
-         !rows.IsEnd(); rows.MoveNext())
-        keys.insert(RowKey(rows.Integer("RN"), rows.Text("NAME")));
-    return keys;
-}
-
-/// "7732185" or "7732-18-5"; nothing when it is neither or its check digit is wrong.
-std::optional<std::int64_t> ReadRegistryNumber(std::string_view cell) {
-    const std::vector<std::string> parts = Split(Trim(cell), '-');
-    // Printed with hyphens the last two groups have two and one digits.
-    const bool hyphens = parts.size() == 3 && parts[1].size() == 2 && parts[2].size() == 1;
-    if (parts.size() != 1 && !hyphens) return std::nullopt;
-    const auto rn = ParseInteger(hyphens ? parts[0] + parts[1] + parts[2] : parts[0]);
-    if (!rn || !IsRegistryNumber(*rn)) return std::nullopt;
-    return rn;
-}
-
-struct CompoundCells {
-    std::int64_t rn = 0;
-    std::string name;
-    std::string formula;
-};
-
 /// Fills the compound from a row; the answer is what is wrong with it, "" if nothing.
 std::string ReadCompound(const std::vector<std::string>& cells, const ImportOptions& options,
-                         CompoundCells& compound) {
+                         CompoundRow& compound) {
     if (cells.size() < 3) return "three cells expected: RN, name, formula";
     const auto number = ReadRegistryNumber(cells[0]);
     if (!number) return "\"" + cells[0] + "\" is no valid registry number";
     const std::string formula(Trim(cells[2]));
-    if (Trim(cells[1]).empty()) return "the name is missing";
-    if (formula.empty()) return "the formula is missing";
     compound = {*number, std::string(Trim(cells[1])), formula};
+    if (compound.NAME.empty() || formula.empty()) return "";
     if (options.hydrateReading) {
         // The reading of the point is another compound, and there is nobody to be asked.
         const std::string meant = options.hydrateReading(formula);
         if (!meant.empty())
             return "\"" + formula + "\" may be a hydrate, " + meant + "; write its dot as *";
     }
-    if (options.canonicalFormula) compound.formula = options.canonicalFormula(formula);
-    return compound.formula.empty() ? "\"" + formula + "\" is no formula" : "";
+    if (!options.canonicalFormula) return "";
+    compound.FORMULA = options.canonicalFormula(formula);
+    return compound.FORMULA.empty() ? "\"" + formula + "\" is no formula" : "";
+}
+
+void ImportRows(TableReader& reader, const std::string& path, Database& database,
+                const ImportOptions& options, ImportResult& result) {
+    Transaction transaction(database);
+    CompoundTable table(database);
+    constexpr std::size_t progressStep = 10000;
+    std::size_t count = 0;
+    while (const auto cells = reader.NextRow()) {
+        if (++count == 1 && EqualNoCase(Trim(cells->front()), "RN")) continue;
+        if (options.progress && count % progressStep == 0) options.progress(count);
+        CompoundRow compound;
+        std::string fault = ReadCompound(*cells, options, compound);
+        if (fault.empty()) fault = table.Fault(compound);
+        if (!fault.empty())
+            result.skipped.push_back({path, reader.Line(), fault});
+        else
+            ++(table.Add(compound) ? result.added : result.present);
+    }
+    if (result.added + result.present + result.skipped.size() == 0)
+        result.skipped.push_back({path, 1, "the file holds no compounds"});
+    transaction.Commit();
 }
 
 } // namespace
@@ -74,35 +63,24 @@ bool IsRegistryNumber(std::int64_t rn) {
     return sum % 10 == check;
 }
 
-ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
+ImportResult ImportCompounds(const std::string& path, Database& database,
                              const ImportOptions& options) {
     ImportResult result;
-    TableReader reader(path);
+    TableReader reader(path, TableReader::Kind::Foreign);
     result.readable = reader.IsOpen();
-    if (!result.readable) return result;
+    result.fault = reader.Fault();
+    if (result.readable) ImportRows(reader, path, database, options, result);
+    return result;
+}
+
+ImportResult ImportCompounds(const std::string& path, const std::string& databasePath,
+                             const ImportOptions& options) {
+    // A text that cannot be read is told before the database is looked for.
+    if (const TableReader reader(path, TableReader::Kind::Foreign); !reader.IsOpen())
+        return {.readable = false, .fault = reader.Fault(), .skipped = {}};
     Database database;
     database.Open(databasePath, false);
-    Transaction transaction(database);
-    // In memory: to ask the table about each row would take longer than the load itself.
-    std::unordered_set<std::string> keys = PresentRows(database);
-    BulkInsert insert(database, "ALLNAME", {"RN", "NAME", "FORMULA"});
-    constexpr std::size_t progressStep = 10000;
-    for (std::size_t count = 1; const auto cells = reader.NextRow(); ++count) {
-        if (count == 1 && EqualNoCase(Trim(cells->front()), "RN")) continue;
-        if (options.progress && count % progressStep == 0) options.progress(count);
-        CompoundCells compound;
-        const std::string fault = ReadCompound(*cells, options, compound);
-        if (!fault.empty()) {
-            result.skipped.push_back({path, reader.Line(), fault});
-        } else if (keys.insert(RowKey(compound.rn, compound.name)).second) {
-            insert.Add({compound.rn, compound.name, compound.formula});
-            ++result.added;
-        } else {
-            ++result.present;
-        }
-    }
-    transaction.Commit();
-    return result;
+    return ImportCompounds(path, database, options);
 }
 
 } // namespace vexora

@@ -40,7 +40,9 @@ constexpr ColumnSchema PurityDeterminationTable[] = {
 constexpr ColumnSchema Amass[] = {{"SYMBOL", Text}, {"AMASS", Real}};
 
 // A compound has a row for each of its names.
-constexpr ColumnSchema AllName[] = {{"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}};
+// NEW marks what was added to it here.
+constexpr ColumnSchema AllName[] = {
+    {"RN", Integer}, {"NAME", Text}, {"FORMULA", Text}, {"NEW", Flag}};
 // What other programs know a compound by, a row a number at most. These texts mind their case.
 constexpr ColumnSchema IdentifiersTable[] = {
     {"RN", Integer}, {"InChI", ExactText}, {"InChIKey", ExactText}, {"SMILES", ExactText}};

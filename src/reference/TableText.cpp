@@ -3,6 +3,7 @@
 #include "reference/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -13,14 +14,74 @@ std::string LineRemark::Line(std::string_view severity) const {
     return file + ":" + std::to_string(line) + ": " + std::string(severity) + ": " + text;
 }
 
-TableReader::TableReader(const std::string& path)
+namespace {
+
+constexpr char16_t ByteOrderMark = 0xFEFF;
+
+/// UTF-16 by its mark, or by the zeros that its letters bring; nothing for another text.
+std::optional<bool> IsBigEndian(std::string_view bytes) {
+    if (bytes.starts_with("\xFE\xFF")) return true;
+    if (bytes.starts_with("\xFF\xFE")) return false;
+    if (bytes.size() < 2 || (bytes[0] == 0) == (bytes[1] == 0)) return std::nullopt;
+    return bytes[0] == 0;
+}
+
+std::string FromUtf16(std::string_view bytes, bool bigEndian) {
+    std::string text;
+    const auto unit = [&](std::size_t at) {
+        const auto first = static_cast<unsigned char>(bytes[at]);
+        const auto second = static_cast<unsigned char>(bytes[at + 1]);
+        return static_cast<char32_t>(bigEndian ? first << 8 | second : second << 8 | first);
+    };
+    const auto isHalf = [](char32_t c, char32_t from) { return c >= from && c < from + 0x400; };
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        char32_t c = unit(at);
+        if (c == ByteOrderMark) continue;
+        // Beyond the first plane a character is two units, a high and a low half.
+        if (isHalf(c, 0xD800) && at + 3 < bytes.size() && isHalf(unit(at + 2), 0xDC00)) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (unit(at + 2) - 0xDC00);
+            at += 2;
+        }
+        AppendCodePoint(text, c);
+    }
+    return text;
+}
+
+/// What stands between the cells of a line: the sign of which it has most outside quotes.
+char SeparatorOf(std::string_view line) {
+    constexpr std::string_view signs = "\t;,"; // of equally many the first
+    std::array<std::size_t, signs.size()> counts{};
+    bool inside = false;
+    for (const char c : line) {
+        if (c == '"') inside = !inside;
+        if (const auto at = signs.find(c); at != signs.npos && !inside) ++counts[at];
+    }
+    return signs[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
+}
+
+} // namespace
+
+TableReader::TableReader(const std::string& path, Kind kind)
     : quoted_(EqualNoCase(std::filesystem::path(path).extension().string(), ".csv")) {
     std::ifstream file(path, std::ios::binary);
     if (!file || std::filesystem::is_directory(path)) return;
     text_.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     isOpen_ = !file.bad();
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (kind == Kind::Foreign) TakeForeign();
     if (text_.starts_with(byteOrderMark)) at_ = byteOrderMark.size();
+}
+
+void TableReader::TakeForeign() {
+    if (const auto bigEndian = IsBigEndian(text_)) text_ = FromUtf16(text_, *bigEndian);
+    if (text_.starts_with("PK\x03\x04"))
+        fault_ = "this is a spreadsheet or an archive; save it as text first";
+    else if (text_.find('\0') != text_.npos)
+        fault_ = "this is no text";
+    isOpen_ = isOpen_ && fault_.empty();
+    std::string_view first = std::string_view(text_).substr(0, text_.find_first_of("\r\n"));
+    separator_ = SeparatorOf(first);
+    quoted_ = true;
 }
 
 bool TableReader::NextLine(std::string_view& line) {
@@ -64,7 +125,7 @@ std::vector<std::string> TableReader::QuotedCells(std::string_view line) {
             cells.back() += line[i++];
         else if (c == '"' && (inside || cells.back().empty()))
             inside = !inside;
-        else if (c == ',' && !inside)
+        else if (c == separator_ && !inside)
             cells.emplace_back();
         else
             cells.back() += c;

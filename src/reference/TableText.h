@@ -24,15 +24,21 @@ struct LineRemark {
 /// The whole text is held in memory. One pass; to read again, make another.
 class TableReader {
 public:
-    /// A path ending in ".csv" is read with commas and double quotes.
-    explicit TableReader(const std::string& path);
+    /// Own: tabs, cells as they stand; a path ending in ".csv" has commas and double quotes.
+    /// Foreign, from any program: UTF-16 as well, and the first line tells whether tabs, semicolons
+    /// or commas stand between cells, which may be in double quotes.
+    enum class Kind { Own, Foreign };
+    explicit TableReader(const std::string& path, Kind kind = Kind::Own);
     bool IsOpen() const { return isOpen_; }
+    /// Why it is not open, where more is known than that it cannot be read.
+    const std::string& Fault() const { return fault_; }
     /// Cells of the next line; nothing at the end of the text.
     std::optional<std::vector<std::string>> NextRow();
     /// Number of the line that the last row began on.
     int Line() const { return rowLine_; }
 
 private:
+    void TakeForeign();
     bool NextLine(std::string_view& line);
     std::vector<std::string> QuotedCells(std::string_view line);
 
@@ -42,6 +48,8 @@ private:
     int rowLine_ = 0;
     bool isOpen_ = false;
     bool quoted_ = false;
+    char separator_ = ',';
+    std::string fault_;
 };
 
 } // namespace vexora

@@ -68,6 +68,7 @@ void frmMain::WireMenus() {
     mnuDelete.OnClick = [this] { mnuDelete_Click(); };
     mnuUndoDelete.OnClick = [this] { mnuUndoDelete_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
+    mnuToolsTables.OnClick = [] { ui::Forms::Current().Get("frmTables").ShowModal(); };
     const std::pair<ui::MenuItem*, int> pages[] = {
         {&mnuIntro, 10},        {&mnuScope, 20},        {&mnuList, 30},
         {&mnuWhats, 40},        {&mnuHelpPurpose, 110}, {&mnuHelpSequence, 120},

@@ -39,6 +39,8 @@ public:
     ui::MenuItem mnuUndoDelete{*this, "mnuUndoDelete", "Undo delete", &mnuEdit, "Ctrl+Z"};
     ui::MenuItem mnuTools{*this, "mnuTools", "T&ools"};
     ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
+    ui::MenuItem mnuToolsTables{*this, "mnuToolsTables", "&Add to the compound tables...",
+                                &mnuTools};
     ui::MenuItem mnuDetect{*this, "mnuDetect", "Detect Hidden Properties", &mnuTools};
     ui::MenuItem mnuMerge{*this, "mnuMerge", "Merge/Rearrange sets", &mnuTools};
     ui::MenuItem mnuInvert{*this, "mnuInvert", "Invert binary LLE", &mnuTools};

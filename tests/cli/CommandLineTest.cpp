@@ -224,6 +224,23 @@ TEST_F(CommandLine, CompoundsAreImportedAndBadRowsToldWithTheirLines) {
     EXPECT_EQ(Run("refdb import --compounds new.tsv nowhere.mdb").code, 3);
 }
 
+TEST_F(CommandLine, ACompoundOrAListIsAddedAndHandedOn) {
+    const std::string add = "refdb add --rn 99999-00-5 --formula H10C8 --name ";
+    EXPECT_EQ(Run(add + "\"test one\" --name \"test two\" VXR.mdb").out,
+              "2 added, 0 already there\n");
+    EXPECT_EQ(Run(add + "water VXR.mdb").err, "error: \"water\" is the name of 7732185 already\n");
+    EXPECT_EQ(Run("refdb add --rn 99999006 --formula H2O --name x VXR.mdb").code, 1);
+    EXPECT_EQ(Run("refdb add --rn 99999005 --formula Qq --name x VXR.mdb").code, 1);
+    const std::string list = Run("refdb added VXR.mdb").out;
+    EXPECT_EQ(list, "RN\tNAME\tFORMULA\n99999005\ttest one\tC8H10\n99999005\ttest two\tC8H10\n");
+    folder.Write("list.tsv", list);
+    EXPECT_EQ(Run("refdb add --list list.tsv VXR.mdb").out,
+              "0 added, 2 already there, 0 skipped\n");
+    folder.Write("sheet.csv", "PK\x03\x04");
+    EXPECT_EQ(Run("refdb import --compounds sheet.csv VXR.mdb").err,
+              "error: sheet.csv: this is a spreadsheet or an archive; save it as text first\n");
+}
+
 TEST_F(CommandLine, TablesAreCheckedAndCounted) {
     EXPECT_EQ(Run("refdb check .").code, 0);
     const Outcome summary = Run("refdb check --summary .");

@@ -1,3 +1,4 @@
+#include "reference/CompoundTable.h"
 #include "reference/KVODefinitions.h"
 #include "reference/ReferenceFixture.h"
 #include "reference/Vocabulary.h"
@@ -98,6 +99,77 @@ TEST_F(Refdb, ImportStoresTheCanonicalFormulaAndSkipsARowWithoutOne) {
     EXPECT_EQ(Names(67561), "");
     EXPECT_EQ(Names(7732185), "water=H2O;");
     EXPECT_EQ(heard, 0U); // only long files have something to tell on the way
+}
+
+TEST_F(Refdb, ImportRefusesWhatTheTableMayNotHold) {
+    folder.Write("ALLNAME.tsv", "RN\tNAME\tFORMULA\tSOURCE_OF_ROW\n7732185\twater\tH2O\t-\n");
+    Build();
+    const std::pair<std::string, std::string> cases[] = {
+        {"7732185,ice,H2O2", "7732185 has the formula H2O, not H2O2"},
+        {"64175,WATER,C2H6O", "\"WATER\" is the name of 7732185 already"},
+        {"999999994,nothing,H2O", "\"999999994\" is no valid registry number"},
+        {"64175,\"two\nlines\",C2H6O", "the name has a line break"},
+        {"64175," + std::string(256, 'x') + ",C2H6O", "the name has more than 255 characters"},
+        {"64175,ethanol,C2H6O\n64175,spirit,CH4O", "64175 has the formula C2H6O, not CH4O"},
+        {"RN,NAME,FORMULA\n\n", "the file holds no compounds"},
+        {"", "the file holds no compounds"}};
+    for (const auto& [text, fault] : cases) {
+        folder.Write("new.csv", text);
+        const auto result = ImportCompounds(folder.File("new.csv"), folder.File("VXR.mdb"));
+        ASSERT_EQ(result.skipped.size(), 1U) << fault;
+        EXPECT_EQ(result.skipped.front().text, fault);
+    }
+    EXPECT_EQ(Names(7732185), "water=H2O;");
+}
+
+TEST_F(Refdb, ImportReadsWhatOtherProgramsWrite) {
+    Build();
+    const auto wide = [](const std::string& text, bool bigEndian) {
+        std::string bytes;
+        for (const char c : text)
+            bytes += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+        return bytes;
+    };
+    const std::string row = "64-17-5\t\"ethanol; \"\"pure\"\"\"\tC2H6O\n";
+    const std::string tabs = "RN\tNAME\tFORMULA\n" + row;
+    const std::pair<std::string, std::string> readable[] = {
+        {"quoted.tsv", tabs},
+        {"little.txt", "\xFF\xFE" + wide(tabs, false)},
+        {"big.txt", "\xFE\xFF" + wide(tabs, true)},
+        {"no_mark.txt", wide(tabs, false)},
+        {"semicolons.csv", "RN;NAME;FORMULA\r\n\"64175\";\"ethanol; \"\"pure\"\"\";C2H6O\r\n"}};
+    for (const auto& [file, text] : readable) {
+        folder.Write(file, text);
+        databases.CompoundDb.Execute("delete from ALLNAME");
+        const auto result = ImportCompounds(folder.File(file), databases.CompoundDb);
+        EXPECT_EQ(Lines(result.skipped), "") << file;
+        EXPECT_EQ(Names(64175), "ethanol; \"pure\"=C2H6O;") << file;
+    }
+    folder.Write("table.csv", "PK\x03\x04 and more");
+    folder.Write("picture.csv", std::string("\x89PNG\0\0\0\1", 8));
+    EXPECT_EQ(ImportCompounds(folder.File("table.csv"), databases.CompoundDb).fault,
+              "this is a spreadsheet or an archive; save it as text first");
+    EXPECT_EQ(ImportCompounds(folder.File("picture.csv"), databases.CompoundDb).fault,
+              "this is no text");
+}
+
+TEST_F(Refdb, WhatIsAddedIsMarkedAndHandedOnAndACompoundIsAddedWholeOrNotAtAll) {
+    folder.Write("ALLNAME.tsv", "RN\tNAME\tFORMULA\tSOURCE_OF_ROW\n7732185\twater\tH2O\t-\n");
+    Build();
+    Database& database = databases.CompoundDb;
+    EXPECT_EQ(AddCompound(database, 64175, "C2H6O", {"ethanol", "water"}).name, "water");
+    EXPECT_EQ(Names(64175), "");
+    EXPECT_EQ(AddCompound(database, 64175, "C2H6O", {}).fault, "the name is missing");
+    // Of an earlier edition, whose table has no mark.
+    database.Execute("alter table ALLNAME drop column NEW");
+    EXPECT_EQ(AddCompound(database, 64175, "C2H6O", {"ethanol", "spirit", "Ethanol"}).added, 2U);
+    EXPECT_EQ(AddCompound(database, 64175, "C2H6O", {"ethanol"}).present, 1U);
+    EXPECT_EQ(AddedCompoundsText(database),
+              "RN\tNAME\tFORMULA\n64175\tethanol\tC2H6O\n64175\tspirit\tC2H6O\n");
+    EXPECT_TRUE(IsAddedHere(database, {64175, "spirit", ""}));
+    EXPECT_FALSE(IsAddedHere(database, {7732185, "water", ""}));
+    folder.Write("list.tsv", AddedCompoundsText(database));
+    EXPECT_EQ(ImportCompounds(folder.File("list.tsv"), database).present, 2U);
 }
 
 TEST_F(Refdb, ImportIntoAForeignFileIsAMessage) {
