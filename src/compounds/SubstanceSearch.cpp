@@ -36,8 +36,12 @@ std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string
 
 std::vector<std::string> NamesBeginningWith(std::string_view typed) {
     constexpr std::size_t shown = 100;
-    const CompoundNames* names = KnownNames();
-    return names ? names->BeginningWith(typed, shown) : std::vector<std::string>();
+    try {
+        const CompoundNames* names = KnownNames();
+        return names ? names->BeginningWith(typed, shown) : std::vector<std::string>();
+    } catch (const DatabaseError&) {
+        return {}; // a search tells of it; not every key that is typed
+    }
 }
 
 std::vector<CompoundRow> CompoundsNamed(std::string_view name) {

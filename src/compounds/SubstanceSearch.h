@@ -23,7 +23,7 @@ bool IsFormulaPattern(std::string_view formula);
 std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string_view formula);
 
 /// The first hundred names that begin with what was typed, compared as by FindCompounds; nothing
-/// for an empty text.
+/// for an empty text or a damaged database.
 std::vector<std::string> NamesBeginningWith(std::string_view typed);
 
 /// The compounds of that very name, case apart, in table order.

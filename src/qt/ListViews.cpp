@@ -71,7 +71,9 @@ void ComboView::Draw() {
         own_->setEditText(text);
         if (!own_->hasFocus()) own_->lineEdit()->home(false); // a long text shows its beginning
     }
-    if (model_.IsEditable() && before == text) own_->lineEdit()->setCursorPosition(caret);
+    // New entries take the caret to the end; a selection that nothing touched has to stay.
+    if (model_.IsEditable() && before == text && own_->lineEdit()->cursorPosition() != caret)
+        own_->lineEdit()->setCursorPosition(caret);
     if (model_.IsEditable()) Shade(*own_, !model_.Enabled());
     DrawSelection(text);
 }
