@@ -20,6 +20,7 @@ RowRemarks CheckTables(const ReferenceDatabases& databases) {
     CheckLists(databases.LocalDb, findings);
     CheckAtomicMasses(databases.LocalDb, findings);
     CheckCompounds(databases.CompoundDb, findings);
+    CheckIdentifiers(databases.CompoundDb, findings);
     CheckSources(databases.CompoundDb, findings);
     return findings;
 }

@@ -30,6 +30,8 @@ void CheckLists(const Database& vocabulary, RowRemarks& findings);
 void CheckAtomicMasses(const Database& vocabulary, RowRemarks& findings);
 /// Registry numbers with their check digits, names, and formulas in canonical form.
 void CheckCompounds(const Database& compounds, RowRemarks& findings);
+/// Structure texts and keys, each of a compound and of its formula; the table may be missing.
+void CheckIdentifiers(const Database& compounds, RowRemarks& findings);
 /// Sources and authors; both tables may be empty.
 void CheckSources(const Database& compounds, RowRemarks& findings);
 

@@ -93,7 +93,8 @@ TEST_F(TableChecks, CompoundsNeedACheckDigitACanonicalFormulaAndOneFormulaEach) 
             CheckCompounds(databases.CompoundDb, findings);
         });
     };
-    databases.CompoundDb.Execute("delete from ALLNAME where rowid>3"); // water and two of heavy water
+    databases.CompoundDb.Execute(
+        "delete from ALLNAME where rowid>3"); // water and two of heavy water
     const std::string first = "ALLNAME:1: error: ";
     EXPECT_EQ(found("update ALLNAME set RN=7732186 where rowid=1"),
               first + "7732186 is no registry number, or its check digit is wrong\n");
@@ -112,6 +113,27 @@ TEST_F(TableChecks, CompoundsNeedACheckDigitACanonicalFormulaAndOneFormulaEach) 
     EXPECT_EQ(found("update ALLNAME set FORMULA='H2O' where rowid=3"),
               "ALLNAME:3: error: 7789200 has the formula \"D2O\" in an earlier row\n");
     EXPECT_EQ(found("delete from ALLNAME"), "ALLNAME: error: the table is empty\n");
+}
+
+TEST_F(TableChecks, IdentifiersBelongToACompoundAndToItsFormula) {
+    const auto found = [&](const std::string& statement) {
+        return LinesAfter(databases.CompoundDb, statement, [&](RowRemarks& findings) {
+            CheckIdentifiers(databases.CompoundDb, findings);
+        });
+    };
+    databases.CompoundDb.Execute("delete from Identifiers where rowid>1"); // water
+    const std::string first = "Identifiers:1: error: ";
+    EXPECT_EQ(found("update Identifiers set RN=99999005"),
+              first + "99999005 is the number of no compound\n");
+    EXPECT_EQ(found("update Identifiers set InChI='H2O'"),
+              first + "\"H2O\" is no standard InChI\n");
+    EXPECT_EQ(found("update Identifiers set InChIKey='XLYOFNOQVPJJNP-UHFFFAOYSA'"),
+              first + "\"XLYOFNOQVPJJNP-UHFFFAOYSA\" is no InChIKey\n");
+    EXPECT_EQ(found("update Identifiers set SMILES=''"), first + "SMILES is empty\n");
+    EXPECT_EQ(found("update Identifiers set InChI='InChI=1S/H2O2/c1-2/h1-2H'"),
+              first + "\"InChI=1S/H2O2/c1-2/h1-2H\" is not of H2O\n");
+    EXPECT_EQ(found("delete from Identifiers"), "");
+    EXPECT_EQ(found("drop table Identifiers"), "");
 }
 
 TEST_F(TableChecks, SourcesMayBeMissingButNotBeMisshapen) {

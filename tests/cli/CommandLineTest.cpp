@@ -251,6 +251,7 @@ TEST_F(CommandLine, TablesAreCheckedAndCounted) {
         Database database;
         database.Open(folder.File("VXR.mdb"), false);
         database.Execute("delete from ALLNAME where rowid>3");
+        database.Execute("delete from Identifiers");
         database.Execute("update ALLNAME set FORMULA='HOH' where rowid=1");
     }
     const Outcome found = Run("refdb check .");
