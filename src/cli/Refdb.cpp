@@ -104,6 +104,9 @@ int Add(const Arguments& arguments) {
     UseDatabases(&databases);
     const auto rn = ReadRegistryNumber(arguments.rn);
     if (!rn) return TellRefused("\"" + arguments.rn + "\" is no valid registry number");
+    if (const std::string meant = HydrateReading(arguments.formula); !meant.empty())
+        return TellRefused("\"" + arguments.formula + "\" may be a hydrate, " + meant +
+                           "; write its dot as *");
     const std::string formula = CanonicalFormula(arguments.formula);
     if (formula.empty()) return TellRefused("\"" + arguments.formula + "\" is no formula");
     databases.CompoundDb.Open(arguments.database, false);

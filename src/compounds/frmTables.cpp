@@ -60,7 +60,12 @@ void frmTables::Add() {
         Refuse(txtRN, "Enter a valid registry number, as 7732-18-5");
         return;
     }
-    const std::string formula = CanonicalFormula(TrimBlanks(txtFormula.Text()));
+    const std::string typed(TrimBlanks(txtFormula.Text()));
+    if (const std::string meant = HydrateReading(typed); !meant.empty()) {
+        Refuse(txtFormula, "This may be a hydrate, " + meant + "; write its dot as *");
+        return;
+    }
+    const std::string formula = CanonicalFormula(typed);
     if (formula.empty()) {
         Refuse(txtFormula, "Enter a valid empirical formula");
         return;
@@ -95,7 +100,7 @@ void frmTables::AddFile() {
     if (!path) return;
     try {
         const ImportResult result =
-            ImportCompounds(*path, Globals().CompoundDb(), {CanonicalFormula, {}});
+            ImportCompounds(*path, Globals().CompoundDb(), {CanonicalFormula, {}, HydrateReading});
         if (!result.readable) {
             ui::Say(*path + "\n" +
                     (result.fault.empty() ? "The file cannot be read" : result.fault));
@@ -119,9 +124,10 @@ void frmTables::SaveAdded() {
     if (!path) return;
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (files.Exists(*path) && !ui::AskYesNo(*path + " exists already\nReplace it?")) return;
-    const std::string error =
+    const SaveOutcome outcome =
         WriteSafely(files, *path, AddedCompoundsText(Globals().CompoundDb()), false);
-    if (!error.empty()) return ui::Say(error);
+    if (!outcome.fault.empty()) ui::Say(*path + "\n" + outcome.fault);
+    if (!outcome.isSaved) return;
     ShowResult(Counted(count, "names written to ") + *path);
 }
 

@@ -209,7 +209,7 @@ TEST_F(CommandLine, CompoundsAreImportedAndBadRowsToldWithTheirLines) {
     folder.Write("new.tsv",
                  "RN\tNAME\tFORMULA\n99999005\ttest compound\tC8H10\n99999006\twrong\tC8H10\n"
                  "7732185\twater\tH2O\n99999005\tblue stone\tCuSO4.5H2O\n"
-                 "99999005\tcut\tC2H5)OH\n99999005\tgreen stone\tFeSO4\u00B77H2O\n");
+                 "99999005\tcut\tC2H5)OH\n99999016\tgreen stone\tFeSO4\u00B77H2O\n");
     const Outcome outcome = Run("refdb import --compounds new.tsv VXR.mdb");
     EXPECT_EQ(outcome.code, 1) << outcome.err;
     EXPECT_EQ(outcome.out, "2 added, 1 already there, 3 skipped\n");
@@ -231,6 +231,8 @@ TEST_F(CommandLine, ACompoundOrAListIsAddedAndHandedOn) {
     EXPECT_EQ(Run(add + "water VXR.mdb").err, "error: \"water\" is the name of 7732185 already\n");
     EXPECT_EQ(Run("refdb add --rn 99999006 --formula H2O --name x VXR.mdb").code, 1);
     EXPECT_EQ(Run("refdb add --rn 99999005 --formula Qq --name x VXR.mdb").code, 1);
+    EXPECT_EQ(Run("refdb add --rn 99999005 --formula CuSO4.5H2O --name x VXR.mdb").err,
+              "error: \"CuSO4.5H2O\" may be a hydrate, CuH10O9S; write its dot as *\n");
     const std::string list = Run("refdb added VXR.mdb").out;
     EXPECT_EQ(list, "RN\tNAME\tFORMULA\n99999005\ttest one\tC8H10\n99999005\ttest two\tC8H10\n");
     folder.Write("list.tsv", list);
