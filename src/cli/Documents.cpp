@@ -30,6 +30,7 @@ struct Arguments {
     std::vector<std::string> documents;
     std::string out;
     std::string format = "text";
+    bool isStrict = false;
     std::string argv0;
 };
 
@@ -38,6 +39,7 @@ struct Product {
     std::string name; // what it is: "tree", "xml"
     std::string text;
     std::string file; // empty for standard output
+    ExportFor readers = ExportFor::House;
 };
 
 /// Works on a document that has been read; the answer is an exit code.
@@ -74,10 +76,10 @@ int Export(OpenedDocument& document, Product& product) {
         return kExitCannotWrite;
     }
     TellLinesNotKept(document);
-    ExportedDocument exported = DocumentForExport(ui::TheDesktop().Today());
+    ExportedDocument exported = DocumentForExport(ui::TheDesktop().Today(), product.readers);
     for (const ExportFinding& finding : exported.findings) {
         const Record* record = finding.record;
-        document.Tell(record ? record->Line : 0, true,
+        document.Tell(record ? record->Line : 0, finding.isError,
                       (record ? record->ShowKey() + ": " : "") + finding.text);
     }
     product.text = std::move(exported.xml);
@@ -122,7 +124,8 @@ public:
 
 private:
     int One(const std::string& path, const std::string& file) {
-        Product product{{}, {}, file};
+        Product product{
+            {}, {}, file, arguments_.isStrict ? ExportFor::StrictReaders : ExportFor::House};
         int exitCode = document_.Read(path);
         if (exitCode == kExitClean) exitCode = command_(document_, product);
         if (exitCode != kExitCannotWrite && !product.file.empty() && !product.text.empty())
@@ -194,11 +197,14 @@ void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode)
         return command;
     };
     constexpr const char* Many = "Record files, and folders of them";
-    add("export", "Write documents as ThermoML",
+    CLI::App* xml = add(
+        "export", "Write documents as ThermoML",
         "Record files, and folders of them; a second name that ends in .xml is the file to write",
-        Export)
-        ->add_option("--out", arguments->out,
-                     "Folder for the exports; without it one document goes to standard output");
+        Export);
+    xml->add_flag("--strict", arguments->isStrict,
+                  "For readers that go by the name space and by structures alone");
+    xml->add_option("--out", arguments->out,
+                    "Folder for the exports; without it one document goes to standard output");
     add("check", "Tell what is wrong or doubtful in documents", Many, Check);
     add("tree", "Print the trees of documents", Many, Tree);
 }

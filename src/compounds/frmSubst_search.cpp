@@ -3,6 +3,7 @@
 #include "compounds/frmSubst.h"
 #include "records/clsL.h"
 #include "reference/Numbers.h"
+#include "reference/StructureIdentifiers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 
@@ -29,6 +30,8 @@ void frmSubst::FindSubstance() {
     const bool onlyNumber = pattern.empty() && formula.empty();
     ShowRows(onlyNumber ? CompoundsOf(ParseInteger(parts.Joined()).value_or(0))
                         : FindCompounds(pattern, formula));
+    // No name is spelled so; a short line notation ("O") may well be, and names go first.
+    if (rows_.empty()) ShowRows(CompoundsOf(NumberOfStructure(TrimBlanks(txtName.Text()))));
     if (!rows_.empty()) {
         lstNames.SetFocus();
         rnEdited_ = nameEdited_ = formulaEdited_ = false;

@@ -13,6 +13,7 @@ struct XmlMark;
 struct ExportFinding {
     std::string text;
     const Record* record = nullptr; // that the element came from; null for the frame of the file
+    bool isError = true;            // false where the file is right, but not for every reader
 };
 
 /// Reads a written file as a stranger would, who has nothing else: is it well formed, does every

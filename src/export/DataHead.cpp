@@ -19,6 +19,9 @@ namespace vexora {
 
 namespace {
 
+// Words of the public schema (ePhase) that are not those of the house.
+constexpr CodeText PublicPhases[] = {{"Fluid (supercritical or subcritical phases)", "FL"}};
+
 /// Their liquid is in equilibrium with its vapour, which records need not state.
 bool IsBoilingProperty(std::string_view code) {
     return code == "PV" || code == "TB" || code == "HVP";
@@ -82,7 +85,8 @@ void ExportPropertyHead(XmlWriter& xml, const DataName& data, const std::string&
 void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
                  std::string_view phase) {
     if (IsBlankField(phase)) return;
-    const std::string name = PhaseName(phase);
+    const std::string publicName = xml.IsStrict() ? TextOfCode(PublicPhases, phase) : std::string();
+    const std::string name = publicName.empty() ? PhaseName(phase) : publicName;
     xml.Open(element);
     xml.Element(inner, name.empty() ? phase : name); // the code where no table knows the phase
     xml.Close();

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <vector>
 
+#include "export/RegNum.h"
 #include "export/SetRows.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
@@ -55,6 +56,32 @@ void TellWhatIsUnusual() {
     TellTogether("These sets are stated to have no numerical data and are not in the file:", sets);
 }
 
+constexpr const char* PublicNamespace = "http://www.iupac.org/namespaces/ThermoML";
+
+std::vector<std::string> AttributesOfRoot(bool isStrict) {
+    const bool bio = HoldsBioData();
+    std::vector<std::string> attributes;
+    if (isStrict) attributes = {"xmlns", PublicNamespace};
+    attributes.insert(attributes.end(), {"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance"});
+    if (bio)
+        attributes.insert(attributes.end(), {"xsi:noNamespaceSchemaLocation", "ThermoML.Bio.xsd"});
+    else if (isStrict) // name space and place, as XML Schema has it
+        attributes.insert(attributes.end(),
+                          {"xsi:schemaLocation", std::string(PublicNamespace) + " ThermoML.xsd"});
+    else
+        attributes.insert(attributes.end(), {"xsi:SchemaLocation", "ThermoML.xsd"});
+    return attributes;
+}
+
+void NameCompoundsPassedOver(std::vector<ExportFinding>& findings) {
+    for (const auto& source : Globals().recR)
+        for (const auto& compound : source->recL)
+            if (!PublicStructure(*compound))
+                findings.push_back({"Public readers pass over this compound, for no table knows "
+                                    "its structure",
+                                    compound.get(), false});
+}
+
 std::string Padded(std::int64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
@@ -79,14 +106,11 @@ std::string IsoDate(std::string_view recordDate) {
     return date.ok() ? std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day) : "";
 }
 
-ExportedDocument ExportDocument(const ui::Date& today) {
-    XmlWriter xml;
+ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers) {
+    XmlWriter xml(readers == ExportFor::StrictReaders);
     xml.Declaration();
     xml.Comment("Created by Vexora " VEXORA_VERSION);
-    const bool bio = HoldsBioData();
-    xml.Open("DataReport", {"xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance",
-                            bio ? "xsi:noNamespaceSchemaLocation" : "xsi:SchemaLocation",
-                            bio ? "ThermoML.Bio.xsd" : "ThermoML.xsd"});
+    xml.Open("DataReport", AttributesOfRoot(xml.IsStrict()));
     xml.Open("Version");
     xml.Element("nVersionMajor", "2");
     xml.Element("nVersionMinor", "0");
@@ -95,7 +119,9 @@ ExportedDocument ExportDocument(const ui::Date& today) {
         source->ExportAll(xml, today);
     xml.Close();
     TellWhatIsUnusual();
-    return {xml.Text(), CheckExport(xml.Text(), xml.Marks())};
+    ExportedDocument exported{xml.Text(), CheckExport(xml.Text(), xml.Marks())};
+    if (xml.IsStrict()) NameCompoundsPassedOver(exported.findings);
+    return exported;
 }
 
 } // namespace vexora

@@ -14,10 +14,14 @@ struct ExportedDocument {
     std::vector<ExportFinding> findings;
 };
 
+/// Who the file is for. Strict readers take the schema by its name space, know a compound by its
+/// structure alone, and the phases by the words of the public schema.
+enum class ExportFor { House, StrictReaders };
+
 /// The open document as ThermoML. It may ask for the source of the document (see clsR::PrintR), and
 /// tells which data it had to leave out. today is the day that the citation bears.
 /// Nothing is written to disk here. Text beyond ASCII leaves as character references.
-ExportedDocument ExportDocument(const ui::Date& today);
+ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers = ExportFor::House);
 
 /// yyyy-mm-dd.
 /// ISO 8601, the date type of XML schemas.

@@ -21,6 +21,10 @@ struct XmlMark {
 /// Made for one document and thrown away. It knows no schema: what stands where is the callers'.
 class XmlWriter {
 public:
+    /// For strict readers some texts and elements are others; the writer only tells who asks.
+    explicit XmlWriter(bool isStrict = false) : isStrict_(isStrict) {}
+    bool IsStrict() const { return isStrict_; }
+
     /// The declaration; the first line of a file.
     void Declaration();
     /// A comment; "--" inside is broken up.
@@ -46,6 +50,7 @@ public:
 private:
     void Indent();
 
+    bool isStrict_;
     std::string text_;
     std::vector<std::string> open_;
     int lines_ = 0;

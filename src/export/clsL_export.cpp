@@ -4,6 +4,7 @@
 #include "export/XmlWriter.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
+#include "reference/Numbers.h"
 
 namespace vexora {
 
@@ -15,8 +16,26 @@ void ExportRegNum(XmlWriter& xml, const clsL& compound) {
     xml.Close();
 }
 
+std::optional<StructureIdentifiers> PublicStructure(const clsL& compound) {
+    // A number that the document has given to a compound of its own tells nothing.
+    if (compound.isNew) return std::nullopt;
+    return StructureOf(ToInteger(Val(compound.RN)));
+}
+
+namespace {
+
+void ExportStructure(XmlWriter& xml, const clsL& compound) {
+    const auto structure = PublicStructure(compound);
+    if (!structure) return;
+    xml.ElementIfAny("sStandardInChI", structure->InChI);
+    xml.ElementIfAny("sStandardInChIKey", structure->InChIKey);
+}
+
+} // namespace
+
 void clsL::ExportL(XmlWriter& xml) const {
     ExportRegNum(xml, *this);
+    if (xml.IsStrict()) ExportStructure(xml, *this);
     // A compound that nobody has named would be told from no other.
     xml.Element("sCommonName", ShowKey());
     xml.ElementIfAny("sFormulaMolec", Formula);

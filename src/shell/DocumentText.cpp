@@ -93,13 +93,13 @@ std::string DocumentAsRecords() {
     return std::move(printed.text);
 }
 
-ExportedDocument DocumentForExport(const ui::Date& today) {
+ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers) {
     AskSourcesOfDocument();
-    return ExportDocument(today);
+    return ExportDocument(today, readers);
 }
 
-std::string DocumentAsXml(const ui::Date& today) {
-    ExportedDocument exported = DocumentForExport(today);
+std::string DocumentAsXml(const ui::Date& today, ExportFor readers) {
+    ExportedDocument exported = DocumentForExport(today, readers);
     if (!exported.findings.empty()) ui::Say(TextOf(exported.findings), "Please review the export");
     return std::move(exported.xml);
 }

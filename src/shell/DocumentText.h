@@ -24,9 +24,9 @@ Notice NoticeOfReading(const ReadResult& result);
 std::string DocumentAsRecords();
 
 /// The document as ThermoML with what its closing check found, after the same question.
-ExportedDocument DocumentForExport(const ui::Date& today);
+ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers = ExportFor::House);
 /// The document as ThermoML, after the same question. What its closing check finds is told at once,
 /// all in one message, each with its node.
-std::string DocumentAsXml(const ui::Date& today);
+std::string DocumentAsXml(const ui::Date& today, ExportFor readers = ExportFor::House);
 
 } // namespace vexora

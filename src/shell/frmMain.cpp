@@ -59,6 +59,7 @@ void frmMain::WireMenus() {
     SaveEntry.OnClick = [this] { Save(); };
     SaveAsEntry.OnClick = [this] { SaveAs(); };
     mnuExportXML.OnClick = [this] { ExportDocument(); };
+    mnuExportStrict.OnClick = [this] { ExportDocument(ExportFor::StrictReaders); };
     mnuFileExit.OnClick = [this] { Close(); };
     mnuExpandNode.OnClick = [this] {
         if (HasMouseSelection()) tvwTree.SelectedNode()->Expanded(true);

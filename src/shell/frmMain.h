@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "export/ExportDocument.h"
 #include "shell/KnownFile.h"
 #include "shell/Paths.h"
 #include "ui/Form.h"
@@ -30,6 +31,7 @@ public:
     ui::MenuItem SaveEntry{*this, "Save", "&Save", &mnuFile, "Ctrl+S"};
     ui::MenuItem SaveAsEntry{*this, "SaveAs", "Save &as...", &mnuFile, "Ctrl+Shift+S"};
     ui::MenuItem mnuExportXML{*this, "mnuExportXML", "&Export as ThermoML", &mnuFile, "Ctrl+E"};
+    ui::MenuItem mnuExportStrict{*this, "mnuExportStrict", "Export for strict readers", &mnuFile};
     ui::MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit", &mnuFile, "Ctrl+Q"};
     ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
     ui::MenuItem mnuExpandNode{*this, "mnuExpandNode", "Expand Node", &mnuEdit};
@@ -103,7 +105,7 @@ public:
     void Save();
     /// True when the document stands under the chosen name.
     bool SaveAs();
-    void ExportDocument();
+    void ExportDocument(ExportFor readers = ExportFor::House);
 
 private:
     // frmMain.cpp
@@ -130,7 +132,7 @@ private:
     bool WriteDocument();
     bool LeaveFile(bool saveElsewhere);
     bool MayExport();
-    void WriteExport(const std::string& target);
+    void WriteExport(const std::string& target, ExportFor readers);
     std::string StartFolder() const;
     std::string ChooseTarget(const std::string& proposed, const std::string& filter);
     KnownFile known_; // the file of the document as this program left it

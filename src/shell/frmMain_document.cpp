@@ -293,22 +293,22 @@ bool frmMain::MayExport() {
                         "Read only");
 }
 
-void frmMain::ExportDocument() {
+void frmMain::ExportDocument(ExportFor readers) {
     if (!MayExport()) return;
     DisableShell();
     const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles);
-    if (!target.empty()) WriteExport(target);
+    if (!target.empty()) WriteExport(target, readers);
     Enable();
 }
 
 /// An export keeps no copy of what it replaces, so it may not take the place of the document.
-void frmMain::WriteExport(const std::string& target) {
+void frmMain::WriteExport(const std::string& target, ExportFor readers) {
     ui::FileSystem& files = ui::TheDesktop().Files();
     if (!FileName.empty() && files.Resolve(target) == files.Resolve(FileName))
         return ui::Say("The export cannot take the place of the record file " + FileName + ".");
     SaveOutcome outcome;
-    const auto text =
-        Printed([] { return DocumentAsXml(ui::TheDesktop().Today()); }, outcome.fault);
+    const auto text = Printed(
+        [readers] { return DocumentAsXml(ui::TheDesktop().Today(), readers); }, outcome.fault);
     if (text) outcome = WriteText(target, *text, false);
     Tell(outcome, target);
 }
