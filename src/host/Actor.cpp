@@ -1,5 +1,6 @@
 #include "host/Actor.h"
 
+#include "ui/FileTarget.h"
 #include "ui/Utf8.h"
 
 namespace vexora::host {
@@ -12,6 +13,10 @@ void Actor::Enter(ui::Control& control) {
 void Actor::DoubleClick(ui::Control& control) {
     if (control.TakesFocus()) control.SetFocus();
     control.UserDoubleClick();
+}
+
+void Actor::Drop(ui::Form& form, const std::string& path) {
+    if (auto* target = dynamic_cast<ui::FileTarget*>(&form)) target->TakeFile(path);
 }
 
 void Actor::Set(ui::Control& control, const std::string& text) {

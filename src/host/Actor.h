@@ -57,6 +57,8 @@ public:
     }
     virtual void Hover(ui::Picture& picture, double x, double y) { picture.UserHover(x, y); }
     virtual void Drop(ui::TreeView& tree, const std::string& path) { tree.UserDrop(path); }
+    /// Drops a file on the window of a form that takes files.
+    virtual void Drop(ui::Form& form, const std::string& path);
     virtual void CloseWindow(ui::Form& form) { form.UserClose(); }
 
     /// Shows a question whose answer is already known, and gives that answer as a person would.

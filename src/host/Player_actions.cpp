@@ -4,6 +4,7 @@
 #include "host/Player.h"
 #include "host/Reach.h"
 #include "reference/Numbers.h"
+#include "ui/FileTarget.h"
 
 namespace vexora::host {
 
@@ -241,7 +242,11 @@ void Player::Hover(const ScriptLine& line) {
 }
 
 void Player::Drop(const ScriptLine& line) {
-    actor_.Drop(ReachedTree(), line.Text(1));
+    ui::Form* front = program_ ? program_->Forms().Front() : nullptr;
+    if (dynamic_cast<ui::FileTarget*>(front) != nullptr)
+        actor_.Drop(*front, line.Text(1));
+    else
+        actor_.Drop(ReachedTree(), line.Text(1));
 }
 
 void Player::Close(const ScriptLine& line) {

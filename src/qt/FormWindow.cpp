@@ -7,9 +7,11 @@
 #include <QScrollArea>
 #include <QTimer>
 
+#include "qt/FileDrop.h"
 #include "qt/Keys.h"
 #include "qt/Text.h"
 #include "qt/Windows.h"
+#include "ui/FileTarget.h"
 
 namespace vexora::qt {
 
@@ -41,6 +43,7 @@ FormWindow::FormWindow(Windows& windows, ui::Form& form, QWidget* parent)
     Place(*content);
     TakeFirstSize();
     Listen();
+    TakeFiles();
 }
 
 FormWindow::~FormWindow() {
@@ -93,6 +96,16 @@ void FormWindow::Listen() {
     });
     form_.FocusChanged.Connect([self] {
         if (self && !self->detached_) self->FollowFocus();
+    });
+}
+
+void FormWindow::TakeFiles() {
+    auto* target = dynamic_cast<ui::FileTarget*>(&form_);
+    if (!target) return;
+    new FileDrop(*this, [this, target](const QString& path) {
+        Perform([&] {
+            if (form_.IsReachable()) target->TakeFile(FromQt(path));
+        });
     });
 }
 

@@ -56,6 +56,8 @@ private:
     void Place(QWidget& content);
     void TakeFirstSize();
     void Listen();
+    /// Files dropped on the window go to a form that takes them.
+    void TakeFiles();
     void Schedule();
 
     Windows& windows_;

@@ -246,6 +246,15 @@ void QtActor::Drop(ui::TreeView& tree, const std::string& path) {
     Do([&] { DropFile(ViewOf<TreeWidgetView>(tree).ClickTarget(), ToQt(path)); });
 }
 
+void QtActor::Drop(ui::Form& form, const std::string& path) {
+    windows_.Follow();
+    Do([&] {
+        FormWindow* window = windows_.WindowOf(form);
+        if (!window) throw host::ActorError(form.Name() + " has no window");
+        DropFile(window, ToQt(path));
+    });
+}
+
 void QtActor::CloseWindow(ui::Form& form) {
     windows_.Follow();
     Do([&] {

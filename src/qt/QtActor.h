@@ -35,6 +35,7 @@ public:
     void Drag(ui::Picture& picture, double x, double y, double x2, double y2) override;
     void Hover(ui::Picture& picture, double x, double y) override;
     void Drop(ui::TreeView& tree, const std::string& path) override;
+    void Drop(ui::Form& form, const std::string& path) override;
     void CloseWindow(ui::Form& form) override;
 
     void Answer(const ui::Message& message, ui::Answer answer) override;

@@ -4,12 +4,11 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
-#include <QUrl>
 
+#include "qt/FileDrop.h"
 #include "qt/FormWindow.h"
 #include "qt/Text.h"
 
@@ -18,13 +17,6 @@ namespace vexora::qt {
 namespace {
 
 constexpr int NodeRole = Qt::UserRole;
-
-QString DroppedFile(const QDropEvent& event) {
-    for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile()) return url.toLocalFile();
-    }
-    return {};
-}
 
 /// Labels are long and alike; with air between the rows the eye keeps its line.
 class RoomyRows : public QStyledItemDelegate {

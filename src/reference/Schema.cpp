@@ -32,7 +32,7 @@ constexpr ColumnSchema MethodsTable[] = {{"Code", Text}, {"MethodCode", Text}, {
 constexpr ColumnSchema QuestionsTable[] = {
     {"Question", Text}, {"Method", Text}, {"Context", Text}, {"Key", Text}};
 constexpr ColumnSchema ReactionsTable[] = {{"RCode", Text}, {"RType", Text}};
-constexpr ColumnSchema JournalsTable[] = {{"ShortTitle", Text}};
+constexpr ColumnSchema JournalsTable[] = {{"ShortTitle", Text}, {"Title", Text}};
 constexpr ColumnSchema PublishersTable[] = {{"Publisher", Text}};
 constexpr ColumnSchema PurificationTable[] = {{"Code", Text}, {"Method", Text}};
 constexpr ColumnSchema PurityDeterminationTable[] = {

@@ -1,5 +1,6 @@
 #include "sources/MakeForm.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "reference/Text.h"
@@ -67,6 +68,16 @@ void MakeForm::Show(const std::string& source) {
         if (one.enter) one.enter(*part++);
 }
 
+void MakeForm::Enter(std::string_view name, const std::string& text) {
+    for (const Asked& one : asked_)
+        if (one.field && one.field->Name() == name) one.enter(text);
+}
+
+SourceText MakeForm::Made() const {
+    const auto one = std::ranges::find_if(asked_, &Asked::IsMissing);
+    return {Compose(), one == asked_.end() ? "" : one->missing, Entered()};
+}
+
 std::string MakeForm::Compose() const {
     std::string text;
     for (const Asked& one : asked_) {
@@ -98,7 +109,7 @@ void MakeForm::Accept() {
         return;
     }
     for (const Asked& one : asked_) {
-        if (one.missing.empty() || !one.entered().empty()) continue;
+        if (!one.IsMissing()) continue;
         Refuse(*one.field, one.missing);
         return;
     }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "sources/EntryFields.h"
+#include "sources/MakeForms.h"
 #include "sources/frmDocument.h"
 
 namespace vexora {
@@ -64,6 +65,11 @@ class MakeForm : public ui::Form {
 public:
     void Load() override;
 
+    /// Puts a text into a field; a name that is not there is passed over.
+    void Enter(std::string_view name, const std::string& text);
+    /// What the fields as they stand make.
+    SourceText Made() const;
+
 protected:
     /// What stands before and behind a part in the source text.
     struct Frame {
@@ -92,6 +98,8 @@ protected:
         std::function<void(const std::string&)> enter = {};
         Frame frame = {};
         std::string missing = {};
+
+        bool IsMissing() const { return !missing.empty() && entered().empty(); }
     };
 
     MakeForm(std::string name, std::string caption);

@@ -1,6 +1,7 @@
 #include "sources/MakeForms.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
@@ -277,16 +278,34 @@ private:
     }
 };
 
+template <class Form>
+std::unique_ptr<MakeForm> Make() {
+    return std::make_unique<Form>();
+}
+
+constexpr std::pair<std::string_view, std::unique_ptr<MakeForm> (*)()> Makers[] = {
+    {"frmMakeBook", Make<frmMakeBook>},           {"frmMakeJournal", Make<frmMakeJournal>},
+    {"frmMakeReport", Make<frmMakeReport>},       {"frmMakePatent", Make<frmMakePatent>},
+    {"frmMakeThesis", Make<frmMakeThesis>},       {"frmMakeConf", Make<frmMakeConf>},
+    {"frmMakeDeposited", Make<frmMakeDeposited>},
+};
+
 } // namespace
 
 void RegisterMakeForms(ui::Forms& forms) {
-    forms.Register<frmMakeBook>("frmMakeBook");
-    forms.Register<frmMakeJournal>("frmMakeJournal");
-    forms.Register<frmMakeReport>("frmMakeReport");
-    forms.Register<frmMakePatent>("frmMakePatent");
-    forms.Register<frmMakeThesis>("frmMakeThesis");
-    forms.Register<frmMakeConf>("frmMakeConf");
-    forms.Register<frmMakeDeposited>("frmMakeDeposited");
+    for (const auto& [name, make] : Makers)
+        forms.Register(std::string(name), make);
+}
+
+SourceText ComposeSource(std::string_view form, const DetailTexts& details) {
+    for (const auto& [name, make] : Makers) {
+        if (name != form) continue;
+        const auto made = make();
+        for (const auto& [field, text] : details)
+            made->Enter(field, text);
+        return made->Made();
+    }
+    return {};
 }
 
 } // namespace vexora

@@ -46,6 +46,51 @@ private:
     char mark_ = ' ';
 };
 
+/// What the names and initials of those begin with who may be meant.
+struct SearchedName {
+    SearchedName(const std::string& last, const std::string& first) {
+        clsAuthor typed;
+        typed.LastName = last;
+        typed.FirstName = first;
+        typed.CreateAbbr();
+        name = typed.LastName + "*";
+        initials = (typed.FirstName.empty() ? "" : std::string(TrimBlanks(typed.INITNM))) + "*";
+    }
+
+    std::string name, initials;
+};
+
+std::shared_ptr<clsAuthor> WithoutMark(const std::string& last, const std::string& first) {
+    auto author = std::make_shared<clsAuthor>();
+    author->LastName = last;
+    author->FirstName = first;
+    author->CreateAbbr();
+    author->INITNM = Padded(author->INITNM.substr(0, InitialsShown), InitialsWidth);
+    author->isNew = true;
+    return author;
+}
+
+/// The others of the document count as taken, for they are registered with it only.
+char MarkOf(const clsAuthor& author, const frmAuthor::Authors& others) {
+    SequenceMark mark;
+    for (const auto& other : others)
+        if (HasCodes(*other, author)) mark.Pass(other->INITNM);
+    try {
+        auto rows = Globals().CompoundDb().Query(
+            "select LASTNM, INITNM from SOURCE_AUTHOR where rtrim(LASTNM)=? order by rowid",
+            {std::string(TrimBlanks(author.LASTNM))});
+        for (; !rows.IsEnd(); rows.MoveNext()) {
+            clsAuthor known;
+            known.LASTNM = rows.Text("LASTNM");
+            known.INITNM = rows.Text("INITNM");
+            if (HasCodes(known, author)) mark.Pass(known.INITNM);
+        }
+    } catch (const DatabaseError& error) {
+        ui::Say(error.what()); // the document keeps the author all the same
+    }
+    return mark.Get();
+}
+
 } // namespace
 
 frmAuthor::frmAuthor() : Form("frmAuthor", "Author's Name") {
@@ -95,7 +140,8 @@ void frmAuthor::cmdVerify_Click() {
     known_.clear();
     cboAuthor.Clear();
     try {
-        FindKnown();
+        known_ = KnownAuthors(txtLast.Entered(), txtFirst.Entered());
+        AppendOwn();
     } catch (const DatabaseError& error) {
         return ui::Say(error.what());
     }
@@ -110,36 +156,34 @@ void frmAuthor::cmdVerify_Click() {
     cboAuthor.SetFocus();
 }
 
-void frmAuthor::FindKnown() {
-    clsAuthor typed;
-    typed.LastName = txtLast.Entered();
-    typed.FirstName = txtFirst.Entered();
-    typed.CreateAbbr();
-    const std::string initials =
-        typed.FirstName.empty() ? "" : std::string(TrimBlanks(typed.INITNM));
+frmAuthor::Authors frmAuthor::KnownAuthors(const std::string& last, const std::string& first) {
+    Authors known;
+    const SearchedName searched(last, first);
     auto rows = Globals().CompoundDb().Query(
         "select * from SOURCE_AUTHOR where FULLNM like ? and INITNM like ? order by FULLNM",
-        {typed.LastName + "*", initials + "*"});
+        {searched.name, searched.initials});
     for (; !rows.IsEnd(); rows.MoveNext()) {
-        clsAuthor& author = *known_.emplace_back(std::make_shared<clsAuthor>());
+        clsAuthor& author = *known.emplace_back(std::make_shared<clsAuthor>());
         author.LASTNM = Padded(rows.Text("LASTNM"), NameWidth);
         author.INITNM = Padded(rows.Text("INITNM"), InitialsWidth);
         author.FULLNM = rows.Text("FULLNM");
         // No other workplace knows an author registered here: the document must carry the name.
         author.isNew = rows.Integer("NEW") != 0;
     }
-    AppendOwn(typed.LastName + "*", initials + "*");
+    return known;
 }
 
 /// Authors of the list that are not registered yet, so that one and the same is not made twice.
-void frmAuthor::AppendOwn(std::string_view name, std::string_view initials) {
+void frmAuthor::AppendOwn() {
+    const SearchedName searched(txtLast.Entered(), txtFirst.Entered());
     const auto isListed = [this](const clsAuthor& author) {
         return std::any_of(known_.begin(), known_.end(), [&author](const auto& known) {
             return known->LASTNM == author.LASTNM && known->INITNM == author.INITNM;
         });
     };
     for (const auto& author : recAuthor_)
-        if (Like(name, author->FULLNM) && Like(initials, author->INITNM) && !isListed(*author))
+        if (Like(searched.name, author->FULLNM) && Like(searched.initials, author->INITNM) &&
+            !isListed(*author))
             known_.push_back(std::make_shared<clsAuthor>(*author));
 }
 
@@ -152,41 +196,21 @@ void frmAuthor::cmdAdd_Click() {
     if (TakeTyped()) txtLast.SetFocus();
 }
 
-std::shared_ptr<clsAuthor> frmAuthor::NewAuthor() const {
-    auto author = std::make_shared<clsAuthor>();
-    author->LastName = txtLast.Entered();
-    author->FirstName = txtFirst.Entered();
-    author->CreateAbbr();
-    author->INITNM = Padded(author->INITNM.substr(0, InitialsShown), InitialsWidth);
-    author->isNew = true;
-    // The same person in another spelling keeps the mark.
-    if (changing_ && HasCodes(*changing_, *author)) {
-        author->INITNM = changing_->INITNM;
-        return author;
-    }
-    author->INITNM.back() = MarkOf(*author);
+std::shared_ptr<clsAuthor> frmAuthor::NewAuthor(const std::string& last, const std::string& first,
+                                                const Authors& others) {
+    auto author = WithoutMark(last, first);
+    author->INITNM.back() = MarkOf(*author, others);
     return author;
 }
 
-/// Those of the list count as taken, for they are registered with the document only.
-char frmAuthor::MarkOf(const clsAuthor& author) const {
-    SequenceMark mark;
-    for (const auto& other : recAuthor_)
-        if (other != changing_ && HasCodes(*other, author)) mark.Pass(other->INITNM);
-    try {
-        auto rows = Globals().CompoundDb().Query(
-            "select LASTNM, INITNM from SOURCE_AUTHOR where rtrim(LASTNM)=? order by rowid",
-            {std::string(TrimBlanks(author.LASTNM))});
-        for (; !rows.IsEnd(); rows.MoveNext()) {
-            clsAuthor known;
-            known.LASTNM = rows.Text("LASTNM");
-            known.INITNM = rows.Text("INITNM");
-            if (HasCodes(known, author)) mark.Pass(known.INITNM);
-        }
-    } catch (const DatabaseError& error) {
-        ui::Say(error.what()); // the document keeps the author all the same
-    }
-    return mark.Get();
+std::shared_ptr<clsAuthor> frmAuthor::TypedAuthor() const {
+    auto author = WithoutMark(txtLast.Entered(), txtFirst.Entered());
+    // The same person in another spelling keeps the mark.
+    if (changing_ && HasCodes(*changing_, *author))
+        author->INITNM = changing_->INITNM;
+    else // one with other codes takes no mark away
+        author->INITNM.back() = MarkOf(*author, recAuthor_);
+    return author;
 }
 
 std::shared_ptr<clsAuthor> frmAuthor::Selected() const {
@@ -219,7 +243,7 @@ bool frmAuthor::TakeTyped() {
     }
     if (txtLast.Entered().empty()) return Refuse(txtLast, "Enter author's last name");
     const auto known = ChosenKnown();
-    const auto author = known ? known : NewAuthor();
+    const auto author = known ? known : TypedAuthor();
     if (changing_)
         std::replace(recAuthor_.begin(), recAuthor_.end(), changing_, author);
     else

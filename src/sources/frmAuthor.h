@@ -35,9 +35,15 @@ public:
     void Load() override;
     bool QueryUnload() override;
 
-private:
     using Authors = std::vector<std::shared_ptr<clsAuthor>>;
+    /// Those of the table whose name begins so, in the order of names. Throws DatabaseError.
+    static Authors KnownAuthors(const std::string& last, const std::string& first);
+    /// One who is new to the table, with a mark that keeps him apart from those in it and from the
+    /// others of his document. What hinders the look-up is told.
+    static std::shared_ptr<clsAuthor> NewAuthor(const std::string& last, const std::string& first,
+                                                const Authors& others);
 
+private:
     void cmdVerify_Click();
     void cmdAdd_Click();
     void cmdChange_Click();
@@ -45,11 +51,9 @@ private:
     void Move(int by);
 
     void NameChanged(PlainTextBox& field);
-    void FindKnown();
     std::shared_ptr<clsAuthor> ChosenKnown() const;
-    void AppendOwn(std::string_view name, std::string_view initials);
-    std::shared_ptr<clsAuthor> NewAuthor() const;
-    char MarkOf(const clsAuthor& author) const;
+    void AppendOwn();
+    std::shared_ptr<clsAuthor> TypedAuthor() const;
     /// The author chosen in the list, or null.
     std::shared_ptr<clsAuthor> Selected() const;
 

@@ -40,7 +40,7 @@ frmDocument::frmDocument() : ChainForm("frmDocument", "Literature source descrip
                     ui::Field("Authors:", txtAuthors), ui::Field("Source of data:", lstSourceDoc),
                     ui::Field("Key words:", txtKeyWords),
                     ui::Field("    Abstract     (if available):", txtAbstract),
-                    ui::ButtonRow({cmdAccept, cmdCalcel})});
+                    ui::ButtonRow({cmdPasteCitation, cmdAccept, cmdCalcel})});
     UseButtons(cmdAccept, cmdCalcel, [this] { cmdAccept_Click(); });
     HelpContext = 225;
     PreferredColumns = 110;
@@ -48,6 +48,8 @@ frmDocument::frmDocument() : ChainForm("frmDocument", "Literature source descrip
     cboTypeDoc.OnClick = [this] { cboTypeDoc_Click(); };
     txtSource.OnClick = [this] { txtSource_Click(); };
     txtAuthors.OnClick = [this] { txtAuthors_Click(); };
+    cmdPasteCitation.OnClick = [this] { cmdPasteCitation_Click(); };
+    cmdPasteCitation.ToolTip("Fill the form from a citation on the clipboard, or drop a file here");
     ClickBySpace(txtSource);
     ClickBySpace(txtAuthors);
 }

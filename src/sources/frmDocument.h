@@ -2,12 +2,15 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "globals/FormChain.h"
+#include "sources/CitedSource.h"
 #include "sources/EntryFields.h"
+#include "ui/FileTarget.h"
 
 namespace vexora {
 
@@ -17,8 +20,9 @@ class clsR;
 /// "Literature source description": the first dialog of a new document and the edit dialog of its
 /// root. It fills the citation fields of the source and derives the author codes and the number
 /// that keeps it apart. The details of the publication and the authors come from helper dialogs
-/// that hand their result back here.
-class frmDocument : public ChainForm {
+/// that hand their result back here. A pasted citation, or a file with one that is dropped here,
+/// fills all of it after a review.
+class frmDocument : public ChainForm, public ui::FileTarget {
 public:
     frmDocument();
 
@@ -35,6 +39,7 @@ public:
                                 ui::TextBox::Lines::Many};
     PromptedTextBox txtAbstract{*this, "txtAbstract", "ENTER OR PASTE ABSTRACT HERE",
                                 ui::TextBox::Lines::Many};
+    ui::CommandButton cmdPasteCitation{*this, "cmdPasteCitation", "Paste citation"};
     ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
     ui::CommandButton cmdCalcel{*this, "cmdCalcel", "Cancel"};
 
@@ -54,16 +59,30 @@ public:
     /// Takes the list of authors, in place of the one before.
     void Authors(const std::vector<std::shared_ptr<clsAuthor>>& authors);
 
+    /// A file with a citation, to be reviewed; one without is told.
+    void TakeFile(const std::string& path) override;
+    /// Reads the citation in a file without showing it; false, and told, for a file without.
+    bool PasteFile(const std::string& path);
+    /// The citation read last.
+    const std::optional<CitedSource>& Pasted() const { return pasted_; }
+    /// Fills the fields from it, as a person would have typed them. Nothing without one.
+    void TakePasted();
+
 private:
     void cboTypeDoc_Click();
     void txtSource_Click();
     void txtAuthors_Click();
+    void cmdPasteCitation_Click();
     void cmdAccept_Click();
 
     void FillLists();
     void Fill(const clsR& source);
     void FillType(const clsR& source);
     void ShowAuthors();
+
+    bool Paste(std::optional<CitedSource> cited);
+    static void ReviewPasted();
+    void TakeAuthors(const std::vector<CitedAuthor>& cited);
 
     bool CheckFields();
     bool CheckCitation();
@@ -77,6 +96,7 @@ private:
     std::string ChosenSourceKind(const std::string& before) const;
 
     std::vector<std::shared_ptr<clsAuthor>> authors_;
+    std::optional<CitedSource> pasted_;
     std::map<std::pair<std::string, std::string>, std::vector<std::string>> parts_; // by form, text
     std::string code1_;                  // of the first author: three lower-case letters at most
     std::string code2_;                  // of the second, "&" when there is none
