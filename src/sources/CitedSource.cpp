@@ -173,7 +173,7 @@ std::vector<std::string> CitedSource::Details() const {
         {"Place", c.place},
         {"Number", c.number == c.issue ? "" : c.number},
         {"Degree", c.degree},
-        {"Date", c.date == c.year ? "" : c.date}};
+        {"Date", c.date}};
     std::vector<std::string> lines;
     for (const auto& [name, text] : found)
         if (!text.empty()) lines.push_back(std::string(name) + ": " + text);

@@ -67,8 +67,12 @@ void Clean(Citation& citation) {
           &citation.publisher, &citation.place, &citation.institution, &citation.number,
           &citation.degree, &citation.date, &citation.abstract, &citation.keyWords})
         *text = CleanMarkup(*text);
+    const bool keepsDate = citation.type == cited::Patent || citation.type == cited::Conference;
+    if (!keepsDate || citation.date == citation.year) citation.date.clear();
+    while (citation.date.ends_with('/'))
+        citation.date.pop_back();
     for (std::string& journal : citation.journals)
-        journal = CleanMarkup(journal);
+        journal = CleanMarkup(journal.substr(0, journal.find_last_not_of(" ,;") + 1));
     std::erase(citation.journals, "");
     std::vector<std::string> all;
     for (const std::string& one : citation.notUnderstood)

@@ -92,9 +92,9 @@ bool IsCapitalized(std::string_view word) {
 }
 
 bool IsParticle(std::string_view word) {
-    return IsOneOf(word,
-                   {"van", "von", "der", "den", "de", "del", "della", "di", "da", "dos", "du",
-                    "la",  "le",  "ten", "ter", "zu", "zur", "el",    "al", "af", "v.",  "v.d."});
+    return IsOneOf(word, {"van", "von", "der", "den", "de", "del",  "della", "di",
+                          "da",  "dos", "du",  "la",  "le", "ten",  "ter",   "zu",
+                          "zur", "el",  "al",  "af",  "v.", "v.d.", "van't", "'t"});
 }
 
 bool AreBareInitials(std::string_view word) {

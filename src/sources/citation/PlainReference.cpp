@@ -19,7 +19,7 @@ constexpr std::size_t LongestLine = 2000;
 
 const std::string Volume = R"(([A-Z]?\d+[A-Za-z]?(?:[-/]\d+)?))";
 const std::string Issue = R"((?: ?\(((?:No\. ?)?[^()]{1,15})\))?)";
-const std::string Pages = R"((?:pp?\.? ?)?([A-Za-z]{0,2}\d[\w.]*(?: ?- ?[A-Za-z]{0,2}\d\w*)?))";
+const std::string Pages = R"((?:pp?\.? ?)?([A-Za-z]{0,2}\d[\w.]*(?: ?- ?[A-Za-z]{0,2}\d[\w.]*)?))";
 const std::string Head = R"(^(.+?))";
 
 /// The ends of references, with the places of year, volume, issue and pages in the match; the head
@@ -41,6 +41,9 @@ const std::vector<Ending>& Endings() {
         add(",? " + Volume + Issue + R"( ?\((\d{4})\),? )" + Pages, {4, 2, 3, 5});
         add(",? " + Volume + Issue + ", " + Pages + R"( \((\d{4})\))", {5, 2, 3, 4});
         add(R"(,? (\d{4}), )" + Volume + Issue + ",? " + Pages, {2, 3, 4, 5});
+        add(R"(, [Vv]ol\. ?)" + Volume + R"((?:, [Nn]o\. ?([\w/-]{1,15}))?, )" + Pages +
+                R"(, (?:[A-Z][a-z]{2,8}\.? )?(\d{4}))",
+            {5, 2, 3, 4});
         return made;
     }();
     return endings;
@@ -188,7 +191,7 @@ private:
         const std::size_t start = JournalStart(head, journals_);
         const bool known = start != head.npos && journals_.Find(head.substr(start));
         if (known) {
-            citation_.journals = {Stripped(head.substr(start))};
+            citation_.journals = {head.substr(start)};
             head = head.substr(0, start);
         }
         const NamesInFront names = TakeNames(std::string(TrimBlanks(head)));

@@ -50,7 +50,7 @@ public:
         bool goesOn = true;
         while (goesOn && at_ < raw_.size()) {
             const std::size_t before = at_;
-            SkipAnd();
+            SkipAnd(taken);
             if (TakeOthers()) {
                 taken.more = true;
                 break;
@@ -75,12 +75,10 @@ private:
         return at_ < raw_.size() && IsOneOf(WordOf(raw_[at_]).text, {"and", "&", "et"});
     }
 
-    void SkipAnd() {
-        const auto isSkipped = [this] {
-            return at_ < raw_.size() && IsOneOf(raw_[at_], {"and", "&", "...", ". . ."});
-        };
-        while (isSkipped())
-            ++at_;
+    /// Passes over "and"; three points in front of the last name leave out those between.
+    void SkipAnd(NamesInFront& taken) {
+        for (; at_ < raw_.size() && IsOneOf(raw_[at_], {"and", "&", "..."}); ++at_)
+            taken.more = taken.more || raw_[at_] == "...";
     }
 
     bool TakeOthers() {
@@ -136,7 +134,6 @@ private:
         while (at_ < raw_.size() && ends_ == End::None) {
             const Word word = WordOf(raw_[at_]);
             if (!AreInitials(word.text)) break;
-            // "A. The Title": behind last names a single "A." may still be an initial.
             name.first += (any ? " " : "") + word.text;
             any = true;
             ++at_;
