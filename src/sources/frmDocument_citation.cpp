@@ -1,5 +1,7 @@
 #include "sources/frmDocument.h"
 
+#include <algorithm>
+
 #include "records/clsAuthor.h"
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
@@ -40,7 +42,7 @@ void frmDocument::TakePasted() {
     const std::string before = txtTitle.Entered();
     const bool isOther = !before.empty() && !EqualNoCase(before, Transliterate(citation.title));
     const auto replaces = [isOther](const std::string& text) { return isOther || !text.empty(); };
-    if (!cboTypeDoc.Choose(citation.type) && isOther) cboTypeDoc.Index(0);
+    if (replaces(citation.type)) cboTypeDoc.Index(std::max(0, cboTypeDoc.Find(citation.type)));
     if (replaces(pasted_->source)) Source(pasted_->source);
     if (!pasted_->parts.empty()) KeepParts(pasted_->detailForm, pasted_->parts);
     if (replaces(citation.title)) txtTitle.Enter(citation.title);

@@ -75,6 +75,54 @@ TEST_F(frmCitationTest, EveryFieldOfACitationGoesToItsPlace) {
     }
 }
 
+TEST_F(frmCitationTest, EachKindOfPublicationMakesItsSource) {
+    for (const auto& row : RowsOf(Folder + "types.tsv")) {
+        frmDocument& document = Open();
+        const std::string remarks = Paste(document, Replace(row.at(0), "\\n", "\n"));
+        const std::vector<std::string> found = {row.at(0), document.cboTypeDoc.Chosen(),
+                                                document.Source(), remarks};
+        EXPECT_EQ(found, row);
+    }
+}
+
+TEST_F(frmCitationTest, WhatIsNotToldStaysForTheSamePaperAndGoesForAnother) {
+    frmDocument& document = Open();
+    Set(document.txtKeyWords, "typed; words");
+    const std::string first = "TY  - JOUR\nAU  - Brown, A.\nTI  - Hot Salt\nJO  - Fuel\nVL  - 7\n"
+                              "SP  - 1\nPY  - 1970\nAB  - Salt is hot.\nER  - \n";
+    Paste(document, first, "cmdCancel");
+    EXPECT_EQ(document.txtTitle.Entered() + document.Source() + document.txtYear.Text(), "");
+    Paste(document, first);
+    const auto whole = State(document);
+    EXPECT_EQ(Joined(whole), "Journal article | Hot Salt | Brown,A. | 1970 | @Fuel@ $7$, 1 | "
+                             "typed; words | Salt is hot.");
+    Paste(document, first);
+    EXPECT_EQ(State(document), whole);
+    Paste(document, "@misc{k, title = {HOT {S}alt}}");
+    EXPECT_EQ(Joined(State(document)), Replace(Joined(whole), "Hot Salt", "HOT Salt"));
+    Paste(document, "@misc{k, title = {Cold Salt}}");
+    EXPECT_EQ(Joined(State(document)), "SELECT TYPE OF DOCUMENT HERE | Cold Salt | "
+                                       "CLICK HERE TO ENTER THE AUTHORS |  |  |  | ");
+}
+
+TEST_F(frmCitationTest, AuthorsAreThoseOfTheTableOrNewToIt) {
+    frmDocument& document = Open();
+    AddAuthors(document, {{"Zymurgist", "Q."}, {"Zymurgist", "Quentin"}});
+    const std::string remarks =
+        Paste(document, "@misc{k, title={T}, year=1970, author={Zymurgist, Q. and Wagner, Wolf and "
+                        "Wagner, W. R. and van der Waals, Jan}}");
+    EXPECT_NE(remarks.find("Several authors are known by the name Zymurgist,Q."), remarks.npos);
+    Choose(document.cboTypeDoc, "Unpublished");
+    document.txtSource.UserClick();
+    document.cmdAccept.UserClick();
+    std::string stored;
+    for (const auto& author : globals.recR.Item(1)->recAuthor)
+        stored += author->AUTHSEQNO + author->LASTNM + author->INITNM + author->FULLNM +
+                  (author->isNew ? " new\n" : "\n");
+    EXPECT_EQ(stored, "1zymurgq  Zymurgist,Q. new\n2wagnerw  Wagner, W.\n"
+                      "3wagnerwr Wagner,W.R. new\n4vanderj  van der Waals,J. new\n");
+}
+
 TEST_F(frmCitationTest, ABrokenCitationIsToldAndChangesNothing) {
     frmDocument& document = Open();
     Paste(document, FileText(Folder + "elsevier.ris"));

@@ -79,7 +79,8 @@ constexpr TagPlace Places[] = {{"title", &Citation::title},
                                {"bibsource", nullptr},
                                {"biburl", nullptr},
                                {"unique-id", nullptr},
-                               {"note", nullptr}};
+                               {"note", nullptr},
+                               {"holder", nullptr}};
 
 constexpr std::string_view Incomplete =
     "The BibTeX entry is not complete: a brace or a quotation mark is not closed.";
@@ -275,7 +276,7 @@ private:
     std::vector<CitedName> Names(const std::string& field) {
         std::vector<CitedName> names;
         for (const std::string& source : SplitNames(Raw(field))) {
-            if (source == "others") {
+            if (AreOthers(source)) {
                 citation_.moreAuthors = citation_.moreAuthors || field == "author";
                 continue;
             }

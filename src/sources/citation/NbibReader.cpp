@@ -78,7 +78,9 @@ void PutNames(Citation& citation, const std::vector<TagLine>& lines) {
     const bool editorsInFull = std::ranges::count(lines, "FED", &TagLine::tag) > 0;
     for (const TagLine& line : lines) {
         const CitedName name = NameOf(line.text);
-        if (line.tag == (inFull ? "FAU" : "AU")) {
+        if (line.tag == (inFull ? "FAU" : "AU") && AreOthers(line.text)) {
+            citation.moreAuthors = true;
+        } else if (line.tag == (inFull ? "FAU" : "AU")) {
             citation.authors.push_back(name);
         } else if (line.tag == "CN") {
             citation.authors.push_back({CleanText(line.text), {}, {}});

@@ -79,6 +79,11 @@ CitedName FromWords(Words words) {
 
 } // namespace
 
+bool AreOthers(std::string_view text) {
+    return IsOneOf(LowerAscii(text),
+                   {"others", "and others", "et al", "et al.", "et al,", "al., et", "al, et"});
+}
+
 bool IsNameSuffix(std::string_view word) {
     return IsOneOf(LowerAscii(word), {"jr", "jr.", "sr", "sr.", "ii", "iii", "iv"});
 }

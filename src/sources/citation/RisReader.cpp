@@ -83,7 +83,7 @@ bool PutName(Citation& citation, const TagLine& line) {
     if (!IsOneOf(line.tag, {"AU", "A1", "A2", "A3", "A4", "ED"})) return false;
     if (line.text.empty()) return true;
     const CitedName name = NameOf(line.text);
-    if (IsOneOf(LowerAscii(name.last), {"others", "et al", "et al."}))
+    if (AreOthers(line.text))
         citation.moreAuthors = true;
     else if (line.tag == "AU" || line.tag == "A1")
         citation.authors.push_back(name);
