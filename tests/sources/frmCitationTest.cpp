@@ -1,4 +1,7 @@
 #include "sources/frmCitation.h"
+#include "sources/citation/JournalNames.h"
+#include <array>
+
 #include "reference/TableText.h"
 #include "reference/Text.h"
 #include "support/SourceFixture.h"
@@ -72,6 +75,21 @@ TEST_F(frmCitationTest, EveryFieldOfACitationGoesToItsPlace) {
         found.insert(found.begin(), row.at(0));
         found.push_back(remarks);
         EXPECT_EQ(found, row);
+    }
+}
+
+TEST_F(frmCitationTest, EveryJournalOfTheTableIsFoundByBothItsTitles) {
+    JournalNames journals;
+    std::vector<std::array<std::string, 2>> titles;
+    auto rows = Globals().LocalDb().Query("select * from Journals order by rowid");
+    for (; !rows.IsEnd(); rows.MoveNext()) {
+        titles.push_back({rows.Text("ShortTitle"), rows.Text("Title")});
+        journals.Add(titles.back()[0], titles.back()[1]);
+    }
+    EXPECT_GT(titles.size(), 90U);
+    for (const auto& [shortTitle, title] : titles) {
+        EXPECT_EQ(journals.Find(shortTitle), shortTitle);
+        EXPECT_EQ(journals.Find(title), shortTitle);
     }
 }
 

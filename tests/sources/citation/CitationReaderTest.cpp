@@ -55,6 +55,23 @@ TEST(CitationReader, ReferenceLinesOfManyStylesAreTakenApart) {
     }
 }
 
+TEST(CitationReader, ACitationCutOffAnywhereIsReadOrRefusedInWords) {
+    const JournalNames journals = SomeJournals();
+    for (const auto& file :
+         std::filesystem::directory_iterator(VEXORA_SOURCE_DIR "/tests/sources/citations")) {
+        if (!file.is_regular_file() || file.path().extension() == ".tsv") continue;
+        std::ostringstream whole;
+        whole << std::ifstream(file.path()).rdbuf();
+        const std::string text = whole.str();
+        EXPECT_TRUE(ReadCitation(text, journals).citation) << file.path();
+        for (std::size_t length = 0; length < text.size(); length += 5) {
+            const auto reading = ReadCitation(std::string_view(text).substr(0, length), journals);
+            EXPECT_EQ(reading.citation.has_value(), reading.error.empty())
+                << file.path() << " " << length;
+        }
+    }
+}
+
 TEST(CitationReader, JournalsAreKnownByAnyOfTheirNamesAndNoOthers) {
     const JournalNames journals = SomeJournals();
     const std::pair<const char*, const char*> cases[] = {
