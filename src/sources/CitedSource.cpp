@@ -104,9 +104,9 @@ void TakeAuthors(CitedSource& cited) {
                                     author.known->FULLNM + ". The first is taken.");
         if (!author.last.empty()) cited.authors.push_back(std::move(author));
     }
-    if (cited.authors.empty()) cited.remarks.push_back("The authors are missing.");
+    if (cited.authors.empty()) cited.remarks.emplace_back("The authors are missing.");
     if (cited.citation.moreAuthors)
-        cited.remarks.push_back(
+        cited.remarks.emplace_back(
             "The citation leaves out further authors. Take all from the paper.");
 }
 
@@ -129,7 +129,7 @@ void TakeSource(CitedSource& cited) {
     const auto* type = std::ranges::find(DocumentTypes, std::string_view(cited.citation.type),
                                          &DocumentType::text);
     if (type == DocumentTypes.end()) {
-        cited.remarks.push_back("The type of document is not told. Select it.");
+        cited.remarks.emplace_back("The type of document is not told. Select it.");
         return;
     }
     if (type->detailForm.empty()) {
@@ -146,8 +146,8 @@ void TakeSource(CitedSource& cited) {
 
 void Remark(CitedSource& cited) {
     const Citation& c = cited.citation;
-    if (c.title.empty()) cited.remarks.push_back("The title is missing.");
-    if (c.year.empty()) cited.remarks.push_back("The year is missing.");
+    if (c.title.empty()) cited.remarks.emplace_back("The title is missing.");
+    if (c.year.empty()) cited.remarks.emplace_back("The year is missing.");
     const std::string lost = LostLetters(c.title + c.abstract + c.keyWords);
     if (!lost.empty())
         cited.remarks.push_back("Letters that have no plain form and are left out: " + lost);

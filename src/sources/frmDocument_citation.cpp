@@ -54,6 +54,7 @@ void frmDocument::TakePasted() {
 
 void frmDocument::TakeAuthors(const std::vector<CitedAuthor>& cited) {
     std::vector<std::shared_ptr<clsAuthor>> authors;
+    authors.reserve(cited.size());
     for (const CitedAuthor& author : cited)
         authors.push_back(author.known ? author.known
                                        : frmAuthor::NewAuthor(author.last, author.first, authors));

@@ -45,6 +45,9 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 7> Entities{
                                                                                  {"&#39;", "'"},
                                                                                  {"&amp;", "&"}}};
 
+/// Stands in front of the tags in abstracts that come from the archives of journals.
+constexpr std::string_view ArticleTags = "jats:";
+
 constexpr char32_t FirstMark = 0x300;
 constexpr char32_t LastMark = 0x36F;
 
@@ -93,7 +96,7 @@ std::string WithoutTags(std::string_view text) {
             std::string_view name = text.substr(at + 1, end - at - 1);
             if (name.starts_with('/')) name.remove_prefix(1);
             name = name.substr(0, name.find_first_of(" /"));
-            if (name.starts_with("jats:")) name.remove_prefix(5);
+            if (name.starts_with(ArticleTags)) name.remove_prefix(ArticleTags.size());
             if (IsOneOf(LowerAscii(name), {"sub", "sup", "i", "b", "em", "strong", "inf", "p", "br",
                                            "title", "span", "sec", "italic", "bold"})) {
                 if (IsOneOf(LowerAscii(name), {"p", "br", "title", "sec"})) plain += ' ';
@@ -177,7 +180,7 @@ std::string CleanPages(std::string_view text) {
     pages = Replace(Replace(pages, " -", "-"), "- ", "-");
     const std::size_t dash = pages.find('-');
     if (dash == pages.npos) return pages;
-    const std::string first = pages.substr(0, dash);
+    std::string first = pages.substr(0, dash);
     const std::string last = pages.substr(dash + 1);
     if (last.empty() || first == last) return first;
     if (!IsNumber(first) || !IsNumber(last) || last.size() >= first.size()) return pages;

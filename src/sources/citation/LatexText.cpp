@@ -194,7 +194,7 @@ private:
         const std::size_t start = at_;
         while (at_ < source_.size() && IsLetter(source_[at_]))
             ++at_;
-        const std::string name(source_.substr(start, at_ - start));
+        std::string name(source_.substr(start, at_ - start));
         SkipBlanks();
         return name;
     }

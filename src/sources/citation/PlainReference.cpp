@@ -231,7 +231,7 @@ private:
         const std::size_t start = JournalStart(text, journals_);
         if (start == text.npos) {
             citation_.title = Stripped(text);
-            citation_.notUnderstood.push_back("Where the title ends and the journal begins.");
+            citation_.notUnderstood.emplace_back("Where the title ends and the journal begins.");
             return;
         }
         citation_.title = Stripped(text.substr(0, start));

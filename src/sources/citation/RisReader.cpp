@@ -158,8 +158,9 @@ Citation ReadRis(std::string_view text) {
                                                               : line.tag + "  - " + line.text);
     }
     if (std::ranges::count(lines, "ER", &TagLine::tag) == 0)
-        citation.notUnderstood.push_back("The end of the citation (ER) is missing: part of it may "
-                                         "have been cut off.");
+        citation.notUnderstood.emplace_back(
+            "The end of the citation (ER) is missing: part of it may "
+            "have been cut off.");
     PlaceByType(citation, loose);
     return citation;
 }
