@@ -128,7 +128,7 @@ TEST_F(frmCitationTest, AuthorsAreThoseOfTheTableOrNewToIt) {
     AddAuthors(document, {{"Zymurgist", "Q."}, {"Zymurgist", "Quentin"}});
     const std::string remarks =
         Paste(document, "@misc{k, title={T}, year=1970, author={Zymurgist, Q. and Wagner, Wolf and "
-                        "Wagner, W. R. and van der Waals, Jan}}");
+                        "Wagner, W. R. and van der Waals, Jan and Lemmon, E.}}");
     EXPECT_NE(remarks.find("Several authors are known by the name Zymurgist,Q."), remarks.npos);
     Choose(document.cboTypeDoc, "Unpublished");
     document.txtSource.UserClick();
@@ -137,8 +137,10 @@ TEST_F(frmCitationTest, AuthorsAreThoseOfTheTableOrNewToIt) {
     for (const auto& author : globals.recR.Item(1)->recAuthor)
         stored += author->AUTHSEQNO + author->LASTNM + author->INITNM + author->FULLNM +
                   (author->isNew ? " new\n" : "\n");
-    EXPECT_EQ(stored, "1zymurgq  Zymurgist,Q. new\n2wagnerw  Wagner, W.\n"
-                      "3wagnerwr Wagner,W.R. new\n4vanderj  van der Waals,J. new\n");
+    EXPECT_EQ(
+        stored,
+        "1zymurgq  Zymurgist,Q. new\n2wagnerw  Wagner, W.\n"
+        "3wagnerwr Wagner,W.R. new\n4vanderj  van der Waals,J. new\n5lemmone  Lemmon,E. new\n");
 }
 
 TEST_F(frmCitationTest, ABrokenCitationIsToldAndChangesNothing) {
