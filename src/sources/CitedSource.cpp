@@ -74,18 +74,23 @@ std::string LostLetters(std::string_view text) {
     return lost;
 }
 
-CitedAuthor AuthorOf(const CitedName& name) {
+/// Nobody is the author of one paper twice, so a second one of that name is a namesake.
+bool IsAmong(const clsAuthor& author, const std::vector<CitedAuthor>& cited) {
+    return std::ranges::any_of(cited, [&author](const CitedAuthor& other) {
+        return other.known && other.known->LASTNM == author.LASTNM &&
+               other.known->INITNM == author.INITNM;
+    });
+}
+
+CitedAuthor AuthorOf(const CitedName& name, const std::vector<CitedAuthor>& before) {
     CitedAuthor author;
     author.last = PlainText(name.last);
     // What stands behind "]" in the first names is kept behind the initials.
     author.first = PlainText(name.first + (name.suffix.empty() ? "" : "] " + name.suffix));
     if (author.last.empty() || !Globals().CompoundDb().IsOpen()) return author;
-    clsAuthor cited;
-    cited.LastName = author.last;
-    cited.FirstName = author.first;
-    cited.CreateAbbr();
+    const clsAuthor typed = author.Typed();
     for (const auto& known : frmAuthor::KnownAuthors(author.last, author.first)) {
-        if (!cited.CompareName(known->FULLNM)) continue;
+        if (!typed.CompareName(known->FULLNM) || IsAmong(*known, before)) continue;
         if (author.known)
             author.hasNamesakes = true;
         else
@@ -96,7 +101,7 @@ CitedAuthor AuthorOf(const CitedName& name) {
 
 void TakeAuthors(CitedSource& cited) {
     for (const CitedName& name : cited.citation.authors) {
-        CitedAuthor author = AuthorOf(name);
+        CitedAuthor author = AuthorOf(name, cited.authors);
         if (author.last.empty())
             cited.remarks.push_back("An author cannot be written in plain letters: " + name.last);
         else if (author.hasNamesakes)
@@ -156,6 +161,14 @@ void Remark(CitedSource& cited) {
 }
 
 } // namespace
+
+clsAuthor CitedAuthor::Typed() const {
+    clsAuthor typed;
+    typed.LastName = last;
+    typed.FirstName = first;
+    typed.CreateAbbr();
+    return typed;
+}
 
 std::vector<std::string> CitedSource::Details() const {
     const Citation& c = citation;

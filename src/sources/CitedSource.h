@@ -16,6 +16,8 @@ class clsAuthor;
 
 /// An author as the form of authors would get him.
 struct CitedAuthor {
+    clsAuthor Typed() const;
+
     std::string last, first;          // in plain letters
     std::shared_ptr<clsAuthor> known; // of that name in the table of authors, or null
     bool hasNamesakes = false;        // the table has several of that name

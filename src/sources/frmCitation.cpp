@@ -41,13 +41,9 @@ void frmCitation::Fill(const CitedSource& cited) {
     txtType.Text(cited.citation.type);
     txtTitle.Text(cited.citation.title);
     std::vector<std::string> names;
-    for (const CitedAuthor& author : cited.authors) {
-        clsAuthor typed;
-        typed.LastName = author.last;
-        typed.FirstName = author.first;
-        typed.CreateAbbr();
-        names.push_back(author.known ? author.known->FULLNM + " (known)" : typed.FULLNM + " (new)");
-    }
+    for (const CitedAuthor& author : cited.authors)
+        names.push_back(author.known ? author.known->FULLNM + " (known)"
+                                     : author.Typed().FULLNM + " (new)");
     lstAuthors.Assign(names);
     txtYear.Text(cited.citation.year);
     lstDetails.Assign(cited.Details());

@@ -82,7 +82,8 @@ private:
 
     bool Paste(std::optional<CitedSource> cited);
     static void ReviewPasted();
-    void TakeAuthors(const std::vector<CitedAuthor>& cited);
+    void TakeAuthors(const std::vector<CitedAuthor>& cited,
+                     std::vector<std::shared_ptr<clsAuthor>> own);
 
     bool CheckFields();
     bool CheckCitation();

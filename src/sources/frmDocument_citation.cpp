@@ -43,21 +43,36 @@ void frmDocument::TakePasted() {
     const bool isOther = !before.empty() && !EqualNoCase(before, Transliterate(citation.title));
     const auto replaces = [isOther](const std::string& text) { return isOther || !text.empty(); };
     if (replaces(citation.type)) cboTypeDoc.Index(std::max(0, cboTypeDoc.Find(citation.type)));
+    if (isOther) sources_.clear();
     if (replaces(pasted_->source)) Source(pasted_->source);
     if (!pasted_->parts.empty()) KeepParts(pasted_->detailForm, pasted_->parts);
     if (replaces(citation.title)) txtTitle.Enter(citation.title);
     if (replaces(citation.year)) txtYear.Text(citation.year);
-    if (isOther || !pasted_->authors.empty()) TakeAuthors(pasted_->authors);
+    if (isOther || !pasted_->authors.empty())
+        TakeAuthors(pasted_->authors, isOther ? frmAuthor::Authors() : authors_);
     if (replaces(citation.keyWords)) txtKeyWords.Enter(citation.keyWords);
     if (replaces(citation.abstract)) txtAbstract.Enter(citation.abstract);
 }
 
-void frmDocument::TakeAuthors(const std::vector<CitedAuthor>& cited) {
+/// Of authors who are new to the table, those whom the description of this paper has stay who they
+/// are; the marks of the others differ from theirs.
+void frmDocument::TakeAuthors(const std::vector<CitedAuthor>& cited,
+                              std::vector<std::shared_ptr<clsAuthor>> own) {
     std::vector<std::shared_ptr<clsAuthor>> authors;
     authors.reserve(cited.size());
+    auto others = own;
+    const auto fresh = [&own, &others](const CitedAuthor& author) {
+        const clsAuthor typed = author.Typed();
+        const auto same = std::ranges::find_if(
+            own, [&typed](const auto& one) { return typed.CompareName(one->FULLNM); });
+        if (same == own.end())
+            return others.emplace_back(frmAuthor::NewAuthor(author.last, author.first, others));
+        auto taken = *same;
+        own.erase(same);
+        return taken;
+    };
     for (const CitedAuthor& author : cited)
-        authors.push_back(author.known ? author.known
-                                       : frmAuthor::NewAuthor(author.last, author.first, authors));
+        authors.push_back(author.known ? author.known : fresh(author));
     Authors(authors);
 }
 

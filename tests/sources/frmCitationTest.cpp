@@ -1,9 +1,10 @@
-#include "sources/frmCitation.h"
-#include "sources/citation/JournalNames.h"
 #include <array>
+#include <tuple>
 
 #include "reference/TableText.h"
 #include "reference/Text.h"
+#include "sources/citation/JournalNames.h"
+#include "sources/frmCitation.h"
 #include "support/SourceFixture.h"
 
 namespace vexora::test {
@@ -125,7 +126,11 @@ TEST_F(frmCitationTest, WhatIsNotToldStaysForTheSamePaperAndGoesForAnother) {
 
 TEST_F(frmCitationTest, AuthorsAreThoseOfTheTableOrNewToIt) {
     frmDocument& document = Open();
-    AddAuthors(document, {{"Zymurgist", "Q."}, {"Zymurgist", "Quentin"}});
+    for (const char* initials : {"q  ", "q 1"})
+        globals.CompoundDb().Insert("SOURCE_AUTHOR", {{"LASTNM", "zymurg"},
+                                                      {"INITNM", initials},
+                                                      {"FULLNM", "Zymurgist,Q."},
+                                                      {"NEW", true}});
     const std::string remarks =
         Paste(document, "@misc{k, title={T}, year=1970, author={Zymurgist, Q. and Wagner, Wolf and "
                         "Wagner, W. R. and van der Waals, Jan and Lemmon, E.}}");
@@ -141,6 +146,75 @@ TEST_F(frmCitationTest, AuthorsAreThoseOfTheTableOrNewToIt) {
         stored,
         "1zymurgq  Zymurgist,Q. new\n2wagnerw  Wagner, W.\n"
         "3wagnerwr Wagner,W.R. new\n4vanderj  van der Waals,J. new\n5lemmone  Lemmon,E. new\n");
+}
+
+TEST_F(frmCitationTest, NamesakesOfOnePaperKeepTheirMarksHoweverOftenItIsPasted) {
+    const std::string citation = "@misc{k, title={T}, year=1970, author={Zymurgist, Jan and "
+                                 "Zymurgist, Jim and Zymurgy, Joe}}";
+    frmDocument* document = &Open();
+    const auto codes = [&](bool known) {
+        Paste(*document, citation);
+        std::string text;
+        for (const auto& author : document->Authors()) {
+            text += author->LASTNM + author->INITNM + "|";
+            EXPECT_EQ(author->KnownName().has_value(), known) << text;
+        }
+        return text;
+    };
+    const std::string expected = "zymurgj  |zymurgj 1|zymurgj 2|";
+    for (int time = 0; time < 2; ++time)
+        EXPECT_EQ(codes(false), expected);
+    Choose(document->cboTypeDoc, "Unpublished");
+    document->txtSource.UserClick();
+    document->cmdAccept.UserClick();
+    RegisterDocument();
+    document = &Open();
+    EXPECT_EQ(codes(true), expected);
+
+    // Those whom the description has from elsewhere stay who they are, whoever comes before them.
+    const auto own = std::make_shared<clsAuthor>();
+    std::tie(own->LASTNM, own->INITNM, own->FULLNM) = std::tuple("quarks", "q  ", "Quarkson, Q.");
+    document->Authors({own});
+    Paste(*document, "@misc{k, title={T}, author={Quarksen, Q. and Quarkson, Q.}}");
+    ASSERT_EQ(document->Authors().size(), 2U);
+    EXPECT_EQ(document->Authors()[0]->INITNM, "q 1");
+    EXPECT_EQ(document->Authors()[1], own);
+}
+
+TEST_F(frmCitationTest, TheDetailsOpenWithThePartsOfTheCitation) {
+    frmDocument& document = Open();
+    const auto look = [&](const std::string& button, const std::vector<std::string>& entered = {}) {
+        std::string shown;
+        desktop.ExpectModal("frmMakeConf", [&](ui::Form& opened) {
+            auto text = entered.begin();
+            for (const char* field : {"txtName", "txtLoc", "txtDate", "txtPages"}) {
+                if (text != entered.end()) Set(opened, field, *text++);
+                shown += opened.Find(field)->Display() + "|";
+            }
+            Click(opened, button);
+        });
+        document.txtSource.UserClick();
+        forms.DropClosed();
+        return shown;
+    };
+    const std::string source = "@Steam@, Prague, Hall 3, 12 June 2005, pp 5-9";
+    Choose(document.cboTypeDoc, "Conference proceedings");
+    look("cmdAccept", {"Steam", "Prague", "Hall 3, 12 June 2005", "5-9"});
+    EXPECT_EQ(document.Source(), source);
+    Paste(document, "TY  - CONF\nAU  - Brown, A.\nTI  - T\nT2  - Steam\nCY  - Prague, Hall 3\n"
+                    "DA  - 12 June 2005\nSP  - 5\nEP  - 9\nER  - \n");
+    for (const char* button : {"cmdAccept", "cmdCancel"}) {
+        EXPECT_EQ(document.Source(), source);
+        EXPECT_EQ(look(button), "Steam|Prague, Hall 3|12 June 2005|5-9|");
+    }
+    // What was entered for a type stays with it for this paper and not for another one.
+    for (const auto& [title, kept] : {std::pair{"T", source}, std::pair{"Other", std::string()}}) {
+        Paste(document, "TY  - JOUR\nAU  - Brown, A.\nTI  - " + std::string(title) +
+                            "\nJO  - Fuel\nVL  - 7\nSP  - 1\nER  - \n");
+        EXPECT_EQ(document.Source(), "@Fuel@ $7$, 1");
+        Choose(document.cboTypeDoc, "Conference proceedings");
+        EXPECT_EQ(document.Source(), kept);
+    }
 }
 
 TEST_F(frmCitationTest, ABrokenCitationIsToldAndChangesNothing) {
