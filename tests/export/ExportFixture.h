@@ -5,8 +5,7 @@
 #include "reference/Text.h"
 #include "shell/DocumentText.h"
 #include "support/DocumentFixture.h"
-
-#include <libxml/parser.h>
+#include "support/Xml.h"
 
 #include <algorithm>
 #include <string>
@@ -51,14 +50,6 @@ protected:
     /// The same in one line without blanks between elements, for small parts.
     static std::string Line(const std::string& xml, const std::string& element) {
         return Replace(Replace(Part(xml, element), "\n", ""), "\t", "");
-    }
-
-private:
-    static bool IsWellFormed(const std::string& text) {
-        xmlDoc* document =
-            xmlReadMemory(text.data(), static_cast<int>(text.size()), "", nullptr, XML_PARSE_NONET);
-        if (document) xmlFreeDoc(document);
-        return document != nullptr;
     }
 };
 
