@@ -22,6 +22,11 @@ bool IsUnderOneAtmosphere(const clsTwo& set) {
     return boils || HasTag(set.Header, "FP");
 }
 
+/// The tables say of each property against how many variables it may stand.
+bool HasPlace(const clsTwo& set) {
+    return !PureAvailable(set.PRPCODE, set.nVar == 1 ? "One" : "Two").empty();
+}
+
 } // namespace
 
 void clsTwo::ExportAll(XmlWriter& xml) const {
@@ -30,7 +35,7 @@ void clsTwo::ExportAll(XmlWriter& xml) const {
     if (IsWithoutNumbers(*this)) return; // named behind all others
     const std::string group = XMLPropertyGroup(PRPCODE, DataContext());
     SetRows rows(*this);
-    const std::string fault = rows.Fault(group);
+    const std::string fault = HasPlace(*this) ? rows.Fault(group) : NoPlaceInExport;
     if (!fault.empty()) return TellDataError(NameOf(*this), fault);
     xml.Open("PureOrMixtureData");
     ExportComponent(xml, *Parent->Parent, SMPNM);

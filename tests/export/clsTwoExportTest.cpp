@@ -4,8 +4,7 @@
 #include "records/DocumentCheck.h"
 #include "records/RoundTripFixture.h"
 #include "shell/ReadingPane.h"
-
-#include <libxml/parser.h>
+#include "support/Xml.h"
 
 namespace vexora {
 namespace {
@@ -18,10 +17,7 @@ protected:
         Read(test::kHead + "^A & O & & & & & " + comment + "\n" + definition + "\n" + rows +
              "^M 0\n");
         const std::string text = DocumentAsXml({2026, 5, 1});
-        xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), "export",
-                                           nullptr, XML_PARSE_NOERROR | XML_PARSE_NONET);
-        EXPECT_NE(document, nullptr) << text;
-        xmlFreeDoc(document);
+        EXPECT_TRUE(test::IsWellFormed(text)) << text;
         return text;
     }
     static std::string At(const std::string& document, const std::string& path) {
@@ -184,6 +180,11 @@ TEST_F(SetExport, CodesThatNoTableKnowsAreTold) {
     EXPECT_EQ(At(Exported("^2 1 VDN S DIR 1\tY L & DP QX S P S & & &", "^d 1 2 250 &\n"), ""), "");
     desktop.Expect(noPlace + "QQQ | Data Error!");
     EXPECT_EQ(At(Exported("^1 1 QQQ S DIR 1\tY L & FP S & & &", "^d 25 250 &\n"), ""), "");
+    // Nor does a critical temperature hang on a temperature, or a boiling point on two variables.
+    desktop.Expect(noPlace + "Critical temperature | Data Error!");
+    EXPECT_EQ(At(Exported("^1 1 TC S DIR 1\tY L & FP S & & &", "^d 25 250 &\n"), ""), "");
+    desktop.Expect(noPlace + "Boiling temperature at pressure P | Data Error!");
+    EXPECT_EQ(At(Exported("^2 1 TB S DIR 1\tY L & FP T S P S & & &", "^d 9 9 9 &\n"), ""), "");
     const std::string xml = Exported(kDensity, "^d 25 1 250 &\n", "::Method:OWNWAY:");
     EXPECT_EQ(At(xml, "//sMethodName"), "OWNWAY");
 }
