@@ -13,6 +13,9 @@
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vexora {
 
 namespace {
@@ -56,10 +59,27 @@ std::string PublicationName(std::string_view source) {
     return name.empty() ? std::string(Trim(source.substr(0, source.find(',')))) : name;
 }
 
+// What stands in front of the pages where a source text tells other things behind its last comma:
+// publisher, place or date.
+constexpr CodeText PageMarks[] = {
+    {", Pg. ", "B"}, {", pp", "M"}, {", pp", "D"}, {"", "R"}, {"", "P"}, {"", "T"}, {"", "C"},
+};
+
+/// Up to the next part of the text, which has a comma and a blank in front.
+std::string MarkedPages(std::string_view source, std::string_view mark) {
+    const std::size_t at = mark.empty() ? std::string_view::npos : source.find(mark);
+    if (at == std::string_view::npos) return {};
+    const std::string_view pages = source.substr(at + mark.size());
+    return std::string(Trim(pages.substr(0, pages.find(", "))));
+}
+
 // Behind the volume the issue stands before the comma; the pages follow it.
-std::string Pages(std::string_view source) {
+std::string Pages(std::string_view source, std::string_view type) {
     std::size_t from = source.find('$');
     if (from != std::string_view::npos) from = source.find('$', from + 1);
+    const auto* marked = std::ranges::find(PageMarks, type, &CodeText::code);
+    if (from == std::string_view::npos && marked != std::end(PageMarks))
+        return MarkedPages(source, marked->text);
     const std::size_t comma =
         from != std::string_view::npos ? source.find(',', from) : source.rfind(',');
     return comma == std::string_view::npos ? std::string()
@@ -105,7 +125,7 @@ void clsR::ExportR(XmlWriter& xml, const ui::Date& today) const {
     xml.ElementIfAny("sAbstract", AbstractText(ABSTRACT));
     ExportKeywords(xml, KEYWORDS);
     xml.ElementIfAny("sVol", Transliterate(Between(SSOURCE, '$')));
-    xml.ElementIfAny("sPage", Transliterate(Pages(SSOURCE)));
+    xml.ElementIfAny("sPage", Transliterate(Pages(SSOURCE, TYPDOC)));
     xml.Close();
 }
 

@@ -113,6 +113,26 @@ TEST_F(CitationExport, VolumeAndPagesComeFromTheTextOfTheSource) {
     EXPECT_EQ(places("Private"), "<sPubName>Private</sPubName>");
 }
 
+TEST_F(CitationExport, AWordThatIsNoPageIsNotTakenForOne) {
+    const std::string sources[][3] = {
+        {"B", "@Ice@, 2nd ed., Vol. 1, Ch. 3, Pg. 11-40, Franks, F., Ed., Plenum", "11-40"},
+        {"B", "@Ice@, Franks, F., Ed., Plenum", ""},
+        {"R", "@Release@ R6-95@ Steam Assoc., Paris", ""},
+        {"P", "US Patent 4123456, Steam & Sons, 1980-05-03", ""},
+        {"T", "Ph.D. Thesis, Univ. of Idaho, Moscow, ID", ""},
+        {"M", "@Conf.@, Prague, 2008, pp 5-9", "5-9"},
+        {"M", "@Conf.@, Prague, 2008", ""},
+        {"D", "@Deposited Document@ 1234-80 Archive, pp12", "12"},
+        {"C", "Letter to A. Compiler, Paris", ""},
+        {"S", "@J. Chem. Eng. Data@, je000490a", "je000490a"},
+        {"J", "@J. Chem.@ No. 3, 7-9", "7-9"},
+        {"M", "@J. Chem. Symp.@ $31$(2), 5-9", "5-9"}};
+    for (const auto& [type, source, pages] : sources)
+        EXPECT_EQ(Line(Citation("^J#" + type + "#O#" + source + "##\n"), "sPage"),
+                  pages.empty() ? "" : "<sPage>" + pages + "</sPage>")
+            << source;
+}
+
 TEST_F(CitationExport, TextsOfTheCitationBecomePlainAndWellFormed) {
     const std::string xml = Citation(
         "^J#J#O#S#Pruß & \"Co\" -- a|b #water; , steam;H2O#x < 1 | y > 2 µ\x01\x7F &#n##0####\n"
