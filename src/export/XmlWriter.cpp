@@ -2,6 +2,8 @@
 
 #include "reference/Text.h"
 
+#include <algorithm>
+
 namespace vexora {
 
 namespace {
@@ -26,15 +28,23 @@ bool IsXmlText(char32_t point) {
     return (point >= U' ' && point < 0x7F) || (point > 0x9F && point != 0xFFFE && point != 0xFFFF);
 }
 
-std::string Escaped(std::string_view text, bool attribute = false) {
-    std::string out;
+/// Stands in a file as it is, in a text and in an attribute.
+bool IsPlain(char c) {
+    return c >= ' ' && c < 0x7F && c != '&' && c != '<' && c != '>' && c != '"';
+}
+
+void AppendText(std::string& out, std::string_view text, bool attribute = false) {
+    // Nearly all texts are numbers and words of the schema.
+    if (std::ranges::all_of(text, IsPlain)) {
+        out += text;
+        return;
+    }
     for (std::size_t at = 0; at < text.size();) {
         char32_t point = NextCodePoint(text, at);
         // One element a line: a line break in a field becomes a blank.
         if (point == U'\t' || point == U'\n' || point == U'\r') point = U' ';
         if (IsXmlText(point)) AppendEscaped(out, point, attribute);
     }
-    return out;
 }
 
 } // namespace
@@ -45,7 +55,8 @@ void XmlWriter::Declaration() {
 }
 
 void XmlWriter::Comment(std::string_view text) {
-    std::string inside = Escaped(text);
+    std::string inside;
+    AppendText(inside, text);
     // XML forbids "--" within a comment; of "---" the first replacement leaves one more.
     while (inside.find("--") != std::string::npos)
         inside = Replace(inside, "--", "- -");
@@ -62,7 +73,9 @@ void XmlWriter::Open(std::string_view name, const std::vector<std::string>& attr
     Indent();
     text_.append("<").append(name);
     for (std::size_t i = 0; i + 1 < attributes.size(); i += 2) {
-        text_ += " " + attributes[i] + "=\"" + Escaped(attributes[i + 1], true) + "\"";
+        text_ += " " + attributes[i] + "=\"";
+        AppendText(text_, attributes[i + 1], true);
+        text_ += '"';
     }
     text_ += ">\n";
     open_.emplace_back(name);
@@ -77,7 +90,8 @@ void XmlWriter::Close() {
 
 void XmlWriter::Element(std::string_view name, std::string_view text) {
     Indent();
-    text_.append("<").append(name).append(">").append(Escaped(text));
+    text_.append("<").append(name).append(">");
+    AppendText(text_, text);
     text_.append("</").append(name).append(">\n");
 }
 

@@ -197,10 +197,13 @@ void AppendCodePoint(std::string& text, char32_t codePoint) {
 
 bool IsValidUtf8(std::string_view text) {
     for (std::size_t offset = 0; offset < text.size();) {
-        const bool ascii = static_cast<unsigned char>(text[offset]) < 0x80;
+        if (static_cast<unsigned char>(text[offset]) < 0x80) {
+            ++offset;
+            continue;
+        }
         const std::size_t start = offset;
         NextCodePoint(text, offset);
-        if (!ascii && offset == start + 1) return false;
+        if (offset == start + 1) return false;
     }
     return true;
 }

@@ -15,6 +15,10 @@ bool IsNameCharacter(char c) {
            (c >= '0' && c <= '9') || c == '_' || c == ':' || c == '-' || c == '.';
 }
 
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
 class XmlReader {
 public:
     XmlReader(std::string_view text, XmlHandler& handler) : text_(text), handler_(handler) {}
@@ -46,14 +50,17 @@ private:
     bool AtEnd() const { return at_ >= text_.size(); }
 
     bool Take(std::string_view what) {
-        if (text_.substr(std::min(at_, text_.size()), what.size()) != what) return false;
+        // The first character decides for nearly all of the places that are looked at.
+        if (AtEnd() || text_[at_] != what.front()) return false;
+        if (text_.substr(at_, what.size()) != what) return false;
         at_ += what.size();
         return true;
     }
 
     bool SkipBlanks() {
         const std::size_t before = at_;
-        at_ = std::min(text_.find_first_not_of(" \t\r\n", at_), text_.size());
+        while (!AtEnd() && IsBlank(text_[at_]))
+            ++at_;
         return at_ > before;
     }
 
@@ -162,26 +169,32 @@ private:
     void ReadContent(std::string_view name, int depth) {
         if (AtEnd()) Fail(std::string(name) + " is not closed");
         if (SkipAside()) return;
-        if (Take("<![CDATA["))
+        if (text_[at_] != '<')
+            ReadText();
+        else if (Take("<![CDATA["))
             handler_.Text(Until("]]>"));
-        else if (text_[at_] == '<')
+        else
             ReadElement(depth + 1);
-        else if (Take("&"))
+    }
+
+    void ReadText() {
+        if (Take("&"))
             handler_.Text(Reference());
         else
             ReadCharacters();
     }
 
+    /// In one walk over the characters, of which a document has many.
     void ReadCharacters() {
-        const std::size_t end = std::min(text_.find_first_of("<&\r", at_), text_.size());
-        const std::string_view part = text_.substr(at_, end - at_);
-        const auto isControl = [](char c) {
-            return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n';
-        };
-        if (std::ranges::any_of(part, isControl)) Fail("a control character");
-        if (part.find("]]>") != part.npos) Fail("]]> in a text");
-        handler_.Text(part);
-        at_ = end;
+        const std::size_t from = at_;
+        for (; !AtEnd(); ++at_) {
+            const char c = text_[at_];
+            if (c == '<' || c == '&' || c == '\r') break;
+            if (static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n')
+                Fail("a control character");
+            if (c == '>' && text_.substr(from, at_ - from).ends_with("]]")) Fail("]]> in a text");
+        }
+        handler_.Text(text_.substr(from, at_ - from));
         Take("\r"); // a line end of two characters counts as one
     }
 
