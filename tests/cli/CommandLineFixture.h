@@ -2,6 +2,7 @@
 #pragma once
 
 #include "reference/ReferenceFixture.h"
+#include "support/Xml.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -44,6 +45,7 @@ protected:
         const int status = pclose(pipe);
         outcome.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
         outcome.err = Read("stderr");
+        EXPECT_TRUE(!outcome.out.starts_with("<?xml") || IsWellFormed(outcome.out)) << arguments;
         return outcome;
     }
     std::string Read(const std::string& name) const {

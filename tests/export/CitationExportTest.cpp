@@ -135,7 +135,7 @@ TEST_F(CitationExport, AWordThatIsNoPageIsNotTakenForOne) {
 
 TEST_F(CitationExport, TextsOfTheCitationBecomePlainAndWellFormed) {
     const std::string xml = Citation(
-        "^J#J#O#S#Pruß & \"Co\" -- a|b #water; , steam;H2O#x < 1 | y > 2 µ\x01\x7F &#n##0####\n"
+        "^J#J#O#S#Pruß & \"Co\" -- a|b é<Ω #water; , steam;H2O#x < 1 | y > 2 µ\x01\x7F &#n##0####\n"
         "^I#1#mueller#a  #Müller,A.\n");
     EXPECT_EQ(Part(xml, "KVORefID"), "<KVORefID>\n"
                                      "\t<yrYrPub>2002</yrYrPub>\n"
@@ -143,7 +143,7 @@ TEST_F(CitationExport, TextsOfTheCitationBecomePlainAndWellFormed) {
                                      "\t<nAuthorn>7</nAuthorn>\n"
                                      "</KVORefID>");
     EXPECT_EQ(Line(xml, "sAuthor"), "<sAuthor>Muller,A.</sAuthor>");
-    EXPECT_EQ(Line(xml, "sTitle"), "<sTitle>Pruss &amp; \"Co\" -- a|b</sTitle>");
+    EXPECT_EQ(Line(xml, "sTitle"), "<sTitle>Pruss &amp; \"Co\" -- a|b eless thanOmega</sTitle>");
     EXPECT_EQ(Line(xml, "sAbstract"),
               "<sAbstract>x  less than  1  y  greater than  2 micro  &amp;</sAbstract>");
     EXPECT_EQ(Line(xml, "sKeyword"), "<sKeyword>water</sKeyword><sKeyword>steam</sKeyword>"
