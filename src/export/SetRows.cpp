@@ -35,6 +35,20 @@ std::string PresentationOf(const ResultDefinition& definition) {
                                    : TextOfCode(Presentations, definition.Code());
 }
 
+/// The state that results are relative to. What a comment describes has no text, and a mixture
+/// knows other states than a compound.
+std::string ReferenceState(const DataSet& set) {
+    const std::string relation = set.Definition().relation;
+    return IsOneOf(set.DataContext(), {"Bin", "Tern"}) ? TextOfCode(MixtureReferenceTexts, relation)
+                                                       : ReferenceStateText(relation);
+}
+
+bool IsKnownDefinition(const DataSet& set) {
+    const ResultDefinition definition = set.Definition();
+    if (PresentationOf(definition).empty()) return false;
+    return !definition.IsRelative() || definition.relation == "RX" || !ReferenceState(set).empty();
+}
+
 /// Reference states are kept in system units.
 void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::string& digits,
                          const std::string& typed) {
@@ -132,8 +146,7 @@ std::string SetRows::Fault(const std::string& group) const {
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;
     // Rather no values than values under a wrong meaning.
-    if (PresentationOf(set.Definition()).empty())
-        return "Unknown definition of results " + set.PROPERTY_FUNCT;
+    if (!IsKnownDefinition(set)) return "Unknown definition of results " + set.PROPERTY_FUNCT;
     // Where the molar mass follows the rows, each row is asked for its own.
     std::string fault =
         set.MolarMassFollowsRows() ? std::string() : ConversionFault(quantities[0].unit);
@@ -147,7 +160,7 @@ void SetRows::ExportDefinition(XmlWriter& xml, const std::string& temperature,
     const ResultDefinition definition = set.Definition();
     xml.Element("ePresentation", PresentationOf(definition));
     if (!definition.IsRelative()) return;
-    xml.ElementIfAny("eRefStateType", ReferenceStateText(definition.relation));
+    xml.ElementIfAny("eRefStateType", ReferenceState(set));
     // Only what the state fixes: the other reference conditions are those of each row.
     if (definition.FixesTemperature())
         ExportNumberAsTyped(xml, "nRefTemp", "nRefTempDigits", temperature);

@@ -97,9 +97,13 @@ TEST_F(SetExport, AReferenceStateComesWithItsConditions) {
     EXPECT_EQ(reference("DT"), "Difference between upper and lower temperature, X(T2)-X(T1); ; ; "
                                "; ; ; ");
     EXPECT_EQ(reference("DIR"), "Direct value, X; ; ; ; ; ; ");
-    desktop.Expect("Unknown definition of results QQ\nSystem: water\nProperty: Enthalpy | Data "
-                   "Error!");
-    EXPECT_EQ(reference("QQ"), "; ; ; ; ; ; ");
+    EXPECT_EQ(reference("RRX"), "Ratio with the reference state, X/X(REF); ; ; ; ; ; Crystal");
+    // The equilibrium with another phase is a state of mixtures.
+    for (const std::string unknown : {"QQ", "DEQ"}) {
+        desktop.Expect("Unknown definition of results " + unknown +
+                       "\nSystem: water\nProperty: Enthalpy | Data Error!");
+        EXPECT_EQ(reference(unknown), "; ; ; ; ; ; ");
+    }
 }
 
 TEST_F(SetExport, PhasesAndConstraintsFollowThePropertyAndTheComment) {
