@@ -76,8 +76,21 @@ void ReadAndWriteRows(benchmark::State& state) {
     ReadAndWrite(state, ManyRows(static_cast<int>(state.range(0))));
 }
 
+/// An export is read again before it is handed out; both belong to its time.
+void ExportValues(benchmark::State& state) {
+    Room room;
+    if (!room.Read(ManyValues(static_cast<int>(state.range(0))))) state.SkipWithError("not read");
+    std::size_t written = 0;
+    for (auto _ : state)
+        written = DocumentAsXml({2026, 1, 15}).size();
+    state.SetComplexityN(state.range(0));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(written));
+}
+
 BENCHMARK(ReadAndWriteValues)->Arg(5000)->Arg(50000)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadAndWriteRows)->Arg(10000)->Arg(100000)->Complexity()->Unit(benchmark::kMillisecond);
+
+BENCHMARK(ExportValues)->Arg(5000)->Arg(50000)->Complexity()->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace vexora
