@@ -45,22 +45,19 @@ struct Product {
 /// Works on a document that has been read; the answer is an exit code.
 using Command = int(OpenedDocument& document, Product& product);
 
-void TellLinesNotKept(OpenedDocument& document) {
-    const int count = document.LinesNotKept();
-    if (count == 0) return;
-    document.Tell(0, false,
-                  std::to_string(count) + (count == 1 ? " line holds" : " lines hold") +
-                      " data of kinds that this edition does not keep");
+bool IsHint(const Diagnostic& finding) {
+    return finding.severity == Severity::Hint;
+}
+
+/// Hints are no reason to mend a document.
+int ExitCodeOf(const std::vector<Diagnostic>& findings) {
+    return std::ranges::all_of(findings, IsHint) ? kExitClean : kExitFindings;
 }
 
 int Check(OpenedDocument& document, Product&) {
-    TellLinesNotKept(document);
-    for (const LineLost& lost : document.LinesLost())
-        document.Tell(lost.line, false, lost.text);
-    for (const DocumentFinding& finding : CheckDocument()) {
-        document.Tell(finding.line, finding.isError, finding.text);
-    }
-    return document.Findings().empty() ? kExitClean : kExitFindings;
+    for (const DocumentFinding& finding : CheckDocument(document.LinesPassedOver()))
+        document.Tell(finding.line, finding.severity, finding.text);
+    return ExitCodeOf(document.Findings());
 }
 
 int Tree(OpenedDocument& document, Product& product) {
@@ -72,14 +69,17 @@ int Tree(OpenedDocument& document, Product& product) {
 int Export(OpenedDocument& document, Product& product) {
     product.name = "xml";
     if (document.Files().Resolve(product.file) == document.Files().Resolve(document.Path())) {
-        document.Tell(0, true, "the export cannot take the place of the record file itself");
+        document.Tell(0, Severity::Error,
+                      "the export cannot take the place of the record file itself");
         return kExitCannotWrite;
     }
-    TellLinesNotKept(document);
+    if (const auto text = NotKeptText(document.LinesPassedOver()); !text.empty())
+        document.Tell(0, Severity::Warning, text);
     ExportedDocument exported = DocumentForExport(ui::TheDesktop().Today(), product.readers);
     for (const ExportFinding& finding : exported.findings) {
         const Record* record = finding.record;
-        document.Tell(record ? record->Line : 0, finding.isError,
+        document.Tell(record ? record->Line : 0,
+                      finding.isError ? Severity::Error : Severity::Warning,
                       (record ? record->ShowKey() + ": " : "") + finding.text);
     }
     product.text = std::move(exported.xml);
@@ -93,7 +93,7 @@ void PrintJson(const OpenedDocument& document, int exitCode, const Product& prod
     const char* before = "";
     for (const Diagnostic& finding : document.Findings()) {
         std::cout << std::exchange(before, ", ") << "{\"line\": " << finding.line
-                  << ", \"severity\": \"" << (finding.isError ? "error" : "warning")
+                  << ", \"severity\": \"" << SeverityWord(finding.severity)
                   << "\", \"text\": " << JsonText(finding.text) << '}';
     }
     std::cout << ']';
@@ -144,7 +144,7 @@ private:
         const SaveOutcome outcome =
             WriteSafely(document_.Files(), product.file, product.text, false);
         if (outcome.fault.empty()) return exitCode;
-        document_.Tell(0, !outcome.isSaved,
+        document_.Tell(0, outcome.isSaved ? Severity::Warning : Severity::Error,
                        product.file + (outcome.isSaved ? ": saved, but " : ": ") + outcome.fault);
         return outcome.isSaved ? std::max<int>(exitCode, kExitFindings) : kExitCannotWrite;
     }
@@ -205,7 +205,10 @@ void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode)
                   "For readers that go by the name space and by structures alone");
     xml->add_option("--out", arguments->out,
                     "Folder for the exports; without it one document goes to standard output");
-    add("check", "Tell what is wrong or doubtful in documents", Many, Check);
+    add("check",
+        "Tell what is wrong, doubtful or missing in documents; ends with 1 for errors and "
+        "warnings, and with 0 for hints alone",
+        Many, Check);
     add("tree", "Print the trees of documents", Many, Tree);
 }
 

@@ -13,18 +13,18 @@ namespace vexora {
 
 OpenedDocument::OpenedDocument(bool withTree, bool isQuiet)
     : isQuiet_(isQuiet), desktop_([this](const ui::Message& message) {
-          Tell(globals_.LineInHand, false, message.text);
+          Tell(globals_.LineInHand, Severity::Warning, message.text);
       }),
       forms_(desktop_) {
     if (withTree) globals_.tvwTree = &form_.tvwTree;
 }
 
-void OpenedDocument::Tell(int line, bool isError, const std::string& text) {
-    findings_.push_back({line, isError, Replace(text, "\n", " ")});
+void OpenedDocument::Tell(int line, Severity severity, const std::string& text) {
+    findings_.push_back({line, severity, Replace(text, "\n", " ")});
     if (isQuiet_) return;
     std::cerr << path_;
     if (line > 0) std::cerr << ':' << line;
-    std::cerr << (isError ? ": error: " : ": warning: ") << findings_.back().text << '\n';
+    std::cerr << ": " << SeverityWord(severity) << ": " << findings_.back().text << '\n';
 }
 
 int OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
@@ -43,8 +43,7 @@ int OpenedDocument::OpenDatabases(const std::optional<std::string>& home,
 
 void OpenedDocument::Forget() {
     findings_.clear();
-    linesNotKept_ = 0;
-    linesLost_.clear();
+    passedOver_ = {};
     globals_.ForgetCurrent();
     globals_.recR.Clear();
     form_.tvwTree.Clear();
@@ -56,20 +55,19 @@ int OpenedDocument::Read(const std::string& path) {
     std::string error;
     const std::optional<std::string> text = Files().Read(path, error);
     if (!text) {
-        Tell(0, true, error);
+        Tell(0, Severity::Error, error);
         return kExitUnreadable;
     }
     ReadResult result = ReadDocument(*text, ReadPurpose::Look);
     if (!result.whole) {
-        Tell(result.faultLine, true, "the document was not read: " + result.fault);
+        Tell(result.faultLine, Severity::Error, "the document was not read: " + result.fault);
         return kExitUnreadable;
     }
     if (globals_.recR.IsEmpty()) {
-        Tell(0, true, "this is no record file: it holds no source");
+        Tell(0, Severity::Error, "this is no record file: it holds no source");
         return kExitUnreadable;
     }
-    linesNotKept_ = result.linesNotKept;
-    linesLost_ = std::move(result.lost);
+    passedOver_ = {result.linesNotKept, std::move(result.lost)};
     return kExitClean;
 }
 

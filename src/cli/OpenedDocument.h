@@ -6,7 +6,7 @@
 
 #include "cli/QuietDesktop.h"
 #include "globals/KVOGlobal.h"
-#include "records/Notice.h"
+#include "records/DocumentCheck.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -14,7 +14,7 @@ namespace vexora {
 /// What there is to say about a document; line 0 for no line of the file.
 struct Diagnostic {
     int line = 0;
-    bool isError = false;
+    Severity severity = Severity::Warning;
     std::string text;
 };
 
@@ -23,7 +23,7 @@ struct Diagnostic {
 class OpenedDocument {
 public:
     /// The tree takes as much memory as the records, so it is made only when it is asked for.
-    /// Diagnostics are written at once, as lines "file:line: error|warning: text" on standard
+    /// Diagnostics are written at once, as lines "file:line: error|warning|hint: text" on standard
     /// error, unless they are to be collected only.
     explicit OpenedDocument(bool withTree, bool isQuiet = false);
 
@@ -37,12 +37,12 @@ public:
     int Open(const std::string& path, const std::optional<std::string>& home,
              const std::string& argv0);
 
-    void Tell(int line, bool isError, const std::string& text);
+    void Tell(int line, Severity severity, const std::string& text);
     /// What was told of the document.
     const std::vector<Diagnostic>& Findings() const { return findings_; }
     const std::string& Path() const { return path_; }
-    int LinesNotKept() const { return linesNotKept_; }
-    const std::vector<LineLost>& LinesLost() const { return linesLost_; }
+    /// What of the file the document does not hold.
+    const PassedOver& LinesPassedOver() const { return passedOver_; }
     ui::TreeView& Tree() { return form_.tvwTree; }
     ui::FileSystem& Files() { return desktop_.Files(); }
 
@@ -57,8 +57,7 @@ private:
     std::string path_;
     bool isQuiet_;
     std::vector<Diagnostic> findings_;
-    int linesNotKept_ = 0;
-    std::vector<LineLost> linesLost_;
+    PassedOver passedOver_;
     QuietDesktop desktop_;
     ui::Forms forms_;
     TreeForm form_;

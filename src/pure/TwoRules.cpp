@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/StateRules.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
@@ -9,19 +10,6 @@
 namespace vexora {
 
 namespace {
-
-bool IsTemperature(std::string_view property) {
-    return IsOneOf(property, {"T", "TB", "TF", "TG", "TTR", "TDC"});
-}
-
-bool IsPressure(std::string_view property) {
-    return IsOneOf(property, {"P", "PV"});
-}
-
-/// The variable without which a spectral property says nothing.
-std::string_view SpectralVariable(std::string_view property) {
-    return property == "RPX" ? "WF" : property == "RIX" ? "WL" : "";
-}
 
 bool IsBoundary(const TwoDraft& draft) {
     return draft.constraint == "PB";

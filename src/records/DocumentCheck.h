@@ -1,23 +1,46 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "records/Notice.h"
 
 namespace vexora {
 
-class clsZ;
+class Record;
+
+/// What cannot be true or cannot be used, what is doubtful or will be asked about, and what a
+/// careful reader would still like to know.
+enum class Severity { Error, Warning, Hint };
+/// "error", "warning" or "hint".
+std::string_view SeverityWord(Severity severity);
 
 /// Something about the open document that a careful reader would question.
 struct DocumentFinding {
-    int line = 0;         // of the file that was read, 0 for a record made since
-    bool isError = false; // false: a warning
+    int line = 0; // of the file that was read, 0 for a record made since
+    Severity severity = Severity::Warning;
     std::string text;
+    /// What it is about, as long as the document is open; of a line that was passed over the record
+    /// that stands in front of it. Null in an empty document.
+    const Record* record = nullptr;
 };
 
-/// Goes through the open document without asking or changing anything: identity of the source,
-/// compounds that would not be saved, descriptions that cannot be taken apart, codes that the
-/// tables do not hold, numbers that are none, values that are impossible or suspicious. What is
-/// said of the rows of a set names the first of them.
-std::vector<DocumentFinding> CheckDocument();
+/// What the file of the document holds beyond the document, as its reading told.
+struct PassedOver {
+    int linesNotKept = 0; // of kinds of data that this edition reads over
+    std::vector<LineLost> lost;
+};
+
+/// A word on the lines of unknown kinds; empty when there are none.
+std::string NotKeptText(const PassedOver& passedOver);
+
+/// Goes through the open document without asking or changing anything: lines that were passed over,
+/// gaps in the citation, what a save would drop or ask about, descriptions that cannot be taken
+/// apart, codes that the tables do not hold, numbers that are none, values that are impossible or
+/// suspicious, states and uncertainties that nobody stated, points that stand twice. What is said
+/// of the rows of a set names the first of them. In the order of the record file, what was passed
+/// over first.
+std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver = {});
 
 } // namespace vexora

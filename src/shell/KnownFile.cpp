@@ -21,6 +21,7 @@ std::uint64_t Checksum(std::string_view bytes) {
 } // namespace
 
 void KnownFile::Note(std::string path, std::string_view content) {
+    Lines = {};
     path_ = std::move(path);
     size_ = content.size();
     checksum_ = Checksum(content);

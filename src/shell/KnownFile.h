@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "records/DocumentCheck.h"
+
 namespace vexora {
 
 namespace ui {
@@ -15,6 +17,9 @@ class FileSystem;
 /// another program has put something else there since.
 class KnownFile {
 public:
+    /// What stands in it and not in the document. Nothing, as soon as something is noted.
+    PassedOver Lines;
+
     /// path is full; content is that of the file, byte by byte.
     void Note(std::string path, std::string_view content);
     void Forget() { *this = KnownFile(); }

@@ -5,6 +5,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
+#include "records/StatedUncertainty.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
@@ -154,7 +155,7 @@ std::string ReadingOf(const clsZ& value) {
     page.Line("Comment:", CommentTags(value.Header.DATACOMMENT).Text());
     page.Line("Set:", value.PRPSETNO);
     page.Line("Entered:", value.Header.DATEADDED);
-    page.Need(UncertaintyText(value).empty(), "A statement of uncertainty");
+    page.Need(!StatesUncertainty(value), "A statement of uncertainty");
     return page.Html();
 }
 

@@ -4,6 +4,7 @@
 #include "entry/EntryForms.h"
 #include "plot/PlotForms.h"
 #include "pure/PureForms.h"
+#include "shell/frmCheck.h"
 #include "shell/frmConfigure.h"
 #include "shell/frmMain.h"
 #include "sources/SourceForms.h"
@@ -14,6 +15,7 @@ namespace vexora {
 void RegisterForms(ui::Forms& forms) {
     forms.Register<frmMain>("frmMain");
     forms.Register<frmConfigure>("frmConfigure");
+    forms.Register<frmCheck>("frmCheck");
     RegisterSourceForms(forms);
     RegisterCompoundForms(forms);
     RegisterEntryForms(forms);

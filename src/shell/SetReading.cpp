@@ -3,6 +3,8 @@
 #include "chem/CommentTags.h"
 #include "records/Presentation.h"
 #include "records/PropertyLabels.h"
+#include "records/StateRules.h"
+#include "records/StatedUncertainty.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
@@ -77,14 +79,6 @@ std::string DefinitionText(const DataSet& set) {
     return relation.empty() ? code : relation + "; " + reference;
 }
 
-bool StatesUncertainty(const DataSet& set) {
-    const clsX& property = set.UX[0];
-    if (property.iDS || property.iRep || property.iUnc || property.iCU) return true;
-    return std::any_of(set.recData.begin(), set.recData.end(), [](const clsData& row) {
-        return !IsBlankField(row.PRPUNCERTY) || row.Extras != nullptr;
-    });
-}
-
 void DescribeRows(ReadingPage& page, const DataSet& set) {
     for (int n = 1; n <= set.nVar; ++n) {
         const std::string name = VariableName(set.VARIABLE(n), set.DataContext());
@@ -147,7 +141,8 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("Set:", set.PRPSETNO);
     page.Line("Entered:", set.Header.DATEADDED);
     page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");
-    page.Need(set.LacksPressure(), "The pressure");
+    for (const std::string& unstated : UnstatedOf(set))
+        page.Need(true, "The " + unstated);
     page.Need(!StatesUncertainty(set), "A statement of uncertainty");
     return page.Html();
 }

@@ -68,6 +68,7 @@ void frmMain::WireMenus() {
     mnuNewLike.OnClick = [this] { mnuNewLike_Click(); };
     mnuDelete.OnClick = [this] { mnuDelete_Click(); };
     mnuUndoDelete.OnClick = [this] { mnuUndoDelete_Click(); };
+    mnuCheck.OnClick = [this] { mnuCheck_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
     mnuToolsTables.OnClick = [] { ui::Forms::Current().Get("frmTables").ShowModal(); };
     const std::pair<ui::MenuItem*, int> pages[] = {

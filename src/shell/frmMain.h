@@ -43,6 +43,7 @@ public:
     ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
     ui::MenuItem mnuToolsTables{*this, "mnuToolsTables", "&Add to the compound tables...",
                                 &mnuTools};
+    ui::MenuItem mnuCheck{*this, "mnuCheck", "Check the document", &mnuTools, "F7"};
     ui::MenuItem mnuDetect{*this, "mnuDetect", "Detect Hidden Properties", &mnuTools};
     ui::MenuItem mnuMerge{*this, "mnuMerge", "Merge/Rearrange sets", &mnuTools};
     ui::MenuItem mnuInvert{*this, "mnuInvert", "Invert binary LLE", &mnuTools};
@@ -154,6 +155,9 @@ private:
     bool HasMouseSelection();
     void mnuNewLike_Click();
     bool MayRepeat() const;
+
+    // frmMain_check.cpp
+    void mnuCheck_Click();
 
     // frmMain_delete.cpp
     void mnuDelete_Click();

@@ -198,6 +198,7 @@ bool frmMain::TakeFile(const std::string& path) {
     SettleAside();
     if (isEmpty) return false;
     known_.Note(path, *text);
+    known_.Lines = {result.linesNotKept, result.lost};
     if (result.linesNotKept > 0) globals.ReadOnly = globals.Saved = true;
     const Notice notice = NoticeOfReading(result);
     if (!notice.text.empty()) ui::Say(notice.text, notice.title);

@@ -124,6 +124,7 @@ void frmMain::SetLocked(bool locked) {
     if (!locked) {
         mnuNewLike.Enabled(MayRepeat());
         mnuUndoDelete.Enabled(deleted_ != nullptr);
+        mnuCheck.Enabled(!Globals().recR.IsEmpty());
     }
     RefreshTexts();
 }

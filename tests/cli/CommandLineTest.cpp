@@ -92,8 +92,20 @@ TEST_F(CommandLine, CheckTellsEveryFindingWithItsLine) {
     EXPECT_EQ(Run("check water.txt").err, "");
     EXPECT_EQ(Run("check water.txt").code, 0);
     const auto value = [](const std::string& fields) {
-        return "^A & O & & AB CD & &\n" + fields + " & & &\n";
+        return "^A & O & & AB CD & &\n" + fields + " & 1 &\n";
     };
+    const std::string hints = "^A & O & & AB CD & &\n^z 1 TC S 1 L G & 647 & & &\n^S 2 cm;;\n"
+                              "^A & O & & AB CD & &\n^z 2 TC S 1 L G & 647 & & &\n";
+    folder.Write("hints.txt", kHead + hints);
+    EXPECT_EQ(Run("check hints.txt").code, 0);
+    EXPECT_EQ(Run("check hints.txt").err,
+              "hints.txt:7: hint: Critical temperature: no uncertainty is stated\n"
+              "hints.txt:8: hint: Sample 2 (cm;;): no purity is stated\n"
+              "hints.txt:10: hint: Critical temperature: no uncertainty is stated\n");
+    EXPECT_NE(Run("check --format jsonl hints.txt")
+                  .out.find("\"exit\": 0, \"findings\": [{\"line\": "
+                            "7, \"severity\": \"hint\""),
+              std::string::npos);
     folder.Write("doc.txt",
                  kHead + value("^z 1 TC S 1 L G & 2000") + value("^z 1 TC S 2 L G & -1") +
                      value("^z 1 PC nounit 1 L G & 22") + value("^z 1 PC * 2 L G & 22") +

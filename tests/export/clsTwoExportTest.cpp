@@ -199,10 +199,11 @@ TEST_F(SetExport, SetsAreCheckedAndReadInWords) {
     std::string found;
     for (const DocumentFinding& finding : CheckDocument())
         if (finding.text.starts_with("Density"))
-            found += std::to_string(finding.line) + (finding.isError ? " E " : " W ") +
-                     finding.text + "\n";
-    EXPECT_EQ(found, "7 E Density: row 2: value -1 is not valid\n"
-                     "7 E Density, pressure: row 3: this is no number: x (and 1 more)\n");
+            found += std::to_string(finding.line) + " " +
+                     std::string(SeverityWord(finding.severity)) + " " + finding.text + "\n";
+    EXPECT_EQ(found, "7 hint Density: no uncertainty is stated\n"
+                     "7 error Density: row 2: value -1 is not valid\n"
+                     "7 error Density, pressure: row 3: this is no number: x (and 1 more)\n");
     const std::string page = ReadingHtml(&Set());
     for (const char* line :
          {"<h3>Density</h3>", "<p><b>Against temperature:</b> 10 to 40 C</p>",

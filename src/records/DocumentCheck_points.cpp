@@ -1,0 +1,116 @@
+#include "records/RecordChecks.h"
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <unordered_map>
+
+#include "reference/KVODefinitions.h"
+#include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
+
+namespace vexora {
+
+namespace {
+
+/// A number as a key: what differs only by the rounding of a conversion is equal.
+std::string KeyOfNumber(double value) {
+    constexpr int bits = 36; // some ten digits
+    int exponent = 0;
+    const double rounded = std::round(std::ldexp(std::frexp(value, &exponent), bits));
+    const double whole = rounded == 0 ? 0 : std::ldexp(rounded, exponent);
+    const auto bytes = std::bit_cast<std::array<char, sizeof whole>>(whole);
+    return {bytes.begin(), bytes.end()};
+}
+
+/// The points of a set as texts that are equal when the points are: the value, and each quantity of
+/// the state by its code, one that is constant among them.
+class PointKeys {
+public:
+    explicit PointKeys(const DataSet& set) : value_(set, 0) {
+        for (const QuantityText& quantity : StateVariables) {
+            const std::string constant = set.ConstantOf(quantity.code);
+            if (IsNumeric(constant))
+                state_[std::string(quantity.code)].constant = KeyOfNumber(Val(constant));
+        }
+        for (int n = 1; n <= set.nVar; ++n)
+            state_[set.VARIABLE(n)].variable.emplace(set, n);
+    }
+    /// Empty for a row with a value that is no number or cannot be converted.
+    std::string Of(const clsData& row) const {
+        std::string key = KeyOf(value_, row);
+        for (const auto& [code, coordinate] : state_) {
+            const std::string one =
+                coordinate.variable ? KeyOf(*coordinate.variable, row) : coordinate.constant;
+            if (key.empty() || one.empty()) return {};
+            key += code + "=" + one;
+        }
+        return key;
+    }
+
+private:
+    struct Coordinate {
+        std::string constant;
+        std::optional<SystemColumn> variable;
+    };
+    static std::string KeyOf(const SystemColumn& column, const clsData& row) {
+        const std::optional<double> value = column.Of(row);
+        return value && column.Converts(row) ? KeyOfNumber(*value) : std::string();
+    }
+
+    SystemColumn value_;
+    std::map<std::string, Coordinate> state_;
+};
+
+struct Place {
+    const DataSet* set;
+    std::size_t row;
+};
+using Points = std::unordered_map<std::string, Place>;
+
+/// What two points have in common before they are compared.
+std::string KindOf(const DataSet& set) {
+    std::string kind = set.PRPCODE + "\n" + set.PROPERTY_FUNCT;
+    for (const std::string& phase : set.Phases())
+        kind += "\n" + phase;
+    return kind;
+}
+
+void CheckSetAmong(const DataSet& set, Points& known, Findings& findings) {
+    const PointKeys keys(set);
+    RowTally repeated;
+    std::size_t row = 0;
+    for (const clsData& data : set.recData) {
+        ++row;
+        std::string key = keys.Of(data);
+        if (key.empty()) continue;
+        const auto [entry, isFirst] = known.try_emplace(std::move(key), Place{&set, row});
+        const Place& place = entry->second;
+        if (!isFirst && place.set != &set)
+            repeated.Add(row, "this point stands in row " + std::to_string(place.row) + " of set " +
+                                  place.set->PRPSETNO + " too");
+    }
+    if (!repeated.IsEmpty())
+        Remarks(findings, set)
+            .Warn(PropertyName(set.PRPCODE, set.DataContext()) + ": " + repeated.Text());
+}
+
+} // namespace
+
+void CheckEqualPoints(const Record& owner, Findings& findings) {
+    std::map<std::string, std::vector<const DataSet*>> kinds;
+    owner.EachChild([&kinds](Record& child) {
+        if (const auto* set = dynamic_cast<const DataSet*>(&child))
+            kinds[KindOf(*set)].push_back(set);
+    });
+    for (const auto& [kind, sets] : kinds) {
+        if (sets.size() < 2) continue; // nothing to compare
+        Points known;
+        for (const DataSet* set : sets)
+            CheckSetAmong(*set, known, findings);
+    }
+}
+
+} // namespace vexora

@@ -1,0 +1,105 @@
+#include "records/DocumentCheck.h"
+
+#include "records/RoundTripFixture.h"
+#include "reference/Text.h"
+
+#include <fstream>
+#include <utility>
+
+namespace vexora::test {
+
+class DocumentCheckTest : public RoundTripFixture {
+protected:
+    static std::string Shipped(const std::string& path) {
+        std::ostringstream text;
+        text << std::ifstream(VEXORA_SOURCE_DIR "/" + path, std::ios::binary).rdbuf();
+        return text.str();
+    }
+    /// The findings, a line each; every one belongs to a record that stands in the tree.
+    std::string Found(const std::string& document) {
+        Read(document);
+        std::string found;
+        for (const DocumentFinding& finding : CheckDocument({0, lost})) {
+            EXPECT_TRUE(finding.record && finding.record->tNode) << finding.text;
+            found += std::to_string(finding.line) + " " +
+                     std::string(SeverityWord(finding.severity)) + ": " + finding.text + "\n";
+        }
+        return found;
+    }
+    /// What is found in the rows of two sets of densities in one document, and in nothing else.
+    std::string FoundIn(const std::string& sets) {
+        std::string told;
+        for (const std::string& line : Split(Found(kHead + sets), '\n'))
+            if (line.find(": Density: ") != line.npos)
+                told += line.substr(line.find(": Density: ") + 11) + "|";
+        return told;
+    }
+};
+
+TEST_F(DocumentCheckTest, FifteenSeededFaultsAreFifteenLines) {
+    EXPECT_EQ(Found(Shipped("tests/records/fifteen_faults.txt")),
+              "14 warning: sample 1 is described before, as cm;;\n"
+              "41 warning: Compound Heavy Water stands twice: 7789200 and 1003\n"
+              "2 warning: The source has no title\n"
+              "2 hint: The journal is in no table: J. Nowhere\n"
+              "2 hint: The citation names no volume\n"
+              "2 hint: The citation names no pages\n"
+              "2 warning: The source does not say where it was taken from: saving will ask for it\n"
+              "5 warning: Compound benzene has no sample and will not be saved\n"
+              "7 hint: Sample 1 (cm;;): no purity is stated\n"
+              "23 warning: Density: row 2: this point stands in row 2 of set 1 too (and 1 more)\n"
+              "9 hint: Critical temperature: no uncertainty is stated\n"
+              "11 warning: Critical temperature: value 2000 is suspicious\n"
+              "13 error: Unknown phase Q9\n"
+              "30 warning: Density: no pressure is stated\n"
+              "35 warning: Vapor or sublimation pressure: the data set has no rows\n");
+}
+
+TEST_F(DocumentCheckTest, TheExampleLacksUncertaintiesAndIsBeyondSomeSoftLimits) {
+    EXPECT_EQ(Found(Shipped("examples/water/2002wagpru1.txt")),
+              "9 hint: Critical temperature: no uncertainty is stated\n"
+              "12 warning: Critical pressure: value 22064 is suspicious\n"
+              "12 hint: Critical pressure: no uncertainty is stated\n"
+              "15 hint: Critical density: no uncertainty is stated\n"
+              "18 hint: Vapor or sublimation pressure: no uncertainty is stated\n"
+              "18 warning: Vapor or sublimation pressure: row 3: value 16908.2693 is suspicious\n");
+}
+
+TEST_F(DocumentCheckTest, PointsAreEqualAtOneStateWithOneValueInAnyUnits) {
+    const auto set = [](const std::string& number, const std::string& rest) {
+        return "^A & O C & AB CD 1/15/2026 ::P = 100:\n^1 1 VDN S DIR " + number + "\tY " + rest +
+               "\n^M 0\n";
+    };
+    const std::string statement = "\n^X 0 VDN L - & & & - & & & + 95 1 - & & - & & &";
+    const std::string first = set("1", "L & FP S & & &" + statement + "\n^d 300 996.5 &");
+    const std::string row1 = "row 1: this point stands in row 1 of set 1 too|";
+    const std::pair<std::string, std::string> cases[] = {
+        {"L & FP S & & &" + statement + "\n^d 300.0 996.50 &", row1},
+        {"L & FP C & & &" + statement + "\n^d 26.85 996.5 &\n^d 27 996.5 &", row1},
+        {"L & FP S & & &" + statement + "\n^d 300 996.6 &", ""},
+        {"L & FP S & & &" + statement + "\n^d 300 x &", "row 1: this is no number: x|"},
+        {"G & FP S & & &" + statement + "\n^d 300 996.5 &", ""},
+        {"L & FP nounit & & &" + statement + "\n^d 300 996.5 &", ""},
+    };
+    for (const auto& [second, told] : cases)
+        EXPECT_EQ(FoundIn(first + set("2", second)), told) << second;
+    EXPECT_EQ(FoundIn(set("1", "L & FP S & & &" + statement + "\n^d 300 9 &\n^d 300 9 &")), "")
+        << "rows of one set are the business of its table";
+}
+
+TEST_F(DocumentCheckTest, WhatNothingStatesOfAStateIsNamed) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"^A & O C & & & & ::P = 100:\n^1 1 VDN S DIR 1\tN L & FP S & & &\n", ""},
+        {"^A & O C & & & & &\n^1 1 VDN S DIR 1\tN L & FT S & & &\n", "no temperature is stated|"},
+        {"^A & O C & & & & ::T = 300:\n^1 1 VDN S DIR 1\tN L & FT S & & &\n", ""},
+        {"^A & O C & & & & &\n^1 1 VDN S DIR 1\tN L G PB S & & &\n", ""},
+        {"^A & O C & & & & ::P = 100:\n^1 1 VDN S DFR 1\tN L & FP S & 100 &\n",
+         "no reference temperature is stated|no reference phase is stated|"},
+        {"^A & O C & & & & ::P = 100:\n^1 1 VDN S MN 1\tN L & FP S & & &\n",
+         "no upper temperature is stated|no lower temperature is stated|"},
+    };
+    for (const auto& [set, told] : cases)
+        EXPECT_EQ(FoundIn(set + "^M 0\n"), told) << set;
+}
+
+} // namespace vexora::test
