@@ -45,11 +45,12 @@ const ui::TreeNode* NodeOf(const DocumentFinding* finding) {
 
 frmCheck::frmCheck() : Form("frmCheck", "Check the document") {
     Arrangement = ui::Column({ui::Field("Found:", lblCounts), lstFindings,
-                              ui::Field("Node:", lblNode), ui::ButtonRow({cmdGo, cmdClose})});
+                              ui::Field("Node:", txtNode), ui::ButtonRow({cmdGo, cmdClose})});
     UseButtons(cmdGo, cmdClose, [this] { cmdGo_Click(); });
     PreferredColumns = 110;
     PreferredRows = 26;
     HelpContext = 150;
+    txtNode.Locked(true);
     lstFindings.OnClick = [this] { lstFindings_Click(); };
     lstFindings.OnDoubleClick = [this] { cmdGo_Click(); };
 }
@@ -77,7 +78,7 @@ const DocumentFinding* frmCheck::Chosen() const {
 
 void frmCheck::lstFindings_Click() {
     const ui::TreeNode* node = NodeOf(Chosen());
-    lblNode.Caption(PathOf(node));
+    txtNode.Text(PathOf(node));
     cmdGo.Enabled(node != nullptr);
 }
 

@@ -18,7 +18,7 @@ public:
 
     ui::Label lblCounts{*this, "lblCounts"};
     ui::ListBox lstFindings{*this, "lstFindings"};
-    ui::Label lblNode{*this, "lblNode"};
+    ui::TextBox txtNode{*this, "txtNode"};
     ui::CommandButton cmdGo{*this, "cmdGo", "&Go to the node"};
     ui::CommandButton cmdClose{*this, "cmdClose", "Close"};
 
