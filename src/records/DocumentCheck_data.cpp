@@ -128,7 +128,7 @@ void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
 SystemColumn::SystemColumn(const DataSet& set, int n)
     : set_(set), n_(static_cast<std::size_t>(n)),
       byRow_(n == 0 && set.MolarMassFollowsRows() && set.NeedsMolarMass()),
-      ofSet_(set.Conversion(n)) {}
+      ofSet_(set.Conversion(n)), converts_(byRow_ || ofSet_.IsPossible()) {}
 
 std::optional<double> SystemColumn::Of(const clsData& row) const {
     const std::string_view typed = TextOf(row);

@@ -45,7 +45,9 @@ public:
             const std::string one =
                 coordinate.variable ? KeyOf(*coordinate.variable, row) : coordinate.constant;
             if (key.empty() || one.empty()) return {};
-            key += code + "=" + one;
+            key += code;
+            key += '=';
+            key += one;
         }
         return key;
     }

@@ -73,6 +73,9 @@ bool IsKnownJournal(const std::string& name) {
 
 /// What a reader needs to find the article again. A manuscript ("S") has no volume and pages yet.
 void CheckArticle(const clsR& source, Remarks& remarks) {
+    // As older files have it: the export takes what stands in front of the first comma.
+    if (!IsBlankField(source.SSOURCE) && source.SSOURCE.find('@') == std::string::npos)
+        return remarks.Hint("The parts of the citation cannot be told apart: " + source.SSOURCE);
     const std::string journal = PublicationName(source.SSOURCE);
     if (journal.empty()) return remarks.Warn("The citation names no journal");
     if (!IsKnownJournal(journal)) remarks.Hint("The journal is in no table: " + journal);

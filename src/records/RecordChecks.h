@@ -64,9 +64,7 @@ public:
     SystemColumn(const DataSet& set, int n);
     std::string_view TextOf(const clsData& row) const { return row.Values[n_]; }
     /// False for a row in a unit that nothing converts.
-    bool Converts(const clsData& row) const {
-        return byRow_ || !row.inOriginalUnits || ofSet_.IsPossible();
-    }
+    bool Converts(const clsData& row) const { return converts_ || !row.inOriginalUnits; }
     /// Nothing for a text that is no number.
     std::optional<double> Of(const clsData& row) const;
 
@@ -75,6 +73,7 @@ private:
     std::size_t n_;
     bool byRow_;
     UnitConversion ofSet_;
+    bool converts_; // asked once, for it looks into the tables
 };
 
 void CheckSource(const clsR& source, Findings& findings);

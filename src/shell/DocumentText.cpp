@@ -39,7 +39,7 @@ std::string LinesInBrief(const std::vector<LineLost>& lost) {
     }
     if (lost.size() > most)
         text += "\nand " + std::to_string(lost.size() - most) +
-                " more: the command \"vexora-cli check\" names all of them.";
+                " more: \"Check the document\" in the Tools menu names all of them.";
     return text;
 }
 

@@ -65,6 +65,34 @@ TEST_F(DocumentCheckTest, TheExampleLacksUncertaintiesAndIsBeyondSomeSoftLimits)
               "18 warning: Vapor or sublimation pressure: row 3: value 16908.2693 is suspicious\n");
 }
 
+TEST_F(DocumentCheckTest, GapsOfACitationAreThoseOfItsKindOfDocument) {
+    const std::string rest = "T##A##S#0####\n^I#1#wagner#w  #Wagner, W.\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"^J#J#O#@j.chem. thermodyn@ $7$(2), 1-2#" + rest, ""},
+        {"^J#J#O#@J. Chem. Thermodyn.@ No. 2, 1-2#" + rest, "hint: The citation names no volume|"},
+        {"^J#J#O#@J. Chem. Thermodyn.@ $7$#" + rest, "hint: The citation names no pages|"},
+        {"^J#J#O#J. Old 2002, 31, 3#" + rest,
+         "hint: The parts of the citation cannot be told apart: J. Old 2002, 31, 3|"},
+        {"^J#J#O##" + rest, "warning: The citation names no journal|"},
+        {"^J#S#O#@J. Chem. Thermodyn.@#" + rest, ""},
+        {"^J#B#O#@A book@#" + rest, ""},
+        {"^J#B#O##T##A##S#0####\n",
+         "warning: The source has no authors|warning: The source has no citation|"},
+        {"", ""}, // the reference database has it
+    };
+    int year = 2001; // each is a source of its own, for the database remembers them
+    for (const auto& [description, told] : cases) {
+        std::string found;
+        for (const std::string& line :
+             Split(Found("^R " + std::to_string(++year) + " wag pru 2\n" + description +
+                         "^L 7732185 DNNNN S\n^S 1 cm;;99m%,gc\n^A & O & & & & & &\n"
+                         "^z 1 TC S 1 L G & 647 & 1 &\n"),
+                   '\n'))
+            if (!line.empty()) found += line.substr(line.find(' ') + 1) + "|";
+        EXPECT_EQ(found, told) << description;
+    }
+}
+
 TEST_F(DocumentCheckTest, PointsAreEqualAtOneStateWithOneValueInAnyUnits) {
     const auto set = [](const std::string& number, const std::string& rest) {
         return "^A & O C & AB CD 1/15/2026 ::P = 100:\n^1 1 VDN S DIR " + number + "\tY " + rest +

@@ -290,7 +290,7 @@ TEST_F(Reader, OneMessageNamesTheFirstLinesAndCountsTheOthers) {
     EXPECT_NE(notice.text.find("\nLine 1: " + std::string(99, 'x') + "\xC3\xA9...\nLine 2: "),
               std::string::npos);
     EXPECT_TRUE(notice.text.ends_with(
-        "x\nand 2 more: the command \"vexora-cli check\" names all of them."));
+        "x\nand 2 more: \"Check the document\" in the Tools menu names all of them."));
     result.linesNotKept = 2;
     EXPECT_EQ(NoticeOfReading(result).title, "Read only");
 }
