@@ -1,6 +1,6 @@
 #include "plot/PictureSvg.h"
 
-#include "plot/frmBox.h"
+#include "plot/RtfText.h"
 #include "reference/Numbers.h"
 
 namespace vexora {

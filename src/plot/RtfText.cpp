@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iterator>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "reference/Text.h"
@@ -10,6 +13,9 @@
 namespace vexora {
 
 namespace {
+
+constexpr int LargeHalfPoints = 28;                          // letters of headings
+constexpr std::string_view TabWidth = "\u00a0\u00a0\u00a0 "; // a page knows no tabs
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -23,14 +29,35 @@ public:
     std::string Read() {
         while (!rest_.empty())
             Step();
+        Wear({});
         return out_;
     }
 
 private:
+    struct Look {
+        bool bold = false;
+        bool italic = false;
+        bool underlined = false;
+        bool raised = false;
+        bool lowered = false;
+        bool large = false;
+        bool operator==(const Look&) const = default;
+    };
     struct Group {
         bool skipped = false; // a destination that is no text of the page
         int fallbacks = 1;    // characters behind a \u that stand for it elsewhere
+        Look look = {};
     };
+    struct Mark {
+        bool Look::*flag;
+        std::string_view open, close;
+    };
+    static constexpr Mark Marks[] = {{&Look::large, "<span style=\"font-size:large\">", "</span>"},
+                                     {&Look::bold, "<b>", "</b>"},
+                                     {&Look::italic, "<i>", "</i>"},
+                                     {&Look::underlined, "<u>", "</u>"},
+                                     {&Look::raised, "<sup>", "</sup>"},
+                                     {&Look::lowered, "<sub>", "</sub>"}};
 
     void Step() {
         const char c = Take();
@@ -56,7 +83,22 @@ private:
         if (passOver_ > 0)
             --passOver_;
         else
-            out_ += text;
+            Write(text);
+    }
+
+    void Write(std::string_view text) {
+        Wear(groups_.back().look);
+        out_ += text == "\t" ? std::string(TabWidth) : HtmlOfText(text);
+    }
+
+    /// Closes the marks in force and opens those of another look.
+    void Wear(const Look& look) {
+        if (look == worn_) return;
+        for (std::size_t i = std::size(Marks); i-- > 0;)
+            if (worn_.*Marks[i].flag) out_ += Marks[i].close;
+        for (const Mark& mark : Marks)
+            if (look.*mark.flag) out_ += mark.open;
+        worn_ = look;
     }
 
     void Control() {
@@ -90,11 +132,40 @@ private:
         const auto end = std::find_if_not(rest_.begin(), rest_.end(), IsLetter);
         const std::string word(rest_.begin(), end);
         rest_.remove_prefix(word.size());
-        int number = 0;
-        const auto parsed = std::from_chars(rest_.data(), rest_.data() + rest_.size(), number);
+        std::optional<int> number;
+        int value = 0;
+        const auto parsed = std::from_chars(rest_.data(), rest_.data() + rest_.size(), value);
+        if (parsed.ec == std::errc()) number = value;
         rest_.remove_prefix(static_cast<std::size_t>(parsed.ptr - rest_.data()));
         if (!rest_.empty() && rest_.front() == ' ') rest_.remove_prefix(1);
-        Act(word, number);
+        if (!Dress(word, number)) Act(word, number.value_or(0));
+    }
+
+    /// A word that changes the look of what follows; without a number it switches that on.
+    bool Dress(std::string_view word, std::optional<int> number) {
+        static constexpr std::pair<std::string_view, bool Look::*> switches[] = {
+            {"b", &Look::bold},
+            {"i", &Look::italic},
+            {"ul", &Look::underlined},
+            {"super", &Look::raised},
+            {"sub", &Look::lowered}};
+        Look& look = groups_.back().look;
+        for (const auto& [name, flag] : switches) {
+            if (word != name) continue;
+            look.*flag = number != 0;
+            return true;
+        }
+        if (word == "fs")
+            look.large = number.value_or(0) >= LargeHalfPoints;
+        else if (word == "ulnone")
+            look.underlined = false;
+        else if (word == "nosupersub")
+            look.raised = look.lowered = false;
+        else if (word == "plain")
+            look = {};
+        else
+            return false;
+        return true;
     }
 
     void Act(const std::string& word, int number) {
@@ -123,13 +194,31 @@ private:
     std::string out_;
     std::vector<Group> groups_{Group{}};
     int passOver_ = 0;
+    Look worn_; // the marks that are open
 };
 
 } // namespace
 
-std::string TextOfRtf(std::string_view rtf) {
-    if (!rtf.starts_with("{\\rtf")) return std::string(rtf);
+std::string HtmlOfRtf(std::string_view rtf) {
+    if (!rtf.starts_with("{\\rtf")) return HtmlOfText(rtf);
     return RtfReader(rtf).Read();
+}
+
+std::string HtmlOfText(std::string_view text) {
+    std::string html;
+    for (const char c : text) {
+        if (c == '&')
+            html += "&amp;";
+        else if (c == '<')
+            html += "&lt;";
+        else if (c == '>')
+            html += "&gt;";
+        else if (c == '\n')
+            html += "<br>\n";
+        else if (c != '\r')
+            html += c;
+    }
+    return html;
 }
 
 } // namespace vexora

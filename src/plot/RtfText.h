@@ -5,9 +5,12 @@
 
 namespace vexora {
 
-/// The plain text of a rich text file: paragraphs and tabs are kept, looks, tables of fonts and
-/// colours, pictures and other unknown destinations are left out. A text that is not rich text
-/// comes back as it is.
-std::string TextOfRtf(std::string_view rtf);
+/// A rich text file as a page: paragraphs, bold, italic, underlined, raised and lowered letters and
+/// large ones are kept; fonts, colours, pictures and other unknown destinations are left out. A
+/// text that is not rich text comes back as HtmlOfText gives it.
+std::string HtmlOfRtf(std::string_view rtf);
+
+/// A plain text as HTML, line by line.
+std::string HtmlOfText(std::string_view text);
 
 } // namespace vexora

@@ -19,28 +19,12 @@ std::string Between(const std::string& html, std::string_view open, std::string_
 
 } // namespace
 
-std::string HtmlOfText(std::string_view text) {
-    std::string html;
-    for (const char c : text) {
-        if (c == '&')
-            html += "&amp;";
-        else if (c == '<')
-            html += "&lt;";
-        else if (c == '>')
-            html += "&gt;";
-        else if (c == '\n')
-            html += "<br>\n";
-        else if (c != '\r')
-            html += c;
-    }
-    return html;
-}
-
 frmBox::frmBox() : Form("frmBox", "Vexora") {
     Arrangement = ui::Column({RichTextBox1, ui::ButtonRow({cmdPrint, cmdOK})});
     UseButtons(cmdOK, cmdOK, [this] { Close(); });
     PreferredColumns = 80;
     PreferredRows = 28;
+    HelpContext = 15;
     cmdPrint.OnClick = [this] { cmdPrint_Click(); };
 }
 
@@ -56,14 +40,10 @@ std::string frmBox::LoadFile(const std::string& path) {
         Caption(title.empty() ? "Vexora" : title);
         RichTextBox1.Html(body.empty() ? text : body);
     } else {
-        ShowText("Vexora", name.ends_with(".rtf") ? TextOfRtf(text) : text);
+        Caption("Vexora");
+        RichTextBox1.Html(name.ends_with(".rtf") ? HtmlOfRtf(text) : HtmlOfText(text));
     }
     return {};
-}
-
-void frmBox::ShowText(const std::string& title, std::string_view text) {
-    Caption(title);
-    RichTextBox1.Html(HtmlOfText(text));
 }
 
 void frmBox::cmdPrint_Click() {

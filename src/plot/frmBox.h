@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "ui/Form.h"
 
@@ -20,14 +19,9 @@ public:
     /// Takes a file; the ending of its name tells rich text (.rtf), HTML (.html, .htm) and plain
     /// text apart. The answer is empty, or why it cannot be read.
     std::string LoadFile(const std::string& path);
-    /// Takes a plain text.
-    void ShowText(const std::string& title, std::string_view text);
 
 private:
     void cmdPrint_Click();
 };
-
-/// A plain text as HTML, line by line.
-std::string HtmlOfText(std::string_view text);
 
 } // namespace vexora

@@ -76,6 +76,7 @@ int RunInteractive(Application& application, const Places& places, const std::st
         QMessageBox::critical(nullptr, QStringLiteral("Vexora"), ToQt(error));
         return 1;
     }
+    BringIntroduction(places, files);
     QApplication::setQuitOnLastWindowClosed(false);
     Run run(application, places);
     QTimer::singleShot(0, &application, [&] { run.Start(document); });

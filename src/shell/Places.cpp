@@ -19,4 +19,13 @@ std::string PrepareHome(const Places& places, ui::FileSystem& files) {
     return {};
 }
 
+void BringIntroduction(const Places& places, ui::FileSystem& files) {
+    if (places.Installed.empty() || files.Exists(places.Home + "/VXR.ini")) return;
+    for (const char* name : {"/intro.rtf", "/scope.rtf"}) {
+        const std::string source = places.Installed + "/help" + name;
+        const std::string target = places.Home + name;
+        if (!files.Exists(target) && files.Exists(source)) files.Copy(source, target);
+    }
+}
+
 } // namespace vexora

@@ -12,4 +12,9 @@ namespace vexora {
 /// failure, empty when all went well; a file that was not installed either is no failure here.
 std::string PrepareHome(const Places& places, ui::FileSystem& files);
 
+/// Copies the introductory texts that were installed with the help into an application folder that
+/// has neither a configuration nor such texts yet, so that a person's first start shows them;
+/// scripts start without. What cannot be copied is not shown.
+void BringIntroduction(const Places& places, ui::FileSystem& files);
+
 } // namespace vexora

@@ -1,7 +1,7 @@
 #include "shell/ReadingPage.h"
 
 #include "chem/CommentTags.h"
-#include "plot/frmBox.h"
+#include "plot/RtfText.h"
 #include "records/clsA.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"

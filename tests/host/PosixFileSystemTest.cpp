@@ -103,6 +103,22 @@ TEST_F(Disk, AFreshHomeGetsWhatWasInstalledAndKeepsItsOwn) {
               folder_.Path("other/VXRLocal.mdb") + ": No space left on device");
 }
 
+TEST_F(Disk, TheIntroductionComesToAFreshHomeOnly) {
+    for (const char* name : {"share", "share/help", "home"})
+        std::filesystem::create_directory(folder_.Path(name));
+    Put("share/help/intro.rtf", "installed");
+    Put("share/help/scope.rtf", "installed");
+    Put("home/intro.rtf", "of the laboratory");
+    const Places places{folder_.Path("home"), folder_.Path("share")};
+    BringIntroduction(places, disk_);
+    EXPECT_EQ(Text(folder_.Path("home/intro.rtf")), "of the laboratory");
+    EXPECT_EQ(Text(folder_.Path("home/scope.rtf")), "installed");
+    std::filesystem::remove(folder_.Path("home/scope.rtf"));
+    Put("home/VXR.ini", "");
+    BringIntroduction(places, disk_);
+    EXPECT_FALSE(disk_.Exists(folder_.Path("home/scope.rtf")));
+}
+
 TEST_F(Disk, TheHomeGivenWinsOverTheOneInTheEnvironment) {
     ::setenv("VEXORA_HOME", folder_.Path("set").c_str(), 1);
     EXPECT_EQ(host::FindPlaces(folder_.Path("given") + "/", "").Home, folder_.Path("given"));
