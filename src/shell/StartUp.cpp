@@ -6,6 +6,7 @@
 #include "plot/frmBox.h"
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
+#include "shell/About.h"
 #include "shell/Configuration.h"
 #include "shell/Paths.h"
 #include "shell/frmConfigure.h"
@@ -31,7 +32,7 @@ void RunFirstSteps() {
     KVOGlobal& globals = Globals();
     globals.FirstRun = globals.CompilerCode.empty();
     if (!globals.FirstRun) return;
-    ShowAbout();
+    ui::Say(AboutText());
     ShowIfPresent("intro.rtf");
     ShowIfPresent("scope.rtf");
     globals.CompilerCode = globals.ContributorCode;
@@ -95,17 +96,6 @@ bool RunStartUp() {
         if (Globals().ProgramEnds) return false;
     }
     return true;
-}
-
-void ShowAbout() {
-    const std::string version = VEXORA_VERSION;
-    ui::Say("Vexora\n"
-            "Version " +
-            version.substr(0, version.rfind('.')) +
-            "\n"
-            "Workbench for thermophysical and thermochemical data\n"
-            "Written by the Vexora developers\n"
-            "Help and contact: see the Help menu");
 }
 
 } // namespace vexora

@@ -11,7 +11,4 @@ void InitGlobals(const Places& places);
 /// False when the user chose to end the program.
 bool RunStartUp();
 
-/// The box that tells about the program.
-void ShowAbout();
-
 } // namespace vexora

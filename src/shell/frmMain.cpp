@@ -4,10 +4,10 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
+#include "shell/About.h"
 #include "shell/Deletion.h"
 #include "shell/DocumentAside.h"
 #include "shell/ReadingPane.h"
-#include "shell/StartUp.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -77,7 +77,7 @@ void frmMain::WireMenus() {
         {&mnuHelpActions, 130}, {&mnuHelpDisplay, 140}, {&mnuHelpBio, 145}};
     for (const auto& [entry, page] : pages)
         entry->OnClick = [context = page] { ui::TheDesktop().ShowHelp(context); };
-    mnuAbout.OnClick = [] { ShowAbout(); };
+    mnuAbout.OnClick = [] { ui::Say(AboutTextWithLicences()); };
 }
 
 void frmMain::WireTree() {

@@ -50,6 +50,13 @@ expect file "${HOME_DIR}/VXR.ini" contains "XMLCOMPILER Ann Muller"
     EXPECT_EQ(transcript.find("Version"), transcript.rfind("Version"));
 }
 
+TEST_F(StartUpTest, TheMenuTellsTheBuildAndTheLicencesToo) {
+    Configure("XMLCOMPILER Ann\nORGANIZATION Lab\n");
+    const std::string transcript = Holds("start\ninput \"\"\nclick frmMain.mnuAbout\n");
+    for (const char* part : {"Version 0.1\\n", "Build: " VEXORA_VERSION, "Qt 6", "SQLite", "CLI11"})
+        EXPECT_NE(transcript.find(part), std::string::npos) << part << "\n" << transcript;
+}
+
 TEST_F(StartUpTest, ANameThatIsMissingIsAskedForAndKept) {
     Configure("ORGANIZATION Lab\n");
     Holds(R"(start
