@@ -20,7 +20,7 @@ frmProperty::frmProperty() : Form("frmProperty", Title) {
     ArrangeControls();
     WireEvents();
     UseButtons(cmdOK, cmdFinish, [this] { Accept(); });
-    HelpContext = HelpPropertyList;
+    HelpContext = 322;
 }
 
 void frmProperty::ArrangeControls() {

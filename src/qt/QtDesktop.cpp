@@ -75,11 +75,8 @@ void QtDesktop::Hourglass(bool on) {
 }
 
 void QtDesktop::ShowHelp(int context) {
-    const std::string name = "/help/" + std::to_string(context) + ".html";
     for (const std::string& folder : helpFolders_) {
-        if (!files_.Exists(folder + name)) continue;
-        HelpWindow::Show(folder + name, Parent());
-        return;
+        if (HelpWindow::Show(folder + "/help", context, files_, Parent())) return;
     }
     Show({"There is no page of help for this topic (" + std::to_string(context) + ").", "Help",
           ui::MessageButtons::Ok, ui::Answer::Ok});

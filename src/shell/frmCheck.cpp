@@ -49,7 +49,7 @@ frmCheck::frmCheck() : Form("frmCheck", "Check the document") {
     UseButtons(cmdGo, cmdClose, [this] { cmdGo_Click(); });
     PreferredColumns = 110;
     PreferredRows = 26;
-    HelpContext = 150;
+    HelpContext = 410;
     txtNode.Locked(true);
     lstFindings.OnClick = [this] { lstFindings_Click(); };
     lstFindings.OnDoubleClick = [this] { cmdGo_Click(); };

@@ -47,6 +47,7 @@ MakeForm::Choice::Choice(MakeForm& form, std::string name, const std::string& la
 MakeForm::MakeForm(std::string name, std::string caption)
     : Form(std::move(name), std::move(caption)) {
     PreferredColumns = 60;
+    HelpContext = 227;
     UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
 }
 

@@ -43,6 +43,7 @@ frmRef::frmRef() : ChainForm("frmRef", "Add reference") {
          ui::Field("Reference Source", cboSource),
          ui::ButtonRow({cmdAccept, cmdCreate, cmdCancel})});
     UseButtons(cmdAccept, cmdCancel, [this] { cmdAccept_Click(); });
+    HelpContext = 228;
     PreferredColumns = 104;
     for (ui::TextBox* field : {&txtYear, &txtAut1, &txtAut2})
         field->OnChange = [this] { Identification_Change(); };

@@ -12,6 +12,7 @@ frmPasteView::frmPasteView() : Form("frmPasteView", "The block to be pasted") {
         {tblBlock, Field("To be looked at:", lstNotices), ButtonRow({cmdAccept, cmdFinish})});
     PreferredColumns = 80;
     PreferredRows = 28;
+    HelpContext = 342;
     tblBlock.ShowsRowNumbers = true;
     tblBlock.Editable(false);
     DefaultButton = &cmdAccept;

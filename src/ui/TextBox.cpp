@@ -6,6 +6,7 @@
 
 #include "ui/Desktop.h"
 #include "ui/Form.h"
+#include "ui/Html.h"
 #include "ui/OneLine.h"
 #include "ui/Utf8.h"
 
@@ -142,26 +143,7 @@ bool TextBox::UserKey(Key& key) {
 }
 
 std::string RichText::Display() const {
-    static constexpr std::pair<std::string_view, char> entities[] = {
-        {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&amp;", '&'}};
-    std::string text;
-    bool inTag = false;
-    for (std::size_t i = 0; i < html_.size(); ++i) {
-        char c = html_[i];
-        if (c == '<') inTag = true;
-        if (!inTag) {
-            for (const auto& [entity, sign] : entities) {
-                if (html_.compare(i, entity.size(), entity) != 0) continue;
-                i += entity.size() - 1;
-                c = sign;
-                break;
-            }
-            text += c;
-        } else if (c == '>') {
-            inTag = false;
-        }
-    }
-    return text;
+    return TextOfHtml(html_);
 }
 
 } // namespace vexora::ui

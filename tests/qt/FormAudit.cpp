@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QStyleOptionComboBox>
 
+#include "qt/Events.h"
 #include "qt/Picture.h"
 #include "qt/Text.h"
 
@@ -74,6 +75,7 @@ void FormAudit::LookAt(FormWindow& window) {
         Fault(window, window, "has the keyboard nowhere");
     LookForCuts(window);
     WalkByTab(window);
+    AskForHelp(window);
     if (Marked.insert({window.Model().Name(), 0}).second) LookForMarks(window);
 }
 
@@ -140,6 +142,14 @@ void FormAudit::LookForMarks(FormWindow& window) {
         ++Marked[window.Model().Name()];
     }
     if (had) had->setFocus(Qt::OtherFocusReason);
+}
+
+void FormAudit::AskForHelp(FormWindow& window) {
+    const ui::Form& form = window.Model();
+    QWidget* focused = window.focusWidget();
+    if (!form.IsReachable() || !focused) return;
+    PressAndRelease(focused, {Qt::Key_F1, Qt::NoModifier, {}});
+    Topics.insert({form.Name(), form.HelpContext});
 }
 
 } // namespace vexora::qt::test

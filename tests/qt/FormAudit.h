@@ -20,12 +20,15 @@ public:
     std::map<std::string, std::size_t> Marked;
     /// The forms that the program knows.
     std::set<std::string> Known;
+    /// The page of help of each form on which F1 was pressed.
+    std::map<std::string, int> Topics;
 
 private:
     void LookAt(FormWindow& window);
     void LookForCuts(FormWindow& window);
     void WalkByTab(FormWindow& window);
     void LookForMarks(FormWindow& window);
+    void AskForHelp(FormWindow& window);
     void Fault(const FormWindow& window, const QWidget& widget, const std::string& what);
 
     bool looking_ = false;

@@ -109,14 +109,18 @@ private:
     const QFont font_ = QApplication::font();
 };
 
-TEST_P(InEachLook, EveryFormIsReadWholeAndWalkedByTab) {
+TEST_P(InEachLook, EveryFormIsReadWholeWalkedByTabAndExplained) {
     FormAudit audit;
+    std::string transcripts;
     for (const fs::path& script : Sessions())
-        Play(audit, script);
+        transcripts += Play(audit, script).transcript;
     for (const std::string& fault : audit.Faults)
         ADD_FAILURE() << fault;
-    for (const std::string& form : audit.Known)
+    for (const std::string& form : audit.Known) {
         EXPECT_GT(audit.Marked[form], 0U) << form;
+        const std::string shown = "[help] " + std::to_string(audit.Topics[form]) + "\n";
+        EXPECT_NE(transcripts.find(shown), std::string::npos) << form << " " << shown;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, InEachLook,
