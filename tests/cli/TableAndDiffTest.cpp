@@ -70,4 +70,29 @@ TEST_F(TableAndDiff, TheSetIsNamedUnlessThereIsButOne) {
     }
 }
 
+TEST_F(TableAndDiff, ThePrintedRowsOpenAgainAsATableCellForCell) {
+    for (const char* set : {"^1: Vapor*", "^1: Density*", "^2: Density*", "^2: Speed*"}) {
+        const std::string node = "\"2002* / water / Sample* / " + std::string(set) + "\"";
+        folder.Write("rows.tsv", Run("table a.txt --no-head " + node).out);
+        folder.Write("open.vxs", "include \"" VEXORA_SOURCE_DIR
+                                 "/tests/sessions/shell/known_user.inc\"\n"
+                                 "drop \"${OUT}/a.txt\"\ndblnode " +
+                                     node +
+                                     "\nclick frmTwo.cmdOK\nprint frmData2.tblData\n"
+                                     "click frmData2.cmdClear\n"
+                                     "click frmData2.mnuFileOpen\nfile \"${OUT}/rows.tsv\"\n"
+                                     "print frmData2.tblData\nnote \"end\"\n");
+        const Outcome played = Run("play --home home --var OUT=. open.vxs");
+        ASSERT_EQ(played.code, 0) << played.err << played.out;
+        std::filesystem::remove_all(folder.File("home"));
+        // What is printed of the table before it is cleared and after the file is opened.
+        const std::string print = "> print frmData2.tblData\n";
+        const std::size_t first = played.out.find(print) + print.size();
+        const std::size_t second = played.out.rfind(print) + print.size();
+        const std::string shown = played.out.substr(second, played.out.find("> note") - second);
+        EXPECT_GT(std::count(shown.begin(), shown.end(), '\n'), 4) << shown;
+        EXPECT_EQ(played.out.substr(first, shown.size()), shown);
+    }
+}
+
 } // namespace vexora::test
