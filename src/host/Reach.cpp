@@ -48,7 +48,7 @@ void Collect(const Nodes& nodes, std::string_view path, std::vector<ui::TreeNode
         const std::size_t next = path.find(PathSeparator, end);
         const std::string_view label = path.substr(0, next);
         for (const auto& node : nodes) {
-            if (!MatchesLabel(node->Text(), label)) continue;
+            if (node->Hidden() || !MatchesLabel(node->Text(), label)) continue;
             if (next == path.npos)
                 found.push_back(node.get());
             else
@@ -130,7 +130,7 @@ std::vector<ui::TreeNode*> NodesNamed(const ui::TreeView& tree, const ScriptLine
                                       std::size_t word) {
     if (!line.Is(word, "key")) return NodesAt(tree, line.Text(word));
     ui::TreeNode* node = tree.Find(line.Text(word + 1));
-    return std::vector<ui::TreeNode*>(node ? 1 : 0, node);
+    return std::vector<ui::TreeNode*>(node && !node->Hidden() ? 1 : 0, node);
 }
 
 } // namespace vexora::host

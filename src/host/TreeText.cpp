@@ -5,6 +5,7 @@ namespace vexora::host {
 namespace {
 
 void Append(std::string& text, const ui::TreeNode& node, std::size_t depth) {
+    if (node.Hidden()) return;
     text += std::string(2 * depth, ' ') + node.Text() + '\n';
     for (const auto& child : node.Children())
         Append(text, *child, depth + 1);

@@ -14,7 +14,7 @@ struct Named {
     const char* name;
 };
 
-constexpr std::array<Named, 16> Names{{{Qt::Key_Return, "Enter"},
+constexpr std::array<Named, 17> Names{{{Qt::Key_Return, "Enter"},
                                        {Qt::Key_Enter, "Enter"},
                                        {Qt::Key_Escape, "Escape"},
                                        {Qt::Key_Tab, "Tab"},
@@ -29,7 +29,8 @@ constexpr std::array<Named, 16> Names{{{Qt::Key_Return, "Enter"},
                                        {Qt::Key_Home, "Home"},
                                        {Qt::Key_End, "End"},
                                        {Qt::Key_PageUp, "PageUp"},
-                                       {Qt::Key_PageDown, "PageDown"}}};
+                                       {Qt::Key_PageDown, "PageDown"},
+                                       {Qt::Key_Menu, "Menu"}}};
 
 std::string SpecialName(int key) {
     for (const Named& entry : Names) {

@@ -10,6 +10,7 @@
 
 #include "qt/FileDrop.h"
 #include "qt/FormWindow.h"
+#include "qt/Icons.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
@@ -35,6 +36,11 @@ void DropTree::keyPressEvent(QKeyEvent* event) {
     const QTreeWidgetItem* before = currentItem();
     QTreeWidget::keyPressEvent(event);
     if (self && currentItem() != before && OnKeyMoved) OnKeyMoved();
+}
+
+void DropTree::contextMenuEvent(QContextMenuEvent* event) {
+    if (OnMenu) OnMenu(event->pos(), event->reason() == QContextMenuEvent::Mouse);
+    event->accept();
 }
 
 void DropTree::dragEnterEvent(QDragEnterEvent* event) {
@@ -70,7 +76,7 @@ TreeWidgetView::TreeWidgetView(FormWindow& window, ui::TreeView& tree)
 void TreeWidgetView::Listen() {
     const QPointer<TreeWidgetView> self(this);
     model_.NodeAdded.Connect([self](ui::TreeNode* node) {
-        if (self && !self->Window().IsDetached()) self->Add(*node);
+        if (self && !self->Window().IsDetached()) self->Add(*node, self->model_.PlaceOf(*node));
     });
     model_.NodeRemoved.Connect([self](ui::TreeNode* node) {
         if (!self || self->Window().IsDetached()) return;
@@ -86,6 +92,13 @@ void TreeWidgetView::Listen() {
         else
             self->Rebuild();
     });
+    model_.Filtered.Connect([self] {
+        if (self && !self->Window().IsDetached()) self->DrawFilter();
+    });
+    model_.MenuAsked.Connect([self] {
+        if (self && !self->Window().IsDetached()) self->ShowMenu();
+    });
+    own_->OnMenu = [this](QPoint at, bool byMouse) { AskForMenu(at, byMouse); };
     own_->OnFile = [this](const QString& path) {
         Act([this, &path] { model_.UserDrop(FromQt(path)); });
     };
@@ -103,7 +116,7 @@ void TreeWidgetView::Listen() {
 
 bool TreeWidgetView::Wants(const ui::Key& key) const {
     if (key.control || key.alt) return false;
-    return key.character >= U' ' || key.name.starts_with("Page") ||
+    return key.character > U' ' || key.name.starts_with("Page") ||
            IsOneOf(key.name, {"Up", "Down", "Left", "Right", "Home", "End"});
 }
 
@@ -121,23 +134,24 @@ void TreeWidgetView::Rebuild() {
     QScopedValueRollback guard(following_, true);
     own_->clear();
     items_.clear();
+    std::size_t place = 0;
     for (const auto& root : model_.Roots())
-        Add(*root);
+        Add(*root, place++);
 }
 
-void TreeWidgetView::Add(ui::TreeNode& node) {
+void TreeWidgetView::Add(ui::TreeNode& node, std::size_t place) {
     QScopedValueRollback guard(following_, true);
     QTreeWidgetItem* parent = node.Parent() ? ItemOf(*node.Parent()) : nullptr;
     auto* item = new QTreeWidgetItem;
-    const int place = static_cast<int>(model_.PlaceOf(node));
     if (parent)
-        parent->insertChild(place, item);
+        parent->insertChild(static_cast<int>(place), item);
     else
-        own_->insertTopLevelItem(place, item);
+        own_->insertTopLevelItem(static_cast<int>(place), item);
     item->setData(0, NodeRole, QVariant::fromValue(static_cast<void*>(&node)));
     items_[&node] = item;
+    std::size_t below = 0;
     for (const auto& child : node.Children())
-        Add(*child);
+        Add(*child, below++);
     DrawNode(node);
     if (parent && parent->childCount() == 1) parent->setExpanded(node.Parent()->Expanded());
 }
@@ -157,6 +171,60 @@ void TreeWidgetView::DrawNode(ui::TreeNode& node) {
     font.setBold(node.Bold());
     item->setFont(0, font);
     item->setExpanded(node.Expanded());
+    if (item->isHidden() != node.Hidden()) item->setHidden(node.Hidden());
+}
+
+/// One layout at the end stands for all nodes: each by itself would lay out the whole tree.
+void TreeWidgetView::DrawFilter() {
+    QScopedValueRollback guard(following_, true);
+    own_->LayOutLater();
+    for (const auto& [node, item] : items_) {
+        if (item->isHidden() != node->Hidden()) item->setHidden(node->Hidden());
+        if (item->isExpanded() != node->Expanded()) item->setExpanded(node->Expanded());
+    }
+}
+
+/// A place beside all nodes asks for the menu of the tree as it stands.
+void TreeWidgetView::AskForMenu(QPoint at, bool byMouse) {
+    if (menu_) return; // the key came to the model already
+    menuAt_.reset();
+    if (byMouse) menuAt_ = own_->viewport()->mapToGlobal(at);
+    ui::TreeNode* node = NodeOf(byMouse ? own_->itemAt(at) : own_->currentItem());
+    Act([this, node] { model_.UserMenu(node); });
+    menuAt_.reset();
+}
+
+void TreeWidgetView::AddToMenu(ui::Captioned& entry) {
+    QString text = ToQt(entry.Caption());
+    bool enabled = entry.IsUsable();
+    QIcon icon;
+    if (entry.Kind() == ui::ControlKind::MenuItem) {
+        const auto& item = static_cast<const ui::MenuItem&>(entry);
+        if (!item.Shortcut().empty()) text += '\t' + ToQt(item.Shortcut());
+        enabled = item.IsReachable();
+    } else {
+        icon = IconFor(entry.Name(), own_->palette());
+    }
+    QAction* action = menu_->addAction(icon, text);
+    action->setObjectName(ToQt(entry.Name()));
+    action->setEnabled(enabled);
+    QObject::connect(action, &QAction::triggered, this,
+                     [this, &entry] { Act([&entry] { entry.UserClick(); }); });
+}
+
+void TreeWidgetView::ShowMenu() {
+    delete menu_;
+    menu_ = new QMenu(own_);
+    menu_->setAttribute(Qt::WA_DeleteOnClose);
+    for (ui::Captioned* entry : model_.Offers()) {
+        if (entry)
+            AddToMenu(*entry);
+        else
+            menu_->addSeparator();
+    }
+    Window().Flush();
+    const QRect line = own_->visualItemRect(own_->currentItem());
+    menu_->popup(menuAt_.value_or(own_->viewport()->mapToGlobal(line.bottomLeft())));
 }
 
 QPointF TreeWidgetView::PlaceOf(const ui::TreeNode& node) const {
@@ -185,7 +253,7 @@ void TreeWidgetView::Expanded(QTreeWidgetItem* item, bool expanded) {
 
 void TreeWidgetView::Draw() {
     const ui::TreeNode* selected = model_.SelectedNode();
-    QTreeWidgetItem* item = selected ? ItemOf(*selected) : nullptr;
+    QTreeWidgetItem* item = selected && !selected->Hidden() ? ItemOf(*selected) : nullptr;
     if (own_->currentItem() != item) own_->setCurrentItem(item);
     if (item) own_->scrollToItem(item);
 }

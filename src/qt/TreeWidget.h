@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <unordered_map>
 
+#include <QMenu>
 #include <QTreeWidget>
 
 #include "qt/View.h"
@@ -12,11 +14,16 @@ namespace vexora::qt {
 class DropTree : public QTreeWidget {
 public:
     using QTreeWidget::QTreeWidget;
+    /// Changes that follow are laid out together.
+    void LayOutLater() { scheduleDelayedItemsLayout(); }
     std::function<void(const QString& path)> OnFile;
     std::function<void()> OnKeyMoved; // the keyboard has left the current line
+    /// The menu is asked for at a place on the viewport, by the mouse or by a key of the desktop.
+    std::function<void(QPoint at, bool byMouse)> OnMenu;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -41,15 +48,21 @@ protected:
 private:
     void Listen();
     void Rebuild();
-    void Add(ui::TreeNode& node);
+    void Add(ui::TreeNode& node, std::size_t place);
     void Forget(const ui::TreeNode& node);
     void DrawNode(ui::TreeNode& node);
+    void DrawFilter();
+    void AskForMenu(QPoint at, bool byMouse);
+    void ShowMenu();
+    void AddToMenu(ui::Captioned& entry);
     ui::TreeNode* NodeOf(QTreeWidgetItem* item) const;
     void Expanded(QTreeWidgetItem* item, bool expanded);
 
     std::unordered_map<const ui::TreeNode*, QTreeWidgetItem*> items_;
     const ui::TreeNode* pressed_ = nullptr; // where the mouse button went down
-    bool following_ = false;                // the tree is being drawn node by node
+    QPointer<QMenu> menu_;
+    std::optional<QPoint> menuAt_; // where the mouse asked for the menu, on the screen
+    bool following_ = false;       // the tree is being drawn node by node
 };
 
 } // namespace vexora::qt

@@ -64,7 +64,8 @@ public:
 
 private:
     void Add(Difference::Kind kind, std::string what, std::string before, std::string after) {
-        found_.push_back({path_, std::move(what), std::move(before), std::move(after), kind});
+        found_.push_back(
+            {path_, std::move(what), std::move(before), std::move(after), kind, place_});
     }
 
     void CompareFields(const Outline& before, const Outline& after) {
@@ -87,16 +88,21 @@ private:
         const Pairs pairs = TakePairs(gone, come, [&](bool isAfter, std::size_t i) {
             return (isAfter ? after : before).children[i].identity;
         });
-        for (const auto& [i, j] : pairs)
+        for (const auto& [i, j] : pairs) {
+            place_.push_back(after.children[j].identity);
             Compare(before.children[i], after.children[j]);
+            place_.pop_back();
+        }
         for (const std::size_t i : gone)
-            AddNode(Difference::Kind::OnlyBefore, before.children[i].label);
+            AddNode(Difference::Kind::OnlyBefore, before.children[i]);
         for (const std::size_t i : come)
-            AddNode(Difference::Kind::OnlyAfter, after.children[i].label);
+            AddNode(Difference::Kind::OnlyAfter, after.children[i]);
     }
-    void AddNode(Difference::Kind kind, const std::string& label) {
-        path_.push_back(label);
+    void AddNode(Difference::Kind kind, const Outline& node) {
+        path_.push_back(node.label);
+        place_.push_back(node.identity);
         Add(kind, "", "", "");
+        place_.pop_back();
         path_.pop_back();
     }
 
@@ -158,7 +164,7 @@ private:
         return text;
     }
 
-    std::vector<std::string> path_;
+    std::vector<std::string> path_, place_;
     std::vector<Difference> found_;
 };
 

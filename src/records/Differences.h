@@ -16,6 +16,8 @@ struct Difference {
     std::string before; // empty for what is only in the later version
     std::string after;  // empty for what is only in the earlier version
     enum class Kind { Changed, OnlyBefore, OnlyAfter } kind = Kind::Changed;
+    /// The identities from below the source down to the node, for RecordAt.
+    std::vector<std::string> place = {};
 };
 
 /// What has changed from one outline to another. Texts are compared as typed: "1.0" and "1.00"

@@ -110,6 +110,19 @@ void AddRows(Outline& outline, const DataSet& set) {
 
 } // namespace
 
+Record* RecordAt(Record& record, const std::vector<std::string>& identities) {
+    Record* at = &record;
+    for (const std::string& identity : identities) {
+        Record* next = nullptr;
+        at->EachChild([&](Record& child) {
+            if (next == nullptr && IdentityOf(child) == identity) next = &child;
+        });
+        if (next == nullptr) return nullptr;
+        at = next;
+    }
+    return at;
+}
+
 Outline OutlineOf(Record& record) {
     Outline outline;
     outline.identity = IdentityOf(record);

@@ -23,6 +23,10 @@ struct Outline {
     std::vector<Outline> children;
 };
 
+/// The record below another whose outline, and those above it from the first one down, have these
+/// identities; the record itself for none of them, null when there is no such one.
+Record* RecordAt(Record& record, const std::vector<std::string>& identities);
+
 /// The outline of a record and of all below it, of the source as a rule.
 Outline OutlineOf(Record& record);
 

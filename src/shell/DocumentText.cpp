@@ -81,7 +81,7 @@ ReadResult ReadDocument(std::string_view text, ReadPurpose purpose) {
     const ui::HourglassScope hourglass;
     DesktopTalk talk;
     ReadResult result = ReadRecords(text, talk, purpose);
-    if (result.endsProgram) ui::TheDesktop().EndProgram();
+    if (result.endsProgram && purpose == ReadPurpose::Work) ui::TheDesktop().EndProgram();
     return result;
 }
 

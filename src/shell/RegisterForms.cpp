@@ -5,6 +5,7 @@
 #include "plot/PlotForms.h"
 #include "pure/PureForms.h"
 #include "shell/frmCheck.h"
+#include "shell/frmCompare.h"
 #include "shell/frmConfigure.h"
 #include "shell/frmMain.h"
 #include "sources/SourceForms.h"
@@ -14,6 +15,7 @@ namespace vexora {
 
 void RegisterForms(ui::Forms& forms) {
     forms.Register<frmMain>("frmMain");
+    forms.Register<frmCompare>("frmCompare");
     forms.Register<frmConfigure>("frmConfigure");
     forms.Register<frmCheck>("frmCheck");
     RegisterSourceForms(forms);

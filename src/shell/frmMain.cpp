@@ -20,16 +20,20 @@ constexpr const char* MainCaption = "Vexora - Thermophysical and Thermochemical 
 } // namespace
 
 frmMain::frmMain() : Form("frmMain", MainCaption) {
-    Arrangement = ui::Column({Toolbar1, ui::Split(tvwTree, rtfReading), lblStatus});
+    Arrangement = ui::Column(
+        {Toolbar1, ui::Split(ui::Column({ui::Field("Find", txtFind), tvwTree}), rtfReading),
+         lblStatus});
     PreferredColumns = 190;
     PreferredRows = 46;
     HelpContext = 110;
-    mnuExportXML.BeginsGroup = true;
+    mnuCompare.BeginsGroup = true;
+    mnuExpandNode.BeginsGroup = true;
     mnuFileExit.BeginsGroup = true;
     mnuAbout.BeginsGroup = true;
     WireMenus();
     WireToolbar();
     WireTree();
+    WireFind();
 }
 
 frmMain::~frmMain() = default;
@@ -43,6 +47,7 @@ void frmMain::Load() {
     mnuFindRef.Enabled(forms.Knows("frmRef"));
     EmptyDocument();
     ShowOptionalButtons();
+    tvwTree.SetFocus();
 }
 
 void frmMain::Unload() {
@@ -58,6 +63,7 @@ void frmMain::WireMenus() {
     Open.OnClick = [this] { OpenDocument(); };
     SaveEntry.OnClick = [this] { Save(); };
     SaveAsEntry.OnClick = [this] { SaveAs(); };
+    mnuCompare.OnClick = [this] { mnuCompare_Click(); };
     mnuExportXML.OnClick = [this] { ExportDocument(); };
     mnuExportStrict.OnClick = [this] { ExportDocument(ExportFor::StrictReaders); };
     mnuFileExit.OnClick = [this] { Close(); };
@@ -85,6 +91,7 @@ void frmMain::WireTree() {
     tvwTree.OnNodeClick = [this](ui::TreeNode&) { SelectBy(true); };
     tvwTree.OnNodeReached = [this](ui::TreeNode&) { SelectBy(false); };
     tvwTree.OnNodeDoubleClick = [this](ui::TreeNode&) { EditNode(); };
+    tvwTree.Offers = [this] { return OffersOfNode(); };
     tvwTree.OnDrop = [this](const std::string& path) { DropFile(path); };
 }
 
@@ -107,11 +114,11 @@ void frmMain::SelectRoot() {
 }
 
 /// Makes the record of the selected node the current one. A node that was reached with the keyboard
-/// does not count: nothing is current then.
+/// does not count, nor does one that the filter hides: nothing is current then.
 void frmMain::SelectNode() {
     Globals().CurrentKey.clear();
     const ui::TreeNode* node = tvwTree.SelectedNode();
-    if (node != nullptr && MouseSelected) {
+    if (node != nullptr && MouseSelected && !node->Hidden()) {
         if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock())) record->SetMe();
     }
     if (!Globals().ShellLocked) Enable();
@@ -140,7 +147,8 @@ void frmMain::RefreshTexts() {
     const KVOGlobal& globals = Globals();
     Caption(globals.ReadOnly ? std::string(MainCaption) + " (read only)" : MainCaption);
     const ui::TreeNode* node = tvwTree.SelectedNode();
-    rtfReading.Html(ReadingHtml(node == nullptr ? nullptr : node->Tag.lock().get()));
+    const bool isShown = node != nullptr && !node->Hidden();
+    rtfReading.Html(ReadingHtml(isShown ? node->Tag.lock().get() : nullptr));
     lblStatus.Caption(StatusText());
 }
 
@@ -151,6 +159,7 @@ std::string frmMain::StatusText() const {
     text += globals.ReadOnly ? " - read only" : globals.Saved ? " - saved" : " - not saved";
     if (globals.recR.IsEmpty()) text = "No document";
     if (globals.ShellLocked) return text + " - a dialog is open";
+    if (tvwTree.IsFiltered()) text += " - not all nodes are shown";
     std::string before = " - next: ";
     for (const ui::ToolButton* button : Toolbar1.Buttons())
         if (button->IsUsable()) text += std::exchange(before, ", ") + button->Caption();

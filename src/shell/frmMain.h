@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "export/ExportDocument.h"
 #include "shell/KnownFile.h"
@@ -12,6 +14,7 @@
 namespace vexora {
 
 class DocumentAside;
+struct Outline;
 struct ReadResult;
 class DeletedRecord;
 class Record;
@@ -26,14 +29,16 @@ public:
 
     ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
     ui::MenuItem New{*this, "New", "&New", &mnuFile, "Ctrl+N"};
-    ui::MenuItem mnuFindRef{*this, "mnuFindRef", "&Find reference...", &mnuFile, "Ctrl+F"};
+    ui::MenuItem mnuFindRef{*this, "mnuFindRef", "&Find reference...", &mnuFile, "Ctrl+Shift+F"};
     ui::MenuItem Open{*this, "Open", "&Open", &mnuFile, "Ctrl+O"};
     ui::MenuItem SaveEntry{*this, "Save", "&Save", &mnuFile, "Ctrl+S"};
     ui::MenuItem SaveAsEntry{*this, "SaveAs", "Save &as...", &mnuFile, "Ctrl+Shift+S"};
+    ui::MenuItem mnuCompare{*this, "mnuCompare", "&Compare with...", &mnuFile};
     ui::MenuItem mnuExportXML{*this, "mnuExportXML", "&Export as ThermoML", &mnuFile, "Ctrl+E"};
     ui::MenuItem mnuExportStrict{*this, "mnuExportStrict", "Export for strict readers", &mnuFile};
     ui::MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit", &mnuFile, "Ctrl+Q"};
     ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    ui::MenuItem mnuFind{*this, "mnuFind", "&Find in the tree", &mnuEdit, "Ctrl+F"};
     ui::MenuItem mnuExpandNode{*this, "mnuExpandNode", "Expand Node", &mnuEdit};
     ui::MenuItem mnuEditNode{*this, "mnuEditNode", "Edit Node (Double Click)", &mnuEdit, "F2"};
     ui::MenuItem mnuNewLike{*this, "mnuNewLike", "New set like this", &mnuEdit, "Ctrl+L"};
@@ -74,6 +79,7 @@ public:
     ui::ToolButton AddTable{*this, "AddTable", "Data Tables", "Process a table of data"};
     ui::ToolButton AddBio{*this, "AddBio", "Bio", "Biothermodynamic properties"};
 
+    ui::TextBox txtFind{*this, "txtFind"}; // words that the nodes shown have to hold
     ui::TreeView tvwTree{*this, "tvwTree"};
     ui::RichText rtfReading{*this, "rtfReading"};
     ui::Label lblStatus{*this, "lblStatus"};
@@ -164,6 +170,17 @@ private:
     void DeleteNode();
     static bool MayDelete(const Record& record);
     void mnuUndoDelete_Click();
+
+    // frmMain_compare.cpp
+    void mnuCompare_Click();
+    std::optional<Outline> ReadOutline(const std::string& path);
+
+    // frmMain_find.cpp
+    void WireFind();
+    void txtFind_Change();
+    void LeaveFind(ui::Key& key);
+    void EndFind();
+    std::vector<ui::Captioned*> OffersOfNode();
 
     std::unique_ptr<DeletedRecord> deleted_; // the last one, until the next deletion or save
 };

@@ -34,7 +34,10 @@ void frmMain::DeleteNode() {
     deleted->FileName = FileName;
     deleted->Known = known_;
     deleted->WasDocument = globals.recR.IsEmpty();
-    if (deleted->WasDocument) EmptyDocument();
+    if (deleted->WasDocument) {
+        EmptyDocument();
+        txtFind.Text({});
+    }
     globals.Saved = deleted->WasDocument;
     globals.CurrentKey.clear();
     deleted_ = std::move(deleted);

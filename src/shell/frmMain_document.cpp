@@ -94,6 +94,7 @@ bool frmMain::NewProc() {
     if (!MayDiscard()) return false;
     const ui::HourglassScope hourglass;
     EmptyDocument();
+    txtFind.Text({});
     return true;
 }
 
@@ -130,7 +131,10 @@ void frmMain::PutAside() {
 void frmMain::SettleAside() {
     const auto before = std::move(aside_);
     if (!before) return;
-    if (!Globals().recR.IsEmpty()) return deleted_.reset();
+    if (!Globals().recR.IsEmpty()) {
+        txtFind.Text({});
+        return deleted_.reset();
+    }
     before->PutBack(FileName, known_);
     MouseSelected = true;
     SelectNode();

@@ -121,7 +121,9 @@ void frmMain::SetLocked(bool locked) {
         button->Enabled(!locked && IsOffered(*button));
     for (ui::MenuItem* menu : {&mnuFile, &mnuEdit, &mnuTools})
         menu->Enabled(!locked);
+    txtFind.Enabled(!locked);
     if (!locked) {
+        mnuCompare.Enabled(!Globals().recR.IsEmpty());
         mnuNewLike.Enabled(MayRepeat());
         mnuUndoDelete.Enabled(deleted_ != nullptr);
         mnuCheck.Enabled(!Globals().recR.IsEmpty());

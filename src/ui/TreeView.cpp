@@ -27,6 +27,9 @@ void TreeNode::Expanded(bool value) {
 }
 
 void TreeNode::EnsureVisible() {
+    for (TreeNode* node = this; node != nullptr; node = node->parent_) {
+        if (std::exchange(node->hidden_, false)) tree_.NodeChanged.Emit(node);
+    }
     for (TreeNode* node = parent_; node != nullptr; node = node->parent_)
         node->Expanded(true);
 }
@@ -162,6 +165,65 @@ void TreeView::UserNodeReached(TreeNode& node) {
     SetFocus();
     Select(&node);
     if (OnNodeReached) OnNodeReached(node);
+}
+
+bool TreeView::ShowHits(TreeNode& node, const std::function<bool(const TreeNode&)>& isHit) {
+    if (!node.expandedBefore_) node.expandedBefore_ = node.expanded_;
+    node.hidden_ = !isHit(node);
+    bool hasHits = false;
+    for (const auto& child : node.children_)
+        hasHits = ShowHits(*child, isHit) || hasHits;
+    if (hasHits) node.hidden_ = false;
+    node.expanded_ = hasHits || *node.expandedBefore_;
+    return !node.hidden_;
+}
+
+void TreeView::Filter(const std::function<bool(const TreeNode&)>& isHit) {
+    if (!std::exchange(filtered_, true)) selectedBefore_ = selected_;
+    for (const auto& root : roots_)
+        ShowHits(*root, isHit);
+    Filtered.Emit();
+    Changed();
+}
+
+void TreeView::ShowAll(TreeNode& node) {
+    node.hidden_ = false;
+    node.expanded_ = node.expandedBefore_.value_or(node.expanded_);
+    node.expandedBefore_.reset();
+    for (const auto& child : node.children_)
+        ShowAll(*child);
+}
+
+void TreeView::EndFilter() {
+    if (!std::exchange(filtered_, false)) return;
+    for (const auto& root : roots_)
+        ShowAll(*root);
+    if (selected_ != nullptr && selected_ != selectedBefore_) selected_->EnsureVisible();
+    Filtered.Emit();
+    Changed();
+}
+
+void TreeView::UserMenu(TreeNode* node) {
+    if (!IsUsable() || !Offers) return;
+    if (node)
+        UserNodeClick(*node);
+    else
+        SetFocus();
+    MenuAsked.Emit();
+}
+
+bool TreeView::UserKey(Key& key) {
+    if (Control::UserKey(key)) return true;
+    if (!IsUsable()) return false;
+    TreeNode* node = selected_ != nullptr && !selected_->hidden_ ? selected_ : nullptr;
+    const std::string name = key.FullName();
+    if (name == "Menu" || name == "Shift+F10")
+        UserMenu(node);
+    else if (node != nullptr && (name == "Enter" || name == "Space"))
+        UserNodeClick(*node);
+    else
+        return false;
+    return true;
 }
 
 void TreeView::UserDrop(const std::string& path) {

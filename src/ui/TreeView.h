@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -16,6 +18,7 @@ struct TreeTag {
     virtual ~TreeTag() = default;
 };
 
+class Captioned;
 class TreeView;
 
 /// One line of a tree. It is owned by the node above it; the record that it shows is its Tag.
@@ -30,7 +33,9 @@ public:
     void Bold(bool value);
     bool Expanded() const { return expanded_; }
     void Expanded(bool value);
-    /// Opens everything above the node.
+    /// The filter of the tree leaves it out.
+    bool Hidden() const { return hidden_; }
+    /// Opens everything above the node, and shows it although the filter left it out.
     void EnsureVisible();
 
     std::weak_ptr<TreeTag> Tag;
@@ -46,6 +51,8 @@ private:
     std::vector<std::unique_ptr<TreeNode>> children_;
     bool bold_ = false;
     bool expanded_ = true;
+    bool hidden_ = false;
+    std::optional<bool> expandedBefore_; // while the tree is filtered: how it stood before
 };
 
 /// The document as a tree. Node keys are unique; a taken key gets "~2", "~3", ... behind it.
@@ -82,6 +89,14 @@ public:
     const std::vector<std::unique_ptr<TreeNode>>& Roots() const { return roots_; }
     TreeNode* Find(std::string_view key) const;
 
+    /// Shows only the nodes that hit and those above them, which are opened. Each node is asked
+    /// once, behind those above it. Nodes that come later are shown.
+    void Filter(const std::function<bool(const TreeNode&)>& isHit);
+    /// Shows all nodes again, opened and closed as before the first filter; a node that has been
+    /// selected since stays in sight.
+    void EndFilter();
+    bool IsFiltered() const { return filtered_; }
+
     TreeNode* SelectedNode() const { return selected_; }
     void Select(TreeNode* node);
     std::string Display() const override { return selected_ ? selected_->Text() : std::string(); }
@@ -92,18 +107,29 @@ public:
     /// The keyboard brought the selection to the node.
     std::function<void(TreeNode&)> OnNodeReached;
     std::function<void(const std::string& path)> OnDrop;
+    /// What can be done at the node that was clicked last, as the menu of the tree shows it: tool
+    /// buttons and menu entries, with null for a line between them. No menu without it.
+    std::function<std::vector<Captioned*>()> Offers;
 
     void UserNodeClick(TreeNode& node);
     void UserNodeDoubleClick(TreeNode& node);
     /// The selection reaches the node by the keyboard: no mouse events.
     void UserNodeReached(TreeNode& node);
     void UserDrop(const std::string& path);
+    /// The menu of the node is asked for, which is a click on it; of the tree itself for null.
+    void UserMenu(TreeNode* node);
+    /// Enter and Space are a click on the selected node, the menu key asks for its menu.
+    bool UserKey(Key& key) override;
 
     /// Which node changed in text, look or place; null when the whole tree did.
     Signal<TreeNode*> NodeChanged;
     Signal<TreeNode*> NodeAdded;
     /// Sent before the node goes.
     Signal<TreeNode*> NodeRemoved;
+    /// Which nodes are hidden has changed, and which are opened.
+    Signal<> Filtered;
+    /// The menu of Offers is to be shown.
+    Signal<> MenuAsked;
 
 private:
     friend class TreeNode;
@@ -114,10 +140,14 @@ private:
     void Forget(TreeNode& node);
     void Remember(TreeNode& node);
     std::string Unique(std::string_view key) const;
+    static bool ShowHits(TreeNode& node, const std::function<bool(const TreeNode&)>& isHit);
+    static void ShowAll(TreeNode& node);
 
     std::vector<std::unique_ptr<TreeNode>> roots_;
     std::unordered_map<std::string_view, TreeNode*> byKey_; // keys are those of the nodes
     TreeNode* selected_ = nullptr;
+    const TreeNode* selectedBefore_ = nullptr; // the filter; only compared, it may be gone
+    bool filtered_ = false;
 };
 
 } // namespace vexora::ui

@@ -110,6 +110,45 @@ TEST(TreeView, TheMouseClicksWhereTheKeyboardOnlySelects) {
     EXPECT_EQ(told, "down click R double ");
 }
 
+TEST(TreeView, AFilterShowsHitsBelowWhatLeadsToThemUntilItEnds) {
+    ui::Form form("frmTree", "Tree");
+    ui::TreeView tree(form, "tvwTree");
+    ui::TreeNode& root = tree.Add(nullptr, "R", "Root");
+    ui::TreeNode& one = tree.Add(&root, "1", "one");
+    ui::TreeNode& deep = tree.Add(&one, "11", "deep");
+    ui::TreeNode& two = tree.Add(&root, "2", "two");
+    one.Expanded(false);
+    std::string asked;
+    const auto filter = [&](const std::string& text) {
+        asked.clear();
+        tree.Filter([&](const ui::TreeNode& node) {
+            asked += node.Key() + " ";
+            return node.Text() == text;
+        });
+    };
+    const auto shown = [&] {
+        std::string keys;
+        for (const ui::TreeNode* node : {&root, &one, &deep, &two})
+            if (!node->Hidden()) keys += node->Key() + (node->Expanded() ? "+ " : "- ");
+        return keys;
+    };
+    filter("deep");
+    EXPECT_EQ(asked, "R 1 11 2 "); // each once, from above
+    EXPECT_EQ(shown(), "R+ 1+ 11+ ");
+    filter("two");
+    EXPECT_EQ(shown(), "R+ 2+ ");
+    tree.Add(&root, "3", "new").EnsureVisible();
+    EXPECT_FALSE(tree.Find("3")->Hidden());
+    filter("nothing");
+    EXPECT_EQ(shown(), "");
+    tree.EndFilter();
+    EXPECT_EQ(shown(), "R+ 1- 11+ 2+ ");
+    filter("deep");
+    tree.Select(&deep); // what was found stays in sight
+    tree.EndFilter();
+    EXPECT_EQ(shown(), "R+ 1+ 11+ 2+ ");
+}
+
 TEST(Grid, APersonReachesOnlyTheCellsBehindTheFixedOnes) {
     ui::Form form("frmGrid", "Grid");
     ui::Grid grid(form, "grdData", 3, 3, 1, 1);

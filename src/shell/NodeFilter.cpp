@@ -1,0 +1,154 @@
+#include "shell/NodeFilter.h"
+
+#include <algorithm>
+#include <functional>
+
+#include "chem/CommentTags.h"
+#include "compounds/RegistryNumber.h"
+#include "records/DataSet.h"
+#include "records/SingleValue.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsZ.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/UnitText.h"
+#include "reference/Vocabulary.h"
+#include "shell/ReadingPage.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr std::size_t MostWords = 64; // as many as have a bit
+constexpr std::string_view Dots = "..";
+
+/// What stands between two texts that are searched as one; no word holds it.
+constexpr char Between = '\n';
+
+std::string VariableText(const std::string& code, const std::string& unit,
+                         std::string_view context) {
+    const std::string name = VariableName(code, context);
+    return name + Between + UnitText(DefaultUnit(name), unit, 0) + Between;
+}
+
+/// Hands on the values of a record as typed until the answer is true.
+bool AnyValue(const Record* record, const std::function<bool(std::string_view)>& holds) {
+    if (const auto* value = dynamic_cast<const SingleValue*>(record)) {
+        const auto* pure = dynamic_cast<const clsZ*>(record);
+        return holds(value->PRPVALUE) || (pure != nullptr && holds(pure->INDVARIABLE));
+    }
+    const auto* set = dynamic_cast<const DataSet*>(record);
+    if (set == nullptr) return false;
+    return std::any_of(set->recData.begin(), set->recData.end(), [&](const clsData& row) {
+        return std::any_of(row.Values.begin(), row.Values.begin() + set->nVar + 1,
+                           [&](const ShortText& text) { return holds(text); });
+    });
+}
+
+} // namespace
+
+bool NodeFilter::Range::Holds(double value) const {
+    return (withLeast ? value >= least : value > least) &&
+           (withMost ? value <= most : value < most);
+}
+
+bool NodeFilter::Word::IsIn(std::string_view value) const {
+    if (range) return IsNumeric(value) && range->Holds(Val(value));
+    return isNumber && (value.starts_with(text) || (IsNumeric(value) && Val(value) == Val(text)));
+}
+
+/// Nothing for a word that is no range.
+std::optional<NodeFilter::Range> NodeFilter::RangeOf(std::string_view word, bool& isUnfinished) {
+    Range range;
+    std::string_view least, most;
+    if (word.starts_with('>') || word.starts_with('<')) {
+        const bool withEnd = word.substr(1).starts_with('=');
+        const std::string_view end = word.substr(withEnd ? 2 : 1);
+        (word.front() == '>' ? least : most) = end;
+        (word.front() == '>' ? range.withLeast : range.withMost) = withEnd;
+    } else if (const std::size_t dots = word.find(Dots); dots != word.npos) {
+        least = word.substr(0, dots);
+        most = word.substr(dots + Dots.size());
+    } else {
+        return {};
+    }
+    isUnfinished = least.empty() && most.empty();
+    if ((!least.empty() && !IsNumeric(least)) || (!most.empty() && !IsNumeric(most))) return {};
+    if (!least.empty()) range.least = Val(least);
+    if (!most.empty()) range.most = Val(most);
+    return range;
+}
+
+NodeFilter::NodeFilter(std::string_view words) {
+    for (const std::string& word : Split(LowerAscii(words), ' '))
+        Add(Trim(word));
+}
+
+void NodeFilter::Add(std::string_view word) {
+    bool isUnfinished = word.empty();
+    Word sought{std::string(word), RangeOf(word, isUnfinished), IsNumeric(word)};
+    if (!isUnfinished && words_.size() < MostWords) words_.push_back(std::move(sought));
+}
+
+/// The comment with its method in words: those of the list that it was chosen from, and those of
+/// the reading pane. Many records have the same one.
+const std::string& NodeFilter::CommentText(const clsA& header, const std::string& propertyCode) {
+    const auto [entry, isNew] = comments_.try_emplace(propertyCode + Between + header.DATACOMMENT);
+    std::string& text = entry->second;
+    if (!isNew) return text;
+    text = CommentDisplayText(header.DATACOMMENT) + Between + MethodText(header, propertyCode);
+    const std::string method = CommentTags(header.DATACOMMENT).TrimmedValue("Method");
+    for (const MethodRow& row : MethodsOf(propertyCode))
+        if (row.MethodCode == method) text += Between + row.Method;
+    return text;
+}
+
+/// Label and record, in small letters.
+std::string NodeFilter::TextOf(const ui::TreeNode& node) {
+    std::string text = node.Text() + Between;
+    const auto tag = node.Tag.lock();
+    const auto add = [&text](std::string_view part) { text.append(part) += Between; };
+    const auto addProperty = [&](const auto& data, int variables) {
+        const PropertyLabel label = PropertyLabels::Of(data);
+        add(label.name);
+        add(label.unit);
+        for (int n = 1; n <= variables; ++n)
+            text += VariableText(data.VARIABLE(n), data.VAR_UNIT(n), data.DataContext());
+        add(CommentText(data.Header, data.PRPCODE));
+    };
+    if (const auto* source = dynamic_cast<const clsR*>(tag.get())) {
+        add(source->TTITLE);
+    } else if (const auto* compound = dynamic_cast<const clsL*>(tag.get())) {
+        for (const std::string& part : {compound->Name, compound->Formula, compound->RN})
+            add(part);
+        if (compound->RN.size() > 3) add(DashedRegistryNumber(compound->RN));
+    } else if (const auto* value = dynamic_cast<const SingleValue*>(tag.get())) {
+        addProperty(*value, value->VariableCount());
+    } else if (const auto* set = dynamic_cast<const DataSet*>(tag.get())) {
+        addProperty(*set, set->nVar);
+    }
+    return LowerAscii(text);
+}
+
+bool NodeFilter::Hits(const ui::TreeNode& node) {
+    const auto tag = node.Tag.lock();
+    const auto* record = dynamic_cast<const Record*>(tag.get());
+    const std::string text = TextOf(node);
+    Found own = 0;
+    for (std::size_t i = 0; i < words_.size(); ++i) {
+        const Word& word = words_[i];
+        const bool isInText = !word.range && text.find(word.text) != std::string::npos;
+        if (isInText ||
+            ((word.range || word.isNumber) &&
+             AnyValue(record, [&](std::string_view value) { return word.IsIn(value); })))
+            own |= Found{1} << i;
+    }
+    const auto above = found_.find(node.Parent());
+    const Found all = own | (above == found_.end() ? 0 : above->second);
+    found_[&node] = all;
+    return own != 0 &&
+           all == (words_.size() == MostWords ? ~Found{0} : (Found{1} << words_.size()) - 1);
+}
+
+} // namespace vexora
