@@ -186,7 +186,7 @@ void TreeWidgetView::DrawFilter() {
 
 /// A place beside all nodes asks for the menu of the tree as it stands.
 void TreeWidgetView::AskForMenu(QPoint at, bool byMouse) {
-    if (menu_) return; // the key came to the model already
+    if (menu_ && menu_->isVisible()) return; // the key came to the model already
     menuAt_.reset();
     if (byMouse) menuAt_ = own_->viewport()->mapToGlobal(at);
     ui::TreeNode* node = NodeOf(byMouse ? own_->itemAt(at) : own_->currentItem());

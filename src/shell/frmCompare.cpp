@@ -24,7 +24,7 @@ ui::TreeNode* NodeOf(const Difference& difference) {
 frmCompare::frmCompare() : Form("frmCompare", "Differences") {
     Arrangement = ui::Column({lblFile, lstDifferences, ui::Field("In full", txtDifference),
                               lblPlace, ui::ButtonRow({cmdGo, cmdCancel})});
-    PreferredColumns = 120;
+    PreferredColumns = 140;
     PreferredRows = 28;
     HelpContext = CompareHelp;
     txtDifference.Locked(true);
@@ -38,16 +38,20 @@ void frmCompare::Take(const std::string& path, std::vector<Difference> differenc
     const std::string count = std::to_string(differences_.size());
     lblFile.Caption(count + (differences_.size() == 1 ? " difference" : " differences") + " from " +
                     path + " to the open document");
-    std::vector<std::string> lines;
-    lines.reserve(differences_.size());
-    for (const Difference& difference : differences_)
-        lines.push_back(DifferenceText(difference));
-    lstDifferences.Assign(std::move(lines));
 }
 
 void frmCompare::Load() {
     cmdGo.Enabled(false);
     lstDifferences.SetFocus();
+}
+
+/// The window stands by now: a list that is filled before gets no more room than its lines take.
+void frmCompare::Activate() {
+    std::vector<std::string> lines;
+    lines.reserve(differences_.size());
+    for (const Difference& difference : differences_)
+        lines.push_back(DifferenceText(difference));
+    lstDifferences.Assign(std::move(lines));
 }
 
 void frmCompare::lstDifferences_Click() {
@@ -60,6 +64,7 @@ void frmCompare::lstDifferences_Click() {
     if (node == nullptr) return;
     node->EnsureVisible();
     Globals().tvwTree->Select(node);
+    hasLed_ = true;
 }
 
 /// The node is selected already; the main form makes it the current one.

@@ -25,13 +25,18 @@ public:
     /// document.
     void Take(const std::string& path, std::vector<Difference> differences);
 
+    /// The last line chosen that has a node has selected it.
+    bool HasLed() const { return hasLed_; }
+
     void Load() override;
+    void Activate() override;
 
 private:
     void lstDifferences_Click();
     void GoToNode();
 
     std::vector<Difference> differences_;
+    bool hasLed_ = false;
 };
 
 } // namespace vexora

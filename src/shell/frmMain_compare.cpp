@@ -80,10 +80,9 @@ void frmMain::mnuCompare_Click() {
     if (differences.empty())
         return ui::Say("The open document says the same as the file " + whole + ".");
     auto& form = ui::Forms::Current().Get<frmCompare>("frmCompare");
-    const ui::TreeNode* selected = tvwTree.SelectedNode();
     form.Take(whole, std::move(differences));
     form.ShowModal();
-    if (tvwTree.SelectedNode() != selected) SelectBy(true);
+    if (form.HasLed()) SelectBy(true);
 }
 
 } // namespace vexora
