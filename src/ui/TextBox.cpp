@@ -113,6 +113,8 @@ bool TextBox::UseClipboard(const Key& key) {
         UserPaste(TheDesktop().ClipboardText());
         return true;
     }
+    // Taking typing back is the business of the widget; it never means what the form did before.
+    if (name == "Ctrl+Z" || name == "Ctrl+Shift+Z" || name == "Ctrl+Y") return true;
     if (name != "Ctrl+C" && name != "Ctrl+X") return false;
     if (length_ == 0) return true;
     TheDesktop().ClipboardText(FromPoints(ToPoints(text_).substr(start_, length_)));
