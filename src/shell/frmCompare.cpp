@@ -10,7 +10,7 @@ namespace vexora {
 
 namespace {
 
-constexpr int CompareHelp = 110;
+constexpr int CompareHelp = 420;
 
 /// The node that a difference is about; null when it is not in the open document.
 ui::TreeNode* NodeOf(const Difference& difference) {
