@@ -13,6 +13,7 @@
 #include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
+#include "reference/NameKey.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
@@ -57,17 +58,12 @@ void CheckTwins(const clsR& source, Findings& findings) {
     }
 }
 
-/// A title without what people write in one way or another.
-std::string BareTitle(std::string_view title) {
-    return Replace(Replace(LowerAscii(title), ".", ""), " ", "");
-}
-
 bool IsKnownJournal(const std::string& name) {
     const Database& local = Globals().LocalDb();
     if (!local.IsOpen()) return true;
-    const std::string bare = BareTitle(name);
+    const std::string bare = TitleKey(name);
     for (auto rows = local.Query("select ShortTitle from Journals"); !rows.IsEnd(); rows.MoveNext())
-        if (BareTitle(rows.Text("ShortTitle")) == bare) return true;
+        if (TitleKey(rows.Text("ShortTitle")) == bare) return true;
     return false;
 }
 

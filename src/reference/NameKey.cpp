@@ -84,4 +84,14 @@ std::string NameKey(std::string_view name) {
     return key;
 }
 
+bool CountsInTitle(char c) {
+    return c != ' ' && c != '.';
+}
+
+std::string TitleKey(std::string_view title) {
+    std::string key = LowerAscii(title);
+    std::erase_if(key, [](char c) { return !CountsInTitle(c); });
+    return key;
+}
+
 } // namespace vexora

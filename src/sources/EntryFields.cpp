@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "globals/KVOGlobal.h"
+#include "reference/NameKey.h"
 #include "reference/Text.h"
 #include "reference/Transliteration.h"
 
@@ -28,17 +29,6 @@ std::optional<std::string> Inserted(std::string_view text, std::string_view into
     const std::size_t more = text.size() - into.size();
     if (text.substr(front + more) != into.substr(front)) return std::nullopt;
     return std::string(text.substr(front, more));
-}
-
-bool CountsInTitle(char c) {
-    return c != ' ' && c != '.';
-}
-
-/// Journals are abbreviated with and without blanks and points.
-std::string TitleKey(std::string_view title) {
-    std::string key = LowerAscii(title);
-    std::erase_if(key, [](char c) { return !CountsInTitle(c); });
-    return key;
 }
 
 bool BeginsAs(std::string_view title, std::string_view typed) {

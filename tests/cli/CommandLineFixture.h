@@ -55,11 +55,12 @@ protected:
         return text.str();
     }
 
-    static inline const std::string kHead = "^R 2031 wag pru 1\n"
-                                            "^J#J#O#@J. Chem. Thermodyn.@, 2031, $1$, 2-3#T##A##P#1####\n"
-                                            "^I#1#wagner#w  #Wagner,W.\n"
-                                            "^L 7732185 DNNNN P\n"
-                                            "^S 1 cm;;99.9m%,gc\n";
+    static inline const std::string kHead =
+        "^R 2031 wag pru 1\n"
+        "^J#J#O#@J. Chem. Thermodyn.@, 2031, $1$, 2-3#T##A##P#1####\n"
+        "^I#1#wagner#w  #Wagner,W.\n"
+        "^L 7732185 DNNNN P\n"
+        "^S 1 cm;;99.9m%,gc\n";
     static inline const std::string kDocument =
         kHead + "^A & O & & AB CD & &\n^z 1 TC S 1 L G & 647.096 & 0.1 &\n";
     TemporaryFolder folder;

@@ -323,8 +323,7 @@ TEST_F(frmSubstTest, ACompoundOfTheDatabaseIsLockedWhenEdited) {
     EXPECT_EQ(Boxes(dialog), "7732-18-5 water H2O");
     EXPECT_EQ(dialog.txtMMass.Text(), "18.015");
     EXPECT_EQ(dialog.cmdAccept.Caption(), "OK");
-    for (const ui::TextBox* box :
-         {&dialog.txtRN2, &dialog.txtRN1, &dialog.txtFormula})
+    for (const ui::TextBox* box : {&dialog.txtRN2, &dialog.txtRN1, &dialog.txtFormula})
         EXPECT_TRUE(box->Locked()) << box->Name();
     dialog.cmdAccept.UserClick();
     EXPECT_FALSE(dialog.IsOpen());
