@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -48,6 +49,17 @@ std::string TitleBegunBy(const std::vector<std::string>& titles, std::string_vie
         if (const auto found = std::ranges::find_if(titles, fits); found != titles.end())
             return *found;
     return "";
+}
+
+/// Whether one of its words begins what was typed: "chem eng d" is in "J.Chem.Eng.Data".
+bool HasBeginning(std::string_view title, const std::string& key) {
+    bool isInWord = false;
+    for (std::size_t at = 0; at < title.size(); ++at) {
+        const bool begins = CountsInTitle(title[at]) && !isInWord;
+        isInWord = CountsInTitle(title[at]);
+        if (begins && TitleKey(title.substr(at)).starts_with(key)) return true;
+    }
+    return false;
 }
 
 /// How much of the title a person has typed who typed it in another writing.
@@ -110,15 +122,35 @@ CompletingCombo::CompletingCombo(ui::Form& form, std::string name, std::string p
         if (typed_.empty()) SelectFrom(0);
     };
     OnLostFocus = [this] { TakeKnown(); };
+    OnDropDown = [this] { Offer(); };
 }
 
 void CompletingCombo::Fill() {
+    titles_.clear();
     if (Globals().LocalDb().IsOpen()) {
         auto rows = Globals().LocalDb().Query("select * from " + table_ + " order by rowid");
         for (; !rows.IsEnd(); rows.MoveNext())
-            Add(rows.Text(column_));
+            titles_.push_back(rows.Text(column_));
     }
+    Assign(titles_);
     Enter("");
+}
+
+/// Below a text that is no whole title drop those of which a word begins so, below others all.
+void CompletingCombo::Offer() {
+    const std::string entered = Entered();
+    const bool isCompleted = !typed_.empty() && TitleBegunBy(titles_, typed_) == entered;
+    const std::string& typed = isCompleted ? typed_ : entered;
+    std::vector<std::string> offered;
+    if (!TitleKey(typed).empty() && std::ranges::find(titles_, typed) == titles_.end())
+        std::ranges::copy_if(
+            titles_, std::back_inserter(offered),
+            [key = TitleKey(typed)](const std::string& title) { return HasBeginning(title, key); });
+    completing_ = true;
+    const std::string text = Text();
+    Assign(offered.empty() ? titles_ : std::move(offered));
+    Text(text);
+    completing_ = false;
 }
 
 std::string CompletingCombo::Entered() const {
@@ -152,7 +184,7 @@ void CompletingCombo::Complete() {
     const std::size_t length = CodePointCount(typed);
     const bool oneMore = length > 0 && Substring(typed, 1, length - 1) == before;
     if (!oneMore) return; // erased, pasted or put in between
-    const std::string title = TitleBegunBy(Items(), typed);
+    const std::string title = TitleBegunBy(titles_, typed);
     if (title.empty()) return;
     typed_ = PartTyped(title, typed);
     Enter(title);
@@ -162,8 +194,9 @@ void CompletingCombo::Complete() {
 /// What stood there before is another's writing and stays.
 void CompletingCombo::TakeKnown() {
     const std::string entered = Entered();
-    const auto known = std::ranges::find(Items(), TitleKey(entered), TitleKey);
-    const bool takes = entered != onEntry_ && known != Items().end() && Find(entered) < 0;
+    const auto known = std::ranges::find(titles_, TitleKey(entered), TitleKey);
+    const bool takes = entered != onEntry_ && known != titles_.end() &&
+                       std::ranges::find(titles_, entered) == titles_.end();
     Enter(takes ? *known : Text());
 }
 

@@ -62,14 +62,16 @@ private:
     void DropPrompt();
     void Complete();
     void TakeKnown();
+    void Offer();
 
     std::string prompt_;
     std::string table_;
     std::string column_;
-    std::string typed_;       // as typed last, without its completion
-    std::string onEntry_;     // what stood there when the field was entered
-    bool prompting_ = false;  // the prompt stood before the change
-    bool completing_ = false; // the field itself changes its text
+    std::vector<std::string> titles_; // all rows of the table
+    std::string typed_;               // as typed last, without its completion
+    std::string onEntry_;             // what stood there when the field was entered
+    bool prompting_ = false;          // the prompt stood before the change
+    bool completing_ = false;         // the field itself changes its text
 };
 
 } // namespace vexora

@@ -306,6 +306,15 @@ TEST_F(MakeFormTest, TypingInTheListOfJournalsCompletesIt) {
             opened.Find("txtPages")->SetFocus();
             EXPECT_EQ(journal.Text(), "J.Chem.Eng.Data") << whole;
         }
+        Set(opened, "cboJournal", "");
+        journal.SetFocus();
+        Type(journal, "thermodyn");
+        journal.UserDropDown();
+        EXPECT_EQ(journal.Items(), std::vector<std::string>{"J. Chem. Thermodyn."});
+        EXPECT_EQ(journal.Text(), "Thermodyn") << "what was typed stays, in the letters completed";
+        Set(opened, "cboJournal", "J. Chem. Thermodyn.");
+        journal.UserDropDown();
+        EXPECT_GT(journal.Items().size(), 100U) << "below a whole title all are offered";
         Set(opened, "cboJournal", "J. Ph");
         EXPECT_EQ(journal.Text(), "J. Ph") << "what is pasted stays as it is";
         Set(opened, "cboJournal", "");
