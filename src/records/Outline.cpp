@@ -61,6 +61,7 @@ private:
 
 void AddColumns(Outline& outline, const std::vector<Quantity>& quantities) {
     std::vector<std::string> names;
+    names.reserve(quantities.size());
     for (const Quantity& quantity : quantities)
         names.push_back(quantity.name);
     outline.columns = {"units"};
@@ -101,6 +102,7 @@ void AddRows(Outline& outline, const DataSet& set) {
     outline.variables = static_cast<std::size_t>(set.nVar);
     AddColumns(outline, quantities);
     std::vector<int> items;
+    items.reserve(quantities.size());
     for (const Quantity& quantity : quantities)
         items.push_back(quantity.item);
     outline.rows.reserve(set.recData.Count());
