@@ -54,6 +54,7 @@ Placement DataSet::AddX(const clsX& item) {
     }
     // The places behind the variables are for what is the same in all rows.
     added.Constr = added.N > nVar;
+    if (StatesInUnitsOfLine()) added.inSystemUnits = false;
     clsX& present = UX[static_cast<std::size_t>(added.N)];
     const bool replaces = present.IsKept() && !added.SaysTheSame(present);
     present = added;
@@ -131,10 +132,22 @@ void DataSet::PrintHead(LineWriter& out) const {
     out.Line(DefinitionLine());
 }
 
+/// The unit out of which the statements about item n are brought for the record, "" for none.
+std::string DataSet::UnitOfStatements(int n) const {
+    if (!isOriginalUnit) return {};
+    if (n > nVar) {
+        // The line of a mixture has no field for the unit of a constraint.
+        for (const HeldConstant& constant : Constants())
+            if (constant.item == n) return constant.unit;
+        return {};
+    }
+    const std::string& code = VAR_UNIT(n);
+    return StatesInUnitsOfLine() && !IsUnitLong(code) ? std::string() : code;
+}
+
 void DataSet::PrintStatements(LineWriter& out) const {
     for (int n = 1; n < Items; ++n) {
-        const bool inEnteredUnit = isOriginalUnit && n <= nVar; // a constraint is in system units
-        UX[static_cast<std::size_t>(n)].SaveX(out, inEnteredUnit ? VAR_UNIT(n) : "");
+        UX[static_cast<std::size_t>(n)].SaveX(out, UnitOfStatements(n));
     }
     // Those of the property stand in the unit of its values, as the line names it.
     UX[0].SaveX(out, "");
@@ -175,9 +188,14 @@ std::string DataSet::CommentForRecord() const {
 }
 
 std::string DataSet::SystemPrecision(const std::string& code, const std::string& typed) const {
-    if (code == PRPCODE) return PropertyConversion().DifferenceText(typed);
-    for (int n = 1; n <= nVar; ++n)
-        if (code == VARIABLE(n)) return VariableConversion(n).DifferenceText(typed);
+    const bool byLine = StatesInUnitsOfLine();
+    // The property has its unit in the line, or a factor in front of it.
+    if (code == PRPCODE) return byLine ? typed : PropertyConversion().DifferenceText(typed);
+    for (int n = 1; n <= nVar; ++n) {
+        if (code != VARIABLE(n)) continue;
+        const bool stays = byLine && !IsUnitLong(VAR_UNIT(n));
+        return stays ? typed : VariableConversion(n).DifferenceText(typed);
+    }
     return typed;
 }
 

@@ -22,6 +22,14 @@ class XmlWriter;
 /// is constant.
 using StatementsOfSet = std::array<clsX, 5>;
 
+/// A state variable that is the same in all rows of a set: its place among the statements (0 for
+/// one that has none of its own), its value as typed, with the conversion code of the unit, and the
+/// phase in which it is meant.
+struct HeldConstant {
+    int item = 0;
+    std::string code, value, unit, phase;
+};
+
 /// What every set with rows has in common: a property measured against one to three state
 /// variables, statements of uncertainty about each of them, and the rows. A kind of set is a class
 /// that adds its own line, says what its variables are, and knows the molar mass that its rows go
@@ -73,6 +81,11 @@ public:
     virtual bool MolarMassFollowsRows() const { return false; }
     /// The record that the set belongs to, as messages name it on refusal; null for none.
     virtual const Record* Owner() const = 0;
+    /// What its definition holds constant; constants of a pure set are told by its comment.
+    virtual std::vector<HeldConstant> Constants() const { return {}; }
+    /// Statements and precisions stand in the units that the line of the set names, as rows do;
+    /// otherwise those of variables, and all precisions, are brought to system units.
+    virtual bool StatesInUnitsOfLine() const { return false; }
     /// A set of its own with the same definition, statements and rows, so that a table that is
     /// given up has changed nothing. It has no node and stands in no collection, but knows its
     /// owner.
@@ -80,9 +93,9 @@ public:
 
     // What follows from that.
 
-    /// The value of a state variable that the comment states for all rows, in its system unit;
-    /// empty when there is none, or it varies.
-    std::string ConstantOf(std::string_view code) const;
+    /// The value of a state variable that is stated for all rows, in its system unit; empty when
+    /// there is none, or it varies.
+    virtual std::string ConstantOf(std::string_view code) const;
     ResultDefinition Definition() const { return ResultDefinition::Of(PROPERTY_FUNCT); }
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string_view Relation() const { return Definition().Relation(); }
@@ -144,6 +157,7 @@ private:
     void PrintStatements(LineWriter& out) const;
     void PrintRows(LineWriter& out) const;
     void AdjustStatements();
+    std::string UnitOfStatements(int n) const;
 };
 
 /// The set that the selected node or the dialog in hand is about, by the context of the globals;

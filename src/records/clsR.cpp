@@ -6,6 +6,7 @@
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
 
@@ -147,6 +148,8 @@ void clsR::TakeOriginOfData() {
 void clsR::EachChild(const std::function<void(Record&)>& visit) const {
     for (const auto& compound : recL)
         visit(*compound);
+    for (const auto& mixture : recM)
+        visit(*mixture);
 }
 
 void clsR::UpdateRefInfo() {

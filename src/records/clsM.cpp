@@ -1,0 +1,147 @@
+#include "records/clsM.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/LineWriter.h"
+#include "records/clsL.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
+#include "records/clsR.h"
+#include "reference/Text.h"
+
+namespace vexora {
+
+namespace {
+
+const std::string NoText;
+
+template <class Set>
+std::shared_ptr<Set> FindByKey(const ui::Collection<Set>& sets, std::string_view key,
+                               std::size_t* index) {
+    std::size_t place = 0;
+    for (const auto& set : sets) {
+        ++place;
+        if (set->Key() != key && set->ShowKey() != key) continue;
+        if (index) *index = place;
+        return set;
+    }
+    if (index) *index = 0;
+    return nullptr;
+}
+
+} // namespace
+
+const std::string& clsM::RN(int n) const {
+    return n == 1 ? RN1 : n == 2 ? RN2 : n == 3 ? RN3 : NoText;
+}
+
+void clsM::RN(int n, std::string_view number) {
+    if (n >= 1 && n <= 3) (n == 1 ? RN1 : n == 2 ? RN2 : RN3) = number;
+}
+
+std::string clsM::COMPOSITION() const {
+    return RN1 + "+" + RN2 + (MixType > 2 ? "+" + RN3 : std::string());
+}
+
+std::shared_ptr<clsL> clsM::Component(int n) const {
+    return Parent ? Parent->FindL(RN(n)) : nullptr;
+}
+
+std::string clsM::ShowKey() const {
+    std::string text;
+    for (int n = 1; n <= MixType; ++n) {
+        const auto compound = Component(n);
+        text += (n == 1 ? "" : " + ") + (compound ? compound->ShowKey() : RN(n));
+    }
+    return text;
+}
+
+std::string clsM::Mixture(std::string* fault) const {
+    for (int n = 1; n <= MixType; ++n) {
+        if (Component(n)) continue;
+        if (fault) {
+            *fault = (Parent ? Parent->Source() : NoText) +
+                     "\nComponent of mixture not described: " + RN(n);
+        }
+        return {};
+    }
+    return ShowKey();
+}
+
+std::array<double, 3> clsM::MolarMasses() const {
+    std::array<double, 3> masses{};
+    for (int n = 1; n <= MixType; ++n)
+        masses[static_cast<std::size_t>(n - 1)] = MolarMassOfRN(RN(n), Parent);
+    return masses;
+}
+
+void clsM::SetMe() {
+    KVOGlobal& globals = Globals();
+    globals.CurrentM = As<clsM>();
+    if (globals.CurrentKey.empty()) globals.CurrentKey = "RM";
+    globals.DataContext = MixType == 2 ? "Bin" : "Tern";
+    globals.CurrentMixType = MixType;
+    if (Parent) Parent->SetMe();
+}
+
+void clsM::AttachTo(clsR& source) {
+    Parent = &source;
+    source.recM.Add(As<clsM>(), Key());
+    if (source.tNode) MakeNode(source.tNode);
+}
+
+std::size_t clsM::Leave() {
+    return Parent ? LeaveFrom(Parent->recM) : 0;
+}
+
+bool clsM::Return(std::size_t place) {
+    return Parent && ReturnTo(Parent->recM, place, Parent->recM.Item(Key()));
+}
+
+bool clsM::Load(std::string_view line) {
+    WordReader words(line);
+    MixType = words.NextWord() == "^B" ? 2 : 3;
+    for (int n = 1; n <= MixType; ++n)
+        RN(n, WithoutPlaceholder(words.NextWord()));
+    REFPRP = OrPlaceholder(Trim(words.Rest()));
+    return !RN(MixType).empty();
+}
+
+void clsM::PrintM(LineWriter& out) const {
+    if (MixType == 2)
+        out.Fields({"^B", RN1, RN2, REFPRP});
+    else
+        out.Fields({"^T", RN1, RN2, RN3, REFPRP});
+}
+
+bool clsM::HasData() const {
+    return !recMZ.IsEmpty() || !recMV.IsEmpty();
+}
+
+void clsM::Print(LineWriter& out) const {
+    if (HasData()) PrintM(out);
+}
+
+void clsM::EachChild(const std::function<void(Record&)>& visit) const {
+    for (const auto& value : recMZ)
+        visit(*value);
+    for (const auto& set : recMV)
+        visit(*set);
+}
+
+std::shared_ptr<clsMZ> clsM::FindMZ(std::string_view key, std::size_t* index) const {
+    return FindByKey(recMZ, key, index);
+}
+
+std::shared_ptr<clsMV> clsM::FindMV(std::string_view key, std::size_t* index) const {
+    return FindByKey(recMV, key, index);
+}
+
+bool clsM::CheckSamples() const {
+    for (int n = 1; n <= MixType; ++n) {
+        const auto compound = Component(n);
+        if (!compound || compound->recS.IsEmpty()) return false;
+    }
+    return true;
+}
+
+} // namespace vexora

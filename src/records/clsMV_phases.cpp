@@ -1,0 +1,97 @@
+// What phases a mixture set has, and what kind of equilibrium they make.
+#include "records/clsMV.h"
+
+#include "reference/Vocabulary.h"
+
+#include <cstdlib>
+
+namespace vexora {
+
+namespace {
+
+/// How many phases are of a kind; negative when the first one is.
+template <class IsOfKind>
+int Counted(const std::vector<std::string>& phases, IsOfKind isOfKind) {
+    int count = 0;
+    for (const std::string& phase : phases)
+        count += isOfKind(phase) ? 1 : 0;
+    return isOfKind(phases.front()) ? -count : count;
+}
+
+bool IsGas(std::string_view phase) {
+    return phase == "G" || phase == "air";
+}
+
+/// A glass answers like a crystal in what it is in equilibrium with.
+bool IsSolid(std::string_view phase) {
+    return IsCrystalPhase(phase) || phase == "VG";
+}
+
+bool IsComposition(std::string_view code) {
+    return code.size() == 2 &&
+           std::string_view("XWVMNJOQBE").find(code[0]) != std::string_view::npos &&
+           code[1] >= '1' && code[1] <= '3';
+}
+
+/// The component whose pure crystal is there, 0 for none.
+char PureCrystal(const clsMV& set) {
+    for (int n = 1; n <= set.ConstraintCount(); ++n) {
+        const std::string& code = set.CONSTRAINT(n);
+        if (code.size() == 3 && code.starts_with("Cp")) return code[2];
+    }
+    return '\0';
+}
+
+/// Of a liquid with a solid: whether it is looked at along the solid or along the vapour.
+std::string SolidContext(const clsMV& set, int gas) {
+    if (gas == 0) return "sle";
+    if (gas < 0 || set.PRPCODE == "P") return "vle";
+    if (set.PHASE1 != "L") return "sle";
+    const char component = PureCrystal(set);
+    if (IsComposition(set.PRPCODE))
+        return component != '\0' && set.PRPCODE[1] == component ? "sle" : "vle";
+    return component == '\0' ? "vle" : "sle";
+}
+
+} // namespace
+
+int clsMV::iSolid() const {
+    return Counted(Phases(), IsSolid);
+}
+
+int clsMV::iLiquid() const {
+    return Counted(Phases(), IsLiquidPhase);
+}
+
+int clsMV::iGas() const {
+    return Counted(Phases(), IsGas);
+}
+
+int clsMV::iFluid() const {
+    return Counted(Phases(), [](std::string_view phase) { return phase == "FL"; });
+}
+
+int clsMV::nPhases() const {
+    return static_cast<int>(Phases().size());
+}
+
+std::string clsMV::Context(bool* isKnown) const {
+    const int solid = iSolid();
+    int liquid = iLiquid();
+    int gas = iGas();
+    // A fluid stands for what lacks beside it.
+    if (liquid == 0)
+        liquid = iFluid();
+    else if (gas == 0)
+        gas = iFluid();
+    if (isKnown) *isKnown = true;
+    if (std::abs(liquid) == 1 && std::abs(gas) == 1 && solid == 0) return "vle";
+    if (std::abs(solid) == 1 && std::abs(gas) == 1 && liquid == 0) return "sub";
+    if (std::abs(liquid) > 1 && solid == 0) return "lle";
+    if (liquid != 0 && solid != 0) return SolidContext(*this, gas);
+    if (std::abs(solid) == 2 && liquid == 0) return "sse";
+    if (isKnown) *isKnown = nPhases() <= 1;
+    return {};
+}
+
+} // namespace vexora
