@@ -10,6 +10,9 @@
 #include "records/LineWriter.h"
 #include "records/Walk.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 
@@ -28,15 +31,53 @@ std::string WhySourceStays(const Record& record) {
     return isEmpty ? "" : Blocked;
 }
 
+/// The place of a compound in a mixture, 0 when it is no component.
+int ComponentOf(const clsM& mixture, const clsL& compound) {
+    for (int n = 1; n <= mixture.MixType; ++n)
+        if (mixture.RN(n) == compound.RN) return n;
+    return 0;
+}
+
 std::string WhyCompoundStays(const Record& record) {
     const auto& compound = static_cast<const clsL&>(record);
-    if (compound.recS.IsEmpty()) return {};
-    return "This compound cannot be deleted now\nA sample for this compound is described";
+    const std::string stays = "This compound cannot be deleted now\n";
+    if (!compound.recS.IsEmpty()) return stays + "A sample for this compound is described";
+    if (compound.Parent == nullptr) return {};
+    for (const auto& mixture : compound.Parent->recM)
+        if (ComponentOf(*mixture, compound) != 0)
+            return stays + "A mixture containing this compound is defined";
+    return {};
+}
+
+template <class Records>
+bool AnyOfSample(const Records& records, int component, const std::string& number) {
+    return std::any_of(records.begin(), records.end(),
+                       [&](const auto& record) { return record->SMPNM(component) == number; });
+}
+
+/// A property of a mixture was measured on this sample of a component.
+bool IsInMixture(const clsS& sample) {
+    const clsL* const compound = sample.Parent;
+    if (compound == nullptr || compound->Parent == nullptr) return false;
+    for (const auto& mixture : compound->Parent->recM) {
+        const int component = ComponentOf(*mixture, *compound);
+        if (component != 0 && (AnyOfSample(mixture->recMZ, component, sample.SMPNM) ||
+                               AnyOfSample(mixture->recMV, component, sample.SMPNM)))
+            return true;
+    }
+    return false;
 }
 
 std::string WhySampleStays(const Record& record) {
     const auto& sample = static_cast<const clsS&>(record);
-    return sample.recZ.IsEmpty() && sample.recTwo.IsEmpty() ? "" : Blocked;
+    if (!sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty()) return Blocked;
+    return IsInMixture(sample) ? "You cannot delete this record because properties of mixtures "
+                                 "containing this sample are present"
+                               : "";
+}
+
+std::string WhyMixtureStays(const Record& record) {
+    return static_cast<const clsM&>(record).HasData() ? Blocked : "";
 }
 
 struct DeletionRule {
@@ -52,6 +93,11 @@ constexpr DeletionRule Rules[] = {
     {"RLSZ"},
     {"RLS1"},
     {"RLS2"},
+    {"RM", WhyMixtureStays},
+    {"RMZ"},
+    {"RM1"},
+    {"RM2"},
+    {"RM3"},
 };
 
 const DeletionRule* RuleOf(std::string_view nodeKey) {
@@ -90,24 +136,42 @@ bool HasRows(const Record& record) {
     return set != nullptr && !set->recData.IsEmpty();
 }
 
-DeletedRecord::DeletedRecord(std::shared_ptr<Record> record)
-    : WasSaved(Globals().Saved), record_(std::move(record)) {
-    ui::TreeView& tree = *Globals().tvwTree;
-    nodePlace_ = tree.PlaceOf(*record_->tNode);
-    node_ = tree.Take(*record_->tNode);
-    place_ = record_->Leave();
+DeletedRecords::DeletedRecords(const std::vector<std::shared_ptr<Record>>& records)
+    : WasSaved(Globals().Saved) {
+    for (const auto& record : records) {
+        taken_.push_back({record, nullptr});
+        Take(taken_.back());
+    }
     rest_ = HashOfDocument();
 }
 
-bool DeletedRecord::IsLastChange() const {
+void DeletedRecords::Take(Taken& taken) {
+    ui::TreeView& tree = *Globals().tvwTree;
+    taken.nodePlace = tree.PlaceOf(*taken.record->tNode);
+    taken.node = tree.Take(*taken.record->tNode);
+    taken.place = taken.record->Leave();
+}
+
+bool DeletedRecords::Return(Taken& taken) {
+    if (!taken.record->Return(taken.place)) return false;
+    Globals().tvwTree->Put(std::move(taken.node), taken.nodePlace);
+    taken.record->Refresh(); // those above may bear other keys by now
+    return true;
+}
+
+bool DeletedRecords::IsLastChange() const {
     return HashOfDocument() == rest_;
 }
 
-ui::TreeNode* DeletedRecord::PutBack() {
-    if (!record_->Return(place_)) return nullptr;
-    Globals().tvwTree->Put(std::move(node_), nodePlace_);
-    record_->Refresh(); // those above may bear other keys by now
-    return record_->tNode;
+ui::TreeNode* DeletedRecords::PutBack() {
+    // Places were taken one after the other, so they hold on the way back.
+    for (std::size_t n = taken_.size(); n > 0; --n) {
+        if (Return(taken_[n - 1])) continue;
+        for (; n < taken_.size(); ++n)
+            Take(taken_[n]);
+        return nullptr;
+    }
+    return taken_.front().record->tNode;
 }
 
 } // namespace vexora

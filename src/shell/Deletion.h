@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "records/Record.h"
 #include "shell/KnownFile.h"
@@ -18,18 +19,19 @@ bool IsDeletable(std::string_view nodeKey);
 /// The record has rows of its own, about which the user is asked.
 bool HasRows(const Record& record);
 
-/// A record that was taken out of the document, with its node and all below it, as long as it may
-/// still be put back.
-class DeletedRecord {
+/// Records that were taken out of the document in one go, with their nodes and all below them, as
+/// long as they may still be put back.
+class DeletedRecords {
 public:
-    /// Takes it out of collection and tree. The document must show it.
-    explicit DeletedRecord(std::shared_ptr<Record> record);
+    /// Takes them out of collection and tree. There is at least one, and the document must show
+    /// them all.
+    explicit DeletedRecords(const std::vector<std::shared_ptr<Record>>& records);
 
-    /// Puts it back at its old place; null, and nothing happens, when another record has its number
-    /// by now. To be called once.
+    /// Puts them back at their old places, the answer is the node of the first; null, and nothing
+    /// happens, when another record has the number of one by now. To be called once.
     ui::TreeNode* PutBack();
 
-    const Record& What() const { return *record_; }
+    const Record& What() const { return *taken_.front().record; }
     /// The document says what it said after the deletion: nothing has been done since.
     bool IsLastChange() const;
 
@@ -39,11 +41,17 @@ public:
     bool WasDocument = false; // the source went, and the document with it
 
 private:
-    std::shared_ptr<Record> record_;
-    std::unique_ptr<ui::TreeNode> node_;
-    std::size_t place_ = 0;     // among the records, from 1
-    std::size_t nodePlace_ = 0; // among the nodes, from 0
-    std::size_t rest_ = 0;      // what the rest of the document says, as a hash
+    struct Taken {
+        std::shared_ptr<Record> record;
+        std::unique_ptr<ui::TreeNode> node;
+        std::size_t place = 0;     // among the records, from 1
+        std::size_t nodePlace = 0; // among the nodes, from 0
+    };
+    static void Take(Taken& taken);
+    static bool Return(Taken& taken);
+
+    std::vector<Taken> taken_;
+    std::size_t rest_ = 0; // what the rest of the document says, as a hash
 };
 
 } // namespace vexora

@@ -8,6 +8,7 @@
 #include "records/DataSet.h"
 #include "records/SingleValue.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsR.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
@@ -117,12 +118,18 @@ std::string NodeFilter::TextOf(const ui::TreeNode& node) {
             text += VariableText(data.VARIABLE(n), data.VAR_UNIT(n), data.DataContext());
         add(CommentText(data.Header, data.PRPCODE));
     };
+    const auto addCompound = [&](const clsL& compound) {
+        for (const std::string& part : {compound.Name, compound.Formula, compound.RN})
+            add(part);
+        if (compound.RN.size() > 3) add(DashedRegistryNumber(compound.RN));
+    };
     if (const auto* source = dynamic_cast<const clsR*>(tag.get())) {
         add(source->TTITLE);
     } else if (const auto* compound = dynamic_cast<const clsL*>(tag.get())) {
-        for (const std::string& part : {compound->Name, compound->Formula, compound->RN})
-            add(part);
-        if (compound->RN.size() > 3) add(DashedRegistryNumber(compound->RN));
+        addCompound(*compound);
+    } else if (const auto* mixture = dynamic_cast<const clsM*>(tag.get())) {
+        for (int n = 1; n <= mixture->MixType; ++n)
+            if (const auto component = mixture->Component(n)) addCompound(*component);
     } else if (const auto* value = dynamic_cast<const SingleValue*>(tag.get())) {
         addProperty(*value, value->VariableCount());
     } else if (const auto* set = dynamic_cast<const DataSet*>(tag.get())) {

@@ -16,7 +16,7 @@ namespace vexora {
 class DocumentAside;
 struct Outline;
 struct ReadResult;
-class DeletedRecord;
+class DeletedRecords;
 class Record;
 
 /// The main form: the open document as a tree, the toolbar that offers what the selected node
@@ -182,7 +182,7 @@ private:
     void EndFind();
     std::vector<ui::Captioned*> OffersOfNode();
 
-    std::unique_ptr<DeletedRecord> deleted_; // the last one, until the next deletion or save
+    std::unique_ptr<DeletedRecords> deleted_; // the last one, until the next deletion or save
 };
 
 } // namespace vexora

@@ -1,7 +1,8 @@
 // Deleting the record of the selected node, and putting the last one back.
 
 #include "globals/KVOGlobal.h"
-#include "records/Record.h"
+#include "records/TiedSets.h"
+#include "records/clsMV.h"
 #include "shell/Deletion.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -11,6 +12,24 @@ namespace vexora {
 void frmMain::mnuDelete_Click() {
     if (HasMouseSelection()) DeleteNode();
 }
+
+namespace {
+
+/// What is to go with the record of the node: the other sets of its tie lines, if that is wished.
+std::vector<std::shared_ptr<Record>> WithTiedSets(const std::shared_ptr<Record>& record) {
+    auto* const set = dynamic_cast<clsMV*>(record.get());
+    std::vector<std::shared_ptr<Record>> group = {record};
+    if (set == nullptr || !set->IsTied()) return group;
+    const auto tied = TiedSets(*set);
+    if (tied.size() > 1 && ui::AskYesNo("This data set is tied with other data sets.\n"
+                                        "Do you want to delete all tied sets?")) {
+        for (const auto& other : tied)
+            if (other != record) group.push_back(other);
+    }
+    return group;
+}
+
+} // namespace
 
 /// Only what nothing else refers to goes, after a question.
 bool frmMain::MayDelete(const Record& record) {
@@ -29,8 +48,11 @@ void frmMain::DeleteNode() {
     const ui::TreeNode* node = tvwTree.SelectedNode();
     if (globals.ShellLocked || node == nullptr || !IsDeletable(globals.CurrentKey)) return;
     const auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock());
-    if (!record || RefuseReadOnly() || !MayDelete(*record)) return;
-    auto deleted = std::make_unique<DeletedRecord>(record);
+    if (!record || RefuseReadOnly()) return;
+    std::vector<std::shared_ptr<Record>> group = WithTiedSets(record);
+    std::erase_if(group, [](const auto& one) { return !MayDelete(*one); });
+    if (group.empty()) return;
+    auto deleted = std::make_unique<DeletedRecords>(group);
     deleted->FileName = FileName;
     deleted->Known = known_;
     deleted->WasDocument = globals.recR.IsEmpty();

@@ -4,7 +4,8 @@
 #include <iterator>
 
 #include "globals/KVOGlobal.h"
-#include "records/Record.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -18,7 +19,17 @@ struct EditRule {
     std::string_view nodeKey;
     std::string_view dialog;
     bool KVOGlobal::*flag;
+    void (*prepare)() = nullptr; // done first
 };
+
+/// The dialogs of mixtures look up what they offer by the property in hand.
+void TakePropertyOfMixtureValue() {
+    Globals().PropertyCode = Globals().CurrentMZ->PRPCODE;
+}
+
+void TakePropertyOfMixtureSet() {
+    Globals().PropertyCode = Globals().CurrentMV->PRPCODE;
+}
 
 constexpr EditRule EditRules[] = {
     {"R", "frmDocument", &KVOGlobal::EditSource},
@@ -28,6 +39,10 @@ constexpr EditRule EditRules[] = {
     {"RLS1", "frmTwo", &KVOGlobal::EditTwo},
     {"RLS2", "frmTwo", &KVOGlobal::EditTwo},
     {"RXS1", "frmTwo", &KVOGlobal::EditTwo},
+    {"RMZ", "frmMixtSingle", &KVOGlobal::EditMixtSingle, TakePropertyOfMixtureValue},
+    {"RM1", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
+    {"RM2", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
+    {"RM3", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
     {"RQ", "frmReact", &KVOGlobal::EditReaction},
     {"RX", "frmComplex", &KVOGlobal::EditComplex},
     {"RXS", "frmComplexSample", &KVOGlobal::EditComplexSample},
@@ -82,6 +97,7 @@ void frmMain::EditNode() {
     if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
     RenewCurrentMethod();
     globals.DialogAccepted = false;
+    if (rule->prepare != nullptr) rule->prepare();
     {
         const EditScope editing(globals.*rule->flag);
         ui::Forms::Current().Get(rule->dialog).ShowModal();

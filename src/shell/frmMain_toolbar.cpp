@@ -4,6 +4,7 @@
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
@@ -56,9 +57,19 @@ bool CheckSampleForReaction() {
     return false;
 }
 
+/// What is measured on a mixture is measured on a sample of each component.
+bool CheckSamplesOfMixture() {
+    const auto& mixture = Globals().CurrentM;
+    if (mixture && mixture->CheckSamples()) return true;
+    ui::Say("A SAMPLE description for all mixture components must be provided first",
+            "SAMPLE description needed");
+    return false;
+}
+
 /// The table to process is chosen first.
 bool ChooseTable() {
     KVOGlobal& globals = Globals();
+    if (globals.CurrentKey == "RM" && !CheckSamplesOfMixture()) return false;
     globals.DialogAccepted = false;
     ui::Forms::Current().Get("frmSelect").ShowModal();
     if (globals.DialogAccepted) globals.Saved = false;
@@ -79,7 +90,7 @@ constexpr Offer Offers[] = {
     {"RX", "AddReact", "frmReact", "React", "", nullptr, CheckSampleForReaction},
     {"RLS", "AddProp", "frmProperty", "Pure"},
     {"RLS", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
-    {"RM", "AddProp", "frmProperty", "", "frmMixtSingle"},
+    {"RM", "AddProp", "frmProperty", "", "frmMixtSingle", nullptr, CheckSamplesOfMixture},
     {"RM", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
     {"RQ", "AddProp", "frmProperty", "", "frmChanged"},
     {"RXS", "AddProp", "frmCrStruct"},
