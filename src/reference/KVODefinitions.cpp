@@ -71,6 +71,15 @@ constexpr std::array<CodeText, 4> ExperimentPurposes{{
     {"Determined for identification of a synthesized compound", "D"},
 }};
 
+constexpr std::array<CodeText, 6> MixtureSolvents{{
+    {"component 1", "1"},
+    {"component 2", "2"},
+    {"component 3", "3"},
+    {"component 1 + component 2", "C"},
+    {"component 1 + component 3", "D"},
+    {"component 2 + component 3", "E"},
+}};
+
 constexpr std::array<CodeText, 5> StandardStates{{
     {"Pure compound", "P"},
     {"Pure liquid solute", "L"},

@@ -50,8 +50,10 @@ extern const std::array<CodeText, 3> ReferenceRelations;
 extern const std::array<CodeText, 6> SourceKinds;
 /// Purpose of the experiment, `EXPPURPOSE`; first row blank.
 extern const std::array<CodeText, 4> ExperimentPurposes;
-/// Standard states of a reaction's solute.
+/// Standard states of a solute, in a reaction or a mixture.
 extern const std::array<CodeText, 5> StandardStates;
+/// The solvent of a mixture: a component, or two of three, which leaves the third as the solute.
+extern const std::array<CodeText, 6> MixtureSolvents;
 /// Statements about a value: the four of `PRPFLAG` in bit order (no codes), and the lettered ones.
 /// The first ones are bits of a number in the header of a record, the others tags in its comment.
 extern const std::array<CodeText, 4> ValueStatements;

@@ -3,12 +3,16 @@
 #include "chem/CommentTags.h"
 #include "compounds/RegistryNumber.h"
 #include "globals/KVOGlobal.h"
+#include "records/MixtureWords.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
 #include "records/StatedUncertainty.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
@@ -38,7 +42,7 @@ std::string AuthorsOf(const clsR& source) {
 }
 
 /// What is stated about the uncertainty of a value, the most telling statement first.
-std::string UncertaintyText(const clsZ& value) {
+std::string UncertaintyText(const SingleValue& value) {
     const clsX stated = value.Statements(0);
     const auto with = [](const std::string& text, const std::string& level) {
         return IsBlankField(level) ? text : text + " (" + level + " % confidence)";
@@ -50,14 +54,14 @@ std::string UncertaintyText(const clsZ& value) {
     return IsBlankField(value.PRECIS) ? std::string() : std::string(value.PRECIS);
 }
 
-std::string ValueText(const clsZ& value) {
+std::string ValueText(const SingleValue& value) {
     const std::string text = NumberWithUnit(value.PRPVALUE, PropertyLabels::Of(value).unit);
     const std::string uncertainty = UncertaintyText(value);
     return uncertainty.empty() ? text : text + " \xC2\xB1 " + uncertainty;
 }
 
 /// The value in the system unit, where it was entered in another one.
-std::string ConvertedText(const clsZ& value) {
+std::string ConvertedText(const SingleValue& value) {
     const std::string unit = DefaultUnit(PropertyName(value.PRPCODE, value.DataContext()));
     if (PropertyLabels::Of(value).unit == unit || !IsNumeric(value.PRPVALUE)) return {};
     const UnitConversion entered = value.PropertyConversion();
@@ -85,6 +89,7 @@ std::string ReadingOf(const clsR& source) {
     page.Line("Published in:", Replace(Replace(source.SSOURCE, "@", ""), "$", ""));
     page.Line("Authors:", AuthorsOf(source));
     page.Line("Compounds:", std::to_string(source.recL.Count()));
+    if (!source.recM.IsEmpty()) page.Line("Mixtures:", std::to_string(source.recM.Count()));
     if (!source.isNew) page.Item("This source stands in the reference database; it is not edited.");
     page.Need(source.recL.IsEmpty(), "A compound");
     page.Need(source.isNew && source.TTITLE.empty(), "The title");
@@ -139,6 +144,21 @@ std::string ReadingOf(const clsS& sample) {
     return page.Html();
 }
 
+/// What is told of every single value behind what its class tells.
+void DescribeRest(ReadingPage& page, const SingleValue& value) {
+    page.Line("Method:", MethodText(value.Header, value.PRPCODE));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes, value.Header.EXPPURPOSE));
+    page.Line("Comment:", CommentTags(value.Header.DATACOMMENT).Text());
+    page.Line("Set:", value.PRPSETNO);
+    page.Line("Entered:", value.Header.DATEADDED);
+    page.Need(!StatesUncertainty(value), "A statement of uncertainty");
+}
+
+std::string PropertyInWords(const clsMZ& value) {
+    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
+    return WithComponents(name.empty() ? value.PRPCODE.View() : name, value.Parent);
+}
+
 std::string ReadingOf(const clsZ& value) {
     const std::string name = PropertyName(value.PRPCODE, value.DataContext());
     ReadingPage page(name.empty() ? value.PRPCODE.View() : name);
@@ -150,12 +170,46 @@ std::string ReadingOf(const clsZ& value) {
     page.Line("Phase:", PhaseText(value.PHASE1));
     page.Line("In equilibrium with:", PhaseText(value.PhaseBeside()));
     page.Line("And with:", PhaseText(value.PHASE3));
-    page.Line("Method:", MethodText(value.Header, value.PRPCODE));
-    page.Line("Purpose:", TextOfCode(ExperimentPurposes, value.Header.EXPPURPOSE));
-    page.Line("Comment:", CommentTags(value.Header.DATACOMMENT).Text());
-    page.Line("Set:", value.PRPSETNO);
-    page.Line("Entered:", value.Header.DATEADDED);
-    page.Need(!StatesUncertainty(value), "A statement of uncertainty");
+    DescribeRest(page, value);
+    return page.Html();
+}
+
+std::string ReadingOf(const clsM& mixture) {
+    ReadingPage page(mixture.ShowKey());
+    for (int n = 1; n <= mixture.MixType; ++n) {
+        const auto compound = mixture.Component(n);
+        page.Line("Component " + std::to_string(n) + ":",
+                  compound ? compound->ShowKey() : mixture.RN(n));
+    }
+    page.Line("Holds:", Counted(mixture.recMZ.Count(), "single value", "single values") + ", " +
+                            Counted(mixture.recMV.Count(), "data set", "data sets"));
+    for (const auto& value : mixture.recMZ)
+        page.Line(PropertyInWords(*value) + ":", ValueText(*value));
+    for (const auto& set : mixture.recMV)
+        page.Line(FirstCapital(QuantityInWords(*set, 0)) + ":",
+                  Counted(set->recData.Count(), "row", "rows"));
+    page.Need(!mixture.CheckSamples(), "A sample of each component");
+    page.Need(!mixture.HasData(), "Data: without them the mixture is not saved");
+    return page.Html();
+}
+
+std::string ReadingOf(const clsMZ& value) {
+    ReadingPage page(PropertyInWords(value));
+    page.Line("Mixture:", value.SystemName());
+    page.Line("Value:", ValueText(value));
+    page.Line("In system units:", ConvertedText(value));
+    std::string phases;
+    for (const std::string& phase : value.Phases())
+        phases += (phases.empty() ? "" : " + ") + PhaseText(phase);
+    page.Line("Phases:", phases);
+    const CommentTags tags(value.Header.DATACOMMENT);
+    for (const auto& [code, what, unit] :
+         {std::array{"T", "At temperature:", "K"}, std::array{"P", "At pressure:", "kPa"}})
+        if (const std::string constant = tags.Constant(code); !constant.empty())
+            page.Line(what, NumberWithUnit(constant, unit));
+    for (int n = 1; n <= value.MixType; ++n)
+        page.Line("Sample of component " + std::to_string(n) + ":", value.SMPNM(n));
+    DescribeRest(page, value);
     return page.Html();
 }
 
@@ -166,7 +220,10 @@ const ByClass<std::string>& Readings() {
                                      .On<clsL>([](const clsL& one) { return ReadingOf(one); })
                                      .On<clsS>([](const clsS& one) { return ReadingOf(one); })
                                      .On<clsZ>([](const clsZ& one) { return ReadingOf(one); })
-                                     .On<clsTwo>(ReadingOfSet);
+                                     .On<clsTwo>(ReadingOfSet)
+                                     .On<clsM>([](const clsM& one) { return ReadingOf(one); })
+                                     .On<clsMZ>([](const clsMZ& one) { return ReadingOf(one); })
+                                     .On<clsMV>(ReadingOfMixtureSet);
     return readings;
 }
 

@@ -1,10 +1,13 @@
 #include "shell/SetReading.h"
 
 #include "chem/CommentTags.h"
+#include "records/MixtureWords.h"
 #include "records/Presentation.h"
 #include "records/PropertyLabels.h"
 #include "records/StateRules.h"
 #include "records/StatedUncertainty.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
 #include "records/clsTwo.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
@@ -71,20 +74,30 @@ std::string PropertyUnitText(const DataSet& set) {
 std::string DefinitionText(const DataSet& set) {
     const std::string& code = set.PROPERTY_FUNCT;
     if (code == "DIR") return {};
-    const std::string whole = TextOfCode(PureReferenceStates, code);
+    const bool isPure = set.DataContext() == "Pure";
+    const CodeTexts states = isPure ? CodeTexts(PureReferenceStates) : MixtureReferenceStates;
+    const std::string whole = TextOfCode(states, code);
     if (!whole.empty() || code.size() < 2) return whole.empty() ? code : whole;
     const ResultDefinition definition = set.Definition();
     const std::string relation = TextOfCode(ReferenceRelations, definition.function);
-    const std::string reference = TextOfCode(PureReferenceStates, definition.relation);
+    const std::string reference = TextOfCode(states, definition.relation);
     return relation.empty() ? code : relation + "; " + reference;
+}
+
+/// Variable n in words, with a small first letter.
+std::string VariableInWords(const DataSet& set, int n) {
+    if (const auto* const mixtureSet = dynamic_cast<const clsMV*>(&set))
+        return QuantityInWords(*mixtureSet, n);
+    const std::string name = VariableName(set.VARIABLE(n), set.DataContext());
+    return LowerAscii(name.empty() ? set.VARIABLE(n) : name);
 }
 
 void DescribeRows(ReadingPage& page, const DataSet& set) {
     for (int n = 1; n <= set.nVar; ++n) {
-        const std::string name = VariableName(set.VARIABLE(n), set.DataContext());
-        const std::string range = WithUnitIfAny(RangeOf(set, n), VariableUnitText(set, n));
-        page.Line("Against " + LowerAscii(name.empty() ? set.VARIABLE(n) : name) + ":",
-                  range.empty() ? VariableUnitText(set, n) : range);
+        const std::string unit = VariableUnitText(set, n);
+        const std::string range = WithUnitIfAny(RangeOf(set, n), unit);
+        page.Line("Against " + VariableInWords(set, n) + ":",
+                  range.empty() && unit != "1" ? unit : range);
     }
     const std::string unit = PropertyUnitText(set);
     const std::string range = WithUnitIfAny(RangeOf(set, 0), unit);
@@ -114,6 +127,26 @@ void DescribeConstants(ReadingPage& page, const clsTwo& set) {
                       PhaseText(set.REF_PHASE)}));
 }
 
+/// The same of a mixture, whose constants stand in its definition.
+void DescribeConstants(ReadingPage& page, const clsMV& set) {
+    for (const HeldConstant& constant : set.Constants()) {
+        const std::string name = QuantityInWords(set, constant.item);
+        const std::string unit = UnitText(UnitOfVariable(constant.code), constant.unit, 0);
+        if (constant.value.empty())
+            page.Line("Along the:", name);
+        else
+            page.Line("Constant " + name + ":", NumberWithUnit(constant.value, unit));
+    }
+    const auto stated = [](const std::string& value, const std::string& unit) {
+        return IsBlankField(value) ? std::string() : NumberWithUnit(value, unit);
+    };
+    page.Line("Solvent:", WithComponents(TextOfCode(MixtureSolvents, set.SOLVENT), set.Parent));
+    page.Line("Standard state:", TextOfCode(StandardStates, set.STANDARD_STATE));
+    page.Line("Reference state:",
+              Listed({stated(set.REFERENCE_TEMPERATURE, "K"), stated(set.REFERENCE_PRESSURE, "kPa"),
+                      PhaseText(set.REFERENCE_PHASE)}));
+}
+
 /// How the numbers came about, and in what other forms the source has them.
 void DescribePresentation(ReadingPage& page, const DataSet& set) {
     const Presentation presentation = Presentation::Of(set.DATATYPE);
@@ -125,6 +158,16 @@ void DescribePresentation(ReadingPage& page, const DataSet& set) {
 
 } // namespace
 
+/// What is told of every set behind what its class tells.
+void DescribeRest(ReadingPage& page, const DataSet& set) {
+    page.Line("Method:", MethodText(set.Header, set.PRPCODE));
+    page.Line("Purpose:", TextOfCode(ExperimentPurposes, set.Header.EXPPURPOSE));
+    page.Line("Comment:", CommentTags(set.Header.DATACOMMENT).Text());
+    page.Line("Set:", set.PRPSETNO);
+    page.Line("Entered:", set.Header.DATEADDED);
+    page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");
+}
+
 std::string ReadingOfSet(const clsTwo& set) {
     const std::string name = PropertyName(set.PRPCODE, set.DataContext());
     ReadingPage page(name.empty() ? set.PRPCODE : name);
@@ -135,14 +178,28 @@ std::string ReadingOfSet(const clsTwo& set) {
     page.Line("Constraint:", TextOfCode(ConstraintKinds, set.CONSTRAINT));
     page.Line("Phase:", PhaseText(set.PHASE1));
     page.Line("In equilibrium with:", PhaseText(set.PHASE2));
-    page.Line("Method:", MethodText(set.Header, set.PRPCODE));
-    page.Line("Purpose:", TextOfCode(ExperimentPurposes, set.Header.EXPPURPOSE));
-    page.Line("Comment:", CommentTags(set.Header.DATACOMMENT).Text());
-    page.Line("Set:", set.PRPSETNO);
-    page.Line("Entered:", set.Header.DATEADDED);
-    page.Need(set.recData.IsEmpty() && Presentation::Of(set.DATATYPE).HasNumbers(), "Rows");
+    DescribeRest(page, set);
     for (const std::string& unstated : UnstatedOf(set))
         page.Need(true, "The " + unstated);
+    page.Need(!StatesUncertainty(set), "A statement of uncertainty");
+    return page.Html();
+}
+
+std::string ReadingOfMixtureSet(const clsMV& set) {
+    ReadingPage page(FirstCapital(QuantityInWords(set, 0)));
+    page.Line("Mixture:", set.SystemName());
+    for (int n = 1; n <= set.MixType; ++n)
+        page.Line("Sample of component " + std::to_string(n) + ":", set.SMPNM(n));
+    std::string phases;
+    for (const std::string& phase : set.Phases())
+        phases += (phases.empty() ? "" : " + ") + PhaseText(phase);
+    page.Line(set.nPhases() > 1 ? "Phases:" : "Phase:", phases);
+    DescribeRows(page, set);
+    page.Line("Results are:", DefinitionText(set));
+    DescribePresentation(page, set);
+    DescribeConstants(page, set);
+    if (set.IsTied()) page.Item("Its rows are parts of tie lines.");
+    DescribeRest(page, set);
     page.Need(!StatesUncertainty(set), "A statement of uncertainty");
     return page.Html();
 }
