@@ -12,6 +12,9 @@ namespace {
 constexpr std::array<std::string_view, 13> Classes{
     {"NN", "FF", "GG", "DD", "HH", "AA", "YY", "PP", "EE", "II", "WW", "ZZ", "XX"}};
 
+// Contexts of a property: the phases in pairs, as sets of mixtures tell them apart.
+constexpr std::array<std::string_view, 5> Equilibria{{"vle", "lle", "sle", "sse", "sub"}};
+
 bool IsForPure(const TableRows& row) {
     return row.Flag("Single") || row.Flag("Fixed") || row.Flag("One") || row.Flag("Two");
 }
@@ -84,9 +87,9 @@ void CheckEquilibriumCode(TableRows& row, const std::string& code) {
 
 void CheckContext(TableRows& row) {
     const std::string context = row.Text("CONTEXT");
-    row.Expect(context.empty() || context == "lle" || context == "sle" || context == "vle",
+    row.Expect(context.empty() || std::ranges::find(Equilibria, context) != Equilibria.end(),
                Quoted(context) + " is no kind of phase equilibrium");
-    if (context != "lle" && context != "sle") return;
+    if (context != "lle" && context != "sle" && context != "sse") return;
     const std::string group = XMLPropertyGroup(row.Text("Code"), "Bin", context);
     row.Expect(group == "PhaseTransition", "the row for " + context + " is exported as " +
                                                Quoted(group) + ", not as a phase transition");

@@ -9,7 +9,8 @@
 // until then. Compounds are not kept; they are asked of the database each time.
 //
 // Context words are "Pure", "Bin", "Tern", "React" and "Complex" (offered what "Pure" is offered).
-// Property contexts are "", "lle", "sle", "vle": variants of one property by kind of equilibrium.
+// Property contexts are "", "vle", "lle", "sle", "sse", "sub": variants of one property by kind of
+// equilibrium (vapor, liquid, solid; sub is solid and gas).
 #pragma once
 
 #include <cstdint>

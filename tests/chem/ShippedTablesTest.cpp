@@ -120,6 +120,19 @@ TEST_F(ShippedTables, PerCentIsAUnitOfFractionsOnly) {
     EXPECT_EQ(ToSystem(ConversionCodeOf("per cent", "1"), 12.5, 0, 0), 0.125);
 }
 
+TEST_F(ShippedTables, EquilibriaOfAMixtureHaveNamesOfTheirOwn) {
+    const std::string boiling = "Boiling temperature at pressure P, K";
+    const std::string transition = "Phase transition temperature, K";
+    const std::string vapor = "Vapor or sublimation pressure, kPa";
+    for (const char* context : {"Bin", "Tern"}) {
+        EXPECT_EQ(XMLPropertyName("T", context, "vle"), boiling);
+        EXPECT_EQ(XMLPropertyName("T", context, "sse"), transition);
+        EXPECT_EQ(XMLPropertyName("T", context, "sub"), transition);
+        EXPECT_EQ(XMLPropertyName("P", context, "sub"), vapor);
+        EXPECT_EQ(XMLPropertyGroup("P", context, "sse"), "PhaseTransition");
+    }
+}
+
 /// A code or a text that is given must be known, and a pair must belong together.
 bool Fits(const std::string& code, const std::string& text, const std::string& textOfCode,
           const std::string& codeOfText) {
