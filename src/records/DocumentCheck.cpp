@@ -7,6 +7,9 @@
 #include "records/RecordChecks.h"
 #include "records/Walk.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
@@ -22,7 +25,10 @@ const ByClass<void, Findings&>& Checks() {
                                    .On<clsL>(CheckCompound)
                                    .On<clsS>(CheckSample)
                                    .On<clsZ>(CheckValue)
-                                   .On<clsTwo>(CheckSet);
+                                   .On<clsTwo>(CheckSet)
+                                   .On<clsM>(CheckMixture)
+                                   .On<clsMZ>(CheckMixtureValue)
+                                   .On<clsMV>(CheckMixtureSet);
     return checks;
 }
 

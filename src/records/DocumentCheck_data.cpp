@@ -18,14 +18,6 @@ namespace vexora {
 
 namespace {
 
-void CheckPhases(std::initializer_list<std::string> phases, Remarks& remarks) {
-    for (const std::string& phase : phases) {
-        if (!IsBlankField(phase) && !PhaseValid(phase)) remarks.Error("Unknown phase " + phase);
-    }
-    // The first is the phase that was measured; others need not be there.
-    if (IsBlankField(*phases.begin())) remarks.Error("No phase is given");
-}
-
 /// What nature does not allow is an error, what is rarely met a warning.
 void CheckLimits(const std::string& code, double system, Remarks& remarks,
                  const std::string& name) {
@@ -76,6 +68,13 @@ struct RowFindings {
     RowTally noNumber, invalid, suspicious;
 };
 
+/// Variables of a mixture bear the number of their component, those of a pure compound none.
+bool IsVariableOf(const DataSet& set, const std::string& code) {
+    if (set.DataContext() == "Pure") return VariableValid(code);
+    const VariableRow* const row = FindVariable(code);
+    return row && row->Offered.IsIn(set.DataContext());
+}
+
 // Quantity n of all rows. Differences and ratios have no limits.
 void CheckColumn(const DataSet& set, int n, const std::string& name, Remarks& remarks) {
     const bool hasLimits = n > 0 || set.Relation() == "A";
@@ -106,7 +105,16 @@ void CheckUnit(const DataSet& set, int n, const std::string& name, Remarks& rema
         remarks.Error(name + ": " + fault);
 }
 
-/// What all kinds of sets are checked for, once their own line has been.
+} // namespace
+
+void CheckPhases(const std::vector<std::string>& phases, Remarks& remarks) {
+    for (const std::string& phase : phases) {
+        if (!IsBlankField(phase) && !PhaseValid(phase)) remarks.Error("Unknown phase " + phase);
+    }
+    // The first is the phase that was measured; others need not be there.
+    if (phases.empty() || IsBlankField(phases.front())) remarks.Error("No phase is given");
+}
+
 void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
     if (!set.Definition().IsKnown())
         remarks.Error(name + ": unknown definition of results " + set.PROPERTY_FUNCT);
@@ -116,14 +124,27 @@ void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
         CheckMarks(stated, name, remarks);
     CheckUnit(set, 0, name, remarks);
     for (int n = 1; n <= set.nVar; ++n) {
-        if (VariableValid(set.VARIABLE(n)))
+        if (IsVariableOf(set, set.VARIABLE(n)))
             CheckUnit(set, n, name + ", " + LowerAscii(VariableName(set.VARIABLE(n))), remarks);
         else
             remarks.Error(name + ": unknown variable " + set.VARIABLE(n));
     }
 }
 
-} // namespace
+void CheckFigures(const SingleValue& value, const std::string& name, Remarks& remarks) {
+    for (int n = 0; n <= value.VariableCount(); ++n)
+        CheckMarks(value.Statements(n), name, remarks);
+    const std::string fault = UnitFault(value.PropertyConversion());
+    if (!IsNumeric(value.PRPVALUE)) {
+        remarks.Error(name + ": the value is no number: " + value.PRPVALUE);
+    } else if (!fault.empty()) {
+        remarks.Error(name + ": " + fault);
+    } else if (value.NeedsMolarMass() && value.MolarMass() <= 0) {
+        remarks.Error(name + ": the molar mass of the compound is not known");
+    } else {
+        CheckLimits(value.PRPCODE, value.SystemValue(), remarks, name);
+    }
+}
 
 SystemColumn::SystemColumn(const DataSet& set, int n)
     : set_(set), n_(static_cast<std::size_t>(n)),
@@ -143,18 +164,7 @@ void CheckValue(const clsZ& value, Findings& findings) {
     const std::string name = PropertyName(value.PRPCODE, value.DataContext());
     CheckPhases({value.PHASE1, value.PHASE2, value.PHASE3}, remarks);
     if (value.nVar == 1) CheckVariable(value, remarks, name);
-    for (int n = 0; n <= value.nVar; ++n)
-        CheckMarks(value.Statements(n), name, remarks);
-    const std::string fault = UnitFault(value.PropertyConversion());
-    if (!IsNumeric(value.PRPVALUE)) {
-        remarks.Error(name + ": the value is no number: " + value.PRPVALUE);
-    } else if (!fault.empty()) {
-        remarks.Error(name + ": " + fault);
-    } else if (value.NeedsMolarMass() && value.MolarMass() <= 0) {
-        remarks.Error(name + ": the molar mass of the compound is not known");
-    } else {
-        CheckLimits(value.PRPCODE, value.SystemValue(), remarks, name);
-    }
+    CheckFigures(value, name, remarks);
     CheckStatements(value, true, name, remarks);
 }
 

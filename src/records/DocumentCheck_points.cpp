@@ -35,8 +35,20 @@ public:
             if (IsNumeric(constant))
                 state_[std::string(quantity.code)].constant = KeyOfNumber(Val(constant));
         }
-        for (int n = 1; n <= set.nVar; ++n)
-            state_[set.VARIABLE(n)].variable.emplace(set, n);
+        // In a mixture a content of the liquid is not one of the gas.
+        for (const HeldConstant& constant : set.Constants()) {
+            const UnitConversion entered{constant.unit, 0, 0, UnitOfVariable(constant.code)};
+            if (IsNumeric(constant.value))
+                state_[constant.code + " " + constant.phase].constant =
+                    KeyOfNumber(entered.Absolute(Val(constant.value)));
+            else
+                state_[constant.code].constant = "-"; // a critical curve
+        }
+        const bool namesPhases = set.DataContext() != "Pure";
+        for (int n = 1; n <= set.nVar; ++n) {
+            const std::string phase = namesPhases ? " " + set.PhaseFor(n) : std::string();
+            state_[set.VARIABLE(n) + phase].variable.emplace(set, n);
+        }
     }
     /// Empty for a row with a value that is no number or cannot be converted.
     std::string Of(const clsData& row) const {

@@ -11,10 +11,14 @@
 
 #include "records/DataSet.h"
 #include "records/DocumentCheck.h"
+#include "records/SingleValue.h"
 
 namespace vexora {
 
 class clsL;
+class clsM;
+class clsMV;
+class clsMZ;
 class clsR;
 class clsS;
 class clsTwo;
@@ -81,6 +85,18 @@ void CheckCompound(const clsL& compound, Findings& findings);
 void CheckSample(const clsS& sample, Findings& findings);
 void CheckValue(const clsZ& value, Findings& findings);
 void CheckSet(const clsTwo& set, Findings& findings);
+void CheckMixture(const clsM& mixture, Findings& findings);
+void CheckMixtureValue(const clsMZ& value, Findings& findings);
+void CheckMixtureSet(const clsMV& set, Findings& findings);
+
+// What all kinds of values and sets are checked for.
+
+/// Phases that no table knows, and none in the first place, which is the one that was measured.
+void CheckPhases(const std::vector<std::string>& phases, Remarks& remarks);
+/// Value, unit and marks of statements.
+void CheckFigures(const SingleValue& value, const std::string& name, Remarks& remarks);
+/// Definition of results, statements, units and rows, once the line of the set has been checked.
+void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks);
 
 /// Names the sets right below the owner that repeat points of a set before them: the same property
 /// of the same phases, at the same state with the same value, in whatever units.
