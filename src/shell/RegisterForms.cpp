@@ -2,6 +2,7 @@
 
 #include "compounds/CompoundForms.h"
 #include "entry/EntryForms.h"
+#include "mixtures/MixtureForms.h"
 #include "plot/PlotForms.h"
 #include "pure/PureForms.h"
 #include "shell/frmCheck.h"
@@ -22,6 +23,7 @@ void RegisterForms(ui::Forms& forms) {
     RegisterCompoundForms(forms);
     RegisterEntryForms(forms);
     RegisterPureForms(forms);
+    RegisterMixtureForms(forms);
     RegisterTableForms(forms);
     RegisterPlotForms(forms);
 }

@@ -1,0 +1,7 @@
+#include "mixtures/MixtureForms.h"
+
+namespace vexora {
+
+void RegisterMixtureForms(ui::Forms&) {}
+
+} // namespace vexora
