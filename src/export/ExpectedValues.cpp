@@ -61,7 +61,7 @@ bool ExpectedValues::Next() {
     }
     while (next_ != set_->recData.end()) {
         row_ = next_++;
-        if (IsNumericRow(*row_)) return true;
+        if (rows_->IsExported(*row_)) return true;
     }
     return false;
 }

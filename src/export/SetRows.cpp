@@ -98,6 +98,7 @@ void AnnounceRows(const DataSet& set, SetRows& rows) {
 }
 
 constexpr const char* NoValidRows = "Rows without a valid number in ";
+constexpr const char* NoMolarMass = "Unable to calculate average molar mass";
 constexpr const char* NoRepeatability = "Missing repeatability in ";
 
 } // namespace
@@ -112,7 +113,7 @@ bool IsWithoutNumbers(const DataSet& set) {
     return set.recData.IsEmpty() && !Presentation::Of(set.DATATYPE).HasNumbers();
 }
 
-SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
+SetRows::SetRows(const DataSet& ofSet) : set(ofSet), byRow(ofSet.ConvertsByRow()) {
     quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0], false};
     // A difference of temperatures in degrees Celsius is one in kelvin.
     quantities[0].unit.difference = set.Relation() == "D";
@@ -133,8 +134,13 @@ ExportUnit SetRows::UnitIn(const clsData& row, int n) const {
     ExportUnit unit = quantities[static_cast<std::size_t>(n)].unit;
     // Rows of one set may stand in either unit, as they were typed or read.
     unit.converts = row.inOriginalUnits;
-    if (n == 0 && unit.converts && set.MolarMassFollowsRows()) unit.molarMass = set.MolarMass(row);
+    // What the set states may have to be converted where the row has not.
+    if (n == 0 && byRow) unit.molarMass = set.MolarMass(row);
     return unit;
+}
+
+bool SetRows::HasMolarMass(const clsData& row) const {
+    return !byRow || !row.inOriginalUnits || set.MolarMass(row) > 0;
 }
 
 std::string SetRows::Fault(const std::string& group) const {
@@ -145,11 +151,13 @@ std::string SetRows::Fault(const std::string& group) const {
     if (!hasPlace) return NoPlaceInExport;
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;
+    const auto leaves = [this](const clsData& row) { return IsExported(row); };
+    if (std::none_of(set.recData.begin(), set.recData.end(), leaves)) return NoMolarMass;
     // Rather no values than values under a wrong meaning.
     if (!IsKnownDefinition(set)) return "Unknown definition of results " + set.PROPERTY_FUNCT;
-    // Where the molar mass follows the rows, each row is asked for its own.
-    std::string fault =
-        set.MolarMassFollowsRows() ? std::string() : ConversionFault(quantities[0].unit);
+    ExportUnit property = quantities[0].unit;
+    if (byRow) property.molarMass = 1; // the rows have their own; here the unit is looked at
+    std::string fault = ConversionFault(property);
     for (int n = 1; n <= set.nVar && fault.empty(); ++n)
         fault = ConversionFault(quantities[static_cast<std::size_t>(n)].unit);
     return fault;
@@ -193,13 +201,15 @@ void SetRows::ExportVariables(XmlWriter& xml) const {
 
 void SetRows::ExportRows(XmlWriter& xml) {
     bool leftOut = false;
+    bool withoutMass = false;
     for (const clsData& row : set.recData) {
-        if (IsNumericRow(row))
+        if (IsExported(row))
             row.ExportData(xml, *this);
         else
-            leftOut = true;
+            (IsNumericRow(row) ? withoutMass : leftOut) = true;
     }
     if (leftOut) TellDataError(NameOf(set), NoValidRows);
+    if (withoutMass) TellDataError(NameOf(set), NoMolarMass);
     if (lacksRepeatability) TellDataError(NameOf(set), NoRepeatability);
 }
 

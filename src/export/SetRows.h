@@ -27,6 +27,7 @@ struct SetRows {
     };
     const DataSet& set;
     std::array<Quantity, 4> quantities;
+    bool byRow = false;              // the property goes by the molar mass of each row
     bool lacksRepeatability = false; // announced, but without a figure in the set or any row
 
     /// Statements that only some rows make announce themselves like those of the set.
@@ -34,6 +35,10 @@ struct SetRows {
 
     /// The unit of quantity n in a row, with the molar mass that it goes by there.
     ExportUnit UnitIn(const clsData& row, int n) const;
+    /// The molar mass that the row goes by is known, or it needs none.
+    bool HasMolarMass(const clsData& row) const;
+    /// The row leaves: numbers only, in units that can be converted.
+    bool IsExported(const clsData& row) const { return IsNumericRow(row) && HasMolarMass(row); }
     /// Why the rows cannot be exported, in words for the user, or empty. group is that of the
     /// property.
     /// To be asked before anything is written: a set that is begun cannot be taken back.
@@ -48,7 +53,7 @@ struct SetRows {
     void ExportConstants(XmlWriter& xml) const;
     /// The heads of the variables.
     void ExportVariables(XmlWriter& xml) const;
-    /// One NumValues element for each row with numbers only; tells of the others, and of an
+    /// One NumValues element for each exported row; tells of the others, and of an
     /// announced repeatability that lacks its figure.
     /// Rows are left out one by one, the set is not: the good values are worth having.
     void ExportRows(XmlWriter& xml);

@@ -134,13 +134,13 @@ void DataSet::PrintHead(LineWriter& out) const {
 
 /// The unit out of which the statements about item n are brought for the record, "" for none.
 std::string DataSet::UnitOfStatements(int n) const {
-    if (!isOriginalUnit) return {};
     if (n > nVar) {
         // The line of a mixture has no field for the unit of a constraint.
         for (const HeldConstant& constant : Constants())
             if (constant.item == n) return constant.unit;
         return {};
     }
+    if (!isOriginalUnit) return {};
     const std::string& code = VAR_UNIT(n);
     return StatesInUnitsOfLine() && !IsUnitLong(code) ? std::string() : code;
 }
@@ -178,25 +178,23 @@ void DataSet::PrintRows(LineWriter& out) const {
     }
 }
 
-/// The comment with the precisions that a dialog wrote brought to system units, as differences.
+/// The comment with the precisions that a dialog wrote brought to the units of the record, as
+/// differences.
 std::string DataSet::CommentForRecord() const {
     std::string comment = CommentOfLine();
     if (commentInSystemUnits || !isOriginalUnit) return comment;
     return CommentInSystemUnits(comment, [this](const std::string& code, const std::string& typed) {
-        return SystemPrecision(code, typed);
+        return PrecisionForRecord(code, typed);
     });
 }
 
-std::string DataSet::SystemPrecision(const std::string& code, const std::string& typed) const {
-    const bool byLine = StatesInUnitsOfLine();
+std::string DataSet::PrecisionForRecord(const std::string& code, const std::string& typed) const {
+    if (!StatesInUnitsOfLine()) return SystemPrecision(code, typed);
     // The property has its unit in the line, or a factor in front of it.
-    if (code == PRPCODE) return byLine ? typed : PropertyConversion().DifferenceText(typed);
-    for (int n = 1; n <= nVar; ++n) {
-        if (code != VARIABLE(n)) continue;
-        const bool stays = byLine && !IsUnitLong(VAR_UNIT(n));
-        return stays ? typed : VariableConversion(n).DifferenceText(typed);
-    }
-    return typed;
+    if (code == PRPCODE) return typed;
+    for (int n = 1; n <= nVar; ++n)
+        if (code == VARIABLE(n) && !IsUnitLong(VAR_UNIT(n))) return typed;
+    return SystemPrecision(code, typed);
 }
 
 } // namespace vexora

@@ -122,17 +122,20 @@ public:
     double MolarMass() const;
     /// The unit is based on mass, so that the molar mass stands in front of the set.
     bool NeedsMolarMass() const;
+    /// Values by mass go to system units by the molar mass of their own row, not by one of the set.
+    bool ConvertsByRow() const;
     /// The conversion of the property (none for a ratio) and of variable n, as entered. That of the
     /// property takes the molar mass of the set or of a row.
     UnitConversion PropertyConversion() const;
     UnitConversion PropertyConversion(const clsData& row) const;
     UnitConversion VariableConversion(int n) const;
-    /// The conversion of quantity n, 0 the property.
-    UnitConversion Conversion(int n) const {
-        return n == 0 ? PropertyConversion() : VariableConversion(n);
-    }
-    /// Brings all rows and statements to system units; the unit codes stay as the memory of the
-    /// paper's units. False, and nothing changes, when a unit or a molar mass is not known.
+    /// The conversion of item n: 0 the property, 1 to nVar the variables, behind them what the
+    /// definition holds constant.
+    UnitConversion Conversion(int n) const;
+    /// Brings all rows, statements and constants to system units; the unit codes of property and
+    /// variables stay as the memory of the paper's units. What the set states about a property that
+    /// goes by the molar mass of each row becomes the rows' own. False, and nothing changes, when a
+    /// unit or a molar mass is not known.
     /// Never called for writing: the file keeps the figures of the paper wherever it can.
     bool AdjustUnits();
 
@@ -142,6 +145,10 @@ protected:
 
     /// The line of the class.
     virtual std::string DefinitionLine() const = 0;
+    /// Brings the values of Constants() to system units.
+    virtual void AdjustConstants() {}
+    /// How a value of a state variable leads to its system unit from that of a unit field.
+    static UnitConversion ConversionOf(const std::string& variable, const std::string& field);
     /// The comment as the record bears it, with the tags that the line of the class leaves to it.
     virtual std::string CommentOfLine() const { return Header.DATACOMMENT; }
     /// What stands behind the rows, "^M 0" to close the factor.
@@ -152,11 +159,14 @@ protected:
 private:
     UnitConversion PropertyConversion(double molarMass) const;
     std::string CommentForRecord() const;
+    std::string PrecisionForRecord(const std::string& code, const std::string& typed) const;
     std::string SystemPrecision(const std::string& code, const std::string& typed) const;
     void PrintHead(LineWriter& out) const;
     void PrintStatements(LineWriter& out) const;
     void PrintRows(LineWriter& out) const;
+    bool CanAdjustUnits(const std::vector<UnitConversion>& units) const;
     void AdjustStatements();
+    void StateInRows();
     std::string UnitOfStatements(int n) const;
 };
 

@@ -65,7 +65,7 @@ void CheckStatements(const Data& data, bool hasValues, const std::string& name, 
 }
 
 struct RowFindings {
-    RowTally noNumber, invalid, suspicious;
+    RowTally noNumber, noMass, invalid, suspicious;
 };
 
 /// Variables of a mixture bear the number of their component, those of a pure compound none.
@@ -87,12 +87,15 @@ void CheckColumn(const DataSet& set, int n, const std::string& name, Remarks& re
         const std::optional<double> system = column.Of(row);
         if (!system)
             found.noNumber.Add(place, "this is no number: " + std::string(column.TextOf(row)));
+        else if (!column.Converts(row))
+            found.noMass.Add(place, "the molar mass is not known");
         else if (!IsValidValue(code, *system))
             found.invalid.Add(place, "value " + NumberText(*system) + " is not valid");
         else if (!IsPlausibleValue(code, *system))
             found.suspicious.Add(place, "value " + NumberText(*system) + " is suspicious");
     }
     if (!found.noNumber.IsEmpty()) remarks.Error(name + ": " + found.noNumber.Text());
+    if (!found.noMass.IsEmpty()) remarks.Error(name + ": " + found.noMass.Text());
     if (!found.invalid.IsEmpty()) remarks.Error(name + ": " + found.invalid.Text());
     if (!found.suspicious.IsEmpty()) remarks.Warn(name + ": " + found.suspicious.Text());
 }
@@ -147,15 +150,21 @@ void CheckFigures(const SingleValue& value, const std::string& name, Remarks& re
 }
 
 SystemColumn::SystemColumn(const DataSet& set, int n)
-    : set_(set), n_(static_cast<std::size_t>(n)),
-      byRow_(n == 0 && set.MolarMassFollowsRows() && set.NeedsMolarMass()),
-      ofSet_(set.Conversion(n)), converts_(byRow_ || ofSet_.IsPossible()) {}
+    : set_(set), n_(static_cast<std::size_t>(n)), byRow_(n == 0 && set.ConvertsByRow()),
+      ofSet_(set.Conversion(n)),
+      converts_(byRow_ ? IsConversionOf(ofSet_.code, ofSet_.unit) : ofSet_.IsPossible()) {}
+
+bool SystemColumn::Converts(const clsData& row) const {
+    if (!row.inOriginalUnits) return true;
+    return converts_ && (!byRow_ || set_.MolarMass(row) > 0);
+}
 
 std::optional<double> SystemColumn::Of(const clsData& row) const {
     const std::string_view typed = TextOf(row);
     if (!IsNumeric(typed)) return std::nullopt;
     if (!row.inOriginalUnits) return Val(typed);
-    return byRow_ ? set_.PropertyConversion(row).Absolute(Val(typed)) : ofSet_.Absolute(Val(typed));
+    if (!byRow_) return ofSet_.Absolute(Val(typed));
+    return ToSystem(ofSet_.code, Val(typed), ofSet_.factor, set_.MolarMass(row));
 }
 
 void CheckValue(const clsZ& value, Findings& findings) {

@@ -68,7 +68,7 @@ public:
     SystemColumn(const DataSet& set, int n);
     std::string_view TextOf(const clsData& row) const { return row.Values[n_]; }
     /// False for a row in a unit that nothing converts.
-    bool Converts(const clsData& row) const { return converts_ || !row.inOriginalUnits; }
+    bool Converts(const clsData& row) const;
     /// Nothing for a text that is no number.
     std::optional<double> Of(const clsData& row) const;
 

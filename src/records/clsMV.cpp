@@ -21,7 +21,7 @@ const std::string NoText;
 
 /// The value of a constraint in its system unit, for the line has no field for the unit.
 std::string ValueField(const clsMV& set, const ConstraintSlot& slot) {
-    if (slot.value.empty() || !IsConstraint(slot.code) || !set.isOriginalUnit) return slot.value;
+    if (slot.value.empty() || !IsConstraint(slot.code)) return slot.value;
     const UnitConversion unit = set.ConstraintConversion(slot);
     if (!unit.ChangesValues()) return slot.value;
     // Asked for its refusal: what cannot be converted must not be written as 0.
@@ -111,10 +111,16 @@ std::shared_ptr<DataSet> clsMV::Copy() const {
 }
 
 UnitConversion clsMV::ConstraintConversion(const ConstraintSlot& slot) const {
-    std::string unit = UnitOfVariable(slot.code);
-    std::string code(CodeInField(slot.unit, unit));
-    const double factor = IsUnitLong(code) ? ConversionFactor(code, unit) : 0;
-    return {std::move(code), factor, 0, std::move(unit)};
+    return ConversionOf(slot.code, slot.unit);
+}
+
+void clsMV::AdjustConstants() {
+    for (int n = 1; n <= ConstraintCount(); ++n) {
+        ConstraintSlot& slot = Constraints[static_cast<std::size_t>(n - 1)];
+        if (!IsConstraint(slot.code)) continue;
+        slot.value = ConstraintConversion(slot).Converted(slot.value).text;
+        slot.unit = "S";
+    }
 }
 
 std::vector<HeldConstant> clsMV::Constants() const {

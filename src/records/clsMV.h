@@ -111,6 +111,7 @@ public:
 protected:
     std::string DefinitionLine() const override;
     void PrintEnd(LineWriter&) const override {}
+    void AdjustConstants() override;
 
 private:
     const ConstraintSlot* Slot(int n) const; // null for one that the set has not

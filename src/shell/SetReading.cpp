@@ -34,13 +34,15 @@ bool HasBothKinds(const DataSet& set) {
 // The least and the greatest value of quantity n (0 the property) as typed.
 std::string RangeOf(const DataSet& set, int n) {
     const bool inSystem = HasBothKinds(set);
-    const UnitConversion entered = set.Conversion(n);
+    UnitConversion entered = set.Conversion(n);
+    const bool byRow = n == 0 && set.ConvertsByRow();
     std::string least, greatest;
     double low = 0, high = 0;
     for (const clsData& row : set.recData) {
         const std::string typed = row.Values[static_cast<std::size_t>(n)];
         if (!IsNumeric(typed)) continue;
         const bool converts = inSystem && row.inOriginalUnits;
+        if (converts && byRow) entered.molarMass = set.MolarMass(row);
         const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
         const std::string text = converts ? entered.Converted(typed).text : typed;
         if (least.empty() || value < low) {

@@ -12,6 +12,7 @@
 #include "records/LineWriter.h"
 #include "records/PropertyChain.h"
 #include "records/ReaderState.h"
+#include "records/RecordChecks.h"
 #include "records/RecordReader.h"
 #include "records/SetLines.h"
 #include "reference/Numbers.h"
@@ -43,7 +44,7 @@ public:
     bool MolarMassFollowsRows() const override { return true; }
     double MolarMass(const clsData& row) const override {
         const double x = Val(row.VARIABLE(3));
-        return 46.0 * x + 18.0 * (1 - x);
+        return x > 1 ? 0 : 46.0 * x + 18.0 * (1 - x); // [g/mol]
     }
     const Record* Owner() const override { return nullptr; }
     std::shared_ptr<DataSet> Copy() const override { return std::make_shared<TiedSet>(*this); }
@@ -205,14 +206,38 @@ TEST_F(AnotherSet, StandsInColumnsThatAreTypedAndPastedInto) {
         EXPECT_EQ(shown.columns.CellOf(row, column), cells[static_cast<std::size_t>(column)]);
 }
 
+// Rows of 18 and 46 g/mol, and one of which nobody knows.
+const std::string ByMass = "^A & & & & & & & ::dHEX:0.01:\n^3 HEX Z DIR 1 Y L T C P S X1 S\n"
+                           "^X 0 HEX L - & & & - & & & + 95 0.5 - & & - & & &\n"
+                           "^d 25.0 101.3 0.0 1.000 & 1\n^d 25.0 101.3 1.0 1.000 & 2\n"
+                           "^Y & & & & & & & & & & & & & & & 2.0 & &\n";
+const std::string WithoutMass = "^d 25.0 101.3 2.0 1.000 & 3\n^M 0\n";
+
 TEST_F(AnotherSet, GoesToSystemUnitsByTheMolarMassOfEachRow) {
-    TiedSet& set = Read("^A & & & & & & & &\n^3 HEX Z DIR 1 Y L T C P S X1 S\n"
-                        "^d 25.0 101.3 0.0 1.000 & 1\n^d 25.0 101.3 1.0 1.000 & 2\n^M 0\n");
+    TiedSet& set = Read(ByMass + "^M 0\n");
+    const SystemColumn column(set, 0);
+    EXPECT_DOUBLE_EQ(column.Of(*set.recData.Item(2)).value_or(0), 0.046);
     ASSERT_TRUE(set.Copy()->AdjustUnits());
     set.AdjustUnits();
     EXPECT_EQ(set.recData.Item(1)->PRPVALUE(), "0.01800"); // of 1 J/g
     EXPECT_EQ(set.recData.Item(2)->PRPVALUE(), "0.04600");
     EXPECT_EQ(set.recData.Item(1)->VARIABLE(1), "298.15");
+    // 0.5 J/g of the set is another figure in each row, and so are those of the rows.
+    EXPECT_EQ(set.UX[0].UValue, "");
+    EXPECT_TRUE(set.UX[0].iUnc);
+    EXPECT_EQ(set.recData.Item(1)->StatementsOf(0).Unc, "0.009");
+    EXPECT_EQ(set.recData.Item(2)->StatementsOf(0).Unc, "0.092");
+    EXPECT_NE(set.Header.DATACOMMENT.find(":dHEX:0.0005:"), std::string::npos);
+}
+
+TEST_F(AnotherSet, KeepsItsUnitsAsLongAsTheMolarMassOfARowIsNotKnown) {
+    TiedSet& set = Read(ByMass + WithoutMass);
+    const std::string before = set.Header.DATACOMMENT;
+    EXPECT_FALSE(SystemColumn(set, 0).Converts(*set.recData.Item(3)));
+    EXPECT_TRUE(SystemColumn(set, 0).Converts(*set.recData.Item(2)));
+    EXPECT_FALSE(set.AdjustUnits());
+    EXPECT_EQ(set.recData.Item(1)->VARIABLE(1), "25.0");
+    EXPECT_EQ(set.UX[0].UValue + set.Header.DATACOMMENT, "0.5" + before);
 }
 
 TEST_F(AnotherSet, LeavesWithItsVariablesPhasesAndRows) {
@@ -233,6 +258,20 @@ TEST_F(AnotherSet, LeavesWithItsVariablesPhasesAndRows) {
     EXPECT_EQ(count("<nPropValue>938.0</nPropValue>"), 1);
     EXPECT_EQ(count("<nExpandUncertValue>0.3</nExpandUncertValue>"), 1); // the row's own
     EXPECT_EQ(count("<nExpandUncertValue>0.2</nExpandUncertValue>"), 1); // the set's
+}
+
+TEST_F(AnotherSet, LeavesByTheMolarMassOfEachRowAndWithoutRowsThatHaveNone) {
+    TiedSet& set = Read(ByMass + WithoutMass);
+    desktop.Expect("Unable to calculate average molar mass\nSystem: ethanol + water\n"
+                   "Property: Excess enthalpy (enthalpy of mixing) | Data Error!");
+    XmlWriter xml;
+    set.ExportAll(xml);
+    for (const char* element : {"<nPropValue>0.01800<", "<nExpandUncertValue>0.009<",
+                                "<nPropValue>0.04600<", "<nExpandUncertValue>0.092<"})
+        EXPECT_NE(xml.Text().find(element), std::string::npos) << element;
+    EXPECT_EQ(xml.Text().find("<nVarValue>2.0<"), std::string::npos);
+    set.PROPERTY_UNIT = "z";
+    EXPECT_EQ(SetRows(set).Fault("VolumetricProp"), "Invalid conversion factor");
 }
 
 TEST_F(AnotherSet, AnyNumberOfQuantitiesHasItsColumns) {
