@@ -18,8 +18,8 @@ std::string NamePattern(std::string_view typed);
 bool IsFormulaPattern(std::string_view formula);
 
 /// The compounds whose name matches the pattern, apart from case, blanks, hyphens and "n-", and
-/// whose formula matches the formula, case counting; an empty one is no condition. Table order;
-/// nothing when both are empty or there is no database.
+/// whose formula matches the formula, case counting; an empty one is no condition. The very name
+/// first, else table order; nothing when both are empty or there is no database.
 std::vector<CompoundRow> FindCompounds(std::string_view namePattern, std::string_view formula);
 
 /// The first hundred names that begin with what was typed, compared as by FindCompounds; nothing

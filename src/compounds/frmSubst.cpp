@@ -140,7 +140,7 @@ void frmSubst::Fill(const clsL& compound) {
 
 void frmSubst::NameChanged() {
     if (Filling) return;
-    OfferNames();
+    UnfoldNames();
     nameEdited_ = true;
     Touch();
 }

@@ -68,6 +68,7 @@ private:
 
     // The names below what is typed (frmSubst_names.cpp).
     void OfferNames();
+    void UnfoldNames();
     void NamePicked();
 
     // The search (frmSubst_search.cpp).

@@ -10,6 +10,12 @@ void frmSubst::OfferNames() {
     txtName.Text(typed); // the entry that has it is the chosen one
 }
 
+/// A name that is all there is needs no list.
+void frmSubst::UnfoldNames() {
+    OfferNames();
+    txtName.Unfolded(txtName.Count() > 1 || txtName.Index() < 0);
+}
+
 /// A name picked there is taken as one picked from the results of a search.
 void frmSubst::NamePicked() {
     if (Filling) return;

@@ -30,6 +30,8 @@ std::string StateLine(const ui::Control& control) {
     if (!IsEnabledThrough(control)) line += " disabled";
     if (!IsSeen(control)) line += " hidden";
     if (control.HasFocus()) line += " focused";
+    const auto* combo = dynamic_cast<const ui::ComboBox*>(&control);
+    if (combo && combo->IsUnfolded()) line += " open";
     return line;
 }
 

@@ -76,6 +76,45 @@ void ComboView::Draw() {
         own_->lineEdit()->setCursorPosition(caret);
     if (model_.IsEditable()) Shade(*own_, !model_.Enabled());
     DrawSelection(text);
+    DrawEntries();
+}
+
+/// A part of the window and no window of its own: a native list that drops down takes the keyboard,
+/// and the typing would end.
+void ComboView::DrawEntries() {
+    if (!model_.IsUnfolded()) {
+        if (entries_) entries_->hide();
+        return;
+    }
+    if (!entries_) {
+        entries_ = new QListWidget(own_->window());
+        entries_->setFocusPolicy(Qt::NoFocus);
+        entries_->setAutoFillBackground(true); // its frame must not show what is below
+        entries_->setUniformItemSizes(true);
+        entries_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        QObject::connect(entries_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+            ActAndRefresh([this, row = entries_->row(item)] { model_.UserChoose(row); });
+        });
+    }
+    entries_->clear();
+    for (const std::string& item : model_.Items())
+        entries_->addItem(ToQt(item));
+    entries_->setCurrentRow(model_.Index());
+    PlaceEntries();
+    entries_->show();
+    entries_->raise();
+}
+
+/// Below the field, as far as the window reaches.
+void ComboView::PlaceEntries() {
+    constexpr int most = 10; // entries seen at a time
+    const QWidget& window = *own_->window();
+    const QPoint corner = own_->mapTo(&window, QPoint(0, own_->height()));
+    const int rows = std::clamp(model_.Count(), 1, most);
+    const int high = rows * entries_->sizeHintForRow(0) + 2 * entries_->frameWidth();
+    entries_->setGeometry(corner.x(), corner.y(), own_->width(),
+                          std::min(high, window.height() - corner.y()));
+    if (entries_->currentItem()) entries_->scrollToItem(entries_->currentItem());
 }
 
 void ComboView::DrawSelection(const QString& text) {

@@ -20,12 +20,18 @@ class ComboView : public ViewOf<ui::ComboBox, DropBox> {
 public:
     ComboView(FormWindow& window, ui::ComboBox& combo);
     bool Wants(const ui::Key& key) const override;
+    /// The entries that stand open while a person types; null before the first time.
+    const QListWidget* Entries() const { return entries_; }
 
 protected:
     void Draw() override;
 
 private:
     void DrawSelection(const QString& text);
+    void DrawEntries();
+    void PlaceEntries();
+
+    QPointer<QListWidget> entries_;
 
     std::vector<std::string> shown_;
 };

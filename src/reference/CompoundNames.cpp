@@ -5,6 +5,10 @@
 #include "reference/ReferenceDatabases.h"
 #include "reference/Text.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 namespace vexora {
 
 namespace {
@@ -46,6 +50,35 @@ private:
     Kind kind_ = Kind::Any;
 };
 
+/// What a person looks for stands in front: the name as typed, then other writings of it, then the
+/// rest.
+class Ranks {
+public:
+    /// The wildcards at the ends of a pattern are no part of the name.
+    explicit Ranks(std::string_view typed) {
+        constexpr std::string_view stars = "*% ";
+        const std::size_t first = typed.find_first_not_of(stars);
+        if (first == typed.npos) return;
+        name_ = typed.substr(first, typed.find_last_not_of(stars) - first + 1);
+        key_ = NameKey(name_);
+    }
+    std::size_t Of(std::string_view name, std::string_view key) const {
+        if (key_.empty() || key != key_) return 2;
+        return EqualNoCase(name, name_) ? 0 : 1;
+    }
+
+private:
+    std::string name_, key_;
+};
+
+template <class Entry>
+std::vector<Entry> Joined(std::array<std::vector<Entry>, 3>&& ranked) {
+    std::vector<Entry> all = std::move(ranked[0]);
+    for (std::size_t rank = 1; rank < ranked.size(); ++rank)
+        std::ranges::move(ranked[rank], std::back_inserter(all));
+    return all;
+}
+
 } // namespace
 
 CompoundNames::CompoundNames(const Database& database)
@@ -74,23 +107,29 @@ std::vector<CompoundRow> CompoundNames::Matching(std::string_view namePattern,
                                                  std::string_view formula) const {
     const Pattern name(NameKey(namePattern), false);
     const Pattern elements(formula, true);
-    std::vector<CompoundRow> found;
+    const Ranks ranks(namePattern);
+    std::array<std::vector<CompoundRow>, 3> found;
     for (const Row& row : rows_)
         if (elements.Matches(Formula(row)) && name.Matches(Key(row)))
-            found.push_back({row.rn, std::string(Name(row)), std::string(Formula(row))});
-    return found;
+            found[ranks.Of(Name(row), Key(row))].push_back(
+                {row.rn, std::string(Name(row)), std::string(Formula(row))});
+    return Joined(std::move(found));
 }
 
 std::vector<std::string> CompoundNames::BeginningWith(std::string_view text,
                                                       std::size_t limit) const {
-    std::vector<std::string> found;
     const std::string key = NameKey(text);
-    if (key.empty()) return found;
+    if (key.empty()) return {};
+    const Ranks ranks(text);
+    std::array<std::vector<std::string>, 3> found;
     for (const Row& row : rows_) {
-        if (found.size() == limit) break;
-        if (Key(row).starts_with(key)) found.emplace_back(Name(row));
+        if (!Key(row).starts_with(key)) continue;
+        auto& names = found[ranks.Of(Name(row), Key(row))];
+        if (names.size() < limit) names.emplace_back(Name(row));
     }
-    return found;
+    std::vector<std::string> names = Joined(std::move(found));
+    if (names.size() > limit) names.resize(limit);
+    return names;
 }
 
 std::string_view CompoundNames::Key(const Row& row) const {

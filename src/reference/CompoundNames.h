@@ -24,9 +24,11 @@ public:
     bool IsOf(const Database& database) const;
 
     /// The rows whose name matches the pattern, compared by NameKey, and whose formula matches the
-    /// formula, case counting; an empty one is no condition.
+    /// formula, case counting; an empty one is no condition. Those of the very name first, else in
+    /// table order.
     std::vector<CompoundRow> Matching(std::string_view namePattern, std::string_view formula) const;
-    /// The first names that begin with the text, compared by NameKey, at most so many.
+    /// The first names that begin with the text, compared by NameKey, at most so many; the very
+    /// name in front.
     std::vector<std::string> BeginningWith(std::string_view text, std::size_t limit) const;
 
 private:

@@ -98,6 +98,8 @@ protected:
     static void Fire(const std::function<void()>& handler) {
         if (handler) handler();
     }
+    /// Told by the form once the focus has gone elsewhere.
+    virtual void FocusLost() { Fire(OnLostFocus); }
 
 private:
     friend class Form; // tells it of the focus

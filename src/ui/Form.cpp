@@ -115,7 +115,7 @@ void Form::FocusTo(Control* control) {
     if (control && (!control->TakesFocus() || !control->IsUsable())) return;
     Control* before = active_;
     active_ = control;
-    if (before) Control::Fire(before->OnLostFocus);
+    if (before) before->FocusLost();
     if (active_ != control) return; // the handler moved the focus elsewhere
     FocusChanged.Emit();
     if (control) Control::Fire(control->OnGotFocus);

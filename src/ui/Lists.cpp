@@ -136,14 +136,26 @@ void ComboBox::UserEdited(const std::string& typed) {
         Text(text);
 }
 
+void ComboBox::Unfolded(bool open) {
+    walked_ = false;
+    Alter(unfolded_, open && IsEditable() && HasFocus() && Count() > 0);
+}
+
+void ComboBox::FocusLost() {
+    Unfolded(false);
+    Control::FocusLost();
+}
+
 void ComboBox::UserDropDown() {
     if (!IsUsable()) return;
+    Unfolded(false); // all entries drop down in their place
     SetFocus();
     Fire(OnDropDown);
 }
 
 void ComboBox::UserChoose(int index) {
     if (index < 0 || index >= Count()) return;
+    Unfolded(false);
     typed_ = Item(index);
     selectedFrom_.reset();
     ItemList::UserChoose(index);
@@ -166,8 +178,24 @@ bool ComboBox::Jump(const Key& key) {
     return true;
 }
 
+/// Escape leaves the open entries, Enter takes the one that was reached; otherwise both are keys of
+/// the form.
+bool ComboBox::Fold(const Key& key) {
+    if (!unfolded_ || (key.name != "Escape" && key.name != "Enter")) return false;
+    const bool isDone = key.name == "Escape" || walked_;
+    Unfolded(false);
+    return isDone;
+}
+
 bool ComboBox::UserKey(Key& key) {
-    if (ItemList::UserKey(key)) return true;
+    if (ItemList::UserKey(key)) {
+        walked_ = unfolded_;
+        return true;
+    }
+    return Fold(key) || Edit(key);
+}
+
+bool ComboBox::Edit(const Key& key) {
     const bool pastes = IsEditable() && key.FullName() == "Ctrl+V";
     if (!IsUsable() || (!pastes && (key.control || key.alt))) return false;
     if (!IsEditable()) return Jump(key);

@@ -75,6 +75,11 @@ public:
     /// Where that selection begins, nothing when there is none.
     std::optional<std::size_t> SelectedFrom() const { return selectedFrom_; }
 
+    /// Of an editable one that has the focus: its entries stand open below what is being typed.
+    /// Arrows go through them; Escape, an entry that is taken and leaving the field close them.
+    void Unfolded(bool open);
+    bool IsUnfolded() const { return unfolded_; }
+
     std::function<void()> OnChange;
     std::function<void()> OnDropDown;
 
@@ -83,12 +88,19 @@ public:
     void UserEdited(const std::string& typed);
     bool UserKey(Key& key) override;
 
+protected:
+    void FocusLost() override;
+
 private:
     bool Jump(const Key& key);
+    bool Fold(const Key& key);
+    bool Edit(const Key& key);
 
     Style style_;
     std::string typed_;
     std::optional<std::size_t> selectedFrom_;
+    bool unfolded_ = false;
+    bool walked_ = false; // an arrow has reached one of the open entries
 };
 
 /// A list in the open. Multi and Check let several entries be on at a time.

@@ -91,6 +91,19 @@ TEST_F(SubstanceSearch, WhatIsAddedMeanwhileIsFound) {
     EXPECT_EQ(Found("unobtainium"), "");
 }
 
+TEST_F(SubstanceSearch, TheVeryNameStandsInFront) {
+    for (const char* name : {"Phenol-fragment", "phenol", "n-Phenol", "PHENOL x"})
+        globals.CompoundDb().Insert("ALLNAME", {{"RN", 108952}, {"NAME", name}, {"FORMULA", "O"}});
+    EXPECT_EQ(Found("*PHENOL*", "O"), "phenol;n-Phenol;Phenol-fragment;PHENOL x;");
+    EXPECT_EQ(Found("n-phenol", "O"), "n-Phenol;phenol;");
+    for (int i = 0; i < 100; ++i)
+        globals.CompoundDb().Insert(
+            "ALLNAME", {{"RN", 99999005}, {"NAME", "zzz " + std::to_string(i)}, {"FORMULA", "O"}});
+    globals.CompoundDb().Insert("ALLNAME", {{"RN", 99999005}, {"NAME", "zzz"}, {"FORMULA", "O"}});
+    EXPECT_EQ(NamesBeginningWith("ZZZ").front(), "zzz");
+    EXPECT_EQ(NamesBeginningWith("ZZZ").size(), 100U);
+}
+
 TEST_F(SubstanceSearch, APrefixGivesTheFirstHundred) {
     EXPECT_EQ(NamesBeginningWith("Heavy-W"), std::vector<std::string>{"heavy water"});
     EXPECT_EQ(NamesBeginningWith("m").size(), 100U);

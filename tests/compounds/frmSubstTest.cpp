@@ -306,8 +306,8 @@ TEST_F(frmSubstTest, TheSearchPutsTheFormulaInOrderAndSaysWhenNothingIsFound) {
 
 TEST_F(frmSubstTest, CancelLeavesTheSourceAsItWas) {
     frmSubst& dialog = Open();
-    EnterNumber(dialog, "7732", "18");
     Enter(dialog.txtName, "water");
+    EnterNumber(dialog, "7732", "18");
     dialog.UserKey(ui::ParseKey("Escape"));
     EXPECT_FALSE(dialog.IsOpen());
     EXPECT_EQ(Compounds(), "");

@@ -7,6 +7,7 @@
 #include "qt/Events.h"
 #include "qt/EveryKind.h"
 #include "qt/Keys.h"
+#include "qt/ListViews.h"
 #include "qt/Look.h"
 #include "qt/Picture.h"
 #include "qt/QtDesktop.h"
@@ -133,6 +134,31 @@ TEST_F(Focus, StaysInAFormThatOutlivesTheOneItWasOpenedFrom) {
     EXPECT_EQ(Helper().txtName.Text(), "z");
     Press("Escape");
     EXPECT_TRUE(HasKeyboard(main.tvwTree));
+}
+
+TEST_F(Focus, StaysInAFieldWhoseEntriesStandOpenBelowIt) {
+    EveryKind& form = OpenEveryKind();
+    form.cboUnit.OnChange = [&form] { form.cboUnit.Unfolded(true); };
+    form.cboUnit.SetFocus();
+    ASSERT_TRUE(HasKeyboard(form.cboUnit));
+    Press("k");
+    FormWindow& window = *windows_.WindowOf(form);
+    const auto& combo = dynamic_cast<const ComboView&>(*window.ViewFor(form.cboUnit));
+    ASSERT_TRUE(Soon([&] { return combo.Entries() && combo.Entries()->isVisible(); }));
+    const QListWidget& entries = *combo.Entries();
+    EXPECT_TRUE(window.rect().contains(entries.geometry()));
+    EXPECT_GE(entries.y(), combo.Widget()->mapTo(&window, combo.Widget()->rect().bottomLeft()).y());
+    Press("P");
+    EXPECT_EQ(form.cboUnit.Text(), "kP") << "typing goes on";
+    Press("Escape");
+    EXPECT_TRUE(Soon([&] { return !entries.isVisible(); }));
+    EXPECT_TRUE(form.IsOpen());
+    Press("x");
+    ASSERT_TRUE(Soon([&] { return entries.isVisible(); }));
+    MouseClick(entries.viewport(), entries.visualItemRect(entries.item(1)).center());
+    EXPECT_EQ(form.cboUnit.Text(), "kPa");
+    EXPECT_TRUE(Soon([&] { return !entries.isVisible(); }));
+    EXPECT_TRUE(HasKeyboard(form.cboUnit));
 }
 
 TEST_F(Focus, IsSeenOnEveryKindOfControlInEveryLook) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <initializer_list>
+
 #include "ui/Form.h"
 
 namespace vexora::test {
@@ -57,6 +60,33 @@ TEST_F(ListsTest, EditableComboTakesTextBesideItsEntries) {
     drop_.Text("bx");
     EXPECT_EQ(drop_.Text(), "");
     EXPECT_EQ(told, "bx;b;");
+}
+
+TEST_F(ListsTest, OpenEntriesAreLeftByEscapeByTakingOneAndByLeavingTheField) {
+    const auto press = [this](const char* name) {
+        ui::Key key = ui::ParseKey(name);
+        return edit_.UserKey(key);
+    };
+    edit_.Unfolded(true);
+    EXPECT_FALSE(edit_.IsUnfolded()) << "it has not the focus";
+    edit_.SetFocus();
+    edit_.Unfolded(true);
+    EXPECT_TRUE(press("Escape"));
+    EXPECT_FALSE(press("Escape")) << "a key of the form again";
+    edit_.Unfolded(true);
+    EXPECT_FALSE(press("Enter")) << "no entry was reached";
+    edit_.Unfolded(true);
+    EXPECT_TRUE(press("Down") && press("Down") && edit_.IsUnfolded());
+    EXPECT_TRUE(press("Enter"));
+    EXPECT_EQ(edit_.Text(), "b");
+    for (const auto& leave : std::initializer_list<std::function<void()>>{
+             [this] { many_.SetFocus(); }, [this] { edit_.UserChoose(2); },
+             [this] { edit_.UserDropDown(); }}) {
+        edit_.SetFocus();
+        edit_.Unfolded(true);
+        leave();
+        EXPECT_FALSE(edit_.IsUnfolded());
+    }
 }
 
 TEST_F(ListsTest, MarksOfAMultiListStayWithTheirEntries) {
