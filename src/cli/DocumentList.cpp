@@ -36,7 +36,7 @@ std::vector<ListedDocument> RecordFilesIn(const fs::path& folder) {
     for (fs::recursive_directory_iterator entry(folder, options, error), end;
          !error && entry != end; entry.increment(error)) {
         if (entry->is_regular_file(error) && IsRecordFile(entry->path()))
-            found.push_back({entry->path().string(), NameBelow(entry->path(), folder)});
+            found.push_back({entry->path().string(), NameBelow(entry->path(), folder), false});
     }
     std::sort(found.begin(), found.end(),
               [](const auto& a, const auto& b) { return a.path < b.path; });
@@ -50,9 +50,10 @@ std::vector<ListedDocument> ListDocuments(const std::vector<std::string>& paths)
     for (const std::string& path : paths) {
         std::error_code error;
         std::vector<ListedDocument> found;
-        if (fs::is_directory(path, error)) found = RecordFilesIn(path);
+        const bool isFolder = fs::is_directory(path, error);
+        if (isFolder) found = RecordFilesIn(path);
         // A folder without any is told like a file that cannot be read.
-        if (found.empty()) found.push_back({path, fs::path(path).stem().string()});
+        if (found.empty()) found.push_back({path, fs::path(path).stem().string(), isFolder});
         std::move(found.begin(), found.end(), std::back_inserter(documents));
     }
     return documents;

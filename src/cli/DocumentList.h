@@ -9,6 +9,7 @@ namespace vexora {
 struct ListedDocument {
     std::string path;
     std::string name; // without its ending; below the folder it was found in, with its folders
+    bool isEmptyFolder = false;
 };
 
 /// The documents that paths name, in their order. A folder stands for the record files in it and in

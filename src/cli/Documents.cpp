@@ -116,17 +116,19 @@ public:
         const char* before = asArray ? "[" : "";
         for (const auto& [listed, file] : documents) {
             std::cout << std::exchange(before, asArray ? ",\n" : "");
-            worst = std::max(worst, One(listed.path, file));
+            worst = std::max(worst, One(listed, file));
         }
         if (asArray) std::cout << (documents.empty() ? "[]\n" : "]\n");
         return worst;
     }
 
 private:
-    int One(const std::string& path, const std::string& file) {
+    int One(const ListedDocument& listed, const std::string& file) {
         Product product{
             {}, {}, file, arguments_.isStrict ? ExportFor::StrictReaders : ExportFor::House};
-        int exitCode = document_.Read(path);
+        int exitCode = listed.isEmptyFolder
+                           ? document_.Refuse(listed.path, "the folder holds no record file")
+                           : document_.Read(listed.path);
         if (exitCode == kExitClean) exitCode = command_(document_, product);
         if (exitCode != kExitCannotWrite && !product.file.empty() && !product.text.empty())
             exitCode = Write(product, exitCode);

@@ -49,15 +49,19 @@ void OpenedDocument::Forget() {
     form_.tvwTree.Clear();
 }
 
-int OpenedDocument::Read(const std::string& path) {
+int OpenedDocument::Refuse(const std::string& path, const std::string& fault) {
     Forget();
     path_ = path;
+    Tell(0, Severity::Error, fault);
+    return kExitUnreadable;
+}
+
+int OpenedDocument::Read(const std::string& path) {
     std::string error;
     const std::optional<std::string> text = Files().Read(path, error);
-    if (!text) {
-        Tell(0, Severity::Error, error);
-        return kExitUnreadable;
-    }
+    if (!text) return Refuse(path, error);
+    Forget();
+    path_ = path;
     ReadResult result = ReadDocument(*text, ReadPurpose::Look);
     if (!result.whole) {
         Tell(result.faultLine, Severity::Error, "the document was not read: " + result.fault);

@@ -33,6 +33,8 @@ public:
     /// Reads a document in place of the one before. The answer is an exit code; with anything but
     /// kExitClean there is no document.
     int Read(const std::string& path);
+    /// Tells that there is no document, and why; the answer is kExitUnreadable.
+    int Refuse(const std::string& path, const std::string& fault);
     /// Both, for a command about one document.
     int Open(const std::string& path, const std::optional<std::string>& home,
              const std::string& argv0);

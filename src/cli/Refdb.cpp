@@ -99,6 +99,10 @@ int TellRefused(const std::string& text) {
 /// One compound, or those of a file.
 int Add(const Arguments& arguments) {
     if (!arguments.compounds.empty()) return Import(arguments);
+    if (arguments.rn.empty()) {
+        std::cerr << "error: --rn or --list is required; see vexora-cli refdb add --help\n";
+        return kExitUsage;
+    }
     ReferenceDatabases databases;
     databases.LocalDb.Open(VocabularyFor(arguments), true);
     UseDatabases(&databases);

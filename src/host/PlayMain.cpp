@@ -101,8 +101,9 @@ int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) 
         for (const std::string& file : request.files)
             scripts.push_back(ReadScript(file, request.variables));
     } catch (const ScriptError& error) {
-        front.err << error.what() << '\n';
-        if (scripts.empty() && request.files.empty()) front.err << "usage: " << Usage << '\n';
+        front.err << error.what();
+        if (scripts.empty() && request.files.empty()) front.err << "; usage: " << Usage;
+        front.err << '\n';
         return malformed;
     }
     PosixFileSystem files;

@@ -15,12 +15,16 @@ TEST_F(CommandLine, HelpAndVersionAreCleanAndWrongUseIsTwo) {
     EXPECT_EQ(Run("--version").out, "vexora-cli " VEXORA_VERSION "\n");
     for (const char* wrong : {"", "paint", "export", "check", "tree --nix water.txt", "refdb",
                               "refdb build", "refdb import VXR.mdb", "play", "diff water.txt",
-                              "table", "table water.txt --format xls"}) {
+                              "table", "table water.txt --format xls", "refdb add VXR.mdb"}) {
         const Outcome outcome = Run(wrong);
         EXPECT_EQ(outcome.code, 2) << wrong;
-        EXPECT_NE(outcome.err, "") << wrong;
+        EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
         EXPECT_EQ(outcome.out, "") << wrong;
     }
+    EXPECT_EQ(Run("paint").err, "error: unexpected argument paint; see vexora-cli --help\n");
+    EXPECT_EQ(Run("refdb build").err,
+              "error: --out is required; see vexora-cli refdb build --help\n");
+    EXPECT_EQ(Run("check --help >/dev/full").code, 4);
 }
 
 TEST_F(CommandLine, TheTreeIsPrintedAsItStandsInTheWorkbench) {
@@ -173,7 +177,7 @@ TEST_F(CommandLine, WhatCannotBeReadIsThree) {
     folder.Write("short.txt", kHead + "^A & & & & & & & &\n^z 1 TC S 1 L G &\n");
     const std::string diagnostics[][2] = {
         {"missing.txt", "missing.txt: error: "},
-        {"none", "none: error: "}, // a folder without a record file
+        {"none", "none: error: the folder holds no record file\n"},
         {"empty.txt", "empty.txt: error: this is no record file: it holds no source\n"},
         {"prose.txt", "prose.txt: error: this is no record file: it holds no source\n"},
         {"short.txt", "short.txt:7: warning: Incomplete record: ^z 1 TC S 1 L G &\n"
