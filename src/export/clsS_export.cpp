@@ -1,6 +1,7 @@
 #include "records/clsS.h"
 
 #include <algorithm>
+#include <set>
 
 #include "export/XmlWriter.h"
 #include "records/SampleDescription.h"
@@ -56,12 +57,25 @@ void ExportPurification(XmlWriter& xml, int step, std::string_view code) {
     xml.Close();
 }
 
+/// The public schema has all figures in front of the methods, and no method twice.
+void ExportFinalStrictly(XmlWriter& xml, const std::vector<PurityStatement>& statements) {
+    for (const PurityStatement& statement : statements)
+        ExportFigure(xml, statement);
+    std::set<std::string_view> known;
+    for (const PurityStatement& statement : statements)
+        if (known.insert(statement.Method).second) ExportAnalysis(xml, statement);
+}
+
 void ExportFinal(XmlWriter& xml, int step, const SampleDescription& description) {
     xml.Open("purity");
     xml.Element("nStep", std::to_string(step));
-    for (const PurityStatement& statement : description.Final) {
-        ExportFigure(xml, statement);
-        ExportAnalysis(xml, statement);
+    if (xml.IsStrict()) {
+        ExportFinalStrictly(xml, description.Final);
+    } else {
+        for (const PurityStatement& statement : description.Final) {
+            ExportFigure(xml, statement);
+            ExportAnalysis(xml, statement);
+        }
     }
     xml.Close();
 }

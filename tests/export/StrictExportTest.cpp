@@ -135,6 +135,23 @@ TEST_F(StrictExport, TheFrameNamesItsSpaceAndTheContentIsOtherwiseThatOfTheHouse
     EXPECT_EQ(strict, house);
 }
 
+TEST_F(StrictExport, FinalPuritiesStandInFrontOfTheMethodsAndNoMethodTwice) {
+    const std::string xml =
+        Strict(kSource + "^L 7732185 DNNNN S\n^S 1 cm,99m%,gc;;99.9m%,gc,0.1w%,gc,0.01h%,(KF)\n");
+    EXPECT_NE(Line(xml, "Sample")
+                  .find("<nStep>2</nStep>"
+                        "<nPurityMol>99.9</nPurityMol>"
+                        "<nPurityMolDigits>3</nPurityMolDigits>"
+                        "<nPurityMass>0.1</nPurityMass>"
+                        "<nPurityMassDigits>1</nPurityMassDigits>"
+                        "<nWaterMassPerCent>0.01</nWaterMassPerCent>"
+                        "<nWaterMassPerCentDigits>1</nWaterMassPerCentDigits>"
+                        "<eAnalMeth>Gas chromatography</eAnalMeth>"
+                        "<sAnalMeth>KF</sAnalMeth></purity>"),
+              std::string::npos)
+        << Line(xml, "Sample");
+}
+
 TEST_F(StrictExport, ACompoundWithoutAKnownStructureIsNamed) {
     const std::string records = kSource + "^L 99999005 NNNNN &\n^N 99999005 C8H10 stuff\n^S 1 &\n";
     Export(records);
