@@ -29,7 +29,7 @@ std::optional<Outline> Read(const std::string& path, const Arguments& arguments,
     OpenedDocument document(false);
     exitCode = document.Open(path, arguments.home, argv0);
     if (exitCode != kExitClean) return std::nullopt;
-    return OutlineOf(*Globals().recR.Item(std::size_t{1}));
+    return OutlineOfDocument();
 }
 
 int Compare(const Arguments& arguments, const std::string& argv0) {

@@ -1,5 +1,6 @@
 #include "records/Outline.h"
 
+#include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
 #include "records/LineNames.h"
 #include "records/LineWriter.h"
@@ -110,19 +111,23 @@ void AddRows(Outline& outline, const DataSet& set) {
         outline.rows.push_back(RowText(set, row, items));
 }
 
-} // namespace
+std::string IdentityOfSource(std::size_t place) {
+    return "source " + std::to_string(place);
+}
 
-Record* RecordAt(Record& record, const std::vector<std::string>& identities) {
-    Record* at = &record;
-    for (const std::string& identity : identities) {
-        Record* next = nullptr;
-        at->EachChild([&](Record& child) {
-            if (next == nullptr && IdentityOf(child) == identity) next = &child;
-        });
-        if (next == nullptr) return nullptr;
-        at = next;
-    }
-    return at;
+Record* Below(Record& record, const std::string& identity) {
+    Record* below = nullptr;
+    record.EachChild([&](Record& child) {
+        if (below == nullptr && IdentityOf(child) == identity) below = &child;
+    });
+    return below;
+}
+
+Record* FurtherSource(const std::string& identity) {
+    const auto& sources = Globals().recR;
+    for (std::size_t place = 2; place <= sources.Count(); ++place)
+        if (identity == IdentityOfSource(place)) return sources.Item(place).get();
+    return nullptr;
 }
 
 Outline OutlineOf(Record& record) {
@@ -141,6 +146,28 @@ Outline OutlineOf(Record& record) {
     if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set);
     record.EachChild([&outline](Record& child) { outline.children.push_back(OutlineOf(child)); });
     return outline;
+}
+
+} // namespace
+
+Outline OutlineOfDocument() {
+    const auto& sources = Globals().recR;
+    Outline document = OutlineOf(*sources.Item(std::size_t{1}));
+    for (std::size_t place = 2; place <= sources.Count(); ++place) {
+        document.children.push_back(OutlineOf(*sources.Item(place)));
+        document.children.back().identity = IdentityOfSource(place);
+    }
+    return document;
+}
+
+Record* RecordAt(const std::vector<std::string>& identities) {
+    Record* at = Globals().recR.Item(std::size_t{1}).get();
+    for (const std::string& identity : identities) {
+        Record* further = &identity == &identities.front() ? FurtherSource(identity) : nullptr;
+        at = further != nullptr ? further : Below(*at, identity);
+        if (at == nullptr) return nullptr;
+    }
+    return at;
 }
 
 } // namespace vexora

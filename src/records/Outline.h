@@ -23,11 +23,12 @@ struct Outline {
     std::vector<Outline> children;
 };
 
-/// The record below another whose outline, and those above it from the first one down, have these
-/// identities; the record itself for none of them, null when there is no such one.
-Record* RecordAt(Record& record, const std::vector<std::string>& identities);
+/// The outline of the open document, which must not be empty: that of its source. The further
+/// sources that a file may hold stand below the first one, behind its compounds and mixtures.
+Outline OutlineOfDocument();
 
-/// The outline of a record and of all below it, of the source as a rule.
-Outline OutlineOf(Record& record);
+/// The record of the open document whose outline, and those above it from below the first source
+/// down, have these identities; that source for none of them, null when there is no such one.
+Record* RecordAt(const std::vector<std::string>& identities);
 
 } // namespace vexora

@@ -15,7 +15,7 @@ constexpr int CompareHelp = 420;
 /// The node that a difference is about; null when it is not in the open document.
 ui::TreeNode* NodeOf(const Difference& difference) {
     if (Globals().recR.IsEmpty()) return nullptr;
-    const Record* record = RecordAt(*Globals().recR.Item(std::size_t{1}), difference.place);
+    const Record* record = RecordAt(difference.place);
     return record == nullptr ? nullptr : record->tNode;
 }
 

@@ -60,7 +60,7 @@ std::optional<Outline> frmMain::ReadOutline(const std::string& path) {
     {
         const ReadingScope reading(FileName, known_);
         result = ReadDocument(*text, ReadPurpose::Look);
-        if (!Globals().recR.IsEmpty()) outline = OutlineOf(*Globals().recR.Item(std::size_t{1}));
+        if (!Globals().recR.IsEmpty()) outline = OutlineOfDocument();
     }
     if (!outline && result.whole) ui::Say("The file " + path + " holds no source record.");
     if (outline && (result.linesNotKept > 0 || !result.lost.empty()))
@@ -76,7 +76,7 @@ void frmMain::mnuCompare_Click() {
     const auto before = ReadOutline(whole);
     SelectNode(); // what was current is so again
     if (!before) return;
-    auto differences = DifferencesOf(*before, OutlineOf(*Globals().recR.Item(std::size_t{1})));
+    auto differences = DifferencesOf(*before, OutlineOfDocument());
     if (differences.empty())
         return ui::Say("The open document says the same as the file " + whole + ".");
     auto& form = ui::Forms::Current().Get<frmCompare>("frmCompare");

@@ -2,6 +2,7 @@
 
 #include "records/LineNames.h"
 #include "records/RoundTripFixture.h"
+#include "reference/Text.h"
 
 #include <tuple>
 #include <utility>
@@ -23,7 +24,7 @@ class DifferencesTest : public RoundTripFixture {
 protected:
     Outline OutlineFrom(const std::string& text) {
         Read(text);
-        return OutlineOf(*globals.recR.Item(std::size_t{1}));
+        return OutlineOfDocument();
     }
     /// What has changed when the one text in the document becomes the other, without the labels
     /// above the node.
@@ -42,6 +43,20 @@ protected:
         return told;
     }
 };
+
+TEST_F(DifferencesTest, EverySourceOfAFileIsCompared) {
+    const std::string second =
+        Replace(Replace(kHead, "2002 wag pru 1", "2003 abc & 1"), "\n^R", "^R");
+    const auto differences =
+        DifferencesOf(OutlineFrom(kHead + second + ValueLines),
+                      OutlineFrom(kHead + second + Replace(ValueLines, "647.1", "647.2")));
+    ASSERT_EQ(differences.size(), 1U);
+    EXPECT_EQ(differences[0].before + " -> " + differences[0].after, "647.1 -> 647.2");
+    const Record* record = RecordAt(differences[0].place);
+    ASSERT_NE(record, nullptr);
+    EXPECT_TRUE(record->ShowKey().starts_with("^0: Critical temperature")) << record->ShowKey();
+    EXPECT_EQ(DifferencesOf(OutlineFrom(kHead + second), OutlineFrom(kHead)).size(), 1U);
+}
 
 TEST_F(DifferencesTest, EachEditIsToldByItsFieldOrCell) {
     const std::string swapped = "^d 300 996.6 &\n^d 325 987.2 &\n";
