@@ -71,7 +71,7 @@ int OpenedDocument::Read(const std::string& path) {
         Tell(0, Severity::Error, "this is no record file: it holds no source");
         return kExitUnreadable;
     }
-    passedOver_ = {result.linesNotKept, std::move(result.lost)};
+    passedOver_ = {result.linesNotKept, std::move(result.lost), {}};
     return kExitClean;
 }
 

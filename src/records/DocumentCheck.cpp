@@ -48,15 +48,16 @@ void TellPassedOver(const PassedOver& passedOver, Findings& findings) {
     const Record* source = Globals().recR.Item(std::size_t{1}).get();
     if (const std::string text = NotKeptText(passedOver); !text.empty())
         findings.push_back({0, Severity::Warning, text, source});
-    if (passedOver.lost.empty()) return;
+    if (passedOver.lost.empty() && passedOver.told.empty()) return;
     const auto records = RecordsByLine();
-    for (const LineLost& lost : passedOver.lost) {
-        const auto behind =
-            std::upper_bound(records.begin(), records.end(), lost.line,
-                             [](int line, const Record* record) { return line < record->Line; });
-        findings.push_back({lost.line, Severity::Warning, lost.text,
-                            behind == records.begin() ? source : *(behind - 1)});
-    }
+    for (const auto* lines : {&passedOver.lost, &passedOver.told})
+        for (const LineLost& one : *lines) {
+            const auto behind = std::upper_bound(
+                records.begin(), records.end(), one.line,
+                [](int line, const Record* record) { return line < record->Line; });
+            findings.push_back({one.line, Severity::Warning, one.text,
+                                behind == records.begin() ? source : *(behind - 1)});
+        }
 }
 
 } // namespace

@@ -30,6 +30,7 @@ struct DocumentFinding {
 struct PassedOver {
     int linesNotKept = 0; // of kinds of data that this edition reads over
     std::vector<LineLost> lost;
+    std::vector<LineLost> told; // said of lines in passing; empty where they are reported already
 };
 
 /// A word on the lines of unknown kinds; empty when there are none.

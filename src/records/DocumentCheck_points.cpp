@@ -7,6 +7,9 @@
 #include <map>
 #include <unordered_map>
 
+#include "chem/CommentTags.h"
+#include "records/clsS.h"
+#include "records/clsZ.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
@@ -111,7 +114,40 @@ void CheckSetAmong(const DataSet& set, Points& known, Findings& findings) {
             .Warn(PropertyName(set.PRPCODE, set.DataContext()) + ": " + repeated.Text());
 }
 
+/// What two single values have in common when they are one; empty for one that cannot be compared.
+std::string KeyOf(const clsZ& value) {
+    if (!IsNumeric(value.PRPVALUE) || !value.PropertyConversion().IsPossible()) return {};
+    std::string key;
+    for (const auto& part : {value.PRPCODE, value.PHASE1, value.PHASE2, value.PHASE3})
+        key += std::string(part) + "\n";
+    const CommentTags tags(value.Header.DATACOMMENT);
+    for (const QuantityText& quantity : StateVariables) {
+        const std::string constant = tags.Constant(quantity.code);
+        if (IsNumeric(constant)) key += std::string(quantity.code) + KeyOfNumber(Val(constant));
+    }
+    if (value.nVar == 1) {
+        const UnitConversion entered = value.VariableConversion(1);
+        if (!IsNumeric(value.INDVARIABLE) || !entered.IsPossible()) return {};
+        key += value.Variable() + KeyOfNumber(entered.Absolute(Val(value.INDVARIABLE)));
+    }
+    return key + "\n" + KeyOfNumber(value.SystemValue());
+}
+
 } // namespace
+
+void CheckEqualValues(const clsS& sample, Findings& findings) {
+    std::unordered_map<std::string, const clsZ*> known;
+    for (const auto& value : sample.recZ) {
+        std::string key = KeyOf(*value);
+        if (key.empty()) continue;
+        const auto [entry, isFirst] = known.try_emplace(std::move(key), value.get());
+        if (!isFirst)
+            Remarks(findings, *value)
+                .Warn(PropertyName(value->PRPCODE, value->DataContext()) +
+                      ": this value stands in set " + std::string(entry->second->PRPSETNO) +
+                      " too");
+    }
+}
 
 void CheckEqualPoints(const Record& owner, Findings& findings) {
     std::map<std::string, std::vector<const DataSet*>> kinds;

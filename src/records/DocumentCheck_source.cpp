@@ -128,6 +128,7 @@ void CheckSample(const clsS& sample, Findings& findings) {
         remarks.Hint(sample.Key() + ": no purity is stated");
     if (sample.recZ.IsEmpty() && sample.recTwo.IsEmpty())
         remarks.Warn(sample.Key() + " has no data");
+    CheckEqualValues(sample, findings);
     CheckEqualPoints(sample, findings);
 }
 

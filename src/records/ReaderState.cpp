@@ -325,9 +325,11 @@ void ReaderState::AbandonIncomplete(std::string_view line) {
     Abandon("Incomplete record: " + std::string(Trim(line)));
 }
 
-void ReaderState::Tell(const Notices& told) {
-    for (const Notice& notice : told)
+void ReaderState::Tell(const Notices& notices) {
+    for (const Notice& notice : notices) {
         talk.Say(notice);
+        told.push_back({lineNumber, Replace(notice.text, "\n", " ")});
+    }
 }
 
 void ReaderState::Abandon(const std::string& text, const std::string& title) {

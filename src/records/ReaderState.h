@@ -34,6 +34,7 @@ struct ReaderState {
     /// A save would lose these lines, so a document that has any is not to be saved over its file.
     int linesNotKept = 0;
     std::vector<LineLost> lost; // what else a save would lose, and lines that nobody knows
+    std::vector<LineLost> told; // what records had to say of their lines
     int pendingLines = 0;       // lines of the header since the last data record
     int headerLine = 0;         // the header, until a record stands under it
     int factorLine = 0;         // the factor, until a value stands in the unit that it makes
@@ -76,7 +77,7 @@ struct ReaderState {
     /// Drops the read for a line that lacks a field or has no place.
     void AbandonIncomplete(std::string_view line);
     /// Says what a record has to say.
-    void Tell(const Notices& told);
+    void Tell(const Notices& notices);
     /// Says the message and drops the read.
     void Abandon(const std::string& text, const std::string& title = {});
     /// The same for a message that has been said already.

@@ -101,5 +101,7 @@ void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks);
 /// Names the sets right below the owner that repeat points of a set before them: the same property
 /// of the same phases, at the same state with the same value, in whatever units.
 void CheckEqualPoints(const Record& owner, Findings& findings);
+/// The same of the single values of a sample.
+void CheckEqualValues(const clsS& sample, Findings& findings);
 
 } // namespace vexora

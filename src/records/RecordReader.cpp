@@ -95,6 +95,7 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
     result.whole = !state.isAbandoned;
     result.linesNotKept = state.linesNotKept;
     result.lost = std::move(state.lost);
+    result.told = std::move(state.told);
     std::ranges::stable_sort(result.lost, {}, &LineLost::line);
     if (result.whole) return result;
     EmptyDocument();

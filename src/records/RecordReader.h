@@ -15,9 +15,10 @@ struct ReadResult {
     /// Lines that the document holds in part or not at all, in their order: of those not kept only
     /// the ones whose tag nobody knows, and what has no record to belong to.
     std::vector<LineLost> lost;
-    std::string fault;        // the message that was shown when the read was abandoned
-    int faultLine = 0;        // line of the file, from 1
-    bool endsProgram = false; // the read found what this program cannot go on with
+    std::vector<LineLost> told; // what was said of other lines, as of an author whom nobody knows
+    std::string fault;          // the message that was shown when the read was abandoned
+    int faultLine = 0;          // line of the file, from 1
+    bool endsProgram = false;   // the read found what this program cannot go on with
 };
 
 /// Who hears what comes up while a document is read, and answers. Both come in the order of the

@@ -202,7 +202,7 @@ bool frmMain::TakeFile(const std::string& path) {
     SettleAside();
     if (isEmpty) return false;
     known_.Note(path, *text);
-    known_.Lines = {result.linesNotKept, result.lost};
+    known_.Lines = {result.linesNotKept, result.lost, result.told};
     if (result.linesNotKept > 0) globals.ReadOnly = globals.Saved = true;
     const Notice notice = NoticeOfReading(result);
     if (!notice.text.empty()) ui::Say(notice.text, notice.title);

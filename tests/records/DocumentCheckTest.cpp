@@ -19,7 +19,7 @@ protected:
     std::string Found(const std::string& document) {
         Read(document);
         std::string found;
-        for (const DocumentFinding& finding : CheckDocument({0, lost})) {
+        for (const DocumentFinding& finding : CheckDocument({0, lost, remarks})) {
             EXPECT_TRUE(finding.record && finding.record->tNode) << finding.text;
             found += std::to_string(finding.line) + " " +
                      std::string(SeverityWord(finding.severity)) + ": " + finding.text + "\n";
@@ -113,6 +113,27 @@ TEST_F(DocumentCheckTest, PointsAreEqualAtOneStateWithOneValueInAnyUnits) {
         EXPECT_EQ(FoundIn(first + set("2", second)), told) << second;
     EXPECT_EQ(FoundIn(set("1", "L & FP S & & &" + statement + "\n^d 300 9 &\n^d 300 9 &")), "")
         << "rows of one set are the business of its table";
+}
+
+TEST_F(DocumentCheckTest, ASingleValueThatStandsTwiceInAnyUnitsIsNamed) {
+    const std::string header = "^A & O & & AB CD 1/15/2026 &\n";
+    const auto value = [&header](const std::string& line) { return header + line + " & 1 &\n"; };
+    const std::string first = value("^f 1 VDN S 1 L 300 S 997");
+    const std::string stands = "this value stands in set 1 too|";
+    EXPECT_EQ(FoundIn(first + value("^f 1 VDN S 2 L 26.85 C 997.0")), stands);
+    for (const char* other :
+         {"^f 1 VDN S 2 L 300 S 996", "^f 1 VDN S 2 L 301 S 997", "^f 1 VDN S 2 G 300 S 997",
+          "^f 1 VDN S 2 L 300 nounit 997", "^z 1 VDN S 2 L G & 997"})
+        EXPECT_EQ(FoundIn(first + value(other)).find("stands"), std::string::npos) << other;
+    EXPECT_EQ(FoundIn(first + "^A & O & & AB CD 1/15/2026 ::P = 200:\n"
+                              "^f 1 VDN S 2 L 300 S 997 & 1 &\n"),
+              "");
+}
+
+TEST_F(DocumentCheckTest, WhatWasSaidOnlyWhileReadingIsInTheReport) {
+    desktop.Expect("Undefined author nobodyxy1:");
+    EXPECT_TRUE(Found(kHead + "^I#2#nobody#xy1#\n")
+                    .starts_with("6 warning: Undefined author nobodyxy1:\n"));
 }
 
 TEST_F(DocumentCheckTest, WhatNothingStatesOfAStateIsNamed) {

@@ -32,6 +32,7 @@ protected:
         ASSERT_TRUE(result.whole) << result.faultLine << ": " << result.fault;
         EXPECT_EQ(result.linesNotKept, 0);
         lost = result.lost;
+        remarks = result.told;
     }
     std::string LoadAndSave(const std::string& text) {
         Read(text);
@@ -44,7 +45,7 @@ protected:
             ADD_FAILURE() << "line " << one.line << ": " << one.text << "\n" << text;
         return saved;
     }
-    std::vector<LineLost> lost; // of the document read last
+    std::vector<LineLost> lost, remarks; // of the document read last
     clsZ& Value(std::size_t position = 1) const {
         return *globals.recR.Item(std::size_t{1})
                     ->recL.Item(std::size_t{1})
