@@ -99,6 +99,8 @@ private:
             Quantity(name, text);
         else if (name == "nPropValue" || name == "nVarValue")
             Value(name, text);
+        else
+            Definition(name, text);
         if (name.ends_with("Digits")) Digits(name, text, before);
     }
 
@@ -122,6 +124,7 @@ private:
     }
     void Quantity(std::string_view name, const std::string& number) {
         Numbers& numbers = name == "nPropNumber" ? properties_ : variables_;
+        if (name == "nVarNumber") variable_ = static_cast<int>(ToInteger(Val(number)));
         if (Above() == "PropertyValue" || Above() == "VariableValue") {
             numbers.used.insert(number);
             inValue_ = number;
@@ -132,7 +135,26 @@ private:
     void Value(std::string_view name, const std::string& text) {
         if (!values_ || !inBlock_ || inValue_.empty()) return;
         const int n = name == "nPropValue" ? 0 : static_cast<int>(ToInteger(Val(inValue_)));
-        const auto expected = values_->Of(n);
+        Compare(name, text, values_->Of(n));
+    }
+    /// What the heads say of the numbers below.
+    void Definition(std::string_view name, const std::string& text) {
+        if (!values_) return;
+        if (name == "ePropName") Unit(text, 0);
+        if (Above() == "VariableType") Unit(text, variable_);
+        if (Above() == "ConstraintType") constraint_ = text;
+        if (name == "nConstraintValue") Compare(name, text, values_->Constant(constraint_));
+    }
+    /// Behind the last comma of the name; without one it is a pure number.
+    void Unit(const std::string& text, int n) {
+        constexpr std::string_view mark = ", ";
+        const std::size_t at = text.rfind(mark);
+        const std::string unit = values_->UnitOf(n);
+        if (!unit.empty() && unit != (at == text.npos ? "1" : text.substr(at + mark.size())))
+            Add("\"" + text + "\" does not name the unit of the numbers, " + unit);
+    }
+    void Compare(std::string_view name, const std::string& text,
+                 const std::optional<ExpectedValue>& expected) {
         if (expected && std::abs(Val(text) - expected->value) > expected->tolerance)
             Add(std::string(name) + " reads " + text + " where the record says " +
                 NumberText(expected->value));
@@ -155,7 +177,9 @@ private:
     Numbers properties_, variables_;
     std::optional<ExpectedValues> values_;
     bool inBlock_ = false;
-    std::string inValue_; // number of the quantity whose value is being read
+    std::string inValue_;    // number of the quantity whose value is being read
+    int variable_ = 0;       // the number read last
+    std::string constraint_; // the name read last
 };
 
 } // namespace

@@ -3,7 +3,9 @@
 #include "export/SetRows.h"
 #include "records/DataSet.h"
 #include "records/clsZ.h"
+#include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
+#include "reference/Vocabulary.h"
 
 #include <cmath>
 
@@ -31,6 +33,15 @@ std::optional<ExpectedValue> Expected(std::string_view typed, const ExportUnit& 
         place /= AngstromsInNanometre;
     }
     return ExpectedValue{value, part * place + ofDouble * std::abs(value)};
+}
+
+/// Of a set or a single value.
+template <class Data>
+std::string UnitOfQuantity(const Data& data, int count, int n) {
+    if (n == 0) return UnitOfProperty(data.PRPCODE, data.DataContext());
+    if (n > count) return {};
+    const std::string code = data.VARIABLE(n);
+    return code == "WL" ? "nm" : UnitOfVariable(code);
 }
 
 std::optional<ExpectedValue> Expected(const SingleValue& value, int n) {
@@ -70,6 +81,23 @@ std::optional<ExpectedValue> ExpectedValues::Of(int n) const {
     if (set_ == nullptr) return Expected(static_cast<const SingleValue&>(*record_), n);
     if (n > row_->nVar) return std::nullopt;
     return Expected(row_->Values[static_cast<std::size_t>(n)], rows_->UnitIn(*row_, n));
+}
+
+std::string ExpectedValues::UnitOf(int n) const {
+    if (set_ != nullptr) return UnitOfQuantity(*set_, set_->nVar, n);
+    const auto* value = dynamic_cast<const SingleValue*>(record_);
+    return value != nullptr ? UnitOfQuantity(*value, value->VariableCount(), n) : std::string();
+}
+
+std::optional<ExpectedValue> ExpectedValues::Constant(std::string_view xmlName) const {
+    if (set_ == nullptr) return std::nullopt;
+    for (const QuantityText& quantity : StateVariables) {
+        if (XMLVariableName(quantity.code) != xmlName) continue;
+        ExportUnit unit;
+        unit.wavelength = quantity.code == "WL";
+        return Expected(set_->ConstantOf(quantity.code), unit);
+    }
+    return std::nullopt;
 }
 
 } // namespace vexora

@@ -4,6 +4,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace vexora {
 
@@ -29,6 +31,10 @@ public:
     bool Next();
     /// Quantity n of the block in hand, 0 the property; nothing where the record does not tell.
     std::optional<ExpectedValue> Of(int n) const;
+    /// The unit in which quantity n leaves, "1" for none; empty where the record does not tell.
+    std::string UnitOf(int n) const;
+    /// The constant of a set that leaves under this name; nothing where the record does not tell.
+    std::optional<ExpectedValue> Constant(std::string_view xmlName) const;
 
 private:
     const Record* record_;

@@ -17,7 +17,8 @@ class ClosingCheckTest : public ExportFixture {
 protected:
     ClosingCheckTest() {
         ReadDocument(
-            kHead + kHeader + "^z 1 TC S 1 L G & 647.096 & & &\n" + kHeader +
+            kHead + kHeader + "^z 1 TC S 1 L G & 647.096 & & &\n" +
+                "^A & O & & & & & ::P = 200:\n"
                 "^1 1 VDN S DIR 1\tC L & FP C & & &\n^d 25 997.05 &\n^d 30 995.65 &\n^M 0\n",
             ReadPurpose::Look);
         exported_ = ExportDocument({2026, 1, 5});
@@ -77,6 +78,12 @@ TEST_F(ClosingCheckTest, EachFaultIsFoundWithItsNode) {
         {value, "<ePropPhase>Liquid<", "<ePropPhase><", "^0: The element ePropPhase is empty"},
         {set, "<nPropValue>995.65", "<nPropValue>997.05",
          "^1: nPropValue reads 997.05 where the record says 995.65"},
+        {"", "Critical temperature, K", "Critical pressure, kPa",
+         "^0: \"Critical pressure, kPa\" does not name the unit of the numbers, K"},
+        {"", ">Temperature, K<", ">Temperature<",
+         "^1: \"Temperature\" does not name the unit of the numbers, K"},
+        {"", "<nConstraintValue>200", "<nConstraintValue>100",
+         "^1: nConstraintValue reads 100 where the record says 200"},
         {value, "</NumValues>", "</NumValues>\n<Property><nPropNumber>1</nPropNumber></Property>",
          "^0: nPropNumber 1 stands twice"},
     };
