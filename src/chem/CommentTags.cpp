@@ -174,6 +174,20 @@ void CommentTags::DropFactors() {
 
 void CommentTags::ChangePrecisions(
     const std::function<std::string(const std::string&, const std::string&)>& changed) {
+    RewritePrecisions([&](const std::string& code, const std::string& typed) {
+        return code + ":" + changed(code, typed);
+    });
+}
+
+void CommentTags::ChangePrecisionCodes(
+    const std::function<std::string(const std::string&)>& changed) {
+    RewritePrecisions([&](const std::string& code, const std::string& typed) {
+        return changed(code) + ":" + typed;
+    });
+}
+
+void CommentTags::RewritePrecisions(
+    const std::function<std::string(const std::string&, const std::string&)>& rewritten) {
     if (tags_.empty()) return;
     std::string result = ":"; // the first of the two that open the tags
     for (std::size_t at = 1; at < tags_.size();) {
@@ -188,7 +202,7 @@ void CommentTags::ChangePrecisions(
         }
         const std::string code = tags_.substr(at + 2, codeEnd - at - 2);
         const std::string typed = tags_.substr(codeEnd + 1, valueEnd - codeEnd - 1);
-        result += ":d" + code + ":" + changed(code, typed);
+        result += ":d" + rewritten(code, typed);
         at = valueEnd;
     }
     tags_ = std::move(result);

@@ -81,6 +81,8 @@ public:
     /// Puts `changed(code, typed)` in the place of each precision that is closed.
     void ChangePrecisions(
         const std::function<std::string(const std::string&, const std::string&)>& changed);
+    /// Puts `changed(code)` in the place of the code of each of them.
+    void ChangePrecisionCodes(const std::function<std::string(const std::string&)>& changed);
 
 private:
     struct Pair {
@@ -89,6 +91,9 @@ private:
     };
 
     CommentTags() = default;
+    /// Puts other text in the place of "code:precision" wherever it stands closed.
+    void RewritePrecisions(
+        const std::function<std::string(const std::string&, const std::string&)>& rewritten);
     std::optional<Pair> Find(std::string_view opening) const;
     std::string ValueOf(const Pair& pair) const;
     /// Gives the tags their first and their last colon.

@@ -1,11 +1,15 @@
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
+#include "records/clsMV.h"
 #include "records/clsTwo.h"
 
 namespace vexora {
 
 std::shared_ptr<DataSet> CurrentSet() {
-    return Globals().CurrentTwo; // of a compound or a complex, the only ones that have sets here
+    const KVOGlobal& globals = Globals();
+    const bool isMixture = globals.DataContext == "Bin" || globals.DataContext == "Tern";
+    if (isMixture) return globals.CurrentMV;
+    return globals.CurrentTwo; // of a compound or a complex
 }
 
 } // namespace vexora

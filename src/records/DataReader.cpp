@@ -114,7 +114,7 @@ void ReadPureSet(ReaderState& state, std::string_view line) {
 
 } // namespace
 
-const DataLines PureLines = {"Pure", ReadPureValue, ReadPureSet};
+const DataLines PureLines = {ReadPureValue, ReadPureSet};
 
 void ReadValue(ReaderState& state, std::string_view line) {
     state.lines ? state.lines->value(state, line) : state.PassOver();

@@ -9,12 +9,13 @@ struct ReaderState;
 
 /// The same tags stand for records of other classes behind a compound, a mixture or a reaction.
 struct DataLines {
-    std::string_view context; // "Pure", ...
     void (*value)(ReaderState& state, std::string_view line);
     void (*set)(ReaderState& state, std::string_view line);
 };
 /// Values and sets of the samples of a compound, which have no third variable.
 extern const DataLines PureLines;
+/// Values and sets of a mixture, which name a sample of each component.
+extern const DataLines MixtureLines;
 
 /// ^Z ^z ^F ^f: a single value joins its owner.
 void ReadValue(ReaderState& state, std::string_view line);

@@ -107,7 +107,13 @@ void DataSet::PrintEnd(LineWriter& out) const {
     out.Line("^M 0");
 }
 
+/// The unit of the property stands in the line, or as a factor in front.
+bool DataSet::NamesUnit() const {
+    return !RatioHasNoUnit() || Relation() != "R";
+}
+
 std::string DataSet::PropertyUnitField() const {
+    if (!NamesUnit()) return "S";
     return isOriginalUnit && Factor > 0 ? std::string("S") : UnitField(PROPERTY_UNIT);
 }
 
@@ -122,7 +128,7 @@ void DataSet::Print(LineWriter& out) const {
 
 void DataSet::PrintHead(LineWriter& out) const {
     Header.PrintHeader(out, CommentForRecord());
-    if (isOriginalUnit) {
+    if (isOriginalUnit && NamesUnit()) {
         double factor = Factor;
         if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
             factor = FactorOfLongUnit(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()), *this,
@@ -135,7 +141,7 @@ void DataSet::PrintHead(LineWriter& out) const {
 /// The unit out of which the statements about item n are brought for the record, "" for none.
 std::string DataSet::UnitOfStatements(int n) const {
     if (n > nVar) {
-        // The line of a mixture has no field for the unit of a constraint.
+        // The line has no field for the unit of a constant.
         for (const HeldConstant& constant : Constants())
             if (constant.item == n) return constant.unit;
         return {};
@@ -166,15 +172,16 @@ void DataSet::PrintRows(LineWriter& out) const {
             FactorOfLongUnit(code, UnitOfVariable(VARIABLE(n)), *this, Owner());
         converts = true;
     }
+    const bool hasTieWord = DataContext() == "Tern";
     for (const clsData& row : recData) {
         if (!converts || !row.inOriginalUnits) {
-            row.PrintData(out);
+            row.PrintData(out, hasTieWord);
             continue;
         }
         clsData converted = row;
         for (int n = 1; n <= nVar; ++n)
             converted.Convert(n, units[static_cast<std::size_t>(n)]);
-        converted.PrintData(out);
+        converted.PrintData(out, hasTieWord);
     }
 }
 

@@ -86,6 +86,8 @@ public:
     /// Statements and precisions stand in the units that the line of the set names, as rows do;
     /// otherwise those of variables, and all precisions, are brought to system units.
     virtual bool StatesInUnitsOfLine() const { return false; }
+    /// A ratio bears neither the letter of a unit nor a factor in its record.
+    virtual bool RatioHasNoUnit() const { return false; }
     /// A set of its own with the same definition, statements and rows, so that a table that is
     /// given up has changed nothing. It has no node and stands in no collection, but knows its
     /// owner.
@@ -158,6 +160,7 @@ protected:
 
 private:
     UnitConversion PropertyConversion(double molarMass) const;
+    bool NamesUnit() const;
     std::string CommentForRecord() const;
     std::string PrecisionForRecord(const std::string& code, const std::string& typed) const;
     std::string SystemPrecision(const std::string& code, const std::string& typed) const;

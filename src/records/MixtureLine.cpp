@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <vector>
+#include <utility>
 
 namespace vexora {
 
@@ -208,20 +208,38 @@ void MixtureLine::ForEachCode(Change change) {
         change(variables[static_cast<std::size_t>(n)].code);
 }
 
+std::vector<std::string> MixtureLine::Codes() const {
+    std::vector<std::string> codes;
+    MixtureLine copy = *this;
+    copy.ForEachCode([&codes](const std::string& code) { codes.push_back(code); });
+    return codes;
+}
+
 void MixtureLine::ToFile() {
     Arrange();
     Encode();
-    ForEachCode([this](std::string& code) { code = PushBack(code); });
+    MixtureLine brief = *this;
+    brief.ForEachCode([&brief](std::string& code) { code = brief.PushBack(code); });
+    // A solvent that one code fills in must not give a meaning to another that had none.
+    MixtureLine read = brief;
+    read.TranslateCodes();
+    if (read.Codes() == Codes()) *this = std::move(brief);
 }
 
-bool MixtureLine::ToMemory() {
+/// False when the reading of one is unsure.
+bool MixtureLine::TranslateCodes() {
     bool isSure = true;
+    const bool isBrief = PRPCODE == "HA";
     ForEachCode([&](std::string& code) {
         isSure = isSure && !IsAmbiguous(code);
         code = Translate(code);
     });
-    const bool wasBrief = PRPCODE == "HSL" && PROPERTY_FUNCT == "DPT";
-    if (wasBrief || (PRPCODE == "HSL" && PROPERTY_FUNCT.empty())) PROPERTY_FUNCT = "DIR";
+    if (PRPCODE == "HSL" && (isBrief || PROPERTY_FUNCT.empty())) PROPERTY_FUNCT = "DIR";
+    return isSure;
+}
+
+bool MixtureLine::ToMemory() {
+    const bool isSure = TranslateCodes();
     Decode();
     Dearrange();
     return isSure;

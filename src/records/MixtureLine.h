@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vexora {
 
@@ -80,6 +81,8 @@ struct MixtureLine {
 private:
     template <class Change>
     void ForEachCode(Change change);
+    bool TranslateCodes();
+    std::vector<std::string> Codes() const;
 };
 
 } // namespace vexora

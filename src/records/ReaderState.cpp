@@ -4,6 +4,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/DataReader.h"
 #include "records/LineWriter.h"
+#include "records/MixtureReader.h"
 #include "records/OpenRecord.h"
 #include "records/RecordReader.h"
 #include "records/RegistryNumbers.h"
@@ -42,18 +43,9 @@ std::string LinesOf(const clsL& compound) {
     return out.Text();
 }
 
-/// A factor that nothing closed must not reach the data of somebody else.
-void ForgetPending(ReaderState& state) {
-    state.LeaveFactor();
-    state.OpenNext();
-    state.pending.Factor = 0;
-    state.lastNotKept = false;
-}
-
 void ReadSource(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
-    ForgetPending(state);
-    if (globals.CurrentR) globals.CurrentR->CheckPresence();
+    state.BeginSystem(nullptr);
     auto source = std::make_shared<clsR>();
     source->Line = state.lineNumber;
     Notices told;
@@ -104,9 +96,8 @@ void ReadAuthor(ReaderState& state, std::string_view line) {
 
 void ReadCompound(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
-    ForgetPending(state);
-    state.lines = &PureLines;
-    globals.DataContext = PureLines.context;
+    state.BeginSystem(&PureLines);
+    globals.DataContext = "Pure";
     if (!globals.CurrentR) return state.AbandonIncomplete(line);
     auto compound = std::make_shared<clsL>();
     compound->Line = state.lineNumber;
@@ -138,15 +129,6 @@ void ReadCompound(ReaderState& state, std::string_view line) {
     globals.CurrentS = nullptr;
 }
 
-/// The number with its check digit set right, told unless the ^L line has told it.
-std::string MendedRN(ReaderState& state, const std::string& rn) {
-    const auto known = state.mendedRN.find(rn);
-    if (known != state.mendedRN.end()) return known->second;
-    std::string mended = WithCheckDigit(rn);
-    if (mended != rn) state.Tell({{"RN was corrected: from " + rn + " to " + mended, {}}});
-    return mended;
-}
-
 /// True for a line that brings no formula because the reference database has one.
 bool BringsNameOnly(const clsL& compound, std::string_view formula) {
     return !compound.isNew && WithoutPlaceholder(formula).empty() &&
@@ -173,7 +155,7 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
         rn = formula;
         formula = words.NextWord();
     }
-    rn = MendedRN(state, rn);
+    rn = state.MendedRN(rn);
     const auto compound = source ? source->FindL(rn) : nullptr;
     if (!compound) return state.Lose(state.lineNumber, "no compound " + rn + " stands before it");
     const std::string name = WithoutPlaceholder(Trim(words.Rest()));
@@ -186,7 +168,7 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
 
 void ReadSample(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
-    ForgetPending(state);
+    state.BeginSystem(state.lines);
     if (!globals.CurrentL) return state.AbandonIncomplete(line);
     auto sample = std::make_shared<clsS>();
     sample->Line = state.lineNumber;
@@ -214,6 +196,11 @@ bool LosesHeader(const clsA& before, const clsA& now, std::string_view line) {
 void ReadHeader(ReaderState& state, std::string_view line) {
     const bool isUnused = state.headerLine != 0;
     const clsA before = isUnused ? state.pending : clsA();
+    // In a mixture nothing else closes the factor of a set.
+    if (state.lines == &MixtureLines) {
+        state.LeaveFactor();
+        state.pending.Factor = 0;
+    }
     state.Tell(state.pending.Load(line));
     ++state.pendingLines;
     if (isUnused && LosesHeader(before, state.pending, line))
@@ -262,8 +249,10 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
             table[tag] = ReadSet;
         for (const std::string_view tag : {"^D", "^d", "^G", "^g"})
             table[tag] = ReadRow;
-        // Behind these the values and samples are those of a mixture, a reaction or a complex.
-        for (const std::string_view tag : {"^B", "^T", "^Q", "CS", "SB"})
+        // Behind these the values and samples are those of a reaction or a complex.
+        for (const std::string_view tag : {"^B", "^T"})
+            table[tag] = ReadMixture;
+        for (const std::string_view tag : {"^Q", "CS", "SB"})
             table[tag] = PassOverSystem;
         for (const std::string_view tag :
              {"^C", "^c", "^E", "^H", "BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH",
@@ -275,6 +264,23 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
 }
 
 } // namespace
+
+std::string ReaderState::MendedRN(const std::string& rn) {
+    const auto known = mendedRN.find(rn);
+    if (known != mendedRN.end()) return known->second;
+    std::string mended = WithCheckDigit(rn);
+    if (mended != rn) Tell({{"RN was corrected: from " + rn + " to " + mended, {}}});
+    return mended;
+}
+
+void ReaderState::BeginSystem(const DataLines* itsLines) {
+    LeaveFactor();
+    OpenNext();
+    // A factor that nothing closed must not reach the data of somebody else.
+    pending.Factor = 0;
+    lastNotKept = false;
+    lines = itsLines;
+}
 
 void ReaderState::OpenNext(std::shared_ptr<OpenRecord> next) {
     // The one before has all its lines now, and by its rows it is in the units of the paper or not.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,10 +17,17 @@ namespace vexora {
 
 class ReadTalk;
 class clsL;
+class clsM;
 class clsR;
 class clsS;
 class OpenRecord;
 struct DataLines;
+
+/// Numbers of the values or sets of one kind that a mixture has.
+struct SetNumbers {
+    std::unordered_set<std::string> taken;
+    std::int64_t highest = 0;
+};
 
 /// What the reader of a record file remembers from one line to the next. One lives for one read.
 struct ReaderState {
@@ -59,6 +67,10 @@ struct ReaderState {
     /// What is there already, so that looking for a twin takes no walk through all siblings.
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
     std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
+    std::unordered_map<const clsM*, std::unordered_map<std::string, SetNumbers>> setNumbers;
+    /// Mixtures whose components stand in another order than in the one that the source has
+    /// already: their sets join it once all their lines are read.
+    std::vector<std::shared_ptr<clsM>> reordered;
     std::unordered_map<const clsR*, std::pair<int, std::string>> descriptions; // ^J, by its line
 
     /// Makes the lines that follow belong to another data record, null for none.
@@ -67,6 +79,10 @@ struct ReaderState {
     void Lose(int line, const std::string& what);
     /// The factor in front is none of what follows: names it, if no value stands by it.
     void LeaveFactor();
+    /// What lines of data in front left, header aside, is none of the system that begins now.
+    void BeginSystem(const DataLines* itsLines);
+    /// The number with its check digit set right, told unless the compound's line has told it.
+    std::string MendedRN(const std::string& rn);
     /// Names what no record stands behind at the end of the file.
     void Finish();
     /// Counts the line as one that is not kept; the lines of a header that belong to it go along.

@@ -2,6 +2,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/MixtureReader.h"
 #include "records/PropertyLabels.h"
 #include "records/ReaderState.h"
 #include "records/Walk.h"
@@ -84,6 +85,7 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
         {
             const LabelsLater unlabelled;
             ReadLines(text, state);
+            if (!state.isAbandoned) FinishMixtures(state);
         }
         state.Finish();
         if (!state.isAbandoned) Finish(purpose, talk);

@@ -1,5 +1,6 @@
 #include "records/SingleValue.h"
 
+#include "chem/CommentTags.h"
 #include "records/LineWriter.h"
 #include "records/SetLines.h"
 #include "reference/Conversions.h"
@@ -51,6 +52,16 @@ void SingleValue::Statements(int n, const clsX& item) {
     items[place] = item;
 }
 
+void SingleValue::ChangeCodes(const std::function<std::string(const std::string&)>& changed) {
+    CommentTags tags(Header.DATACOMMENT);
+    tags.ChangePrecisionCodes(changed);
+    Header.DATACOMMENT = tags.Stored();
+    if (!stated_) return;
+    for (auto* const list : {&stated_->items, &stated_->others})
+        for (clsX& item : *list)
+            item.ChangeCodes(changed);
+}
+
 bool SingleValue::StandsByFactor() const {
     return isOriginalUnit && (Factor > 0 || FallbackMolarMass > 0);
 }
@@ -64,6 +75,7 @@ Placement SingleValue::AddX(const clsX& item) {
         Rare().others.push_back(added);
         return {};
     }
+    if (StatesInUnitsOfLine()) added.inSystemUnits = false;
     if (added.N == 0) added.KVOUValue = PRPUNCERTY; // the line of an item does not carry it
     // A line that is silent on repeatability does not take away what the value line says.
     const clsX before = Statements(added.N);
@@ -87,7 +99,7 @@ void SingleValue::TakePending(const clsA& pending) {
     if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
     // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
     // value.
-    if (IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+    if (HasMolarMass() && IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
 }
 
 void SingleValue::LoadValue(WordReader& words) {
@@ -123,7 +135,7 @@ bool SingleValue::NeedsMolarMass() const {
 }
 
 void SingleValue::Print(LineWriter& out) const {
-    if (NeedsMolarMass()) out.Line("^M " + NumberText(MolarMass()));
+    if (HasMolarMass() && NeedsMolarMass()) out.Line("^M " + NumberText(MolarMass()));
     Header.PrintHeader(out, CommentForRecord());
     const bool factorStands = PrintFactor(out);
     const bool bySystemUnit = isOriginalUnit && Factor > 0;
@@ -132,7 +144,7 @@ void SingleValue::Print(LineWriter& out) const {
     fields.insert(fields.end(), {PRPVALUE, PRPUNCERTY, PrecisionForRecord()});
     out.Fields(fields, DETERMNM);
     // Closed at once, so that the next value does not inherit it.
-    if (factorStands || NeedsMolarMass()) out.Line("^M 0");
+    if (ClosesFactor(factorStands)) out.Line("^M 0");
     PrintStatements(out);
 }
 
@@ -161,14 +173,14 @@ bool SingleValue::PrintFactor(LineWriter& out) const {
 std::string SingleValue::PrecisionForRecord() const {
     const std::string_view precision = PRECIS;
     const std::size_t percent = precision.find('%');
-    if (percent == precision.npos) return PRECIS;
+    if (percent == precision.npos || StatesInUnitsOfLine()) return PRECIS;
     if (Trim(precision) == "%") return {};
     return NumberText(std::abs(Val(precision.substr(0, percent)) * Val(PRPVALUE)) / 100);
 }
 
 /// The comment with the precisions that a dialog wrote brought to system units, as differences.
 std::string SingleValue::CommentForRecord() const {
-    if (commentInSystemUnits || !isOriginalUnit) return Header.DATACOMMENT;
+    if (commentInSystemUnits || !isOriginalUnit || StatesInUnitsOfLine()) return Header.DATACOMMENT;
     return CommentInSystemUnits(Header.DATACOMMENT,
                                 [this](const std::string& code, const std::string& typed) {
                                     return SystemPrecision(code, typed);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -50,6 +51,11 @@ public:
     virtual double MolarMass() const = 0;
     /// The record that the value belongs to, as messages name it on refusal; null for none.
     virtual const Record* Owner() const = 0;
+    /// What is stated of the value stands in the unit of the line, and as typed; otherwise
+    /// precisions are brought to system units and per cent to the figure.
+    virtual bool StatesInUnitsOfLine() const { return false; }
+    /// A molar mass in front of a unit by mass.
+    virtual bool HasMolarMass() const { return true; }
 
     // What follows from that.
 
@@ -58,6 +64,9 @@ public:
     clsX Statements(int n) const;
     /// Makes no memory of its own for an item that says no more than the value line.
     void Statements(int n, const clsX& item);
+    /// Puts `changed(code)` in the place of every code of a quantity or phase in statements and
+    /// precisions.
+    void ChangeCodes(const std::function<std::string(const std::string&)>& changed);
     bool StandsByFactor() const override;
     /// Puts a statement in its place; what has none is kept as read, and what the line of an item
     /// does not carry stays as it is.
@@ -83,6 +92,8 @@ protected:
     /// The fields of the value line in front of the value, the tag first, and behind the unit
     /// field.
     virtual std::vector<std::string> LineFields(std::string unitField) const = 0;
+    /// "^M 0" stands behind the line.
+    virtual bool ClosesFactor(bool factorStands) const { return factorStands || NeedsMolarMass(); }
     /// What the reader finds behind the fields of the class.
     void LoadValue(class WordReader& words);
 

@@ -110,7 +110,7 @@ void clsData::LoadExtras(WordReader& words) {
     Extras = std::move(extras);
 }
 
-void clsData::PrintData(LineWriter& out) const {
+void clsData::PrintData(LineWriter& out, bool hasTieWord) const {
     // Case tells the unit, the letter whether counts of digits go along.
     std::string line = isDigit ? (inOriginalUnits ? "^g" : "^G") : (inOriginalUnits ? "^d" : "^D");
     for (const std::size_t n : ItemOrder(nVar)) {
@@ -119,7 +119,7 @@ void clsData::PrintData(LineWriter& out) const {
         if (n == 0) break;
     }
     AppendField(line, PRPUNCERTY);
-    if (!IsBlankField(TIELINE)) AppendField(line, TIELINE);
+    if (hasTieWord || !IsBlankField(TIELINE)) AppendField(line, TIELINE);
     out.Line(line);
     PrintExtras(out);
 }

@@ -40,7 +40,7 @@ struct RowExtras {
 ///   ^G VARIABLE(1) digits ... VARIABLE(n) digits PRPVALUE digits PRPUNCERTY
 ///   ^Y DS Rep Repetitions Unc  (of each variable, then of the property)  userCU CD
 ///
-/// A word behind PRPUNCERTY is TIELINE, written where there is one.
+/// A word behind PRPUNCERTY is TIELINE, written where there is one, and in every row of a ternary.
 ///
 /// ^d and ^g hold values in the units of the paper, ^D and ^G in system units; ^Y follows its row
 /// and stands only where something is stated.
@@ -84,8 +84,9 @@ public:
     /// Reads the ^Y line that follows the row.
     /// Words that lack are empty, words too many are left.
     void LoadExtras(WordReader& words);
-    /// Writes the row as it stands, and its ^Y line where something is stated.
-    void PrintData(LineWriter& out) const;
+    /// Writes the row as it stands, and its ^Y line where something is stated. Rows of a ternary
+    /// have a word for the tie number also where there is none.
+    void PrintData(LineWriter& out, bool hasTieWord = false) const;
     void PrintExtras(LineWriter& out) const;
 
     /// Brings value n (0 the property) with its statements to the system unit; its count of digits

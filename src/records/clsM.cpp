@@ -6,7 +6,10 @@
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
+
+#include <algorithm>
 
 namespace vexora {
 
@@ -40,6 +43,25 @@ void clsM::RN(int n, std::string_view number) {
 
 std::string clsM::COMPOSITION() const {
     return RN1 + "+" + RN2 + (MixType > 2 ? "+" + RN3 : std::string());
+}
+
+std::string clsM::Key() const {
+    const std::array<int, 4> order = AscendingOrder();
+    std::string text;
+    for (int n = 1; n <= MixType; ++n)
+        text += (n == 1 ? "" : "+") + RN(order[static_cast<std::size_t>(n)]);
+    return text;
+}
+
+/// The components from the lowest registry number to the highest, from place 1 on.
+/// Numbers have up to ten digits; those of equal value keep their order.
+std::array<int, 4> clsM::AscendingOrder() const {
+    std::array<int, 4> order = {0, 1, 2, 3};
+    const auto first = order.begin() + 1;
+    std::stable_sort(first, first + MixType, [this](int a, int b) {
+        return ToInteger(Val(RN(a))) < ToInteger(Val(RN(b)));
+    });
+    return order;
 }
 
 std::shared_ptr<clsL> clsM::Component(int n) const {

@@ -38,9 +38,11 @@ public:
     /// Registry number of component n, 1 to 3; empty outside.
     const std::string& RN(int n) const;
     void RN(int n, std::string_view number);
-    /// RN1+RN2, or RN1+RN2+RN3: what tells mixtures of a source apart.
+    /// RN1+RN2, or RN1+RN2+RN3.
     std::string COMPOSITION() const;
-    std::string Key() const override { return COMPOSITION(); }
+    /// The same in ascending order, whatever order the components stand in: what tells mixtures of
+    /// a source apart.
+    std::string Key() const override;
     /// The names of the components joined by " + ".
     std::string ShowKey() const override;
     /// The same, but empty when a component is no compound of the source; `fault` then gets the
@@ -76,6 +78,9 @@ public:
     /// when that changed anything.
     bool Sort();
     bool HasData() const;
+
+private:
+    std::array<int, 4> AscendingOrder() const;
 };
 
 /// The components of a mixture for its average molar mass and its purity.

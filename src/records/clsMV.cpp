@@ -19,16 +19,6 @@ namespace {
 
 const std::string NoText;
 
-/// The value of a constraint in its system unit, for the line has no field for the unit.
-std::string ValueField(const clsMV& set, const ConstraintSlot& slot) {
-    if (slot.value.empty() || !IsConstraint(slot.code)) return slot.value;
-    const UnitConversion unit = set.ConstraintConversion(slot);
-    if (!unit.ChangesValues()) return slot.value;
-    // Asked for its refusal: what cannot be converted must not be written as 0.
-    FactorOfLongUnit(unit.code, unit.unit, set, set.Owner());
-    return unit.Converted(slot.value).text;
-}
-
 } // namespace
 
 const std::string& clsMV::SMPNM(int n) const {
@@ -110,15 +100,11 @@ std::shared_ptr<DataSet> clsMV::Copy() const {
     return copy;
 }
 
-UnitConversion clsMV::ConstraintConversion(const ConstraintSlot& slot) const {
-    return ConversionOf(slot.code, slot.unit);
-}
-
 void clsMV::AdjustConstants() {
     for (int n = 1; n <= ConstraintCount(); ++n) {
         ConstraintSlot& slot = Constraints[static_cast<std::size_t>(n - 1)];
         if (!IsConstraint(slot.code)) continue;
-        slot.value = ConstraintConversion(slot).Converted(slot.value).text;
+        slot.value = ConversionOf(slot.code, slot.unit).Converted(slot.value).text;
         slot.unit = "S";
     }
 }
@@ -134,10 +120,9 @@ std::vector<HeldConstant> clsMV::Constants() const {
 }
 
 std::string clsMV::ConstantOf(std::string_view code) const {
-    for (int n = 1; n <= ConstraintCount(); ++n) {
-        if (CONSTRAINT(n) != code || !IsNumeric(CNVALUE(n))) continue;
-        return ConstraintConversion(*Slot(n)).Converted(CNVALUE(n)).text;
-    }
+    for (const HeldConstant& constant : Constants())
+        if (constant.code == code && IsNumeric(constant.value))
+            return ConversionOf(constant.code, constant.unit).Converted(constant.value).text;
     return DataSet::ConstantOf(code);
 }
 
@@ -180,9 +165,11 @@ bool clsMV::Load(std::string_view line, bool* isAmbiguous) {
         if (words.AtEnd()) return false;
         variable.unit = NextField(words);
     }
-    for (std::string* field : {&read.SOLVENT, &STANDARD_STATE, &COMPOSITION, &REFERENCE_TEMPERATURE,
-                               &REFERENCE_PRESSURE})
-        *field = NextField(words);
+    read.SOLVENT = NextField(words);
+    STANDARD_STATE = UnderscoresToBlanks(NextField(words));
+    COMPOSITION = UnderscoresToBlanks(NextField(words));
+    REFERENCE_TEMPERATURE = NextField(words);
+    REFERENCE_PRESSURE = NextField(words);
     REFERENCE_PHASE = WithoutPlaceholder(Trim(words.Rest()));
     const bool isSure = read.ToMemory();
     if (isAmbiguous) *isAmbiguous = !isSure;
@@ -198,6 +185,8 @@ bool clsMV::Load(std::string_view line, bool* isAmbiguous) {
 
 void clsMV::TakePending(const clsA& pending) {
     DataSet::TakePending(pending);
+    // No two rows need have the same one.
+    FallbackMolarMass = 0;
     if (Relation() != "R") return;
     // A ratio has no unit; a factor taken along would say that it has.
     Factor = 0;
@@ -206,8 +195,9 @@ void clsMV::TakePending(const clsA& pending) {
 
 Placement clsMV::AddX(const clsX& item) {
     clsX added = item;
+    const bool isOfVariable = added.N < 0 && HasVariable(added.PRPCODE);
     // Slots are numbered in the order of memory, which a line need not have had.
-    if (added.N > nVar) {
+    if (added.N > nVar || (added.N < 0 && added.PRPCODE != PRPCODE && !isOfVariable)) {
         const auto constants = Constants();
         const auto found = std::ranges::find_if(constants, [&](const HeldConstant& constant) {
             return constant.code == added.PRPCODE && constant.phase == added.PHASE;
@@ -220,10 +210,20 @@ Placement clsMV::AddX(const clsX& item) {
     return DataSet::AddX(added);
 }
 
+/// The value of a constraint in its system unit, for the line has no field for the unit.
+std::string clsMV::ValueInLine(const HeldConstant& constant) const {
+    const UnitConversion unit = ConversionOf(constant.code, constant.unit);
+    if (constant.value.empty() || !unit.ChangesValues()) return constant.value;
+    // Asked for its refusal: what cannot be converted must not be written as 0.
+    FactorOfLongUnit(unit.code, unit.unit, *this, Parent);
+    return unit.Converted(constant.value).text;
+}
+
 std::string clsMV::DefinitionLine() const {
     MixtureLine file = Definition();
-    for (ConstraintSlot& slot : file.slots)
-        slot.value = ValueField(*this, slot);
+    for (const HeldConstant& constant : Constants())
+        file.slots[static_cast<std::size_t>(constant.item - nVar - 1)].value =
+            ValueInLine(constant);
     file.ToFile();
     std::string line = "^" + std::to_string(nVar);
     for (int n = 1; n <= MixType; ++n)
@@ -240,8 +240,7 @@ std::string clsMV::DefinitionLine() const {
         AppendField(line, UnitField(file.variables[static_cast<std::size_t>(n)].unit));
     }
     for (const std::string& field :
-         {file.SOLVENT, BlanksToUnderscores(STANDARD_STATE), BlanksToUnderscores(COMPOSITION),
-          REFERENCE_TEMPERATURE, REFERENCE_PRESSURE})
+         {file.SOLVENT, STANDARD_STATE, COMPOSITION, REFERENCE_TEMPERATURE, REFERENCE_PRESSURE})
         AppendField(line, field);
     return line + " " + OrPlaceholder(Trim(REFERENCE_PHASE));
 }

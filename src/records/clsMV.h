@@ -49,8 +49,6 @@ public:
     const std::string& CNVALUE(int n) const;
     const std::string& CN_UNIT(int n) const;
     int ConstraintCount() const;
-    /// How the typed value of a constraint leads to its system unit.
-    UnitConversion ConstraintConversion(const ConstraintSlot& slot) const;
 
     std::string_view DataContext() const override { return MixType == 2 ? "Bin" : "Tern"; }
     std::string SystemName() const override;
@@ -68,6 +66,7 @@ public:
     std::vector<HeldConstant> Constants() const override;
     std::string ConstantOf(std::string_view code) const override;
     bool StatesInUnitsOfLine() const override { return true; }
+    bool RatioHasNoUnit() const override { return true; }
     std::shared_ptr<DataSet> Copy() const override;
     void ExportAll(XmlWriter& xml) const override;
 
@@ -115,6 +114,7 @@ protected:
 
 private:
     const ConstraintSlot* Slot(int n) const; // null for one that the set has not
+    std::string ValueInLine(const HeldConstant& constant) const;
 };
 
 /// The number for a new set of a mixture: one above the highest among those of equal samples,

@@ -45,7 +45,9 @@ public:
     std::string SystemName() const override;
     /// 0: a unit by mass needs a composition, which a single value does not state.
     double MolarMass() const override { return 0; }
+    bool HasMolarMass() const override { return false; }
     const Record* Owner() const override;
+    bool StatesInUnitsOfLine() const override { return true; }
     void ExportAll(XmlWriter& xml) const override { ExportMZ(xml); }
     void ExportMZ(XmlWriter& xml) const;
 
@@ -71,6 +73,7 @@ public:
 
 protected:
     std::vector<std::string> LineFields(std::string unitField) const override;
+    bool ClosesFactor(bool factorStands) const override { return factorStands || isOriginalUnit; }
 };
 
 /// The number for a new value of a mixture: one above the highest among those of equal samples and

@@ -173,6 +173,18 @@ std::shared_ptr<clsL> clsR::FindL(std::string_view rn, std::size_t* index) const
     return compound;
 }
 
+std::shared_ptr<clsM> clsR::FindM(const clsM& mixture) const {
+    return recM.Item(mixture.Key());
+}
+
+std::shared_ptr<clsM> clsR::FindM(std::string_view names) const {
+    // Without a name for each component the text says nothing.
+    if (names.empty()) return nullptr;
+    for (const auto& mixture : recM)
+        if (mixture->Mixture() == names) return mixture;
+    return nullptr;
+}
+
 std::string clsR::ProposedName() const {
     const bool isManuscript = TYPDOC == "S" && isNew && !ManuscriptID.empty();
     return isManuscript ? ForFileName(ManuscriptID) : IdentityName();

@@ -104,6 +104,11 @@ public:
     /// The compound with this RN, or null; its place from 1 goes into index.
     std::shared_ptr<clsL> FindL(std::string_view rn, std::size_t* index = nullptr) const;
 
+    /// The mixture of the same components, in whatever order, or null.
+    std::shared_ptr<clsM> FindM(const clsM& mixture) const;
+    /// The one whose names in this order, parted by " + ", are these.
+    std::shared_ptr<clsM> FindM(std::string_view names) const;
+
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
     std::string ProposedName() const;

@@ -118,6 +118,19 @@ bool clsX::HoldsAll() const {
     return words.AtEnd() && !isMarkAlone;
 }
 
+void clsX::ChangeCodes(const std::function<std::string(const std::string&)>& changed) {
+    PRPCODE = changed(PRPCODE);
+    PHASE = changed(PHASE);
+    Name.clear();
+    std::string line;
+    WordReader words(Verbatim);
+    for (int place = 0; !words.AtEnd(); ++place) {
+        const std::string word(words.NextWord());
+        AppendField(line, place == 2 || place == 3 ? changed(word) : word);
+    }
+    Verbatim = std::move(line);
+}
+
 void clsX::SaveX(LineWriter& out, std::string_view code, double factor, double molarMass) const {
     if (IsKept()) out.Fields(Words({std::string(code), factor, molarMass}));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,6 +76,8 @@ public:
     /// converted again. factor and molarMass [g/mol] are those of the conversion.
     void SaveX(LineWriter& out, std::string_view code, double factor = 0,
                double molarMass = 0) const;
+    /// Puts `changed(code)` in the place of quantity and phase, in the line as read as well.
+    void ChangeCodes(const std::function<std::string(const std::string&)>& changed);
     /// The heads of the statements in the export; role is "Prop" or "Var".
     void ExportX(XmlWriter& xml, std::string_view role) const;
 

@@ -150,7 +150,7 @@ protected:
     TiedSet& Read(const std::string& lines) {
         SilentTalk talk;
         ReaderState state(talk);
-        constexpr DataLines tied = {"Bin", nullptr, ReadTiedSet};
+        constexpr DataLines tied = {nullptr, ReadTiedSet};
         state.lines = &tied;
         for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1)
             ReadRecord(state, std::string_view(lines).substr(at, lines.find('\n', at) - at));
