@@ -7,6 +7,8 @@
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
 
@@ -177,11 +179,11 @@ std::shared_ptr<clsM> clsR::FindM(const clsM& mixture) const {
     return recM.Item(mixture.Key());
 }
 
-std::shared_ptr<clsM> clsR::FindM(std::string_view names) const {
-    // Without a name for each component the text says nothing.
-    if (names.empty()) return nullptr;
+std::shared_ptr<clsM> clsR::FindM(std::string_view composition) const {
+    if (auto mixture = recM.Item(composition)) return mixture;
+    if (composition.find(" + ") == composition.npos) return nullptr; // no names
     for (const auto& mixture : recM)
-        if (mixture->Mixture() == names) return mixture;
+        if (mixture->Mixture() == composition) return mixture;
     return nullptr;
 }
 

@@ -106,8 +106,9 @@ public:
 
     /// The mixture of the same components, in whatever order, or null.
     std::shared_ptr<clsM> FindM(const clsM& mixture) const;
-    /// The one whose names in this order, parted by " + ", are these.
-    std::shared_ptr<clsM> FindM(std::string_view names) const;
+    /// The mixture of this COMPOSITION, else, for a caller that has names only, the one whose
+    /// components bear these; null for none. A mixture with an unknown component bears no name.
+    std::shared_ptr<clsM> FindM(std::string_view composition) const;
 
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
