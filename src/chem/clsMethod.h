@@ -17,7 +17,7 @@ public:
     std::string PHASE;       // phase in hand
     double Purity = 0;       // purity of the sample in hand [per cent]
     int nComponent = 1;      // number of components of the system in hand
-    std::string Context;     // property context code
+    std::string Context;     // property context: kind of equilibrium that names the property
     std::int32_t Year = 0;   // publication year of the source
     std::string KeySaved;    // tag string stored in the comment of the data set
     std::string KeyVolatile; // tag string that lives only while the dialog is open

@@ -4,6 +4,7 @@
 #include "chem/MethodTags.h"
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
+#include "entry/PropertyEntries.h"
 #include "entry/PropertyRules.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsA.h"
@@ -28,7 +29,7 @@ std::string ChoiceInForce() {
     for (const std::string& part :
          {globals.PropertyCode, globals.PropertyUnit, globals.PropertyText, globals.ExpPurpose,
           globals.PropertyFlags, globals.PropertyComment, globals.KeyRest, method.Method,
-          method.sMethod, std::to_string(method.f)}) {
+          method.sMethod, method.Context, std::to_string(method.f)}) {
         text += part + "\n";
     }
     return text;
@@ -87,8 +88,10 @@ StoredProperty PropertyToStore() {
 }
 
 PropertyRow PropertyInForce() {
-    const std::string& code = Globals().PropertyCode;
-    if (const auto row = FindProperty(code, Globals().DataContext)) return *row;
+    const KVOGlobal& globals = Globals();
+    const std::string& code = globals.PropertyCode;
+    const std::string kind = globals.CurrentMethod ? globals.CurrentMethod->Context : "";
+    if (const auto row = FindProperty(code, globals.DataContext, kind)) return *row;
     PropertyRow row;
     row.Code = row.Property = code;
     return row;
@@ -126,7 +129,8 @@ std::string UnitFault(const clsProperty& head) {
     if (code == "*" || ConversionFactor(code, unit) <= 0) return "Invalid conversion factor";
     // Per mass into per mole: without the molar mass every value would be 0.
     if (IsMassBased(code) && Globals().CurrentMethod->MMass <= 0)
-        return "Molar mass of the compound is not known";
+        return IsMixtureContext(Globals().DataContext) ? "Molar mass of the mixture is not known"
+                                                       : "Molar mass of the compound is not known";
     return {};
 }
 

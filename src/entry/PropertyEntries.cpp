@@ -19,6 +19,10 @@ constexpr PropertyEntry Entries[] = {
     {"Pure", EntryKind::Table, 1, "frmTwo"},       {"Pure", EntryKind::Table, 2, "frmTwo"},
     {"Complex", EntryKind::Value, 0, "frmSingle"}, {"Complex", EntryKind::Value, 1, "frmSingle"},
     {"Complex", EntryKind::Table, 1, "frmTwo"},    {"Complex", EntryKind::Table, 2, "frmTwo"},
+    {"Bin", EntryKind::Value, 0, "frmMixtSingle"}, {"Tern", EntryKind::Value, 0, "frmMixtSingle"},
+    {"Bin", EntryKind::Table, 1, "frmMixtVar"},    {"Tern", EntryKind::Table, 1, "frmMixtVar"},
+    {"Bin", EntryKind::Table, 2, "frmMixtVar"},    {"Tern", EntryKind::Table, 2, "frmMixtVar"},
+    {"Bin", EntryKind::Table, 3, "frmMixtVar"},    {"Tern", EntryKind::Table, 3, "frmMixtVar"},
 };
 
 } // namespace
@@ -36,7 +40,17 @@ bool IsEntryFormOpen(std::string_view context, EntryKind kind, int variableCount
     return !form.empty() && ui::Forms::Current().Find(form) != nullptr;
 }
 
-bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount) {
+bool IsMixtureContext(std::string_view context) {
+    return context == "Bin" || context == "Tern";
+}
+
+bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount,
+                 std::string_view context) {
+    if (IsMixtureContext(context)) {
+        if (kind == EntryKind::Table) return variableCount >= 1 && variableCount <= 3 && row.MixV;
+        // A single value of a property of tables is one at a stated temperature or pressure.
+        return variableCount == 0 && (row.MixZ || row.MixV);
+    }
     if (kind == EntryKind::Value)
         return variableCount == 0 ? row.Single : variableCount == 1 && row.Fixed;
     return variableCount == 1 ? row.One : variableCount == 2 && row.Two;

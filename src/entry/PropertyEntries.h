@@ -22,9 +22,13 @@ std::string_view EntryForm(std::string_view context, EntryKind kind, int variabl
 /// Whether that form is the one that stands open.
 bool IsEntryFormOpen(std::string_view context, EntryKind kind, int variableCount);
 
-/// Whether the columns of the property let pure data of it be entered so: a value at 0 or 1 fixed
-/// variables, a table against 1 or 2.
-/// Other numbers of variables are not for pure compounds, by the phase rule.
-bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount);
+/// True for the data of binary and ternary mixtures.
+bool IsMixtureContext(std::string_view context);
+
+/// Whether the columns of the property let data of it be entered so. Pure data: a value at 0 or 1
+/// fixed variables, a table against 1 or 2, as many as the phase rule leaves. Mixtures: a value, or
+/// a table against 1 to 3.
+bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount,
+                 std::string_view context = "Pure");
 
 } // namespace vexora

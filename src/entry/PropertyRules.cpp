@@ -2,9 +2,11 @@
 
 #include <cstddef>
 
+#include "entry/PropertyEntries.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 namespace vexora {
 
@@ -14,9 +16,15 @@ constexpr std::size_t Rejection = 2; // place of "recommends rejection" among th
 constexpr int KeptBits = 0x7FFB;     // what a reading keeps of a flag word
 constexpr const char* UnitOne = "1"; // system unit of a dimensionless quantity
 
-/// Which letters make sense: H second-law enthalpies, S speed of sound as source. Letters of
-/// mixtures and reactions are not offered here.
-bool LetterApplies(std::string_view letter, std::string_view code) {
+/// A property of the equilibrium of a liquid mixture with its vapour, or a composition in it.
+bool IsOfVaporEquilibrium(std::string_view code) {
+    return IsOneOf(code, {"T", "P", "TB", "X1", "X2", "X3", "W1", "W2", "W3"});
+}
+
+/// Which letters make sense: H second-law enthalpies, S speed of sound as source, Y vapour
+/// compositions of mixtures. Letters of reactions are not offered here.
+bool LetterApplies(std::string_view letter, std::string_view code, std::string_view context) {
+    if (letter == "Y") return IsMixtureContext(context) && IsOfVaporEquilibrium(code);
     if (letter == "m") return true;
     if (letter == "H") return code == "HTR" || code == "HVP";
     if (letter == "S") return code == "CP" || code == "VPA";
@@ -25,14 +33,14 @@ bool LetterApplies(std::string_view letter, std::string_view code) {
 
 } // namespace
 
-std::vector<Statement> StatementsFor(std::string_view propertyCode) {
+std::vector<Statement> StatementsFor(std::string_view propertyCode, std::string_view context) {
     std::vector<Statement> statements;
     const CodeTexts flags = ValueStatements;
     for (std::size_t i = 0; i < flags.size(); ++i) {
         if (i != Rejection) statements.push_back({std::string(flags[i].text), 1 << i, {}});
     }
     for (const CodeText& entry : LetteredStatements) {
-        if (LetterApplies(entry.code, propertyCode))
+        if (LetterApplies(entry.code, propertyCode, context))
             statements.push_back({std::string(entry.text), 0, std::string(entry.code)});
     }
     return statements;

@@ -22,9 +22,10 @@ struct Statement {
     std::string key; // letter of a lettered one
 };
 
-/// The statements that apply to a property. The recommendation to reject is not among them: its bit
-/// does not survive a reading.
-std::vector<Statement> StatementsFor(std::string_view propertyCode);
+/// The statements that apply to a property in a context ("Pure", "Bin", "Tern", ...). The
+/// recommendation to reject is not among them: its bit does not survive a reading.
+std::vector<Statement> StatementsFor(std::string_view propertyCode,
+                                     std::string_view context = "Pure");
 
 /// The bits of a PRPFLAG field that a record keeps; a text that is no number is 0.
 /// The number is decimal; negative ones keep the bits of their two's complement.

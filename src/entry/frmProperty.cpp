@@ -4,6 +4,7 @@
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -13,6 +14,14 @@ namespace {
 
 const std::string Title = "Property and experimental method";
 constexpr int HelpPropertyList = 30;
+
+/// The mixture or the compound that the data are of.
+std::string SystemInHand() {
+    const KVOGlobal& globals = Globals();
+    if (IsMixtureContext(globals.DataContext))
+        return globals.CurrentM ? globals.CurrentM->ShowKey() : std::string();
+    return globals.CurrentL ? globals.CurrentL->ShowKey() : std::string();
+}
 
 } // namespace
 
@@ -62,7 +71,8 @@ void frmProperty::Load() {
 void frmProperty::Activate() {
     KVOGlobal& globals = Globals();
     accepted_ = false;
-    Caption(Title + (globals.CurrentL ? " for " + globals.CurrentL->ShowKey() : ""));
+    const std::string system = SystemInHand();
+    Caption(Title + (system.empty() ? "" : " for " + system));
     if (IsModal()) {
         before_ = {globals.CurrentMethod->Method, globals.KeyRest};
         Fill();

@@ -61,7 +61,7 @@ void frmProperty::Store(int variableCount) {
     method.sMethod = method.Method == "OTHER" ? std::string(Trim(txtMethod.Text())) : "";
     // It is stored for the reader of the record and enters no calculation.
     method.f = txtFactor.IsEmpty() ? 1 : Val(txtFactor.Text());
-    method.Context = globals.DataContext;
+    method.Context = row.CONTEXT;
     StoreStatements();
     StoreUnit(row);
 }

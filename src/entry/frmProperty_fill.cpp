@@ -57,7 +57,8 @@ std::vector<PropertyRow> frmProperty::OfferedIn(const PropertyGroupRow& group) c
     const bool ofTable = IsEntryFormOpen(globals.DataContext, EntryKind::Table, count);
     const EntryKind kind = ofTable ? EntryKind::Table : EntryKind::Value;
     std::erase_if(rows, [&](const PropertyRow& row) {
-        return row.Code != globals.PropertyCode && !AllowsEntry(row, kind, count);
+        return row.Code != globals.PropertyCode &&
+               !AllowsEntry(row, kind, count, globals.DataContext);
     });
     return rows;
 }
@@ -68,13 +69,16 @@ void frmProperty::Fill() {
     const clsMethod& method = *globals.CurrentMethod;
     const ui::FillingScope filling(*this);
     FillGroups();
-    const auto property = FindProperty(globals.PropertyCode, globals.DataContext);
+    const auto property = FindProperty(globals.PropertyCode, globals.DataContext, method.Context);
     const auto group = property
                            ? std::ranges::find(groups_, property->GROUP, &PropertyGroupRow::GROUP)
                            : groups_.end();
     lstPropGroup.Index(group == groups_.end() ? 0 : static_cast<int>(group - groups_.begin()) + 1);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
-        if (rows_[i].Code == globals.PropertyCode) lstProp.Index(static_cast<int>(i) + 1);
+        // One code stands for several kinds of equilibrium.
+        const bool isIt =
+            property && rows_[i].Code == property->Code && rows_[i].CONTEXT == property->CONTEXT;
+        if (isIt) lstProp.Index(static_cast<int>(i) + 1);
     }
     optOriginal.Value(globals.OriginalUnits);
     optSystem.Value(!globals.OriginalUnits);
@@ -131,7 +135,8 @@ void frmProperty::SelectMethod(const std::string& code) {
 void frmProperty::NoteList() {
     lstNote.Clear();
     statements_.clear();
-    if (const PropertyRow* row = Chosen()) statements_ = StatementsFor(row->Code);
+    if (const PropertyRow* row = Chosen())
+        statements_ = StatementsFor(row->Code, Globals().DataContext);
     for (const Statement& statement : statements_)
         lstNote.Add(statement.text);
 }
@@ -143,8 +148,13 @@ void frmProperty::Details_Check() {
 
 void frmProperty::ShowEntries() {
     const PropertyRow* row = Chosen();
-    for (const Entry& entry : entries_)
-        OfferEntry(entry, !row || AllowsEntry(*row, entry.kind, entry.variableCount));
+    const std::string& context = Globals().DataContext;
+    for (const Entry& entry : entries_) {
+        // A point at a fixed variable is entered of pure compounds only.
+        const bool exists = !IsMixtureContext(context) || &entry.button != &cmdFixed;
+        OfferEntry(entry,
+                   row ? AllowsEntry(*row, entry.kind, entry.variableCount, context) : exists);
+    }
     fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
     fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
     // Enter needs one meaning.
@@ -159,7 +169,7 @@ void frmProperty::OfferEntry(const Entry& entry, bool offered) {
     const bool exists = ui::Forms::Current().Knows(form);
     entry.button.Visible(offered);
     entry.button.Enabled(exists);
-    const char* why = entry.variableCount > 2
+    const char* why = entry.variableCount > 2 && !IsMixtureContext(Globals().DataContext)
                           ? "A pure compound has no more than two state variables"
                           : "Data tables come with a later edition";
     entry.button.ToolTip(exists ? "" : why);

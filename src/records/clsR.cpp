@@ -7,8 +7,6 @@
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
-#include "records/clsMV.h"
-#include "records/clsMZ.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
 

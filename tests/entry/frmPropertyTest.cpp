@@ -2,6 +2,7 @@
 
 #include "chem/clsProperty.h"
 #include "entry/PhaseRules.h"
+#include "entry/PropertyContext.h"
 #include "entry/frmKey.h"
 #include "reference/UnitText.h"
 #include "support/DataDialogFixture.h"
@@ -325,6 +326,68 @@ TEST_F(frmPropertyReviewTest, UnitThatNoTableKnowsIsNeverReplacedInSilence) {
         form.cmdFinish.UserClick();
     });
     EXPECT_EQ(globals.PropertyUnit, "furlong");
+}
+
+/// The forms that take data of mixtures, as doubles.
+class frmPropertyOfMixtureTest : public frmPropertyTest {
+protected:
+    frmPropertyOfMixtureTest() {
+        for (const std::string name : {"frmMixtSingle", "frmMixtVar"})
+            forms.Register(name, [name] { return std::make_unique<ui::Form>(name, "Entry"); });
+        globals.DataContext = "Bin";
+    }
+    static std::string Shown(const frmProperty& form) {
+        std::string names;
+        for (const ui::CommandButton* button :
+             {&form.cmdSingle, &form.cmdFixed, &form.cmdOne, &form.cmdTwo, &form.cmdThree})
+            if (button->IsUsable()) names += button->Caption() + "|";
+        return names;
+    }
+};
+
+TEST_F(frmPropertyOfMixtureTest, EntriesFollowTheColumnsOfMixtures) {
+    auto& form = Open<frmProperty>("frmProperty");
+    const std::string all = "Single value|1-Variable data|2-Variable data|3-Variable data|";
+    EXPECT_EQ(Shown(form), all);
+    Pick(form.lstPropGroup, "Phase transitions");
+    Pick(form.lstProp, "Eutectic temperature");
+    EXPECT_EQ(Shown(form), "Single value|");
+    Pick(form.lstPropGroup, "Composition at phase equilibrium");
+    EXPECT_EQ(form.lstProp.Find("Mole fraction of component 3"), -1);
+    Pick(form.lstProp, "Mole fraction of component 1");
+    EXPECT_EQ(Shown(form), all); // a value at a stated temperature
+    const std::string integrated =
+        "The vapor composition in equilibrium with the liquid was calculated by integration of the "
+        "Gibbs-Duhem equation";
+    EXPECT_GE(form.lstNote.Find(integrated), 0);
+    form.optSystem.UserClick();
+    form.lstMethod.UserChoose(0);
+    form.lstExpPurpose.UserChoose(1);
+    form.cmdThree.UserClick();
+    EXPECT_NE(forms.Find("frmMixtVar"), nullptr);
+    EXPECT_EQ(globals.VariableCount, 3);
+}
+
+TEST_F(frmPropertyOfMixtureTest, AReviewKeepsTheKindOfEquilibrium) {
+    auto& form = OpenOn("Phase transitions", "Liquid-liquid equilibrium temperature");
+    Pick(form.lstConv, "C");
+    form.lstMethod.UserChoose(0);
+    form.lstExpPurpose.UserChoose(1);
+    form.cmdOne.UserClick();
+    forms.DropClosed();
+    const std::string before = InForce();
+    EXPECT_EQ(globals.CurrentMethod->Context, "lle");
+    EXPECT_EQ(PropertyInForce().Property, "Liquid-liquid equilibrium temperature");
+    desktop.OnModal([](ui::Form& shown) {
+        auto& review = dynamic_cast<frmProperty&>(shown);
+        EXPECT_EQ(review.lstProp.Chosen(), "Liquid-liquid equilibrium temperature");
+        EXPECT_EQ(review.lstProp.Find("Eutectic temperature"), -1);
+        review.cmdOK.UserClick();
+    });
+    ui::Form entry{"frmEntry", "Entry"};
+    ui::TextBox comment{entry, "txtComment"};
+    EXPECT_FALSE(ReviewProperty(comment));
+    EXPECT_EQ(InForce(), before);
 }
 
 TEST_F(frmPropertyTest, AdvancedModeComesBackForTheNextProperty) {
