@@ -51,8 +51,10 @@ const char* CornersOf(int marker) {
 
 std::string Marker(const Stroke& stroke) {
     const double size = stroke.dense ? DenseRadius : Radius;
+    const std::string colour = Colour(stroke.colour);
     const std::string fill =
-        " fill=\"" + Colour(stroke.colour) + "\"" + (stroke.dense ? "" : " stroke=\"#ffffff\"");
+        stroke.hollow ? " fill=\"#ffffff\" stroke=\"" + colour + "\""
+                      : " fill=\"" + colour + "\"" + (stroke.dense ? "" : " stroke=\"#ffffff\"");
     if (stroke.marker == 0) return Circle(stroke, size) + fill + "/>";
     const std::string place = " transform=\"translate(" + Number(stroke.x) + " " +
                               Number(stroke.y) + ") scale(" + Number(size) + ")\"";

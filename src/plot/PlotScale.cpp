@@ -11,12 +11,21 @@ namespace {
 constexpr double Padding = 0.02;
 constexpr double LeastOfLog = 0.0001; // of the largest Y, where the smallest has no logarithm
 constexpr double SameLimits = 1e-9;
+constexpr double WideEnough = 0.1; // of the whole
 
 std::optional<double> Position(double value, double from, double to) {
     if (from == to) return 0.5;
     const double position = (value - from) / (to - from);
     if (!std::isfinite(position)) return std::nullopt;
     return position;
+}
+
+/// Fractions are seen against their whole range, from pure to pure; those of a dilute solution
+/// would stick to its edge and keep their own.
+void SpanWhole(double whole, double& min, double& max) {
+    if (whole <= 0 || max - min < WideEnough * whole) return;
+    min = std::min(min, 0.0);
+    max = std::max(max, whole);
 }
 
 } // namespace
@@ -34,6 +43,14 @@ void PlotScale::Ranges(const PlotTable& table, int xVar) {
         YMax = std::max(YMax, row[0]);
     }
     if (Log) return PadLog();
+    for (const PlotTable::End& end : table.Ends) {
+        XMin = std::min(XMin, end.at[column]);
+        XMax = std::max(XMax, end.at[column]);
+        YMin = std::min(YMin, end.at[0]);
+        YMax = std::max(YMax, end.at[0]);
+    }
+    SpanWhole(table.Whole[column], XMin, XMax);
+    SpanWhole(table.Whole[0], YMin, YMax);
     const double roomX = (XMax - XMin) * Padding;
     const double roomY = (YMax - YMin) * Padding;
     XMin -= roomX;

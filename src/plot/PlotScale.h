@@ -16,7 +16,8 @@ public:
     double XMin = 0, XMax = 0, YMin = 0, YMax = 0;
     bool Empty = true; // there is nothing that these axes could show
 
-    /// Spans all points with some room around them; X is this column of the table.
+    /// Spans all points with some room around them; X is this column of the table. Plain axes of
+    /// fractions span the whole composition, unless the points are crowded in a small part of it.
     void Ranges(const PlotTable& table, int xVar);
     /// Spans the part between two corners, given in positions; the frame bounds it. False when
     /// nothing of the frame lies between them.

@@ -1,5 +1,6 @@
 #include "plot/frmGraph.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "globals/KVOGlobal.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr double LeastDrag = 10; // a smaller rectangle is a click
 constexpr const char* DragHint = "Drag a rectangle to enlarge it, click to see all points";
+constexpr const char* TriangleHint = "The fractions of the three components are told at each point";
 constexpr const char* KeysHint = "The arrow keys step through the points";
 constexpr const char* NoPoints = "There are no points to draw";
 constexpr const char* NoLogarithm =
@@ -24,7 +26,8 @@ constexpr const char* NoLogarithm =
 
 frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     using namespace ui;
-    Arrangement = Column({picPIC, lblPoint, lblRow, ButtonRow({cmdMode, cmdVar, cmdUnc, cmdOK})});
+    Arrangement = Column({picPIC, lblPoint, lblRow,
+                          ButtonRow({cmdPicture, cmdTies, cmdMode, cmdVar, cmdUnc, cmdOK})});
     PreferredColumns = 150;
     PreferredRows = 46;
     UseButtons(cmdOK, cmdOK, [this] { Close(); });
@@ -39,6 +42,12 @@ void frmGraph::WireEvents() {
     picPIC.OnRelease = [this](double x, double y) { picPIC_Release({x, y}); };
     picPIC.OnDoubleClick = [this] { GoToPoint(); };
     picPIC.OnKey = [this](ui::Key& key) { picPIC_Key(key); };
+    cmdPicture.OnClick = [this] { cmdPicture_Click(); };
+    cmdTies.OnClick = [this] {
+        showTies_ = !showTies_;
+        Redraw();
+        picPIC.SetFocus();
+    };
     cmdMode.OnClick = [this] { cmdMode_Click(); };
     cmdVar.OnClick = [this] { cmdVar_Click(); };
     cmdUnc.OnClick = [this] {
@@ -65,12 +74,22 @@ void frmGraph::WireMenus() {
 }
 
 void frmGraph::Load() {
-    table_ = Globals().Plot;
-    if (!table_) table_ = std::make_shared<PlotTable>();
-    scale_.Shift = ShiftOf(*table_);
+    const auto first = Globals().Plot;
     mnuHide.Checked(hideMarks_);
-    cmdVar.Visible(table_->nVar > 1);
-    ShowAgainst(xVar_);
+    cmdPicture.Visible(first && first->Next);
+    ShowPicture(first ? first : std::make_shared<PlotTable>());
+}
+
+void frmGraph::ShowPicture(std::shared_ptr<PlotTable> table) {
+    table_ = std::move(table);
+    const bool isTriangle = table_->IsTriangle();
+    scale_.Shift = ShiftOf(*table_);
+    cmdVar.Visible(table_->nVar > 1 && !isTriangle);
+    const bool hasBars = std::ranges::any_of(table_->PointUnc, [](double u) { return u != 0; });
+    cmdUnc.Visible(!isTriangle && (hasBars || table_->SeriesNames.empty()));
+    cmdTies.Visible(table_->HasTies());
+    picPIC.KeepsShape(isTriangle);
+    ShowAgainst(1);
 }
 
 /// The keys of the plot serve at once.
@@ -79,19 +98,21 @@ void frmGraph::Activate() {
 }
 
 void frmGraph::picPIC_Move(PlotPlace place) {
-    if (start_)
+    if (start_ && !table_->IsTriangle())
         picPIC.Overlay(
             {{ui::Picture::Shape::Rectangle, start_->x, start_->y, place.x, place.y, 0, {}}});
     else if (const auto point = hideMarks_ ? NearestPoint(ThePlot(), place) : std::nullopt)
         PointTo(point);
 }
 
-/// A rectangle becomes the new ranges, a mere click brings all points back.
+/// A rectangle becomes the new ranges, a mere click brings all points back. A triangle is always
+/// seen whole.
 void frmGraph::picPIC_Release(PlotPlace place) {
     if (!start_) return;
     const PlotPlace start = *start_;
     start_.reset();
     picPIC.Overlay({});
+    if (table_->IsTriangle()) return PointTo(point_);
     const double wide = std::abs(place.x - start.x);
     const double high = std::abs(place.y - start.y);
     if (wide > LeastDrag && high > LeastDrag) {
@@ -120,9 +141,15 @@ void frmGraph::picPIC_Key(ui::Key& key) {
         key.swallowed = false;
 }
 
+void frmGraph::cmdPicture_Click() {
+    point_.reset();
+    ShowPicture(table_->Next ? table_->Next : Globals().Plot);
+    picPIC.SetFocus();
+}
+
 void frmGraph::cmdMode_Click() {
     scale_.Log = !scale_.Log;
-    cmdMode.Caption(scale_.Log ? "Y vs X" : "ln Y vs 1/X");
+    NameMode();
     scale_.Ranges(*table_, xVar_);
     Redraw();
     picPIC.SetFocus();
@@ -134,13 +161,28 @@ void frmGraph::cmdVar_Click() {
     picPIC.SetFocus();
 }
 
-/// Draws all points over this variable.
+/// The button names the mode that it goes to.
+void frmGraph::NameMode() {
+    cmdMode.Caption(scale_.Log ? "Y vs X" : "ln Y vs 1/X");
+}
+
+/// Draws all points over this variable. A fraction of nothing has no reciprocal.
 void frmGraph::ShowAgainst(int variable) {
     xVar_ = variable;
+    const bool hasLog = !table_->IsTriangle() && !table_->IsFraction(xVar_);
+    cmdMode.Visible(hasLog);
+    scale_.Log = scale_.Log && hasLog;
+    NameMode();
     Arrange(*table_, xVar_);
-    Caption(table_->YName + " as function of " + table_->NameOf(xVar_));
+    Caption(CaptionText());
     scale_.Ranges(*table_, xVar_);
     ChangeTolerance(1);
+}
+
+std::string frmGraph::CaptionText() const {
+    if (!table_->IsTriangle()) return table_->YName + " as function of " + table_->NameOf(xVar_);
+    const auto& [top, left, right] = table_->Corners;
+    return top + " + " + left + " + " + right + ": " + table_->Title;
 }
 
 /// The ending of the name tells what is written; without one it is a drawing.
@@ -166,7 +208,7 @@ void frmGraph::ChangeTolerance(double factor) {
 }
 
 Plot frmGraph::ThePlot() const {
-    return {*table_, scale_, xVar_, families_, showUnc_};
+    return {*table_, scale_, xVar_, families_, showUnc_, showTies_};
 }
 
 void frmGraph::Redraw() {
@@ -183,9 +225,12 @@ void frmGraph::PointTo(std::optional<int> point) {
     const bool isSeen = !mark.empty();
     const char* untold = table_->PointTable.empty() ? NoPoints
                          : scale_.Empty             ? NoLogarithm
+                         : table_->IsTriangle()     ? TriangleHint
                                                     : DragHint;
+    const bool hasRow = isSeen && table_->PointRow[static_cast<std::size_t>(*point)] > 0;
     lblPoint.Caption(isSeen ? PointText(plot, *point) : untold);
-    lblRow.Caption(isSeen ? RowText(plot, *point) + ", Enter goes there" : KeysHint);
+    lblRow.Caption(isSeen ? RowText(plot, *point) + (hasRow ? ", Enter goes there" : "")
+                          : KeysHint);
     picPIC.Overlay(std::move(mark));
 }
 
@@ -221,8 +266,9 @@ void frmGraph::StepFar(int step) {
 
 /// The dialog with the table takes the person to the row of the point.
 void frmGraph::GoToPoint() {
-    if (!point_) return;
-    table_->ChosenRow = table_->PointRow[static_cast<std::size_t>(*point_)];
+    const int row = point_ ? table_->PointRow[static_cast<std::size_t>(*point_)] : 0;
+    if (row == 0) return;
+    Globals().Plot->ChosenRow = row;
     Close();
 }
 

@@ -12,7 +12,8 @@ namespace vexora {
 
 /// The points of a table before they are accepted, so that a misprint shows as an outlier. Whoever
 /// shows it puts the table into the globals first, and reads there which row the person wants to go
-/// to; the form owns only what the drawing needs.
+/// to; the form owns only what the drawing needs. A table may come as several pictures: its own
+/// columns, coexisting phases, a composition triangle.
 class frmGraph : public ui::Form {
 public:
     frmGraph();
@@ -33,6 +34,8 @@ public:
     ui::Picture picPIC{*this, "picPIC", Plot::Width, Plot::Height};
     ui::Label lblPoint{*this, "lblPoint"};
     ui::Label lblRow{*this, "lblRow"};
+    ui::CommandButton cmdPicture{*this, "cmdPicture", "Next picture"};
+    ui::CommandButton cmdTies{*this, "cmdTies", "Tie lines"};
     ui::CommandButton cmdMode{*this, "cmdMode", "ln Y vs 1/X"};
     ui::CommandButton cmdVar{*this, "cmdVar", "Next variable"};
     ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainties"};
@@ -47,6 +50,8 @@ private:
     void picPIC_Move(PlotPlace place);
     void picPIC_Release(PlotPlace place);
     void picPIC_Key(ui::Key& key);
+    void ShowPicture(std::shared_ptr<PlotTable> table);
+    void cmdPicture_Click();
     void cmdMode_Click();
     void cmdVar_Click();
     void mnuFileSave_Click();
@@ -54,6 +59,8 @@ private:
 
     Plot ThePlot() const;
     void ShowAgainst(int variable);
+    void NameMode();
+    std::string CaptionText() const;
     void Redraw();
 
     // The point that is told, and the ways to others.
@@ -68,6 +75,7 @@ private:
     int xVar_ = 1;
     double groupTolerance_ = 0.001;
     bool showUnc_ = true;
+    bool showTies_ = true;
     bool hideMarks_ = true;          // on: the point under the mouse is told
     std::optional<int> point_;       // the one that is told
     std::optional<PlotPlace> start_; // of the rubber band, while the button is down

@@ -136,6 +136,7 @@ private:
     void Marker(QPointF at, const Stroke& stroke, const QColor& colour) {
         const QColor edge = stroke.dense ? colour : palette_.color(QPalette::Base);
         const double radius = stroke.dense ? radius_ * 0.6 : radius_;
+        if (stroke.hollow) return DrawMarker(painter_, at, stroke.marker, edge, colour, radius);
         if (!copiesMarkers_) return DrawMarker(painter_, at, stroke.marker, colour, edge, radius);
         QPixmap& copy = copies_[{stroke.marker, stroke.dense, colour.rgba()}];
         const double half = std::ceil(radius * 1.5);

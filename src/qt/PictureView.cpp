@@ -32,13 +32,24 @@ QSize Canvas::sizeHint() const {
     return {fontMetrics().averageCharWidth() * 90, fontMetrics().lineSpacing() * 28};
 }
 
+/// The whole widget, or the largest part in its middle that has the shape of the picture.
+QRectF Canvas::Room() const {
+    if (!picture_.KeepsShape()) return rect();
+    const QSizeF part =
+        QSizeF(picture_.Width(), picture_.Height()).scaled(QSizeF(size()), Qt::KeepAspectRatio);
+    return {QPointF((width() - part.width()) / 2, (height() - part.height()) / 2), part};
+}
+
 QPointF Canvas::ToUnits(QPointF place) const {
-    return {Rounded(place.x() * picture_.Width() / width()),
-            Rounded(place.y() * picture_.Height() / height())};
+    const QRectF room = Room();
+    return {Rounded((place.x() - room.x()) * picture_.Width() / room.width()),
+            Rounded((place.y() - room.y()) * picture_.Height() / room.height())};
 }
 
 QPointF Canvas::FromUnits(double x, double y) const {
-    return {x * width() / picture_.Width(), y * height() / picture_.Height()};
+    const QRectF room = Room();
+    return room.topLeft() +
+           QPointF(x * room.width() / picture_.Width(), y * room.height() / picture_.Height());
 }
 
 // What lies below the overlay is painted once and kept.
@@ -51,14 +62,17 @@ void Canvas::paintEvent(QPaintEvent*) {
         ground_.fill(palette().color(QPalette::Base));
         QPainter painter(&ground_);
         painter.setFont(font());
-        PaintStrokes(painter, picture_, picture_.Strokes(), size(), palette());
+        painter.translate(Room().topLeft());
+        PaintStrokes(painter, picture_, picture_.Strokes(), Room().size(), palette());
         painted_ = picture_.Revision();
         ofPalette_ = palette();
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, ground_);
-    PaintStrokes(painter, picture_, picture_.Overlay(), size(), palette());
+    painter.translate(Room().topLeft());
+    PaintStrokes(painter, picture_, picture_.Overlay(), Room().size(), palette());
     if (!hasFocus()) return;
+    painter.resetTransform();
     QStyleOptionFocusRect mark;
     mark.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &painter, this);

@@ -21,6 +21,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRectF Room() const;
+
     ui::Picture& picture_;
     QPixmap ground_;
     QPalette ofPalette_;

@@ -8,6 +8,13 @@ void Picture::Strokes(std::vector<Stroke> strokes) {
     Changed();
 }
 
+void Picture::KeepsShape(bool keeps) {
+    if (keeps == keepsShape_) return;
+    keepsShape_ = keeps;
+    ++revision_;
+    Changed();
+}
+
 void Picture::Overlay(std::vector<Stroke> strokes) {
     if (strokes.empty() && overlay_.empty()) return;
     overlay_ = std::move(strokes);

@@ -40,6 +40,7 @@ public:
         int marker = 0;      // markers and rings keep their size when the surface grows
         bool yields = false; // a text that is left out where it would cover one of its kind
         bool boxed = false;  // a text on a ground of its own
+        bool hollow = false; // a marker of which only the edge has its colour
         bool dense = false;  // a marker among very many: small, and no edge that hides others
     };
 
@@ -47,6 +48,9 @@ public:
         : Control(form, ControlKind::Picture, std::move(name)), width_(width), height_(height) {}
     double Width() const { return width_; }
     double Height() const { return height_; }
+    /// On: a unit across is as long as one down, whatever room there is, so that angles are true.
+    bool KeepsShape() const { return keepsShape_; }
+    void KeepsShape(bool keeps);
     const std::vector<Stroke>& Strokes() const { return strokes_; }
     void Strokes(std::vector<Stroke> strokes);
     const std::vector<Stroke>& Overlay() const { return overlay_; }
@@ -68,6 +72,7 @@ private:
     std::vector<Stroke> strokes_;
     std::vector<Stroke> overlay_;
     int revision_ = 0;
+    bool keepsShape_ = false;
 };
 
 } // namespace vexora::ui

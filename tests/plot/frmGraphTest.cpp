@@ -128,17 +128,63 @@ TEST_F(frmGraphTest, RubberBandIsGoneAfterTheZoom) {
     EXPECT_EQ(graph.lblPoint.Caption().front(), '(');
 }
 
+TEST_F(frmGraphTest, PicturesOfOneTableFollowEachOther) {
+    PlotTable& triangle = *globals.Plot;
+    triangle.Corners = {"A", "B", "C"};
+    triangle.Title = "Mole fraction";
+    triangle.YName.clear();
+    triangle.nVar = 2;
+    triangle.Add({0, 0.2, 0.3}, 0, 0, false, 0, 1);
+    triangle.Add({0, 0.5, 0.1}, 0, 4, false, 0, 1);
+    triangle.Next = std::make_shared<PlotTable>();
+    triangle.Next->YName = "Y";
+    triangle.Next->VarNames = {"X", "T"};
+    triangle.Next->nVar = 2;
+    triangle.Next->Whole[1] = 1;
+    triangle.Next->Add({2, 0.5, 300}, 0, 3);
+    const auto shown = [](frmGraph& graph) {
+        std::string text = graph.Caption();
+        for (const ui::Control* one :
+             {static_cast<ui::Control*>(&graph.cmdPicture),
+              static_cast<ui::Control*>(&graph.cmdTies), static_cast<ui::Control*>(&graph.cmdMode),
+              static_cast<ui::Control*>(&graph.cmdVar), static_cast<ui::Control*>(&graph.cmdUnc)})
+            text += one->Visible() ? " " + one->Name() : "";
+        return text;
+    };
+    frmGraph& graph = Open();
+    EXPECT_EQ(shown(graph), "A + B + C: Mole fraction cmdPicture cmdTies");
+    EXPECT_TRUE(graph.picPIC.KeepsShape());
+    graph.picPIC.UserDrag(200, 200, 600, 400); // a triangle is not enlarged
+    const auto before = graph.picPIC.Strokes().size();
+    graph.cmdTies.UserClick();
+    EXPECT_EQ(graph.picPIC.Strokes().size(), before - 1);
+    Key("Right");
+    EXPECT_EQ(graph.lblPoint.Caption() + graph.lblRow.Caption(), "(0.2, 0.3, 0.5)Of another table");
+    Key("Enter"); // which is not here to go to
+    graph.cmdPicture.UserClick();
+    EXPECT_EQ(shown(graph), "Y as function of X cmdPicture cmdVar cmdUnc");
+    EXPECT_FALSE(graph.picPIC.KeepsShape());
+    graph.cmdVar.UserClick();
+    EXPECT_EQ(shown(graph), "Y as function of T cmdPicture cmdMode cmdVar cmdUnc");
+    graph.cmdMode.UserClick();
+    graph.cmdVar.UserClick(); // fractions have no reciprocal
+    EXPECT_FALSE(graph.picPIC.Strokes().empty());
+    Key("Right");
+    Key("Enter");
+    EXPECT_EQ(globals.Plot->ChosenRow, 3);
+}
+
 TEST_F(frmGraphTest, DrawingsHoldEveryShapeInPlainText) {
     ui::Form form("frmAny", "Any");
     ui::Picture picture(form, "picAny", 200, 100);
     using Shape = ui::Picture::Shape;
-    std::vector<ui::Picture::Stroke> strokes{{Shape::Line, 1, 2, 3.456, 4, -1, {}},
-                                             {Shape::Ring, 5, 5, 0, 0, 0, {}},
-                                             {Shape::Text, 10, 20, 0, 0, 0, "a < b"},
-                                             {Shape::Marker, 7, 8, 0, 0, 2, {}},
-                                             {Shape::Marker, 9, 8, 0, 0, 2, {}}};
+    std::vector<ui::Picture::Stroke> strokes{
+        {Shape::Line, 1, 2, 3.456, 4, -1, {}},   {Shape::Ring, 5, 5, 0, 0, 0, {}},
+        {Shape::Text, 10, 20, 0, 0, 0, "a < b"}, {Shape::Marker, 7, 8, 0, 0, 2, {}},
+        {Shape::Marker, 9, 8, 0, 0, 2, {}},      {Shape::Marker, 3, 8, 0, 0, 0, {}}};
     strokes[3].marker = 2;
     strokes[4].dense = true;
+    strokes[5].hollow = true;
     picture.Strokes(strokes);
     const std::string svg = SvgOf(picture, "T & p");
     EXPECT_EQ(svg.substr(svg.find("<title>")),
@@ -152,6 +198,7 @@ TEST_F(frmGraphTest, DrawingsHoldEveryShapeInPlainText) {
               "<polygon points=\"-1.1,0.9 1.1,0.9 0,-1.1\" transform=\"translate(7 8) "
               "scale(5.5)\" fill=\"#ff4411\" stroke=\"#ffffff\" stroke-width=\"0.18\"/>\n"
               "<circle cx=\"9\" cy=\"8\" r=\"3.3\" fill=\"#ff4411\"/>\n"
+              "<circle cx=\"3\" cy=\"8\" r=\"5.5\" fill=\"#ffffff\" stroke=\"#000000\"/>\n"
               "</svg>\n");
 }
 
