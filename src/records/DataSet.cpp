@@ -20,6 +20,14 @@ std::string DataSet::ConstantOf(std::string_view code) const {
     return IsNumeric(value) ? value : std::string();
 }
 
+std::vector<SetConstant> DataSet::Constants() const {
+    std::vector<SetConstant> constants;
+    for (const char* code : {"T", "P"})
+        if (const std::string value = ConstantOf(code); !value.empty())
+            constants.push_back({code, {}, Val(value)});
+    return constants;
+}
+
 bool DataSet::HasVariable(std::string_view code) const {
     for (int n = 1; n <= nVar; ++n)
         if (VARIABLE(n) == code) return true;

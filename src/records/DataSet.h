@@ -10,6 +10,7 @@
 #include "records/Quantity.h"
 #include "records/ResultDefinition.h"
 #include "records/RowList.h"
+#include "records/SetSurroundings.h"
 #include "records/UnitConversion.h"
 #include "records/clsX.h"
 
@@ -75,6 +76,10 @@ public:
     virtual std::vector<std::string> Phases() const = 0;
     /// Rows may bear a number that ties them to rows of other sets.
     virtual bool HasTies() const { return false; }
+    /// What is the same in all rows; the temperature and pressure that the comment states.
+    virtual std::vector<SetConstant> Constants() const;
+    /// The sets and names that a picture of this set draws on; none by default.
+    virtual SetSurroundings Surroundings() const { return {}; }
     /// Molar mass [g/mol] that a unit by mass goes by in this row, 0 when it is not known. Of a
     /// pure compound it is the same for all rows, in a mixture it follows the composition.
     virtual double MolarMass(const clsData& row) const = 0;

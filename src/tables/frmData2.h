@@ -152,6 +152,7 @@ private:
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
     void View();
     PlotTable PointsOfTable() const;
+    std::shared_ptr<PlotTable> FirstPicture(const std::shared_ptr<PlotTable>& own) const;
     void NamePlot(PlotTable& table) const;
     double UncertaintyOf(int row) const;
     double CombinedOf(int row, double value) const;

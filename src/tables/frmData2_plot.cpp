@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "chem/clsProperty.h"
+#include "entry/PhasePlot.h"
+#include "entry/PureEnds.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
 #include "records/DataSet.h"
@@ -20,18 +22,37 @@ using Kind = TableColumn::Kind;
 void frmData2::View() {
     if (!Check()) return;
     KVOGlobal& globals = Globals();
-    globals.Plot = std::make_shared<PlotTable>(PointsOfTable());
-    const std::size_t count = globals.Plot->PointTable.size();
+    const auto own = std::make_shared<PlotTable>(PointsOfTable());
+    const std::size_t count = own->PointTable.size();
     if (count > PlotTable::MostPoints) {
         ui::Say("The table holds " + std::to_string(count) + " points; the plot shows the first " +
                 std::to_string(PlotTable::MostPoints));
-        globals.Plot->Cut();
+        own->Cut();
     }
+    globals.Plot = FirstPicture(own);
     ui::Forms::Current().Get("frmGraph").ShowModal();
     const int row = std::exchange(globals.Plot, nullptr)->ChosenRow;
     if (row == 0) return;
     table_.MoveTo(row, columns_.Find(Kind::Value, 0));
     tblData.SetFocus();
+}
+
+/// What a mixture shows with its other sets comes before the plot of the table's own columns.
+std::shared_ptr<PlotTable> frmData2::FirstPicture(const std::shared_ptr<PlotTable>& own) const {
+    if (set_->DataContext() != "Bin" && set_->DataContext() != "Tern") return own;
+    const SetSurroundings around = set_->Surroundings();
+    const PlotColumns columns = PlotColumns::Of(*set_, original_);
+    MarkFractions(*own, columns);
+    NameComponents(*own, around);
+    AddPureEnds(*own, columns, *set_, around);
+    const auto asItStands = set_->Copy();
+    asItStands->recData.Clear();
+    for (const int row : own->PointRow)
+        asItStands->recData.Add(NewRow(row, nullptr));
+    const auto phases = PhasePlot({*set_, *asItStands, *own, original_}, around);
+    if (!phases) return own;
+    phases->Next = own;
+    return phases;
 }
 
 /// A table without variables is plotted against the number of the row.
