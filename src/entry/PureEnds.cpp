@@ -7,9 +7,12 @@
 #include <set>
 #include <utility>
 
+#include "chem/CommentTags.h"
 #include "entry/SetStates.h"
 #include "records/FractionCode.h"
+#include "records/clsZ.h"
 #include "reference/Conversions.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 
 namespace vexora {
@@ -22,6 +25,7 @@ using Conditions = std::pair<MaybeValue, MaybeValue>; // temperature [K], pressu
 // Values at conditions as near as this count as measured at the same ones.
 constexpr double NearTemperature = 0.01; // [K]
 constexpr double NearPressure = 0.01;    // of the pressure; it matters little to condensed phases
+constexpr double Atmosphere = 101.325;   // [kPa], that a normal boiling point stands under
 constexpr double NearBoiling = 0.001;    // of the pressure, where it is what boils
 
 bool AreNear(const MaybeValue& a, const MaybeValue& b, double share) {
@@ -31,11 +35,27 @@ bool AreNear(const MaybeValue& a, const MaybeValue& b, double share) {
 /// The values of one pure component by the condition that they depend on.
 class PureValues {
 public:
-    PureValues(std::string_view code, const std::string& phase,
-               const std::vector<const DataSet*>& sets)
-        : code_(StateCode(code)), isBoiling_(code_ == "T" || code_ == "P") {
-        for (const DataSet* set : sets)
-            if (Tells(*set, phase)) AddRows(*set);
+    PureValues(std::string_view code, std::string phase)
+        : code_(StateCode(code)), phase_(std::move(phase)),
+          isBoiling_(code_ == "T" || code_ == "P") {}
+
+    void Take(const DataSet& set) {
+        if (set.PROPERTY_FUNCT != "DIR" || !IsAsked(set.PRPCODE, set.PhaseFor(0))) return;
+        SetStates states;
+        states.Add(set, false);
+        for (const SystemState& state : states.All())
+            Take({state.Value("T"), state.Value("P")}, state.Value(code_));
+    }
+
+    void Take(const clsZ& single) {
+        if (!IsAsked(single.PRPCODE, single.PHASE1) || !single.PropertyConversion().IsPossible())
+            return;
+        Conditions at{ConditionOf(single, "T"), ConditionOf(single, "P")};
+        const double value = single.SystemValue();
+        if (single.PRPCODE == "TBN") at.second = Atmosphere;
+        if (single.PRPCODE == "TBN" || single.PRPCODE == "TB") at.first = value;
+        if (single.PRPCODE == "PV") at.second = value;
+        Take(at, code_ == "T" ? at.first : code_ == "P" ? at.second : value);
     }
 
     MaybeValue At(const Conditions& at) const {
@@ -57,25 +77,29 @@ public:
 
 private:
     /// Boiling states are told by vapor pressures as well as by boiling temperatures.
-    bool Tells(const DataSet& set, const std::string& phase) const {
-        if (set.PROPERTY_FUNCT != "DIR") return false;
-        if (isBoiling_) return set.PRPCODE == "TB" || set.PRPCODE == "PV";
-        return set.PRPCODE == code_ && (IsBlankField(set.PhaseFor(0)) || set.PhaseFor(0) == phase);
+    bool IsAsked(std::string_view code, std::string_view phase) const {
+        if (isBoiling_) return code == "TB" || code == "TBN" || code == "PV";
+        return code == code_ && (IsBlankField(phase) || phase == phase_);
     }
 
-    void AddRows(const DataSet& set) {
-        SetStates states;
-        states.Add(set, false);
-        for (const SystemState& state : states.All()) {
-            const MaybeValue t = state.Value("T");
-            const MaybeValue p = state.Value("P");
-            const MaybeValue& key = code_ == "T" ? p : t;
-            if (const MaybeValue value = state.Value(code_); key && value)
-                byKey_.emplace(*key, std::pair{*value, p});
+    /// The temperature or pressure at which a single value holds: its variable, else what its
+    /// comment states.
+    static MaybeValue ConditionOf(const clsZ& single, std::string_view code) {
+        if (single.Variable() == code && IsNumeric(single.INDVARIABLE)) {
+            const double value = Val(single.INDVARIABLE);
+            const UnitConversion entered = single.VariableConversion(1);
+            return entered.ChangesValues() ? entered.Absolute(value) : value;
         }
+        const std::string stated = CommentTags(single.Header.DATACOMMENT).Constant(code);
+        return IsNumeric(stated) ? MaybeValue(Val(stated)) : std::nullopt;
     }
 
-    std::string code_;
+    void Take(const Conditions& at, const MaybeValue& value) {
+        const MaybeValue& key = code_ == "T" ? at.second : at.first;
+        if (key && value) byKey_.emplace(*key, std::pair{*value, at.second});
+    }
+
+    std::string code_, phase_;
     bool isBoiling_;
     std::multimap<double, std::pair<double, MaybeValue>> byKey_; // with the pressure
 };
@@ -152,7 +176,12 @@ void AddPureEnds(PlotTable& table, const PlotColumns& columns, const DataSet& se
     if (!HasEnds(columns, set, around)) return;
     const std::set<Conditions> conditions = ConditionsOf(table, columns, set);
     for (std::size_t n = 0; n < around.pure.size(); ++n) {
-        const PureValues values(columns.codes[0], set.PhaseFor(0), around.pure[n]);
+        PureValues values(columns.codes[0], set.PhaseFor(0));
+        for (const DataSet* one : around.pure[n])
+            values.Take(*one);
+        if (n < around.pureValues.size())
+            for (const clsZ* one : around.pureValues[n])
+                values.Take(*one);
         const int component = static_cast<int>(n) + 1;
         for (const Conditions& at : conditions) {
             const MaybeValue value = values.At(at);

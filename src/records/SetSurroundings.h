@@ -7,6 +7,7 @@
 namespace vexora {
 
 class DataSet;
+class clsZ;
 
 /// What is the same in all rows of a set.
 struct SetConstant {
@@ -19,6 +20,8 @@ struct SetSurroundings {
     std::vector<std::string> components;           // their names, in the order of the mixture
     std::vector<const DataSet*> sameSystem;        // all sets of the mixture, this one among them
     std::vector<std::vector<const DataSet*>> pure; // the sets of each component
+
+    std::vector<std::vector<const clsZ*>> pureValues; // the single values of each component
 
     /// Component 1 and on; a number for one without a name.
     std::string NameOf(int component) const {

@@ -1,6 +1,7 @@
 #include "entry/PhasePlot.h"
 
 #include "entry/PureEnds.h"
+#include "records/clsZ.h"
 #include "reference/Numbers.h"
 #include "support/DocumentFixture.h"
 #include "support/MixtureSet.h"
@@ -54,7 +55,9 @@ protected:
         const PlotTable table = OwnPlot(set);
         return PhasePlot({set, set, table, true}, around);
     }
-    SetSurroundings Around(Sets sets) const { return {{"ethanol", "water"}, std::move(sets), {}}; }
+    SetSurroundings Around(Sets sets) const {
+        return {{"ethanol", "water"}, std::move(sets), {}, {}};
+    }
 
     const std::vector<SetConstant> atmosphere{{"P", "", 101.325}};
     const std::vector<std::string> vle{"L", "G"}, lle{"L1", "L2"};
@@ -116,7 +119,7 @@ TEST_F(PhasePlotTest, LayersOfATernaryAreJoinedByTheirTieNumbers) {
         set.context = "Tern";
         all.push_back(&set);
     }
-    const SetSurroundings around{{"acetic acid", "chloroform"}, all, {}};
+    const SetSurroundings around{{"acetic acid", "chloroform"}, all, {}, {}};
     const std::string names =
         "Weight fraction (%), 291.15 K\n"
         "Weight fraction of acetic acid (%)|Weight fraction of chloroform (%)\n";
@@ -138,7 +141,7 @@ TEST_F(PhasePlotTest, APropertyOfATernaryStandsAtItsCompositions) {
                        {{"T", "", 298.15}, {"P", "", 101.325}},
                        {"0.2 0.3 900", "0.1 & 920", "0.6 0.1 950"}};
     density.context = "Tern";
-    EXPECT_EQ(TextOf(Picture(density, {{"A", "B", "C"}, {&density}, {}})),
+    EXPECT_EQ(TextOf(Picture(density, {{"A", "B", "C"}, {&density}, {}, {}})),
               "VDN by mole fraction, 298.15 K, 101.325 kPa\n"
               "Mole fraction of A|Mole fraction of B\n"
               "900 0.3 0.5 Liquid 0 row 1\n950 0.1 0.3 Liquid 0 row 3 far\n");
@@ -159,8 +162,8 @@ TEST_F(PhasePlotTest, PureComponentsEndTheAxisOfTheComposition) {
                                     {"298.15 100 785.1", "293.15 100 789.34"});
     const MixtureSet boiling =
         pure({{"PV", "S", "L"}, {"T", "S", "L"}}, {"373.15 101.3", "360 60"});
-    const SetSurroundings around{
-        {"ethanol", "water"}, {&bubble, &dew}, {{&ethanol}, {&vapor, &water, &boiling}}};
+    SetSurroundings around{
+        {"ethanol", "water"}, {&bubble, &dew}, {{&ethanol}, {&vapor, &water, &boiling}}, {}};
     const auto ends = [&around](const DataSet& set) {
         PlotTable table = OwnPlot(set);
         AddPureEnds(table, PlotColumns::Of(set, true), set, around);
@@ -176,11 +179,25 @@ TEST_F(PhasePlotTest, PureComponentsEndTheAxisOfTheComposition) {
     EXPECT_EQ(ends(density), "ethanol 0.78934 20 100\nethanol 0.7851 25 100\nwater 0.99823 20 0\n");
     EXPECT_EQ(ends(bubble), "water 100 0\n");
     EXPECT_EQ(ends(dew), "");
+    clsZ normal, point; // single values of ethanol
+    normal.PRPCODE = "TBN";
+    normal.PROPERTY_UNIT = "C";
+    normal.PRPVALUE = "78.3";
+    point.PRPCODE = "VDN";
+    point.PROPERTY_UNIT = "S";
+    point.PHASE1 = "L";
+    point.PRPVALUE = "789.4";
+    point.Header.DATACOMMENT = "::T = 293.15:";
+    around.pure[0].clear();
+    around.pureValues = {{&normal, &point}};
+    EXPECT_EQ(ends(bubble), "ethanol 78.3 1\nwater 100 0\n");
+    EXPECT_EQ(ends(density), "ethanol 0.7894 20 100\nwater 0.99823 20 0\n");
+    around.pureValues.clear();
     EXPECT_EQ(Picture(dew, around)->Ends.size(), 1u);
 }
 
 TEST_F(PhasePlotTest, CaptionsNameTheComponents) {
-    const SetSurroundings around{{"ethanol", std::string(60, 'a')}, {}, {}};
+    const SetSurroundings around{{"ethanol", std::string(60, 'a')}, {}, {}, {}};
     EXPECT_EQ(WithComponentName("Mole fraction of component 1 (%)", around),
               "Mole fraction of ethanol (%)");
     EXPECT_EQ(WithComponentName("Activity of component 2", around),

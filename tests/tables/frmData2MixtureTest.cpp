@@ -27,7 +27,7 @@ TEST_F(frmData2Fixture, ThePlotOfAMixtureBeginsWithItsPhases) {
     boiling->PHASE2 = "G";
     boiling->VARIABLE1 = "X1";
     boiling->VAR1_UNIT = "S";
-    boiling->around = {{"ethanol", "water"}, {boiling.get(), &dew}, {}};
+    boiling->around = {{"ethanol", "water"}, {boiling.get(), &dew}, {}, {}};
     globals.CurrentTwo = boiling;
     forms.Register("frmGraph", [] { return std::make_unique<ui::Form>("frmGraph", "Plot"); });
     OpenTable();
