@@ -105,7 +105,7 @@ private:
 };
 
 MaybeValue ConstantOf(const DataSet& set, std::string_view code) {
-    for (const SetConstant& constant : set.Constants())
+    for (const SetConstant& constant : set.SystemConstants())
         if (StateCode(constant.code) == code) return constant.value;
     return std::nullopt;
 }

@@ -33,7 +33,7 @@ std::string TextOfCells(const SystemState::Cell* from, const SystemState::Cell* 
 /// The cells that all rows of the set have in common.
 std::vector<SystemState::Cell> ConstantCells(const DataSet& set) {
     std::vector<SystemState::Cell> cells;
-    for (const SetConstant& constant : set.Constants())
+    for (const SetConstant& constant : set.SystemConstants())
         cells.push_back(
             {std::string(StateCode(constant.code)), PhaseKept(constant.phase), constant.value});
     return cells;

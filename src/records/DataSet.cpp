@@ -7,6 +7,8 @@
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
 
+#include <algorithm>
+
 namespace vexora {
 
 DataSet::DataSet() {
@@ -20,11 +22,19 @@ std::string DataSet::ConstantOf(std::string_view code) const {
     return IsNumeric(value) ? value : std::string();
 }
 
-std::vector<SetConstant> DataSet::Constants() const {
+std::vector<SetConstant> DataSet::SystemConstants() const {
     std::vector<SetConstant> constants;
-    for (const char* code : {"T", "P"})
-        if (const std::string value = ConstantOf(code); !value.empty())
+    for (const HeldConstant& constant : Constants())
+        if (IsNumeric(constant.value))
+            constants.push_back(
+                {constant.code, constant.phase,
+                 ConversionOf(constant.code, constant.unit).Absolute(Val(constant.value))});
+    for (const char* code : {"T", "P"}) {
+        const std::string value = ConstantOf(code);
+        if (!value.empty() &&
+            std::ranges::find(constants, code, &SetConstant::code) == constants.end())
             constants.push_back({code, {}, Val(value)});
+    }
     return constants;
 }
 

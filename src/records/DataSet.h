@@ -76,8 +76,6 @@ public:
     virtual std::vector<std::string> Phases() const = 0;
     /// Rows may bear a number that ties them to rows of other sets.
     virtual bool HasTies() const { return false; }
-    /// What is the same in all rows; the temperature and pressure that the comment states.
-    virtual std::vector<SetConstant> Constants() const;
     /// The sets and names that a picture of this set draws on; none by default.
     virtual SetSurroundings Surroundings() const { return {}; }
     /// Molar mass [g/mol] that a unit by mass goes by in this row, 0 when it is not known. Of a
@@ -103,6 +101,9 @@ public:
     /// The value of a state variable that is stated for all rows, in its system unit; empty when
     /// there is none, or it varies.
     virtual std::string ConstantOf(std::string_view code) const;
+    /// What is the same in all rows, by definition or by the comment, as numbers in system units; a
+    /// critical curve has none.
+    std::vector<SetConstant> SystemConstants() const;
     ResultDefinition Definition() const { return ResultDefinition::Of(PROPERTY_FUNCT); }
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string_view Relation() const { return Definition().Relation(); }

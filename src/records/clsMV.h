@@ -64,6 +64,7 @@ public:
     bool MolarMassFollowsRows() const override { return true; }
     const Record* Owner() const override;
     std::vector<HeldConstant> Constants() const override;
+    SetSurroundings Surroundings() const override;
     std::string ConstantOf(std::string_view code) const override;
     bool StatesInUnitsOfLine() const override { return true; }
     bool RatioHasNoUnit() const override { return true; }
