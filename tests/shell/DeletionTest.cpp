@@ -109,9 +109,24 @@ TEST_F(DeletionTest, NothingGoesWithWhatDependsOnIt) {
 TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFile) {
     while (!Sample().Children().empty())
         Delete(*Sample().Children().back(), HasRows(*Sample().Children().back()));
-    Delete(Sample(), false);
     ui::TreeNode& source = *Shell().tvwTree.Roots().front();
+    const auto thereAndBack = [this](ui::TreeNode& node, bool isCompound = false) {
+        constexpr const char* noSample =
+            "Some compounds do not have samples.\nThey will not be saved!";
+        if (isCompound) desktop.Expect(noSample);
+        const std::string before = SavedAgain();
+        Delete(node, false);
+        Shell().mnuUndoDelete.UserClick();
+        EXPECT_TRUE(Globals().Saved);
+        if (isCompound) desktop.Expect(noSample);
+        EXPECT_EQ(SavedAgain(), before);
+    };
+    thereAndBack(Sample());
+    Delete(Sample(), false);
+    thereAndBack(*source.Children().front(), true);
     Delete(*source.Children().front(), false);
+    thereAndBack(source);
+    Globals().Saved = false;
     Delete(source, false);
     EXPECT_TRUE(Globals().recR.IsEmpty());
     EXPECT_EQ(Shell().FileName, "");
@@ -120,7 +135,7 @@ TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFil
     EXPECT_EQ(Globals().recR.Count(), 1U);
     EXPECT_EQ(Shell().FileName, path_);
     EXPECT_EQ(Globals().CurrentKey, "R");
-    EXPECT_FALSE(Globals().Saved) << "its compound is gone";
+    EXPECT_FALSE(Globals().Saved) << "nor was it before";
     EXPECT_FALSE(SavedAgain().empty());
 }
 
