@@ -22,7 +22,7 @@ ui::TreeNode* NodeOf(const Difference& difference) {
 } // namespace
 
 frmCompare::frmCompare() : Form("frmCompare", "Differences") {
-    Arrangement = ui::Column({lblFile, lstDifferences, ui::Field("In full", txtDifference),
+    Arrangement = ui::Column({lblFile, lstDifferences, ui::Field("In full:", txtDifference),
                               lblPlace, ui::ButtonRow({cmdGo, cmdCancel})});
     PreferredColumns = 140;
     PreferredRows = 28;
