@@ -51,6 +51,8 @@ std::string PagesOf(std::string_view source, std::string_view type) {
     const auto* marked = std::ranges::find(PageMarks, type, &CodeText::code);
     if (from == std::string_view::npos && marked != std::end(PageMarks))
         return MarkedPages(source, marked->text);
+    // A title between its marks may hold commas, and so may the pages.
+    if (from == std::string_view::npos) from = source.rfind('@');
     const std::size_t comma =
         from != std::string_view::npos ? source.find(',', from) : source.rfind(',');
     return comma == std::string_view::npos ? std::string()

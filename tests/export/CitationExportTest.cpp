@@ -126,6 +126,8 @@ TEST_F(CitationExport, AWordThatIsNoPageIsNotTakenForOne) {
         {"C", "Letter to A. Compiler, Paris", ""},
         {"S", "@J. Chem. Eng. Data@, je000490a", "je000490a"},
         {"J", "@J. Chem.@ No. 3, 7-9", "7-9"},
+        {"J", "@Z. Phys., Abt. A@", ""},
+        {"J", "@Z. Phys., Abt. A@, 7, 9", "7, 9"},
         {"M", "@J. Chem. Symp.@ $31$(2), 5-9", "5-9"}};
     for (const auto& [type, source, pages] : sources)
         EXPECT_EQ(Line(Citation("^J#" + type + "#O#" + source + "##\n"), "sPage"),
