@@ -117,6 +117,7 @@ public:
         for (const auto& [listed, file] : documents) {
             std::cout << std::exchange(before, asArray ? ",\n" : "");
             worst = std::max(worst, One(listed, file));
+            if (!std::cout.flush()) break; // nobody reads on; the program tells it at its end
         }
         if (asArray) std::cout << (documents.empty() ? "[]\n" : "]\n");
         return worst;

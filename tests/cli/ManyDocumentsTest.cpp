@@ -57,6 +57,7 @@ TEST_F(ManyDocuments, AReaderThatStopsIsTold) {
     const Outcome closed = Run("tree papers/a.txt >/dev/full");
     EXPECT_EQ(closed.code, 4);
     EXPECT_EQ(closed.err, "error: standard output cannot be written\n");
+    EXPECT_EQ(Run("tree papers >/dev/full").err, closed.err) << "the bad one is not read any more";
 }
 
 } // namespace vexora::test
