@@ -28,7 +28,7 @@ struct Request {
     std::string document;
     std::vector<std::string> play; // what is meant for the player
     bool plays = false;
-    bool malformed = false;
+    std::string wrongWord; // an option that nobody knows, or one that lacks its value
 };
 
 /// Takes "--name VALUE" or "--name=VALUE" off the list.
@@ -60,7 +60,7 @@ Request Read(std::vector<std::string> words) {
     request.home = TakeOption(words, "--home");
     for (const std::string& word : words) { // a path whose blanks were not quoted comes in pieces
         request.document += (request.document.empty() ? "" : " ") + word;
-        request.malformed = request.malformed || word.starts_with("-");
+        if (word.starts_with("-")) request.wrongWord = word;
     }
     return request;
 }
@@ -90,8 +90,8 @@ int main(int count, char** arguments) {
     vexora::qt::Application application(count, arguments);
     // The toolkit has taken its own options off by now.
     const Request request = Read({arguments + 1, arguments + count});
-    if (request.malformed) {
-        std::cerr << Usage;
+    if (!request.wrongWord.empty()) {
+        std::cerr << "error: unexpected argument " << request.wrongWord << "; see vexora --help\n";
         return 2;
     }
     vexora::qt::TakeLook(request.look);
