@@ -87,6 +87,7 @@ void ComboView::DrawEntries() {
         return;
     }
     if (!entries_) {
+        own_->window()->installEventFilter(this);
         entries_ = new QListWidget(own_->window());
         entries_->setFocusPolicy(Qt::NoFocus);
         entries_->setAutoFillBackground(true); // its frame must not show what is below
@@ -103,6 +104,16 @@ void ComboView::DrawEntries() {
     PlaceEntries();
     entries_->show();
     entries_->raise();
+}
+
+/// A click beside the fields leaves the focus where it is, and closes the entries all the same.
+bool ComboView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != own_->window()) return View::eventFilter(watched, event);
+    const bool closes =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Resize;
+    if (closes && !Window().IsDetached() && model_.IsUnfolded())
+        ActAndRefresh([this] { model_.Unfolded(false); });
+    return false;
 }
 
 /// Below the field, as far as the window reaches.

@@ -20,6 +20,7 @@ class ComboView : public ViewOf<ui::ComboBox, DropBox> {
 public:
     ComboView(FormWindow& window, ui::ComboBox& combo);
     bool Wants(const ui::Key& key) const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// The entries that stand open while a person types; null before the first time.
     const QListWidget* Entries() const { return entries_; }
 

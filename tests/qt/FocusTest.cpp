@@ -155,6 +155,10 @@ TEST_F(Focus, StaysInAFieldWhoseEntriesStandOpenBelowIt) {
     EXPECT_TRUE(form.IsOpen());
     Press("x");
     ASSERT_TRUE(Soon([&] { return entries.isVisible(); }));
+    MouseClick(&window, {1, window.height() - 1.0}); // beside all fields
+    EXPECT_TRUE(Soon([&] { return !entries.isVisible(); }));
+    Press("y");
+    ASSERT_TRUE(Soon([&] { return entries.isVisible(); }));
     MouseClick(entries.viewport(), entries.visualItemRect(entries.item(1)).center());
     EXPECT_EQ(form.cboUnit.Text(), "kPa");
     EXPECT_TRUE(Soon([&] { return !entries.isVisible(); }));
