@@ -114,31 +114,67 @@ void CheckSetAmong(const DataSet& set, Points& known, Findings& findings) {
             .Warn(PropertyName(set.PRPCODE, set.DataContext()) + ": " + repeated.Text());
 }
 
-/// What two single values have in common when they are one; empty for one that cannot be compared.
-std::string KeyOf(const clsZ& value) {
-    if (!IsNumeric(value.PRPVALUE) || !value.PropertyConversion().IsPossible()) return {};
-    std::string key;
-    for (const auto& part : {value.PRPCODE, value.PHASE1, value.PHASE2, value.PHASE3})
-        key += std::string(part) + "\n";
-    const CommentTags tags(value.Header.DATACOMMENT);
-    for (const QuantityText& quantity : StateVariables) {
-        const std::string constant = tags.Constant(quantity.code);
-        if (IsNumeric(constant)) key += std::string(quantity.code) + KeyOfNumber(Val(constant));
+/// Single values of one sample as texts that are equal when the values and their states are. What
+/// the tables tell of a unit is looked up once for all values in it.
+class ValueKeys {
+public:
+    /// Empty for one that is no number or cannot be converted.
+    std::string Of(const clsZ& value) {
+        if (!IsNumeric(value.PRPVALUE)) return {};
+        if (value.nVar == 1 && !IsNumeric(value.INDVARIABLE)) return {};
+        const Units& units = UnitsOf(value);
+        if (!units.arePossible) return {};
+        std::string key = value.PRPCODE;
+        for (const auto& phase : {value.PHASE1, value.PHASE2, value.PHASE3})
+            key += "\n" + std::string(phase);
+        key += "\n" + KeyOfNumber(units.property.Absolute(Val(value.PRPVALUE)));
+        if (value.nVar == 1) key += KeyOfNumber(units.variable.Absolute(Val(value.INDVARIABLE)));
+        return key + ConstantsOf(value.Header.DATACOMMENT);
     }
-    if (value.nVar == 1) {
-        const UnitConversion entered = value.VariableConversion(1);
-        if (!IsNumeric(value.INDVARIABLE) || !entered.IsPossible()) return {};
-        key += value.Variable() + KeyOfNumber(entered.Absolute(Val(value.INDVARIABLE)));
+
+private:
+    struct Units {
+        UnitConversion property, variable;
+        bool arePossible = false;
+    };
+    const Units& UnitsOf(const clsZ& value) {
+        std::string kind(value.isOriginalUnit ? "1" : "0");
+        kind += std::to_string(value.nVar);
+        for (const auto& part : {value.PRPCODE, value.PROPERTY_UNIT, value.VARIABLE_UNIT})
+            kind += "\n" + std::string(part);
+        for (const double number : {value.Factor, value.FallbackMolarMass})
+            kind += "\n" + NumberText(number);
+        const auto [entry, isFirst] = units_.try_emplace(std::move(kind));
+        Units& units = entry->second;
+        if (!isFirst) return units;
+        units.property = value.PropertyConversion();
+        units.arePossible = units.property.IsPossible();
+        if (value.nVar == 0) return units;
+        units.variable = value.VariableConversion(1);
+        units.arePossible = units.arePossible && units.variable.IsPossible();
+        return units;
     }
-    return key + "\n" + KeyOfNumber(value.SystemValue());
-}
+    static std::string ConstantsOf(const std::string& comment) {
+        std::string key;
+        if (comment.find('=') == comment.npos) return key; // as of nearly all values
+        const CommentTags tags(comment);
+        for (const QuantityText& quantity : StateVariables) {
+            const std::string constant = tags.Constant(quantity.code);
+            if (IsNumeric(constant)) key += std::string(quantity.code) + KeyOfNumber(Val(constant));
+        }
+        return key;
+    }
+
+    std::unordered_map<std::string, Units> units_;
+};
 
 } // namespace
 
 void CheckEqualValues(const clsS& sample, Findings& findings) {
+    ValueKeys keys;
     std::unordered_map<std::string, const clsZ*> known;
     for (const auto& value : sample.recZ) {
-        std::string key = KeyOf(*value);
+        std::string key = keys.Of(*value);
         if (key.empty()) continue;
         const auto [entry, isFirst] = known.try_emplace(std::move(key), value.get());
         if (!isFirst)
