@@ -200,7 +200,9 @@ std::string ScriptLine::BlockText() const {
 
 Script ReadScript(const std::string& path, const ScriptVariables& variables) {
     const auto text = FileText(path);
-    if (!text) throw ScriptError(path + ":0: cannot be read");
+    if (!text)
+        throw ScriptError(path + (std::filesystem::is_directory(path) ? ": this is a folder"
+                                                                      : ": cannot be read"));
     return ParseScript(*text, path, variables);
 }
 
