@@ -200,9 +200,9 @@ std::string ScriptLine::BlockText() const {
 
 Script ReadScript(const std::string& path, const ScriptVariables& variables) {
     const auto text = FileText(path);
-    if (!text)
-        throw ScriptError(path + (std::filesystem::is_directory(path) ? ": this is a folder"
-                                                                      : ": cannot be read"));
+    std::error_code fault;
+    const bool isFolder = std::filesystem::is_directory(path, fault);
+    if (!text) throw ScriptError(path + (isFolder ? ": this is a folder" : ": cannot be read"));
     return ParseScript(*text, path, variables);
 }
 
@@ -215,7 +215,8 @@ Script ParseScript(std::string_view text, const std::string& name,
 
 std::optional<std::string> FileText(const std::string& path) {
     std::ifstream stream(path, std::ios::binary);
-    if (!stream || std::filesystem::is_directory(path)) return {};
+    std::error_code fault;
+    if (!stream || std::filesystem::is_directory(path, fault)) return {};
     std::ostringstream text;
     text << stream.rdbuf();
     return text.str();
