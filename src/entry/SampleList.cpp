@@ -70,7 +70,7 @@ std::shared_ptr<clsS> SampleList::Make() {
     const std::size_t chosen = chosen_;
     globals.CurrentL = compound_;
     // By this the dialog knows that it was opened on the way, and comes back here when it closes.
-    globals.OpenForms.push_back(form_.Name());
+    if (!globals.IsEditingInPlace()) globals.OpenForms.push_back(form_.Name());
     ui::Forms::Current().Get(SampleDialog).ShowModal();
     Fill(compound_);
     // Cancelled: "New" is no sample and must not stay chosen.

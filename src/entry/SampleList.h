@@ -27,6 +27,8 @@ public:
     void Fill(std::shared_ptr<clsL> compound);
     /// Chooses a sample of the compound; another one, or null, changes nothing.
     void Choose(const clsS* sample);
+    /// No sample is in force then.
+    void ChooseNone() { ChoosePosition(0); }
     /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form. The
     /// sample that it made is the answer, null for none; one of the list's own compound is chosen,
     /// else what was chosen before stays.

@@ -1,5 +1,6 @@
 #include "records/clsM.h"
 
+#include "chem/clsMMM.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
@@ -94,6 +95,10 @@ std::array<double, 3> clsM::MolarMasses() const {
     for (int n = 1; n <= MixType; ++n)
         masses[static_cast<std::size_t>(n - 1)] = MolarMassOfRN(RN(n), Parent);
     return masses;
+}
+
+void SetMixture(clsMMM& calculator, const clsM& mixture) {
+    calculator.SetComponents(mixture.MixType, mixture.MolarMasses());
 }
 
 void clsM::SetMe() {

@@ -6,9 +6,11 @@
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
 #include "records/clsM.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vexora {
@@ -118,6 +120,16 @@ bool clsMZ::Return(std::size_t place) {
 
 void clsMZ::Rekey() {
     if (Parent) Parent->recMZ.Rekey(this, Key());
+}
+
+int NextSetNumber(const clsM& mixture, const clsMZ& value) {
+    int highest = 0;
+    for (const auto& one : mixture.recMZ) {
+        const bool isAlike = one->PRPCODE == value.PRPCODE && one->SMPNM1 == value.SMPNM1 &&
+                             one->SMPNM2 == value.SMPNM2 && one->SMPNM3 == value.SMPNM3;
+        if (isAlike) highest = std::max(highest, static_cast<int>(ToInteger(Val(one->PRPSETNO))));
+    }
+    return highest + 1;
 }
 
 } // namespace vexora

@@ -1,0 +1,168 @@
+#include "mixtures/frmMixtSingle.h"
+
+#include <span>
+#include <utility>
+
+#include "chem/clsMMM.h"
+#include "chem/clsMethod.h"
+#include "chem/clsProperty.h"
+#include "entry/EditStatements.h"
+#include "entry/PropertyContext.h"
+#include "globals/KVOGlobal.h"
+#include "records/PropertyChain.h"
+#include "records/clsL.h"
+#include "records/clsM.h"
+#include "records/clsMZ.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "reference/Numbers.h"
+#include "ui/Desktop.h"
+#include "ui/Forms.h"
+
+namespace vexora {
+
+frmMixtSingle::frmMixtSingle() : ChainForm("frmMixtSingle", "Single value of a mixture") {
+    ArrangeControls();
+    WireEvents();
+    UseButtons(cmdAccept, cmdFinish, [this] { Accept(); });
+    HelpContext = 326;
+    txtPrpSetNo.Locked(true);
+}
+
+void frmMixtSingle::ArrangeControls() {
+    using namespace ui;
+    for (int n = 0; n < MostMixturePhases; ++n)
+        lblPhase(n).Caption("Phase " + std::to_string(n + 1) + ":");
+    std::vector<Layout> mixture = {Row({cboMixt, Field("Property set #", Narrow(txtPrpSetNo, 4))})};
+    for (int n = 0; n < cboSample.Count(); ++n)
+        mixture.push_back(Field(lblSample(n), Narrow(cboSample(n), 12)));
+    const auto phase = [this](int n) { return Field(lblPhase(n), lstPhase(n)); };
+    Arrangement = Column({Group("Mixture", mixture),
+                          Group("Phases", {lblReminder, Row({phase(0), phase(1), phase(2)}),
+                                           Row({phase(3), phase(4)})}),
+                          Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
+                          Group(fraState, {Row({Field(lblT, Row({Narrow(txtT, 16), cboTUnit})),
+                                                Field(lblP, Row({Narrow(txtP, 16), cboPUnit}))})}),
+                          Field("Comment to this record:", txtComment),
+                          ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
+    TabAlongArrangement();
+    PreferredColumns = 100;
+}
+
+void frmMixtSingle::WireEvents() {
+    cboMixt.OnClick = [this] { MixtureClick(); };
+    for (std::size_t n = 0; n < samples_.size(); ++n)
+        cboSample(static_cast<int>(n)).OnClick = [this, n] { SampleClick(n); };
+    for (const auto& list : lstPhase)
+        list->OnClick = [this] { Touch(); };
+    for (ui::ItemList* list : {&cboTUnit, &cboPUnit})
+        list->OnClick = [this] { Touch(); };
+    for (ui::TextBox* box : {&txtValue, &txtT, &txtP, &txtComment})
+        box->OnChange = [this] { Touch(); };
+    cmdMethod.OnClick = [this] { Method(); };
+    cmdUnc.OnClick = [this] { Uncertainty(); };
+    cmdCheck.OnClick = [this] { CheckAverage(); };
+}
+
+void frmMixtSingle::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    record_ = globals.EditMixtSingle ? globals.CurrentMZ : nullptr;
+    mixture_ = record_ ? record_->Parent->As<clsM>() : globals.CurrentM;
+    if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
+    const ui::FillingScope filling(*this);
+    FillMixtures();
+    UseMixture();
+    if (record_) TakeRecord(*record_);
+    FillProperty();
+    if (record_)
+        Fill(*record_);
+    else
+        txtComment.Text(globals.PropertyComment);
+    cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
+    cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
+    if (record_) cmdAccept.Caption("Accept");
+}
+
+void frmMixtSingle::MixtureClick() {
+    const auto& mixtures = Globals().CurrentR->recM;
+    const auto chosen = mixtures.Item(static_cast<std::size_t>(cboMixt.Index() + 1));
+    if (Filling || chosen == mixture_) return;
+    const ui::FillingScope filling(*this);
+    mixture_ = chosen;
+    UseMixture();
+    FillProperty();
+    statement_ = clsX();
+    Touch();
+}
+
+/// The dialog may come back with a sample of another component, whose list then has it too.
+void frmMixtSingle::SampleClick(std::size_t n) {
+    if (Filling) return;
+    const auto made = samples_[n].Click();
+    for (SampleList& list : samples_) {
+        if (!made || list.Compound().get() != made->Parent || &list == &samples_[n]) continue;
+        list.Fill(list.Compound());
+        list.Choose(made.get());
+    }
+    UseSamples();
+    Touch();
+}
+
+/// Lets property and method be reviewed; a cancelled review has changed nothing.
+void frmMixtSingle::Method() {
+    const std::string property = row_.Code;
+    if (!ReviewProperty(txtComment)) return;
+    {
+        const ui::FillingScope filling(*this);
+        FillProperty();
+    }
+    // What was stated about another quantity is not true of this one.
+    if (row_.Code != property) {
+        statement_ = clsX();
+        stateTag_.clear();
+    }
+    Touch();
+}
+
+/// Statements about the value in hand; they go with it when it is stored.
+void frmMixtSingle::Uncertainty() {
+    const KVOGlobal& globals = Globals();
+    if (!globals.CurrentProperty || !mixture_) return;
+    value_.TakeText();
+    clsMZ named;
+    named.MixType = mixture_->MixType;
+    named.PRPCODE = row_.Code;
+    named.PROPERTY_UNIT = globals.CurrentProperty->ConversionCode;
+    named.Factor = globals.CurrentProperty->Factor;
+    StoreStatement(named);
+    std::vector<clsX> items = NamedStatements(named);
+    // What a mixture states stands in the unit of its value, in the file too.
+    if (!EditStatementsOfValue(items, "RMZ", false)) return;
+    statement_ = items.front();
+    Touch();
+}
+
+/// The purity of the mixed sample, weighted by the composition of the state where it is known.
+void frmMixtSingle::CheckAverage() {
+    if (!CheckSamples()) return;
+    clsMZ draft;
+    draft.MixType = mixture_->MixType;
+    StoreSamples(draft);
+    StoreValues(draft);
+    clsMMM average;
+    PrepareAverage(average, *mixture_, Samples(), draft);
+    std::string text = "Average purity of the mixture: " + FormatFixed(average.Purity(), 2) + " %";
+    const double mass = average.Calculate();
+    text += mass > 0 ? "\nAverage molar mass: " + FormatFixed(mass, 3) + " g/mol"
+                     : "\nNo composition is stated: the mean of the components";
+    ui::Say(text, "Average of the components");
+}
+
+void frmMixtSingle::Touch() {
+    if (Filling) return;
+    stored_ = false;
+    cmdAccept.Caption(record_ ? "Accept" : "Next");
+}
+
+} // namespace vexora
