@@ -89,10 +89,6 @@ bool clsMV::IsTied() const {
                                [](const clsData& row) { return !IsBlankField(row.TIELINE); });
 }
 
-double clsMV::MolarMass(const clsData&) const {
-    return 0;
-}
-
 std::shared_ptr<DataSet> clsMV::Copy() const {
     auto copy = std::make_shared<clsMV>(*this);
     // The node goes on belonging to the set in the document.

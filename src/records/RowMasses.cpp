@@ -1,0 +1,53 @@
+#include "records/RowMasses.h"
+
+#include "records/clsM.h"
+#include "records/clsMV.h"
+#include "reference/MixtureCodes.h"
+#include "reference/Numbers.h"
+
+namespace vexora {
+
+void SetMixture(clsMMM& calculator, const clsM& mixture) {
+    calculator.SetComponents(mixture.MixType, mixture.MolarMasses());
+}
+
+RowMasses::RowMasses(const DataSet& set) : set_(set), mixed_(dynamic_cast<const clsMV*>(&set)) {
+    if (!mixed_ || !mixed_->Parent) return;
+    SetMixture(calculator_, *mixed_->Parent);
+    TakeComposition(*mixed_);
+}
+
+void RowMasses::TakeComposition(const clsMV& set) {
+    // Another phase has another composition, and another molar mass.
+    for (const HeldConstant& constant : set.Constants()) {
+        if (constant.phase != set.PHASE1 || !IsNumeric(constant.value)) continue;
+        calculator_.SetVariable(ComponentOf(constant.code), clsMMM::NoLocation, constant.code,
+                                set.Conversion(constant.item).Absolute(Val(constant.value)));
+    }
+    for (int n = 1; n <= set.nVar; ++n) {
+        if (set.PhaseFor(n) != set.PHASE1) continue;
+        const auto place = static_cast<std::uint16_t>(n);
+        units_[place] = set.VariableConversion(n);
+        calculator_.SetVariable(ComponentOf(set.VARIABLE(n)), place, set.VARIABLE(n), 0);
+    }
+}
+
+double RowMasses::Of(const clsData& row) {
+    if (!mixed_) return set_.MolarMass(row);
+    if (!mixed_->Parent) return 0;
+    for (int n = 1; n <= mixed_->MixType; ++n) {
+        const std::uint16_t place = calculator_.GetLocation(n);
+        if (place == clsMMM::NoLocation) continue;
+        const ShortText& typed = row.Values[place];
+        if (!IsNumeric(typed)) return 0;
+        const double value = Val(typed);
+        calculator_.SetVal(n, row.inOriginalUnits ? units_[place].Absolute(value) : value);
+    }
+    return calculator_.Calculate();
+}
+
+double clsMV::MolarMass(const clsData& row) const {
+    return RowMasses(*this).Of(row);
+}
+
+} // namespace vexora
