@@ -72,6 +72,7 @@ private:
 
     void BeginData() {
         properties_ = variables_ = {};
+        components_.clear();
         values_.emplace(record_);
     }
     void EndData() {
@@ -93,6 +94,8 @@ private:
             return Add("The number " + std::string(name) + " reads \"" + text + "\"");
         if (name == "nOrgNum")
             Compound(text);
+        else if (name == "nPureOrMixtureDataNumber" && !data_.insert(text).second)
+            Add(std::string(name) + " " + text + " stands twice");
         else if (name == "nSampleNm")
             sample_ = text;
         else if (name == "nPropNumber" || name == "nVarNumber")
@@ -111,6 +114,10 @@ private:
                 Add("nOrgNum " + number + " stands for two compounds");
         } else if (!samples_.contains(number)) {
             Add("nOrgNum " + number + " stands for no compound");
+        } else if (Above(2) == "Component") {
+            components_.insert(number);
+        } else if (values_ && !components_.contains(number)) {
+            Add("nOrgNum " + number + " stands for no component of these data");
         }
     }
     void CloseSample(std::string_view element) {
@@ -142,8 +149,7 @@ private:
         if (!values_) return;
         if (name == "ePropName") Unit(text, 0);
         if (Above() == "VariableType") Unit(text, variable_);
-        if (Above() == "ConstraintType") constraint_ = text;
-        if (name == "nConstraintValue") Compare(name, text, values_->Constant(constraint_));
+        if (name == "nConstraintValue") Compare(name, text, values_->NextConstant());
     }
     /// Behind the last comma of the name; without one it is a pure number.
     void Unit(const std::string& text, int n) {
@@ -173,13 +179,13 @@ private:
     std::vector<OpenElement> open_;
     std::string text_, number_; // character data in hand; the last number
     std::map<std::string, std::set<std::string>> samples_; // numbers of each compound's samples
-    std::string compound_, sample_;                        // the numbers read last
+    std::set<std::string> data_, components_; // numbers of all data; compounds of those in hand
+    std::string compound_, sample_;           // the numbers read last
     Numbers properties_, variables_;
     std::optional<ExpectedValues> values_;
     bool inBlock_ = false;
-    std::string inValue_;    // number of the quantity whose value is being read
-    int variable_ = 0;       // the number read last
-    std::string constraint_; // the name read last
+    std::string inValue_; // number of the quantity whose value is being read
+    int variable_ = 0;    // the number read last
 };
 
 } // namespace

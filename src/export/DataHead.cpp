@@ -7,10 +7,11 @@
 #include "export/RegNum.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsA.h"
+#include "records/OpenRecord.h"
 #include "records/clsL.h"
 #include "records/clsX.h"
 #include "reference/KVODefinitions.h"
+#include "reference/MixtureCodes.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
@@ -41,12 +42,37 @@ void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& hea
     }
 }
 
+/// By its number in the file; nothing for a component that the system has not, 0 among them. Of a
+/// pure compound there is nothing to tell apart.
+void ExportCompound(XmlWriter& xml, const DataSubject& subject, int n) {
+    const auto& components = subject.components;
+    if (components.size() < 2 || n < 1 || n > static_cast<int>(components.size())) return;
+    ExportRegNum(xml, *components[static_cast<std::size_t>(n - 1)].compound);
+}
+
 } // namespace
 
-void TellDataError(const DataName& data, const std::string& fault) {
-    const std::string name = PropertyName(data.propertyCode, data.context);
-    ui::Say(fault + "\nSystem: " + data.system +
-                "\nProperty: " + (name.empty() ? std::string(data.propertyCode) : name),
+std::string DataSubject::PropertyGroup() const {
+    return XMLPropertyGroup(propertyCode, context, propertyContext);
+}
+
+std::string DataSubject::PropertyName() const {
+    return XMLPropertyName(propertyCode, context, propertyContext);
+}
+
+bool DataSubject::HasPlace() const {
+    return IsXmlName(PropertyGroup()) && !PropertyName().empty();
+}
+
+bool VariableHasPlace(std::string_view code) {
+    return IsXmlName(XMLVariableGroup(code)) && !XMLVariableName(code).empty();
+}
+
+void TellDataError(const DataSubject& subject, const std::string& fault) {
+    const std::string name =
+        PropertyName(subject.propertyCode, subject.context, subject.propertyContext);
+    ui::Say(fault + "\nSystem: " + subject.system +
+                "\nProperty: " + (name.empty() ? std::string(subject.propertyCode) : name),
             "Data Error!");
 }
 
@@ -54,91 +80,104 @@ bool HasTag(const clsA& header, std::string_view tag) {
     return CommentTags(header.DATACOMMENT).Has(tag);
 }
 
-void ExportComponent(XmlWriter& xml, const clsL& compound, std::string_view sample) {
-    xml.Open("Component");
-    ExportRegNum(xml, compound);
-    xml.Element("nSampleNm", Trim(sample));
-    xml.Close();
+void ExportRecord(XmlWriter& xml, const OpenRecord& data) {
+    Globals().LineInHand = data.Line;
+    xml.Mark(&data);
+    data.ExportAll(xml);
 }
 
-void ExportOrigin(XmlWriter& xml, const clsA& header) {
+void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header) {
+    xml.Open("PureOrMixtureData");
+    xml.Element("nPureOrMixtureDataNumber", std::to_string(xml.NextNumber()));
+    for (const SystemComponent& component : subject.components) {
+        xml.Open("Component");
+        ExportRegNum(xml, *component.compound);
+        xml.Element("nSampleNm", Trim(component.sample));
+        xml.Close();
+    }
     xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
     xml.ElementIfAny("sCompiler", Globals().UserName);
     xml.ElementIfAny("sContributor", Globals().Organization);
     xml.ElementIfAny("dateDateAdded", IsoDate(header.DATEADDED));
 }
 
-void ExportPropertyHead(XmlWriter& xml, const DataName& data, const std::string& group,
-                        std::string_view phase, const clsA& header) {
+void ExportPropertyHead(XmlWriter& xml, const DataSubject& subject, std::string_view phase,
+                        const clsA& header) {
     xml.Element("nPropNumber", "1");
     xml.Open("Property-MethodID");
     xml.Open("PropertyGroup");
-    xml.Open(group);
-    xml.Element("ePropName", XMLPropertyName(data.propertyCode, data.context));
-    ExportMethod(xml, data.propertyCode, header);
+    xml.Open(subject.PropertyGroup());
+    xml.Element("ePropName", subject.PropertyName());
+    ExportMethod(xml, subject.propertyCode, header);
     xml.Close();
     xml.Close();
+    ExportComponentOf(xml, subject, subject.propertyCode);
     xml.Close();
-    ExportPhase(xml, "PropPhaseID", "ePropPhase", phase);
+    ExportPhase(xml, subject, "PropPhaseID", "ePropPhase", phase);
 }
 
-void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
-                 std::string_view phase) {
+void ExportComponentOf(XmlWriter& xml, const DataSubject& subject, std::string_view code) {
+    ExportCompound(xml, subject, ComponentOf(code));
+}
+
+void ExportSolvent(XmlWriter& xml, const DataSubject& subject, std::string_view code) {
+    if (!NeedsSolvent(code)) return;
+    // The public schema has one element for all of them.
+    const std::vector<int> components = ComponentsOfSolvent(subject.solvent);
+    const int most = static_cast<int>(subject.components.size());
+    if (components.empty() || components.back() > most) return;
+    xml.Open("Solvent");
+    for (const int n : components) {
+        if (n != components.front() && !xml.IsStrict()) {
+            xml.Close();
+            xml.Open("Solvent");
+        }
+        ExportCompound(xml, subject, n);
+    }
+    xml.Close();
+}
+
+void ExportPhase(XmlWriter& xml, const DataSubject& subject, std::string_view element,
+                 std::string_view inner, std::string_view phase) {
     if (IsBlankField(phase)) return;
-    const std::string publicName = xml.IsStrict() ? TextOfCode(PublicPhases, phase) : std::string();
-    const std::string name = publicName.empty() ? PhaseName(phase) : publicName;
+    const bool ofComponent = phase.size() == 3 && phase.starts_with("Cp");
+    const std::string_view code = ofComponent ? phase.substr(0, 1) : phase;
+    const std::string publicName = xml.IsStrict() ? TextOfCode(PublicPhases, code) : std::string();
+    const std::string name = publicName.empty() ? PhaseName(code) : publicName;
     xml.Open(element);
-    xml.Element(inner, name.empty() ? phase : name); // the code where no table knows the phase
+    xml.Element(inner, name.empty() ? code : name); // the code where no table knows the phase
+    if (ofComponent) ExportComponentOf(xml, subject, phase);
     xml.Close();
 }
 
-void ExportPhases(XmlWriter& xml, std::string_view code, const clsA& header,
+void ExportPhases(XmlWriter& xml, const DataSubject& subject,
                   const std::vector<std::string>& phases) {
-    std::vector<std::string_view> known;
-    const auto add = [&known](std::string_view phase) {
-        const bool isKnown = std::find(known.begin(), known.end(), phase) != known.end();
+    for (auto phase = phases.begin(); phase != phases.end(); ++phase)
         // Sets state the same phase at several places.
-        if (!IsBlankField(phase) && !isKnown) known.push_back(phase);
-    };
-    for (const std::string& phase : phases)
-        add(phase);
+        if (std::find(phases.begin(), phase, *phase) == phase)
+            ExportPhase(xml, subject, "PhaseID", "ePhase", *phase);
+}
+
+std::vector<std::string> PhasesOfPure(std::string_view code, const clsA& header,
+                                      std::vector<std::string> phases) {
     // A value marked as under one atmosphere states its own phases.
     const bool boils = IsBoilingProperty(code) && !HasTag(header, "FP");
-    if (HasTag(header, "PB") || boils) add("G");
-    for (const std::string_view phase : known)
-        ExportPhase(xml, "PhaseID", "ePhase", phase);
+    if (HasTag(header, "PB") || boils) phases.emplace_back("G");
+    return phases;
 }
 
-void ExportConstraint(XmlWriter& xml, const std::string& group, const std::string& name,
-                      const std::string& value, int digits,
-                      const std::function<void()>& statements) {
-    xml.Open("Constraint");
-    xml.Open("ConstraintID");
-    xml.Open("ConstraintType");
-    xml.Element(group, name);
-    xml.Close();
-    xml.Close();
-    xml.Element("nConstraintValue", value);
-    xml.Element("nConstrDigits", std::to_string(digits));
-    // Behind the value, as in the schema.
-    if (statements) statements();
-    xml.Close();
-}
-
-void ExportAtmosphere(XmlWriter& xml) {
-    ExportConstraint(xml, "ePressure", "Pressure, kPa", "101.325", 6);
-}
-
-void ExportVariable(XmlWriter& xml, int number, const std::string& code, std::string_view phase,
-                    const clsX& item) {
+void ExportVariable(XmlWriter& xml, const DataSubject& subject, int number, const std::string& code,
+                    std::string_view phase, const clsX& item) {
     xml.Open("Variable");
     xml.Element("nVarNumber", std::to_string(number));
     xml.Open("VariableID");
     xml.Open("VariableType");
     xml.Element(XMLVariableGroup(code), XMLVariableName(code));
     xml.Close();
+    ExportComponentOf(xml, subject, code);
     xml.Close();
-    ExportPhase(xml, "VarPhaseID", "eVarPhase", phase);
+    ExportPhase(xml, subject, "VarPhaseID", "eVarPhase", phase);
+    ExportSolvent(xml, subject, code);
     item.ExportX(xml, "Var");
     xml.Close();
 }

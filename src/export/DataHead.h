@@ -4,7 +4,6 @@
 // the schema lets it be, and the order of elements is the schema's.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,56 +13,75 @@ namespace vexora {
 class clsA;
 class clsL;
 class clsX;
+class OpenRecord;
 class XmlWriter;
 
-/// Tells the user which data could not be exported as they stand.
-/// Words for a message only; nothing of it is exported.
-struct DataName {
-    std::string system; // compound, mixture or reaction
-    std::string_view context;
-    std::string_view propertyCode;
+/// A compound of the system, with the number of its sample.
+struct SystemComponent {
+    const clsL* compound = nullptr;
+    std::string sample;
+};
+
+/// What one set or value is about: its system and property. Elements refer to the compounds of the
+/// system, and to none besides.
+struct DataSubject {
+    std::string system; // compound, mixture or reaction; words for a message only
+    std::string_view context, propertyCode;
+    std::string propertyContext; // kind of equilibrium, by which names of a property differ
+    std::vector<SystemComponent> components;
+    std::string_view solvent; // code of the components that it consists of
+
+    std::string PropertyGroup() const;
+    std::string PropertyName() const;
+    /// Both names are there, and the first may stand as that of an element.
+    bool HasPlace() const;
 };
 template <class Data>
-DataName NameOf(const Data& data) {
-    return {data.SystemName(), data.DataContext(), data.PRPCODE};
+DataSubject SubjectOf(const Data& data, std::vector<SystemComponent> components,
+                      std::string propertyContext = {}, std::string_view solvent = {}) {
+    return {data.SystemName(),          data.DataContext(),    data.PRPCODE,
+            std::move(propertyContext), std::move(components), solvent};
 }
+
+/// The same of a state variable.
+bool VariableHasPlace(std::string_view code);
+
+/// Tells the user which data could not be exported as they stand.
 /// In a box for each set: one that is left out must not go unnoticed.
-void TellDataError(const DataName& data, const std::string& fault);
+void TellDataError(const DataSubject& subject, const std::string& fault);
 
 /// True when the tags of the comment hold this one ("PB").
 /// "PB" is said of values on a phase boundary, "FP" of values under one atmosphere.
 bool HasTag(const clsA& header, std::string_view tag);
 
-/// One compound of the system with the number of its sample.
-/// The compound by its number in the source (ExportRegNum), so that the values can be tied to it.
-void ExportComponent(XmlWriter& xml, const clsL& compound, std::string_view sample);
-/// Purpose, compiler and date.
-/// Each element only where the record knows it.
-void ExportOrigin(XmlWriter& xml, const clsA& header);
+/// A record of data with its place in the file, which messages about it name.
+void ExportRecord(XmlWriter& xml, const OpenRecord& data);
+
+/// Opens the element of a set or value: its number in the file, the compounds with their samples,
+/// purpose, compiler and date, the latter only where the record knows them.
+void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header);
 /// Number, group with name and method, and phase of the property.
 /// A set has one property, whose number is always 1; rows refer to it by that.
-void ExportPropertyHead(XmlWriter& xml, const DataName& data, const std::string& group,
-                        std::string_view phase, const clsA& header);
-/// An element with a phase inside; nothing for no phase.
-void ExportPhase(XmlWriter& xml, std::string_view element, std::string_view inner,
-                 std::string_view phase);
-/// A PhaseID for each phase, and one of the gas for what is measured where the liquid boils.
-void ExportPhases(XmlWriter& xml, std::string_view code, const clsA& header,
+void ExportPropertyHead(XmlWriter& xml, const DataSubject& subject, std::string_view phase,
+                        const clsA& header);
+/// The compound that a code speaks of; nothing for a code that speaks of none.
+void ExportComponentOf(XmlWriter& xml, const DataSubject& subject, std::string_view code);
+/// The compounds of the solvent, behind what says nothing without it; nothing behind the rest.
+void ExportSolvent(XmlWriter& xml, const DataSubject& subject, std::string_view code);
+/// An element with a phase inside; nothing for no phase. The crystal of a pure component is a
+/// crystal, and names the compound.
+void ExportPhase(XmlWriter& xml, const DataSubject& subject, std::string_view element,
+                 std::string_view inner, std::string_view phase);
+/// A PhaseID for each phase, for one that is stated twice as well.
+void ExportPhases(XmlWriter& xml, const DataSubject& subject,
                   const std::vector<std::string>& phases);
+/// The phases of a pure compound, and the gas for what is measured where the liquid boils.
+std::vector<std::string> PhasesOfPure(std::string_view code, const clsA& header,
+                                      std::vector<std::string> phases);
 
-/// A state variable that stays the same: its group and name, the value in system units, and what
-/// `statements` writes about it.
-/// digits is the count of significant digits, at least 1. Uncertainty statements stand inside,
-/// since no row repeats the value.
-void ExportConstraint(XmlWriter& xml, const std::string& group, const std::string& name,
-                      const std::string& value, int digits,
-                      const std::function<void()>& statements = {});
-/// The constraint of one atmosphere.
-/// 101.325 kPa, exact by definition (CGPM 1954).
-void ExportAtmosphere(XmlWriter& xml);
 /// The head of state variable `number`; item holds its statements.
 /// Numbers run from 1 in the order in which rows give the values.
-void ExportVariable(XmlWriter& xml, int number, const std::string& code, std::string_view phase,
-                    const clsX& item);
+void ExportVariable(XmlWriter& xml, const DataSubject& subject, int number, const std::string& code,
+                    std::string_view phase, const clsX& item);
 
 } // namespace vexora

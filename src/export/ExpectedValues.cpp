@@ -1,9 +1,10 @@
 #include "export/ExpectedValues.h"
 
+#include "export/Constants.h"
 #include "export/SetRows.h"
 #include "records/DataSet.h"
+#include "records/clsMZ.h"
 #include "records/clsZ.h"
-#include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
 
@@ -53,10 +54,20 @@ std::optional<ExpectedValue> Expected(const SingleValue& value, int n) {
     return Expected(pure->INDVARIABLE, unit);
 }
 
+/// Pure single values hold nothing constant.
+std::vector<ExportedConstant> ConstantsOf(const Record* record) {
+    if (const auto* set = dynamic_cast<const DataSet*>(record)) return ConstantsOf(*set);
+    const auto* ofMixture = dynamic_cast<const clsMZ*>(record);
+    return ofMixture ? ConstantsOf(*ofMixture) : std::vector<ExportedConstant>();
+}
+
 } // namespace
 
 ExpectedValues::ExpectedValues(const Record* record)
     : record_(record), set_(dynamic_cast<const DataSet*>(record)) {
+    for (const ExportedConstant& constant : ConstantsOf(record))
+        if (const auto value = Expected(constant.value, constant.unit))
+            constants_.push_back(*value);
     if (set_ == nullptr) return;
     rows_ = std::make_unique<SetRows>(*set_);
     next_ = set_->recData.begin();
@@ -72,32 +83,25 @@ bool ExpectedValues::Next() {
     }
     while (next_ != set_->recData.end()) {
         row_ = next_++;
-        if (rows_->IsExported(*row_)) return true;
+        if (rows_->Enter(*row_) == SetRows::Leaving::Whole) return true;
     }
     return false;
+}
+
+std::optional<ExpectedValue> ExpectedValues::NextConstant() {
+    return constant_ < constants_.size() ? std::optional(constants_[constant_++]) : std::nullopt;
 }
 
 std::optional<ExpectedValue> ExpectedValues::Of(int n) const {
     if (set_ == nullptr) return Expected(static_cast<const SingleValue&>(*record_), n);
     if (n > row_->nVar) return std::nullopt;
-    return Expected(row_->Values[static_cast<std::size_t>(n)], rows_->UnitIn(*row_, n));
+    return Expected(row_->Values[static_cast<std::size_t>(n)], rows_->UnitIn(n));
 }
 
 std::string ExpectedValues::UnitOf(int n) const {
     if (set_ != nullptr) return UnitOfQuantity(*set_, set_->nVar, n);
     const auto* value = dynamic_cast<const SingleValue*>(record_);
     return value != nullptr ? UnitOfQuantity(*value, value->VariableCount(), n) : std::string();
-}
-
-std::optional<ExpectedValue> ExpectedValues::Constant(std::string_view xmlName) const {
-    if (set_ == nullptr) return std::nullopt;
-    for (const QuantityText& quantity : StateVariables) {
-        if (XMLVariableName(quantity.code) != xmlName) continue;
-        ExportUnit unit;
-        unit.wavelength = quantity.code == "WL";
-        return Expected(set_->ConstantOf(quantity.code), unit);
-    }
-    return std::nullopt;
 }
 
 } // namespace vexora

@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace vexora {
 
@@ -29,17 +29,19 @@ public:
 
     /// Goes on to the next block; false when there is none left.
     bool Next();
+    /// The next of the values that the record holds constant; nothing behind the last.
+    std::optional<ExpectedValue> NextConstant();
     /// Quantity n of the block in hand, 0 the property; nothing where the record does not tell.
     std::optional<ExpectedValue> Of(int n) const;
     /// The unit in which quantity n leaves, "1" for none; empty where the record does not tell.
     std::string UnitOf(int n) const;
-    /// The constant of a set that leaves under this name; nothing where the record does not tell.
-    std::optional<ExpectedValue> Constant(std::string_view xmlName) const;
 
 private:
     const Record* record_;
     const DataSet* set_ = nullptr;
     std::unique_ptr<SetRows> rows_;
+    std::vector<ExpectedValue> constants_;
+    std::size_t constant_ = 0;
     RowList::const_iterator next_, row_;
     bool isFirst_ = true;
 };

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "chem/CommentTags.h"
 #include "export/DataHead.h"
 #include "export/XmlWriter.h"
 #include "records/DataSet.h"
 #include "records/Presentation.h"
+#include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -58,15 +58,6 @@ void ExportNumberAsTyped(XmlWriter& xml, const std::string& element, const std::
     xml.Element(digits, std::to_string(number.digits));
 }
 
-/// What the set states about a variable that stays the same, or null.
-/// Numbers above those of the variables are of constraints.
-const clsX* StatementsOf(const DataSet& set, const std::string& code) {
-    const auto found = std::ranges::find_if(set.UX, [&](const clsX& item) {
-        return item.N > set.nVar && item.PRPCODE == code && item.IsStated();
-    });
-    return found == set.UX.end() ? nullptr : &*found;
-}
-
 ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
     return {conversion, converts};
 }
@@ -98,8 +89,6 @@ void AnnounceRows(const DataSet& set, SetRows& rows) {
 }
 
 constexpr const char* NoValidRows = "Rows without a valid number in ";
-constexpr const char* NoMolarMass = "Unable to calculate average molar mass";
-constexpr const char* NoRepeatability = "Missing repeatability in ";
 
 } // namespace
 
@@ -113,58 +102,68 @@ bool IsWithoutNumbers(const DataSet& set) {
     return set.recData.IsEmpty() && !Presentation::Of(set.DATATYPE).HasNumbers();
 }
 
-SetRows::SetRows(const DataSet& ofSet) : set(ofSet), byRow(ofSet.ConvertsByRow()) {
-    quantities[0] = {UnitOf(set.PropertyConversion(), set.isOriginalUnit), set.UX[0], false};
+SetRows::SetRows(const DataSet& ofSet) : set(ofSet) {
+    if (set.ConvertsByRow()) masses.emplace(set);
+    quantities[0].unit = UnitOf(set.PropertyConversion(), set.isOriginalUnit);
+    ExportUnit& property = quantities[0].unit;
     // A difference of temperatures in degrees Celsius is one in kelvin.
-    quantities[0].unit.difference = set.Relation() == "D";
+    property.difference = set.Relation() == "D";
+    // Looked up here and not for every row.
+    if (property.factor <= 0 && IsUnitLong(property.code))
+        property.factor = ConversionFactor(property.code, property.unit);
     for (int n = 1; n <= set.nVar; ++n) {
-        const auto place = static_cast<std::size_t>(n);
-        ExportUnit unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
+        ExportUnit& unit = quantities[static_cast<std::size_t>(n)].unit;
+        unit = UnitOf(set.VariableConversion(n), set.isOriginalUnit);
         // Wavelengths have a rule of their own, for the schema wants nm and the system keeps
         // Angstroms.
         unit.wavelength = set.VARIABLE(n) == "WL";
-        quantities[place] = {unit, set.UX[place], false};
     }
-    for (Quantity& quantity : quantities)
-        DropUnstated(quantity.item);
+    for (std::size_t n = 0; n <= static_cast<std::size_t>(set.nVar); ++n) {
+        quantities[n].item = set.UX[n];
+        quantities[n].ofRow = quantities[n].unit;
+        DropUnstated(quantities[n].item);
+    }
     AnnounceRows(set, *this);
 }
 
-ExportUnit SetRows::UnitIn(const clsData& row, int n) const {
-    ExportUnit unit = quantities[static_cast<std::size_t>(n)].unit;
+SetRows::Leaving SetRows::Enter(const clsData& row) {
+    if (!IsNumericRow(row)) return Leaving::WithoutNumber;
     // Rows of one set may stand in either unit, as they were typed or read.
-    unit.converts = row.inOriginalUnits;
+    for (Quantity& quantity : quantities)
+        quantity.ofRow.converts = row.inOriginalUnits;
+    if (!masses) return Leaving::Whole;
     // What the set states may have to be converted where the row has not.
-    if (n == 0 && byRow) unit.molarMass = set.MolarMass(row);
-    return unit;
+    double& molarMass = quantities[0].ofRow.molarMass;
+    molarMass = masses->Of(row);
+    return molarMass > 0 || !row.inOriginalUnits ? Leaving::Whole : Leaving::WithoutMass;
 }
 
-bool SetRows::HasMolarMass(const clsData& row) const {
-    return !byRow || !row.inOriginalUnits || set.MolarMass(row) > 0;
+const ExportUnit& SetRows::UnitIn(int n) const {
+    return quantities[static_cast<std::size_t>(n)].ofRow;
 }
 
-std::string SetRows::Fault(const std::string& group) const {
-    bool hasPlace = IsXmlName(group) && !XMLPropertyName(set.PRPCODE, set.DataContext()).empty();
+std::string SetRows::Fault(const DataSubject& subject) {
+    bool hasPlace = subject.HasPlace();
     for (int n = 1; n <= set.nVar; ++n)
-        hasPlace = hasPlace && IsXmlName(XMLVariableGroup(set.VARIABLE(n))) &&
-                   !XMLVariableName(set.VARIABLE(n)).empty();
+        hasPlace = hasPlace && VariableHasPlace(set.VARIABLE(n));
     if (!hasPlace) return NoPlaceInExport;
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;
-    const auto leaves = [this](const clsData& row) { return IsExported(row); };
-    if (std::none_of(set.recData.begin(), set.recData.end(), leaves)) return NoMolarMass;
     // Rather no values than values under a wrong meaning.
     if (!IsKnownDefinition(set)) return "Unknown definition of results " + set.PROPERTY_FUNCT;
     ExportUnit property = quantities[0].unit;
-    if (byRow) property.molarMass = 1; // the rows have their own; here the unit is looked at
+    if (masses) property.molarMass = 1; // the rows have their own; here the unit is looked at
     std::string fault = ConversionFault(property);
+    const auto leaves = [this](const clsData& row) { return Enter(row) == Leaving::Whole; };
+    if (fault.empty() && std::ranges::none_of(set.recData, leaves)) fault = NoMolarMass;
     for (int n = 1; n <= set.nVar && fault.empty(); ++n)
         fault = ConversionFault(quantities[static_cast<std::size_t>(n)].unit);
     return fault;
 }
 
-void SetRows::ExportDefinition(XmlWriter& xml, const std::string& temperature,
-                               const std::string& pressure, const std::string& phase) const {
+void SetRows::ExportDefinition(XmlWriter& xml, const DataSubject& subject,
+                               const std::string& temperature, const std::string& pressure,
+                               const std::string& phase) const {
     const ResultDefinition definition = set.Definition();
     xml.Element("ePresentation", PresentationOf(definition));
     if (!definition.IsRelative()) return;
@@ -174,43 +173,26 @@ void SetRows::ExportDefinition(XmlWriter& xml, const std::string& temperature,
         ExportNumberAsTyped(xml, "nRefTemp", "nRefTempDigits", temperature);
     if (definition.FixesPressure())
         ExportNumberAsTyped(xml, "nRefPressure", "nRefPressureDigits", pressure);
-    if (!IsBlankField(phase)) ExportPhase(xml, "RefPhaseID", "eRefPhase", phase);
+    ExportPhase(xml, subject, "RefPhaseID", "eRefPhase", phase);
 }
 
-void SetRows::ExportConstants(XmlWriter& xml) const {
-    for (const std::string code : {"T", "P", "WL", "WF"}) {
-        const std::string value = set.ConstantOf(code);
-        if (value.empty()) continue;
-        ExportUnit unit;
-        unit.wavelength = code == "WL";
-        const ExportNumber number = ExportedValue(value, unit);
-        const clsX* stated = StatementsOf(set, code);
-        ExportConstraint(xml, XMLVariableGroup(code), XMLVariableName(code), number.text,
-                         number.digits, [&] {
-                             if (stated && !ExportConstraintStatements(xml, *stated, value, unit))
-                                 TellDataError(NameOf(set), NoRepeatability);
-                         });
-    }
-}
-
-void SetRows::ExportVariables(XmlWriter& xml) const {
+void SetRows::ExportVariables(XmlWriter& xml, const DataSubject& subject) const {
     for (int n = 1; n <= set.nVar; ++n)
-        ExportVariable(xml, n, set.VARIABLE(n), set.PhaseFor(n),
+        ExportVariable(xml, subject, n, set.VARIABLE(n), set.PhaseFor(n),
                        quantities[static_cast<std::size_t>(n)].item);
 }
 
-void SetRows::ExportRows(XmlWriter& xml) {
-    bool leftOut = false;
-    bool withoutMass = false;
+void SetRows::ExportRows(XmlWriter& xml, const DataSubject& subject) {
+    bool lacksNumbers = false, lacksMass = false;
     for (const clsData& row : set.recData) {
-        if (IsExported(row))
-            row.ExportData(xml, *this);
-        else
-            (IsNumericRow(row) ? withoutMass : leftOut) = true;
+        const Leaving leaving = Enter(row);
+        if (leaving == Leaving::Whole) row.ExportData(xml, *this);
+        lacksNumbers = lacksNumbers || leaving == Leaving::WithoutNumber;
+        lacksMass = lacksMass || leaving == Leaving::WithoutMass;
     }
-    if (leftOut) TellDataError(NameOf(set), NoValidRows);
-    if (withoutMass) TellDataError(NameOf(set), NoMolarMass);
-    if (lacksRepeatability) TellDataError(NameOf(set), NoRepeatability);
+    if (lacksNumbers) TellDataError(subject, NoValidRows);
+    if (lacksMass) TellDataError(subject, NoMolarMass);
+    if (lacksRepeatability) TellDataError(subject, NoRepeatability);
 }
 
 } // namespace vexora

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "export/Statements.h"
+#include "records/RowMasses.h"
 #include "records/clsX.h"
 
 namespace vexora {
@@ -12,6 +14,7 @@ namespace vexora {
 class DataSet;
 class clsData;
 class XmlWriter;
+struct DataSubject;
 
 /// All values of the row are numbers; others are not exported.
 bool IsNumericRow(const clsData& row);
@@ -23,40 +26,39 @@ struct SetRows {
     struct Quantity {
         ExportUnit unit; // converts tells of the statements of the set; a row has its own flag
         clsX item;
+        ExportUnit ofRow;           // the same for the row in hand
         bool repeatsInRows = false; // some rows state the repeatability
     };
     const DataSet& set;
     std::array<Quantity, 4> quantities;
-    bool byRow = false;              // the property goes by the molar mass of each row
     bool lacksRepeatability = false; // announced, but without a figure in the set or any row
+    std::optional<RowMasses> masses; // where the property goes by the molar mass of each row
 
     /// Statements that only some rows make announce themselves like those of the set.
     explicit SetRows(const DataSet& set);
 
-    /// The unit of quantity n in a row, with the molar mass that it goes by there.
-    ExportUnit UnitIn(const clsData& row, int n) const;
-    /// The molar mass that the row goes by is known, or it needs none.
-    bool HasMolarMass(const clsData& row) const;
-    /// The row leaves: numbers only, in units that can be converted.
-    bool IsExported(const clsData& row) const { return IsNumericRow(row) && HasMolarMass(row); }
-    /// Why the rows cannot be exported, in words for the user, or empty. group is that of the
-    /// property.
+    /// Whether a row leaves.
+    enum class Leaving { Whole, WithoutNumber, WithoutMass };
+    /// Takes a row in hand: the units of the quantities are those in it, with the molar mass that
+    /// it goes by.
+    Leaving Enter(const clsData& row);
+    /// The unit of quantity n in the row in hand.
+    const ExportUnit& UnitIn(int n) const;
+    /// Why the rows cannot be exported, in words for the user, or empty.
     /// To be asked before anything is written: a set that is begun cannot be taken back.
-    std::string Fault(const std::string& group) const;
+    std::string Fault(const DataSubject& subject);
 
     /// How the results are defined, and the state that they are relative to.
     /// temperature in K and pressure in kPa, as typed; a text that is no number is left out.
-    void ExportDefinition(XmlWriter& xml, const std::string& temperature,
-                          const std::string& pressure, const std::string& phase) const;
-    /// The state variables that the comment states for all rows.
-    /// They stand in system units in the comment; a wavelength leaves in nm.
-    void ExportConstants(XmlWriter& xml) const;
+    void ExportDefinition(XmlWriter& xml, const DataSubject& subject,
+                          const std::string& temperature, const std::string& pressure,
+                          const std::string& phase) const;
     /// The heads of the variables.
-    void ExportVariables(XmlWriter& xml) const;
-    /// One NumValues element for each exported row; tells of the others, and of an
-    /// announced repeatability that lacks its figure.
+    void ExportVariables(XmlWriter& xml, const DataSubject& subject) const;
+    /// One NumValues element for each row that leaves; tells why others do not, and of an announced
+    /// repeatability that lacks its figure.
     /// Rows are left out one by one, the set is not: the good values are worth having.
-    void ExportRows(XmlWriter& xml);
+    void ExportRows(XmlWriter& xml, const DataSubject& subject);
 };
 
 /// The set is stated to have no numbers, and has none.

@@ -41,6 +41,12 @@ std::string ConversionFault(const ExportUnit& unit);
 inline constexpr char NoPlaceInExport[] =
     "The reference tables have no place for these data in the export";
 
+/// What is told of a repeatability that is announced and has no figure.
+inline constexpr char NoRepeatability[] = "Missing repeatability in ";
+
+/// What is told of a unit by mass in a mixture whose composition does not tell its molar mass.
+inline constexpr char NoMolarMass[] = "Unable to calculate average molar mass";
+
 /// What one row of a set states itself; it goes before what the set states.
 /// Views into the row: no longer valid than that.
 struct RowFigures {

@@ -40,6 +40,9 @@ public:
     /// The same, but only when the text is not empty.
     void ElementIfAny(std::string_view name, std::string_view text);
 
+    /// 1, 2, ... for elements that bear a number of their own in the document.
+    int NextNumber() { return ++number_; }
+
     /// What follows comes from this record, until the next one; null for none.
     void Mark(const Record* record) { marks_.push_back({lines_ + 1, record}); }
     const std::vector<XmlMark>& Marks() const { return marks_; }
@@ -53,7 +56,7 @@ private:
     bool isStrict_;
     std::string text_;
     std::vector<std::string> open_;
-    int lines_ = 0;
+    int lines_ = 0, number_ = 0;
     std::vector<XmlMark> marks_;
 };
 

@@ -18,7 +18,7 @@ void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n,
         own.curveDeviation = row.Extras->CD;
     }
     const bool whole =
-        ExportStatements(xml, quantity.item, role, row.Values[place], rows.UnitIn(row, n), &own);
+        ExportStatements(xml, quantity.item, role, row.Values[place], rows.UnitIn(n), &own);
     // What some rows state by themselves is not owed by the others.
     if (!whole && !quantity.repeatsInRows) rows.lacksRepeatability = true;
 }
@@ -28,8 +28,7 @@ void ExportUnc(XmlWriter& xml, std::string_view role, const clsData& row, int n,
 void clsData::ExportData(XmlWriter& xml, SetRows& rows) const {
     const auto exportValue = [&](const char* element, const std::string& role, int n) {
         const auto place = static_cast<std::size_t>(n);
-        const ExportNumber value =
-            ExportedValue(Values[place], rows.UnitIn(*this, n), DigitCount(n));
+        const ExportNumber value = ExportedValue(Values[place], rows.UnitIn(n), DigitCount(n));
         xml.Open(element);
         // The number of the head to which the value belongs; there is one property.
         xml.Element("n" + role + "Number", std::to_string(std::max(n, 1)));

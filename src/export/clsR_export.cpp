@@ -1,5 +1,6 @@
 #include "records/clsR.h"
 
+#include "export/DataHead.h"
 #include "export/ExportDocument.h"
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
@@ -9,6 +10,7 @@
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
@@ -99,13 +101,13 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
     }
     // Names of properties depend on the context; data begin with those of compounds.
     Globals().DataContext = "Pure";
-    Walk(*this, [&xml](const Record& record) {
-        const auto* const data = dynamic_cast<const OpenRecord*>(&record);
-        if (!data) return;
-        Globals().LineInHand = data->Line; // the place that is named with what is said of the data
-        xml.Mark(data);
-        data->ExportAll(xml);
-    });
+    for (const auto& compound : recL)
+        Walk(*compound, [&xml](const Record& record) {
+            if (const auto* data = dynamic_cast<const OpenRecord*>(&record))
+                ExportRecord(xml, *data);
+        });
+    for (const auto& mixture : recM)
+        mixture->ExportAll(xml);
     xml.Mark(nullptr);
     Globals().LineInHand = 0;
 }

@@ -1,6 +1,6 @@
 #include "records/clsTwo.h"
 
-#include "chem/CommentTags.h"
+#include "export/Constants.h"
 #include "export/DataHead.h"
 #include "export/SetRows.h"
 #include "export/XmlWriter.h"
@@ -33,23 +33,21 @@ void clsTwo::ExportAll(XmlWriter& xml) const {
     // A set outside a document has no compound to refer to.
     if (Parent == nullptr || Parent->Parent == nullptr) return;
     if (IsWithoutNumbers(*this)) return; // named behind all others
-    const std::string group = XMLPropertyGroup(PRPCODE, DataContext());
+    const DataSubject subject = SubjectOf(*this, {{Parent->Parent, SMPNM}});
     SetRows rows(*this);
-    const std::string fault = HasPlace(*this) ? rows.Fault(group) : NoPlaceInExport;
-    if (!fault.empty()) return TellDataError(NameOf(*this), fault);
-    xml.Open("PureOrMixtureData");
-    ExportComponent(xml, *Parent->Parent, SMPNM);
-    ExportOrigin(xml, Header);
+    const std::string fault = HasPlace(*this) ? rows.Fault(subject) : NoPlaceInExport;
+    if (!fault.empty()) return TellDataError(subject, fault);
+    OpenData(xml, subject, Header);
     xml.Open("Property");
-    ExportPropertyHead(xml, NameOf(*this), group, PHASE1, Header);
-    rows.ExportDefinition(xml, REF_TEMP, REF_PRESSURE, REF_PHASE);
+    ExportPropertyHead(xml, subject, PHASE1, Header);
+    rows.ExportDefinition(xml, subject, REF_TEMP, REF_PRESSURE, REF_PHASE);
     rows.quantities[0].item.ExportX(xml, "Prop");
     xml.Close();
-    ExportPhases(xml, PRPCODE, Header, Phases());
-    rows.ExportConstants(xml);
-    if (IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml);
-    rows.ExportVariables(xml);
-    rows.ExportRows(xml);
+    ExportPhases(xml, subject, PhasesOfPure(PRPCODE, Header, Phases()));
+    ExportConstants(xml, subject, ConstantsOf(*this));
+    if (IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml, subject);
+    rows.ExportVariables(xml, subject);
+    rows.ExportRows(xml, subject);
     xml.Close();
 }
 

@@ -95,7 +95,7 @@ public:
     /// stops a second conversion. A text that is no number stays.
     void Convert(int n, const UnitConversion& unit, bool isDifference = false);
 
-    /// One NumValues element; see SetRows for what the set gives.
+    /// One NumValues element; see SetRows for what the set gives. It has to have the row in hand.
     void ExportData(XmlWriter& xml, SetRows& rows) const;
 
 private:

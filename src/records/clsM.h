@@ -65,6 +65,8 @@ public:
     void PrintM(LineWriter& out) const;
     /// Only when there are data.
     void Print(LineWriter& out) const override;
+    /// The elements of all values and sets.
+    void ExportAll(XmlWriter& xml);
     void EachChild(const std::function<void(Record&)>& visit) const override;
 
     /// The set with this Key or ShowKey, or null; its place from 1 goes into index.

@@ -1,6 +1,6 @@
 #include "export/ClosingCheck.h"
 
-#include "export/ExportFixture.h"
+#include "export/MixtureExportFixture.h"
 #include "export/XmlWriter.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -89,12 +89,37 @@ TEST_F(ClosingCheckTest, EachFaultIsFoundWithItsNode) {
     };
     for (const auto& [behind, from, to, told] : faults)
         EXPECT_EQ(Found(behind, from, to), told) << from;
+    EXPECT_EQ(Found("<PureOrMixtureData>\n\t\t<nPureOrMixtureDataNumber>2", ">2<", ">1<"),
+              "^1: nPureOrMixtureDataNumber 1 stands twice");
     // A row that is not there is missed at the end of its set.
     std::string xml = exported_.xml;
     const std::size_t last = xml.rfind("\t\t<NumValues>");
     xml.erase(last, xml.find("</NumValues>\n", last) + 13 - last);
     ASSERT_EQ(CheckExport(xml, marks_).size(), 1U);
     EXPECT_EQ(CheckExport(xml, marks_)[0].text, "A value of the record is not in the file");
+}
+
+/// The same of a mixture.
+class ClosingCheckOfMixtures : public MixtureExportFixture {};
+
+TEST_F(ClosingCheckOfMixtures, ConstantsAndCompoundsAreThoseOfTheSystem) {
+    Read(kBinary + kHeader + "^1 1 1 T C DIR 1 Y L G & P 101.325 X1 S & & & & & &\n" +
+         "^d 0.0190 95.5 &\n");
+    const ExportedDocument exported = ExportDocument({2026, 1, 5});
+    const auto found = [&](const std::string& from, const std::string& to) {
+        const std::vector<XmlMark> marks = {{1, set.get()}};
+        std::string told;
+        for (const ExportFinding& finding : CheckExport(Replace(exported.xml, from, to), marks))
+            told += finding.text;
+        return told;
+    };
+    EXPECT_EQ(found("", ""), "");
+    EXPECT_EQ(found(">101.325<", ">1.01325<"),
+              "nConstraintValue reads 1.01325 where the record says 101.325");
+    EXPECT_EQ(found("368.65", "95.500"), "nPropValue reads 95.500 where the record says 368.65");
+    const std::string variable = "</VariableType>\n\t\t\t\t<RegNum>\n\t\t\t\t\t<nOrgNum>";
+    EXPECT_EQ(found(variable + "1", variable + "3"),
+              "nOrgNum 3 stands for no component of these data");
 }
 
 } // namespace vexora::test

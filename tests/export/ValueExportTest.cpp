@@ -43,6 +43,7 @@ TEST_F(ValueExport, AValueByItselfIsWrittenWithAllItsStatements) {
                    "^z 1 TC S 1 L G & 647.096 0.1 0.05 3\n"
                    "^X 0 TC L + 1 95 0.10 + 1 0.05 3 + 95 1% + A 68 + 0.01 cubic 0.2\n"),
               R"(<PureOrMixtureData>
+	<nPureOrMixtureDataNumber>1</nPureOrMixtureDataNumber>
 	<Component>
 		<RegNum>
 			<nOrgNum>1</nOrgNum>

@@ -4,6 +4,7 @@
 
 #include "chem/clsProperty.h"
 #include "entry/RowChecks.h"
+#include "export/DataHead.h"
 #include "export/SetRows.h"
 #include "export/XmlWriter.h"
 #include "grid/TableEditor.h"
@@ -49,11 +50,12 @@ public:
     const Record* Owner() const override { return nullptr; }
     std::shared_ptr<DataSet> Copy() const override { return std::make_shared<TiedSet>(*this); }
     void ExportAll(XmlWriter& xml) const override {
+        const DataSubject subject = SubjectOf(*this, {});
         SetRows rows(*this);
-        ASSERT_EQ(rows.Fault("VolumetricProp"), "");
+        ASSERT_EQ(rows.Fault(subject), "");
         xml.Open("PureOrMixtureData");
-        rows.ExportVariables(xml);
-        rows.ExportRows(xml);
+        rows.ExportVariables(xml, subject);
+        rows.ExportRows(xml, subject);
         xml.Close();
     }
     std::string Key() const override { return "3" + PRPCODE + PRPSETNO; }
@@ -271,7 +273,7 @@ TEST_F(AnotherSet, LeavesByTheMolarMassOfEachRowAndWithoutRowsThatHaveNone) {
         EXPECT_NE(xml.Text().find(element), std::string::npos) << element;
     EXPECT_EQ(xml.Text().find("<nVarValue>2.0<"), std::string::npos);
     set.PROPERTY_UNIT = "z";
-    EXPECT_EQ(SetRows(set).Fault("VolumetricProp"), "Invalid conversion factor");
+    EXPECT_EQ(SetRows(set).Fault(SubjectOf(set, {})), "Invalid conversion factor");
 }
 
 TEST_F(AnotherSet, AnyNumberOfQuantitiesHasItsColumns) {
