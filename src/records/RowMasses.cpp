@@ -7,10 +7,6 @@
 
 namespace vexora {
 
-void SetMixture(clsMMM& calculator, const clsM& mixture) {
-    calculator.SetComponents(mixture.MixType, mixture.MolarMasses());
-}
-
 RowMasses::RowMasses(const DataSet& set) : set_(set), mixed_(dynamic_cast<const clsMV*>(&set)) {
     if (!mixed_ || !mixed_->Parent) return;
     SetMixture(calculator_, *mixed_->Parent);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/DataSet.h"
+#include "reference/Numbers.h"
 
 namespace vexora::test {
 
@@ -42,7 +43,13 @@ public:
     const std::string& PhaseFor(int n) const override { return At(n).phase; }
     std::vector<std::string> Phases() const override { return phases; }
     bool HasTies() const override { return areTied; }
-    std::vector<SetConstant> Constants() const override { return constants; }
+    std::vector<HeldConstant> Constants() const override {
+        std::vector<HeldConstant> held;
+        for (const SetConstant& same : constants)
+            held.push_back({nVar + static_cast<int>(held.size()) + 1, same.code,
+                            NumberText(same.value), "S", same.phase});
+        return held;
+    }
     SetSurroundings Surroundings() const override { return around; }
     double MolarMass(const clsData&) const override { return 0; }
     const Record* Owner() const override { return nullptr; }
