@@ -70,6 +70,8 @@ void FormAudit::Settle() {
 void FormAudit::LookAt(FormWindow& window) {
     const auto names = ui::Forms::Current().KnownNames();
     Known.insert(names.begin(), names.end());
+    // Controls that have just been shown or hidden wait for their place.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     window.grab(); // brings all to its place
     if (window.isActiveWindow() && !QApplication::focusWidget())
         Fault(window, window, "has the keyboard nowhere");
