@@ -82,18 +82,15 @@ bool ExportedConstant::HasNumber() const {
 
 std::vector<ExportedConstant> ConstantsOf(const DataSet& set) {
     std::vector<ExportedConstant> constants;
-    for (const HeldConstant& held : set.Constants()) {
+    const std::vector<HeldConstant> ofDefinition = set.Constants();
+    for (const HeldConstant& held : ofDefinition) {
         ExportUnit unit{set.Conversion(held.item), true};
         unit.wavelength = held.code == "WL";
         constants.push_back({held.code, held.value, held.phase, unit, StatementsAbout(set, held)});
     }
-    const std::size_t ofDefinition = constants.size();
     for (const std::string code : {"T", "P", "WL", "WF"}) {
-        const auto end = constants.begin() + static_cast<std::ptrdiff_t>(ofDefinition);
-        if (std::find_if(constants.begin(), end, [&](const ExportedConstant& constant) {
-                return constant.code == code;
-            }) != end)
-            continue;
+        const auto held = std::ranges::find(ofDefinition, code, &HeldConstant::code);
+        if (held != ofDefinition.end()) continue;
         std::string value = set.DataSet::ConstantOf(code);
         if (value.empty()) continue;
         constants.push_back(OfComment(code, std::move(value)));
