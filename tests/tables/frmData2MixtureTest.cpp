@@ -10,7 +10,7 @@ class BoilingSet : public clsTwo {
 public:
     SetSurroundings around;
     std::string_view DataContext() const override { return "Bin"; }
-    std::vector<SetConstant> Constants() const override { return {{"P", "", 101.325}}; }
+    std::vector<HeldConstant> Constants() const override { return {{2, "P", "101.325", "S", ""}}; }
     SetSurroundings Surroundings() const override { return around; }
     std::shared_ptr<DataSet> Copy() const override { return std::make_shared<BoilingSet>(*this); }
 };
