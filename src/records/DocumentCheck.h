@@ -39,9 +39,9 @@ std::string NotKeptText(const PassedOver& passedOver);
 /// Goes through the open document without asking or changing anything: lines that were passed over,
 /// gaps in the citation, what a save would drop or ask about, descriptions that cannot be taken
 /// apart, codes that the tables do not hold, numbers that are none, values that are impossible or
-/// suspicious, states and uncertainties that nobody stated, points that stand twice. What is said
-/// of the rows of a set names the first of them. In the order of the record file, what was passed
-/// over first.
+/// suspicious, states and uncertainties that nobody stated, points that stand twice, and advice on
+/// mixtures. What is said of the rows of a set names the first of them. In the order of the record
+/// file, what was passed over first.
 std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver = {});
 
 } // namespace vexora

@@ -1,6 +1,7 @@
 #include "records/RecordChecks.h"
 
 #include "chem/PropertyLimits.h"
+#include "records/MixtureAdvice.h"
 #include "records/MixtureWords.h"
 #include "records/StatedUncertainty.h"
 #include "records/clsL.h"
@@ -40,12 +41,16 @@ void CheckConstraints(const clsMV& set, const std::string& name, Remarks& remark
                           ": this is no number: " + set.CNVALUE(n));
     }
     for (const HeldConstant& constant : set.Constants()) {
-        const std::string system = set.ConstantOf(constant.code);
-        if (system.empty() || IsPlausibleValue(constant.code, Val(system))) continue;
-        const std::string words = name + ", " + QuantityInWords(set, constant.item) + ": value ";
-        const bool isValid = IsValidValue(constant.code, Val(system));
-        isValid ? remarks.Warn(words + system + " is suspicious")
-                : remarks.Error(words + system + " is not valid");
+        // Of two contents of one component each is looked at, so none is asked for by its code.
+        const UnitConversion entered = set.Conversion(constant.item);
+        if (!IsNumeric(constant.value) || !entered.IsPossible()) continue;
+        const double system = entered.Absolute(Val(constant.value));
+        const std::string words =
+            name + ", " + QuantityInWords(set, constant.item) + ": value " + NumberText(system);
+        if (!IsValidValue(constant.code, system))
+            remarks.Error(words + " is not valid");
+        else if (!IsPlausibleValue(constant.code, system))
+            remarks.Warn(words + " is suspicious");
     }
 }
 
@@ -60,6 +65,9 @@ void CheckMixture(const clsM& mixture, Findings& findings) {
     if (!mixture.HasData())
         remarks.Warn("Mixture " + mixture.ShowKey() + " has no data and will not be saved");
     CheckEqualPoints(mixture, findings);
+    AdviseOnTiedFractions(mixture, findings);
+    AdviseOnPureEnds(mixture, findings);
+    AdviseOnBoilingCurves(mixture, findings);
 }
 
 void CheckMixtureValue(const clsMZ& value, Findings& findings) {
@@ -87,6 +95,8 @@ void CheckMixtureSet(const clsMV& set, Findings& findings) {
     if (!set.recData.IsEmpty() && !StatesUncertainty(set))
         remarks.Hint(name + ": no uncertainty is stated");
     CheckRows(set, name, remarks);
+    AdviseOnFractions(set, findings);
+    AdviseOnExcess(set, findings);
 }
 
 } // namespace vexora

@@ -18,16 +18,6 @@ namespace vexora {
 
 namespace {
 
-/// A number as a key: what differs only by the rounding of a conversion is equal.
-std::string KeyOfNumber(double value) {
-    constexpr int bits = 36; // some ten digits
-    int exponent = 0;
-    const double rounded = std::round(std::ldexp(std::frexp(value, &exponent), bits));
-    const double whole = rounded == 0 ? 0 : std::ldexp(rounded, exponent);
-    const auto bytes = std::bit_cast<std::array<char, sizeof whole>>(whole);
-    return {bytes.begin(), bytes.end()};
-}
-
 /// The points of a set as texts that are equal when the points are: the value, and each quantity of
 /// the state by its code, one that is constant among them.
 class PointKeys {
@@ -169,6 +159,15 @@ private:
 };
 
 } // namespace
+
+std::string KeyOfNumber(double value) {
+    constexpr int bits = 36; // some ten digits
+    int exponent = 0;
+    const double rounded = std::round(std::ldexp(std::frexp(value, &exponent), bits));
+    const double whole = rounded == 0 ? 0 : std::ldexp(rounded, exponent);
+    const auto bytes = std::bit_cast<std::array<char, sizeof whole>>(whole);
+    return {bytes.begin(), bytes.end()};
+}
 
 void CheckEqualValues(const clsS& sample, Findings& findings) {
     ValueKeys keys;

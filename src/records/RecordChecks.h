@@ -98,6 +98,8 @@ void CheckFigures(const SingleValue& value, const std::string& name, Remarks& re
 /// Definition of results, statements, units and rows, once the line of the set has been checked.
 void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks);
 
+/// A number as a key: what differs only by the rounding of a conversion is equal.
+std::string KeyOfNumber(double value);
 /// Names the sets right below the owner that repeat points of a set before them: the same property
 /// of the same phases, at the same state with the same value, in whatever units.
 void CheckEqualPoints(const Record& owner, Findings& findings);
