@@ -47,7 +47,7 @@ void frmMixt::ArrangeControls() {
     using namespace ui;
     Arrangement = Column({Field("Component 1:", cmbComp1), Field("Component 2:", cmbComp2),
                           Field("Component 3:", cmbComp3), ButtonRow({cmdAccept, cmdCancel})});
-    PreferredColumns = 64;
+    PreferredColumns = 80;
 }
 
 void frmMixt::WireEvents() {

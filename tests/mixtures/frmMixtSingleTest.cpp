@@ -2,6 +2,7 @@
 
 #include "entry/PhaseLists.h"
 #include "entry/frmProperty.h"
+#include "entry/frmUnc.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
@@ -271,6 +272,37 @@ TEST_F(frmMixtSingleTest, NewMakesASampleOnTheWay) {
         forms.DropClosed();
         EXPECT_EQ(binary->recMZ.Item(1)->SMPNM1, number);
     }
+}
+
+TEST_F(frmMixtSingleTest, WhatIsStatedStandsInTheUnitOfItsValueAndGoesWithIt) {
+    auto& form = Choose(*binary, "Azeotropic temperature", "C");
+    Pick(form.lstPhase(0), "Liquid");
+    desktop.OnModal([](ui::Form& shown) {
+        auto& statements = dynamic_cast<frmUnc&>(shown);
+        statements.chkUnc(0).Value(true);
+        statements.txtUValue(0).UserReplaceAll("0.05");
+        statements.txtULevel(0).UserReplaceAll("95");
+        statements.cmdOK.UserClick();
+    });
+    form.cmdUnc.UserClick();
+    forms.DropClosed();
+    for (const char* value : {"78.15", "78.2"}) {
+        form.txtValue.UserReplaceAll(value);
+        form.cmdAccept.UserClick();
+    }
+    form.cmdFinish.UserClick();
+    forms.DropClosed();
+    const auto behindHeader = [this](std::size_t position) {
+        const std::string text = Lines(*binary->recMZ.Item(position));
+        return text.substr(text.find('\n') + 1);
+    };
+    const std::string stated = behindHeader(1);
+    EXPECT_EQ(stated, "^z 1 1 TA C 1 L & & & 78.15 & & &\n^M 0\n"
+                      "^X 0 TA L - & & & - & & & + 95 0.05 - & & - & & &\n");
+    EXPECT_EQ(behindHeader(2), "^z 1 1 TA C 2 L & & & 78.2 & & &\n^M 0\n");
+    Edit(binary->recMZ.Item(1)).cmdAccept.UserClick();
+    EndEdit();
+    EXPECT_EQ(behindHeader(1), stated);
 }
 
 TEST_F(frmMixtSingleTest, TheAverageGoesByTheCompositionOfTheState) {
