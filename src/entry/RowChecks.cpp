@@ -22,6 +22,8 @@ bool IsWhole(std::string_view text) {
 bool IsGoodStatement(const TableColumn& column, const std::string& cell) {
     if (cell.empty()) return true;
     if (column.kind == Kind::KVO) return IsNumeric(cell) || cell == "Error";
+    // Rows of other sets bear the same number, digit by digit.
+    if (column.kind == Kind::Tie) return cell.size() <= 9 && IsWhole(cell);
     // More than 99 digits nobody has measured; a record keeps the count in a byte.
     if (column.kind == Kind::Digits) return cell.size() <= 2 && IsWhole(cell);
     const bool mayBePercent = column.kind != Kind::Repetitions;
@@ -36,15 +38,14 @@ std::string ValueFault(const std::string& cell) {
     return {};
 }
 
-/// Item 0 is the property, the head of the chain; null where the chain is shorter.
-const clsProperty* ItemOf(const clsProperty& chain, int item) {
-    const clsProperty* found = &chain;
-    for (int i = 0; i < item && found; ++i)
-        found = found->isLast ? nullptr : found->NextItem.get();
-    return found;
-}
-
 } // namespace
+
+const clsProperty* ItemOf(const clsProperty& chain, int n) {
+    const clsProperty* item = &chain;
+    for (; item && n > 0; --n)
+        item = item->isLast ? nullptr : item->NextItem.get();
+    return item;
+}
 
 std::string CleanCell(const TableColumn& column, const std::string& cell) {
     if (column.IsStatement() && cell.ends_with('%'))
@@ -75,7 +76,11 @@ std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns,
     for (int column = 0; column < columns.Count(); ++column) {
         if (columns[column].kind == Kind::Value || IsGoodStatement(columns[column], cell(column)))
             continue;
-        findings.push_back({row, column, "Invalid number\nCorrect it or clear the cell"});
+        const bool isTie = columns[column].kind == Kind::Tie && IsNumeric(cell(column));
+        findings.push_back({row, column,
+                            isTie ? "A tie line is numbered by whole numbers\n"
+                                    "Correct it or clear the cell"
+                                  : "Invalid number\nCorrect it or clear the cell"});
     }
     for (int column = columns.Count(); column < grid.Columns(); ++column) {
         if (grid.Cell(row, column).empty()) continue;

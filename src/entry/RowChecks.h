@@ -11,6 +11,8 @@ namespace vexora {
 
 class clsProperty;
 
+/// The item n of a chain from its head, the property, which is 0; null where the chain is shorter.
+const clsProperty* ItemOf(const clsProperty& chain, int n);
 /// A cell without the blanks and commas of pasting, a "%" at its end kept.
 /// A cell keeps the text that was typed; this is how it is read.
 std::string CleanCell(const TableColumn& column, const std::string& cell);

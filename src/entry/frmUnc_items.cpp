@@ -1,6 +1,7 @@
 #include "entry/frmUnc.h"
 
 #include "chem/clsProperty.h"
+#include "entry/RowChecks.h"
 #include "globals/KVOGlobal.h"
 #include "records/PropertyChain.h"
 #include "reference/Numbers.h"
@@ -33,9 +34,8 @@ std::string Statement(const ui::TextBox& box, const ui::CheckBox& perCent) {
 
 /// The unit of a quantity in the chain, the head being item 0.
 std::string UnitInChain(int i) {
-    const clsProperty* item = Globals().CurrentProperty.get();
-    for (; item && i > 0; --i)
-        item = item->isLast ? nullptr : item->NextItem.get();
+    const auto& chain = Globals().CurrentProperty;
+    const clsProperty* const item = chain ? ItemOf(*chain, i) : nullptr;
     return item ? item->ConversionCode : std::string();
 }
 
@@ -112,12 +112,9 @@ void frmUnc::ShowItem(const clsX& item) {
 
 void frmUnc::ShowCaption(const clsX& item) {
     ui::Frame& frame = Frame(item.N);
-    if (item.Constr) {
-        frame.Caption("Constraint");
-        frame.ToolTip(item.Name + ", " + item.Unit);
-        return;
-    }
-    frame.Caption(frame.Caption() + ": " + item.Name + " (" + item.Unit + ")");
+    // A set may have several constraints, which are told apart by their names.
+    const std::string kind = item.Constr ? "Constraint" : frame.Caption();
+    frame.Caption(kind + ": " + item.Name + " (" + item.Unit + ")");
 }
 
 void frmUnc::ShowPropertyItem(const clsX& item) {

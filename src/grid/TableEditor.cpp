@@ -48,9 +48,9 @@ void TableEditor::WireTable() {
     cell_.OnKey = [this](ui::Key& key) { CellKeys(key); };
     cell_.OnLostFocus = [this] { EndTyping(); };
     history_.OnChange = [this] {
-        // Hints cost most and depend on the values alone: not on uncertainties beside them.
+        // Hints cost most and do not depend on all columns: not on uncertainties beside values.
         const bool valuesChanged = std::ranges::any_of(
-            rules_.ValueColumns(), [this](int column) { return history_.Concerns(column); });
+            rules_.HintColumns(), [this](int column) { return history_.Concerns(column); });
         findings_.FindAgain(history_.FirstRow(), history_.LastRow(), valuesChanged);
         blocks_.TellAgain();
     };

@@ -35,9 +35,10 @@ public:
     /// the row has changed.
     /// The row counts as in the grid, heads included.
     virtual std::vector<Finding> FindingsOf(int row) const = 0;
-    /// What only the values of the whole table show of its rows; it is asked again when any of them
-    /// has changed.
+    /// What only the whole table shows of its rows; it is asked again when any of these columns has
+    /// changed.
     virtual std::vector<Finding> Hints() const { return {}; }
+    virtual std::vector<int> HintColumns() const { return ValueColumns(); }
     /// Adds to a step what follows from the change of a cell, which held another text before.
     /// Row, column, the text before, and the columns that are typed or pasted into. What it adds
     /// does not make it called again.

@@ -77,4 +77,12 @@ std::string QuantityInWords(const clsMV& set, int n) {
     return FirstSmall(words) + (saysPhase ? InPhase(phase) : std::string());
 }
 
+std::string NameOnForms(const clsMV& set, std::string_view code, const std::string& name,
+                        std::string_view phase) {
+    // Temperature and pressure are those of all phases together.
+    const bool isOfPhase = code != "T" && code != "P" && !IsBlankField(phase);
+    const bool saysPhase = isOfPhase && set.nPhases() > 1;
+    return WithComponents(saysPhase ? name + ", " + PhaseName(phase) : name, set.Parent);
+}
+
 } // namespace vexora

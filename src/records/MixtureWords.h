@@ -23,6 +23,10 @@ std::string VariableInWords(const clsMV& set, std::string_view code);
 /// set has several phases or the quantity is a composition: "mole fraction of ethanol in the
 /// liquid". Begins with a small letter.
 std::string QuantityInWords(const clsMV& set, int n);
+/// How a quantity of a set reads on forms, by its code, its name in the tables and the phase in
+/// which it is meant: "Mole fraction of ethanol, Gas". The phase is said where there are several.
+std::string NameOnForms(const clsMV& set, std::string_view code, const std::string& name,
+                        std::string_view phase);
 /// A text with its first letter small, but for the names of persons; and with a capital one.
 std::string FirstSmall(std::string text);
 std::string FirstCapital(std::string text);

@@ -3,8 +3,10 @@
 #include "chem/CommentTags.h"
 #include "chem/clsProperty.h"
 #include "records/DataSet.h"
+#include "records/MixtureWords.h"
 #include "records/SingleValue.h"
 #include "records/UnitConversion.h"
+#include "records/clsMV.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/UnitText.h"
@@ -23,26 +25,49 @@ std::string WithUnit(const std::string& name, const std::string& unit) {
     return unit.empty() || unit == "1" ? name : name + ", " + unit;
 }
 
-std::shared_ptr<clsProperty> HeadOf(const std::string& code, const std::string& unit,
-                                    double factor) {
-    auto head = std::make_shared<clsProperty>();
-    head->PropertyCode = code;
-    const auto row = FindProperty(code);
-    head->ConversionCode = CodeInField(unit, row ? row->Unit : "");
-    head->Factor = factor;
-    head->Relation = "A";
-    // A code that no table has reads as itself.
-    head->Name = row ? WithUnit(row->Property, row->Unit) : code;
-    return head;
+/// How a quantity reads, and its system unit; a code that no table has reads as itself.
+struct Label {
+    std::string name, unit;
+};
+
+Label PropertyLabel(const std::string& code, const PropertyRow* row) {
+    return row ? Label{row->Property, row->Unit} : Label{code, {}};
 }
 
-std::shared_ptr<clsProperty> VariableItem(const std::string& code, const std::string& unit) {
+Label VariableLabel(const std::string& code) {
+    const VariableRow* const row = FindVariable(code);
+    return row ? Label{row->IndVariable, row->Unit} : Label{code, {}};
+}
+
+Label LabelOf(const SingleValue& value, int n) {
+    return n == 0 ? PropertyLabel(value.PRPCODE, FindProperty(value.PRPCODE))
+                  : VariableLabel(value.VARIABLE(n));
+}
+
+/// The set as one of a mixture, whose quantities are named by its components and phases; null for
+/// another.
+const clsMV* MixtureOf(const DataSet& set) {
+    return dynamic_cast<const clsMV*>(&set);
+}
+
+/// Of the property (n = 0) or a variable of a set, as its system and its phases name it.
+Label LabelOf(const DataSet& set, int n) {
+    const std::string& code = n == 0 ? set.PRPCODE : set.VARIABLE(n);
+    const clsMV* const mixture = MixtureOf(set);
+    const std::string context = mixture ? mixture->Context() : std::string();
+    Label label = n == 0 ? PropertyLabel(code, FindProperty(code, set.DataContext(), context))
+                         : VariableLabel(code);
+    if (mixture) label.name = NameOnForms(*mixture, code, label.name, set.PhaseFor(n));
+    return label;
+}
+
+std::shared_ptr<clsProperty> ItemOf(const std::string& code, const Label& label,
+                                    const std::string& unit) {
     auto item = std::make_shared<clsProperty>();
     item->PropertyCode = code;
-    const auto row = FindVariable(code);
-    item->ConversionCode = CodeInField(unit, row ? row->Unit : "");
+    item->ConversionCode = CodeInField(unit, label.unit);
     item->Relation = "A";
-    item->Name = row ? WithUnit(row->IndVariable, row->Unit) : code;
+    item->Name = WithUnit(label.name, label.unit);
     return item;
 }
 
@@ -59,25 +84,48 @@ void TakePrecision(clsProperty& item, std::string_view comment, bool inSystemUni
     if (inSystemUnit) PrecisionInEnteredUnit(item, molarMass);
 }
 
-void NameProperty(clsX& item, const std::string& code, const std::string& unit, double factor) {
-    item.N = 0;
+/// The item n of a set or a single value.
+void Name(clsX& item, int n, const std::string& code, const Label& label, const std::string& unit,
+          double factor = 0) {
+    item.N = n;
+    if (n > 0) item.Constr = false;
     item.PRPCODE = code;
-    const auto row = FindProperty(code);
-    item.Name = row ? row->Property : code;
-    item.Unit = row ? UnitText(row->Unit, unit, factor) : std::string();
+    item.Name = label.name;
+    item.Unit = label.unit.empty() ? std::string() : UnitText(label.unit, unit, factor);
 }
 
-void NameVariable(clsX& item, int n, const std::string& code, const std::string& unit) {
-    item.N = n;
-    item.Constr = false;
-    item.PRPCODE = code;
-    const auto row = FindVariable(code);
-    item.Name = row ? row->IndVariable : code;
-    item.Unit = row ? UnitText(row->Unit, unit, 0) : std::string();
+/// The property (n = 0) or a variable of a set, with its unit in the paper or in the system.
+void NameItem(const DataSet& set, clsX& item, int n, bool original) {
+    if (n == 0)
+        Name(item, n, set.PRPCODE, LabelOf(set, n), original ? set.PROPERTY_UNIT : "S",
+             original ? set.Factor : 0);
+    else
+        Name(item, n, set.VARIABLE(n), LabelOf(set, n), original ? set.VAR_UNIT(n) : "S");
+    // What is stated already names its phase as it was read.
+    if (MixtureOf(set) && !item.IsKept()) item.PHASE = set.PhaseFor(n);
+}
+
+/// The definition says what is constant, in which phase and unit. The others have no quantity.
+void NameHeldConstants(DataSet& set, const clsMV& mixture) {
+    const std::span<clsX> places =
+        std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
+    for (clsX& item : places)
+        item.Name.clear();
+    for (const HeldConstant& constant : set.Constants()) {
+        clsX& item = set.UX.at(static_cast<std::size_t>(constant.item));
+        // A critical curve has no value that could be uncertain.
+        if (constant.value.empty() && !item.IsKept()) continue;
+        Label label = VariableLabel(constant.code);
+        label.name = NameOnForms(mixture, constant.code, label.name, constant.phase);
+        Name(item, constant.item, constant.code, label, constant.unit);
+        item.Constr = true;
+        if (!item.IsKept()) item.PHASE = constant.phase;
+    }
 }
 
 /// What stays the same for all rows has its statements behind those of the variables.
 void NameConstraints(DataSet& set) {
+    if (const clsMV* const mixture = MixtureOf(set)) return NameHeldConstants(set, *mixture);
     const std::span<clsX> places =
         std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
     const auto take = [&set](clsX& item, const std::string& code) {
@@ -146,13 +194,15 @@ std::shared_ptr<clsProperty> BuildChain(const DataSet& set) {
 std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original) {
     const std::string& comment = set.Header.DATACOMMENT;
     // Rows in system units need no factor: the code stays in the set as a memory of the paper.
-    auto head = HeadOf(set.PRPCODE, original ? set.PROPERTY_UNIT : "S", original ? set.Factor : 0);
+    auto head = ItemOf(set.PRPCODE, LabelOf(set, 0), original ? set.PROPERTY_UNIT : "S");
+    head->Factor = original ? set.Factor : 0;
     head->Relation = set.Relation();
     TakeMasters(*head, set.UX[0]);
     TakePrecision(*head, comment, set.commentInSystemUnits, set.MolarMass());
     clsProperty* last = head.get();
     for (int n = 1; n <= set.nVar; ++n) {
-        last = &Append(*last, VariableItem(set.VARIABLE(n), original ? set.VAR_UNIT(n) : "S"));
+        last = &Append(*last,
+                       ItemOf(set.VARIABLE(n), LabelOf(set, n), original ? set.VAR_UNIT(n) : "S"));
         TakeMasters(*last, set.UX[static_cast<std::size_t>(n)]);
         TakePrecision(*last, comment, set.commentInSystemUnits);
     }
@@ -162,13 +212,14 @@ std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original) {
 std::shared_ptr<clsProperty> BuildChain(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     const std::string& comment = value.Header.DATACOMMENT;
-    auto head =
-        HeadOf(value.PRPCODE, original ? value.PROPERTY_UNIT : "S", original ? value.Factor : 0);
+    auto head = ItemOf(value.PRPCODE, LabelOf(value, 0), original ? value.PROPERTY_UNIT : "S");
+    head->Factor = original ? value.Factor : 0;
     TakeMasters(*head, value.Statements(0));
     TakePrecision(*head, comment, value.commentInSystemUnits, value.MolarMass());
     clsProperty* last = head.get();
     for (int n = 1; n <= value.VariableCount(); ++n) {
-        last = &Append(*last, VariableItem(value.VARIABLE(n), original ? value.VAR_UNIT(n) : "S"));
+        last = &Append(*last, ItemOf(value.VARIABLE(n), LabelOf(value, n),
+                                     original ? value.VAR_UNIT(n) : "S"));
         TakeMasters(*last, value.Statements(n));
         TakePrecision(*last, comment, value.commentInSystemUnits);
     }
@@ -180,26 +231,16 @@ void NameStatements(DataSet& set) {
 }
 
 void NameStatements(DataSet& set, bool original) {
-    NameProperty(set.UX[0], set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
-                 original ? set.Factor : 0);
-    for (int n = 1; n <= set.nVar; ++n) {
-        NameVariable(set.UX[static_cast<std::size_t>(n)], n, set.VARIABLE(n),
-                     original ? set.VAR_UNIT(n) : "S");
-    }
+    for (int n = 0; n <= set.nVar; ++n)
+        NameItem(set, set.UX[static_cast<std::size_t>(n)], n, original);
     NameConstraints(set);
 }
 
 std::vector<Quantity> NamedQuantities(const DataSet& set) {
     std::vector<Quantity> quantities = set.Quantities();
-    const bool original = set.isOriginalUnit;
     for (Quantity& quantity : quantities) {
         clsX& item = quantity.statements;
-        if (quantity.isProperty)
-            NameProperty(item, set.PRPCODE, original ? set.PROPERTY_UNIT : "S",
-                         original ? set.Factor : 0);
-        else
-            NameVariable(item, quantity.item, set.VARIABLE(quantity.item),
-                         original ? set.VAR_UNIT(quantity.item) : "S");
+        NameItem(set, item, quantity.item, set.isOriginalUnit);
         quantity.name = item.Name;
         quantity.unit = item.Unit;
     }
@@ -209,11 +250,12 @@ std::vector<Quantity> NamedQuantities(const DataSet& set) {
 std::vector<clsX> NamedStatements(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     std::vector<clsX> items = {value.Statements(0)};
-    NameProperty(items[0], value.PRPCODE, original ? value.PROPERTY_UNIT : "S",
-                 original ? value.Factor : 0);
+    Name(items[0], 0, value.PRPCODE, LabelOf(value, 0), original ? value.PROPERTY_UNIT : "S",
+         original ? value.Factor : 0);
     for (int n = 1; n <= value.VariableCount(); ++n) {
         items.push_back(value.Statements(n));
-        NameVariable(items.back(), n, value.VARIABLE(n), original ? value.VAR_UNIT(n) : "S");
+        Name(items.back(), n, value.VARIABLE(n), LabelOf(value, n),
+             original ? value.VAR_UNIT(n) : "S");
     }
     return items;
 }

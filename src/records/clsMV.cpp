@@ -81,7 +81,7 @@ const Record* clsMV::Owner() const {
 }
 
 bool clsMV::HasTies() const {
-    return nPhases() > (MixType == 2 ? 2 : 1);
+    return nPhases() > (MixType == 2 ? 2 : 1) || IsTied();
 }
 
 bool clsMV::IsTied() const {

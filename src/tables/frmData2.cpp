@@ -72,7 +72,7 @@ void frmData2::Load() {
     cmdView.Enabled(set_ != nullptr && canPlot);
     cmdView.ToolTip(canPlot ? "" : "Plots come with a later edition");
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
-    cmdSave.Enabled(set_ != nullptr);
+    cmdSave.Enabled(set_ != nullptr && !isMixed_);
     if (!set_) mnuSystemUnits.Enabled(false);
     if (Globals().FirstRun) ui::Say(FirstRunText);
 }

@@ -2,20 +2,20 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "chem/clsProperty.h"
+#include "entry/FractionSums.h"
 #include "entry/RowChecks.h"
 #include "grid/TableEditor.h"
 #include "records/DataSet.h"
-#include "records/clsX.h"
+#include "records/RowMasses.h"
 #include "ui/Form.h"
 
 namespace vexora {
 
-class clsProperty;
-class DataSet;
 struct PlotTable;
 
 /// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
@@ -73,6 +73,9 @@ public:
     std::string TableText() const { return table_.Blocks().Text(); }
 
 private:
+    static constexpr const char* NoMolarMass = "Please revise the way of property formulation\n"
+                                               "Unable to calculate average molar mass";
+
     void ArrangeControls();
     void WireEvents();
     void WireMenus();
@@ -83,6 +86,7 @@ private:
     std::string ColumnName(int column) const override;
     std::vector<Finding> FindingsOf(int row) const override;
     std::vector<Finding> Hints() const override;
+    std::vector<int> HintColumns() const override;
     void Follow(TableEdit& edit, int row, int column, const std::string& before,
                 const EnteredColumns& entered) const override;
     bool MayGrowFor(int columns) const override;
@@ -103,7 +107,8 @@ private:
     bool IsChanged() const;
     std::string CaptionText() const;
     std::string ColumnsText() const;
-    std::shared_ptr<DataSet> Set() const { return set_; }
+    const DataSet& SetOfCells() const { return adjusted_ ? *adjusted_ : *set_; }
+    void NameQuantities();
 
     // The units of the cells (frmData2_units.cpp).
     void AdjustUnits();
@@ -112,10 +117,15 @@ private:
                    const RowList& rows);
     void ShowUnits();
 
-    std::vector<int> FarRowsOfTable() const;
+    // What only the whole table tells (frmData2_look.cpp).
+    struct Points;
+    Points WholeRows() const;
+    std::string RowNumber(int row) const;
+    void HintAtFarRows(const Points& points, std::vector<Finding>& hints) const;
+    void HintAtRepeatedRows(const Points& points, std::vector<Finding>& hints) const;
+    void HintAtRepeatedTies(std::vector<Finding>& hints) const;
 
-    // The statements of the set beside the entries of its rows
-    // (frmData2_statements.cpp).
+    // The statements of the set beside the entries of its rows (frmData2_statements.cpp).
     void Assign();
     bool AssignAccepted();
     bool MayLoseColumns() const;
@@ -130,6 +140,8 @@ private:
     void TakeSelectedRow();
     void DropIdleMarks();
     bool MakeRoom(BlockToPut& put);
+    void PassTies(BlockToPut& put) const;
+    bool MayBeTwoDimensional(const PastedTable& block) const;
     std::vector<int> ItemsWithoutUncertainty(int from) const;
 
     // Checks, evaluation and storing (frmData2_accept.cpp).
@@ -148,6 +160,8 @@ private:
     std::string VariablesOf(int row) const;
     clsData NewRow(int row, const clsData* old) const;
     double MolarMassOf(int row) const;
+    int RowWithoutMolarMass() const;
+    void TellOfMolarMass();
 
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
     void View();
@@ -164,8 +178,12 @@ private:
     std::string firstText_;             // of the table, to tell whether it has changed
     RowList rows_;                      // as they stood at the beginning
     std::shared_ptr<clsProperty> chain_;
-    double molarMass_ = 0;  // [g/mol] that all rows go by, unless it follows their composition
+    std::vector<FractionSum> sums_;           // of the compositions of a mixture
+    mutable std::optional<RowMasses> masses_; // made once for the set
+    double molarMass_ = 0; // [g/mol] that all rows go by, unless it follows their composition
+    bool toldOfMolarMass_ = false;
     bool original_ = true;  // cells stand in the units of the paper
+    bool isMixed_ = false;  // rows in units of both kinds, of which those of the paper stay
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
     TableColumns columns_;

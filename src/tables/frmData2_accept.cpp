@@ -19,6 +19,8 @@ namespace {
 
 using Kind = TableColumn::Kind;
 
+constexpr const char* AsTyped = "as typed"; // a relation without conversion
+
 /// A cell of a column of per cent is that share of the row's value.
 std::string AsFigure(const TableColumn& column, const std::string& cell, double value) {
     if (!column.percent || !IsNumeric(cell)) return cell;
@@ -67,19 +69,38 @@ bool frmData2::CheckUnits() {
         return false;
     }
     if (chain_->Factor > 0 || !IsMassBased(chain_->ConversionCode)) return true;
-    bool known = molarMass_ > 0;
-    if (set_->MolarMassFollowsRows()) {
-        known = true;
-        for (int row = tblData.FixedRows(); row < tblData.Rows() && known; ++row)
-            known = MolarMassOf(row) > 0 || IsEmptyRow(tblData, columns_, row);
-    }
+    // In a mixture a row without one is kept as it was typed.
+    const bool known = molarMass_ > 0 || set_->MolarMassFollowsRows();
     if (!known) ui::Say("Molar mass of the compound is not known");
     return known;
 }
 
-/// [g/mol]; in a mixture that of the row's composition.
+/// [g/mol]; in a mixture that of the row's composition, 0 where no unit goes by it.
 double frmData2::MolarMassOf(int row) const {
-    return set_->MolarMassFollowsRows() ? set_->MolarMass(NewRow(row, nullptr)) : molarMass_;
+    if (!set_->MolarMassFollowsRows()) return molarMass_;
+    if (!original_ || !set_->ConvertsByRow()) return 0;
+    clsData values;
+    values.nVar = static_cast<std::int8_t>(set_->nVar);
+    values.inOriginalUnits = true;
+    for (int n = 0; n <= set_->nVar; ++n)
+        values.Values.at(static_cast<std::size_t>(n)) =
+            NormalizeNumber(tblData.Cell(row, columns_.Find(Kind::Value, n)));
+    return masses_->Of(values);
+}
+
+/// The first row whose composition does not tell the molar mass that its unit goes by; -1 for none.
+int frmData2::RowWithoutMolarMass() const {
+    if (!original_ || !set_->ConvertsByRow()) return -1;
+    for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row)
+        if (!IsEmptyRow(tblData, columns_, row) && MolarMassOf(row) <= 0) return row;
+    return -1;
+}
+
+/// Once for a set: its rows are kept all the same, as they were typed.
+void frmData2::TellOfMolarMass() {
+    if (toldOfMolarMass_ || RowWithoutMolarMass() < 0) return;
+    toldOfMolarMass_ = true;
+    ui::Say(NoMolarMass);
 }
 
 void frmData2::TakeStatements(clsProperty& item, int place, int row) const {
@@ -106,8 +127,20 @@ void frmData2::Calc_unc(int row, bool& ok, const ConfirmValue& confirm) {
         item->Value = item->PRECISION = item->Der = 0;
         TakeStatements(*item, place, row);
     }
-    const std::string result = EvaluateUncertainty(*chain_, MolarMassOf(row), confirm);
     const int figure = columns_.Find(Kind::KVO);
+    const auto sums = CheckFractions(tblData, columns_, row, *chain_, sums_);
+    std::string result;
+    if (std::ranges::any_of(sums, &Finding::isFault)) {
+        ui::Say("Composition error");
+        result = "Error";
+    } else {
+        // Without a molar mass the value has no figure in system units, to which limits apply.
+        const double molarMass = MolarMassOf(row);
+        const std::string relation = chain_->Relation;
+        if (molarMass <= 0 && original_ && set_->ConvertsByRow()) chain_->Relation = AsTyped;
+        result = EvaluateUncertainty(*chain_, molarMass, confirm);
+        chain_->Relation = relation;
+    }
     if (tblData.Cell(row, figure) == "Error" || !result.empty())
         table_.History().Do([&](TableEdit& edit) { edit.Cell(row, figure, result); });
     ok = result.empty() || IsNumeric(result);
@@ -134,6 +167,7 @@ bool frmData2::CheckUnc() {
 
 void frmData2::Save() {
     if (!Check() || !CheckUnits()) return;
+    TellOfMolarMass();
     if (!assigned_ && !AssignAccepted()) return;
     if (!CheckUnc()) return;
     Store();
@@ -153,6 +187,7 @@ void frmData2::Store() {
     DropIdleMarks();
     set_->isOriginalUnit = original_;
     if (adjusted_) {
+        set_->AdjustUnits(); // what the definition holds constant; the rest comes from the table
         set_->Header.DATACOMMENT = adjusted_->Header.DATACOMMENT;
         set_->commentInSystemUnits = true;
     }

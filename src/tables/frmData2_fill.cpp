@@ -9,6 +9,7 @@
 #include "records/DataSet.h"
 #include "records/PropertyChain.h"
 #include "reference/Conversions.h"
+#include "reference/UnitText.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -33,7 +34,7 @@ void frmData2::TakeSet() {
                          std::span(set_->UX).first(static_cast<std::size_t>(set_->nVar) + 1));
     ownSigns_ = AbsoluteEntries(rows_);
     AnalyseCurrentProperty();
-    NameStatements(*set_, original_);
+    NameQuantities();
     ShowUnits();
     FillHeader();
     FillRows();
@@ -51,7 +52,13 @@ void frmData2::TakeRows() {
     if (original_ || rows_.IsEmpty() || none) return;
     adjusted_ = set_->Copy();
     adjusted_->isOriginalUnit = true;
-    adjusted_->AdjustUnits();
+    isMixed_ = !adjusted_->AdjustUnits();
+    if (isMixed_) {
+        table_.Blocks().Tell(
+            {{0, "Some rows stand in the units of the paper and cannot be brought "
+                 "to system units as the others are: the table cannot be accepted"}});
+        return;
+    }
     rows_ = adjusted_->recData;
     // A converted text no longer tells how many of its digits were measured.
     const auto isDigit = [](const clsData& row) { return row.isDigit; };
@@ -63,17 +70,28 @@ void frmData2::TakeRows() {
 /// The chain that checks and evaluates a row: the property, then its variables.
 void frmData2::AnalyseCurrentProperty() {
     if (adjusted_) adjusted_->UX = set_->UX;
-    chain_ = BuildChain(adjusted_ ? *adjusted_ : *set_, original_);
+    chain_ = BuildChain(SetOfCells(), original_);
     for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
         TakeFactor(*item);
+    sums_ = FractionSums(SetOfCells());
+    masses_.emplace(*set_);
     Globals().CurrentProperty = chain_;
+}
+
+/// By the units of the cells; those of constants turn along.
+void frmData2::NameQuantities() {
+    DataSet& named = adjusted_ ? *adjusted_ : *set_;
+    NameStatements(named, original_);
+    set_->UX = named.UX;
 }
 
 std::string frmData2::CaptionText() const {
     const clsX& property = set_->UX[0];
     std::string text = property.Name + " (" + property.Unit + ") as function of ";
+    // Names with a phase have a comma of their own.
+    const char* const between = set_->UX[1].Name.find(',') != std::string::npos ? "; " : ", ";
     for (int n = 1; n <= set_->nVar; ++n)
-        text += (n > 1 ? ", " : "") + set_->UX[static_cast<std::size_t>(n)].Name;
+        text += (n > 1 ? between : "") + set_->UX[static_cast<std::size_t>(n)].Name;
     return text;
 }
 
@@ -94,7 +112,14 @@ std::string frmData2::ColumnsText() const {
         const clsX& variable = set_->UX[static_cast<std::size_t>(n)];
         text += "Var" + std::to_string(n) + ": " + variable.Name + ", " + variable.Unit + "    ";
     }
-    return text + "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
+    text += "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
+    for (const HeldConstant& constant : SetOfCells().Constants()) {
+        const clsX& item = set_->UX.at(static_cast<std::size_t>(constant.item));
+        if (!item.Name.empty())
+            text +=
+                "    Constant: " + item.Name + " = " + NumberWithUnit(constant.value, item.Unit);
+    }
+    return text;
 }
 
 TableColumns frmData2::ColumnsOfSet() const {

@@ -27,6 +27,13 @@ std::vector<int> frmData2::ValueColumns() const {
     return places;
 }
 
+/// Equal points on two tie lines are two points.
+std::vector<int> frmData2::HintColumns() const {
+    std::vector<int> columns = ValueColumns();
+    if (const int tie = columns_.Find(Kind::Tie); tie >= 0) columns.push_back(tie);
+    return columns;
+}
+
 /// The figures of the evaluation are passed over, and so is what stands beside the table.
 bool frmData2::IsTypedInto(int column) const {
     return column < std::max(columns_.Find(Kind::KVO), 1);
@@ -48,6 +55,7 @@ std::vector<Finding> frmData2::FindingsOf(int row) const {
     std::vector<Finding> found = CheckRow(tblData, columns_, row);
     for (const auto& more :
          {CheckLimits(tblData, columns_, row, *chain_, MolarMassOf(row)),
+          CheckFractions(tblData, columns_, row, *chain_, sums_),
           CheckReading(tblData, columns_, row), CheckEvaluation(tblData, columns_, row)})
         found.insert(found.end(), more.begin(), more.end());
     return found;
@@ -75,7 +83,8 @@ void frmData2::Follow(TableEdit& edit, int row, int column, const std::string& b
 /// A table in two dimensions has any width, one of several parts side by side that of its parts.
 bool frmData2::MayGrowFor(int columns) const {
     const int values = set_ ? set_->nVar + 1 : 2;
-    return values == 3 || columns % values == 0;
+    const bool isTied = columns_.Find(Kind::Tie) >= 0;
+    return values == 3 || columns % values == 0 || (isTied && columns % (values + 1) == 0);
 }
 
 std::string frmData2::Remark(int rows) const {

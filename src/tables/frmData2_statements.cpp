@@ -4,6 +4,7 @@
 #include <span>
 #include <utility>
 
+#include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/EditStatements.h"
 #include "globals/KVOGlobal.h"
@@ -38,12 +39,14 @@ void frmData2::Assign() {
 bool frmData2::AssignAccepted() {
     if (!ui::Forms::Current().Knows("frmUnc")) return true;
     KVOGlobal& globals = Globals();
+    const auto method = globals.CurrentMethod;
     TakeSelectedRow();
     globals.CurrentProperty = chain_;
     const std::string key = std::exchange(globals.CurrentKey, "RLS1");
     const StatementsOfSet before = set_->UX;
     const bool accepted = EditStatements(set_->UX);
     globals.CurrentKey = key;
+    globals.CurrentMethod = method;
     if (!accepted) return false;
     if (!MayLoseColumns()) {
         set_->UX = before;
@@ -105,6 +108,11 @@ void frmData2::TakeSelectedRow() {
     int place = 0;
     for (clsProperty* item = chain_.get(); item; item = item->NextItem.get())
         item->Text = tblData.Cell(row, columns_.Find(Kind::Value, place++));
+    if (!set_->MolarMassFollowsRows()) return;
+    const auto& method = Globals().CurrentMethod;
+    auto ofRow = method ? std::make_shared<clsMethod>(*method) : std::make_shared<clsMethod>();
+    ofRow->MMass = MolarMassOf(row);
+    Globals().CurrentMethod = ofRow;
 }
 
 /// Whether some entry would mean something else when the set switches to or
@@ -189,16 +197,49 @@ std::vector<int> frmData2::ItemsWithoutUncertainty(int from) const {
     return items;
 }
 
+/// A block from the first column on has the numbers of its tie lines there, and then its values;
+/// when it cannot be so, it has values only.
+void frmData2::PassTies(BlockToPut& put) const {
+    const int columns = static_cast<int>(put.block.Columns());
+    if (columns_.Find(Kind::Tie) != put.column || columns < 2) return;
+    if (MayBeTwoDimensional(put.block)) return;
+    const auto isNoTie = [](const std::vector<std::string>& cells) {
+        return !cells.empty() && IsNumeric(cells[0]) &&
+               cells[0].find_first_not_of("0123456789") != std::string::npos;
+    };
+    if (std::ranges::any_of(put.block.rows, isNoTie)) {
+        if (columns >= columns_.Count()) return; // of another width: to be turned
+        ++put.column;
+        put.block.notices.push_back({0, "The values went past the column of tie lines"});
+        return;
+    }
+    const std::vector<int> places = ValueColumns();
+    const auto wide = static_cast<std::size_t>(places.back()) + 1;
+    if (columns != static_cast<int>(places.size()) + 1 || wide == places.size() + 1) return;
+    for (std::vector<std::string>& cells : put.block.rows) {
+        std::vector<std::string> spread(wide);
+        for (std::size_t i = 0; i < std::min(cells.size(), places.size() + 1); ++i)
+            spread[i == 0 ? 0 : static_cast<std::size_t>(places[i - 1])] = std::move(cells[i]);
+        cells = std::move(spread);
+    }
+    put.block.notices.push_back(
+        {0, "The values went past the columns between them; Ctrl+Z takes them back"});
+}
+
+/// With a corner that is no number it is to be turned.
+bool frmData2::MayBeTwoDimensional(const PastedTable& block) const {
+    return set_ && set_->nVar == 2 && !IsNumeric(block.rows.front().front());
+}
+
 /// What stands behind the property in a printed table is rarely a figure of our
 /// evaluation: whose uncertainty it is, is asked, and its column opens in the
 /// step of the paste.
 bool frmData2::MakeRoom(BlockToPut& put) {
+    PassTies(put);
     const int at = columns_.Find(Kind::KVO) - put.column;
     auto& rows = put.block.rows;
     if (!set_ || at <= 0 || static_cast<int>(put.block.Columns()) != at + 1) return true;
-    // With a corner that is no number it is a table in two dimensions, to be
-    // turned.
-    if (set_->nVar == 2 && !IsNumeric(rows.front().front())) return true;
+    if (MayBeTwoDimensional(put.block)) return true;
     // A block that fills columns of statements was laid out for this very table.
     const auto isOfRow = [](const TableColumn& column) {
         return column.IsStatement() && column.kind != Kind::Digits;

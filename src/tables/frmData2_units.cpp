@@ -31,11 +31,19 @@ std::string TurnedCell(const TableColumns& columns, const clsData& row, int colu
 /// Brings the table from the units of the paper to system units, in one step that can be undone.
 void frmData2::AdjustUnits() {
     if (!Check() || !CheckUnits()) return;
+    if (const int row = RowWithoutMolarMass(); row >= 0) {
+        Refuse({row, columns_.Find(TableColumn::Kind::Value, 0), NoMolarMass});
+        return;
+    }
     std::vector<int> rows;
     for (int row = tblData.FixedRows(); row <= table_.History().LastFilledRow(); ++row)
         if (!IsEmptyRow(tblData, columns_, row)) rows.push_back(row);
     const std::shared_ptr<DataSet> adjusted = Adjusted(rows);
-    if (!adjusted) return;
+    if (!adjusted) {
+        // Of a row as it stood, which the table no longer shows.
+        ui::Say(NoMolarMass);
+        return;
+    }
     RowList old; // those that stood here at the beginning
     for (std::size_t place = rows.size() + 1; place <= adjusted->recData.Count(); ++place)
         old.Add(*adjusted->recData.Item(place));
@@ -84,7 +92,7 @@ void frmData2::TakeUnits(const std::shared_ptr<DataSet>& adjusted,
     rows_ = rows;
     set_->UX = statements;
     AnalyseCurrentProperty();
-    NameStatements(*set_, original_);
+    NameQuantities();
     ShowUnits();
     table_.Findings().FindAgain();
 }

@@ -226,8 +226,7 @@ TEST_F(frmUncTest, WhatStaysTheSameInAllRowsIsAConstraint) {
     set.Header.DATACOMMENT = "::Method:X:P = 250.0:T = 300:";
     NameStatements(set);
     EXPECT_TRUE(Work([](frmUnc& form) {
-        EXPECT_EQ(form.Frame(2).Caption() + " " + form.Frame(2).ToolTip(),
-                  "Constraint Pressure, kPa");
+        EXPECT_EQ(form.Frame(2).Caption(), "Constraint: Pressure (kPa)");
         EXPECT_FALSE(form.Frame(3).Visible()); // the temperature varies
         form.chkUnc(2).UserClick();
         form.txtUValue(2).UserReplaceAll("0.50");
