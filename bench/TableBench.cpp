@@ -9,6 +9,8 @@
 #include "BenchDesktop.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
 #include "records/clsR.h"
 #include "records/clsTwo.h"
 #include "reference/Numbers.h"
@@ -217,6 +219,70 @@ void FromTwoDimensions(benchmark::State& state) {
     }
 }
 
+/// A ternary in two phases: three variables, the property, statements and the number of the tie
+/// line in every row.
+struct TiedTable : Table {
+    TiedTable() {
+        mixture->MixType = tied->MixType = 3;
+        tied->Load("^3 1 1 1 W1 S DIR 1 Y L1 L2 -4 T C W1 S W2 S & & & & & &");
+        tied->Variables[0].phase = "L1";
+        tied->PROPERTY_UNIT = tied->Variables[1].unit = tied->Variables[2].unit = "0.01";
+        tied->Parent = mixture.get();
+        for (clsX& item : tied->UX)
+            item.iUnc = true;
+        tied->UX[0].iRep = true;
+        globals.CurrentMV = tied;
+        globals.DataContext = tied->DataContext();
+    }
+    static std::string Rows() {
+        std::string text;
+        for (int row = 0; row < rows; ++row) {
+            const std::string n = std::to_string(row);
+            text += n + "\t" + std::to_string(5 + row % 90) + ".25\t0.05\t" +
+                    std::to_string(row % 50) + "." + n + "\t0.1\t" + std::to_string(row % 40) +
+                    ".75\t0.1\t" + std::to_string(row % 70) + ".50\t0.02\t3\t0.05\n";
+        }
+        return text;
+    }
+
+    std::shared_ptr<clsM> mixture = std::make_shared<clsM>();
+    std::shared_ptr<clsMV> tied = std::make_shared<clsMV>();
+};
+
+void PasteTied(benchmark::State& state) {
+    TiedTable table;
+    frmData2& form = table.Open();
+    const std::string text = TiedTable::Rows();
+    for (auto _ : state)
+        form.tblData.UserPaste(text);
+    if (form.lstFindings.Count() > 0) state.SkipWithError("findings in a sound table");
+}
+
+void AcceptTied(benchmark::State& state) {
+    TiedTable table;
+    const std::string text = TiedTable::Rows();
+    for (auto _ : state) {
+        state.PauseTiming();
+        frmData2& form = table.Open();
+        form.tblData.UserPaste(text);
+        state.ResumeTiming();
+        form.cmdSave.UserClick();
+        state.PauseTiming();
+        table.forms.DropClosed();
+        if (table.tied->recData.Count() != rows) state.SkipWithError("rows are missing");
+        state.ResumeTiming();
+    }
+}
+
+void TypeTiedCell(benchmark::State& state) {
+    TiedTable table;
+    frmData2& form = table.Open();
+    form.tblData.UserPaste(TiedTable::Rows());
+    int typed = 0;
+    for (auto _ : state)
+        form.tblData.UserCell(8000, 3, std::to_string(typed++ % 50));
+}
+
 /// The document with the table, from its text to the records and back.
 struct Document : Table {
     Document() {
@@ -272,6 +338,9 @@ BENCHMARK(Paste)->Unit(benchmark::kMillisecond);
 BENCHMARK(Accept)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCell)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCellOfACurve)->Unit(benchmark::kMillisecond);
+BENCHMARK(PasteTied)->Unit(benchmark::kMillisecond);
+BENCHMARK(AcceptTied)->Unit(benchmark::kMillisecond);
+BENCHMARK(TypeTiedCell)->Unit(benchmark::kMillisecond);
 BENCHMARK(UndoOfPaste)->Unit(benchmark::kMillisecond);
 BENCHMARK(PasteOfDoubtfulValues)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCellAmongDoubtfulValues)->Unit(benchmark::kMillisecond);
