@@ -55,7 +55,7 @@ void frmTwo::WireEvents() {
 void frmTwo::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
-    as_ = std::exchange(globals.SetToRepeat, nullptr);
+    as_ = std::dynamic_pointer_cast<clsTwo>(std::exchange(globals.SetToRepeat, nullptr));
     if (globals.EditTwo) as_ = record_ = globals.CurrentTwo;
     mayLackPressure_ = record_ && record_->LacksPressure();
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();

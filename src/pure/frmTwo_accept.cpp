@@ -8,6 +8,7 @@
 #include "chem/clsMethod.h"
 #include "chem/clsProperty.h"
 #include "entry/PropertyContext.h"
+#include "entry/SetRevision.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/PropertyChain.h"
@@ -25,8 +26,6 @@ namespace vexora {
 
 namespace {
 
-constexpr const char* TableForm = "frmData2";
-
 /// A set with rows of its own, so that a table that is given up has changed nothing.
 std::shared_ptr<clsTwo> CopyOf(const clsTwo& record) {
     return std::static_pointer_cast<clsTwo>(record.Copy());
@@ -43,41 +42,6 @@ std::shared_ptr<clsTwo> DefinitionOf(const clsTwo& pattern) {
         item.KVOUValue.clear();
     return set;
 }
-
-/// What a row states of one quantity, and of the property alone.
-bool HasStatements(const clsData& row, int item) {
-    if (!row.StatementsOf(item).IsEmpty()) return true;
-    if (item > 0) return false;
-    const bool combined = row.Extras && (!row.Extras->userCU.empty() || !row.Extras->CD.empty());
-    return combined || !IsBlankField(row.PRPUNCERTY);
-}
-
-void DropStatements(clsData& row, int item) {
-    if (row.Extras) row.Statements(item) = {};
-    if (item > 0) return;
-    if (row.Extras) row.Extras->userCU = row.Extras->CD = "";
-    row.PRPUNCERTY = "";
-}
-/// The working context as it was before the table opened; the table makes its own.
-class ContextScope {
-public:
-    ContextScope()
-        : set_(Globals().CurrentTwo), head_(Globals().CurrentProperty),
-          depth_(Globals().OpenForms.size()) {}
-    ~ContextScope() {
-        KVOGlobal& globals = Globals();
-        globals.CurrentTwo = set_;
-        globals.CurrentProperty = head_;
-        if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
-    }
-    ContextScope(const ContextScope&) = delete;
-    ContextScope& operator=(const ContextScope&) = delete;
-
-private:
-    std::shared_ptr<clsTwo> set_;
-    std::shared_ptr<clsProperty> head_;
-    std::size_t depth_;
-};
 
 /// What was stated about a constant is not true of what came in its place.
 void DropStatementsOfNoConstant(clsTwo& set) {
@@ -159,8 +123,7 @@ bool frmTwo::MayDropStatements() {
     std::string names;
     ui::Control* field = nullptr;
     for (const int item : ReplacedItems()) {
-        const auto states = [item](const clsData& row) { return HasStatements(row, item); };
-        if (std::ranges::none_of(record_->recData, states)) continue;
+        if (!HasStatements(*record_, item)) continue;
         names += (names.empty() ? "" : " and ") +
                  (item == 0 ? PropertyName(record_->PRPCODE, record_->DataContext())
                             : VariableName(record_->VARIABLE(item)));
@@ -169,8 +132,7 @@ bool frmTwo::MayDropStatements() {
                     : item == 1 ? &cboVar1
                                 : &cboVar2;
     }
-    return !field || Confirm(*field, "Rows of the table state uncertainties of " + names +
-                                         ", which go with it\nGo on?");
+    return !field || AskToDropStatements(*field, names);
 }
 
 /// That a set at a fixed pressure leaves its box empty is asked once; of a set that is edited, only
@@ -322,28 +284,17 @@ void frmTwo::BuildPropertyChain() {
 /// says in that way is kept as it stands.
 bool frmTwo::DropNumbers(clsTwo& set) {
     if (set.recData.IsEmpty() || !Presentation::Of(as_->DATATYPE).HasNumbers()) return true;
-    const std::size_t rows = set.recData.Count();
-    if (!Confirm(lstNumerical, "The table of this set has " + std::to_string(rows) +
-                                   (rows == 1 ? " row" : " rows") +
-                                   " of numerical data.\nAre they to be deleted?"))
-        return false;
+    if (!AskToDropRows(lstNumerical, set.recData.Count())) return false;
     set.recData.Clear();
     return true;
 }
 
 /// The table works on the set as the current one; true when it was accepted.
 bool frmTwo::EnterNumbers(const std::shared_ptr<clsTwo>& set) {
-    KVOGlobal& globals = Globals();
-    if (!ui::Forms::Current().Knows(TableForm)) return Refuse(cmdOK, "There is no table dialog");
-    const ContextScope scope;
-    globals.CurrentTwo = set;
-    globals.DialogAccepted = false;
     const auto isDigit = [](const clsData& row) { return row.isDigit; };
-    globals.IncludeDigits =
-        chkIncludeDigit.Value() || (TurnsRows() && std::ranges::any_of(set->recData, isDigit));
-    globals.OpenForms.push_back(Name()); // the table is a link of the chain behind this one
-    ui::Forms::Current().Get(TableForm).ShowModal();
-    return std::exchange(globals.DialogAccepted, false);
+    return EnterRows(cmdOK, set,
+                     chkIncludeDigit.Value() ||
+                         (TurnsRows() && std::ranges::any_of(set->recData, isDigit)));
 }
 
 void frmTwo::Store(const std::shared_ptr<clsTwo>& set) {

@@ -1,0 +1,91 @@
+#include "entry/SetRevision.h"
+
+#include "globals/KVOGlobal.h"
+#include "records/DataSet.h"
+#include "records/LineWriter.h"
+#include "records/clsMV.h"
+#include "records/clsTwo.h"
+#include "reference/Text.h"
+#include "ui/Forms.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* TableForm = "frmData2";
+
+/// The working context as it was before the table opened.
+class ContextScope {
+public:
+    explicit ContextScope(const std::shared_ptr<DataSet>& set)
+        : two_(Globals().CurrentTwo), mixture_(Globals().CurrentMV),
+          head_(Globals().CurrentProperty), depth_(Globals().OpenForms.size()) {
+        Globals().CurrentTwo = std::dynamic_pointer_cast<clsTwo>(set);
+        Globals().CurrentMV = std::dynamic_pointer_cast<clsMV>(set);
+    }
+    ~ContextScope() {
+        KVOGlobal& globals = Globals();
+        globals.CurrentTwo = two_;
+        globals.CurrentMV = mixture_;
+        globals.CurrentProperty = head_;
+        if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
+    }
+    ContextScope(const ContextScope&) = delete;
+    ContextScope& operator=(const ContextScope&) = delete;
+
+private:
+    std::shared_ptr<clsTwo> two_;
+    std::shared_ptr<clsMV> mixture_;
+    std::shared_ptr<clsProperty> head_;
+    std::size_t depth_;
+};
+
+} // namespace
+
+bool HasStatements(const clsData& row, int item) {
+    if (!row.StatementsOf(item).IsEmpty()) return true;
+    if (item > 0) return false;
+    const bool combined = row.Extras && (!row.Extras->userCU.empty() || !row.Extras->CD.empty());
+    return combined || !IsBlankField(row.PRPUNCERTY);
+}
+
+bool HasStatements(const DataSet& set, int item) {
+    return std::ranges::any_of(set.recData,
+                               [item](const clsData& row) { return HasStatements(row, item); });
+}
+
+void DropStatements(clsData& row, int item) {
+    if (row.Extras) row.Statements(item) = {};
+    if (item > 0) return;
+    if (row.Extras) row.Extras->userCU = row.Extras->CD = "";
+    row.PRPUNCERTY = "";
+}
+
+bool AskToDropStatements(ui::Control& field, const std::string& names) {
+    return field.Owner().Confirm(field, "Rows of the table state uncertainties of " + names +
+                                            ", which go with it\nGo on?");
+}
+
+bool AskToDropRows(ui::Control& field, std::size_t rows) {
+    return field.Owner().Confirm(field, "The table of this set has " + std::to_string(rows) +
+                                            (rows == 1 ? " row" : " rows") +
+                                            " of numerical data.\nAre they to be deleted?");
+}
+
+bool EnterRows(ui::Control& field, const std::shared_ptr<DataSet>& set, bool includeDigits) {
+    KVOGlobal& globals = Globals();
+    ui::Form& opener = field.Owner();
+    if (!ui::Forms::Current().Knows(TableForm))
+        return opener.Refuse(field, "There is no table dialog");
+    const ContextScope scope(set);
+    globals.DialogAccepted = false;
+    globals.IncludeDigits = includeDigits;
+    globals.OpenForms.push_back(opener.Name());
+    ui::Forms::Current().Get(TableForm).ShowModal();
+    return std::exchange(globals.DialogAccepted, false);
+}
+
+} // namespace vexora
