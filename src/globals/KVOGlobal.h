@@ -31,6 +31,7 @@ class clsS;
 class clsTwo;
 class clsX;
 class clsZ;
+class DataSet;
 struct PlotTable;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
@@ -90,7 +91,7 @@ struct KVOGlobal {
     bool EditComplexSample = false;
 
     // The set whose definition a new one begins with; the dialog that opens takes it.
-    std::shared_ptr<clsTwo> SetToRepeat;
+    std::shared_ptr<DataSet> SetToRepeat;
 
     // The working context of the open data dialog; made anew before each dialog.
     std::shared_ptr<clsMethod> CurrentMethod;

@@ -112,8 +112,10 @@ void frmMain::EditNode() {
 /// Only sets against state variables have rows to begin anew.
 bool frmMain::MayRepeat() const {
     const KVOGlobal& globals = Globals();
-    return globals.CurrentKey == "RLS1" && globals.CurrentTwo && !globals.ReadOnly &&
-           ui::Forms::Current().Knows("frmTwo");
+    const bool isMixture = globals.CurrentKey == "RM1" && globals.CurrentMV;
+    const bool isPure = globals.CurrentKey == "RLS1" && globals.CurrentTwo;
+    return (isMixture || isPure) && !globals.ReadOnly &&
+           ui::Forms::Current().Knows(isMixture ? "frmMixtVar" : "frmTwo");
 }
 
 /// A set with the definition of the selected one, on the way of a new one.
@@ -121,8 +123,8 @@ void frmMain::mnuNewLike_Click() {
     KVOGlobal& globals = Globals();
     if (!HasMouseSelection() || !MayRepeat()) return;
     RenewCurrentMethod();
-    globals.SetToRepeat = globals.CurrentTwo;
-    if (!OpenDialog("frmTwo")) Activate();
+    globals.SetToRepeat = CurrentSet();
+    if (!OpenDialog(globals.CurrentKey == "RM1" ? "frmMixtVar" : "frmTwo")) Activate();
 }
 
 } // namespace vexora
