@@ -87,7 +87,9 @@ void frmMixtVar::UseMixture() {
         const bool isThere = mixture && i < mixture->MixType;
         lblSample(i).Visible(isThere);
         cboSample(i).Visible(isThere);
-        lblSample(i).Caption(compound ? "Sample of " + compound->ShowKey() + " #" : "Sample #");
+        // By these numbers compositions name their component.
+        lblSample(i).Caption(std::to_string(i + 1) + ": " +
+                             (compound ? compound->ShowKey() + ", sample #" : "Sample #"));
         samples_[static_cast<std::size_t>(i)]->Fill(compound);
     }
     if (mixture && !record_) globals.CurrentM = mixture;

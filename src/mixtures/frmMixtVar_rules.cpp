@@ -230,6 +230,7 @@ void frmMixtVar::ShowDefinition() {
     txtRefT.Enabled(relative && draft.Definition().FixesTemperature());
     txtRefP.Enabled(relative && draft.Definition().FixesPressure());
     cboRefPhase.Enabled(ofSolute || (relative && draft.Definition().NamesPhase()));
+    lblRefPhase.Enabled(cboRefPhase.Enabled());
     lblRefPhase.Caption(ofSolute ? "Initial phase of solute:" : "Reference phase:");
 }
 
