@@ -49,7 +49,9 @@ std::string HeadOf(const TableColumn& column, const std::vector<Quantity>& quant
     std::string head = found->name;
     if (!found->unit.empty()) head += " [" + found->unit + "]";
     const std::string phase = PhaseName(found->phase);
-    return IsBlankField(phase) ? head : head + " (" + phase + ")";
+    // A name of a mixture says the phase where it matters.
+    const bool isSaid = IsBlankField(phase) || found->name.ends_with(", " + phase);
+    return isSaid ? head : head + " (" + phase + ")";
 }
 
 /// The figures of the evaluation come last, and are left out where there are none.
