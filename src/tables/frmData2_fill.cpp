@@ -115,7 +115,7 @@ std::string frmData2::ColumnsText() const {
     text += "Property: " + set_->UX[0].Name + ", " + set_->UX[0].Unit;
     for (const HeldConstant& constant : SetOfCells().Constants()) {
         const clsX& item = set_->UX.at(static_cast<std::size_t>(constant.item));
-        if (!item.Name.empty())
+        if (item.Constr && !item.Name.empty())
             text +=
                 "    Constant: " + item.Name + " = " + NumberWithUnit(constant.value, item.Unit);
     }
