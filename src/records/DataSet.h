@@ -86,6 +86,8 @@ public:
     virtual const Record* Owner() const = 0;
     /// What its definition holds constant; constants of a pure set are told by its comment.
     virtual std::vector<HeldConstant> Constants() const { return {}; }
+    /// The kind of equilibrium by which the vocabulary names a property (Vocabulary.h).
+    virtual std::string PropertyContext() const { return {}; }
     /// Statements and precisions stand in the units that the line of the set names, as rows do;
     /// otherwise those of variables, and all precisions, are brought to system units.
     virtual bool StatesInUnitsOfLine() const { return false; }

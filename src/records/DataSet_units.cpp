@@ -1,5 +1,6 @@
 #include "records/DataSet.h"
 
+#include "records/RowMasses.h"
 #include "records/SetLines.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -58,9 +59,10 @@ bool DataSet::CanAdjustUnits(const std::vector<UnitConversion>& units) const {
     for (std::size_t n = byRow ? 1 : 0; n < units.size(); ++n)
         if (!units[n].IsPossible()) return false;
     if (!byRow) return true;
+    RowMasses masses(*this);
     return IsConversionOf(units[0].code, units[0].unit) &&
-           std::all_of(recData.begin(), recData.end(), [this](const clsData& row) {
-               return !row.inOriginalUnits || MolarMass(row) > 0;
+           std::all_of(recData.begin(), recData.end(), [&masses](const clsData& row) {
+               return !row.inOriginalUnits || masses.Of(row) > 0;
            });
 }
 
@@ -75,9 +77,10 @@ bool DataSet::AdjustUnits() {
     const bool isDifference = Relation() == "D";
     if (isOriginalUnit) AdjustStatements();
     AdjustConstants();
+    RowMasses masses(*this);
     for (clsData& row : recData) {
         if (!row.inOriginalUnits) continue;
-        if (byRow) units[0].molarMass = MolarMass(row);
+        if (byRow) units[0].molarMass = masses.Of(row);
         for (int n = 0; n <= nVar; ++n)
             row.Convert(n, units[static_cast<std::size_t>(n)], n == 0 && isDifference);
         row.inOriginalUnits = false;
@@ -112,13 +115,14 @@ void DataSet::AdjustStatements() {
 /// goes to all rows that do not say it themselves. Per cent stay with the set.
 void DataSet::StateInRows() {
     clsX& ofSet = UX[0];
-    const auto give = [this](std::string& figure, auto ofRow) {
+    RowMasses masses(*this);
+    const auto give = [&](std::string& figure, auto ofRow) {
         if (!IsNumeric(figure)) return;
         UnitConversion unit = PropertyConversion();
         for (clsData& row : recData) {
             std::string& own = ofRow(row);
             if (!own.empty()) continue;
-            unit.molarMass = MolarMass(row);
+            unit.molarMass = masses.Of(row);
             own = row.inOriginalUnits ? figure : unit.DifferenceText(figure);
         }
         figure.clear();
@@ -138,9 +142,11 @@ std::string DataSet::SystemPrecision(const std::string& code, const std::string&
     if (code == PRPCODE) {
         UnitConversion unit = PropertyConversion();
         // One figure for all rows: that of the row where it is worst.
-        if (ConvertsByRow())
+        if (ConvertsByRow()) {
+            RowMasses masses(*this);
             for (const clsData& row : recData)
-                unit.molarMass = std::max(unit.molarMass, MolarMass(row));
+                unit.molarMass = std::max(unit.molarMass, masses.Of(row));
+        }
         return unit.DifferenceText(typed);
     }
     for (int n = 1; n <= nVar; ++n)

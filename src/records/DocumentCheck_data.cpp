@@ -150,13 +150,14 @@ void CheckFigures(const SingleValue& value, const std::string& name, Remarks& re
 }
 
 SystemColumn::SystemColumn(const DataSet& set, int n)
-    : set_(set), n_(static_cast<std::size_t>(n)), byRow_(n == 0 && set.ConvertsByRow()),
+    : n_(static_cast<std::size_t>(n)), byRow_(n == 0 && set.ConvertsByRow()),
       ofSet_(set.Conversion(n)),
-      converts_(byRow_ ? IsConversionOf(ofSet_.code, ofSet_.unit) : ofSet_.IsPossible()) {}
+      converts_(byRow_ ? IsConversionOf(ofSet_.code, ofSet_.unit) : ofSet_.IsPossible()),
+      masses_(set) {}
 
 bool SystemColumn::Converts(const clsData& row) const {
     if (!row.inOriginalUnits) return true;
-    return converts_ && (!byRow_ || set_.MolarMass(row) > 0);
+    return converts_ && (!byRow_ || masses_.Of(row) > 0);
 }
 
 std::optional<double> SystemColumn::Of(const clsData& row) const {
@@ -164,7 +165,7 @@ std::optional<double> SystemColumn::Of(const clsData& row) const {
     if (!IsNumeric(typed)) return std::nullopt;
     if (!row.inOriginalUnits) return Val(typed);
     if (!byRow_) return ofSet_.Absolute(Val(typed));
-    return ToSystem(ofSet_.code, Val(typed), ofSet_.factor, set_.MolarMass(row));
+    return ToSystem(ofSet_.code, Val(typed), ofSet_.factor, masses_.Of(row));
 }
 
 void CheckValue(const clsZ& value, Findings& findings) {

@@ -6,6 +6,8 @@
 #include "records/LineWriter.h"
 #include "records/PropertyChain.h"
 #include "records/Walk.h"
+#include "records/clsMV.h"
+#include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
@@ -29,6 +31,14 @@ std::string IdentityOf(const Record& record) {
            (number.Knows(record) ? number(record) : record.Key());
 }
 
+/// Lines of data have other fields in a mixture.
+int ComponentsOf(const Record& record) {
+    static const auto components = ByClass<int>()
+                                       .On<clsMZ>([](const clsMZ& value) { return value.MixType; })
+                                       .On<clsMV>([](const clsMV& set) { return set.MixType; });
+    return components.Knows(record) ? components(record) : 1;
+}
+
 constexpr std::string_view RowKinds[] = {"^D", "^G", "^Y"};
 
 bool IsRow(std::string_view kind) {
@@ -38,11 +48,11 @@ bool IsRow(std::string_view kind) {
 /// Lines of one kind after the first get a number, those of a statement bear its quantity.
 class FieldCollector {
 public:
-    explicit FieldCollector(Outline& outline) : outline_(outline) {}
+    FieldCollector(Outline& outline, int components) : outline_(outline), components_(components) {}
 
     void Add(std::string_view line) {
         const std::string kind = LineKind(line);
-        auto fields = NamedFields(line);
+        auto fields = NamedFields(line, components_);
         std::string prefix;
         if (kind == "^X" && fields.size() > 1)
             prefix = fields[1].second + ", ";
@@ -57,6 +67,7 @@ public:
 
 private:
     Outline& outline_;
+    int components_; // of the system that the lines are about
     std::map<std::string, int> count_;
 };
 
@@ -140,7 +151,7 @@ Outline OutlineOf(Record& record) {
     } catch (const SaveRefused& refused) {
         outline.fields.emplace_back("cannot be written", refused.what());
     }
-    FieldCollector fields(outline);
+    FieldCollector fields(outline, ComponentsOf(record));
     for (const std::string& line : Split(lines.Text(), '\n'))
         if (!Trim(line).empty() && !IsRow(LineKind(line))) fields.Add(line);
     if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set);

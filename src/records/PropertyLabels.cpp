@@ -22,9 +22,27 @@ std::string UnitOf(const Set& value) {
     return unit == "1" && factor <= 0 ? unit : UnitText(unit, value.PROPERTY_UNIT, value.Factor);
 }
 
+std::string ContextOf(const SingleValue&) {
+    return {};
+}
+
+/// One code has rows by the kind of equilibrium in which it was measured.
+std::string ContextOf(const DataSet& set) {
+    return set.PropertyContext();
+}
+
+/// In equilibrium with a gas a temperature is a boiling point and a pressure that of the vapour;
+/// for compounds these have codes of their own.
+std::string_view NamingCode(std::string_view code, std::string_view context) {
+    if (code == "T" && context == "vle") return "TB";
+    return code == "P" && (context == "vle" || context == "sub") ? "PV" : code;
+}
+
 template <class Set>
 PropertyLabel LookUp(const Set& value) {
-    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
+    const std::string context = ContextOf(value);
+    const std::string name =
+        PropertyName(NamingCode(value.PRPCODE, context), value.DataContext(), context);
     return {name.empty() ? std::string(value.PRPCODE) : name, UnitOf(value)};
 }
 
@@ -33,7 +51,8 @@ template <class Set>
 std::string KindOf(const Set& value) {
     const std::string factor =
         value.isOriginalUnit ? value.PROPERTY_UNIT + " " + NumberText(value.Factor) : "";
-    return std::string(value.DataContext()) + " " + value.PRPCODE + " " + factor;
+    return std::string(value.DataContext()) + " " + ContextOf(value) + " " + value.PRPCODE + " " +
+           factor;
 }
 
 } // namespace

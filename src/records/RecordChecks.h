@@ -11,6 +11,7 @@
 
 #include "records/DataSet.h"
 #include "records/DocumentCheck.h"
+#include "records/RowMasses.h"
 #include "records/SingleValue.h"
 
 namespace vexora {
@@ -73,11 +74,11 @@ public:
     std::optional<double> Of(const clsData& row) const;
 
 private:
-    const DataSet& set_;
     std::size_t n_;
     bool byRow_;
     UnitConversion ofSet_;
-    bool converts_; // asked once, for it looks into the tables
+    bool converts_;            // asked once, for it looks into the tables
+    mutable RowMasses masses_; // made ready once for all rows
 };
 
 void CheckSource(const clsR& source, Findings& findings);

@@ -110,7 +110,8 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
 PrintedDocument PrintDocument() {
     LineWriter out;
     for (const auto& source : Globals().recR) {
-        source->PrepareOutput();
+        for (std::string& fault : source->PrepareOutput())
+            out.Tell(std::move(fault));
         Walk(*source, [&out](const Record& record) { record.Print(out); });
     }
     return {out.Text(), out.Notices()};

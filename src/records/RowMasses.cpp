@@ -5,7 +5,21 @@
 #include "reference/MixtureCodes.h"
 #include "reference/Numbers.h"
 
+#include <string>
+#include <string_view>
+
 namespace vexora {
+
+namespace {
+
+/// The component whose content the code is, 0 for what tells no composition.
+int ContentOf(const std::string& code) {
+    constexpr std::string_view letters = "XWVMNJOQBE";
+    const bool isContent = code.size() == 2 || (code.size() == 3 && code.back() == 'S');
+    return isContent && letters.find(code[0]) != letters.npos ? ComponentOf(code) : 0;
+}
+
+} // namespace
 
 RowMasses::RowMasses(const DataSet& set) : set_(set), mixed_(dynamic_cast<const clsMV*>(&set)) {
     if (!mixed_ || !mixed_->Parent) return;
@@ -17,14 +31,15 @@ void RowMasses::TakeComposition(const clsMV& set) {
     // Another phase has another composition, and another molar mass.
     for (const HeldConstant& constant : set.Constants()) {
         if (constant.phase != set.PHASE1 || !IsNumeric(constant.value)) continue;
-        calculator_.SetVariable(ComponentOf(constant.code), clsMMM::NoLocation, constant.code,
+        calculator_.SetVariable(ContentOf(constant.code), clsMMM::NoLocation, constant.code,
                                 set.Conversion(constant.item).Absolute(Val(constant.value)));
     }
-    for (int n = 1; n <= set.nVar; ++n) {
-        if (set.PhaseFor(n) != set.PHASE1) continue;
+    for (int n = 0; n <= set.nVar; ++n) { // a property can be a composition, too
+        const int component = ContentOf(set.VARIABLE(n));
+        if (component == 0 || set.PhaseFor(n) != set.PHASE1) continue;
         const auto place = static_cast<std::uint16_t>(n);
-        units_[place] = set.VariableConversion(n);
-        calculator_.SetVariable(ComponentOf(set.VARIABLE(n)), place, set.VARIABLE(n), 0);
+        units_[place] = set.Conversion(n);
+        calculator_.SetVariable(component, place, set.VARIABLE(n), 0);
     }
 }
 

@@ -27,7 +27,7 @@ private:
     const DataSet& set_;
     const clsMV* mixed_ = nullptr; // null for a set whose rows have one molar mass in common
     clsMMM calculator_;
-    std::array<UnitConversion, 4> units_; // of the variables
+    std::array<UnitConversion, 4> units_; // of the property and the variables
 };
 
 } // namespace vexora

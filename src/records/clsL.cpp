@@ -106,6 +106,10 @@ void clsL::MendCheckDigit(Notices& told) {
 void clsL::LoadPlain(WordReader& words) {
     SYSTYPES = words.NextWord();
     REFPROP = Trim(words.Rest());
+    TakeKnownIdentity();
+}
+
+void clsL::TakeKnownIdentity() {
     Name = NameOfRN(RN);
     Formula = FormulaOfRN(RN);
     if (Name.empty() || Formula.empty()) {
@@ -145,7 +149,7 @@ void clsL::PrintL(LineWriter& out) const {
 }
 
 void clsL::Print(LineWriter& out) const {
-    if (isNew || !recS.IsEmpty()) PrintL(out);
+    if (isNew || isInMixture || !recS.IsEmpty()) PrintL(out);
 }
 
 void clsL::EachChild(const std::function<void(Record&)>& visit) const {

@@ -47,6 +47,8 @@ public:
     /// Known there, but its name was chosen among others and has to travel too.
     bool isNamed = false;
     bool isBio = false;
+    /// A mixture names it: its line is needed though it has no samples. Known while writing.
+    bool isInMixture = false;
     /// Enzyme classification and protein data bank code of a bio compound.
     std::string EC, PDB;
     std::int32_t Charge = 0;
@@ -65,9 +67,12 @@ public:
     /// mended number. False for a line without a number, and for one that is not numeric, which is
     /// told.
     bool Load(std::string_view line, Notices& told);
+    /// Takes name, formula and molar mass as the reference database has them, by the RN.
+    void TakeKnownIdentity();
     /// Writes its lines whatever hangs below it.
     void PrintL(LineWriter& out) const;
-    /// Of compounds without samples only those that are new to the reference database.
+    /// Of compounds without samples only those that are new to the reference database, or stand in
+    /// a mixture.
     /// One that is neither used nor new says nothing that the database does not know.
     void Print(LineWriter& out) const override;
     void EachChild(const std::function<void(Record&)>& visit) const override;

@@ -3,6 +3,7 @@
 #include "chem/clsMMM.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/MixtureLetters.h"
 #include "records/clsL.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
@@ -11,6 +12,7 @@
 #include "reference/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexora {
 
@@ -30,6 +32,21 @@ std::shared_ptr<Set> FindByKey(const ui::Collection<Set>& sets, std::string_view
     }
     if (index) *index = 0;
     return nullptr;
+}
+
+template <class Set>
+std::string CountsOf(const Set& set) {
+    const auto count = [](const char* name, int number) {
+        return std::string("\n") + name + " = " + std::to_string(number);
+    };
+    const int phases = static_cast<int>(set.Phases().size());
+    return count("iSolid", set.iSolid()) + count("iLiquid", set.iLiquid()) +
+           count("iGas", set.iGas()) + count("nPhases", phases) + "\n" + set.ShowKey();
+}
+
+template <class Set>
+std::string PhaseError(const Set& set) {
+    return "Phase error" + CountsOf(set);
 }
 
 } // namespace
@@ -161,6 +178,51 @@ std::shared_ptr<clsMZ> clsM::FindMZ(std::string_view key, std::size_t* index) co
 
 std::shared_ptr<clsMV> clsM::FindMV(std::string_view key, std::size_t* index) const {
     return FindByKey(recMV, key, index);
+}
+
+std::vector<std::string> clsM::UpdateInfo(MixtureLetters& letters) {
+    std::vector<std::string> faults;
+    REFPRP.clear();
+    const auto add = [&](auto& set) {
+        const MixtureLetters::Letter& letter = letters.Of(set);
+        if (REFPRP.find(letter.text) == REFPRP.npos) REFPRP += letter.text;
+        const std::string fault = letter.isFault ? PhaseError(set) : std::string();
+        if (!fault.empty() && !std::exchange(set.isPhaseErrorTold, true)) faults.push_back(fault);
+    };
+    for (const auto& value : recMZ)
+        add(*value);
+    for (const auto& set : recMV) {
+        add(*set);
+        bool isKnown = true;
+        set->Context(&isKnown);
+        if (!isKnown && !std::exchange(set->isContextTold, true))
+            faults.push_back("Unrecognized Context" + CountsOf(*set));
+    }
+    if (REFPRP.empty()) REFPRP = "&";
+    return faults;
+}
+
+std::string clsM::Abbreviate(int n) const {
+    const auto name = [this](int component) {
+        const auto compound = Component(component);
+        return compound ? compound->ShowKey() : RN(component);
+    };
+    const std::string full = name(n);
+    const std::size_t length = CodePointCount(full);
+    constexpr std::size_t least = 6, mostBehind = 3;
+    if (MixType == 2 || length < least) return full;
+    std::vector<std::string> others;
+    for (int other = 1; other <= MixType; ++other)
+        if (other != n) others.push_back(name(other));
+    for (std::size_t count = least; count + least <= length; ++count) {
+        const std::string front = Substring(full, 1, count);
+        const bool isOwn = std::ranges::none_of(
+            others, [&](const std::string& other) { return Substring(other, 1, count) == front; });
+        // The last character is left out, as in all files that name compounds so.
+        const std::size_t behind = std::min(mostBehind, length - count);
+        if (isOwn) return front + "..." + Substring(full, length - behind, behind);
+    }
+    return full;
 }
 
 bool clsM::CheckSamples() const {

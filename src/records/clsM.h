@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "records/Record.h"
 #include "ui/Collection.h"
@@ -17,6 +18,7 @@ class clsMV;
 class clsMZ;
 class clsR;
 class LineWriter;
+class MixtureLetters;
 class XmlWriter;
 
 /// A binary or ternary system of the source: two or three of its compounds, with what was measured
@@ -72,8 +74,9 @@ public:
     /// The set with this Key or ShowKey, or null; its place from 1 goes into index.
     std::shared_ptr<clsMZ> FindMZ(std::string_view key, std::size_t* index = nullptr) const;
     std::shared_ptr<clsMV> FindMV(std::string_view key, std::size_t* index = nullptr) const;
-    /// Brings REFPRP in line with the data. The answer is what does not fit, for the user.
-    std::string UpdateInfo();
+    /// Brings REFPRP in line with the data. The answer is what does not fit, for the user: of each
+    /// set once.
+    std::vector<std::string> UpdateInfo(MixtureLetters& letters);
     /// Every component has a sample.
     bool CheckSamples() const;
     /// Brings the components into ascending order of their numbers, and all sets with them. True

@@ -13,7 +13,6 @@
 namespace vexora {
 
 class clsM;
-class clsMMM;
 
 /// A property of a mixture measured against one to three state variables, under constraints, in a
 /// described set of phases.
@@ -40,6 +39,7 @@ public:
     std::array<ConstraintSlot, MixtureLine::MostSlots> Constraints;
     clsM* Parent = nullptr;
     bool SavedInXML = false; // while an export runs: this set is in it already
+    bool isPhaseErrorTold = false, isContextTold = false; // once a session is enough
 
     /// Sample number of component n, 1 to 3; empty outside.
     const std::string& SMPNM(int n) const;
@@ -60,12 +60,15 @@ public:
     std::vector<std::string> Phases() const override;
     /// Rows of a ternary in several phases, and of a binary in three, may be parts of one tie line.
     bool HasTies() const override;
+    using DataSet::MolarMass;
+    /// By the composition of PHASE1, as variables, constraints or the property itself tell it.
     double MolarMass(const clsData& row) const override;
     bool MolarMassFollowsRows() const override { return true; }
     const Record* Owner() const override;
     std::vector<HeldConstant> Constants() const override;
     SetSurroundings Surroundings() const override;
     std::string ConstantOf(std::string_view code) const override;
+    std::string PropertyContext() const override { return Context(); }
     bool StatesInUnitsOfLine() const override { return true; }
     bool RatioHasNoUnit() const override { return true; }
     std::shared_ptr<DataSet> Copy() const override;

@@ -1,6 +1,6 @@
 // What phases a mixture set has, and what kind of equilibrium they make.
+#include "records/PhaseCounts.h"
 #include "records/clsMV.h"
-
 #include "reference/Vocabulary.h"
 
 #include <cstdlib>
@@ -8,24 +8,6 @@
 namespace vexora {
 
 namespace {
-
-/// How many phases are of a kind; negative when the first one is.
-template <class IsOfKind>
-int Counted(const std::vector<std::string>& phases, IsOfKind isOfKind) {
-    int count = 0;
-    for (const std::string& phase : phases)
-        count += isOfKind(phase) ? 1 : 0;
-    return isOfKind(phases.front()) ? -count : count;
-}
-
-bool IsGas(std::string_view phase) {
-    return phase == "G" || phase == "air";
-}
-
-/// A glass answers like a crystal in what it is in equilibrium with.
-bool IsSolid(std::string_view phase) {
-    return IsCrystalPhase(phase) || phase == "VG";
-}
 
 bool IsComposition(std::string_view code) {
     return code.size() == 2 &&
@@ -56,41 +38,37 @@ std::string SolidContext(const clsMV& set, int gas) {
 } // namespace
 
 int clsMV::iSolid() const {
-    return Counted(Phases(), IsSolid);
+    return PhaseCounts::Of(Phases()).solid;
 }
 
 int clsMV::iLiquid() const {
-    return Counted(Phases(), IsLiquidPhase);
+    return PhaseCounts::Of(Phases()).liquid;
 }
 
 int clsMV::iGas() const {
-    return Counted(Phases(), IsGas);
+    return PhaseCounts::Of(Phases()).gas;
 }
 
 int clsMV::iFluid() const {
-    return Counted(Phases(), [](std::string_view phase) { return phase == "FL"; });
+    return PhaseCounts::Of(Phases()).fluid;
 }
 
 int clsMV::nPhases() const {
-    return static_cast<int>(Phases().size());
+    return PhaseCounts::Of(Phases()).all;
 }
 
 std::string clsMV::Context(bool* isKnown) const {
-    const int solid = iSolid();
-    int liquid = iLiquid();
-    int gas = iGas();
-    // A fluid stands for what lacks beside it.
-    if (liquid == 0)
-        liquid = iFluid();
-    else if (gas == 0)
-        gas = iFluid();
+    const PhaseCounts counts = PhaseCounts::Of(Phases()).WithFluidAsMissing();
+    const int solid = counts.solid;
+    const int liquid = counts.liquid;
+    const int gas = counts.gas;
     if (isKnown) *isKnown = true;
     if (std::abs(liquid) == 1 && std::abs(gas) == 1 && solid == 0) return "vle";
     if (std::abs(solid) == 1 && std::abs(gas) == 1 && liquid == 0) return "sub";
     if (std::abs(liquid) > 1 && solid == 0) return "lle";
     if (liquid != 0 && solid != 0) return SolidContext(*this, gas);
     if (std::abs(solid) == 2 && liquid == 0) return "sse";
-    if (isKnown) *isKnown = nPhases() <= 1;
+    if (isKnown) *isKnown = counts.all <= 1;
     return {};
 }
 

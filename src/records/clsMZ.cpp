@@ -3,6 +3,7 @@
 #include "chem/CommentTags.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/PhaseCounts.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
 #include "records/clsM.h"
@@ -18,6 +19,12 @@ namespace vexora {
 namespace {
 
 constexpr int MostPhases = 5;
+
+std::vector<std::string> FirstPhases(const clsMZ& value) {
+    std::vector<std::string> phases = value.Phases();
+    if (phases.size() > static_cast<std::size_t>(value.MixType + 1)) phases.pop_back();
+    return phases;
+}
 
 } // namespace
 
@@ -77,6 +84,18 @@ std::vector<std::string> clsMZ::Phases() const {
     for (int n = 1; n <= MixType + 2; ++n)
         if (!IsBlankField(PHASE(n))) phases.push_back(PHASE(n));
     return phases;
+}
+
+int clsMZ::iSolid() const {
+    return PhaseCounts::Of(FirstPhases(*this)).solid;
+}
+
+int clsMZ::iLiquid() const {
+    return PhaseCounts::Of(FirstPhases(*this)).liquid;
+}
+
+int clsMZ::iGas() const {
+    return PhaseCounts::Of(FirstPhases(*this)).gas;
 }
 
 std::string clsMZ::Key() const {

@@ -34,6 +34,7 @@ public:
     ShortText SMPNM1, SMPNM2, SMPNM3, PHASE1 = "&", PHASE2 = "&", PHASE3 = "&", PHASE4 = "&",
                                       PHASE5 = "&";
     clsM* Parent = nullptr;
+    bool isPhaseErrorTold = false; // once a session is enough
 
     /// Sample number of component n, 1 to 3; phase n, 1 to 5; empty outside.
     std::string SMPNM(int n) const;
@@ -53,7 +54,8 @@ public:
 
     /// Reads the value line; MixType has to be set. False when it ends before the value.
     bool Load(std::string_view line);
-    /// How many phases of the kind are there, among the first MixType + 1.
+    /// How many phases of the kind are there, among the first MixType + 1; negative when PHASE1 is
+    /// of that kind.
     int iSolid() const;
     int iLiquid() const;
     int iGas() const;

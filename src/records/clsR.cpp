@@ -2,7 +2,9 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
+#include "records/MixtureLetters.h"
 #include "records/OpenRecord.h"
+#include "records/RegistryNumbers.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
@@ -10,7 +12,9 @@
 #include "records/clsS.h"
 #include "reference/Text.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace vexora {
 
@@ -94,12 +98,22 @@ bool clsR::Load(std::string_view line, Notices& told) {
     return false;
 }
 
-void clsR::PrepareOutput() {
+std::vector<std::string> clsR::PrepareOutput() {
     for (const auto& compound : recL) {
-        // Letters 2 to 5 tell of mixtures and reactions, which this edition does not keep.
+        // Letters 4 and 5 tell of reactions, which this edition does not keep.
         compound->SYSTYPES = compound->SYSTYPES.substr(0, 1) + "NNNN";
+        compound->isInMixture = false;
     }
-    UpdateRefInfo();
+    for (const auto& mixture : recM) {
+        for (int n = 1; n <= mixture->MixType; ++n) {
+            const auto compound = mixture->Component(n);
+            if (!compound) continue;
+            compound->isInMixture = true;
+            if (mixture->HasData())
+                compound->SYSTYPES[static_cast<std::size_t>(mixture->MixType - 1)] = 'D';
+        }
+    }
+    return UpdateRefInfo();
 }
 
 void clsR::PrintR(LineWriter& out) const {
@@ -152,19 +166,37 @@ void clsR::EachChild(const std::function<void(Record&)>& visit) const {
         visit(*mixture);
 }
 
-void clsR::UpdateRefInfo() {
+std::vector<std::string> clsR::UpdateRefInfo() {
+    std::vector<std::string> faults;
     PRPCLASS.clear();
-    for (const auto& compound : recL) {
-        compound->UpdateInfo();
-        for (const char letter : compound->REFPROP) {
+    const auto add = [this](const std::string& letters) {
+        for (const char letter : letters) {
             if (letter != '&' && PRPCLASS.find(letter) == std::string::npos) PRPCLASS += letter;
         }
+    };
+    for (const auto& compound : recL) {
+        compound->UpdateInfo();
+        add(compound->REFPROP);
+    }
+    MixtureLetters letters;
+    for (const auto& mixture : recM) {
+        std::ranges::move(mixture->UpdateInfo(letters), std::back_inserter(faults));
+        add(mixture->REFPRP);
     }
     if (PRPCLASS.empty()) PRPCLASS = "&";
+    return faults;
 }
 
 void clsR::CheckPresence() {
-    // Only mixtures and reactions name compounds by their number, and this edition keeps neither.
+    for (const auto& mixture : recM) {
+        for (int n = 1; n <= mixture->MixType; ++n) {
+            if (mixture->Component(n) || NamesNoCompound(mixture->RN(n))) continue;
+            auto compound = std::make_shared<clsL>();
+            compound->RN = mixture->RN(n);
+            compound->TakeKnownIdentity();
+            compound->AttachTo(*this);
+        }
+    }
 }
 
 std::shared_ptr<clsL> clsR::FindL(std::string_view rn, std::size_t* index) const {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "records/Notice.h"
 #include "records/Record.h"
@@ -95,9 +96,10 @@ public:
     void PrintR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintR(out); }
     void EachChild(const std::function<void(Record&)>& visit) const override;
-    /// Composes PRPCLASS and the letters of every compound from what the document holds.
+    /// Composes PRPCLASS and the letters of every compound and mixture from what the document
+    /// holds. The answer is what does not fit, for the user.
     /// Nothing reads these letters back: they are made anew at every save.
-    void UpdateRefInfo();
+    std::vector<std::string> UpdateRefInfo();
     /// Every compound that a mixture or a reaction names exists; missing ones are made.
     void CheckPresence();
 
@@ -121,8 +123,9 @@ public:
     /// being the code. Another letter leaves it open.
     std::string QuestionOfOrigin() const;
     void TakeOrigin(std::string_view answer);
-    /// Brings SYSTYPES and the property letters up to date, as saving and exporting need them.
-    void PrepareOutput();
+    /// Brings SYSTYPES and the property letters up to date, as saving and exporting need them. The
+    /// answer is what does not fit, for the user.
+    std::vector<std::string> PrepareOutput();
 
     void ExportR(XmlWriter& xml, const ui::Date& today) const;
     void ExportAll(XmlWriter& xml, const ui::Date& today);

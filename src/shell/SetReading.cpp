@@ -4,6 +4,7 @@
 #include "records/MixtureWords.h"
 #include "records/Presentation.h"
 #include "records/PropertyLabels.h"
+#include "records/RowMasses.h"
 #include "records/StateRules.h"
 #include "records/StatedUncertainty.h"
 #include "records/clsM.h"
@@ -36,13 +37,14 @@ std::string RangeOf(const DataSet& set, int n) {
     const bool inSystem = HasBothKinds(set);
     UnitConversion entered = set.Conversion(n);
     const bool byRow = n == 0 && set.ConvertsByRow();
+    RowMasses masses(set);
     std::string least, greatest;
     double low = 0, high = 0;
     for (const clsData& row : set.recData) {
         const std::string typed = row.Values[static_cast<std::size_t>(n)];
         if (!IsNumeric(typed)) continue;
         const bool converts = inSystem && row.inOriginalUnits;
-        if (converts && byRow) entered.molarMass = set.MolarMass(row);
+        if (converts && byRow) entered.molarMass = masses.Of(row);
         const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
         const std::string text = converts ? entered.Converted(typed).text : typed;
         if (least.empty() || value < low) {

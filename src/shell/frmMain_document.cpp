@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
+#include <set>
+#include <string>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Database.h"
@@ -30,11 +33,21 @@ const clsR& Source() {
     return *Globals().recR.Item(std::size_t{1});
 }
 
-/// Compounds that came from a file and have no sample are left out of the file.
+/// Compounds that came from a file and have no sample are left out of the file, unless a mixture
+/// names them.
 bool LosesCompounds(const clsR& source) {
-    return std::any_of(source.recL.begin(), source.recL.end(), [](const auto& compound) {
-        return compound->recS.IsEmpty() && !compound->isNew;
+    std::set<std::string> named;
+    for (const auto& mixture : source.recM)
+        for (int n = 1; n <= mixture->MixType; ++n)
+            named.insert(mixture->RN(n));
+    return std::ranges::any_of(source.recL, [&named](const auto& compound) {
+        return compound->recS.IsEmpty() && !compound->isNew && !named.contains(compound->RN);
     });
+}
+
+bool LosesMixtures(const clsR& source) {
+    return std::ranges::any_of(source.recM,
+                               [](const auto& mixture) { return !mixture->HasData(); });
 }
 
 /// Prints what is to be written; nothing with the reason in error when that fails. Printing looks
@@ -229,6 +242,8 @@ bool frmMain::WriteDocument() {
     for (const auto& source : globals.recR) {
         if (LosesCompounds(*source))
             ui::Say("Some compounds do not have samples.\nThey will not be saved!");
+        if (LosesMixtures(*source))
+            ui::Say("Some mixtures do not have data.\nThey will not be saved!");
     }
     SaveOutcome outcome;
     const auto text = Printed(DocumentAsRecords, outcome.fault);
