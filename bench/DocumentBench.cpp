@@ -56,6 +56,16 @@ std::string ManyRows(int count) {
     return text + "^M 0\n";
 }
 
+/// The same rows, of a mixture.
+std::string ManyMixtureRows(int count) {
+    std::string text = sample + "^L 64175 NNNNN &\n^S 1 ns\n^B 64175 7732185 &\n"
+                                "^A & O & & & & & &\n"
+                                "^2 1 1 VDN S DIR 1 Y L P 101.325 T C X1 S & & & & & &\n";
+    for (int i = 1; i <= count; ++i)
+        text += "^d " + std::to_string(i) + ".25 0.101325 997.0479 0.001\n";
+    return text;
+}
+
 void ReadAndWrite(benchmark::State& state, const std::string& text) {
     Room room;
     std::size_t written = 0;
@@ -76,6 +86,10 @@ void ReadAndWriteRows(benchmark::State& state) {
     ReadAndWrite(state, ManyRows(static_cast<int>(state.range(0))));
 }
 
+void ReadAndWriteMixtureRows(benchmark::State& state) {
+    ReadAndWrite(state, ManyMixtureRows(static_cast<int>(state.range(0))));
+}
+
 /// An export is read again before it is handed out; both belong to its time.
 void ExportValues(benchmark::State& state) {
     Room room;
@@ -89,6 +103,8 @@ void ExportValues(benchmark::State& state) {
 
 BENCHMARK(ReadAndWriteValues)->Arg(5000)->Arg(50000)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadAndWriteRows)->Arg(10000)->Arg(100000)->Complexity()->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadAndWriteRows)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadAndWriteMixtureRows)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 BENCHMARK(ExportValues)->Arg(5000)->Arg(50000)->Complexity()->Unit(benchmark::kMillisecond);
 
