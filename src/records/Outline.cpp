@@ -90,7 +90,7 @@ void AddColumns(Outline& outline, const std::vector<Quantity>& quantities) {
     outline.columns.insert(outline.columns.end(), {"combined uncertainty", "curve deviation"});
 }
 
-std::string RowText(const DataSet& set, const clsData& row, const std::vector<int>& items) {
+std::string RowText(const clsData& row, const std::vector<int>& items, bool hasTies) {
     std::string text = row.inOriginalUnits ? "of the paper" : "system";
     const auto add = [&text](std::string_view part) { text.append("\t").append(part); };
     for (const int item : items)
@@ -98,7 +98,7 @@ std::string RowText(const DataSet& set, const clsData& row, const std::vector<in
     for (const int item : items)
         add(row.isDigit ? std::to_string(row.DigitCount(item)) : "");
     add(row.PRPUNCERTY);
-    add(set.HasTies() ? std::string_view(row.TIELINE) : std::string_view());
+    add(hasTies ? std::string_view(row.TIELINE) : std::string_view());
     for (const int item : items) {
         const RowStatements& stated = row.StatementsOf(item);
         for (const std::string* part : {&stated.DS, &stated.Rep, &stated.Repetitions, &stated.Unc})
@@ -118,8 +118,9 @@ void AddRows(Outline& outline, const DataSet& set) {
     for (const Quantity& quantity : quantities)
         items.push_back(quantity.item);
     outline.rows.reserve(set.recData.Count());
+    const bool hasTies = set.HasTies();
     for (const clsData& row : set.recData)
-        outline.rows.push_back(RowText(set, row, items));
+        outline.rows.push_back(RowText(row, items, hasTies));
 }
 
 std::string IdentityOfSource(std::size_t place) {

@@ -197,7 +197,7 @@ void ReadHeader(ReaderState& state, std::string_view line) {
     const bool isUnused = state.headerLine != 0;
     const clsA before = isUnused ? state.pending : clsA();
     // In a mixture nothing else closes the factor of a set.
-    if (state.lines == &MixtureLines) {
+    if (state.lines == &MixtureLines && line.starts_with("^A")) {
         state.LeaveFactor();
         state.pending.Factor = 0;
     }

@@ -192,6 +192,16 @@ TEST_F(DocumentTest, ACompoundWithoutSampleIsWarnedOf) {
     EXPECT_EQ(FileText(path).find("64175"), std::string::npos);
 }
 
+TEST_F(DocumentTest, AMixtureWithoutDataIsWarnedOf) {
+    const std::string path = WriteDocument("^L 64175 NNNNN &\n^B 64175 7732185 &\n");
+    ASSERT_TRUE(Start(path));
+    // The compound stays in the file, for a mixture names it.
+    desktop.Expect("Some mixtures do not have data.\nThey will not be saved!");
+    Shell().Save();
+    EXPECT_EQ(FileText(path).find("^B"), std::string::npos);
+    EXPECT_NE(FileText(path).find("^L 64175 NNNNN &"), std::string::npos);
+}
+
 TEST_F(DocumentTest, ADropIsIgnoredWhileTheShellIsLocked) {
     const std::string path = WriteDocument();
     ASSERT_TRUE(Start());
