@@ -189,6 +189,8 @@ std::vector<std::string> clsR::UpdateRefInfo() {
 
 void clsR::CheckPresence() {
     for (const auto& mixture : recM) {
+        // Data need a sample of each component; a compound that lacks there is told, not made up.
+        if (mixture->HasData()) continue;
         for (int n = 1; n <= mixture->MixType; ++n) {
             if (mixture->Component(n) || NamesNoCompound(mixture->RN(n))) continue;
             auto compound = std::make_shared<clsL>();
