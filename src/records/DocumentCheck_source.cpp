@@ -9,6 +9,7 @@
 #include "records/SourceText.h"
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
+#include "records/clsM.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
@@ -126,7 +127,7 @@ void CheckSample(const clsS& sample, Findings& findings) {
         remarks.Error("Sample description cannot be interpreted: " + sample.SMPDESC);
     else if (description->Availability.empty() && sample.Purity <= 0)
         remarks.Hint(sample.Key() + ": no purity is stated");
-    if (sample.recZ.IsEmpty() && sample.recTwo.IsEmpty())
+    if (sample.recZ.IsEmpty() && sample.recTwo.IsEmpty() && !IsUsedInMixtures(sample))
         remarks.Warn(sample.Key() + " has no data");
     CheckEqualValues(sample, findings);
     CheckEqualPoints(sample, findings);

@@ -8,6 +8,7 @@
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
+#include "records/clsS.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
@@ -231,6 +232,27 @@ bool clsM::CheckSamples() const {
         if (!compound || compound->recS.IsEmpty()) return false;
     }
     return true;
+}
+
+int clsM::PlaceOf(const clsL& compound) const {
+    for (int n = 1; n <= MixType; ++n)
+        if (RN(n) == compound.RN) return n;
+    return 0;
+}
+
+bool IsUsedInMixtures(const clsS& sample) {
+    const clsL* const compound = sample.Parent;
+    if (compound == nullptr || compound->Parent == nullptr) return false;
+    for (const auto& mixture : compound->Parent->recM) {
+        const int n = mixture->PlaceOf(*compound);
+        const auto isOfSample = [&](const auto& record) {
+            return record->SMPNM(n) == sample.SMPNM;
+        };
+        if (n != 0 && (std::ranges::any_of(mixture->recMZ, isOfSample) ||
+                       std::ranges::any_of(mixture->recMV, isOfSample)))
+            return true;
+    }
+    return false;
 }
 
 } // namespace vexora

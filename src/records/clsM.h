@@ -17,6 +17,7 @@ class clsMMM;
 class clsMV;
 class clsMZ;
 class clsR;
+class clsS;
 class LineWriter;
 class MixtureLetters;
 class XmlWriter;
@@ -54,6 +55,8 @@ public:
     std::string Abbreviate(int n) const;
     /// The compound that is component n, null when the source has none.
     std::shared_ptr<clsL> Component(int n) const;
+    /// Which component a compound is, 0 for none.
+    int PlaceOf(const clsL& compound) const;
     /// Molar masses [g/mol] of the components, 0 for one that is not known.
     std::array<double, 3> MolarMasses() const;
 
@@ -90,5 +93,8 @@ private:
 
 /// The components of a mixture for its average molar mass and its purity.
 void SetMixture(clsMMM& calculator, const clsM& mixture);
+
+/// A property of a mixture was measured on this sample of a component.
+bool IsUsedInMixtures(const clsS& sample);
 
 } // namespace vexora

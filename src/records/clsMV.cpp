@@ -290,17 +290,6 @@ bool clsMV::Return(std::size_t place) {
     return Parent && ReturnTo(Parent->recMV, place, Parent->recMV.Item(Key()));
 }
 
-int NextSetNumber(const clsM& mixture, const clsMV& set) {
-    int highest = 0;
-    for (const auto& one : mixture.recMV) {
-        const bool isAlike = one->nVar == set.nVar && one->PRPCODE == set.PRPCODE &&
-                             one->SMPNM1 == set.SMPNM1 && one->SMPNM2 == set.SMPNM2 &&
-                             one->SMPNM3 == set.SMPNM3;
-        if (isAlike) highest = std::max(highest, static_cast<int>(ToInteger(Val(one->PRPSETNO))));
-    }
-    return highest + 1;
-}
-
 void clsMV::Replace(const clsMV& other) {
     clsM* const parent = Parent;
     ui::TreeNode* const node = tNode;

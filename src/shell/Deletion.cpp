@@ -31,49 +31,24 @@ std::string WhySourceStays(const Record& record) {
     return isEmpty ? "" : Blocked;
 }
 
-/// The place of a compound in a mixture, 0 when it is no component.
-int ComponentOf(const clsM& mixture, const clsL& compound) {
-    for (int n = 1; n <= mixture.MixType; ++n)
-        if (mixture.RN(n) == compound.RN) return n;
-    return 0;
-}
-
 std::string WhyCompoundStays(const Record& record) {
     const auto& compound = static_cast<const clsL&>(record);
     const std::string stays = "This compound cannot be deleted now\n";
     if (!compound.recS.IsEmpty()) return stays + "A sample for this compound is described";
     if (compound.Parent == nullptr) return {};
     for (const auto& mixture : compound.Parent->recM)
-        if (ComponentOf(*mixture, compound) != 0)
+        if (mixture->PlaceOf(compound) != 0)
             return stays + "A mixture containing this compound is defined";
     return {};
-}
-
-template <class Records>
-bool AnyOfSample(const Records& records, int component, const std::string& number) {
-    return std::any_of(records.begin(), records.end(),
-                       [&](const auto& record) { return record->SMPNM(component) == number; });
-}
-
-/// A property of a mixture was measured on this sample of a component.
-bool IsInMixture(const clsS& sample) {
-    const clsL* const compound = sample.Parent;
-    if (compound == nullptr || compound->Parent == nullptr) return false;
-    for (const auto& mixture : compound->Parent->recM) {
-        const int component = ComponentOf(*mixture, *compound);
-        if (component != 0 && (AnyOfSample(mixture->recMZ, component, sample.SMPNM) ||
-                               AnyOfSample(mixture->recMV, component, sample.SMPNM)))
-            return true;
-    }
-    return false;
 }
 
 std::string WhySampleStays(const Record& record) {
     const auto& sample = static_cast<const clsS&>(record);
     if (!sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty()) return Blocked;
-    return IsInMixture(sample) ? "You cannot delete this record because properties of mixtures "
-                                 "containing this sample are present"
-                               : "";
+    return IsUsedInMixtures(sample)
+               ? "You cannot delete this record because properties of mixtures "
+                 "containing this sample are present"
+               : "";
 }
 
 std::string WhyMixtureStays(const Record& record) {
