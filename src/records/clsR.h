@@ -100,7 +100,7 @@ public:
     /// holds. The answer is what does not fit, for the user.
     /// Nothing reads these letters back: they are made anew at every save.
     std::vector<std::string> UpdateRefInfo();
-    /// Every compound that a mixture or a reaction names exists; missing ones are made.
+    /// Every compound that a mixture without data names exists; missing ones are made.
     void CheckPresence();
 
     /// The compound with this RN, or null; its place from 1 goes into index.
