@@ -37,9 +37,11 @@ void frmMixtVar::ArrangeControls() {
         lblConstraint(i).Caption("Constraint " + number);
         lblVar(i).Caption("Variable " + number);
         constraints.push_back(
-            Field(lblConstraint(i), Row({cboConstraint(i), Narrow(txtConstr(i), 14),
-                                         cboConstrUnit(i), cboConstrPhase(i)})));
-        variables.push_back(Field(lblVar(i), Row({cboVar(i), cboVarUnit(i), cboVarPhase(i)})));
+            Field(lblConstraint(i),
+                  Row({cboConstraint(i), Narrow(txtConstr(i), 14),
+                       Field("Units:", cboConstrUnit(i)), Field("In:", cboConstrPhase(i))})));
+        variables.push_back(Field(lblVar(i), Row({cboVar(i), Field("Units:", cboVarUnit(i)),
+                                                  Field("In:", cboVarPhase(i))})));
     }
     Arrangement = Column(
         {Row({Field("Mixture:", cboMixt), Field("Property set #", txtPrpSetNo)}), Row(samples),

@@ -48,13 +48,12 @@ struct Fault {
     int index = 0;
 };
 
-/// Every finding with what brings it about in a sound draft, in the order in which they are told.
-std::vector<Fault> Faults() {
+/// Findings with what brings them about in a sound draft, in the order in which they are told:
+/// those about what stands on the form, then those about what it means.
+std::vector<Fault> FaultsOfChoices() {
     using enum MixtVarField;
     const std::string noSolvents = "Sorry, composition variables associated with solvent "
                                    "definition are not allowed for excess properties";
-    const std::string inconsistent =
-        "Solvent composition is inconsistent with one variable or property\n";
     return {
         {Method, "Please select experimental method", [](auto& d) { d.method = "EBULLIO"; }},
         {PhaseCount, "Select the number of phases in equilibrium",
@@ -111,6 +110,14 @@ std::vector<Fault> Faults() {
          [](auto& d) { d.variables[1].unit.clear(); }, 1},
         {Constant, "Enter a constant value of the state variable Wavelength",
          [](auto& d) { d.property = "RIX"; }},
+    };
+}
+
+std::vector<Fault> FaultsOfMeaning() {
+    using enum MixtVarField;
+    const std::string inconsistent =
+        "Solvent composition is inconsistent with one variable or property\n";
+    return {
         {RefPhase, "Select the initial phase of solute",
          [](auto& d) {
              d.property = "HSL";
@@ -176,6 +183,13 @@ std::vector<Fault> Faults() {
          }},
         {Numerical, "Select availability of numeric data", [](auto& d) { d.numerical.clear(); }},
     };
+}
+
+std::vector<Fault> Faults() {
+    std::vector<Fault> faults = FaultsOfChoices();
+    const std::vector<Fault> others = FaultsOfMeaning();
+    faults.insert(faults.end(), others.begin(), others.end());
+    return faults;
 }
 
 TEST_F(MixtVarRulesTest, EachFaultIsToldByItselfAtItsField) {
