@@ -35,17 +35,17 @@ void frmMixtSingle::ArrangeControls() {
         lblPhase(n).Caption("Phase " + std::to_string(n + 1) + ":");
     std::vector<Layout> mixture = {Row({cboMixt, Field("Property set #", Narrow(txtPrpSetNo, 4))})};
     for (int n = 0; n < cboSample.Count(); ++n)
-        mixture.push_back(Field(lblSample(n), Narrow(cboSample(n), 12)));
+        mixture.push_back(Field(lblSample(n), Narrow(cboSample(n), 24)));
     const auto phase = [this](int n) { return Field(lblPhase(n), lstPhase(n)); };
-    Arrangement = Column(
-        {Group("Mixture", mixture),
-         Group("Phases",
-               {lblReminder, Row({phase(0), phase(1), phase(2)}), Row({phase(3), phase(4)})}),
-         Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
-         Group(fraState, {Row({Field(lblT, Row({Narrow(txtT, 16), Narrow(cboTUnit, 12)})),
-                               Field(lblP, Row({Narrow(txtP, 16), Narrow(cboPUnit, 12)}))})}),
-         Field("Comment to this record:", txtComment),
-         ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
+    Arrangement =
+        Column({Group("Mixture", mixture),
+                Group("Phases", {lblReminder, Row({phase(0), phase(1), phase(2)}),
+                                 Row({phase(3), phase(4)})}),
+                Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
+                Group(fraState, {Field(lblT, Row({Narrow(txtT, 24), Narrow(cboTUnit, 20)})),
+                                 Field(lblP, Row({Narrow(txtP, 24), Narrow(cboPUnit, 20)}))}),
+                Field("Comment to this record:", txtComment),
+                ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
     TabAlongArrangement();
     PreferredColumns = 100;
 }
