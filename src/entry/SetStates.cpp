@@ -11,8 +11,11 @@ namespace {
 
 constexpr int KeyDigits = 9; // what conversions from different units agree in
 
-std::string PhaseKept(const std::string& phase) {
-    return IsBlankField(phase) ? std::string() : phase;
+/// The phase by which a quantity is told apart: temperature and pressure are those of all phases,
+/// whichever of them the set leads with.
+std::string PhaseKept(std::string_view code, const std::string& phase) {
+    const std::string_view state = StateCode(code);
+    return IsBlankField(phase) || state == "T" || state == "P" ? std::string() : phase;
 }
 
 std::string CellText(const SystemState::Cell& cell) {
@@ -34,8 +37,8 @@ std::string TextOfCells(const SystemState::Cell* from, const SystemState::Cell* 
 std::vector<SystemState::Cell> ConstantCells(const DataSet& set) {
     std::vector<SystemState::Cell> cells;
     for (const SetConstant& constant : set.SystemConstants())
-        cells.push_back(
-            {std::string(StateCode(constant.code)), PhaseKept(constant.phase), constant.value});
+        cells.push_back({std::string(StateCode(constant.code)),
+                         PhaseKept(constant.code, constant.phase), constant.value});
     return cells;
 }
 
@@ -89,7 +92,7 @@ void SetStates::Add(const DataSet& set, bool isInHand) {
         PhasesKey(set) + TextOfCells(constants.data(), constants.data() + constants.size()) + "|";
     std::string quantity = frame;
     for (int n = 0; n <= set.nVar; ++n)
-        quantity += CodeOf(set, n) + "/" + PhaseKept(set.PhaseFor(n)) + ";";
+        quantity += CodeOf(set, n) + "/" + PhaseKept(CodeOf(set, n), set.PhaseFor(n)) + ";";
     frame += std::to_string(layers_[quantity]++) + "|";
     std::vector<UnitConversion> conversions;
     for (int n = 0; n <= set.nVar; ++n)
@@ -101,7 +104,7 @@ void SetStates::Add(const DataSet& set, bool isInHand) {
         if (!IsWhole(row, set.nVar)) continue;
         const auto add = [&](int n) {
             state.cells.push_back(
-                {std::string(StateCode(CodeOf(set, n))), PhaseKept(set.PhaseFor(n)),
+                {std::string(StateCode(CodeOf(set, n))), PhaseKept(CodeOf(set, n), set.PhaseFor(n)),
                  SystemValueOf(row, n, conversions[static_cast<std::size_t>(n)])});
         };
         for (int n = 1; n <= set.nVar; ++n)

@@ -102,16 +102,17 @@ TEST_F(PhasePlotTest, SetsThatTellNoPhasesHaveNone) {
 }
 
 TEST_F(PhasePlotTest, LayersOfATernaryAreJoinedByTheirTieNumbers) {
-    const std::vector<SetConstant> room{{"T", "", 291.15}};
+    // The form names the main phase of each set beside its temperature.
+    const std::vector<SetConstant> room{{"T", "L1", 291.15}}, other{{"T", "L2", 291.15}};
     std::vector<MixtureSet> sets{
         {{{"W2", "0.01", "L1"}, {"W1", "0.01", "L1"}},
          lle,
          room,
          {"0.00 99.01 & 1", "6.77 91.85 & 2"}},
-        {{{"W1", "S", "L2"}, {"W1", "0.01", "L1"}}, lle, room, {"6.77 0.2510 & 2", "0.00 0 & 1"}},
+        {{{"W1", "S", "L2"}, {"W1", "0.01", "L1"}}, lle, other, {"6.77 0.2510 & 2", "0.00 0 & 1"}},
         {{{"W3", "0.01", "L2"}, {"W1", "0.01", "L1"}},
          lle,
-         room,
+         other,
          {"0.00 99.16 & 1", "6.77 73.69 & 2"}},
     };
     Sets all;
