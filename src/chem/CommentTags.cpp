@@ -189,8 +189,9 @@ void CommentTags::ChangePrecisionCodes(
 void CommentTags::RewritePrecisions(
     const std::function<std::string(const std::string&, const std::string&)>& rewritten) {
     if (tags_.empty()) return;
-    std::string result = ":"; // the first of the two that open the tags
-    for (std::size_t at = 1; at < tags_.size();) {
+    const std::size_t first = isComment_ ? 1 : 0; // behind the first of the two that open the tags
+    std::string result = tags_.substr(0, first);
+    for (std::size_t at = first; at < tags_.size();) {
         const std::size_t codeEnd = tags_.find(':', at + 1);
         const std::size_t valueEnd =
             codeEnd == std::string::npos ? codeEnd : tags_.find(':', codeEnd + 1);

@@ -79,9 +79,8 @@ std::string PhasesKey(const DataSet& set) {
 
 /// The cells of a state stand in the order of Add: constants, variables, property.
 std::string SetStates::KeyOf(const DataSet& set, const SystemState& state, const clsData& row,
-                             const std::string& frame) const {
-    if (set.HasTies() && !IsBlankField(row.TIELINE))
-        return frame + "tie " + std::string(row.TIELINE);
+                             const std::string& frame, bool hasTies) const {
+    if (hasTies && !IsBlankField(row.TIELINE)) return frame + "tie " + std::string(row.TIELINE);
     const SystemState::Cell* const end = state.cells.data() + state.cells.size() - 1;
     return frame + TextOfCells(end - set.nVar, end);
 }
@@ -99,6 +98,7 @@ void SetStates::Add(const DataSet& set, bool isInHand) {
         conversions.push_back(set.Conversion(n));
     std::unordered_map<std::string, int> repeated;
     int point = 0;
+    const bool hasTies = set.HasTies(); // looks at all rows
     for (const clsData& row : set.recData) {
         SystemState state{constants, isInHand ? point++ : -1};
         if (!IsWhole(row, set.nVar)) continue;
@@ -110,7 +110,7 @@ void SetStates::Add(const DataSet& set, bool isInHand) {
         for (int n = 1; n <= set.nVar; ++n)
             add(n);
         add(0);
-        std::string key = KeyOf(set, state, row, frame);
+        std::string key = KeyOf(set, state, row, frame, hasTies);
         key += "#" + std::to_string(repeated[key]++);
         const auto [at, isNew] = byKey_.try_emplace(key, states_.size());
         if (isNew) {

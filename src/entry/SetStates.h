@@ -40,7 +40,7 @@ public:
 
 private:
     std::string KeyOf(const DataSet& set, const SystemState& state, const clsData& row,
-                      const std::string& frame) const;
+                      const std::string& frame, bool hasTies) const;
 
     std::vector<SystemState> states_;
     std::unordered_map<std::string, std::size_t> byKey_;

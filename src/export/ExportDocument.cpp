@@ -9,6 +9,7 @@
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
+#include "records/PropertyLabels.h"
 #include "records/Walk.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -48,8 +49,8 @@ void TellWhatIsUnusual() {
         if (compound && compound->Name.empty()) unnamed.push_back(compound->RN);
         const auto* set = dynamic_cast<const DataSet*>(&record);
         if (!set || !IsWithoutNumbers(*set)) return;
-        sets.push_back(set->SystemName() + ": " + PropertyName(set->PRPCODE, set->DataContext()) +
-                       ", Set " + set->PRPSETNO);
+        sets.push_back(set->SystemName() + ": " + PropertyLabels::Of(*set).name + ", Set " +
+                       set->PRPSETNO);
     });
     TellTogether("These compounds have no name and stand under their registry numbers in the file:",
                  unnamed);

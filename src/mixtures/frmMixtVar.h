@@ -158,7 +158,7 @@ private:
     void WriteStatementsOfConstants(clsMV& set) const;
     void WriteComment(clsMV& set);
     void DropConstants(CommentTags& tags) const;
-    void DropPrecisions(CommentTags& tags, const clsMV& set) const;
+    void AdjustPrecisions(CommentTags& tags, const clsMV& set) const;
     void BuildPropertyChain();
     std::string UnitCodeOf(const MixtVarQuantity& shown, const std::string& before,
                            const std::string& unitBefore, bool original) const;

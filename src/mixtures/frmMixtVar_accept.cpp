@@ -10,6 +10,7 @@
 #include "entry/SetRevision.h"
 #include "globals/KVOGlobal.h"
 #include "records/Presentation.h"
+#include "records/PropertyLabels.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
 #include "reference/Conversions.h"
@@ -116,7 +117,7 @@ bool frmMixtVar::CheckUnits() {
         const auto masses = Mixture()->MolarMasses();
         for (int n = 0; n < Mixture()->MixType; ++n)
             if (masses[static_cast<std::size_t>(n)] <= 0)
-                return Refuse(cmdMethod, "Molar mass of the compound is not known");
+                return Refuse(cmdMethod, "Molar mass of the mixture is not known");
     } else if (const std::string fault = UnitFault(head); !fault.empty()) {
         return Refuse(cmdMethod, fault);
     }
@@ -158,9 +159,9 @@ bool frmMixtVar::MayDropStatements() {
     ui::Control* field = nullptr;
     for (const int item : ReplacedItems()) {
         if (!HasStatements(*record_, item)) continue;
-        names += (names.empty() ? "" : " and ") +
-                 (item == 0 ? PropertyName(record_->PRPCODE, record_->DataContext())
-                            : VariableName(record_->VARIABLE(item)));
+        names +=
+            (names.empty() ? "" : " and ") +
+            (item == 0 ? PropertyLabels::Of(*record_).name : VariableName(record_->VARIABLE(item)));
         if (!field) field = item == 0 ? &static_cast<ui::Control&>(cmdMethod) : &cboVar(item - 1);
     }
     return !field || AskToDropStatements(*field, names);

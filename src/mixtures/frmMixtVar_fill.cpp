@@ -106,6 +106,7 @@ std::shared_ptr<clsM> frmMixtVar::Mixture() const {
 void frmMixtVar::Fill(const clsMV& record) {
     Globals().CurrentProperty = BuildChain(record); // the tags of the comment name its quantities
     txtComment.Text(TakeComment(record.Header.DATACOMMENT));
+    lblVar5.Caption(""); // its value stands among the tags, known only now
     constraintsChosen_ = true;
     FillSamples(record);
     ChooseText(cboPhases, std::to_string(record.nPhases()));

@@ -32,6 +32,19 @@ std::shared_ptr<clsMV> DefinitionOf(const clsMV& pattern) {
     return set;
 }
 
+/// Another figure in another unit says the same of a constant; what is stated about it has to
+/// follow. Of another unit alone the figures are those of the paper, as rows are.
+bool IsTurned(const HeldConstant& before, const HeldConstant& now) {
+    return before.unit != now.unit && before.value != now.value;
+}
+
+/// A difference stated in the unit of before, in that of now.
+std::string Turned(const HeldConstant& before, const HeldConstant& now, const std::string& typed) {
+    const UnitConversion from = DataSet::ConversionOf(before.code, before.unit);
+    const UnitConversion to = DataSet::ConversionOf(now.code, now.unit);
+    return to.EnteredDifferenceText(from.DifferenceText(typed));
+}
+
 clsX Unstated(int n) {
     clsX item;
     item.N = n;
@@ -177,6 +190,9 @@ void frmMixtVar::WriteStatementsOfConstants(clsMV& set) const {
         item = as_->UX[static_cast<std::size_t>(from->item)];
         item.N = constant.item;
         if (from->phase != constant.phase) item.PHASE = constant.phase;
+        if (!IsTurned(*from, constant)) continue;
+        for (std::string* text : {&item.DSValue, &item.RValue, &item.UValue})
+            *text = Turned(*from, constant, *text);
     }
     // A constant that only the comment names has its statement in a place that is left.
     for (std::size_t n = static_cast<std::size_t>(as_->nVar) + 1; n < as_->UX.size(); ++n) {
@@ -204,7 +220,7 @@ void frmMixtVar::WriteComment(clsMV& set) {
     const bool stated = !open.empty() && !txtVar5.IsEmpty();
     if (!stated || !tags.Has(constant)) DropConstants(tags);
     if (stated) tags.Set(constant, true);
-    DropPrecisions(tags, set);
+    AdjustPrecisions(tags, set);
     Globals().KeyRest = tags.Stored();
     BuildPropertyChain();
     vexora::FillHeader(set.Header, !record_,
@@ -227,13 +243,20 @@ void frmMixtVar::DropConstants(CommentTags& tags) const {
     }
 }
 
-/// The precision of a constraint is not true of what came in its place.
-void frmMixtVar::DropPrecisions(CommentTags& tags, const clsMV& set) const {
+/// The precision of a constraint is not true of what came in its place, and follows its unit.
+void frmMixtVar::AdjustPrecisions(CommentTags& tags, const clsMV& set) const {
     if (!as_) return;
     const std::vector<HeldConstant> constants = set.Constants();
-    for (const HeldConstant& old : as_->Constants())
-        if (std::ranges::find(constants, old.code, &HeldConstant::code) == constants.end())
+    for (const HeldConstant& old : as_->Constants()) {
+        const auto now = std::ranges::find(constants, old.code, &HeldConstant::code);
+        if (now == constants.end()) {
             tags.TakePrecision(old.code);
+        } else if (IsTurned(old, *now)) {
+            tags.ChangePrecisions([&](const std::string& code, const std::string& typed) {
+                return code == old.code ? Turned(old, *now, typed) : typed;
+            });
+        }
+    }
 }
 
 /// The items of variables that are no longer there go, with the precisions stated for them.

@@ -148,6 +148,8 @@ public:
     /// unit or a molar mass is not known.
     /// Never called for writing: the file keeps the figures of the paper wherever it can.
     bool AdjustUnits();
+    /// How a value of a state variable leads to its system unit from that of a unit field.
+    static UnitConversion ConversionOf(const std::string& variable, const std::string& field);
 
 protected:
     DataSet(const DataSet&) = default;
@@ -157,8 +159,6 @@ protected:
     virtual std::string DefinitionLine() const = 0;
     /// Brings the values of Constants() to system units.
     virtual void AdjustConstants() {}
-    /// How a value of a state variable leads to its system unit from that of a unit field.
-    static UnitConversion ConversionOf(const std::string& variable, const std::string& field);
     /// The comment as the record bears it, with the tags that the line of the class leaves to it.
     virtual std::string CommentOfLine() const { return Header.DATACOMMENT; }
     /// What stands behind the rows, "^M 0" to close the factor.

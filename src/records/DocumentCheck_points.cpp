@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "chem/CommentTags.h"
+#include "records/PropertyLabels.h"
 #include "records/clsS.h"
 #include "records/clsZ.h"
 #include "reference/KVODefinitions.h"
@@ -100,8 +101,7 @@ void CheckSetAmong(const DataSet& set, Points& known, Findings& findings) {
                                   place.set->PRPSETNO + " too");
     }
     if (!repeated.IsEmpty())
-        Remarks(findings, set)
-            .Warn(PropertyName(set.PRPCODE, set.DataContext()) + ": " + repeated.Text());
+        Remarks(findings, set).Warn(PropertyLabels::Of(set).name + ": " + repeated.Text());
 }
 
 /// Single values of one sample as texts that are equal when the values and their states are. What

@@ -1,5 +1,6 @@
 #include "records/MixtureWords.h"
 
+#include "records/PropertyLabels.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
@@ -20,6 +21,11 @@ bool HasNumber(std::string_view name) {
 bool IsComposition(std::string_view code) {
     const VariableRow* const row = FindVariable(code);
     return row && row->IndVariable.find(ComponentWord) != std::string::npos;
+}
+
+/// Temperature and pressure are those of all phases together.
+bool IsOfAllPhases(std::string_view code) {
+    return code == "T" || code == "P";
 }
 
 } // namespace
@@ -67,20 +73,19 @@ std::string QuantityInWords(const clsMV& set, int n) {
     const std::string& code = n <= set.nVar ? set.VARIABLE(n) : set.CONSTRAINT(n - set.nVar);
     std::string words;
     if (isProperty) {
-        const std::string name = PropertyName(code, set.DataContext(), set.Context());
-        words = WithComponents(name.empty() ? code : name, set.Parent);
+        words = WithComponents(PropertyLabels::Of(set).name, set.Parent);
     } else {
         words = VariableInWords(set, code);
     }
-    const bool saysPhase = IsComposition(code) || (isProperty && set.nPhases() > 1);
+    const bool saysPhase =
+        IsComposition(code) || (isProperty && set.nPhases() > 1 && !IsOfAllPhases(code));
     const std::string& phase = set.PhaseFor(n);
     return FirstSmall(words) + (saysPhase ? InPhase(phase) : std::string());
 }
 
 std::string NameOnForms(const clsMV& set, std::string_view code, const std::string& name,
                         std::string_view phase) {
-    // Temperature and pressure are those of all phases together.
-    const bool isOfPhase = code != "T" && code != "P" && !IsBlankField(phase);
+    const bool isOfPhase = !IsOfAllPhases(code) && !IsBlankField(phase);
     const bool saysPhase = isOfPhase && set.nPhases() > 1;
     return WithComponents(saysPhase ? name + ", " + PhaseName(phase) : name, set.Parent);
 }

@@ -4,6 +4,7 @@
 #include "chem/clsProperty.h"
 #include "records/DataSet.h"
 #include "records/MixtureWords.h"
+#include "records/PropertyLabels.h"
 #include "records/SingleValue.h"
 #include "records/UnitConversion.h"
 #include "records/clsMV.h"
@@ -30,7 +31,7 @@ struct Label {
     std::string name, unit;
 };
 
-Label PropertyLabel(const std::string& code, const PropertyRow* row) {
+Label LabelOfProperty(const std::string& code, const PropertyRow* row) {
     return row ? Label{row->Property, row->Unit} : Label{code, {}};
 }
 
@@ -40,7 +41,7 @@ Label VariableLabel(const std::string& code) {
 }
 
 Label LabelOf(const SingleValue& value, int n) {
-    return n == 0 ? PropertyLabel(value.PRPCODE, FindProperty(value.PRPCODE))
+    return n == 0 ? LabelOfProperty(value.PRPCODE, FindProperty(value.PRPCODE))
                   : VariableLabel(value.VARIABLE(n));
 }
 
@@ -54,9 +55,9 @@ const clsMV* MixtureOf(const DataSet& set) {
 Label LabelOf(const DataSet& set, int n) {
     const std::string& code = n == 0 ? set.PRPCODE : set.VARIABLE(n);
     const clsMV* const mixture = MixtureOf(set);
-    const std::string context = mixture ? mixture->Context() : std::string();
-    Label label = n == 0 ? PropertyLabel(code, FindProperty(code, set.DataContext(), context))
-                         : VariableLabel(code);
+    Label label =
+        n == 0 ? LabelOfProperty(code, FindProperty(code, set.DataContext())) : VariableLabel(code);
+    if (mixture && n == 0) label.name = PropertyLabels::Of(set).name;
     if (mixture) label.name = NameOnForms(*mixture, code, label.name, set.PhaseFor(n));
     return label;
 }

@@ -164,13 +164,32 @@ TEST_F(frmMixtVarTest, StatementsGoWhereTheirConstraintGoes) {
     Accept(form);
     EXPECT_EQ(set->UX[2].PRPCODE, "P");
     EXPECT_EQ(set->UX[2].N, 2);
-    EXPECT_EQ(set->UX[2].UValue, "0.5");
+    EXPECT_EQ(set->UX[2].UValue, "3.8"); // 0.5 kPa
     EXPECT_FALSE(set->UX[3].IsKept());
     const std::string lines = Lines(*set);
     EXPECT_NE(lines.find("^1 1 1 VDN S DIR 1 Y L P 101.3 X2 0.5 T S "), std::string::npos) << lines;
     EXPECT_EQ(lines.find("dT:"), std::string::npos) << lines;
-    // Digits stay as they were typed, and are read in the unit that the constraint has now.
-    EXPECT_NE(lines.find("dP:0.13:"), std::string::npos) << lines;
+    EXPECT_NE(lines.find("dP:1.07:"), std::string::npos) << lines;
+}
+
+TEST_F(frmMixtVarTest, WhatIsStatedOfAConstraintFollowsItsUnit) {
+    const auto set = Add(*binary, "^1 1 1 VDN S DIR 1 Y L T 293.15 P 101.325 X1 S & & & & & &",
+                         "^d 0.1 0.98 &", "dP:0.2:dT:0.1:");
+    State(*set, "^X 3 P L - & & & - & & & + 95 0.51 - & & - & & &");
+    frmMixtVar& form = Edit(set);
+    Pick(form.cboConstrUnit(1), "MPa");
+    form.txtConstr(1).UserReplaceAll("0.101325");
+    Accept(form);
+    const std::string lines = Lines(*set);
+    EXPECT_NE(lines.find(":dP:0.2:"), lines.npos) << lines;
+    EXPECT_NE(lines.find("^X 3 P L - & & & - & & & + 95 0.51 "), lines.npos) << lines;
+}
+
+TEST_F(frmMixtVarTest, TheWavelengthOfAStoredSetIsShown) {
+    const auto set =
+        Add(*binary, "^2 1 1 RIX S DIR 1 N L P 101.325 T S X1 S & & & & & &", "", "WL = 5893:");
+    globals.KeyRest = "::WL = 4861:"; // of another dialog
+    EXPECT_EQ(Edit(set).txtVar5.Text(), "5893");
 }
 
 TEST_F(frmMixtVarTest, ValuesOfAVariableThatIsLeftOutGoOnlyWhenMeant) {

@@ -129,13 +129,13 @@ TEST_F(MixtureAdvice, EndsOfABoilingCurveAgreeWithVaporPressures) {
         Binary + Set("^1 1 1 P S DIR 1 Y L T 333.15 G & X1 S", "^d 0 19.9 0.1\n^d 1 50 0.1\n");
     EXPECT_EQ(Found(mixture, Severity::Hint,
                     Header + "^1 1 P S DIR 1\tY L G PB C & & &\n^d 60 46.9 &\n^M 0\n"),
-              "Pressure of phase equilibrium in the liquid: row 2: value 50 of pure ethanol "
+              "Vapor or sublimation pressure: row 2: value 50 of pure ethanol "
               "differs from 46.9 in set 1 of its sample by more than 0.30, three stated "
               "uncertainties\n");
     const std::string isobar =
         Binary + Set("^1 1 1 T S DIR 1 Y L P 101.325 G & X1 S", "^d 0 373.2 0.1\n^d 1 352 0.1\n");
     EXPECT_EQ(Found(isobar, Severity::Hint, Header + "^z 1 TBN C 1 L G & 78.3 & & &\n^M 0\n"),
-              "Temperature of phase equilibrium in the liquid: row 2: value 352 of pure ethanol "
+              "Boiling temperature at pressure P: row 2: value 352 of pure ethanol "
               "differs from 351.45 in set 1 of its sample by more than 0.30, three stated "
               "uncertainties\n");
 }

@@ -93,10 +93,10 @@ TEST_F(MixtureTableTest, QuantitiesAreNamedForAReader) {
     Set("^B 64175 7732185", "^1 1 1 T C DIR 1 Y L G -1 P 101.325 X1 S & & & & & &");
     set->Variables[0].phase = "G";
     OpenTable();
-    EXPECT_EQ(form->Caption(), "Temperature of phase equilibrium (C) as function of Mole fraction "
+    EXPECT_EQ(form->Caption(), "Boiling temperature at pressure P (C) as function of Mole fraction "
                                "of ethanol, Gas");
     EXPECT_EQ(form->lblColumns.Caption(), "Var1: Mole fraction of ethanol, Gas, Dimensionless    "
-                                          "Property: Temperature of phase equilibrium, C"
+                                          "Property: Boiling temperature at pressure P, C"
                                           "    Constant: Pressure = 101.325 kPa");
     EXPECT_EQ(Cells(), "Var1|Property|KVO Uncert.;||;");
     form->tblData.UserPaste("1.2\t78");
@@ -111,7 +111,7 @@ TEST_F(MixtureTableTest, StatementsNameConstraintsAndPhases) {
     std::string named;
     for (const clsX& item : set->UX)
         named += item.Name + " [" + item.Unit + "] " + item.PHASE + (item.Constr ? " const;" : ";");
-    EXPECT_EQ(named, "Temperature of phase equilibrium [C] L;Mole fraction of ethanol, Gas "
+    EXPECT_EQ(named, "Boiling temperature at pressure P [C] L;Mole fraction of ethanol, Gas "
                      "[Dimensionless] G; [] ;Pressure [torr] G const; [] ;");
     desktop.OnModal([this](ui::Form& shown) {
         auto& statements = dynamic_cast<frmUnc&>(shown);
