@@ -10,14 +10,6 @@ namespace vexora {
 
 namespace {
 
-constexpr CodeText Solvents[] = {
-    {"component 1", "1"},
-    {"component 2", "2"},
-    {"component 3", "3"},
-    {"component 1 + component 2", "C"},
-    {"component 1 + component 3", "D"},
-    {"component 2 + component 3", "E"},
-};
 constexpr std::size_t SolventsOfBinary = 2;
 
 int ComponentsOf(std::string_view context) {
@@ -95,7 +87,7 @@ std::vector<VariableRow> OfferMixtureVariables(std::string_view property, std::s
 }
 
 CodeTexts SolventTexts(std::string_view context) {
-    const CodeTexts all = Solvents;
+    const CodeTexts all = MixtureSolvents;
     return context == "Tern" ? all : all.first(SolventsOfBinary);
 }
 

@@ -75,10 +75,10 @@ void DrawScale(PlotStrokes& strokes, std::size_t n, double whole) {
         const double length = Side * (1 - fraction);
         const double x = (line.atScale.x - line.across.x) / length * TickLength;
         const double y = (line.atScale.y - line.across.y) / length * TickLength;
-        const PlotPlace stub{line.atScale.x + x, line.atScale.y + y};
+        const PlotPlace tick{line.atScale.x + x, line.atScale.y + y};
         strokes.push_back(PlotLine(line.across, line.atScale, Faint));
-        strokes.push_back(PlotLine(line.atScale, stub));
-        strokes.push_back(PlotLabel({stub.x + shifts[n].x, stub.y + shifts[n].y},
+        strokes.push_back(PlotLine(line.atScale, tick));
+        strokes.push_back(PlotLabel({tick.x + shifts[n].x, tick.y + shifts[n].y},
                                     NumberText(Val(FormatFixed(fraction * whole, 6))), aligns[n]));
         strokes.back().yields = true;
     }
