@@ -38,10 +38,6 @@ const clsX* StatementsAbout(const DataSet& set, const HeldConstant& constant) {
     return place < set.UX.size() && set.UX[place].IsStated() ? &set.UX[place] : nullptr;
 }
 
-bool IsComposition(std::string_view code) {
-    return IsOneOf(XMLVariableGroup(code), {"eComponentComposition", "eSolventComposition"});
-}
-
 /// A critical curve is a constraint that has no value.
 bool IsInPlace(const ExportedConstant& constant) {
     return constant.HasNumber() || IsCriticalCurve(constant.code);

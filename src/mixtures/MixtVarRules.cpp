@@ -107,11 +107,6 @@ std::vector<CodeText> MixtureRelations() {
     return relations;
 }
 
-bool IsComposition(std::string_view code) {
-    const VariableRow* const row = FindVariable(code);
-    return row && IsOneOf(row->XMLGroup, {"eComponentComposition", "eSolventComposition"});
-}
-
 bool IsOfOnePhase(std::string_view code) {
     return IsComposition(code) || IsOneOf(code, {"VM", "VS", "VDN", "VDM", "S"});
 }

@@ -102,8 +102,6 @@ std::vector<CodeText> MixtureRelations();
 
 // What is asked for.
 
-/// A content of a component in a phase or in the solvent.
-bool IsComposition(std::string_view code);
 /// A quantity of one phase: contents, and volumes, densities and entropies.
 bool IsOfOnePhase(std::string_view code);
 /// Something speaks of a solvent, which the set has to name.

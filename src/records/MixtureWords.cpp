@@ -4,6 +4,7 @@
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
+#include "reference/MixtureCodes.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
@@ -16,11 +17,6 @@ constexpr std::string_view ComponentWord = "component ";
 /// Phases that there is only one of are spoken of with the article.
 bool HasNumber(std::string_view name) {
     return name.find_first_of("123") != std::string_view::npos || name.find(" s") != name.npos;
-}
-
-bool IsComposition(std::string_view code) {
-    const VariableRow* const row = FindVariable(code);
-    return row && row->IndVariable.find(ComponentWord) != std::string::npos;
 }
 
 /// Temperature and pressure are those of all phases together.

@@ -14,9 +14,7 @@ namespace {
 
 /// The component whose content the code is, 0 for what tells no composition.
 int ContentOf(const std::string& code) {
-    constexpr std::string_view letters = "XWVMNJOQBE";
-    const bool isContent = code.size() == 2 || (code.size() == 3 && code.back() == 'S');
-    return isContent && letters.find(code[0]) != letters.npos ? ComponentOf(code) : 0;
+    return IsComposition(code) ? ComponentOf(code) : 0;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What phases a mixture set has, and what kind of equilibrium they make.
 #include "records/PhaseCounts.h"
 #include "records/clsMV.h"
+#include "reference/MixtureCodes.h"
 #include "reference/Vocabulary.h"
 
 #include <cstdlib>
@@ -8,12 +9,6 @@
 namespace vexora {
 
 namespace {
-
-bool IsComposition(std::string_view code) {
-    return code.size() == 2 &&
-           std::string_view("XWVMNJOQBE").find(code[0]) != std::string_view::npos &&
-           code[1] >= '1' && code[1] <= '3';
-}
 
 /// The component whose pure crystal is there, 0 for none.
 char PureCrystal(const clsMV& set) {

@@ -31,6 +31,12 @@ int ComponentOf(std::string_view code) {
     return code.size() > 1 && IsComponent(code.back()) ? code.back() - '0' : 0;
 }
 
+bool IsComposition(std::string_view code) {
+    constexpr std::string_view letters = "XWVMNJOQBE";
+    const bool isContent = (code.size() == 2 && IsComponent(code[1])) || IsOfSolvent(code);
+    return isContent && letters.find(code[0]) != letters.npos;
+}
+
 std::vector<int> ComponentsOfSolvent(std::string_view solvent) {
     if (solvent == "C") return {1, 2};
     if (solvent == "D") return {1, 3};

@@ -10,6 +10,10 @@ namespace vexora {
 /// "M1S"; 0 for none.
 int ComponentOf(std::string_view code);
 
+/// A content of a component in a phase or in the solvent: fractions, molality and molarity, ratios,
+/// amounts and masses in the solution.
+bool IsComposition(std::string_view code);
+
 /// The components of a solvent: "1", "2", "3" alone, "C" 1 and 2, "D" 1 and 3, "E" 2 and 3; none
 /// for another text.
 std::vector<int> ComponentsOfSolvent(std::string_view solvent);
