@@ -138,11 +138,12 @@ double RowFactor(std::string_view code, std::string_view unit) {
     return 0;
 }
 
-/// Mole, mass and volume fractions: of a component (X1), of it in a state (WE2) or in the solvent
-/// (V1S), and of a participant of a reaction (X).
-bool IsFraction(std::string_view code) {
+/// Contents without a unit: mole, mass and volume fractions of a component (X1), of it in a state
+/// (WE2) or in the solvent (V1S), and of a participant of a reaction (X); ratios to a solvent (Q1),
+/// which papers print as g in 100 g.
+bool IsFractionOrRatio(std::string_view code) {
     if (code == "X" || code == "XI") return true;
-    if (code.empty() || std::string_view("XWV").find(code.front()) == code.npos) return false;
+    if (code.empty() || std::string_view("XWVOQB").find(code.front()) == code.npos) return false;
     code.remove_prefix(1);
     if (!code.empty() && std::string_view("ULAEC").find(code.front()) != code.npos)
         code.remove_prefix(1);
@@ -274,7 +275,7 @@ std::string ConversionCodeOf(std::string_view text, std::string_view unit) {
 
 std::vector<std::string> UnitList(std::string_view unit, std::string_view quantity) {
     std::vector<std::string> list = FixedUnitList(unit);
-    if (unit == "1" && !IsFraction(quantity)) return list;
+    if (unit == "1" && !IsFractionOrRatio(quantity)) return list;
     for (const ConversionRow* row :
          Kept(&VocabularyTables::Conversions).With(&ConversionRow::Unit, unit))
         if (!IsSystemUnit(row->ConversionCode)) list.push_back(row->Conversion);

@@ -70,8 +70,8 @@ std::string ConversionText(std::string& code, std::string_view unit, std::string
 /// and "MPa" are apart by 1e9.
 std::string ConversionCodeOf(std::string_view text, std::string_view unit = {});
 /// The units offered for a system unit, itself first; "Dimensionless" alone for "1", with per cent
-/// and its like where the code of the quantity is that of a fraction: refractive index and
-/// compressibility factor share the unit.
+/// and its like where the code of the quantity is that of a fraction or of a ratio to a solvent:
+/// refractive index and compressibility factor share the unit.
 /// In table order, by which the table can put the usual ones first.
 std::vector<std::string> UnitList(std::string_view unit, std::string_view quantity = {});
 /// Only the system unit, or "Dimensionless" for "1".

@@ -100,22 +100,25 @@ TEST_F(ShippedTables, UnitsLeadBothWaysAndValuesComeBackFromThemInEveryRow) {
     });
 }
 
-TEST_F(ShippedTables, PerCentIsAUnitOfFractionsOnly) {
-    const std::vector<std::string> fractions{"Dimensionless", "per cent", "ppm", "mmol/mol"};
+/// A fraction or a ratio to a solvent by its name, and no equilibrium constant in terms of one.
+bool NamesContent(const std::string& name) {
+    const std::string lower = LowerAscii(name);
+    return lower.find("constant") == lower.npos &&
+           (lower.ends_with("fraction") || lower.find("ratio of solute") != lower.npos ||
+            lower.find("ratio of component") != lower.npos);
+}
+
+TEST_F(ShippedTables, PerCentIsAUnitOfFractionsAndRatiosOnly) {
+    const std::vector<std::string> contents{"Dimensionless", "per cent", "ppm", "mmol/mol"};
     const std::vector<std::string> others{"Dimensionless"};
-    EachRow("Properties", [&](const TableRows& row) {
+    const auto check = [&](const TableRows& row, const char* column) {
         if (row.Text("Unit") != "1") return;
-        const bool isFraction =
-            LowerAscii(row.Text("XMLNAME")).ends_with("fraction") && row.Text("Code") != "KX";
-        EXPECT_EQ(UnitList("1", row.Text("Code")), isFraction ? fractions : others)
-            << row.Text("Code");
-    });
-    EachRow("IndVariables", [&](const TableRows& row) {
-        if (row.Text("Unit") != "1") return;
-        const bool isFraction = LowerAscii(row.Text("XMLNAME")).ends_with("fraction");
-        EXPECT_EQ(UnitList("1", row.Text("IndVarCode")), isFraction ? fractions : others)
-            << row.Text("IndVarCode");
-    });
+        const std::string code = row.Text(column);
+        const bool isContent = NamesContent(row.Text("XMLNAME"));
+        EXPECT_EQ(UnitList("1", code), isContent ? contents : others) << code;
+    };
+    EachRow("Properties", [&](const TableRows& row) { check(row, "Code"); });
+    EachRow("IndVariables", [&](const TableRows& row) { check(row, "IndVarCode"); });
     EXPECT_EQ(UnitText("1", ConversionCodeOf("ppm", "1"), 0), "ppm");
     EXPECT_EQ(ToSystem(ConversionCodeOf("per cent", "1"), 12.5, 0, 0), 0.125);
 }
