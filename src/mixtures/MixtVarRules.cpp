@@ -20,6 +20,10 @@ bool IsVirial(std::string_view property) {
     return IsOneOf(property, {"VVB", "VVC", "VVI", "VVE", "VV1", "VV2"});
 }
 
+bool IsPartialPressure(std::string_view variable) {
+    return IsOneOf(variable, {"P1", "P2", "P3"});
+}
+
 std::vector<std::string> Numbers(int first, int last) {
     std::vector<std::string> numbers;
     for (int n = first; n <= last; ++n)
@@ -108,7 +112,13 @@ std::vector<CodeText> MixtureRelations() {
 }
 
 bool IsOfOnePhase(std::string_view code) {
-    return IsComposition(code) || IsOneOf(code, {"VM", "VS", "VDN", "VDM", "S"});
+    return IsComposition(code) || IsPartialPressure(code) ||
+           IsOneOf(code, {"VM", "VS", "VDN", "VDM", "S"});
+}
+
+bool CanBeOf(std::string_view code, std::string_view phase) {
+    if (IsPartialPressure(code)) return IsOneOf(phase, {"G", "IG", "FL", "air"});
+    return !IsComposition(code) || !IsOneOf(phase, {"Cp1", "Cp2", "Cp3", "air"});
 }
 
 bool NeedsSolvent(const MixtVarDraft& draft) {
@@ -121,6 +131,23 @@ std::string_view SolventOfProperty(std::string_view property) {
     if (property == "HEX1") return "E";
     if (property == "HEX2") return "D";
     return property == "HEX3" ? "C" : "";
+}
+
+int SoluteOf(std::string_view code) {
+    const bool isOfSolvent = IsComposition(code) && code.ends_with('S');
+    return NeedsSolvent(code) && !isOfSolvent ? ComponentOf(code) : 0;
+}
+
+std::string_view SolventOfBinary(const MixtVarDraft& draft) {
+    if (draft.MixType() != 2) return {};
+    bool isSolute[3] = {};
+    isSolute[SoluteOf(draft.property)] = true;
+    for (const MixtVarQuantity& one : draft.variables)
+        isSolute[SoluteOf(one.code)] = true;
+    for (const MixtVarQuantity& one : draft.constraints)
+        isSolute[SoluteOf(one.code)] = true;
+    if (isSolute[1] == isSolute[2]) return {};
+    return isSolute[1] ? "2" : "1";
 }
 
 bool IsExcess(std::string_view property) {

@@ -102,12 +102,20 @@ std::vector<CodeText> MixtureRelations();
 
 // What is asked for.
 
-/// A quantity of one phase: contents, and volumes, densities and entropies.
+/// A quantity of one phase: contents, partial pressures, and volumes, densities and entropies.
 bool IsOfOnePhase(std::string_view code);
+/// A quantity can be meant in a phase: no content in a crystal of one component or in the air of
+/// the room, a partial pressure in a gas alone.
+bool CanBeOf(std::string_view code, std::string_view phase);
 /// Something speaks of a solvent, which the set has to name.
 bool NeedsSolvent(const MixtVarDraft& draft);
 /// The solvent that follows from a partial enthalpy: all but its component; empty for others.
 std::string_view SolventOfProperty(std::string_view property);
+/// The component of a binary that is left when something speaks of one solute; empty where nothing
+/// does, or of both, and for a ternary.
+std::string_view SolventOfBinary(const MixtVarDraft& draft);
+/// The component that a content or a property calls a solute, 0 for none.
+int SoluteOf(std::string_view code);
 /// An excess property, which knows no solvent.
 bool IsExcess(std::string_view property);
 /// An activity or its coefficient goes by the state in which it is 1.

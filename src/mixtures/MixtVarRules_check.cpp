@@ -27,11 +27,6 @@ bool IsOfSolvent(std::string_view code) {
     return IsComposition(code) && code.ends_with('S');
 }
 
-/// The component that a content or a property calls a solute, 0 for none.
-int SoluteOf(std::string_view code) {
-    return NeedsSolvent(code) && !IsOfSolvent(code) ? ComponentOf(code) : 0;
-}
-
 /// A variable or constraint and the list in which it was chosen.
 struct Stated {
     const MixtVarQuantity* quantity;

@@ -89,6 +89,7 @@ void frmMixtVar::Load() {
     {
         const ui::FillingScope filling(*this);
         if (as_) {
+            globals.CurrentMethod->Context = as_->PropertyContext(); // names the property
             TakeProperty(
                 {as_->PRPCODE, as_->PROPERTY_UNIT, as_->Factor, as_->isOriginalUnit, as_->nVar},
                 as_->Header);

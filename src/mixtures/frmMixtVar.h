@@ -123,11 +123,13 @@ private:
                          const std::vector<VariableRow>& rows);
     void RestrictPhases();
     void ShowPhasesOfQuantities();
+    void ShowPhaseOf(const ui::ComboBox& quantity, ui::ComboBox& list);
     void ShowQuantities();
     void ShowUnits();
     static void OfferUnits(ui::ComboBox& list, const std::string& code, const std::string& own);
     void ShowSolvent();
     void LockSolventForHEX();
+    void PresetSolvent();
     void ShowVar5();
     void ShowDefinition();
     void PresetConstraints();

@@ -118,23 +118,31 @@ void frmMixtVar::RestrictPhases() {
 /// but one it is not asked for.
 void frmMixtVar::ShowPhasesOfQuantities() {
     const ui::FillingScope filling(*this);
-    std::vector<std::string> phases;
-    int count = 0;
-    for (const auto& list : lstPhase) {
-        count += list->Visible() ? 1 : 0;
-        if (!list->Visible() || list->Index() <= 0) continue;
-        if (std::ranges::find(phases, list->Chosen()) == phases.end())
-            phases.push_back(list->Chosen());
-    }
     for (int i = 0; i < MostRows; ++i) {
-        Reassign(cboConstrPhase(i), phases);
-        Reassign(cboVarPhase(i), phases);
-        const auto isAsked = [count](const ui::ComboBox& list, const std::string& code) {
-            return list.Visible() && count > 1 && IsOfOnePhase(code);
-        };
-        cboConstrPhase(i).Visible(isAsked(cboConstraint(i), CodeOf(cboConstraint(i))));
-        cboVarPhase(i).Visible(isAsked(cboVar(i), CodeOf(cboVar(i))));
+        ShowPhaseOf(cboConstraint(i), cboConstrPhase(i));
+        ShowPhaseOf(cboVar(i), cboVarPhase(i));
     }
+}
+
+/// What can be of one phase alone need not be asked.
+void frmMixtVar::ShowPhaseOf(const ui::ComboBox& quantity, ui::ComboBox& list) {
+    const std::string code = CodeOf(quantity);
+    std::vector<std::string> phases, fitting;
+    std::size_t count = 0;
+    for (const auto& one : lstPhase) {
+        count += one->Visible() ? 1 : 0;
+        const std::string name = one->Chosen();
+        const bool isOpen = !one->Visible() || one->Index() <= 0;
+        if (isOpen || std::ranges::find(phases, name) != phases.end()) continue;
+        phases.push_back(name);
+        // A choice that does not fit stays as long as its phase: it must not change silently.
+        if (CanBeOf(code, PhaseChosen(*one)) || name == list.Chosen()) fitting.push_back(name);
+    }
+    // A phase that is still open, or doubled, may become the one.
+    const bool allKnown = phases.size() == count;
+    Reassign(list, fitting.empty() ? std::move(phases) : std::move(fitting));
+    list.Visible(quantity.Visible() && count > 1 && IsOfOnePhase(code));
+    if (list.Visible() && list.Count() == 1 && allKnown) list.Index(0);
 }
 
 /// What follows from the chosen constraints and variables.
@@ -196,6 +204,15 @@ void frmMixtVar::ShowSolvent() {
     ShowAll({&lblSolvent, &cboSolvent}, needsSolvent || keepsSolvent_);
     ShowAll({&lblStandardState, &cboStandardState}, NeedsStandardState(row_.Code) || keepsState_);
     LockSolventForHEX();
+    PresetSolvent();
+}
+
+/// Of two components the one that is no solute is the solvent; what a stored set says stays.
+void frmMixtVar::PresetSolvent() {
+    const MixtVarDraft draft = Draft();
+    const std::string_view solvent = SolventOfBinary(draft);
+    if (solvent.empty() || (record_ && !record_->SOLVENT.empty())) return;
+    ChooseCode(cboSolvent, SolventTexts(draft.context), solvent);
 }
 
 /// A component is mixed with all the others; what a stored set says else is left to the check.

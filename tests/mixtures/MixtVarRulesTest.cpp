@@ -267,6 +267,23 @@ TEST_F(MixtVarRulesTest, OnlyWhatTheTablesAllowIsOffered) {
     EXPECT_EQ(SolventTexts("Bin").size(), 2U);
 }
 
+TEST_F(MixtVarRulesTest, WhatCanOnlyBeOneThingFollows) {
+    MixtVarDraft binary;
+    binary.property = "PHx"; // of either component
+    EXPECT_EQ(SolventOfBinary(binary), "");
+    binary.variables = {{"M2", "mol/kg", "L"}};
+    EXPECT_EQ(SolventOfBinary(binary), "1");
+    binary.constraints = {{"Q1", "per cent", "L", "1"}};
+    EXPECT_EQ(SolventOfBinary(binary), "");
+    MixtVarDraft ternary = Ternary();
+    ternary.variables[1].code = "M1";
+    EXPECT_EQ(SolventOfBinary(ternary), "");
+    EXPECT_TRUE(CanBeOf("X1", "C")); // which may be mixed
+    EXPECT_FALSE(CanBeOf("X1", "Cp1"));
+    EXPECT_TRUE(CanBeOf("VDN", "Cp1"));
+    EXPECT_FALSE(CanBeOf("P1", "L"));
+}
+
 TEST_F(MixtVarRulesTest, PhasesAndConstraintsLeaveVariablesByThePhaseRule) {
     EXPECT_EQ(ConstraintsFor(1, 1, "Bin"), 2);
     EXPECT_EQ(ConstraintsFor(1, 2, "Bin"), 1);
