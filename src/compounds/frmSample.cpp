@@ -104,8 +104,7 @@ void frmSample::FillLists() {
     lstPurify.Assign(PurificationList());
     lstPurify.Add(otherEntry);
     for (const Purity& boxes : purities_) {
-        for (const PurityUnit& unit : PurityUnits)
-            boxes.unit.Add(std::string(unit.text));
+        boxes.unit.Assign(PurityUnitList());
         boxes.method.Assign(DeterminationList());
         boxes.method.Add(otherEntry);
     }

@@ -71,6 +71,9 @@ private:
     SampleDescription Read() const;
     void Fill();
     bool ShowDescription(const SampleDescription& description);
+    /// Per cent of what, and what papers print instead.
+    static std::vector<std::string> PurityUnitList();
+    /// What the boxes say, in per cent.
     static PurityStatement ReadPurity(const Purity& boxes);
     static bool ShowPurity(const PurityStatement& statement, const Purity& boxes);
     void ClearDescription();
@@ -92,7 +95,7 @@ private:
     bool CheckInitial();
     bool CheckPurification();
     bool CheckFinal(const Purity& boxes);
-    bool CheckValue(ui::TextBox& box);
+    bool CheckValue(const Purity& boxes);
     bool CheckMethod(const Purity& boxes);
     bool Store();
 

@@ -12,16 +12,6 @@
 
 namespace vexora {
 
-namespace {
-
-bool IsImpurity(const ui::ComboBox& unit) {
-    for (const PurityUnit& row : PurityUnits)
-        if (row.text == unit.Chosen()) return IsImpurityUnit(row.code);
-    return false;
-}
-
-} // namespace
-
 void frmSample::Accept() {
     if (!editing_ && !changed_) {
         Close();
@@ -71,8 +61,9 @@ bool frmSample::CheckAnyPurity() {
 }
 
 bool frmSample::CheckInitial() {
-    if (!CheckValue(txtSrcPurity)) return false;
-    if (Val(txtSrcPurity.Text()) > 10 && lstSrcPurity.Chosen() == "water mass %" &&
+    if (!CheckValue(initial_)) return false;
+    const PurityStatement stated = ReadPurity(initial_);
+    if (Val(stated.Value) > 10 && stated.Unit == "h%" &&
         !Confirm(txtSrcPurity, "Is water content so high?"))
         return false;
     return CheckMethod(initial_);
@@ -86,9 +77,10 @@ bool frmSample::CheckPurification() {
 
 bool frmSample::CheckFinal(const Purity& boxes) {
     ui::TextBox& box = boxes.value;
-    if (!CheckValue(box)) return false;
-    const double value = Val(box.Text());
-    if (IsImpurity(boxes.unit)) {
+    if (!CheckValue(boxes)) return false;
+    const PurityStatement stated = ReadPurity(boxes);
+    const double value = Val(stated.Value);
+    if (IsImpurityUnit(stated.Unit)) {
         if (value > 10 && !Confirm(box, "Is impurity content so high?")) return false;
     } else if (!box.IsEmpty() && value < 90) {
         if (!Confirm(box, "Is that low purity value correct?")) return false;
@@ -96,11 +88,11 @@ bool frmSample::CheckFinal(const Purity& boxes) {
     return CheckMethod(boxes);
 }
 
-bool frmSample::CheckValue(ui::TextBox& box) {
-    const std::string finding = CheckPurityValue(box.Text());
+bool frmSample::CheckValue(const Purity& boxes) {
+    const std::string finding = CheckPurityValue(ReadPurity(boxes).Value);
     if (finding.empty()) return true;
-    Refuse(box, finding);
-    box.SelectAll();
+    Refuse(boxes.value, finding);
+    boxes.value.SelectAll();
     return false;
 }
 

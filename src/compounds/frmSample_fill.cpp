@@ -1,6 +1,7 @@
 #include "compounds/frmSample.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
@@ -19,17 +20,48 @@ std::string ListText(const std::string& code, NameLookUp nameOf) {
     return code.starts_with('(') ? code : nameOf(code);
 }
 
-std::string UnitCode(std::string_view text) {
-    for (const PurityUnit& unit : PurityUnits)
-        if (unit.text == text) return std::string(unit.code);
-    return {};
+/// What papers print beside per cent, which the file has alone.
+struct PrintedUnit {
+    std::string_view text, code; // as listed; of the unit in per cent
+    double factor;               // into per cent
+};
+constexpr PrintedUnit PrintedUnits[] = {
+    {"mass fraction", "w%", 100},
+    {"mole fraction", "m%", 100},
+    {"water mass fraction", "h%", 100},
+    {"water mass ppm", "h%", 1e-4},
+};
+
+/// A value as printed in per cent, to the place that was typed; what is no number stays.
+std::string InPerCent(const std::string& value, const PrintedUnit& unit) {
+    if (!IsNumeric(value)) return value;
+    // No content is known to so many places; an absurd exponent has no last one.
+    const double places = std::clamp(-std::log10(LastPlace(value) * unit.factor), 0.0, 20.0);
+    return FormatFixed(Val(value) * unit.factor, static_cast<int>(std::lround(places)));
 }
 
 } // namespace
 
+std::vector<std::string> frmSample::PurityUnitList() {
+    std::vector<std::string> units;
+    for (const PurityUnit& unit : PurityUnits)
+        units.emplace_back(unit.text);
+    for (const PrintedUnit& unit : PrintedUnits)
+        units.emplace_back(unit.text);
+    return units;
+}
+
 PurityStatement frmSample::ReadPurity(const Purity& boxes) {
-    return {NormalizeNumber(boxes.value.Text()), UnitCode(boxes.unit.Chosen()),
-            DeterminationCode(boxes.method.Chosen())};
+    PurityStatement purity{
+        NormalizeNumber(boxes.value.Text()), {}, DeterminationCode(boxes.method.Chosen())};
+    for (const PurityUnit& unit : PurityUnits)
+        if (unit.text == boxes.unit.Chosen()) purity.Unit = unit.code;
+    for (const PrintedUnit& unit : PrintedUnits) {
+        if (unit.text != boxes.unit.Chosen()) continue;
+        purity.Value = InPerCent(purity.Value, unit);
+        purity.Unit = unit.code;
+    }
+    return purity;
 }
 
 SampleDescription frmSample::Read() const {

@@ -80,6 +80,20 @@ TEST_F(frmSampleTest, EveryChangeComposesTheDescription) {
     EXPECT_TRUE(globals.DialogAccepted);
 }
 
+TEST_F(frmSampleTest, FractionsAndPpmAreKeptInPerCentToTheirPlace) {
+    frmSample& dialog = Open();
+    Describe(dialog, "Commercial source");
+    EnterInitial(dialog, "0.990", "mole fraction", "Gas chromatography");
+    EnterFinal(dialog, 0, "0.99", "mass fraction", "Gas chromatography");
+    EnterFinal(dialog, 1, "2e-4", "water mass fraction", "Karl Fischer titration");
+    EnterFinal(dialog, 2, "12.5", "water mass ppm", "Karl Fischer titration");
+    EXPECT_EQ(dialog.txtSmplDescription.Text(), "cm,99.0m%,gc;;99w%,gc,0.02h%,kf,0.00125h%,kf");
+    Enter(dialog.txtFinalPurity(0), "99"); // per cent, by the look of it
+    desktop.Expect("Invalid purity value");
+    dialog.cmdAccept.UserClick();
+    EXPECT_TRUE(dialog.txtFinalPurity(0).HasFocus());
+}
+
 TEST_F(frmSampleTest, DoneClosesAndAChangeBringsTheStoredSampleUpToDate) {
     frmSample& dialog = Open();
     Describe(dialog, "Synthesized by the authors");
