@@ -20,6 +20,9 @@ struct PlotFamilies {
     std::vector<int> GroupRows; // the point that stands for each group
 };
 
+/// The part by which families are told apart at first.
+inline constexpr double UsualTolerance = 0.001;
+
 /// Two values agree when they differ by less than this part of the value already there; against 0,
 /// half of the value counts as the difference. Points of different series never do. After 1000
 /// groups all others share the last one.

@@ -12,6 +12,8 @@ using Align = ui::Picture::Align;
 
 constexpr double LegendLine = 28;
 constexpr double TextIndent = 16;
+constexpr double Widest = 330;
+constexpr double LargestShare = 0.4;  // of the surface
 constexpr std::size_t MostLines = 19; // that any picture has room for
 
 void Append(std::string& text, const std::string& part) {
@@ -65,16 +67,18 @@ double LegendWidth(const Plot& plot) {
     std::size_t longest = MoreText(groups - std::min(groups, MostLines)).size();
     for (std::size_t group = 0; group < std::min(groups, MostLines); ++group)
         longest = std::max(longest, LegendText(plot, group).size());
-    return 45 + CharacterWidth * static_cast<double>(longest);
+    return std::min({45 + CharacterWidth * static_cast<double>(longest), Widest,
+                     LargestShare * plot.size.width});
 }
 
-void DrawLegend(PlotStrokes& strokes, const Plot& plot, PlotPlace place, int lines) {
+void DrawLegend(PlotStrokes& strokes, const Plot& plot, PlotPlace place, double bottom) {
     const std::size_t groups = plot.families.GroupRows.size();
-    const std::size_t shown = std::min({groups, MostLines, static_cast<std::size_t>(lines)});
+    const auto room = static_cast<std::size_t>((bottom - place.y) / LegendLine) - 1;
+    const std::size_t shown = std::min({groups, MostLines, room});
     const std::string head = OthersText(plot, nullptr);
     if (!head.empty())
         strokes.push_back(
-            PlotLabel({Plot::Width - 10, place.y - LineHeight - 6}, head, Align::Right));
+            PlotLabel({plot.size.width - 10, place.y - LineHeight - 6}, head, Align::Right));
     for (std::size_t group = 0; group < shown; ++group, place.y += LegendLine) {
         strokes.push_back(PlotMarker({place.x, place.y + TextMiddle}, static_cast<int>(group)));
         strokes.push_back(

@@ -31,18 +31,6 @@ std::size_t At(int point) {
     return static_cast<std::size_t>(point);
 }
 
-const PlotTable::Row& RowOf(const Plot& plot, int point) {
-    return plot.table.PointTable[At(point)];
-}
-
-double XOf(const Plot& plot, int point) {
-    return RowOf(plot, point)[static_cast<std::size_t>(plot.xVar)];
-}
-
-bool ShowsValues(const Plot& plot) {
-    return plot.table.IsTriangle() && !plot.table.YName.empty();
-}
-
 double Across(const Plot& plot, double position) {
     return plot.left + position * (plot.right - plot.left);
 }
@@ -59,7 +47,7 @@ Stroke TickLabel(PlotPlace place, double value, Align align) {
 
 /// Where a row stands, even far outside the frame; nothing for a value without place on its axis.
 std::optional<PlotPlace> AnyPlaceOf(const Plot& plot, const PlotTable::Row& row) {
-    if (plot.table.IsTriangle()) return PlaceInTriangle(plot.table, row);
+    if (plot.table.IsTriangle()) return PlaceInTriangle(plot, row);
     const auto x = plot.scale.PositionX(row[static_cast<std::size_t>(plot.xVar)]);
     const auto y = plot.scale.PositionY(row[0]);
     if (plot.scale.Empty || !x || !y) return std::nullopt;
@@ -111,7 +99,7 @@ void DrawFrame(PlotStrokes& strokes, const Plot& plot) {
 void DrawBar(PlotStrokes& strokes, const Plot& plot, int point, double x) {
     const double uncertainty = plot.table.PointUnc[At(point)];
     if (uncertainty == 0) return;
-    const double y = RowOf(plot, point)[0];
+    const double y = plot.RowOf(point)[0];
     const int colour = 1 + plot.families.GroupOf[At(point)] % ColourCount;
     const double low = plot.scale.PositionY(y - std::abs(uncertainty)).value_or(-1);
     const double high = plot.scale.PositionY(y + std::abs(uncertainty)).value_or(-1);
@@ -133,7 +121,7 @@ bool IsInside(const Plot& plot, PlotPlace place) {
 bool IsInside(const Plot& plot, int point, PlotPlace place) {
     constexpr double rounding = -1e-9;
     if (!plot.table.IsTriangle()) return IsInside(plot, place);
-    return LeastFraction(plot.table, RowOf(plot, point)) >= rounding;
+    return LeastFraction(plot.table, plot.RowOf(point)) >= rounding;
 }
 
 /// The part of a line that lies in the frame, if any: a side of the frame after the other takes off
@@ -159,8 +147,8 @@ std::optional<std::pair<PlotPlace, PlotPlace>> InFrame(const Plot& plot, PlotPla
 void DrawTie(PlotStrokes& strokes, const Plot& plot, std::span<const int> points) {
     const std::size_t count = points.size() > 2 ? points.size() : points.size() - 1;
     for (std::size_t at = 0; at < count; ++at) {
-        const auto a = AnyPlaceOf(plot, RowOf(plot, points[at]));
-        const auto b = AnyPlaceOf(plot, RowOf(plot, points[(at + 1) % points.size()]));
+        const auto a = AnyPlaceOf(plot, plot.RowOf(points[at]));
+        const auto b = AnyPlaceOf(plot, plot.RowOf(points[(at + 1) % points.size()]));
         if (!a || !b) continue;
         if (const auto seen = InFrame(plot, *a, *b))
             strokes.push_back(PlotLine(seen->first, seen->second));
@@ -191,7 +179,8 @@ Stroke MarkerOf(const Plot& plot, int point, PlotPlace place) {
 
 void DrawPoints(PlotStrokes& strokes, const Plot& plot) {
     PlotStrokes markers, ringed, values; // each above those before
-    const bool hasValues = ShowsValues(plot) && plot.table.PointCount() <= FewPoints;
+    const bool hasValues =
+        plot.ShowsValues() && !plot.IsSmall() && plot.table.PointCount() <= FewPoints;
     for (int point = 0; point < plot.table.PointCount(); ++point) {
         const auto place = PlaceOf(plot, point);
         if (!place) continue;
@@ -202,7 +191,7 @@ void DrawPoints(PlotStrokes& strokes, const Plot& plot) {
         const bool isRinged = plot.table.PointFar[At(point)] && marker.colour != Faint;
         (marker.colour == Faint ? strokes : isRinged ? ringed : markers).push_back(marker);
         if (isRinged) ringed.push_back(PlotRing(*place));
-        if (hasValues) values.push_back(ValueLabel(plot.table, RowOf(plot, point)));
+        if (hasValues) values.push_back(ValueLabel(plot, plot.RowOf(point)));
     }
     for (const auto* some : {&markers, &ringed, &values})
         strokes.insert(strokes.end(), some->begin(), some->end());
@@ -238,62 +227,29 @@ double LongestLabel(const std::vector<double>& ticks) {
     return CharacterWidth * static_cast<double>(longest);
 }
 
-constexpr double NoteLine = LineHeight + 3;
-constexpr int LegendLines = 18;
-
-/// Where the two lines beside a point stand.
-struct Note {
-    bool isLeft = false; // of the point
-    double left = 0, right = 0, top = 0, bottom = 0;
-    int hidden = 0; // points below it
-};
-
-Note NoteBeside(PlotPlace place, double width, bool isLeft, bool isAbove) {
-    const double left = place.x + (isLeft ? -24 - width : 24);
-    const double top = place.y + (isAbove ? -2 * LineHeight - 18 : 18);
-    return {isLeft, left, left + width, top, top + 2 * NoteLine, 0};
-}
-
-/// The side towards the middle of the plot, unless another that fits hides fewer points.
-Note FreestNote(const Plot& plot, PlotPlace place, std::size_t characters) {
-    const double width = CharacterWidth * static_cast<double>(characters);
-    const bool isLeft = place.x > (plot.left + plot.right) / 2;
-    const bool isAbove = place.y > (plot.top + plot.bottom) / 2;
-    std::vector<Note> notes{NoteBeside(place, width, isLeft, isAbove)};
-    for (const auto& [left, above] :
-         {std::pair{isLeft, !isAbove}, std::pair{!isLeft, isAbove}, std::pair{!isLeft, !isAbove}}) {
-        const Note note = NoteBeside(place, width, left, above);
-        if (note.left >= plot.left && note.right <= plot.right && note.top >= plot.top &&
-            note.bottom <= plot.bottom)
-            notes.push_back(note);
-    }
-    for (int point = 0; point < plot.table.PointCount(); ++point) {
-        const auto at = PlaceOf(plot, point);
-        if (!at) continue;
-        for (Note& note : notes)
-            note.hidden += at->x >= note.left && at->x <= note.right && at->y >= note.top &&
-                           at->y <= note.bottom;
-    }
-    return *std::min_element(notes.begin(), notes.end(), [](const Note& one, const Note& other) {
-        return one.hidden < other.hidden;
-    });
-}
-
 } // namespace
 
 Plot::Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
-           const PlotFamilies& plotFamilies, bool bars, bool ties)
+           const PlotFamilies& plotFamilies, bool bars, bool ties, PlotSize surface)
     : table(plotTable), scale(plotScale), xVar(x), families(plotFamilies), showUnc(bars),
-      showTies(ties) {
+      showTies(ties), size(surface) {
     if (table.IsTriangle()) {
-        right = Width;
-        bottom = Height;
+        right = size.width;
+        bottom = size.height;
         return;
     }
     top = HasLegend(*this) || HasRings(*this) ? 76 : 45;
-    bottom = 610;
+    bottom = size.height - 90;
     left = std::clamp(25 + LongestLabel(scale.TicksY()), 80.0, 220.0);
-    right = Width - 25 - std::clamp(LegendWidth(*this), 0.0, 330.0);
+    right = size.width - 25 - LegendWidth(*this);
+}
+
+const PlotTable::Row& Plot::RowOf(int point) const {
+    return table.PointTable[At(point)];
+}
+
+bool Plot::ShowsValues() const {
+    return table.IsTriangle() && !table.YName.empty();
 }
 
 PlotStrokes PlotPicture(const Plot& plot) {
@@ -310,12 +266,12 @@ PlotStrokes PlotPicture(const Plot& plot) {
     DrawEnds(strokes, plot);
     DrawPoints(strokes, plot);
     if (HasLegend(plot) && !plot.table.IsTriangle())
-        DrawLegend(strokes, plot, {plot.right + 24, plot.top}, LegendLines);
+        DrawLegend(strokes, plot, {plot.right + 24, plot.top}, plot.bottom);
     return strokes;
 }
 
 std::optional<PlotPlace> PlaceOf(const Plot& plot, int point) {
-    const PlotTable::Row& row = RowOf(plot, point);
+    const PlotTable::Row& row = plot.RowOf(point);
     const auto place = AnyPlaceOf(plot, row);
     if (!place || plot.scale.Empty) return std::nullopt;
     if (plot.table.IsTriangle())
@@ -328,58 +284,6 @@ std::optional<PlotPlace> PlaceOf(const Plot& plot, int point) {
 PlotPlace PositionsAt(const Plot& plot, PlotPlace place) {
     return {(place.x - plot.left) / (plot.right - plot.left),
             (plot.bottom - place.y) / (plot.bottom - plot.top)};
-}
-
-std::optional<int> NearestPoint(const Plot& plot, PlotPlace place) {
-    std::optional<int> nearest;
-    double least = 0;
-    for (int point = 0; point < plot.table.PointCount(); ++point) {
-        const auto at = PlaceOf(plot, point);
-        if (!at) continue;
-        const double x = at->x - place.x;
-        const double y = at->y - place.y;
-        const double distance = x * x + y * y;
-        if (nearest && distance >= least) continue;
-        nearest = point;
-        least = distance;
-    }
-    return nearest;
-}
-
-std::string PointText(const Plot& plot, int point) {
-    const PlotTable::Row& row = RowOf(plot, point);
-    if (plot.table.IsTriangle())
-        return CompositionText(plot.table, row) +
-               (ShowsValues(plot) ? ": " + NumberText(row[0]) : "");
-    return "(" + NumberText(XOf(plot, point)) + ", " + NumberText(row[0]) + ")";
-}
-
-std::string RowText(const Plot& plot, int point) {
-    const PlotTable& table = plot.table;
-    const int row = table.PointRow[At(point)];
-    std::string text = row > 0 ? "Row " + std::to_string(row) : "Of another table";
-    if (!table.SeriesNames.empty())
-        text += ", " + LowerAscii(table.SeriesNames[At(table.PointSeries[At(point)])]);
-    return text + (table.PointFar[At(point)] ? ", look again" : "");
-}
-
-PlotStrokes PointMark(const Plot& plot, int point) {
-    const auto place = PlaceOf(plot, point);
-    if (!place) return {};
-    Stroke reticle = PlotMarker(*place, 0);
-    reticle.colour = 0;
-    reticle.marker = ui::Picture::Reticle;
-    PlotStrokes strokes{reticle};
-    const std::string texts[] = {PointText(plot, point), RowText(plot, point)};
-    const Note note = FreestNote(plot, *place, std::max(texts[0].size(), texts[1].size()));
-    double y = note.top;
-    for (const std::string& text : texts) {
-        strokes.push_back(PlotLabel({note.isLeft ? note.right : note.left, y}, text,
-                                    note.isLeft ? Align::Right : Align::Left));
-        strokes.back().boxed = true;
-        y += NoteLine;
-    }
-    return strokes;
 }
 
 } // namespace vexora

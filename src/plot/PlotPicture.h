@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "plot/PlotFamilies.h"
 #include "plot/PlotScale.h"
@@ -9,19 +8,30 @@
 
 namespace vexora {
 
-/// What a plot is drawn from; frmGraph owns the parts. The frame leaves room for the labels.
-struct Plot {
-    static constexpr double Width = 1000, Height = 700; // of the drawing surface
+/// The drawing surface of a plot. Texts have their size whatever the surface is: on a small one a
+/// unit takes as much of the screen, and there are fewer of them.
+struct PlotSize {
+    double width = 1000, height = 700;
+};
+inline constexpr PlotSize SmallPlotSize{560, 340};
 
+/// What a plot is drawn from; who shows it owns the parts. The frame leaves room for the labels.
+struct Plot {
     Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
-         const PlotFamilies& plotFamilies, bool bars, bool ties = true);
+         const PlotFamilies& plotFamilies, bool bars, bool ties = true, PlotSize surface = {});
+
+    const PlotTable::Row& RowOf(int point) const;
+    /// A property of a triangle, which has no axis of its own.
+    bool ShowsValues() const;
+    bool IsSmall() const { return size.width < PlotSize().width; }
 
     const PlotTable& table;
     const PlotScale& scale;
     int xVar = 1;
     const PlotFamilies& families;
     bool showUnc = true;
-    bool showTies = true;                            // join points that coexist
+    bool showTies = true; // join points that coexist
+    PlotSize size;
     double left = 0, right = 0, top = 0, bottom = 0; // of the frame
 };
 
@@ -29,21 +39,12 @@ struct Plot {
 /// marker for each point in the colour and shape of its family, a ring around one to be looked at
 /// again, hollow markers with the names of the pure components, and the families' legend. Points
 /// just outside the frame are faint. Nothing for empty axes. A triangle has no bars; few points of
-/// a property bear their values.
+/// a property bear their values, but not on a small surface.
 PlotStrokes PlotPicture(const Plot& plot);
 
 /// Where a point is drawn; nothing for one that is not.
 std::optional<PlotPlace> PlaceOf(const Plot& plot, int point);
 /// A place of the surface in positions on the two axes.
 PlotPlace PositionsAt(const Plot& plot, PlotPlace place);
-
-/// The drawn point nearest to a place; nothing when none is drawn.
-std::optional<int> NearestPoint(const Plot& plot, PlotPlace place);
-/// "(X, Y)" of a point; in a triangle its fractions, and the property behind them.
-std::string PointText(const Plot& plot, int point);
-/// "Row 12", its series, and whether it is to be looked at again.
-std::string RowText(const Plot& plot, int point);
-/// What is laid over the plot to point at a point: its values and its row beside it.
-PlotStrokes PointMark(const Plot& plot, int point);
 
 } // namespace vexora

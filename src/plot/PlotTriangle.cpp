@@ -16,17 +16,23 @@ namespace {
 using Align = ui::Picture::Align;
 using Fractions = std::array<double, 3>; // of 1
 
-constexpr double Side = 560;
-constexpr double Middle = 450;
-constexpr double Base = 592;
-const double Top = Base - Side * std::sqrt(3.0) / 2;
-const std::array<PlotPlace, 3> Corners{
-    {{Middle, Top}, {Middle - Side / 2, Base}, {Middle + Side / 2, Base}}};
-
 constexpr int Tenths = 10;
 constexpr std::size_t LineLength = 28; // of a corner's name, in characters
 constexpr double LegendTop = 76;
-constexpr int LegendLines = 10; // further down the triangle is too wide
+constexpr double LegendBottom = 392; // further down the triangle is too wide
+
+/// Where the triangle stands on the surface. On a small one there is no title above it.
+struct Frame {
+    explicit Frame(const Plot& plot)
+        : side(plot.IsSmall() ? 230 : 560), middle(plot.IsSmall() ? 210 : 450),
+          base(plot.IsSmall() ? 256 : 592),
+          top(base - side * std::sqrt(3.0) / 2), corners{{{middle, top},
+                                                          {middle - side / 2, base},
+                                                          {middle + side / 2, base}}} {}
+
+    double side, middle, base, top;
+    std::array<PlotPlace, 3> corners;
+};
 
 double WholeOf(const PlotTable& table) {
     return table.Whole[1] > 0 ? table.Whole[1] : 1;
@@ -39,11 +45,11 @@ Fractions FractionsOf(const PlotTable& table, const PlotTable::Row& row) {
     return {first, second, 1 - first - second};
 }
 
-PlotPlace PlaceAt(const Fractions& fractions) {
+PlotPlace PlaceAt(const Frame& frame, const Fractions& fractions) {
     PlotPlace place;
-    for (std::size_t n = 0; n < Corners.size(); ++n) {
-        place.x += fractions[n] * Corners[n].x;
-        place.y += fractions[n] * Corners[n].y;
+    for (std::size_t n = 0; n < fractions.size(); ++n) {
+        place.x += fractions[n] * frame.corners[n].x;
+        place.y += fractions[n] * frame.corners[n].y;
     }
     return place;
 }
@@ -54,7 +60,7 @@ struct GridLine {
     PlotPlace atScale, across;
 };
 
-GridLine LineOf(std::size_t n, double fraction) {
+GridLine LineOf(const Frame& frame, std::size_t n, double fraction) {
     // The scale of the top runs up the right side, that of the left corner down the left side, that
     // of the right corner along the base: each side from the corner before to its own.
     const std::size_t before = (n + 2) % 3;
@@ -62,17 +68,17 @@ GridLine LineOf(std::size_t n, double fraction) {
     Fractions scale{}, other{};
     scale[n] = other[n] = fraction;
     scale[before] = other[after] = 1 - fraction;
-    return {PlaceAt(scale), PlaceAt(other)};
+    return {PlaceAt(frame, scale), PlaceAt(frame, other)};
 }
 
 /// Beyond the side, in the direction of the line, so that the eye follows it into the triangle.
-void DrawScale(PlotStrokes& strokes, std::size_t n, double whole) {
+void DrawScale(PlotStrokes& strokes, const Frame& frame, std::size_t n, double whole) {
     constexpr Align aligns[] = {Align::Left, Align::Right, Align::Centre};
     constexpr PlotPlace shifts[] = {{5, -LineHeight / 2}, {-4, -LineHeight + 6}, {-6, 2}};
     for (int tenth = 1; tenth < Tenths; ++tenth) {
         const double fraction = static_cast<double>(tenth) / Tenths;
-        const GridLine line = LineOf(n, fraction);
-        const double length = Side * (1 - fraction);
+        const GridLine line = LineOf(frame, n, fraction);
+        const double length = frame.side * (1 - fraction);
         const double x = (line.atScale.x - line.across.x) / length * TickLength;
         const double y = (line.atScale.y - line.across.y) / length * TickLength;
         const PlotPlace tick{line.atScale.x + x, line.atScale.y + y};
@@ -84,12 +90,12 @@ void DrawScale(PlotStrokes& strokes, std::size_t n, double whole) {
     }
 }
 
-void DrawCorner(PlotStrokes& strokes, std::size_t n, const std::string& name) {
+void DrawCorner(PlotStrokes& strokes, const Frame& frame, std::size_t n, const std::string& name) {
     const std::vector<std::string> lines = CornerLines(name);
     const auto count = static_cast<double>(lines.size());
-    double y = n == 0 ? Top - 6 - count * LineHeight : Base + TickLength + 30;
+    double y = n == 0 ? frame.top - 6 - count * LineHeight : frame.base + TickLength + 30;
     for (const std::string& line : lines) {
-        strokes.push_back(PlotLabel({Corners[n].x, y}, line, Align::Centre));
+        strokes.push_back(PlotLabel({frame.corners[n].x, y}, line, Align::Centre));
         y += LineHeight;
     }
 }
@@ -112,32 +118,38 @@ std::size_t BreakOf(const std::string& name, std::size_t most) {
 
 void DrawTriangle(PlotStrokes& strokes, const Plot& plot) {
     const PlotTable& table = plot.table;
-    for (std::size_t n = 0; n < Corners.size(); ++n)
-        DrawScale(strokes, n, WholeOf(table));
-    for (std::size_t n = 0; n < Corners.size(); ++n) {
-        strokes.push_back(PlotLine(Corners[n], Corners[(n + 1) % Corners.size()]));
-        DrawCorner(strokes, n, table.Corners[n]);
+    const Frame frame(plot);
+    const std::size_t corners = frame.corners.size();
+    for (std::size_t n = 0; n < corners; ++n)
+        DrawScale(strokes, frame, n, WholeOf(table));
+    for (std::size_t n = 0; n < corners; ++n) {
+        strokes.push_back(PlotLine(frame.corners[n], frame.corners[(n + 1) % corners]));
+        DrawCorner(strokes, frame, n, table.Corners[n]);
     }
-    strokes.push_back(PlotLabel({10, HeadLine}, table.Title, Align::Left));
-    DrawRingLegend(strokes, plot, {10, HeadLine + LineHeight + 6});
+    if (!plot.IsSmall()) {
+        strokes.push_back(PlotLabel({10, HeadLine}, table.Title, Align::Left));
+        DrawRingLegend(strokes, plot, {10, HeadLine + LineHeight + 6});
+    }
     if (!HasLegend(plot)) return;
-    const double width = std::clamp(LegendWidth(plot), 0.0, 330.0);
-    DrawLegend(strokes, plot, {Plot::Width - 10 - width, LegendTop}, LegendLines);
+    const PlotPlace place{plot.size.width - 10 - LegendWidth(plot),
+                          plot.IsSmall() ? HeadLine : LegendTop};
+    DrawLegend(strokes, plot, place, plot.IsSmall() ? frame.base / 2 : LegendBottom);
 }
 
-PlotPlace PlaceInTriangle(const PlotTable& table, const PlotTable::Row& row) {
-    return PlaceAt(FractionsOf(table, row));
+PlotPlace PlaceInTriangle(const Plot& plot, const PlotTable::Row& row) {
+    return PlaceAt(Frame(plot), FractionsOf(plot.table, row));
 }
 
 double LeastFraction(const PlotTable& table, const PlotTable::Row& row) {
     return std::ranges::min(FractionsOf(table, row));
 }
 
-ui::Picture::Stroke ValueLabel(const PlotTable& table, const PlotTable::Row& row) {
+ui::Picture::Stroke ValueLabel(const Plot& plot, const PlotTable::Row& row) {
     constexpr double beside = 12;
-    PlotPlace place = PlaceInTriangle(table, row);
-    const bool isLeft = place.x < Middle;
-    const bool isOnBase = place.y > Base - LineHeight / 2; // the text would be struck through
+    const Frame frame(plot);
+    PlotPlace place = PlaceInTriangle(plot, row);
+    const bool isLeft = place.x < frame.middle;
+    const bool isOnBase = place.y > frame.base - LineHeight / 2; // the text would be struck through
     place.x += isLeft ? beside : -beside;
     place.y -= isOnBase ? LineHeight : LineHeight / 2;
     auto label = PlotLabel(place, NumberText(row[0]), isLeft ? Align::Left : Align::Right);

@@ -12,11 +12,11 @@ namespace vexora {
 void DrawTriangle(PlotStrokes& strokes, const Plot& plot);
 
 /// Where a composition lies; a little outside for fractions that go a little beyond their range.
-PlotPlace PlaceInTriangle(const PlotTable& table, const PlotTable::Row& row);
+PlotPlace PlaceInTriangle(const Plot& plot, const PlotTable::Row& row);
 /// The smallest of the three fractions of 1: below 0 outside of the triangle.
 double LeastFraction(const PlotTable& table, const PlotTable::Row& row);
 /// The value of the property beside its point, towards the middle, where no scale stands.
-ui::Picture::Stroke ValueLabel(const PlotTable& table, const PlotTable::Row& row);
+ui::Picture::Stroke ValueLabel(const Plot& plot, const PlotTable::Row& row);
 /// The three fractions, "(0.2, 0.3, 0.5)".
 std::string CompositionText(const PlotTable& table, const PlotTable::Row& row);
 

@@ -5,6 +5,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "plot/PictureSvg.h"
+#include "plot/PlotPoint.h"
 #include "reference/SafeFile.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"

@@ -31,7 +31,7 @@ public:
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
 
-    ui::Picture picPIC{*this, "picPIC", Plot::Width, Plot::Height};
+    ui::Picture picPIC{*this, "picPIC", PlotSize().width, PlotSize().height};
     ui::Label lblPoint{*this, "lblPoint"};
     ui::Label lblRow{*this, "lblRow"};
     ui::CommandButton cmdPicture{*this, "cmdPicture", "Next picture"};
@@ -73,7 +73,7 @@ private:
     PlotScale scale_; // its Log is the mode
     PlotFamilies families_;
     int xVar_ = 1;
-    double groupTolerance_ = 0.001;
+    double groupTolerance_ = UsualTolerance;
     bool showUnc_ = true;
     bool showTies_ = true;
     bool hideMarks_ = true;          // on: the point under the mouse is told

@@ -1,4 +1,4 @@
-#include "plot/PlotPicture.h"
+#include "plot/PlotPoint.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "plot/SmallPlot.h"
 #include "reference/Numbers.h"
 
 namespace vexora::test {
@@ -71,7 +72,9 @@ TEST(PlotTriangle, SideAndScaleLeadToTheCornerOfTheirComponent) {
     for (const auto& one : Drawn(table))
         if (one.yields && one.text == "20") sides += PlaceText(one.x, one.y) + " ";
     EXPECT_EQ(sides, "685,483 387,181 273,599 "); // right, left and base
-    const PlotPlace place = PlaceInTriangle(table, {0, 20, 0});
+    const PlotScale scale;
+    const PlotFamilies families;
+    const PlotPlace place = PlaceInTriangle({table, scale, 1, families, true}, {0, 20, 0});
     EXPECT_EQ(PlaceText(place.x, place.y), "674,495"); // the point where the first scale says 20
 }
 
@@ -95,6 +98,29 @@ TEST(PlotTriangle, PointsOutsideAreFaintOrGone) {
         TextOf(Drawn(TriangleOf({{0, 110, 0}, {0, 60, 50}, {0, 150, 0}, {0, 30, 30}})));
     EXPECT_EQ(seen.substr(seen.find("marker")),
               "marker -1 at 422,59\nmarker -1 at 282,301\nmarker 1 at 478,447\n");
+}
+
+TEST(SmallPlot, HoldsAllPointsAndKeepsWithinItsSurface) {
+    PlotTable triangle = TriangleOf({{0, 50, 0}, {0, 0, 100}, {0, 100, 0}});
+    PlotTable axes = triangle;
+    axes.Corners = {};
+    axes.nVar = 1;
+    axes.YName = "Temperature (K)";
+    axes.VarNames = {"Mole fraction"};
+    for (PlotTable* table : {&triangle, &axes}) {
+        table->SeriesNames = {"Liquid mixture 1", "Liquid mixture 2"};
+        table->PointSeries = {1, 0, 0};
+        const PlotStrokes strokes = SmallPlot(*table);
+        std::size_t markers = 0;
+        for (const auto& one : strokes) {
+            const double below = one.shape == Shape::Text ? LineHeight : 0;
+            EXPECT_TRUE(one.x >= 0 && one.x <= SmallPlotSize.width && one.y >= 0 &&
+                        one.y + below <= SmallPlotSize.height)
+                << one.text << PlaceText(one.x, one.y);
+            markers += one.shape == Shape::Marker;
+        }
+        EXPECT_EQ(markers, 5u); // two of them in the legend
+    }
 }
 
 TEST(PlotTriangle, LongNamesAreBrokenOrShortened) {
