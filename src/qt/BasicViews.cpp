@@ -74,6 +74,7 @@ void FrameView::Draw() {
 RichTextView::RichTextView(FormWindow& window, ui::RichText& text)
     : ViewOf(window, text, new QTextBrowser(&window)) {
     own_->setOpenLinks(false);
+    own_->document()->setDefaultStyleSheet("p { margin-top: 3px; margin-bottom: 3px }");
 }
 
 bool RichTextView::Wants(const ui::Key& key) const {

@@ -23,13 +23,18 @@ double Rounded(double value) {
 
 Canvas::Canvas(ui::Picture& picture, QWidget* parent) : QWidget(parent), picture_(picture) {
     setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(picture.TakesFocus() ? Qt::StrongFocus : Qt::NoFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setMinimumSize(fontMetrics().averageCharWidth() * 70, fontMetrics().lineSpacing() * 20);
+    setMinimumSize(picture.TakesFocus() ? InCharacters(70, 20) : InCharacters(40, 12));
 }
 
+QSize Canvas::InCharacters(int columns, int lines) const {
+    return {fontMetrics().averageCharWidth() * columns, fontMetrics().lineSpacing() * lines};
+}
+
+/// What is only looked at stands beside other things.
 QSize Canvas::sizeHint() const {
-    return {fontMetrics().averageCharWidth() * 90, fontMetrics().lineSpacing() * 28};
+    return picture_.TakesFocus() ? InCharacters(90, 28) : InCharacters(50, 16);
 }
 
 /// The whole widget, or the largest part in its middle that has the shape of the picture.
@@ -71,8 +76,13 @@ void Canvas::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, ground_);
     painter.translate(Room().topLeft());
     PaintStrokes(painter, picture_, picture_.Overlay(), Room().size(), palette());
-    if (!hasFocus()) return;
     painter.resetTransform();
+    if (!picture_.TakesFocus()) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (!hasFocus()) return;
     QStyleOptionFocusRect mark;
     mark.initFrom(this);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &painter, this);

@@ -21,6 +21,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QSize InCharacters(int columns, int lines) const;
     QRectF Room() const;
 
     ui::Picture& picture_;

@@ -44,6 +44,11 @@ bool DataSet::HasVariable(std::string_view code) const {
     return false;
 }
 
+bool DataSet::HasBothKinds() const {
+    return isOriginalUnit && std::any_of(recData.begin(), recData.end(),
+                                         [](const clsData& row) { return !row.inOriginalUnits; });
+}
+
 std::vector<Quantity> DataSet::Quantities() const {
     std::vector<Quantity> quantities;
     const auto add = [&](int n) {

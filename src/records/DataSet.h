@@ -110,6 +110,8 @@ public:
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
     std::string_view Relation() const { return Definition().Relation(); }
     bool HasVariable(std::string_view code) const;
+    /// Some rows stand in the units of the paper, some do not.
+    bool HasBothKinds() const;
     /// The quantities of a row from left to right: the variables, then the property, with the names
     /// and units that their statements bear (NameStatements in PropertyChain.h).
     std::vector<Quantity> Quantities() const;

@@ -238,10 +238,14 @@ void NameStatements(DataSet& set, bool original) {
 }
 
 std::vector<Quantity> NamedQuantities(const DataSet& set) {
+    return NamedQuantities(set, set.isOriginalUnit);
+}
+
+std::vector<Quantity> NamedQuantities(const DataSet& set, bool original) {
     std::vector<Quantity> quantities = set.Quantities();
     for (Quantity& quantity : quantities) {
         clsX& item = quantity.statements;
-        NameItem(set, item, quantity.item, set.isOriginalUnit);
+        NameItem(set, item, quantity.item, original);
         quantity.name = item.Name;
         quantity.unit = item.Unit;
     }

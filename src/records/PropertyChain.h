@@ -44,6 +44,7 @@ void NameStatements(DataSet& set);
 void NameStatements(DataSet& set, bool original);
 /// The quantities of a set with their names and units, whatever its statements bear.
 std::vector<Quantity> NamedQuantities(const DataSet& set);
+std::vector<Quantity> NamedQuantities(const DataSet& set, bool original);
 /// The items of a single value, the property first, with their codes, names and units.
 std::vector<clsX> NamedStatements(const SingleValue& value);
 

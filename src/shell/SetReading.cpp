@@ -25,16 +25,10 @@ namespace vexora {
 
 namespace {
 
-// A set that holds rows of both kinds is read in system units.
-bool HasBothKinds(const DataSet& set) {
-    return set.isOriginalUnit &&
-           std::any_of(set.recData.begin(), set.recData.end(),
-                       [](const clsData& row) { return !row.inOriginalUnits; });
-}
-
-// The least and the greatest value of quantity n (0 the property) as typed.
+// The least and the greatest value of quantity n (0 the property) as typed. A set that holds rows
+// of both kinds is read in system units.
 std::string RangeOf(const DataSet& set, int n) {
-    const bool inSystem = HasBothKinds(set);
+    const bool inSystem = set.HasBothKinds();
     UnitConversion entered = set.Conversion(n);
     const bool byRow = n == 0 && set.ConvertsByRow();
     RowMasses masses(set);
@@ -66,12 +60,12 @@ std::string WithUnitIfAny(const std::string& text, const std::string& unit) {
 std::string VariableUnitText(const DataSet& set, int n) {
     const std::string unit = DefaultUnit(VariableName(set.VARIABLE(n), set.DataContext()));
     const std::string& code = set.VAR_UNIT(n);
-    return !set.isOriginalUnit || HasBothKinds(set) ? unit : UnitText(unit, code, 0);
+    return !set.isOriginalUnit || set.HasBothKinds() ? unit : UnitText(unit, code, 0);
 }
 
 std::string PropertyUnitText(const DataSet& set) {
     if (set.Relation() == "R") return {};
-    if (HasBothKinds(set)) return DefaultUnit(PropertyName(set.PRPCODE, set.DataContext()));
+    if (set.HasBothKinds()) return DefaultUnit(PropertyName(set.PRPCODE, set.DataContext()));
     return PropertyLabels::Of(set).unit;
 }
 
@@ -107,7 +101,7 @@ void DescribeRows(ReadingPage& page, const DataSet& set) {
     const std::string range = WithUnitIfAny(RangeOf(set, 0), unit);
     page.Line("Values:", range.empty() && unit != "1" ? unit : range);
     page.Line("Rows:", std::to_string(set.recData.Count()));
-    if (HasBothKinds(set)) page.Item("Some rows stand in the units of the paper, some do not.");
+    if (set.HasBothKinds()) page.Item("Some rows stand in the units of the paper, some do not.");
 }
 
 /// Parts that are stated, with commas between them.

@@ -8,6 +8,7 @@
 #include "shell/Deletion.h"
 #include "shell/DocumentAside.h"
 #include "shell/ReadingPane.h"
+#include "shell/ReadingPlot.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -20,9 +21,10 @@ constexpr const char* MainCaption = "Vexora - Thermophysical and Thermochemical 
 } // namespace
 
 frmMain::frmMain() : Form("frmMain", MainCaption) {
-    Arrangement = ui::Column(
-        {Toolbar1, ui::Split(ui::Column({ui::Field("Find", txtFind), tvwTree}), rtfReading),
-         lblStatus});
+    Arrangement = ui::Column({Toolbar1,
+                              ui::Split(ui::Column({ui::Field("Find", txtFind), tvwTree}),
+                                        ui::Column({rtfReading, picReading})),
+                              lblStatus});
     PreferredColumns = 190;
     PreferredRows = 46;
     HelpContext = 110;
@@ -148,7 +150,9 @@ void frmMain::RefreshTexts() {
     Caption(globals.ReadOnly ? std::string(MainCaption) + " (read only)" : MainCaption);
     const ui::TreeNode* node = tvwTree.SelectedNode();
     const bool isShown = node != nullptr && !node->Hidden();
-    rtfReading.Html(ReadingHtml(isShown ? node->Tag.lock().get() : nullptr));
+    const auto record = isShown ? node->Tag.lock() : nullptr;
+    rtfReading.Html(ReadingHtml(record.get()));
+    ShowReadingPlot(picReading, record.get());
     lblStatus.Caption(StatusText());
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "export/ExportDocument.h"
+#include "plot/PlotPicture.h"
 #include "shell/KnownFile.h"
 #include "shell/Paths.h"
 #include "ui/Form.h"
@@ -82,6 +83,7 @@ public:
     ui::TextBox txtFind{*this, "txtFind"}; // words that the nodes shown have to hold
     ui::TreeView tvwTree{*this, "tvwTree"};
     ui::RichText rtfReading{*this, "rtfReading"};
+    ui::Picture picReading{*this, "picReading", SmallPlotSize.width, SmallPlotSize.height};
     ui::Label lblStatus{*this, "lblStatus"};
 
     std::string FileName;       // full path, empty for a document without a file

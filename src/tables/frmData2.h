@@ -167,7 +167,6 @@ private:
     void View();
     PlotTable PointsOfTable() const;
     std::shared_ptr<PlotTable> FirstPicture(const std::shared_ptr<PlotTable>& own) const;
-    void NamePlot(PlotTable& table) const;
     double UncertaintyOf(int row) const;
     double CombinedOf(int row, double value) const;
 

@@ -95,17 +95,6 @@ std::string frmData2::CaptionText() const {
     return text;
 }
 
-void frmData2::NamePlot(PlotTable& table) const {
-    const auto named = [](const clsX& item) {
-        return item.Name + (item.Unit.empty() ? "" : " (" + item.Unit + ")");
-    };
-    table.YName = named(set_->UX[0]);
-    table.VarNames[0] = "Point number";
-    for (int n = 1; n <= set_->nVar; ++n)
-        table.VarNames[static_cast<std::size_t>(n - 1)] =
-            named(set_->UX[static_cast<std::size_t>(n)]);
-}
-
 std::string frmData2::ColumnsText() const {
     std::string text;
     for (int n = 1; n <= set_->nVar; ++n) {

@@ -5,8 +5,7 @@
 #include <utility>
 
 #include "chem/clsProperty.h"
-#include "entry/PhasePlot.h"
-#include "entry/PureEnds.h"
+#include "entry/SetPictures.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
 #include "records/DataSet.h"
@@ -41,25 +40,18 @@ void frmData2::View() {
 std::shared_ptr<PlotTable> frmData2::FirstPicture(const std::shared_ptr<PlotTable>& own) const {
     if (set_->DataContext() != "Bin" && set_->DataContext() != "Tern") return own;
     const SetSurroundings around = set_->Surroundings();
-    const PlotColumns columns = PlotColumns::Of(*set_, original_);
-    MarkFractions(*own, columns);
-    NameComponents(*own, around);
-    AddPureEnds(*own, columns, *set_, around);
     const auto asItStands = set_->Copy();
     asItStands->recData.Clear();
     for (const int row : own->PointRow)
         asItStands->recData.Add(NewRow(row, nullptr));
-    const auto phases = PhasePlot({*set_, *asItStands, *own, original_}, around);
-    if (!phases) return own;
-    phases->Next = own;
-    return phases;
+    return PicturesOf({*set_, *asItStands, *own, original_}, own, around);
 }
 
 /// A table without variables is plotted against the number of the row.
 PlotTable frmData2::PointsOfTable() const {
     PlotTable table;
     if (set_->nVar > 0) table.nVar = set_->nVar;
-    NamePlot(table);
+    NameColumns(table, set_->Quantities());
     const int property = columns_.Find(Kind::Value, 0);
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
         if (!IsNumeric(tblData.Cell(row, property))) continue;

@@ -58,6 +58,10 @@ public:
     /// Counts the changes of what lies below the overlay.
     int Revision() const { return revision_; }
     std::string Display() const override { return {}; }
+    /// One that answers to nothing is only looked at.
+    bool TakesFocus() const override {
+        return OnPress || OnMove || OnRelease || OnKey || OnClick || OnDoubleClick;
+    }
 
     std::function<void(double x, double y)> OnPress;
     std::function<void(double x, double y)> OnMove;

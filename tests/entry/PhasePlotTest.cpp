@@ -1,4 +1,4 @@
-#include "entry/PhasePlot.h"
+#include "entry/SetPictures.h"
 
 #include "entry/PureEnds.h"
 #include "records/clsZ.h"
@@ -195,6 +195,36 @@ TEST_F(PhasePlotTest, PureComponentsEndTheAxisOfTheComposition) {
     EXPECT_EQ(ends(density), "ethanol 0.7894 20 100\nwater 0.99823 20 0\n");
     around.pureValues.clear();
     EXPECT_EQ(Picture(dew, around)->Ends.size(), 1u);
+}
+
+TEST_F(PhasePlotTest, ARecordIsSeenWithItsSystemOrAlone) {
+    MixtureSet boiling = bubble, vapor = dew;
+    boiling.around = {{"ethanol", "water"}, {&boiling, &vapor}, {}, {}};
+    EXPECT_EQ(TextOf(PictureOfRecord(boiling)),
+              "Temperature of phase equilibrium (C)|Mole fraction of ethanol\n"
+              "95.5 0.019 Liquid 1 row 1\n95.5 0.17 Gas 1 row 1\n"
+              "89 0.0721 Liquid 2 row 2\n89 0.3891 Gas 2 row 2\n");
+    MixtureSet halves = bubble; // one row in the units of the paper, one in system units
+    halves.LoadRow("^G 0.5 2 360.15 5 &");
+    halves.LoadRow("^d 0.6 none &");
+    const auto own = PictureOfRecord(halves);
+    ASSERT_EQ(own->PointCount(), 3);
+    EXPECT_EQ(own->YName, "Temperature of phase equilibrium (K)");
+    EXPECT_EQ(NumberText(own->PointTable[0][0]) + " " + NumberText(own->PointTable[2][0]),
+              "368.65 360.15");
+    halves.recData.Clear();
+    halves.LoadRow("^d 0.0190 95.5 &");
+    EXPECT_EQ(PictureOfRecord(halves), nullptr);
+}
+
+TEST_F(PhasePlotTest, OfManyRowsSomeAreSeen) {
+    MixtureSet full = bubble;
+    for (int row = 0; row < 16382; ++row)
+        full.LoadRow("^d 0." + std::to_string(10000 + row) + " 80 &");
+    full.around.sameSystem = {&full, &dew};
+    const auto picture = PictureOfRecord(full);
+    EXPECT_EQ(picture->PointCount(), 965); // of 17 rows one, and the gas beside one
+    EXPECT_EQ(picture->PointTable.back()[1], 0.26369);
 }
 
 TEST_F(PhasePlotTest, CaptionsNameTheComponents) {
