@@ -20,10 +20,24 @@ std::string StandardStateOf(const clsMV& set) {
     return text.empty() ? Replace(set.STANDARD_STATE, "_", " ") : text;
 }
 
+/// Quantities of components that the mixture has not, and constraints that no table knows.
+bool HasStrangeCodes(const clsMV& set) {
+    const auto isBeyond = [&set](std::string_view code) { return ComponentOf(code) > set.MixType; };
+    for (int n = 0; n <= set.nVar; ++n)
+        if (isBeyond(set.VARIABLE(n))) return true;
+    for (int n = 1; n <= set.ConstraintCount(); ++n) {
+        const std::string& code = set.CONSTRAINT(n);
+        if (code.empty() || NamesPhase(code)) continue;
+        if (!IsConstraint(code) || isBeyond(code)) return true;
+    }
+    return false;
+}
+
 std::string FaultOf(const clsMV& set, const DataSubject& subject,
                     const std::vector<ExportedConstant>& constants, SetRows& rows) {
     std::string fault = SystemFault(*set.Parent, subject);
-    if (fault.empty() && MixtureAvailable(set.PRPCODE, "MixV").empty()) fault = NoPlaceInExport;
+    const bool hasPlace = !MixtureAvailable(set.PRPCODE, "MixV").empty() && !HasStrangeCodes(set);
+    if (fault.empty() && !hasPlace) fault = NoPlaceInExport;
     if (fault.empty()) fault = rows.Fault(subject);
     return fault.empty() ? ConstantFault(constants) : fault;
 }

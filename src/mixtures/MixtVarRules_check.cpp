@@ -135,6 +135,10 @@ void Checks::Duplicates() {
         return a.code() == b.code() && !a.code().empty() && isOnce &&
                !IsOneOf(a.code(), {"VV1", "VVI", "VV2", "DP"});
     };
+    // What is measured is neither held nor chosen.
+    for (const Stated& one : stated_)
+        Tell(one.code() == draft.property && !IsOfOnePhase(one.code()), one.field,
+             "Duplicate variable", one.index);
     for (std::size_t i = 0; i < stated_.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)
             Tell(isSame(stated_[i], stated_[j]), stated_[i].field, "Duplicate variable",

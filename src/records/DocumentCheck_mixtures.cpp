@@ -1,6 +1,7 @@
 #include "records/RecordChecks.h"
 
 #include "chem/PropertyLimits.h"
+#include "records/LineWriter.h"
 #include "records/MixtureAdvice.h"
 #include "records/MixtureWords.h"
 #include "records/StatedUncertainty.h"
@@ -9,6 +10,7 @@
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsS.h"
+#include "reference/MixtureCodes.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
@@ -54,6 +56,17 @@ void CheckConstraints(const clsMV& set, const std::string& name, Remarks& remark
     }
 }
 
+/// What the results go by besides phases and constraints.
+void CheckSurroundings(const clsMV& set, const std::string& name, Remarks& remarks) {
+    if (!set.SOLVENT.empty() && ComponentsOfSolvent(set.SOLVENT).empty())
+        remarks.Error(name + ": unknown solvent " + set.SOLVENT);
+    for (const std::string& figure : {set.REFERENCE_TEMPERATURE, set.REFERENCE_PRESSURE})
+        if (!figure.empty() && !IsNumeric(figure))
+            remarks.Error(name + ", reference state: this is no number: " + figure);
+    if (!PhaseValid(OrPlaceholder(set.REFERENCE_PHASE)))
+        remarks.Error("Unknown phase " + set.REFERENCE_PHASE);
+}
+
 } // namespace
 
 void CheckMixture(const clsM& mixture, Findings& findings) {
@@ -92,6 +105,7 @@ void CheckMixtureSet(const clsMV& set, Findings& findings) {
     CheckPhases(set.Phases(), remarks);
     CheckSamples(set, name, remarks);
     CheckConstraints(set, name, remarks);
+    CheckSurroundings(set, name, remarks);
     if (!set.recData.IsEmpty() && !StatesUncertainty(set))
         remarks.Hint(name + ": no uncertainty is stated");
     CheckRows(set, name, remarks);

@@ -248,9 +248,11 @@ std::string clsMV::Key() const {
 }
 
 std::string clsMV::PhaseStatement() const {
-    std::string text = PhaseName(PHASE1);
-    for (int n = 1; n <= ConstraintCount(); ++n)
-        if (NamesPhase(CONSTRAINT(n))) text += " + " + PhaseName(CONSTRAINT(n));
+    std::string text;
+    for (const std::string& code : Phases()) {
+        const std::string name = PhaseName(code);
+        text += (text.empty() ? "" : " + ") + (name.empty() ? code : name);
+    }
     for (const HeldConstant& constant : Constants()) {
         text += ", " + constant.code;
         if (!constant.value.empty()) text += " = " + constant.value;

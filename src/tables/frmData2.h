@@ -181,7 +181,9 @@ private:
     mutable std::optional<RowMasses> masses_; // made once for the set
     double molarMass_ = 0; // [g/mol] that all rows go by, unless it follows their composition
     bool toldOfMolarMass_ = false;
-    bool original_ = true;  // cells stand in the units of the paper
+    bool original_ = true; // cells stand in the units of the paper
+    bool hasBothKinds_ =
+        false;              // rows with counts of digits and rows without, which stay as they are
     bool isMixed_ = false;  // rows in units of both kinds, of which those of the paper stay
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;

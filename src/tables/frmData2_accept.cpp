@@ -27,6 +27,13 @@ std::string AsFigure(const TableColumn& column, const std::string& cell, double 
     return NumberText(Val(cell) * 0.01 * value);
 }
 
+/// The counts of digits say nothing that the texts do not.
+bool TellsItsDigits(const clsData& row) {
+    for (std::size_t n = 0; n <= static_cast<std::size_t>(row.nVar); ++n)
+        if (row.Digits[n] != 0 && row.Digits[n] != SignificantDigits(row.Values[n])) return false;
+    return true;
+}
+
 } // namespace
 
 bool frmData2::Refuse(const Finding& finding, const std::string& title) {
@@ -259,6 +266,7 @@ clsData frmData2::NewRow(int row, const clsData* old) const {
     data.inOriginalUnits = original_;
     for (int column = 0; column < columns_.Count(); ++column)
         columns_.Store(data, column, tblData.Cell(row, column));
+    if (hasBothKinds_ && old && !old->isDigit && TellsItsDigits(data)) data.isDigit = false;
     return data;
 }
 

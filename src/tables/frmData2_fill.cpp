@@ -43,6 +43,8 @@ void frmData2::TakeSet() {
 /// Rows in the units of the paper and rows in system units cannot stand in one table.
 void frmData2::TakeRows() {
     rows_ = set_->recData;
+    const auto isDigit = [](const clsData& row) { return row.isDigit; };
+    hasBothKinds_ = std::ranges::any_of(rows_, isDigit) && !std::ranges::all_of(rows_, isDigit);
     const auto isOriginal = [](const clsData& row) { return row.inOriginalUnits; };
     const bool all = std::all_of(rows_.begin(), rows_.end(), isOriginal);
     const bool none = !rows_.IsEmpty() && std::none_of(rows_.begin(), rows_.end(), isOriginal);
@@ -61,7 +63,6 @@ void frmData2::TakeRows() {
     }
     rows_ = adjusted_->recData;
     // A converted text no longer tells how many of its digits were measured.
-    const auto isDigit = [](const clsData& row) { return row.isDigit; };
     if (std::any_of(rows_.begin(), rows_.end(), isDigit)) Globals().IncludeDigits = true;
     set_->UX = adjusted_->UX;
     table_.Blocks().Tell({{0, "Rows in the units of the paper were brought to system units"}});

@@ -313,6 +313,8 @@ TEST_F(MixtureSetExport, WhatCannotLeaveIsTold) {
          "Eutectic composition: mole fraction of component 1"},
         {"^1 1 1 QQQ S DIR 1 Y L C &" + end, noPlace, "QQQ"},
         {"^1 1 1 VDN S DIR 1 Y L T 300 P 101.325 QX S & & & & & &\n", noPlace, "Density"},
+        {"^1 1 1 VDN S DIR 1 Y L QQ 5" + end, noPlace, "Density"},
+        {"^1 1 1 VDN S DIR 1 Y L T 300 P 101.325 X3 S & & & & & &\n", noPlace, "Density"},
         {"^1 1 1 VDN ? DIR 1 Y L T 300" + end, "Invalid conversion factor", "Density"},
         {"^1 1 1 VDN S DFX1 1 Y L T 300" + end, "Unknown definition of results DFX1", "Density"},
         {"^1 1 1 HEX Z DIR 1 Y L T 300 P 101.325 V1 S & & & & & &\n",

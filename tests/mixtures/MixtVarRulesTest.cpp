@@ -90,6 +90,7 @@ std::vector<Fault> FaultsOfChoices() {
          },
          1},
         {Variable, "Duplicate variable", [](auto& d) { d.variables[0].code = "P"; }},
+        {Constraint, "Duplicate variable", [](auto& d) { d.property = "P"; }},
         {Variable,
          "No composition variable is associated with a component activity\nIs that all right? "
          "[asks]",

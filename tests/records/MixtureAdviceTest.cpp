@@ -34,6 +34,17 @@ protected:
     }
 };
 
+TEST_F(MixtureAdvice, WhatResultsGoByIsKnown) {
+    EXPECT_EQ(
+        Found(Binary + Header + "^1 1 1 AC1 S DFR 1 Y LQ T 300 P 100 X1 S Q P & cold 101.325 QZ\n",
+              Severity::Error),
+        "Unknown phase LQ\nActivity coefficient of ethanol: unknown solvent Q\n"
+        "Activity coefficient of ethanol, reference state: this is no number: cold\n"
+        "Unknown phase QZ\n");
+    const auto mixture = *Globals().CurrentR->recM.begin();
+    EXPECT_EQ((*mixture->recMV.begin())->PhaseStatement(), "LQ, T = 300, P = 100");
+}
+
 TEST_F(MixtureAdvice, FractionsOfARowSumToOne) {
     EXPECT_EQ(Found(Binary + Set("^1 1 1 X1 S DIR 1 Y L T 300 P 100 X2 S",
                                  "^d 0.6 0.4 &\n^d 0.61 0.395 &\n^d 0.61 0.4 &\n^d 0.5 0.4 &\n")),

@@ -89,6 +89,17 @@ protected:
     frmData2* form = nullptr;
 };
 
+TEST_F(MixtureTableTest, RowsWithAndWithoutCountsOfDigitsStayAsTheyAre) {
+    Set("^B 64175 7732185", "^1 1 1 P T DIR 1 Y L T 353.15 G & X1 S & & & & & &");
+    set->LoadRow("^d 0.1700 595.5 0.2");
+    set->LoadRow("^g 0.18 2 600 3 &");
+    const std::string before = Rows();
+    globals.IncludeDigits = true;
+    OpenTable();
+    Accept();
+    EXPECT_EQ(Rows(), before);
+}
+
 TEST_F(MixtureTableTest, QuantitiesAreNamedForAReader) {
     Set("^B 64175 7732185", "^1 1 1 T C DIR 1 Y L G -1 P 101.325 X1 S & & & & & &");
     set->Variables[0].phase = "G";
