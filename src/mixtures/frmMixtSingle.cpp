@@ -82,7 +82,9 @@ void frmMixtSingle::Load() {
         txtComment.Text(globals.PropertyComment);
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
-    if (record_) cmdAccept.Caption("Accept");
+    if (!record_) return;
+    cmdAccept.Caption("Accept");
+    cboSample(0).SetFocus(); // its mixture is closed
 }
 
 void frmMixtSingle::MixtureClick() {

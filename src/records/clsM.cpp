@@ -245,8 +245,9 @@ bool IsUsedInMixtures(const clsS& sample) {
     if (compound == nullptr || compound->Parent == nullptr) return false;
     for (const auto& mixture : compound->Parent->recM) {
         const int n = mixture->PlaceOf(*compound);
+        // "01" names sample 1 too.
         const auto isOfSample = [&](const auto& record) {
-            return record->SMPNM(n) == sample.SMPNM;
+            return ToInteger(Val(record->SMPNM(n))) == ToInteger(Val(sample.SMPNM));
         };
         if (n != 0 && (std::ranges::any_of(mixture->recMZ, isOfSample) ||
                        std::ranges::any_of(mixture->recMV, isOfSample)))

@@ -140,7 +140,8 @@ std::string ReadingOf(const clsS& sample) {
     for (const auto& set : sample.recTwo)
         page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
                   Counted(set->recData.Count(), "row", "rows"));
-    page.Need(sample.recZ.IsEmpty() && sample.recTwo.IsEmpty(), "Data");
+    const bool hasOwn = !sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty();
+    page.Need(!hasOwn && !IsUsedInMixtures(sample), "Data");
     return page.Html();
 }
 
