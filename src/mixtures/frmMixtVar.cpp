@@ -44,7 +44,8 @@ void frmMixtVar::ArrangeControls() {
                                                   Field("In:", cboVarPhase(i))})));
     }
     Arrangement = Column(
-        {Row({Field("Mixture:", cboMixt), Field("Property set #", txtPrpSetNo)}), Row(samples),
+        {Row({Field("Mixture:", cboMixt), Field("Property set #", Narrow(txtPrpSetNo, 4))}),
+         Row(samples),
          Row({Field("Phases in equilibrium:", cboPhases), Field("Constraints:", cboConstraints),
               lblVariables}),
          Row(phases), Group(fraConstraints, constraints), Group(fraVariables, variables),
@@ -56,7 +57,7 @@ void frmMixtVar::ArrangeControls() {
               Row({Field("Reference T:", txtRefT), Note("K"), Field("Reference pressure:", txtRefP),
                    Note("kPa"), Field(lblRefPhase, cboRefPhase)})}),
          Group(fraPresentation,
-               {Field("Numerical", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+               {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
          chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
     PreferredColumns = 110;
     TabAlongArrangement();

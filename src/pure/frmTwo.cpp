@@ -34,7 +34,7 @@ void frmTwo::ArrangeControls() {
                      Field("Reference pressure:", txtREF_PRESSURE), Note("kPa"),
                      Field("Reference phase:", lstREF_PHASE)})}),
          Group(fraPresentation,
-               {Field("Numerical", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+               {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
          chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
     PreferredColumns = 100;
 }
