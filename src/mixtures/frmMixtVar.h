@@ -159,6 +159,7 @@ private:
     void WriteStatements(clsMV& set) const;
     void WriteStatementsOfConstants(clsMV& set) const;
     void WriteComment(clsMV& set);
+    void TurnPrecisions(clsMV& set) const;
     void DropConstants(CommentTags& tags) const;
     void AdjustPrecisions(CommentTags& tags, const clsMV& set) const;
     void BuildPropertyChain();

@@ -225,6 +225,19 @@ void frmMixtVar::WriteComment(clsMV& set) {
     BuildPropertyChain();
     vexora::FillHeader(set.Header, !record_,
                        BuildComment(txtComment.Text(), *Globals().CurrentProperty, ""));
+    if (!set.isOriginalUnit) set.commentInSystemUnits = false; // of constraints as they stand
+    if (TurnsRows()) TurnPrecisions(set);
+}
+
+/// What is stated of the rows goes along with them into system units.
+void frmMixtVar::TurnPrecisions(clsMV& set) const {
+    if (record_->commentInSystemUnits) return;
+    CommentTags tags(set.Header.DATACOMMENT);
+    tags.ChangePrecisions([this](const std::string& code, const std::string& typed) {
+        const bool isOfRows = code == record_->PRPCODE || record_->HasVariable(code);
+        return isOfRows ? record_->SystemPrecision(code, typed) : typed;
+    });
+    set.Header.DATACOMMENT = tags.Stored();
 }
 
 /// Takes out of the tags the constant that the form shows, and those that have become variables or

@@ -212,7 +212,8 @@ void DataSet::PrintRows(LineWriter& out) const {
 /// differences.
 std::string DataSet::CommentForRecord() const {
     std::string comment = CommentOfLine();
-    if (commentInSystemUnits || !isOriginalUnit) return comment;
+    // In system units a constant of the definition may still stand in a unit of its own.
+    if (commentInSystemUnits || (!isOriginalUnit && !StatesInUnitsOfLine())) return comment;
     return CommentInSystemUnits(comment, [this](const std::string& code, const std::string& typed) {
         return PrecisionForRecord(code, typed);
     });
@@ -223,7 +224,7 @@ std::string DataSet::PrecisionForRecord(const std::string& code, const std::stri
     // The property has its unit in the line, or a factor in front of it.
     if (code == PRPCODE) return typed;
     for (int n = 1; n <= nVar; ++n)
-        if (code == VARIABLE(n) && !IsUnitLong(VAR_UNIT(n))) return typed;
+        if (code == VARIABLE(n) && !(isOriginalUnit && IsUnitLong(VAR_UNIT(n)))) return typed;
     return SystemPrecision(code, typed);
 }
 

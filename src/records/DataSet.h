@@ -150,6 +150,9 @@ public:
     /// unit or a molar mass is not known.
     /// Never called for writing: the file keeps the figures of the paper wherever it can.
     bool AdjustUnits();
+    /// A precision stated for a quantity in the unit of its values, in the system unit; that of a
+    /// quantity that the set has not, as it stands.
+    std::string SystemPrecision(const std::string& code, const std::string& typed) const;
     /// How a value of a state variable leads to its system unit from that of a unit field.
     static UnitConversion ConversionOf(const std::string& variable, const std::string& field);
 
@@ -173,7 +176,6 @@ private:
     bool NamesUnit() const;
     std::string CommentForRecord() const;
     std::string PrecisionForRecord(const std::string& code, const std::string& typed) const;
-    std::string SystemPrecision(const std::string& code, const std::string& typed) const;
     void PrintHead(LineWriter& out) const;
     void PrintStatements(LineWriter& out) const;
     void PrintRows(LineWriter& out) const;

@@ -185,6 +185,19 @@ TEST_F(frmMixtVarTest, WhatIsStatedOfAConstraintFollowsItsUnit) {
     EXPECT_NE(lines.find("^X 3 P L - & & & - & & & + 95 0.51 "), lines.npos) << lines;
 }
 
+TEST_F(frmMixtVarTest, PrecisionsGoIntoSystemUnitsWithTheRows) {
+    const auto set = Add(*binary, "^1 1 1 P T DIR 1 Y L T 293.15 G & X1 S & & & & & &",
+                         "^d 0.1 75.00 &", "dP:0.5:dT:0.1:");
+    set->Constraints[1] = {"T", "527.67", "L", "R"}; // as a dialog left it
+    frmMixtVar& form = Edit(set);
+    globals.OriginalUnits = false; // as chosen beside the property
+    desktop.Expect("The rows of the table are brought to system units");
+    Accept(form);
+    const std::string lines = Lines(*set);
+    EXPECT_NE(lines.find("dP:0.067:"), lines.npos) << lines;
+    EXPECT_NE(lines.find("dT:0.06:"), lines.npos) << lines;
+}
+
 TEST_F(frmMixtVarTest, TheWavelengthOfAStoredSetIsShown) {
     const auto set =
         Add(*binary, "^2 1 1 RIX S DIR 1 N L P 101.325 T S X1 S & & & & & &", "", "WL = 5893:");
