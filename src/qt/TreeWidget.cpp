@@ -170,6 +170,7 @@ void TreeWidgetView::DrawNode(ui::TreeNode& node) {
     QFont font = own_->font();
     font.setBold(node.Bold());
     item->setFont(0, font);
+    item->setForeground(0, node.Bold() ? own_->palette().brush(QPalette::Link) : QBrush());
     item->setExpanded(node.Expanded());
     if (item->isHidden() != node.Hidden()) item->setHidden(node.Hidden());
 }

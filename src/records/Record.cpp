@@ -26,12 +26,14 @@ void Record::MakeNode(ui::TreeNode* above) {
     if (!tree) return;
     tNode = &tree->Add(above, NodeKey(above), readsUnderWay > 0 ? std::string() : ShowKey());
     tNode->Tag = shared_from_this();
+    tNode->Bold(StandsOut());
     tNode->EnsureVisible();
 }
 
 void Record::Refresh() {
     if (!tNode) return;
     Label(ShowKey());
+    tNode->Bold(StandsOut());
     Globals().tvwTree->Rekey(*tNode, NodeKey(tNode->Parent()));
 }
 

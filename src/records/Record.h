@@ -29,6 +29,8 @@ public:
     virtual std::string Key() const = 0;
     /// The text of the node.
     virtual std::string ShowKey() const = 0;
+    /// Its node is to catch the eye.
+    virtual bool StandsOut() const { return false; }
     /// Makes this record and those above it the current ones; sets CurrentKey if it is still empty.
     /// The lowest record speaks first, so CurrentKey names the kind of what was selected.
     virtual void SetMe() = 0;

@@ -97,6 +97,8 @@ public:
 
     std::string Key() const override;
     std::string ShowKey() const override;
+    /// Its rows belong together with those of other sets.
+    bool StandsOut() const override { return IsTied(); }
     void SetMe() override;
     void AttachTo(clsM& mixture);
     std::size_t Leave() override;

@@ -249,4 +249,16 @@ TEST_F(DocumentTest, LinesThatAreNotKeptMakeTheDocumentReadOnly) {
     EXPECT_FALSE(Globals().ReadOnly);
 }
 
+TEST_F(DocumentTest, NodesOfTiedSetsStandOut) {
+    const std::string path = folder.Path("mixtures.txt");
+    std::filesystem::copy_file(VEXORA_SOURCE_DIR "/examples/ethanol_water/1932carlew1.txt", path);
+    ASSERT_TRUE(Start(path));
+    std::string bold;
+    for (const auto& system : Shell().tvwTree.Roots().front()->Children())
+        for (const auto& node : system->Children())
+            if (node->Bold()) bold += system->Text() + ", " + node->Text().substr(0, 21) + "\n";
+    const std::string ternary = "acetic acid + chloroform + water, ^1: Weight fraction o\n";
+    EXPECT_EQ(bold, ternary + ternary + ternary);
+}
+
 } // namespace vexora::test
