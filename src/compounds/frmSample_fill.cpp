@@ -44,6 +44,7 @@ std::string InPerCent(const std::string& value, const PrintedUnit& unit) {
 
 std::vector<std::string> frmSample::PurityUnitList() {
     std::vector<std::string> units;
+    units.reserve(std::size(PurityUnits) + std::size(PrintedUnits));
     for (const PurityUnit& unit : PurityUnits)
         units.emplace_back(unit.text);
     for (const PrintedUnit& unit : PrintedUnits)

@@ -61,7 +61,7 @@ PlotTable PointsOf(const DataSet& set, bool original) {
 
 /// A copy with the rows of these points alone.
 std::shared_ptr<DataSet> WithRowsOf(const PlotTable& points, const DataSet& set) {
-    const auto copy = set.Copy();
+    auto copy = set.Copy();
     copy->recData.Clear();
     for (const int number : points.PointRow)
         copy->recData.Add(clsData(*set.recData.Item(static_cast<std::size_t>(number))));
@@ -94,7 +94,7 @@ std::shared_ptr<PlotTable> PicturesOf(const SetInHand& hand, const std::shared_p
     MarkFractions(*own, columns);
     NameComponents(*own, around);
     AddPureEnds(*own, columns, hand.asItStands, around);
-    const auto phases = PhasePlot(hand, around);
+    auto phases = PhasePlot(hand, around);
     if (!phases) return own;
     phases->Next = own;
     return phases;
@@ -102,7 +102,7 @@ std::shared_ptr<PlotTable> PicturesOf(const SetInHand& hand, const std::shared_p
 
 std::shared_ptr<PlotTable> PictureOfRecord(const DataSet& set) {
     const bool original = set.isOriginalUnit && !set.HasBothKinds();
-    const auto own = std::make_shared<PlotTable>(PointsOf(set, original));
+    auto own = std::make_shared<PlotTable>(PointsOf(set, original));
     if (own->PointCount() < 2) return nullptr;
     if (set.DataContext() == "Pure" || set.recData.Count() > PlotTable::MostPoints) return own;
     SetSurroundings around = set.Surroundings();

@@ -50,7 +50,7 @@ std::string ShortForm(const std::string& code, int mixType) {
     if (code == "HSL") return "HA";
     const char last = code.empty() ? '\0' : code.back();
     if (last < '1' || last > '3') return {};
-    const std::string stem = code.substr(0, code.size() - 1);
+    std::string stem = code.substr(0, code.size() - 1);
     if (IsOneOf(NumberedProperties, stem)) return stem;
     return mixType == 2 && last != '3' && IsContentLetter(stem) ? stem : std::string();
 }

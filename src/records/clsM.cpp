@@ -208,7 +208,7 @@ std::string clsM::Abbreviate(int n) const {
         const auto compound = Component(component);
         return compound ? compound->ShowKey() : RN(component);
     };
-    const std::string full = name(n);
+    std::string full = name(n);
     const std::size_t length = CodePointCount(full);
     constexpr std::size_t least = 6, mostBehind = 3;
     if (MixType == 2 || length < least) return full;
