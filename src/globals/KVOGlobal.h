@@ -32,6 +32,7 @@ class clsTwo;
 class clsX;
 class clsZ;
 class DataSet;
+class ProcessedSets;
 struct PlotTable;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
@@ -92,6 +93,15 @@ struct KVOGlobal {
 
     // The set whose definition a new one begins with; the dialog that opens takes it.
     std::shared_ptr<DataSet> SetToRepeat;
+
+    // What frmSelect chose, for the table to process.
+    std::string TableKind;                  // the kind of table in words
+    std::string SystemClass;                // "Pure", "Bin" or "Tern"
+    bool StaticMode = false;                // measured by a static method
+    std::vector<std::string> ChosenSamples; // numbers, one a component
+    // The stored sets that the next table to process shows; it takes them.
+    std::vector<std::shared_ptr<clsMV>> SetsToShow;
+    std::shared_ptr<ProcessedSets> Processed; // the last table that became sets, to be taken back
 
     // The working context of the open data dialog; made anew before each dialog.
     std::shared_ptr<clsMethod> CurrentMethod;

@@ -109,6 +109,12 @@ public:
     /// Renumbers what names a component: component n becomes number[n].
     void Sort(const std::array<int, 4>& number);
 
+    /// Rows at the end of a composition tell of a pure component, those of a ternary without one of
+    /// its components of a binary: adds what they tell to the records of these. True when it added
+    /// any; `told` gets what a person has to know, the text of the set on its last line. The rows
+    /// stay, and what is there already is not added again.
+    bool Detect(std::vector<std::string>& told);
+
     /// What the line says, in the form of memory; and the way back.
     MixtureLine Definition() const;
     void Define(const MixtureLine& definition);
