@@ -26,9 +26,9 @@ struct PlannedSet {
 /// What the heads and values of a table of a binary or ternary mixture tell.
 struct PhaseAnalysis {
     bool Ok = false;
-    /// What is missing or contradictory, for the pane beside the table and for the box of a
-    /// refusal; empty with Ok.
+    /// For the box of a refusal; empty with Ok.
     std::string message;
+    std::string hint; // the same in plain words: what to do, and where; empty with Ok
     std::vector<std::string> PhaseList; // codes, in the order of the columns
     std::string Context;                // "vle", "lle" or "sle"
     int FreeVars = 0;                   // constraints of each set: further phases, T, P
@@ -36,6 +36,8 @@ struct PhaseAnalysis {
     /// A constant that has a place and no column, which is to be asked for: 't' before 'p'.
     bool asksT = false, asksP = false;
     std::vector<PlannedSet> sets;
+    /// Columns of fractions that follow from the others of their phase: checked, and not stored.
+    std::vector<int> implied;
 
     int PhaseCount() const { return static_cast<int>(PhaseList.size()); }
 };

@@ -21,7 +21,8 @@ struct PlannedFunction {
 /// What the heads of a table of a pure compound tell.
 struct ThermalAnalysis {
     bool Ok = false;
-    std::string message; // what is missing; empty with Ok
+    std::string message; // for the box of a refusal; empty with Ok
+    std::string hint;    // the same in plain words: what to do, and where; empty with Ok
     int TColumn = -1, PropColumn = -1;
     std::vector<PlannedFunction> sets;
 };
