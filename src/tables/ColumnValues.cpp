@@ -11,11 +11,9 @@ namespace vexora {
 
 namespace {
 
-/// System unit of what a column holds; state variables and fractions have one and the same as
-/// property and as variable.
-std::string SystemUnitOf(const std::string& quantity) {
-    const std::string unit = UnitOfVariable(quantity);
-    return unit.empty() ? UnitOfProperty(quantity) : unit;
+/// A quantity has one system unit, whether it becomes a property or a variable.
+std::string SystemUnitOf(const ProcessColumn& head) {
+    return head.IsState() ? UnitOfVariable(head.quantity) : UnitOfProperty(head.quantity);
 }
 
 } // namespace
@@ -35,10 +33,11 @@ UnitConversion ColumnConversion(const ProcessColumn& column, std::string_view sy
     return conversion;
 }
 
-ColumnValues::ColumnValues(const ProcessTable& table, int column)
+ColumnValues::ColumnValues(const ProcessTable& table, int column, double molarMass)
     : table_(&table), column_(column) {
     const ProcessColumn& head = table.columns[static_cast<std::size_t>(column)];
-    conversion_ = ColumnConversion(head, SystemUnitOf(head.quantity));
+    conversion_ = ColumnConversion(head, SystemUnitOf(head));
+    conversion_.molarMass = molarMass;
 }
 
 std::optional<double> ColumnValues::Value(int row) const {
@@ -92,7 +91,7 @@ std::string HeadFault(const ProcessTable& table, int column) {
                    ? std::string()
                    : "A factor above 0 as the unit of " + ColumnText(column);
     }
-    return ConversionFactor(head.unit, SystemUnitOf(head.quantity)) > 0
+    return ConversionFactor(head.unit, SystemUnitOf(head)) > 0
                ? std::string()
                : "Another unit for " + ColumnText(column);
 }

@@ -21,8 +21,8 @@ UnitConversion ColumnConversion(const ProcessColumn& column, std::string_view sy
 /// One column of a table, made once for all of its rows.
 class ColumnValues {
 public:
-    /// The unit is that of the property or variable of the column.
-    ColumnValues(const ProcessTable& table, int column);
+    /// molarMass [g/mol] for a unit by mass, 0 when it is not known.
+    ColumnValues(const ProcessTable& table, int column, double molarMass = 0);
 
     bool Has(int row) const { return !table_->Cell(row, column_).empty(); }
     /// In the system unit; nothing for a cell that is empty or no number.

@@ -118,16 +118,10 @@ private:
         }
         const ProcessedRows rows(table_, *set, columns);
         const bool isOriginal = set->isOriginalUnit;
-        bool isStated = false;
-        for (const int row : planned.rows) {
-            const clsData& made = set->AddRow(rows.NewRow(row, TieOf(planned, rows, row)));
-            isStated = isStated || (made.Extras && !made.Extras->userCU.empty());
-        }
+        for (const int row : planned.rows)
+            set->AddRow(rows.NewRow(row, TieOf(planned, rows, row)));
         set->isOriginalUnit = isOriginal;
-        if (isStated && planned.uncertainty >= 0 && !set->UX[0].iCU) {
-            set->UX[0].iCU = true;
-            set->UX[0].CType = "A";
-        }
+        if (planned.uncertainty >= 0) StateUncertainties(*set);
         NameStatements(*set);
         return set;
     }

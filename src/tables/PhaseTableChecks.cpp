@@ -111,7 +111,7 @@ private:
             std::none_of(findings_.begin() + static_cast<std::ptrdiff_t>(before), findings_.end(),
                          [](const Finding& one) { return one.isFault; });
         if (!isGood) return;
-        CheckPlaces(row);
+        if (!CheckPlaces(row)) return;
         for (const Sum& sum : sums_)
             CheckSum(row, sum);
     }
@@ -147,8 +147,8 @@ private:
         }
         return missing;
     }
-    /// Each number of a row goes into a set, or there is something to say.
-    void CheckPlaces(int row) {
+    /// Each number of a row goes into a set, or there is something to say; false for a fault.
+    bool CheckPlaces(int row) {
         int alone = -1;
         for (const CheckedColumn& one : columns_) {
             const int column = one.rules.column;
@@ -156,13 +156,14 @@ private:
             const int missing = MissingCell(row, column);
             if (missing >= 0) {
                 findings_.push_back({row, missing, "Invalid value of independent variable"});
-                return;
+                return false;
             }
             if (alone < 0 && IsIndependent(column)) alone = column;
         }
         if (alone >= 0)
             findings_.push_back(
                 {row, alone, "The row has no property and will be left out", false});
+        return true;
     }
 
     /// A fraction that is not stored has to follow from those that are.

@@ -90,7 +90,7 @@ struct ProcessSystem {
 
 /// Constants of a mixture that no column holds, in system units; empty for not known.
 struct AskedConstants {
-    std::string T, P;
+    std::string T = {}, P = {};
     bool isAsked = false; // an empty one was left empty, and is not asked for again
 };
 

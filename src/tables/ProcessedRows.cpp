@@ -32,6 +32,15 @@ bool IsSame(const UnitConversion& a, const UnitConversion& b) {
     return Equal(a.Absolute(0), b.Absolute(0)) && Equal(a.Absolute(1), b.Absolute(1));
 }
 
+void StateUncertainties(DataSet& set) {
+    const bool isStated = std::ranges::any_of(
+        set.recData, [](const clsData& row) { return row.Extras && !row.Extras->userCU.empty(); });
+    if (!isStated || set.UX[0].iCU) return;
+    set.UX[0].iCU = true;
+    set.UX[0].CType = "A";
+    set.UX[0].PHASE = set.PhaseFor(0);
+}
+
 ProcessedRows::ProcessedRows(const ProcessTable& table, const DataSet& set,
                              const RowColumns& columns)
     : table_(table), set_(set), columns_(columns) {

@@ -46,6 +46,10 @@ private:
     std::unordered_map<const clsData*, bool> isAlike_;
 };
 
+/// Where rows state combined uncertainties, the set says that they do, and that they come of
+/// propagation.
+void StateUncertainties(DataSet& set);
+
 /// Conversions that lead each number to the same.
 bool IsSame(const UnitConversion& a, const UnitConversion& b);
 

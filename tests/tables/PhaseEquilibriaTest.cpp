@@ -26,21 +26,9 @@ const std::string Triangle = "T W1 W2 W3 W1 W2 W3\nC 0.01 0.01 0.01 0.01 0.01 0.
                              "18 32.08 59.99 7.93 49.41 25.20 25.39\n"
                              "18 34.61 55.81 9.58 47.87 28.85 23.28";
 
-/// Some columns of a table, as rows of a record with what stands behind them.
-std::string Rows(const std::string& table, const std::vector<std::size_t>& columns,
-                 bool areTied = false) {
-    std::string text;
-    int row = 0;
-    for (const std::string& line : Split(table, '\n')) {
-        if (row++ < 3) continue;
-        const std::vector<std::string> cells = Split(line, ' ');
-        text += "^d";
-        for (const std::size_t column : columns)
-            text += " " + cells[column];
-        text += areTied ? " & " + std::to_string(row - 3) + "\n" : " &\n";
-    }
-    return text;
-}
+const std::string NoState =
+    "Properties and/or phases are not completely defined in a consistent way\n"
+    "Try to add T or P as a state variable | ";
 
 class PhaseEquilibria : public ProcessTableFixture {};
 
@@ -83,6 +71,276 @@ TEST_F(PhaseEquilibria, TiesOfATernary) {
                            "W1 S DIR 1 Y L2 T 291.15 L1 -1 & & W1 S & & & & & &\n" + rows(4) +
                            head + "W3 S DIR 1 Y L2 T 291.15 L1 -1 & & W1 S & & & & & &\n" +
                            rows(6));
+}
+
+TEST_F(PhaseEquilibria, AGasAboveATernaryAtOnePressure) {
+    const ProcessSystem system = Mixture("^T 64197 67663 7732185 &\n" + Header +
+                                         "^1 1 1 1 X2 D DIR 3 Y L1 T 291.15 L2 & & & X1 D & & & & "
+                                         "& &\n^d 0.1 0.8 & 7");
+    const std::string table = "T P X1 X2 X1 CU X2\nS S D D D - D\n- - L L G - G\n"
+                              "340.1 101.3 0.10 0.20 0.31 0.01 0.42\n"
+                              "341.1 101.30 0.40 0.20 0.51 - 0.32\n"
+                              "342.1 101.3 - - - - -";
+    ProcessTable read = TableOf(3, table);
+    read.rows.pop_back();
+    Process(read, system);
+    EXPECT_EQ(Saved(), "");
+}
+
+/// Sets that filled a table, with what their rows know beside the texts.
+class StoredEquilibria : public PhaseEquilibria {
+protected:
+    /// Fills the origin of a table from sets that were made of it.
+    void Fill(ProcessTable& table, const std::vector<std::shared_ptr<clsMV>>& sets) {
+        const PhaseAnalysis analysis = AnalyseVLE(table);
+        auto origin = std::make_shared<TableOrigin>();
+        origin->sets = sets;
+        for (std::size_t row = 0; row < table.rows.size(); ++row) {
+            table.rows[row].place = static_cast<int>(row);
+            origin->cells.emplace_back(table.columns.size());
+        }
+        for (std::size_t i = 0; i < sets.size(); ++i) {
+            const PlannedSet& planned = analysis.sets[i];
+            for (std::size_t at = 0; at < planned.rows.size(); ++at) {
+                const auto row = static_cast<std::size_t>(planned.rows[at]);
+                const clsData* const stored = sets[i]->recData.Item(at + 1);
+                table.rows[row].tie = std::string(stored->TIELINE);
+                const auto fill = [&](int column, int item) {
+                    const auto place = static_cast<std::size_t>(column);
+                    origin->cells[row][place] = {stored, item, table.rows[row].cells[place]};
+                };
+                fill(planned.property, 0);
+                for (std::size_t n = 0; n < planned.variables.size(); ++n)
+                    fill(planned.variables[n], static_cast<int>(n) + 1);
+            }
+        }
+        table.origin = origin;
+    }
+    static std::string Lines(const std::vector<std::shared_ptr<clsMV>>& sets) {
+        LineWriter out;
+        for (const auto& one : sets)
+            one->Print(out);
+        return out.Text();
+    }
+};
+
+TEST_F(StoredEquilibria, ATableThatNobodyTouchedGivesTheSameLines) {
+    const std::string lines =
+        "^A & O A 1 ABC DEF 1/2/2003 measured ::Method:EBULLIO:dT:0.1:\n"
+        "^1 1 1 T C FR 4 Y L P 101.325 G & X1 D & & & & & &\n"
+        "^X 0 T L + & 95 0.1 - & & & - & & - & & - & & &\n"
+        "^g 0.0190 3 95.5 2 0.2 5\n^Y & & & 0.001 & & & 0.3 0.7 0.05\n^d 0.0721 89.0 & 6\n"
+        "^d 0.3 81 &\n"
+        "^A & O A & ABC DEF 1/2/2003 ::Method:EBULLIO:\n"
+        "^1 1 1 X1 D DIR 9 Y G L -1 P 101.325 X1 D & & & & & &\n"
+        "^d 0.0190 0.1700 & 5\n^d 0.0721 0.3891 & 6\n";
+    const ProcessSystem system = Mixture("^B 64175 7732185 P\n" + lines);
+    std::vector<std::shared_ptr<clsMV>> stored;
+    for (const auto& one : system.mixture->recMV)
+        stored.push_back(one);
+    ProcessTable table = TableOf(2, "T P X1 X1\nC S D D\n- - L G\n95.5 101.325 0.0190 0.1700\n"
+                                    "89.0 101.325 0.0721 0.3891\n81 101.325 0.3 -");
+    Fill(table, stored);
+    EXPECT_EQ(Lines(MakeSets(table, AnalyseVLE(table), system)), Lines(stored));
+}
+
+TEST_F(PhaseEquilibria, ConstantsComeOfTheColumnsOrAreAskedFor) {
+    const ProcessSystem system = Mixture("^B 64175 7732185 &");
+    ProcessTable table = TableOf(2, Layers);
+    const PhaseAnalysis first = AnalyseVLE(table);
+    EXPECT_TRUE(first.Ok && first.asksP && !first.asksT);
+    EXPECT_FALSE(AnalyseVLE(table, {.isAsked = true}).asksP);
+    table.notStated = {"P"};
+    EXPECT_FALSE(AnalyseVLE(table).asksP);
+    Process(table, system, {.P = "101.325"});
+    EXPECT_NE(Saved().find("W1 S DIR 1 Y L1 P 101.325 L2 & T C & & & & & &\n"), std::string::npos);
+    // A state that nobody knows: of a ternary both are asked for, and one is needed.
+    ProcessTable ternary = TableOf(3, "X1 X2 X1\nD D D\nL1 L1 L2\n.1 .2 .8\n.2 .3 .7");
+    const PhaseAnalysis both = AnalyseVLE(ternary);
+    EXPECT_TRUE(both.Ok && both.asksP && both.asksT);
+    EXPECT_EQ(Told(ternary, AnalyseVLE(ternary, {.T = "300", .isAsked = true})),
+              "X2(L1) X1(L1) : L2 T=300 & *2\nX1(L2) X1(L1) : L1 T=300 & *2\n");
+    EXPECT_EQ(Told(ternary, AnalyseVLE(ternary, {.isAsked = true})),
+              NoState + "A temperature or a pressure");
+    ternary.notStated = {"T", "P"};
+    EXPECT_TRUE(AnalyseVLE(ternary).Ok);
+    // The role that a column had in stored sets goes before its values.
+    ProcessTable filled = TableOf(2, "T P X1 X1\nS S D D\n- - L G\n300 50 .1 .2");
+    filled.columns[1].role = ProcessColumn::Role::Constant;
+    EXPECT_EQ(Told(filled, AnalyseVLE(filled)),
+              "T(L) X1(L) : G P=50 *1\nX1(G) X1(L) : L P=50 *1\n");
+    filled.columns[1].role = ProcessColumn::Role::Variable;
+    filled.rows.resize(2, filled.rows[0]);
+    EXPECT_EQ(Told(filled, AnalyseVLE(filled)),
+              "P(L) X1(L) : G T=300 *2\nX1(G) X1(L) : L T=300 *2\n");
+    filled.rows[1].cells[0] = "310";
+    EXPECT_EQ(Told(filled, AnalyseVLE(filled)), "T(L) X1(L) P : G *2\nX1(G) X1(L) P : L *2\n");
+}
+
+TEST_F(PhaseEquilibria, HeadsAndValuesTellWhatIsAgainstWhat) {
+    struct Case {
+        int mixType;
+        const char* table;
+        const char* told;
+    };
+    const Case cases[] = {
+        // Binaries with a gas.
+        {2, "T X1 X1\nS D D\n- L G\n300 .1 .2\n310 .2 .3",
+         "T(L) X1(L) : G & *2\nX1(G) X1(L) : L & *2\n"},
+        {2, "T P X1 X1\nC S D D\n- - L G\n25 50 .1 .2\n25 60 .2 .3",
+         "P(L) X1(L) : G T=298.15 *2\nX1(G) X1(L) : L T=298.15 *2\n"},
+        {2, "T P X1 X1\nS S D D\n- - L G\n300 50 .1 .2\n300 60 .2 .3\n310 70 .3 .4",
+         "T(L) X1(L) P : G *3\nX1(G) X1(L) P : L *3\n"},
+        {2, "T P X1 X1\nS S D D\n- - G L\n300 50 .1 .2\n310 60 .2 .3",
+         "P(L) X1(G) T : G *2\nX1(L) X1(G) T : G *2\n"},
+        {2, "T P X1 X1 X1\nS S D D D\n- - L1 L2 G\n300 50 .1 .8 .2\n300 60 .2 .7 .3",
+         "T(L1) X1(L1) : L2 G *2\nP(L1) X1(L1) : L2 G *2\nX1(L2) X1(L1) : L1 G *2\n"
+         "X1(G) X1(L1) : L1 L2 *2\n"},
+        // Binaries without one.
+        {2, "T W1 W1\nS D D\n- L1 L2\n300 .1 .9\n310 .2 .8",
+         "W1(L1) T : L2 & *2\nW1(L2) T : L1 & *2\n"},
+        {2, "P W1 W1\nS D D\n- L1 L2\n300 .1 .9\n310 .2 .8",
+         "W1(L1) P : L2 & *2\nW1(L2) P : L1 & *2\n"},
+        {2, "T P X1 X1\nS S D D\n- - L Cp1\n300 50 .1 1\n310 60 .2 1\n320 70 .3 -",
+         "X1(L) T P : Cp1 *3\n"},
+        {2, "P T X1 - -\nS S D - -\n- - L Cp1 Cp2\n50 300 .1 - -\n60 310 .2 - -",
+         "P(L) T : Cp1 Cp2 *2\nX1(L) T : Cp1 Cp2 *2\n"},
+        // Ternaries.
+        {3, "T X1 X2 X1 X2\nS D D D D\n- L1 L1 L2 L2\n300 .1 .1 .5 .1\n300 .2 .2 .4 .1",
+         "X2(L1) X1(L1) : L2 T=300 & *2\nX1(L2) X1(L1) : L1 T=300 & *2\n"
+         "X2(L2) X1(L1) : L1 T=300 & *2\n"},
+        {3, "T P X1 X2 X1 X2\nS S D D D D\n- - L L G G\n300 9 .1 .1 .5 .1\n310 9 .2 .2 .4 .1",
+         "X2(L) T X1(L) : G P=9 *2\nX1(G) T X1(L) : L P=9 *2\nX2(G) T X1(L) : L P=9 *2\n"},
+        {3, "T P X1 X2 X1\nS S D D D\n- - L L G\n300 9 .1 .1 .5\n310 8 .2 .9 .4",
+         "X1(L) T P X2(L) : G *2\nX1(G) T P X2(L) : L *2\n"},
+        {3, "T X1 X1 X1\nS D D D\n- L1 L2 G\n300 .1 .1 .5\n310 .2 .2 .4",
+         "X1(L1) T : L2 G & *2\nX1(L2) T : L1 G & *2\nX1(G) T : L1 L2 & *2\n"},
+        {3, "T P X1 X1 X1\nS S D D D\n- - L1 L2 G\n300 9 .1 .1 .5\n310 8 .2 .2 .4",
+         "X1(L1) T P : L2 G *2\nX1(L2) T P : L1 G *2\nX1(G) T P : L1 L2 *2\n"},
+        {3, "T P X1 X1 X1 -\nS S D D D -\n- - L1 L2 G Cp3\n300 9 .1 .1 .5 -\n310 9 .2 .2 .4 -",
+         "P(L1) T : L2 G Cp3 *2\nX1(L1) T : L2 G Cp3 *2\nX1(L2) T : L1 G Cp3 *2\n"
+         "X1(G) T : L1 L2 Cp3 *2\n"},
+        // Of one row nothing is constant; what is typed as per cent of the others is left out.
+        {2, "T P X1 X2 X1\nS S D D D\n- - L L G\n300 50 .1 .9 .2",
+         "P(L) X1(L) T : G *1\nX1(G) X1(L) T : L *1\n"},
+        // Rows of one phase alone stand in a set of their own.
+        {3,
+         "T X1 X2 X1 X2\nS D D D D\n- L1 L1 L2 L2\n300 .1 .1 .5 .1\n300 .2 .2 - -\n300 - - .4 .3",
+         "X2(L1) X1(L1) : L2 T=300 & *2\nX1(L2) X1(L1) : L1 T=300 & *1\n"
+         "X2(L2) X1(L1) : L1 T=300 & *1\nX1(L2) X2(L2) : L1 T=300 & *1\n"},
+    };
+    for (const Case& one : cases) {
+        const ProcessTable table = TableOf(one.mixType, one.table);
+        EXPECT_EQ(Told(table, AnalyseVLE(table)), one.told) << one.table;
+    }
+}
+
+TEST_F(PhaseEquilibria, HeadsThatMakeNoSetsSayWhatIsMissing) {
+    struct Case {
+        int mixType;
+        const char* table;
+        const char* told;
+    };
+    const Case cases[] = {
+        {2, "T X1 X2\nS D D\n- L L\n300 .1 .9", "Compositions, or the name, of a second phase"},
+        {2, "T X1 X1\nS D D\n- L -\n300 .1 .9", "A phase for column 3"},
+        {2, "T X1 X1\nS D -\n- L G\n300 .1 .9", "A unit for column 3"},
+        {2, "T X1 X1\nS D T\n- L G\n300 .1 .9", "Another unit for column 3"},
+        {2, "T X1 X1\nS D 0\n- L G\n300 .1 .9", "A factor above 0 as the unit of column 3"},
+        {2, "T X1 X3\nS D D\n- L G\n300 .1 .9", "Another quantity for column 3"},
+        {2, "T X1 X1\nS D D\n- L L\n300 .1 .9",
+         "Another quantity or phase for column 3, which repeats column 2"},
+        {2, "T T X1 X1\nS S D D\n- - L G\n300 300 .1 .9",
+         "Another quantity or phase for column 2, which repeats column 1"},
+        {2, "T X1 W2 X1\nS D D D\n- L L G\n300 .1 .9 .2",
+         "One kind of composition in Liquid, as in column 2"},
+        {2, "T J1 J2 X1\nS S S D\n- L L G\n300 .1 .9 .2",
+         "Molarities of all components but one in Liquid"},
+        {2, "CU T X1 X1\n- S D D\n- - L G\n1 300 .1 .9",
+         "A column of values on the left of the uncertainties in column 1"},
+        {2, "T X1 CU X1\nS D - D\n- L - G\n300 .1 - .9",
+         "No uncertainties of column 2, which is no property: column 3 has no place in the sets"},
+        {2, "T X1 X1 CU CU\nS D D - -\n- L G - -\n300 .1 .9 - -",
+         "Only one column of uncertainties for column 3"},
+        {2, "T X1 X1 X1 -\nS D D D -\n- L1 L2 G Cp1\n300 .1 .9 .5 -", "Fewer phases"},
+        {3, "T X1 X1 X1 X1 X1\nS D D D D D\n- L1 L2 L3 G C\n300 .1 .2 .3 .4 .5",
+         "At most four phases"},
+        {3, "T P X1 X2 W1 W2\nS S D D D D\n- - L L G G\n300 50 .1 .2 .3 .4",
+         "At most five quantities"},
+        {2, "T - -\nS - -\n- L G\n300 - -", "A column of a property"},
+        {3, "T P - -\nS S - -\n- - L G\n300 9 - -", "A column of compositions"},
+        {2, "T X1 X1\nS D D\n- L G\n300 - .9", "A row with a property and all variables"},
+    };
+    for (const Case& one : cases) {
+        const ProcessTable table = TableOf(one.mixType, one.table);
+        EXPECT_EQ(Told(table, AnalyseVLE(table)), std::string("Data errors detected | ") + one.told)
+            << one.table;
+    }
+    for (const int mixType : {2, 3}) {
+        const ProcessTable table =
+            TableOf(mixType,
+                    mixType == 2 ? "X1 X1\nD D\nL G\n.1 .9" : "X1 X1 X1\nD D D\nL1 L2 G\n.1 .2 .3");
+        EXPECT_EQ(Told(table, AnalyseVLE(table)),
+                  NoState + "A column of temperatures or of pressures");
+    }
+    ProcessTable large = TableOf(2, "T X1 X1\nS D D\n- L G\n300 .1 .9");
+    large.rows.resize(16385, large.rows[0]);
+    EXPECT_EQ(Told(large, AnalyseVLE(large)), "Data errors detected | At most 16384 rows");
+    large = TableOf(3, "T X1 X2 X1\nS D D D\n- L L G\n300 .1 .2 .3");
+    large.rows.resize(4097, large.rows[0]);
+    EXPECT_EQ(Told(large, AnalyseVLE(large)), "Data errors detected | At most 4096 rows of ties");
+}
+
+TEST_F(PhaseEquilibria, EachCellIsTestedAndNoneIsLost) {
+    struct Case {
+        const char* mixture;
+        const char* table;
+        const char* told;
+    };
+    const Case cases[] = {
+        {"^B 64175 7732185 &",
+         "T P X1 X1 CU\nC S D D -\n- - L G -\n9a 50 .1 .2 -\n25 5O .1 .2 -\n25 50 0.17a .2 -\n"
+         "25 50 .1 0.17a -\n25 50 19.0 .2 -\n25 50 - .2 -\n- 50 .1 .2 -\n25 - .1 .2 -\n"
+         "- - .1 - -\n25 50 .1 .2 x\n25 50 .1 - 1\n2500 50 .1 .2 1%\n25 50 .1 .2 0,1",
+         "0,0 Invalid value of independent variable\n"
+         "1,1 Invalid property value\n"
+         "2,2 Invalid value of independent variable\n"
+         "3,3 Invalid property value\n"
+         "4,2 Value 19 Mole fraction of ethanol is not valid\n"
+         "5,2 Invalid value of independent variable\n"
+         "6,0 Invalid value of independent variable\n"
+         "8,2 ? The row has no property and will be left out\n"
+         "9,4 Invalid value of combined uncertainty\n"
+         "10,4 There is no value for this combined uncertainty\n"
+         "11,0 ? Value 2773.15 Temperature, K is suspicious\n"},
+        {"^B 64175 7732185 &",
+         "T W1 W2 W1\nC 0.01 0.01 0.01\n- L1 L1 L2\n25 10 90.5 80\n26 10 90.6 80\n"
+         "27 - 90 80\n28 10 - 80\n29 - - 80\n30 - - -",
+         "1,2 Composition error / The fractions in the phase Liquid mixture 1 add up to 1.006\n"
+         "2,1 Composition error / Enter the other fractions of the phase Liquid mixture 1 as well\n"
+         "5,0 ? The row has no property and will be left out\n"},
+        // A ternary whose third component is implied; the first is what the others are against.
+        {"^T 64197 67663 7732185 &",
+         "T W1 W2 W3 W1 W2\nC 0.01 0.01 0.01 0.01 0.01\n- L1 L1 L1 L2 L2\n"
+         "25 0 99.5 0 20 80.5\n25 45 50 5 20 80.6\n25 10 85 5.6 20 80\n25 10 85 0x - -\n"
+         "25 10 - 5 20 -\n25 - 85 - 20 80\n25 - 85 5 - -\n25 - - - 20 -\n- - - - 20 30\n"
+         "25 10 85 - - -\n25 10 - - - -",
+         "1,5 Composition error / The fractions in the phase Liquid mixture 2 add up to 1.006\n"
+         "2,3 Composition error / The fractions in the phase Liquid mixture 1 add up to 1.006\n"
+         "3,3 Invalid property value\n"
+         "4,2 Composition error / Enter the other fractions of the phase Liquid mixture 1 as well\n"
+         "5,1 Invalid value of independent variable\n"
+         "6,1 Invalid value of independent variable\n"
+         "7,1 Invalid value of independent variable\n"
+         "10,1 ? The row has no property and will be left out\n"},
+    };
+    for (const Case& one : cases) {
+        const ProcessSystem system = Mixture(one.mixture);
+        const ProcessTable table = TableOf(system.MixType(), one.table);
+        const PhaseAnalysis analysis = AnalyseVLE(table);
+        EXPECT_TRUE(analysis.Ok) << analysis.hint;
+        EXPECT_EQ(Findings(CheckPhaseTable(table, analysis, system)), one.told) << one.table;
+    }
 }
 
 } // namespace

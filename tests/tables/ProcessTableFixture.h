@@ -56,6 +56,22 @@ inline std::string Told(const ProcessTable& table, const PhaseAnalysis& analysis
     return text;
 }
 
+/// Some columns of a table as text, in the rows of a record; tied ones are numbered from 1.
+inline std::string Rows(const std::string& table, const std::vector<std::size_t>& columns,
+                        bool areTied = false) {
+    std::string text;
+    int row = 0;
+    for (const std::string& line : Split(table, '\n')) {
+        if (row++ < 3) continue;
+        const std::vector<std::string> cells = Split(line, ' ');
+        text += "^d";
+        for (const std::size_t column : columns)
+            text += " " + cells[column];
+        text += areTied ? " & " + std::to_string(row - 3) + "\n" : " &\n";
+    }
+    return text;
+}
+
 class ProcessTableFixture : public MixtureExportFixture {
 protected:
     ProcessTableFixture() { globals.CompilerCode = globals.ContributorCode = "XXX"; }
@@ -87,13 +103,18 @@ protected:
     /// The lines of the mixture as saved, which a load and a save leaves as they are. A header is
     /// shown once, for all are the same.
     std::string Saved() {
+        const std::string text = SavedBehind("");
+        const std::size_t at = std::min(text.find("\n^B "), text.find("\n^T "));
+        return at == text.npos ? "" : text.substr(at + 1);
+    }
+    /// What stands behind the first such text of the document.
+    std::string SavedBehind(const std::string& mark) {
         const std::string text = DocumentAsRecords();
         globals.recR.Clear();
         form.tvwTree.Clear();
         EXPECT_TRUE(ReadDocument(text, ReadPurpose::Look).whole);
         EXPECT_EQ(DocumentAsRecords(), text);
-        const std::size_t at = std::min(text.find("\n^B "), text.find("\n^T "));
-        return at == text.npos ? "" : text.substr(at + 1);
+        return text.substr(text.find(mark) + mark.size());
     }
     static inline const std::string Header = "^A & O B & XXX XXX 1/15/2026 ::Method:UNKNOWN:\n";
 };
