@@ -11,6 +11,7 @@
 #include "records/clsAuthor.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
+#include "records/clsQ.h"
 #include "records/clsS.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
@@ -108,6 +109,8 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
         });
     for (const auto& mixture : recM)
         mixture->ExportAll(xml);
+    for (const auto& reaction : recQ)
+        reaction->ExportAll(xml);
     xml.Mark(nullptr);
     Globals().LineInHand = 0;
 }

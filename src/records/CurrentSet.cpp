@@ -1,5 +1,6 @@
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
+#include "records/clsE.h"
 #include "records/clsMV.h"
 #include "records/clsTwo.h"
 
@@ -9,6 +10,7 @@ std::shared_ptr<DataSet> CurrentSet() {
     const KVOGlobal& globals = Globals();
     const bool isMixture = globals.DataContext == "Bin" || globals.DataContext == "Tern";
     if (isMixture) return globals.CurrentMV;
+    if (globals.DataContext == "React") return globals.CurrentE;
     return globals.CurrentTwo; // of a compound or a complex
 }
 

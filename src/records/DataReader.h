@@ -16,6 +16,8 @@ struct DataLines {
 extern const DataLines PureLines;
 /// Values and sets of a mixture, which name a sample of each component.
 extern const DataLines MixtureLines;
+/// A reaction has none of either: its data have lines of their own.
+extern const DataLines ReactionLines;
 
 /// ^Z ^z ^F ^f: a single value joins its owner.
 void ReadValue(ReaderState& state, std::string_view line);

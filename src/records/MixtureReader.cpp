@@ -13,8 +13,6 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
-#include <algorithm>
-
 namespace vexora {
 
 namespace {
@@ -34,40 +32,6 @@ bool HasSamples(ReaderState& state, const clsM& mixture, const auto& record) {
     return true;
 }
 
-/// The key without the number of the set, which stands at its end.
-std::string KindOf(const Record& record) {
-    const std::string key = record.Key();
-    return key.substr(0, key.rfind(' '));
-}
-
-SetNumbers& NumbersOf(ReaderState& state, const clsM& mixture, const std::string& kind) {
-    const auto [entry, isFirst] = state.setNumbers.try_emplace(&mixture);
-    const auto note = [&numbers = entry->second](const auto& sets) {
-        for (const auto& set : sets) {
-            SetNumbers& known = numbers[KindOf(*set)];
-            known.taken.insert(set->PRPSETNO);
-            known.highest = std::max(known.highest, ToInteger(Val(set->PRPSETNO)));
-        }
-    };
-    if (isFirst) { // a mixture that an earlier read brought
-        note(mixture.recMZ);
-        note(mixture.recMV);
-    }
-    return entry->second[kind];
-}
-
-/// Gives a record whose number is in use the next one.
-void SettleNumber(ReaderState& state, const clsM& mixture, auto& record) {
-    SetNumbers& numbers = NumbersOf(state, mixture, KindOf(record));
-    if (numbers.taken.contains(record.PRPSETNO)) {
-        state.Tell({{"Duplicate data set number will be changed" + PlaceOf(mixture), {}}});
-        record.PRPSETNO = std::to_string(numbers.highest + 1);
-        Globals().Saved = false;
-    }
-    numbers.taken.insert(record.PRPSETNO);
-    numbers.highest = std::max(numbers.highest, ToInteger(Val(record.PRPSETNO)));
-}
-
 /// A record that has read its line joins the mixture; false when the read is dropped.
 template <class Set>
 bool Attach(ReaderState& state, const std::shared_ptr<Set>& record) {
@@ -79,7 +43,7 @@ bool Attach(ReaderState& state, const std::shared_ptr<Set>& record) {
                       record->ShowKey());
         return false;
     }
-    SettleNumber(state, *mixture, *record);
+    record->PRPSETNO = state.SettledNumber(*mixture, *record, PlaceOf(*mixture));
     record->TakePending(state.pending);
     // A molar mass says nothing about other rows than those of its composition.
     if (IsMassBased(record->PROPERTY_UNIT)) state.factorLine = 0;
@@ -120,7 +84,7 @@ void Join(ReaderState& state, clsM& known, clsM& other) {
     other.Sort();
     const auto move = [&](auto& sets) {
         for (const auto& set : sets) {
-            SettleNumber(state, known, *set);
+            set->PRPSETNO = state.SettledNumber(known, *set, PlaceOf(known));
             set->AttachTo(known);
         }
         sets.Clear();

@@ -213,7 +213,7 @@ std::shared_ptr<clsProperty> BuildChain(const DataSet& set, bool original) {
 std::shared_ptr<clsProperty> BuildChain(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     const std::string& comment = value.Header.DATACOMMENT;
-    auto head = ItemOf(value.PRPCODE, LabelOf(value, 0), original ? value.PROPERTY_UNIT : "S");
+    auto head = ItemOf(value.PRPCODE, LabelOf(value, 0), original ? value.UnitCode() : "S");
     head->Factor = original ? value.Factor : 0;
     TakeMasters(*head, value.Statements(0));
     TakePrecision(*head, comment, value.commentInSystemUnits, value.MolarMass());
@@ -255,7 +255,7 @@ std::vector<Quantity> NamedQuantities(const DataSet& set, bool original) {
 std::vector<clsX> NamedStatements(const SingleValue& value) {
     const bool original = value.isOriginalUnit;
     std::vector<clsX> items = {value.Statements(0)};
-    Name(items[0], 0, value.PRPCODE, LabelOf(value, 0), original ? value.PROPERTY_UNIT : "S",
+    Name(items[0], 0, value.PRPCODE, LabelOf(value, 0), original ? value.UnitCode() : "S",
          original ? value.Factor : 0);
     for (int n = 1; n <= value.VariableCount(); ++n) {
         items.push_back(value.Statements(n));

@@ -14,12 +14,31 @@ namespace {
 /// can be handed in.
 PropertyLabels* present = nullptr;
 
+std::string CodeOf(const SingleValue& value) {
+    return value.UnitCode();
+}
+
+const std::string& CodeOf(const DataSet& set) {
+    return set.PROPERTY_UNIT;
+}
+
+/// By whose mass a unit goes, where that needs saying.
+std::string BasisOf(const SingleValue& value) {
+    const std::string basis = value.UnitBasis();
+    return basis.empty() ? basis : " of " + basis;
+}
+
+std::string BasisOf(const DataSet&) {
+    return {};
+}
+
 template <class Set>
 std::string UnitOf(const Set& value) {
     std::string unit = DefaultUnit(PropertyName(value.PRPCODE));
     if (!value.isOriginalUnit) return unit;
-    const double factor = FactorInUnit(value.PROPERTY_UNIT, value.Factor);
-    return unit == "1" && factor <= 0 ? unit : UnitText(unit, value.PROPERTY_UNIT, value.Factor);
+    const std::string code = CodeOf(value);
+    if (unit == "1" && FactorInUnit(code, value.Factor) <= 0) return unit;
+    return UnitText(unit, code, value.Factor) + BasisOf(value);
 }
 
 std::string ContextOf(const SingleValue&) {
@@ -50,7 +69,7 @@ PropertyLabel LookUp(const Set& value) {
 template <class Set>
 std::string KindOf(const Set& value) {
     const std::string factor =
-        value.isOriginalUnit ? value.PROPERTY_UNIT + " " + NumberText(value.Factor) : "";
+        value.isOriginalUnit ? CodeOf(value) + " " + NumberText(value.Factor) + BasisOf(value) : "";
     return std::string(value.DataContext()) + " " + ContextOf(value) + " " + value.PRPCODE + " " +
            factor;
 }

@@ -6,6 +6,7 @@
 #include "records/LineWriter.h"
 #include "records/MixtureReader.h"
 #include "records/OpenRecord.h"
+#include "records/ReactionReader.h"
 #include "records/RecordReader.h"
 #include "records/RegistryNumbers.h"
 #include "records/clsAuthor.h"
@@ -15,6 +16,8 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
+
+#include <algorithm>
 
 namespace vexora {
 
@@ -64,6 +67,7 @@ void ReadSource(ReaderState& state, std::string_view line) {
     // A sample in front of the first compound would otherwise go to one of the source before.
     globals.CurrentL = nullptr;
     globals.CurrentS = nullptr;
+    globals.CurrentQ = nullptr;
 }
 
 void ReadDescription(ReaderState& state, std::string_view line) {
@@ -196,8 +200,9 @@ bool LosesHeader(const clsA& before, const clsA& now, std::string_view line) {
 void ReadHeader(ReaderState& state, std::string_view line) {
     const bool isUnused = state.headerLine != 0;
     const clsA before = isUnused ? state.pending : clsA();
-    // In a mixture nothing else closes the factor of a set.
-    if (state.lines == &MixtureLines && line.starts_with("^A")) {
+    // In a mixture or reaction nothing else closes the factor of a set.
+    const bool isShared = state.lines == &MixtureLines || state.lines == &ReactionLines;
+    if (isShared && line.starts_with("^A")) {
         state.LeaveFactor();
         state.pending.Factor = 0;
     }
@@ -213,7 +218,7 @@ void ReadFactor(ReaderState& state, std::string_view line) {
     // All behind the tag, for the blank may lack.
     const std::string_view number = line.substr(tagLength);
     state.LeaveFactor();
-    state.pending.Factor = Val(number);
+    state.pending.Factor = state.statedFactor = Val(number);
     if (state.pending.Factor != 0)
         state.factorLine = state.lineNumber;
     else if (!IsNumeric(number) && !Trim(number).empty())
@@ -249,14 +254,20 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
             table[tag] = ReadSet;
         for (const std::string_view tag : {"^D", "^d", "^G", "^g"})
             table[tag] = ReadRow;
-        // Behind these the values and samples are those of a reaction or a complex.
         for (const std::string_view tag : {"^B", "^T"})
             table[tag] = ReadMixture;
-        for (const std::string_view tag : {"^Q", "CS", "SB"})
+        table["^Q"] = ReadReaction;
+        table["^q"] = ReadCoefficients;
+        for (const std::string_view tag : {"^C", "^c"})
+            table[tag] = ReadPropertyChange;
+        for (const std::string_view tag : {"^E", "^H"})
+            table[tag] = ReadEquilibrium;
+        // Behind these the values and samples are those of a complex.
+        for (const std::string_view tag : {"CS", "SB"})
             table[tag] = PassOverSystem;
         for (const std::string_view tag :
-             {"^C", "^c", "^E", "^H", "BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH",
-              "BD", "BE", "CC", "CE", "SS", "GH", "SE", "XB", "XD", "XC", "XE"})
+             {"BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH", "BD", "BE", "CC", "CE", "SS", "GH",
+              "SE", "XB", "XD", "XC", "XE"})
             table[tag] = PassOverLine;
         return table;
     }();
@@ -296,7 +307,7 @@ void ReaderState::Lose(int line, const std::string& what) {
 
 void ReaderState::LeaveFactor() {
     if (factorLine != 0 && !(open && open->StandsByFactor()))
-        Lose(factorLine, "no value stands in the unit of the factor " + NumberText(pending.Factor));
+        Lose(factorLine, "no value stands in the unit of the factor " + NumberText(statedFactor));
     factorLine = 0;
 }
 
@@ -316,6 +327,35 @@ void ReaderState::PassOver() {
     pending = clsA();
     headerLine = factorLine = 0;
     lastNotKept = true;
+}
+
+std::string ReaderState::SettledNumber(const Record& owner, const Record& set,
+                                       const std::string& place) {
+    // The number stands at the end of the key, behind what tells the kind.
+    const auto kindOf = [](const std::string& key) { return key.substr(0, key.rfind(' ')); };
+    const auto numberOf = [](const std::string& key) { return key.substr(key.rfind(' ') + 1); };
+    const auto [entry, isFirst] = setNumbers.try_emplace(&owner);
+    const auto note = [&numbers = entry->second](const std::string& kind,
+                                                 const std::string& number) {
+        SetNumbers& known = numbers[kind];
+        known.taken.insert(number);
+        known.highest = std::max(known.highest, ToInteger(Val(number)));
+    };
+    if (isFirst) { // an owner that an earlier read brought
+        owner.EachChild([&](const Record& known) {
+            const std::string key = known.Key();
+            note(kindOf(key), numberOf(key));
+        });
+    }
+    const std::string kind = kindOf(set.Key());
+    std::string number = numberOf(set.Key());
+    if (entry->second[kind].taken.contains(number)) {
+        Tell({{"Duplicate data set number will be changed" + place, {}}});
+        number = std::to_string(entry->second[kind].highest + 1);
+        Globals().Saved = false;
+    }
+    note(kind, number);
+    return number;
 }
 
 std::unordered_map<int, std::shared_ptr<clsS>>& ReaderState::SamplesOf(const clsL& compound) {

@@ -21,9 +21,10 @@ class clsM;
 class clsR;
 class clsS;
 class OpenRecord;
+class Record;
 struct DataLines;
 
-/// Numbers of the values or sets of one kind that a mixture has.
+/// Numbers of the values or sets of one kind that a mixture or reaction has.
 struct SetNumbers {
     std::unordered_set<std::string> taken;
     std::int64_t highest = 0;
@@ -46,6 +47,7 @@ struct ReaderState {
     int pendingLines = 0;       // lines of the header since the last data record
     int headerLine = 0;         // the header, until a record stands under it
     int factorLine = 0;         // the factor, until a value stands in the unit that it makes
+    double statedFactor = 0;    // what that line says
     bool lastNotKept = false;   // the last data record is one that this edition does not keep
     /// How lines of data are read in the system that is being read (a compound, a mixture, a
     /// reaction); null behind one that this edition does not keep.
@@ -67,7 +69,7 @@ struct ReaderState {
     /// What is there already, so that looking for a twin takes no walk through all siblings.
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
     std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
-    std::unordered_map<const clsM*, std::unordered_map<std::string, SetNumbers>> setNumbers;
+    std::unordered_map<const Record*, std::unordered_map<std::string, SetNumbers>> setNumbers;
     /// Mixtures whose components stand in another order than in the one that the source has
     /// already: their sets join it once all their lines are read.
     std::vector<std::shared_ptr<clsM>> reordered;
@@ -87,6 +89,9 @@ struct ReaderState {
     void Finish();
     /// Counts the line as one that is not kept; the lines of a header that belong to it go along.
     void PassOver();
+    /// The number of a value or set that joins its mixture or reaction: its own, or the next free
+    /// one of its kind when that is taken, which is told. `place` names the owner, one line each.
+    std::string SettledNumber(const Record& owner, const Record& set, const std::string& place);
     /// The samples of a compound by their number.
     std::unordered_map<int, std::shared_ptr<clsS>>& SamplesOf(const clsL& compound);
 

@@ -13,7 +13,6 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view EmptySlot = "999999994";
 constexpr std::string_view Water = "7732185";
 
 std::shared_ptr<clsL> CompoundOfRN(std::string_view rn, const clsR* source) {

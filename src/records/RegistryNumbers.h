@@ -11,6 +11,9 @@ namespace vexora {
 /// calls this has to tell the user.
 std::string WithCheckDigit(std::string_view rn);
 
+/// What stands in a file for a participant that is not there.
+inline constexpr std::string_view EmptySlot = "999999994";
+
 /// True for the texts that name no compound: "", "999999994" (an empty slot), no number, 0.
 /// Systems with fewer members than places fill up with the empty slot.
 bool NamesNoCompound(std::string_view rn);

@@ -94,12 +94,14 @@ Placement SingleValue::AddX(const clsX& item) {
 
 void SingleValue::TakePending(const clsA& pending) {
     Header.TakeHeader(pending);
-    PROPERTY_UNIT = KeptField(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()));
+    const std::string read = UnitCode();
+    const std::string code = KeptField(read, UnitOfProperty(PRPCODE, DataContext()));
+    if (code != read) UnitCode(code);
     if (pending.Factor <= 0 || !isOriginalUnit) return;
-    if (PROPERTY_UNIT == "S" || PROPERTY_UNIT == "*") Factor = pending.Factor;
+    if (code == "S" || code == "*") Factor = pending.Factor;
     // In front of a unit by mass stands the molar mass. Taken for a factor it would falsify every
     // value.
-    if (HasMolarMass() && IsMassBased(PROPERTY_UNIT)) FallbackMolarMass = pending.Factor;
+    if (HasMolarMass() && IsMassBased(code)) FallbackMolarMass = pending.Factor;
 }
 
 void SingleValue::LoadValue(WordReader& words) {
@@ -115,8 +117,9 @@ void SingleValue::LoadValue(WordReader& words) {
 UnitConversion SingleValue::PropertyConversion() const {
     if (!isOriginalUnit) return {};
     std::string unit = UnitOfProperty(PRPCODE, DataContext());
-    std::string code(CodeInField(PROPERTY_UNIT, unit));
-    return {std::move(code), Factor, NeedsMolarMass() ? MolarMass() : 0, std::move(unit)};
+    const std::string field = UnitCode();
+    return {std::string(CodeInField(field, unit)), Factor, NeedsMolarMass() ? MolarMass() : 0,
+            unit};
 }
 
 UnitConversion SingleValue::VariableConversion(int n) const {
@@ -131,7 +134,7 @@ double SingleValue::SystemValue() const {
 }
 
 bool SingleValue::NeedsMolarMass() const {
-    return isOriginalUnit && Factor <= 0 && IsMassBased(PROPERTY_UNIT);
+    return isOriginalUnit && Factor <= 0 && IsMassBased(UnitCode());
 }
 
 void SingleValue::Print(LineWriter& out) const {
@@ -140,7 +143,7 @@ void SingleValue::Print(LineWriter& out) const {
     const bool factorStands = PrintFactor(out);
     const bool bySystemUnit = isOriginalUnit && Factor > 0;
     std::vector<std::string> fields =
-        LineFields(bySystemUnit ? std::string("S") : UnitField(PROPERTY_UNIT));
+        LineFields(bySystemUnit ? std::string("S") : UnitField(UnitCode()));
     fields.insert(fields.end(), {PRPVALUE, PRPUNCERTY, PrecisionForRecord()});
     out.Fields(fields, DETERMNM);
     // Closed at once, so that the next value does not inherit it.
@@ -161,9 +164,9 @@ void SingleValue::PrintStatements(LineWriter& out) const {
 bool SingleValue::PrintFactor(LineWriter& out) const {
     if (!isOriginalUnit) return false;
     double factor = Factor;
-    if (factor <= 0 && IsUnitLong(PROPERTY_UNIT))
-        factor =
-            FactorOfLongUnit(PROPERTY_UNIT, UnitOfProperty(PRPCODE, DataContext()), *this, Owner());
+    const std::string code = UnitCode();
+    if (factor <= 0 && IsUnitLong(code))
+        factor = FactorOfLongUnit(code, UnitOfProperty(PRPCODE, DataContext()), *this, Owner());
     if (factor <= 0) return false;
     vexora::PrintFactor(out, factor);
     return true;

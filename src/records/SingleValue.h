@@ -43,6 +43,11 @@ public:
     virtual std::string_view DataContext() const = 0;
     /// The compound, mixture or reaction, as messages name it.
     virtual std::string SystemName() const = 0;
+    /// The conversion code of its unit, where the field says more than that.
+    virtual std::string UnitCode() const { return PROPERTY_UNIT; }
+    virtual void UnitCode(std::string_view code) { PROPERTY_UNIT = code; }
+    /// By whose mass the unit goes, as labels name it; empty where that is understood.
+    virtual std::string UnitBasis() const { return {}; }
     /// State variables at which the value holds, with their codes and conversion codes (n from 1).
     virtual int VariableCount() const { return 0; }
     virtual std::string VARIABLE(int) const { return {}; }

@@ -47,8 +47,9 @@ public:
     /// Known there, but its name was chosen among others and has to travel too.
     bool isNamed = false;
     bool isBio = false;
-    /// A mixture names it: its line is needed though it has no samples. Known while writing.
-    bool isInMixture = false;
+    /// A mixture or reaction names it: its line is needed though it has no samples. Known while
+    /// writing.
+    bool isUsed = false;
     /// Enzyme classification and protein data bank code of a bio compound.
     std::string EC, PDB;
     std::int32_t Charge = 0;
@@ -72,7 +73,7 @@ public:
     /// Writes its lines whatever hangs below it.
     void PrintL(LineWriter& out) const;
     /// Of compounds without samples only those that are new to the reference database, or stand in
-    /// a mixture.
+    /// a mixture or reaction.
     /// One that is neither used nor new says nothing that the database does not know.
     void Print(LineWriter& out) const override;
     void EachChild(const std::function<void(Record&)>& visit) const override;

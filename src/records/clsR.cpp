@@ -7,8 +7,11 @@
 #include "records/RegistryNumbers.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
+#include "records/clsC.h"
+#include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
+#include "records/clsQ.h"
 #include "records/clsS.h"
 #include "reference/Text.h"
 
@@ -44,6 +47,23 @@ std::string ForFileName(std::string name) {
 
 bool IsOriginCode(std::string_view code) {
     return code.size() == 1 && SourceLetters.find(code) != std::string_view::npos;
+}
+
+bool HasGas(const clsE& set) {
+    return std::ranges::any_of(set.Phases(), [](const std::string& phase) {
+        return IsOneOf(phase, {"G", "IG"});
+    });
+}
+
+/// What the source holds of reactions: property changes by the kind of reaction, equilibria by
+/// whether a gas takes part.
+std::string LettersOf(const clsQ& reaction) {
+    std::string letters;
+    if (!reaction.recC.IsEmpty())
+        letters += IsOneOf(reaction.REACTCLASS, {"CMO", "CMX"}) ? "Q" : "R";
+    for (const auto& set : reaction.recE)
+        letters += HasGas(*set) ? "K" : "k";
+    return letters;
 }
 
 /// Every header in the document says where the document comes from.
@@ -99,21 +119,38 @@ bool clsR::Load(std::string_view line, Notices& told) {
 }
 
 std::vector<std::string> clsR::PrepareOutput() {
+    MarkCompounds();
+    return UpdateRefInfo();
+}
+
+/// The letters of compounds but the first one: binary and ternary data, reaction changes and
+/// equilibria.
+void clsR::MarkCompounds() {
     for (const auto& compound : recL) {
-        // Letters 4 and 5 tell of reactions, which this edition does not keep.
         compound->SYSTYPES = compound->SYSTYPES.substr(0, 1) + "NNNN";
-        compound->isInMixture = false;
+        compound->isUsed = false;
     }
     for (const auto& mixture : recM) {
         for (int n = 1; n <= mixture->MixType; ++n) {
             const auto compound = mixture->Component(n);
             if (!compound) continue;
-            compound->isInMixture = true;
+            compound->isUsed = true;
             if (mixture->HasData())
                 compound->SYSTYPES[static_cast<std::size_t>(mixture->MixType - 1)] = 'D';
         }
     }
-    return UpdateRefInfo();
+    constexpr std::size_t change = 3, equilibrium = 4;
+    for (const auto& reaction : recQ) {
+        for (const std::string& rn : {reaction->SOLVENTRN, reaction->INERTRN})
+            if (const auto compound = FindL(rn)) compound->isUsed = true;
+        for (int i = 1; i <= clsQ::MostParticipants; ++i) {
+            const auto compound = reaction->Compound(i);
+            if (!compound) continue;
+            compound->isUsed = true;
+            if (!reaction->recC.IsEmpty()) compound->SYSTYPES[change] = 'D';
+            if (!reaction->recE.IsEmpty()) compound->SYSTYPES[equilibrium] = 'D';
+        }
+    }
 }
 
 void clsR::PrintR(LineWriter& out) const {
@@ -164,6 +201,8 @@ void clsR::EachChild(const std::function<void(Record&)>& visit) const {
         visit(*compound);
     for (const auto& mixture : recM)
         visit(*mixture);
+    for (const auto& reaction : recQ)
+        visit(*reaction);
 }
 
 std::vector<std::string> clsR::UpdateRefInfo() {
@@ -183,21 +222,32 @@ std::vector<std::string> clsR::UpdateRefInfo() {
         std::ranges::move(mixture->UpdateInfo(letters), std::back_inserter(faults));
         add(mixture->REFPRP);
     }
+    for (const auto& reaction : recQ)
+        add(LettersOf(*reaction));
     if (PRPCLASS.empty()) PRPCLASS = "&";
     return faults;
+}
+
+void clsR::MakeCompound(const std::string& rn) {
+    if (NamesNoCompound(rn) || FindL(rn)) return;
+    auto compound = std::make_shared<clsL>();
+    compound->RN = rn;
+    compound->TakeKnownIdentity();
+    compound->AttachTo(*this);
 }
 
 void clsR::CheckPresence() {
     for (const auto& mixture : recM) {
         // Data need a sample of each component; a compound that lacks there is told, not made up.
         if (mixture->HasData()) continue;
-        for (int n = 1; n <= mixture->MixType; ++n) {
-            if (mixture->Component(n) || NamesNoCompound(mixture->RN(n))) continue;
-            auto compound = std::make_shared<clsL>();
-            compound->RN = mixture->RN(n);
-            compound->TakeKnownIdentity();
-            compound->AttachTo(*this);
-        }
+        for (int n = 1; n <= mixture->MixType; ++n)
+            MakeCompound(mixture->RN(n));
+    }
+    for (const auto& reaction : recQ) {
+        for (int i = 1; i <= clsQ::MostParticipants; ++i)
+            MakeCompound(reaction->RN(i));
+        MakeCompound(reaction->SOLVENTRN);
+        MakeCompound(reaction->INERTRN);
     }
 }
 
@@ -217,6 +267,10 @@ std::shared_ptr<clsM> clsR::FindM(std::string_view composition) const {
     for (const auto& mixture : recM)
         if (mixture->Mixture() == composition) return mixture;
     return nullptr;
+}
+
+std::shared_ptr<clsQ> clsR::FindQ(const clsQ& reaction) const {
+    return recQ.Item(reaction.Key());
 }
 
 std::string clsR::ProposedName() const {

@@ -100,7 +100,8 @@ public:
     /// holds. The answer is what does not fit, for the user.
     /// Nothing reads these letters back: they are made anew at every save.
     std::vector<std::string> UpdateRefInfo();
-    /// Every compound that a mixture without data names exists; missing ones are made.
+    /// Every compound that a mixture without data or a reaction names exists; missing ones are
+    /// made.
     void CheckPresence();
 
     /// The compound with this RN, or null; its place from 1 goes into index.
@@ -111,6 +112,9 @@ public:
     /// The mixture of this COMPOSITION, else, for a caller that has names only, the one whose
     /// components bear these; null for none. A mixture with an unknown component bears no name.
     std::shared_ptr<clsM> FindM(std::string_view composition) const;
+
+    /// The reaction of the same class, participants, solvent and inert compound, or null.
+    std::shared_ptr<clsQ> FindQ(const clsQ& reaction) const;
 
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
@@ -132,6 +136,8 @@ public:
 
 private:
     void PrintDescription(LineWriter& out) const;
+    void MarkCompounds();
+    void MakeCompound(const std::string& rn);
 };
 
 /// The next free AUTHORN for the identity in SOURCE_REFINFO and in the document, one source of the

@@ -1,0 +1,33 @@
+#include "records/clsQ.h"
+
+#include "export/DataHead.h"
+#include "globals/KVOGlobal.h"
+#include "records/clsC.h"
+#include "records/clsE.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* NotWritten = "Data of reactions are not exported yet";
+
+} // namespace
+
+void clsQ::ExportAll(XmlWriter& xml) const {
+    // Names of properties depend on the context.
+    Globals().DataContext = "React";
+    for (const auto& value : recC)
+        ExportRecord(xml, *value);
+    for (const auto& set : recE)
+        ExportRecord(xml, *set);
+}
+
+void clsC::ExportC(XmlWriter&) const {
+    TellDataError(SubjectOf(*this, {}), NotWritten);
+}
+
+void clsE::ExportE(XmlWriter&) const {
+    TellDataError(SubjectOf(*this, {}), NotWritten);
+}
+
+} // namespace vexora
