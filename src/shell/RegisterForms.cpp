@@ -5,6 +5,7 @@
 #include "mixtures/MixtureForms.h"
 #include "plot/PlotForms.h"
 #include "pure/PureForms.h"
+#include "reactions/ReactionForms.h"
 #include "shell/frmCheck.h"
 #include "shell/frmCompare.h"
 #include "shell/frmConfigure.h"
@@ -24,6 +25,7 @@ void RegisterForms(ui::Forms& forms) {
     RegisterEntryForms(forms);
     RegisterPureForms(forms);
     RegisterMixtureForms(forms);
+    RegisterReactionForms(forms);
     RegisterTableForms(forms);
     RegisterPlotForms(forms);
 }

@@ -1,0 +1,8 @@
+#include "reactions/ReactionForms.h"
+
+namespace vexora {
+
+void RegisterReactionForms(ui::Forms&) {
+}
+
+} // namespace vexora
