@@ -26,8 +26,9 @@ class clsS;
 /// conversion codes of one letter, "S" the system unit; PROPERTY_FUNCT says how the number relates
 /// to the property, PRPSETNO tells sets of one property apart, DATATYPE how the paper presents
 /// them. CONSTRAINT is "PB" on a phase boundary, "FP", "FT", "FV" in a single phase with one
-/// quantity fixed, "DP" for a derived property; REF_TEMP [K], REF_PRESSURE [kPa] and REF_PHASE are
-/// the state that relative results go by. "&" is an empty field, but a value in a phase.
+/// quantity fixed, "SP" with none, "DP" for a derived property; REF_TEMP [K], REF_PRESSURE [kPa]
+/// and REF_PHASE are the state that relative results go by. "&" is an empty field, but a value in a
+/// phase.
 class clsTwo : public DataSet {
 public:
     std::string SMPNM, PHASE1, PHASE2 = "&", CONSTRAINT, VARIABLE1, VAR1_UNIT, VARIABLE2, VAR2_UNIT,

@@ -11,12 +11,13 @@ constexpr std::array<CodeText, 3> DataTypes{{
 }};
 
 // Which state variables are held, and with them how many the phase rule leaves free.
-constexpr std::array<CodeText, 5> ConstraintKinds{{
+constexpr std::array<CodeText, 6> ConstraintKinds{{
     {"Phase boundary", "PB"},
     {"Single phase at fixed pressure", "FP"},
     {"Single phase at fixed temperature", "FT"},
     {"Single phase at fixed volume", "FV"},
     {"Derived property", "DP"},
+    {"Single phase", "SP"},
 }};
 
 constexpr std::array<CodeText, 10> PureReferenceStates{{

@@ -38,7 +38,7 @@ using QuantityTexts = std::span<const QuantityText>;
 /// First letter of `DATATYPE`.
 extern const std::array<CodeText, 3> DataTypes;
 /// Kinds of constraint of a pure data set.
-extern const std::array<CodeText, 5> ConstraintKinds;
+extern const std::array<CodeText, 6> ConstraintKinds;
 /// Reference-state codes for pure and mixture data sets.
 /// They say to which state a value is relative: of the same sample at another state, of a phase in
 /// equilibrium, or of pure components.

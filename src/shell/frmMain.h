@@ -173,6 +173,10 @@ private:
     static bool MayDelete(const Record& record);
     void mnuUndoDelete_Click();
 
+    // frmMain_detect.cpp
+    void mnuDetect_Click();
+    static bool MayDetect();
+
     // frmMain_compare.cpp
     void mnuCompare_Click();
     std::optional<Outline> ReadOutline(const std::string& path);

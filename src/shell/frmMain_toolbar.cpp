@@ -138,6 +138,7 @@ void frmMain::SetLocked(bool locked) {
         mnuNewLike.Enabled(MayRepeat());
         mnuUndoDelete.Enabled(deleted_ != nullptr);
         mnuCheck.Enabled(!Globals().recR.IsEmpty());
+        mnuDetect.Enabled(MayDetect());
     }
     RefreshTexts();
 }

@@ -61,9 +61,9 @@ TEST_F(ToolbarTest, TheToolsThatAreSwitchedOffStayOff) {
     Shell().DisableShell();
     Shell().Enable();
     EXPECT_TRUE(Shell().mnuToolsConfigure.IsReachable());
-    EXPECT_FALSE(Shell().mnuDetect.Enabled() || Shell().mnuMerge.Enabled() ||
-                 Shell().mnuInvert.Enabled() || Shell().mnuBio.Enabled() ||
-                 Shell().mnuPreLoad.Enabled());
+    EXPECT_FALSE(Shell().mnuDetect.Enabled()) << "without a mixture";
+    EXPECT_FALSE(Shell().mnuMerge.Enabled() || Shell().mnuInvert.Enabled() ||
+                 Shell().mnuBio.Enabled() || Shell().mnuPreLoad.Enabled());
     EXPECT_FALSE(Shell().AddBio.Visible() || Shell().AddComplex.Visible());
 }
 

@@ -1,0 +1,101 @@
+// Hidden data of compounds and binaries among the rows of mixtures.
+#include "records/RoundTripFixture.h"
+#include "records/clsM.h"
+#include "records/clsMV.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace vexora {
+namespace {
+
+const std::string Source = "\n^R 1932 car lew 1\n^J#J#O#Ind. Eng. Chem., 1932, "
+                           "24, 882#T##A##P#0####\n";
+const std::string Compounds[] = {"64175", "67663", "7732185"};
+
+/// What a file of tests/records/detections holds: a document from its compounds
+/// on, what is told when its mixtures are looked through, and the document that
+/// comes of it.
+struct Finding {
+    std::string document, told, saved;
+};
+
+Finding ReadFinding(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    Finding finding;
+    std::string* part = &finding.document;
+    for (std::string line; std::getline(file, line);) {
+        if (line == "=== told")
+            part = &finding.told;
+        else if (line == "=== saved as")
+            part = &finding.saved;
+        else if (!line.starts_with("# "))
+            *part += line + "\n";
+    }
+    return finding;
+}
+
+class Detections : public test::RoundTripFixture, public testing::WithParamInterface<std::string> {
+protected:
+    /// Looks through the ternaries and then the binaries; every message ends with
+    /// a line break.
+    static bool DetectAll(std::string& told) {
+        bool isNew = false;
+        for (const int components : {3, 2}) {
+            std::vector<std::shared_ptr<clsMV>> sets;
+            for (const auto& mixture : Globals().CurrentR->recM)
+                for (const auto& set : mixture->recMV)
+                    if (mixture->MixType == components) sets.push_back(set);
+            for (const auto& set : sets) {
+                std::vector<std::string> texts;
+                isNew = set->Detect(texts) || isNew;
+                for (const std::string& text : texts)
+                    told += text + "\n";
+            }
+        }
+        return isNew;
+    }
+    /// The document with a sample of each compound that it does not describe
+    /// itself.
+    static std::string Whole(const std::string& document) {
+        std::string text = Source;
+        for (const std::string& rn : Compounds)
+            if (document.find("^L " + rn) == document.npos)
+                text += "^L " + rn + " NNNNN &\n^S 1 ns\n";
+        return text + document;
+    }
+};
+
+TEST_P(Detections, GiveTheRecordsOfLowerSystemsOnce) {
+    const Finding finding = ReadFinding(std::filesystem::path(VEXORA_SOURCE_DIR) /
+                                        "tests/records/detections" / (GetParam() + ".txt"));
+    const std::string before = LoadAndSave(Whole(finding.document));
+    std::string told;
+    EXPECT_EQ(DetectAll(told), finding.saved != "as before\n");
+    EXPECT_EQ(told, finding.told);
+    const std::string after = DocumentAsRecords();
+    const std::string saved = after.substr(after.find("^L "));
+    EXPECT_EQ(saved,
+              finding.saved == "as before\n" ? before.substr(before.find("^L ")) : finding.saved);
+    EXPECT_FALSE(DetectAll(told)) << "what is there is not added again";
+    EXPECT_EQ(DocumentAsRecords(), after);
+    EXPECT_EQ(SavedAgain(after), after);
+    EXPECT_FALSE(DetectAll(told)) << "nor after it was read from a file";
+    EXPECT_EQ(DocumentAsRecords(), after);
+}
+
+std::vector<std::string> DetectionNames() {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(
+             std::filesystem::path(VEXORA_SOURCE_DIR) / "tests/records/detections"))
+        names.push_back(entry.path().stem().string());
+    std::ranges::sort(names);
+    return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, Detections, testing::ValuesIn(DetectionNames()),
+                         [](const auto& made) { return made.param; });
+
+} // namespace
+} // namespace vexora
