@@ -85,6 +85,16 @@ HeldConstant InSystemUnit(const HeldConstant& constant) {
     return system;
 }
 
+clsX InSystemUnit(const clsX& statement, const HeldConstant& constant) {
+    clsX system = statement;
+    if (statement.inSystemUnits) return system;
+    const UnitConversion unit = DataSet::ConversionOf(constant.code, constant.unit);
+    for (std::string* figure : {&system.DSValue, &system.RValue, &system.UValue, &system.CDRms,
+                                &system.CValue, &system.KVOUValue})
+        *figure = unit.DifferenceText(*figure);
+    return system;
+}
+
 void StateConstant(CommentTags& tags, const HeldConstant& constant) {
     const bool isAtmosphere = constant.code == "P" && Equal(Val(constant.value), NormalPressure);
     tags.Set(isAtmosphere ? "FP" : constant.code + " = " + constant.value, true);

@@ -26,8 +26,9 @@ clsX CarriedStatement(const clsX& ofSet, const clsData& row);
 /// Gives a value the figures of a row, with what the set states about them.
 void CarryFigures(SingleValue& value, const DataSet& set, const clsX& ofSet, const clsData& row);
 
-/// A constant in its system unit.
+/// A constant, and what is stated about it, in its system unit.
 HeldConstant InSystemUnit(const HeldConstant& constant);
+clsX InSystemUnit(const clsX& statement, const HeldConstant& constant);
 /// Puts a constant among the tags, ":FP:" for one atmosphere.
 void StateConstant(CommentTags& tags, const HeldConstant& constant);
 

@@ -47,6 +47,7 @@ private:
     std::string Constraint() const;
     clsA HeaderOf(Form form, const clsData& row) const;
     std::string StateTag(Form form) const;
+    clsX StatementOf(int item) const;
     bool TakeSet(const clsData& row);
     std::shared_ptr<clsTwo> NewSet(const clsData& row) const;
     clsData RowOf(const clsData& row) const;
@@ -65,8 +66,8 @@ private:
     std::string setCode_, valueCode_; // of a set and of a single value
     std::vector<std::string> phases_;
     bool hasAir_ = false, isCritical_ = false;
-    std::vector<int> states_; // the state variables of the set, by number
-    std::vector<HeldConstant> constants_;
+    std::vector<int> states_;             // the state variables of the set, by number
+    std::vector<HeldConstant> constants_; // in system units
     Form form_ = Form::Nothing;
     bool mayBeSet_ = false; // a single value may also stand as a set of one row
 

@@ -65,6 +65,15 @@ std::string PureOfMixture::Constraint() const {
     return varies("P") || ConstantOf("T") ? "FT" : "SP";
 }
 
+/// What the set states about one of its quantities; of a constant in its system unit.
+clsX PureOfMixture::StatementOf(int item) const {
+    if (item < 0) return {};
+    const clsX& ofSet = set_.UX[static_cast<std::size_t>(item)];
+    for (const HeldConstant& constant : set_.Constants())
+        if (constant.item == item) return InSystemUnit(ofSet, constant);
+    return ofSet;
+}
+
 /// A tag for the phase that the line of a value leaves unsaid.
 std::string PureOfMixture::StateTag(Form form) const {
     if (form != Form::Fixed || phases_.size() < 2 || IsOneOf(valueCode_, {"TB", "PV", "TF"}))
@@ -121,9 +130,8 @@ std::shared_ptr<clsTwo> PureOfMixture::NewSet(const clsData& row) const {
         (n == 1 ? set->VARIABLE1 : set->VARIABLE2) = code;
         (n == 1 ? set->VAR1_UNIT : set->VAR2_UNIT) =
             consumed ? consumed->unit : set_.VAR_UNIT(from);
-        if (from > 0)
-            set->UX[static_cast<std::size_t>(n)] =
-                StatementFor(set_.UX[static_cast<std::size_t>(from)], n, code, set->PHASE1);
+        set->UX[static_cast<std::size_t>(n)] =
+            StatementFor(StatementOf(from), n, code, set->PHASE1);
     }
     return set;
 }
@@ -180,9 +188,7 @@ std::shared_ptr<clsZ> PureOfMixture::NewValue(Form form, const clsData& row) con
     const HeldConstant& fixed = *Consumed(form);
     value->INDVARIABLE = fixed.value;
     value->VARIABLE_UNIT = fixed.unit;
-    if (fixed.item <= 0) return value;
-    const clsX item =
-        StatementFor(set_.UX[static_cast<std::size_t>(fixed.item)], 1, fixed.code, phases_[0]);
+    const clsX item = StatementFor(StatementOf(fixed.item), 1, fixed.code, phases_[0]);
     if (item.IsKept()) value->Statements(1, item);
     return value;
 }

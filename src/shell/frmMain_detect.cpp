@@ -27,20 +27,15 @@ std::vector<std::shared_ptr<clsMV>> SetsWithRows(int components) {
     return sets;
 }
 
-/// True when a set has brought any records; what each has to say is told at once.
-bool DetectAll() {
+/// True when a set has brought any records; `told` gets what each has to say.
+bool DetectAll(std::vector<std::string>& told) {
+    const ui::HourglassScope hourglass;
     bool isNew = false;
     // A binary that comes out of a ternary may hide pure compounds in turn.
     for (const int components : {3, 2}) {
         for (const auto& set : SetsWithRows(components)) {
             set->SetMe();
-            std::vector<std::string> told;
-            {
-                const ui::HourglassScope hourglass;
-                isNew = set->Detect(told) || isNew;
-            }
-            for (const std::string& text : told)
-                ui::Say(text);
+            isNew = set->Detect(told) || isNew;
         }
     }
     return isNew;
@@ -49,24 +44,24 @@ bool DetectAll() {
 } // namespace
 
 bool frmMain::MayDetect() {
-    const KVOGlobal& globals = Globals();
     const auto hasRows = [](const auto& set) { return !set->recData.IsEmpty(); };
     const auto hasSet = [&](const auto& mixture) {
         return std::ranges::any_of(mixture->recMV, hasRows);
     };
-    return !globals.ReadOnly && std::ranges::any_of(globals.recR, [&](const auto& source) {
+    return std::ranges::any_of(Globals().recR, [&](const auto& source) {
         return std::ranges::any_of(source->recM, hasSet);
     });
 }
 
 void frmMain::mnuDetect_Click() {
     KVOGlobal& globals = Globals();
-    if (globals.ShellLocked || !MayDetect()) return;
+    if (globals.ShellLocked || !MayDetect() || RefuseReadOnly()) return;
     ui::TreeNode* const selected = tvwTree.SelectedNode();
-    bool isNew = false;
+    std::vector<std::string> told;
     std::string damage;
+    bool isNew = false;
     try {
-        isNew = DetectAll();
+        isNew = DetectAll(told);
     } catch (const DatabaseError& damaged) {
         damage = damaged.what();
         isNew = true; // some may have been made before
@@ -74,6 +69,8 @@ void frmMain::mnuDetect_Click() {
     if (isNew) globals.Saved = false;
     tvwTree.Select(selected);
     SelectNode();
+    for (const std::string& text : told)
+        ui::Say(text);
     if (!damage.empty()) return ui::Say(damage);
     ui::Say(isNew ? "New properties for pure components of mixtures\n"
                     "or binary mixtures from ternary mixtures were generated\n"

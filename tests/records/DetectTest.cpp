@@ -36,7 +36,7 @@ Finding ReadFinding(const std::filesystem::path& path) {
     return finding;
 }
 
-class Detections : public test::RoundTripFixture, public testing::WithParamInterface<std::string> {
+class Detection : public test::RoundTripFixture {
 protected:
     /// Looks through the ternaries and then the binaries; every message ends with
     /// a line break.
@@ -67,6 +67,8 @@ protected:
     }
 };
 
+class Detections : public Detection, public testing::WithParamInterface<std::string> {};
+
 TEST_P(Detections, GiveTheRecordsOfLowerSystemsOnce) {
     const Finding finding = ReadFinding(std::filesystem::path(VEXORA_SOURCE_DIR) /
                                         "tests/records/detections" / (GetParam() + ".txt"));
@@ -83,6 +85,26 @@ TEST_P(Detections, GiveTheRecordsOfLowerSystemsOnce) {
     EXPECT_EQ(SavedAgain(after), after);
     EXPECT_FALSE(DetectAll(told)) << "nor after it was read from a file";
     EXPECT_EQ(DocumentAsRecords(), after);
+}
+
+TEST_F(Detection, AConstantKeepsItsFiguresWhenItIsInAUnitOfItsOwn) {
+    const std::string set = "^A & O & & & & & ::Method:UNKNOWN:\n"
+                            "^1 1 1 T C DIR 1 Y L P 101.325 G & X1 D & & & & & &\n"
+                            "^X 3 P L - & & & - & & & + 95 0.002 - & & - & & &\n^d 0 100.0 &\n";
+    LoadAndSave(Whole("^B 64175 7732185 P\n" + set));
+    clsMV& mixed = *(*globals.CurrentR->recM.begin())->recMV.Item(std::size_t{1});
+    for (ConstraintSlot& slot : mixed.Constraints)
+        if (slot.code == "P") slot = {"P", "1.01325", "L", "A"}; // as a dialog leaves it
+    std::string told;
+    EXPECT_TRUE(DetectAll(told));
+    const std::string saved = DocumentAsRecords();
+    EXPECT_NE(saved.find("^f 1 TB C 1 L 102.6676 S 100.0 & & &\n"
+                         "^X 1 P L - & & & - & & & + 95 0.2 - & & - & & &\n"),
+              saved.npos)
+        << saved;
+    Read(saved);
+    EXPECT_FALSE(DetectAll(told));
+    EXPECT_EQ(told, "");
 }
 
 std::vector<std::string> DetectionNames() {
