@@ -95,11 +95,13 @@ private:
         std::int64_t last = HighestTie(*system_.mixture);
         std::set<std::string> taken;
         for (std::size_t row = 0; row < table_.rows.size(); ++row) {
-            if (!test.TestTieline(static_cast<int>(row))) continue;
             const std::string& old = table_.rows[row].tie;
-            if (ParseInteger(old) && taken.insert(old).second)
+            const bool ties = test.TestTieline(static_cast<int>(row));
+            // What an untouched row is tied to need not be in the table.
+            if (!old.empty() && (ties || IsUntouchedRow(table_, static_cast<int>(row))) &&
+                taken.insert(old).second)
                 ties_[row] = old;
-            else if (isTied)
+            else if (ties && isTied)
                 ties_[row] = std::to_string(++last);
         }
     }
@@ -119,19 +121,11 @@ private:
         const ProcessedRows rows(table_, *set, columns);
         const bool isOriginal = set->isOriginalUnit;
         for (const int row : planned.rows)
-            set->AddRow(rows.NewRow(row, TieOf(planned, rows, row)));
+            set->AddRow(rows.NewRow(row, ties_[static_cast<std::size_t>(row)]));
         set->isOriginalUnit = isOriginal;
         if (planned.uncertainty >= 0) StateUncertainties(*set);
         NameStatements(*set);
         return set;
-    }
-
-    std::string TieOf(const PlannedSet& planned, const ProcessedRows& rows, int row) const {
-        const std::string& old = table_.rows[static_cast<std::size_t>(row)].tie;
-        const std::string& tie = ties_[static_cast<std::size_t>(row)];
-        // What it was tied to need not be in the table.
-        if (tie.empty() && !old.empty() && rows.IsUntouched(row)) return old;
-        return planned.isTied || !old.empty() ? tie : std::string();
     }
 
     void Define(clsMV& set, const PlannedSet& planned, RowColumns& columns) const {

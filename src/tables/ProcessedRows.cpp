@@ -26,7 +26,21 @@ struct Shape {
     }
 };
 
+/// The text of a cell is that of the stored row, or it is as empty as it was.
+bool IsUntouchedCell(const ProcessTable& table, int row, int column) {
+    const CellOrigin* const origin =
+        table.origin->At(table.rows[static_cast<std::size_t>(row)].place, column);
+    return table.Cell(row, column) == (origin ? std::string_view(origin->text) : "");
+}
+
 } // namespace
+
+bool IsUntouchedRow(const ProcessTable& table, int row) {
+    if (!table.origin || table.rows[static_cast<std::size_t>(row)].place < 0) return false;
+    for (std::size_t column = 0; column < table.columns.size(); ++column)
+        if (!IsUntouchedCell(table, row, static_cast<int>(column))) return false;
+    return true;
+}
 
 bool IsSame(const UnitConversion& a, const UnitConversion& b) {
     return Equal(a.Absolute(0), b.Absolute(0)) && Equal(a.Absolute(1), b.Absolute(1));
@@ -64,12 +78,6 @@ const clsData* ProcessedRows::StoredRow(int row) const {
     return origin && origin->item == 0 ? origin->row : nullptr;
 }
 
-bool ProcessedRows::IsUntouched(int row, int column) const {
-    const CellOrigin* const origin =
-        table_.origin->At(table_.rows[static_cast<std::size_t>(row)].place, column);
-    return table_.Cell(row, column) == (origin ? std::string_view(origin->text) : "");
-}
-
 bool ProcessedRows::IsOfThisKind(const clsData& stored) const {
     const auto found = isAlike_.find(&stored);
     return found != isAlike_.end() && found->second;
@@ -79,8 +87,9 @@ bool ProcessedRows::IsUntouched(int row) const {
     const clsData* const stored = StoredRow(row);
     if (!stored || !IsOfThisKind(*stored)) return false;
     for (int n = 0; n <= columns_.nVar; ++n)
-        if (!IsUntouched(row, columns_.items[static_cast<std::size_t>(n)])) return false;
-    return columns_.uncertainty < 0 || IsUntouched(row, columns_.uncertainty);
+        if (!IsUntouchedCell(table_, row, columns_.items[static_cast<std::size_t>(n)]))
+            return false;
+    return columns_.uncertainty < 0 || IsUntouchedCell(table_, row, columns_.uncertainty);
 }
 
 /// Cells that nobody has touched keep their count of digits and their statements. What an
@@ -89,13 +98,13 @@ void ProcessedRows::TakeStored(clsData& made, const clsData& stored, int row) co
     for (int n = 0; n <= columns_.nVar; ++n) {
         const auto place = static_cast<std::size_t>(n);
         made.Digits[place] = static_cast<std::uint8_t>(SignificantDigits(made.Values[place]));
-        if (!IsUntouched(row, columns_.items[place])) continue;
+        if (!IsUntouchedCell(table_, row, columns_.items[place])) continue;
         made.Digits[place] = static_cast<std::uint8_t>(stored.DigitCount(n));
         if (!stored.StatementsOf(n).IsEmpty()) made.Statements(n) = stored.StatementsOf(n);
     }
     made.isDigit = stored.isDigit;
-    const bool hasOwn =
-        columns_.uncertainty < 0 && stored.Extras && IsUntouched(row, columns_.items[0]);
+    const bool hasOwn = columns_.uncertainty < 0 && stored.Extras &&
+                        IsUntouchedCell(table_, row, columns_.items[0]);
     if (!hasOwn || stored.Extras->userCU.empty()) return;
     made.Statements(0);
     made.Extras->userCU = stored.Extras->userCU;

@@ -29,12 +29,9 @@ public:
     ProcessedRows(const ProcessTable& table, const DataSet& set, const RowColumns& columns);
 
     clsData NewRow(int row, const std::string& tie) const;
-    /// No cell of these columns differs from the stored row that it shows.
-    bool IsUntouched(int row) const;
-
 private:
     const clsData* StoredRow(int row) const;
-    bool IsUntouched(int row, int column) const;
+    bool IsUntouched(int row) const;
     bool IsOfThisKind(const clsData& stored) const;
     void TakeStored(clsData& made, const clsData& stored, int row) const;
     std::string Text(int row, int column) const;
@@ -45,6 +42,9 @@ private:
     /// Of each stored row, whether its set has the quantities and units of this one.
     std::unordered_map<const clsData*, bool> isAlike_;
 };
+
+/// A row of stored sets that stands in the table as it was filled.
+bool IsUntouchedRow(const ProcessTable& table, int row);
 
 /// Where rows state combined uncertainties, the set says that they do, and that they come of
 /// propagation.

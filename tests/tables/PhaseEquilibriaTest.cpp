@@ -40,6 +40,18 @@ TEST_F(PhaseEquilibria, BoilingTemperaturesAndTheGasAtOnePressure) {
         Rows(Boiling, {2, 0}) + Header + "^1 1 1 X1 D DIR 1 Y G P 101.325 L -1 X1 D & & & & & &\n" +
         Rows(Boiling, {2, 3});
     EXPECT_EQ(Saved(), lines);
+    const std::string xml = Leaving();
+    const std::string row = "/NumValues[1]/VariableValue";
+    EXPECT_EQ(At(xml, row + "/nVarValue") + "; " + At(xml, row + "/nVarDigits"),
+              "0.0190 | 0.0190; 3 | 3");
+    EXPECT_EQ(At(xml, "/NumValues[1]/PropertyValue/nPropValue") + "; " +
+                  At(xml, "/NumValues[1]/PropertyValue/nPropDigits"),
+              "368.65 | 0.1700; 4 | 4");
+    EXPECT_EQ(At(xml, "/Constraint/nConstraintValue") + "; " + At(xml, "/Constraint/nConstrDigits"),
+              "101.325 | 101.325; 6 | 6");
+    EXPECT_EQ(At(xml, "/PhaseID/ePhase") + "; " + At(xml, "/Property/PropPhaseID/ePropPhase") +
+                  "; " + At(xml, "/Variable/VarPhaseID/eVarPhase"),
+              "Liquid | Gas | Gas | Liquid; Liquid | Gas; Liquid | Liquid");
 }
 
 TEST_F(PhaseEquilibria, TwoLayersWhosePressureNobodyTells) {
@@ -49,6 +61,10 @@ TEST_F(PhaseEquilibria, TwoLayersWhosePressureNobodyTells) {
     EXPECT_EQ(Saved(), "^B 64175 7732185 S\n" + head + "1 Y L1 L2 & & & T C & & & & & &\n" +
                            Rows(Layers, {0, 1}) + head + "2 Y L2 L1 & & & T C & & & & & &\n" +
                            Rows(Layers, {0, 2}));
+    const std::string xml = Leaving();
+    EXPECT_EQ(At(xml, "/NumValues[1]/VariableValue/*") + "; " +
+                  At(xml, "/NumValues[1]/PropertyValue/*") + "; " + At(xml, "/Constraint/*"),
+              "1 | 293.15 | 3 | 1 | 293.15 | 3; 1 | 0.0781 | 3 | 1 | 0.7993 | 4; ");
 }
 
 TEST_F(PhaseEquilibria, TiesOfATernary) {
@@ -79,12 +95,21 @@ TEST_F(PhaseEquilibria, AGasAboveATernaryAtOnePressure) {
                                          "& &\n^d 0.1 0.8 & 7");
     const std::string table = "T P X1 X2 X1 CU X2\nS S D D D - D\n- - L L G - G\n"
                               "340.1 101.3 0.10 0.20 0.31 0.01 0.42\n"
-                              "341.1 101.30 0.40 0.20 0.51 - 0.32\n"
-                              "342.1 101.3 - - - - -";
-    ProcessTable read = TableOf(3, table);
-    read.rows.pop_back();
-    Process(read, system);
-    EXPECT_EQ(Saved(), "");
+                              "341.1 101.30 0.40 0.20 0.51 - 0.32";
+    Process(TableOf(3, table), system);
+    const std::string saved = Saved();
+    EXPECT_EQ(saved.substr(saved.find(" & 7\n") + 5),
+              Header +
+                  "^2 1 1 1 X2 D DIR 1 Y L P 101.3 G & T S X1 D & & & & & &\n"
+                  "^d 340.1 0.10 0.20 & 8\n^d 341.1 0.40 0.20 & 9\n" +
+                  Header +
+                  "^2 1 1 1 X1 D DIR 1 Y G P 101.3 L -2 T S X1 D & & & & & &\n"
+                  "^X 0 X1 G - & & & - & & & - & & + A & - & & &\n"
+                  "^d 340.1 0.10 0.31 & 8\n^Y & & & & & & & & & & & & 0.01 &\n"
+                  "^d 341.1 0.40 0.51 & 9\n" +
+                  Header +
+                  "^2 1 1 1 X2 D DIR 2 Y G P 101.3 L -2 T S X1 D & & & & & &\n"
+                  "^d 340.1 0.10 0.42 & 8\n^d 341.1 0.40 0.32 & 9\n");
 }
 
 /// Sets that filled a table, with what their rows know beside the texts.
@@ -97,7 +122,9 @@ protected:
         origin->sets = sets;
         for (std::size_t row = 0; row < table.rows.size(); ++row) {
             table.rows[row].place = static_cast<int>(row);
-            origin->cells.emplace_back(table.columns.size());
+            auto& cells = origin->cells.emplace_back();
+            for (const std::string& text : table.rows[row].cells)
+                cells.push_back({nullptr, -1, text});
         }
         for (std::size_t i = 0; i < sets.size(); ++i) {
             const PlannedSet& planned = analysis.sets[i];
@@ -130,7 +157,7 @@ TEST_F(StoredEquilibria, ATableThatNobodyTouchedGivesTheSameLines) {
         "^1 1 1 T C FR 4 Y L P 101.325 G & X1 D & & & & & &\n"
         "^X 0 T L + & 95 0.1 - & & & - & & - & & - & & &\n"
         "^g 0.0190 3 95.5 2 0.2 5\n^Y & & & 0.001 & & & 0.3 0.7 0.05\n^d 0.0721 89.0 & 6\n"
-        "^d 0.3 81 &\n"
+        "^d 0.3 81 & 8\n"
         "^A & O A & ABC DEF 1/2/2003 ::Method:EBULLIO:\n"
         "^1 1 1 X1 D DIR 9 Y G L -1 P 101.325 X1 D & & & & & &\n"
         "^d 0.0190 0.1700 & 5\n^d 0.0721 0.3891 & 6\n";
@@ -141,7 +168,22 @@ TEST_F(StoredEquilibria, ATableThatNobodyTouchedGivesTheSameLines) {
     ProcessTable table = TableOf(2, "T P X1 X1\nC S D D\n- - L G\n95.5 101.325 0.0190 0.1700\n"
                                     "89.0 101.325 0.0721 0.3891\n81 101.325 0.3 -");
     Fill(table, stored);
-    EXPECT_EQ(Lines(MakeSets(table, AnalyseVLE(table), system)), Lines(stored));
+    const std::string before = Lines(stored);
+    const auto made = [&] { return Lines(MakeSets(table, AnalyseVLE(table), system)); };
+    EXPECT_EQ(made(), before);
+    // Of an edited row the other cells keep what they know; what was found for it is gone.
+    const std::string first = "^g 0.0190 3 95.5 2 0.2 5\n^Y & & & 0.001 & & & 0.3 0.7 0.05\n";
+    table.rows[0].cells[0] = "95.6";
+    EXPECT_EQ(made(),
+              Replace(before, first, "^g 0.0190 3 95.6 3 & 5\n^Y & & & 0.001 & & & & & &\n"));
+    table.rows[0].cells = {"95.5", "101.325", "0.020", "0.1700"};
+    EXPECT_EQ(made(),
+              Replace(Replace(before, first, "^g 0.020 2 95.5 2 & 5\n^Y & & & & & & & 0.3 0.7 &\n"),
+                      "^d 0.0190 0.1700", "^d 0.020 0.1700"));
+    // A row that has lost its partner is tied to nothing; new ties stand above all.
+    table.rows[0].cells = {"95.5", "101.325", "0.0190", ""};
+    EXPECT_EQ(made(), Replace(Replace(before, first, Replace(first, " 5\n", "\n")),
+                              "^d 0.0190 0.1700 & 5\n", ""));
 }
 
 TEST_F(PhaseEquilibria, ConstantsComeOfTheColumnsOrAreAskedFor) {
