@@ -1,7 +1,9 @@
 #include "records/TiedSets.h"
 
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "records/clsM.h"
 #include "records/clsMV.h"
@@ -9,29 +11,27 @@
 
 namespace vexora {
 
-namespace {
-
-std::unordered_set<std::string> TieNumbers(const clsMV& set) {
-    std::unordered_set<std::string> numbers;
-    for (const clsData& row : set.recData)
-        if (!IsBlankField(row.TIELINE)) numbers.emplace(row.TIELINE);
-    return numbers;
-}
-
-bool BearsOneOf(const clsMV& set, const std::unordered_set<std::string>& numbers) {
-    for (const clsData& row : set.recData)
-        if (!IsBlankField(row.TIELINE) && numbers.contains(row.TIELINE)) return true;
-    return false;
-}
-
-} // namespace
-
 std::vector<std::shared_ptr<clsMV>> TiedSets(clsMV& set) {
-    const std::unordered_set<std::string> numbers = TieNumbers(set);
-    if (numbers.empty() || set.Parent == nullptr) return {set.As<clsMV>()};
+    if (!set.IsTied() || set.Parent == nullptr) return {set.As<clsMV>()};
+    std::unordered_map<std::string, std::vector<clsMV*>> bearers; // of each number
+    for (const auto& other : set.Parent->recMV)
+        for (const clsData& row : other->recData)
+            if (!IsBlankField(row.TIELINE)) bearers[row.TIELINE].push_back(other.get());
+    std::unordered_set<const clsMV*> found = {&set};
+    std::vector<const clsMV*> open = {&set};
+    while (!open.empty()) {
+        const clsMV* const next = open.back();
+        open.pop_back();
+        for (const clsData& row : next->recData) {
+            if (IsBlankField(row.TIELINE)) continue;
+            // Whom a number leads to has to be asked once.
+            for (const clsMV* other : std::exchange(bearers[row.TIELINE], {}))
+                if (found.insert(other).second) open.push_back(other);
+        }
+    }
     std::vector<std::shared_ptr<clsMV>> tied;
     for (const auto& other : set.Parent->recMV)
-        if (other.get() == &set || BearsOneOf(*other, numbers)) tied.push_back(other);
+        if (found.contains(other.get())) tied.push_back(other);
     return tied;
 }
 
