@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
-#include <utility>
 
 #include "globals/KVOGlobal.h"
-#include "records/DataSet.h"
 #include "records/LineWriter.h"
 #include "records/Walk.h"
 #include "records/clsL.h"
@@ -106,32 +104,9 @@ std::string WhyItStays(std::string_view nodeKey, const Record& record) {
     return rule == nullptr || rule->whyItStays == nullptr ? "" : rule->whyItStays(record);
 }
 
-bool HasRows(const Record& record) {
-    const auto* set = dynamic_cast<const DataSet*>(&record);
-    return set != nullptr && !set->recData.IsEmpty();
-}
-
 DeletedRecords::DeletedRecords(const std::vector<std::shared_ptr<Record>>& records)
-    : WasSaved(Globals().Saved) {
-    for (const auto& record : records) {
-        taken_.push_back({record, nullptr});
-        Take(taken_.back());
-    }
+    : WasSaved(Globals().Saved), taken_(records.begin(), records.end()) {
     rest_ = HashOfDocument();
-}
-
-void DeletedRecords::Take(Taken& taken) {
-    ui::TreeView& tree = *Globals().tvwTree;
-    taken.nodePlace = tree.PlaceOf(*taken.record->tNode);
-    taken.node = tree.Take(*taken.record->tNode);
-    taken.place = taken.record->Leave();
-}
-
-bool DeletedRecords::Return(Taken& taken) {
-    if (!taken.record->Return(taken.place)) return false;
-    Globals().tvwTree->Put(std::move(taken.node), taken.nodePlace);
-    taken.record->Refresh(); // those above may bear other keys by now
-    return true;
 }
 
 bool DeletedRecords::IsLastChange() const {
@@ -139,14 +114,13 @@ bool DeletedRecords::IsLastChange() const {
 }
 
 ui::TreeNode* DeletedRecords::PutBack() {
-    // Places were taken one after the other, so they hold on the way back.
     for (std::size_t n = taken_.size(); n > 0; --n) {
-        if (Return(taken_[n - 1])) continue;
+        if (taken_[n - 1].PutBack()) continue;
         for (; n < taken_.size(); ++n)
-            Take(taken_[n]);
+            taken_[n].TakeAgain();
         return nullptr;
     }
-    return taken_.front().record->tNode;
+    return What().tNode;
 }
 
 } // namespace vexora

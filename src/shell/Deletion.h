@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/Record.h"
+#include "records/TakenRecord.h"
 #include "shell/KnownFile.h"
 
 namespace vexora {
@@ -16,8 +17,6 @@ namespace vexora {
 std::string WhyItStays(std::string_view nodeKey, const Record& record);
 /// Whether nodes of that kind are deleted.
 bool IsDeletable(std::string_view nodeKey);
-/// The record has rows of its own, about which the user is asked.
-bool HasRows(const Record& record);
 
 /// Records that were taken out of the document in one go, with their nodes and all below them, as
 /// long as they may still be put back.
@@ -31,7 +30,7 @@ public:
     /// happens, when another record has the number of one by now. To be called once.
     ui::TreeNode* PutBack();
 
-    const Record& What() const { return *taken_.front().record; }
+    const Record& What() const { return *taken_.front().What(); }
     /// The document says what it said after the deletion: nothing has been done since.
     bool IsLastChange() const;
 
@@ -41,16 +40,7 @@ public:
     bool WasDocument = false; // the source went, and the document with it
 
 private:
-    struct Taken {
-        std::shared_ptr<Record> record;
-        std::unique_ptr<ui::TreeNode> node;
-        std::size_t place = 0;     // among the records, from 1
-        std::size_t nodePlace = 0; // among the nodes, from 0
-    };
-    static void Take(Taken& taken);
-    static bool Return(Taken& taken);
-
-    std::vector<Taken> taken_;
+    std::vector<TakenRecord> taken_;
     std::size_t rest_ = 0; // what the rest of the document says, as a hash
 };
 

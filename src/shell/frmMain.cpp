@@ -76,6 +76,7 @@ void frmMain::WireMenus() {
     mnuNewLike.OnClick = [this] { mnuNewLike_Click(); };
     mnuDelete.OnClick = [this] { mnuDelete_Click(); };
     mnuUndoDelete.OnClick = [this] { mnuUndoDelete_Click(); };
+    mnuUndoProcess.OnClick = [this] { mnuUndoProcess_Click(); };
     mnuCheck.OnClick = [this] { mnuCheck_Click(); };
     mnuDetect.OnClick = [this] { mnuDetect_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };

@@ -45,6 +45,7 @@ public:
     ui::MenuItem mnuNewLike{*this, "mnuNewLike", "New set like this", &mnuEdit, "Ctrl+L"};
     ui::MenuItem mnuDelete{*this, "mnuDelete", "Delete Node", &mnuEdit, "Delete"};
     ui::MenuItem mnuUndoDelete{*this, "mnuUndoDelete", "Undo delete", &mnuEdit, "Ctrl+Z"};
+    ui::MenuItem mnuUndoProcess{*this, "mnuUndoProcess", "Undo process", &mnuEdit};
     ui::MenuItem mnuTools{*this, "mnuTools", "T&ools"};
     ui::MenuItem mnuToolsConfigure{*this, "mnuToolsConfigure", "C&onfigure", &mnuTools};
     ui::MenuItem mnuToolsTables{*this, "mnuToolsTables", "&Add to the compound tables...",
@@ -172,6 +173,7 @@ private:
     void DeleteNode();
     static bool MayDelete(const Record& record);
     void mnuUndoDelete_Click();
+    void mnuUndoProcess_Click();
 
     // frmMain_detect.cpp
     void mnuDetect_Click();

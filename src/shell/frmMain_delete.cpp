@@ -1,6 +1,9 @@
-// Deleting the record of the selected node, and putting the last one back.
+// Deleting the record of the selected node, putting the last one back, and taking back what the
+// last table to be processed has made.
 
+#include "entry/DeletionQuestion.h"
 #include "globals/KVOGlobal.h"
+#include "records/ProcessedSets.h"
 #include "records/TiedSets.h"
 #include "records/clsMV.h"
 #include "shell/Deletion.h"
@@ -37,10 +40,7 @@ bool frmMain::MayDelete(const Record& record) {
         ui::Say(reason);
         return false;
     }
-    return ui::AskYesNo("Are you sure you want to delete the record?") &&
-           (!HasRows(record) ||
-            ui::AskYesNo(
-                "This record has associated data items.\nDo you want to delete the data?"));
+    return AskToDelete(record);
 }
 
 void frmMain::DeleteNode() {
@@ -82,6 +82,20 @@ void frmMain::mnuUndoDelete_Click() {
     }
     deleted_.reset();
     tvwTree.Select(node);
+    SelectBy(true);
+}
+
+/// What was made goes, and what it replaced stands there again.
+void frmMain::mnuUndoProcess_Click() {
+    KVOGlobal& globals = Globals();
+    if (!globals.Processed || globals.ShellLocked || RefuseReadOnly()) return;
+    Record& owner = globals.Processed->Owner();
+    if (!globals.Processed->Undo())
+        return ui::Say("The last table cannot be taken back: data sets that were made of it have "
+                       "been changed or deleted since.");
+    globals.Processed.reset();
+    globals.Saved = false;
+    tvwTree.Select(owner.tNode);
     SelectBy(true);
 }
 

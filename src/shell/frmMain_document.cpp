@@ -117,6 +117,7 @@ void frmMain::EmptyDocument() {
     globals.ReadOnly = false;
     globals.ForgetCurrent();
     deleted_.reset();
+    globals.Processed.reset();
     globals.recR.Clear();
     tvwTree.Clear();
     globals.DialogAccepted = false;
@@ -135,9 +136,12 @@ void frmMain::FindReference() {
 
 void frmMain::PutAside() {
     aside_ = std::make_unique<DocumentAside>(FileName, known_);
-    auto deleted = std::move(deleted_); // it may come back with the document
+    // They may come back with the document.
+    auto deleted = std::move(deleted_);
+    auto processed = std::move(Globals().Processed);
     EmptyDocument();
     deleted_ = std::move(deleted);
+    Globals().Processed = std::move(processed);
 }
 
 /// A document that was put aside goes when there is another one, and else comes back.
@@ -146,6 +150,7 @@ void frmMain::SettleAside() {
     if (!before) return;
     if (!Globals().recR.IsEmpty()) {
         txtFind.Text({});
+        Globals().Processed.reset();
         return deleted_.reset();
     }
     before->PutBack(FileName, known_);
@@ -259,7 +264,9 @@ bool frmMain::WriteDocument() {
         globals.DialogAccepted = false;
         RegisterSaved();
         deleted_.reset();
+        globals.Processed.reset();
         mnuUndoDelete.Enabled(false);
+        mnuUndoProcess.Enabled(false);
     }
     Tell(outcome, FileName);
     RefreshTexts();

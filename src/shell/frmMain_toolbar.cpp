@@ -137,6 +137,7 @@ void frmMain::SetLocked(bool locked) {
         mnuCompare.Enabled(!Globals().recR.IsEmpty());
         mnuNewLike.Enabled(MayRepeat());
         mnuUndoDelete.Enabled(deleted_ != nullptr);
+        mnuUndoProcess.Enabled(Globals().Processed != nullptr);
         mnuCheck.Enabled(!Globals().recR.IsEmpty());
         mnuDetect.Enabled(MayDetect());
     }
