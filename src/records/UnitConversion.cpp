@@ -79,6 +79,18 @@ std::string UnitConversion::DifferenceText(const std::string& typed) const {
     return Converted(typed, 0, true).text;
 }
 
+std::string UnitConversion::EnteredText(std::string_view system) const {
+    if (!ChangesValues() || !IsNumeric(system)) return std::string(system);
+    const double entered = Entered(Val(system), false);
+    // A scale with another zero shows other digits, but as many of them behind the point.
+    const bool hasOffset = factor <= 0 && IsTemperatureOffset(code);
+    const std::string whole = FormatFixed(entered, DecimalPlaces(system));
+    if (Val(whole) == 0) return Val(system) == 0 ? std::string(system) : whole;
+    const int digits = hasOffset ? SignificantDigits(whole) : SignificantDigits(system);
+    return TextThatComesBack(entered, std::max(1, digits), system,
+                             [this](double shown) { return Absolute(shown); });
+}
+
 std::string UnitConversion::EnteredDifferenceText(const std::string& system) const {
     const double value = Val(system);
     if (!ChangesValues() || !IsNumeric(system) || value == 0) return system;

@@ -39,7 +39,8 @@ struct UnitConversion {
                               bool isDifference = false) const;
     /// An entered difference in the system unit; per cent and other texts as they stand.
     std::string DifferenceText(const std::string& typed) const;
-    /// The way back, by the same rule.
+    /// The ways back, by the same rule.
+    std::string EnteredText(std::string_view system) const;
     std::string EnteredDifferenceText(const std::string& system) const;
 
 private:

@@ -13,6 +13,7 @@
 #include "tables/PhaseEquilibria.h"
 #include "tables/ProcessedHeader.h"
 #include "tables/ProcessedRows.h"
+#include "tables/StoredFigures.h"
 
 namespace vexora {
 
@@ -78,6 +79,7 @@ public:
         std::vector<std::shared_ptr<clsMV>> sets;
         for (const PlannedSet& planned : analysis_.sets)
             if (!planned.rows.empty()) sets.push_back(ProcessMV(planned));
+        TakeUpStored(table_, analysis_, sets);
         return sets;
     }
 

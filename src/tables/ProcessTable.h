@@ -45,6 +45,7 @@ struct CellOrigin {
 class TableOrigin {
 public:
     std::vector<std::shared_ptr<clsMV>> sets; // in the order of the document
+    std::vector<ProcessColumn> columns;       // as filled
     /// Of the cells of one row of the filled table, by column; rows count from 0.
     std::vector<std::vector<CellOrigin>> cells;
 
