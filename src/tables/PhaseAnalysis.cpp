@@ -85,8 +85,8 @@ private:
         for (const PhaseColumns& one : heads_.phases)
             result_.PhaseList.push_back(one.phase);
         result_.Context = ContextOf(heads_.phases);
-        states_ = {State{"T", heads_.TColumn, heads_.TColumn >= 0, constants_.T},
-                   State{"P", heads_.PColumn, heads_.PColumn >= 0, constants_.P}};
+        states_ = {State{"T", heads_.TColumn, heads_.TColumn >= 0, NormalizeNumber(constants_.T)},
+                   State{"P", heads_.PColumn, heads_.PColumn >= 0, NormalizeNumber(constants_.P)}};
         if (heads_.phases.size() > PhaseHeads::MostPhases ||
             heads_.VarNames.size() > PhaseHeads::MostQuantities)
             Refuse(heads_.hint, false);
@@ -114,7 +114,12 @@ private:
                               ? "Fewer phases"
                               : "A column of temperatures or of pressures");
         if (IsFull()) return;
-        for (State* const state : {&states_[1], &states_[0]})
+        std::array<State*, 2> candidates = {&states_[1], &states_[0]};
+        // What stored sets hold constant goes first: their property may be of equal values too.
+        std::ranges::stable_partition(candidates, [this](const State* state) {
+            return state->varies && Head(state->column).role == Role::Constant;
+        });
+        for (State* const state : candidates)
             if (result_.nVar > 1) TakeConstant(*state);
     }
     /// A column of equal values is a constraint.
