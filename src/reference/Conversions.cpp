@@ -78,7 +78,19 @@ constexpr std::array<BuiltIn, 49> BuiltInFactors{{
     {"GHz", Kind::Multiply, 1000},
 }};
 
+/// The units of one letter, by the letter: nearly all values have one of them, or the system unit.
+constexpr std::array<const BuiltIn*, 128> Letters = [] {
+    std::array<const BuiltIn*, 128> letters{};
+    for (const BuiltIn& unit : BuiltInFactors)
+        if (unit.code.size() == 1) letters[static_cast<std::size_t>(unit.code[0])] = &unit;
+    return letters;
+}();
+
 const BuiltIn* FindBuiltIn(std::string_view code) {
+    if (code.size() == 1) {
+        const auto letter = static_cast<unsigned char>(code[0]);
+        return letter < Letters.size() ? Letters[letter] : nullptr;
+    }
     const auto* found = std::ranges::find(BuiltInFactors, code, &BuiltIn::code);
     return found == BuiltInFactors.end() ? nullptr : found;
 }

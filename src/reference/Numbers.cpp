@@ -17,34 +17,50 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// How many digits stand from this byte on.
-std::size_t DigitsFrom(std::string_view text, std::size_t at) {
-    std::size_t end = at;
-    while (end < text.size() && IsDigit(text[end]))
-        ++end;
-    return end - at;
+/// The longest beginning of a text that the number grammar takes.
+struct Beginning {
+    std::size_t length = 0; // 0 if there is none
+    /// All its digits as one whole number, as long as a double holds that exactly; else isPlain is
+    /// false, as for a number with an exponent.
+    std::int64_t digits = 0;
+    std::size_t decimals = 0;
+    bool isPlain = false;
+};
+
+/// Takes the digits from this byte on; how many there are.
+std::size_t TakeDigits(std::string_view text, std::size_t at, std::int64_t& digits) {
+    constexpr std::int64_t most = 999'999'999'999'999; // of 15 digits, all of which are doubles
+    const std::size_t first = at;
+    for (; at < text.size() && IsDigit(text[at]); ++at)
+        digits = digits > most ? digits : digits * 10 + (text[at] - '0');
+    return at - first;
 }
 
-/// Length of the longest beginning of the number grammar, 0 if none.
-std::size_t NumberLength(std::string_view text) {
+Beginning BeginningOf(std::string_view text) {
+    constexpr std::int64_t bound = 1'000'000'000'000'000;
+    Beginning number;
     std::size_t at = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
-    const std::size_t whole = DigitsFrom(text, at);
+    const std::size_t whole = TakeDigits(text, at, number.digits);
     at += whole;
     if (at < text.size() && text[at] == '.') {
-        const std::size_t fraction = DigitsFrom(text, at + 1);
-        if (whole + fraction == 0) return 0;
-        at += 1 + fraction;
+        number.decimals = TakeDigits(text, at + 1, number.digits);
+        if (whole + number.decimals == 0) return {};
+        at += 1 + number.decimals;
     } else if (whole == 0) {
-        return 0;
+        return {};
     }
+    number.isPlain = number.digits < bound;
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
         std::size_t exponent = at + 1;
         if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
-        const std::size_t digits = DigitsFrom(text, exponent);
+        std::int64_t ofExponent = 0;
+        const std::size_t digits = TakeDigits(text, exponent, ofExponent);
         // An "E" without digits ends the number in front of it: "5E" is 5.
         if (digits > 0) at = exponent + digits;
+        number.isPlain = number.isPlain && digits == 0;
     }
-    return at;
+    number.length = at;
+    return number;
 }
 
 /// True when a number of the grammar that is out of the range of doubles is too small, not too big.
@@ -54,10 +70,23 @@ bool IsTiny(std::string_view number) {
     return number.find_first_of("123456789") > number.find('.');
 }
 
-/// Value of a text that matches the grammar whole; nothing when it is not finite.
-std::optional<double> Parse(std::string_view number) {
+// These are doubles without a rounding, so that a plain number over one of them is rounded once, as
+// it has to be.
+constexpr std::array<double, 23> PowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+/// Value of the beginning of a text; nothing when there is none or it is not finite.
+std::optional<double> Parse(std::string_view text, const Beginning& number) {
+    if (number.length == 0) return std::nullopt;
+    if (number.isPlain && number.decimals < PowersOfTen.size()) {
+        const auto whole = static_cast<double>(number.digits);
+        const double size = number.decimals == 0 ? whole : whole / PowersOfTen[number.decimals];
+        return text[0] == '-' ? -size : size;
+    }
     // from_chars knows no plus sign.
-    const std::string_view bare = number[0] == '+' ? number.substr(1) : number;
+    const std::size_t sign = text[0] == '+' ? 1 : 0;
+    const std::string_view bare = text.substr(sign, number.length - sign);
     double value = 0;
     const auto [end, error] = std::from_chars(bare.data(), bare.data() + bare.size(), value);
     if (error == std::errc::result_out_of_range) {
@@ -123,9 +152,14 @@ bool HasOffset(std::string_view unitCode) {
 
 } // namespace
 
-bool IsNumeric(std::string_view text) {
+std::optional<double> NumberIn(std::string_view text) {
     text = TrimBlanks(text);
-    return !text.empty() && NumberLength(text) == text.size() && Parse(text).has_value();
+    const Beginning number = BeginningOf(text);
+    return number.length == text.size() ? Parse(text, number) : std::nullopt;
+}
+
+bool IsNumeric(std::string_view text) {
+    return NumberIn(text).has_value();
 }
 
 double Val(std::string_view text) {
@@ -134,12 +168,14 @@ double Val(std::string_view text) {
         packed = Replace(text, " ", "");
         text = packed;
     }
-    const std::size_t length = NumberLength(text);
-    return length == 0 ? 0.0 : Parse(text.substr(0, length)).value_or(0.0);
+    return Parse(text, BeginningOf(text)).value_or(0.0);
 }
 
 std::string NumberText(double v) {
+    constexpr double plainBound = 1e15;
     if (!std::isfinite(v) || v == 0) return "0";
+    if (std::fabs(v) < plainBound && v == std::trunc(v))
+        return std::to_string(static_cast<std::int64_t>(v));
     Decimal decimal = ToDecimal(v);
     std::string& digits = decimal.digits;
     digits.erase(digits.find_last_not_of('0') + 1);
@@ -202,7 +238,10 @@ std::int64_t ToInteger(double v) {
 
 std::string NormalizeNumber(std::string_view text) {
     constexpr std::string_view typesetMinus = "\u2212";
-    std::string result = Replace(TrimBlanks(text), typesetMinus, "-");
+    text = TrimBlanks(text);
+    std::string result = text.find(typesetMinus.front()) == text.npos
+                             ? std::string(text)
+                             : Replace(text, typesetMinus, "-");
     for (std::size_t i = 0; i < result.size(); ++i) {
         if (result[i] == ',')
             result[i] = '.';
@@ -250,9 +289,10 @@ double LastPlace(std::string_view text) {
     text = TrimBlanks(text);
     const std::size_t e = std::min(text.find_first_of("eE"), text.size());
     const std::size_t point = text.substr(0, e).find('.');
-    const auto places = point < e ? static_cast<double>(e - 1 - point) : 0.0;
+    const std::size_t places = point < e ? e - 1 - point : 0;
+    if (e == text.size() && places < PowersOfTen.size()) return 1 / PowersOfTen[places];
     const double exponent = e < text.size() ? Val(text.substr(e + 1)) : 0;
-    return std::pow(10.0, exponent - places);
+    return std::pow(10.0, exponent - static_cast<double>(places));
 }
 
 std::string FormatDigits(std::string_view text, int digits) {

@@ -16,6 +16,8 @@ namespace vexora {
 /// it allowed. No thousands marks, hex, inf or nan.
 /// "1." and ".5" are numbers; "1E400" is none, "1E-400" is 0.
 bool IsNumeric(std::string_view text);
+/// The value of a text for which IsNumeric is true, else nothing.
+std::optional<double> NumberIn(std::string_view text);
 /// Value of the longest numeric beginning after removal of all blanks; else 0.
 /// "12 kPa" is 12: what follows the number is passed over, a typing mistake too.
 double Val(std::string_view text);

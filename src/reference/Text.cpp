@@ -7,12 +7,19 @@ namespace vexora {
 
 namespace {
 
-constexpr std::string_view White = " \t\r\n";
+constexpr bool IsWhite(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
-std::string_view Strip(std::string_view text, std::string_view characters) {
-    const std::size_t first = text.find_first_not_of(characters);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(characters) - first + 1);
+// Record lines and numbers are short; a loop is done before a search in a list of characters has
+// begun.
+template <class Unwanted>
+std::string_view Strip(std::string_view text, Unwanted isUnwanted) {
+    while (!text.empty() && isUnwanted(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isUnwanted(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 char Upper(char c) {
@@ -29,8 +36,8 @@ bool IsContinuation(char c) {
 } // namespace
 
 std::string_view WordReader::NextWord() {
-    rest_ = Strip(rest_, White);
-    const std::size_t end = std::min(rest_.find_first_of(White), rest_.size());
+    rest_ = Strip(rest_, IsWhite);
+    const auto end = static_cast<std::size_t>(std::ranges::find_if(rest_, IsWhite) - rest_.begin());
     const std::string_view word = rest_.substr(0, end);
     // One separator goes: blanks behind it may belong to a text that is the rest of the line.
     rest_.remove_prefix(std::min(end + 1, rest_.size()));
@@ -38,7 +45,7 @@ std::string_view WordReader::NextWord() {
 }
 
 bool WordReader::AtEnd() const {
-    return Strip(rest_, White).empty();
+    return Strip(rest_, IsWhite).empty();
 }
 
 std::string NextHashField(std::string& text) {
@@ -55,10 +62,10 @@ std::string NextHashField(std::string& text) {
 }
 
 std::string_view TrimBlanks(std::string_view text) {
-    return Strip(text, " ");
+    return Strip(text, [](char c) { return c == ' '; });
 }
 std::string_view Trim(std::string_view text) {
-    return Strip(text, White);
+    return Strip(text, IsWhite);
 }
 
 std::string UpperAscii(std::string_view text) {

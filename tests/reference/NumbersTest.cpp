@@ -16,11 +16,23 @@ TEST(Numbers, OnlyThePlainDecimalGrammarIsNumeric) {
 }
 
 TEST(Numbers, ValReadsTheLongestNumericBeginning) {
-    const std::pair<const char*, double> cases[] = {{"12abc", 12},  {" 1 234.5 K", 1234.5},
-                                                    {"-.5e", -0.5}, {"1e5e5", 1e5},
-                                                    {"abc", 0},     {"", 0},
-                                                    {"+3", 3},      {"5.", 5},
-                                                    {"1e-400", 0},  {"1e999", 0}};
+    const std::pair<const char*, double> cases[] = {{"12abc", 12},
+                                                    {" 1 234.5 K", 1234.5},
+                                                    {"-.5e", -0.5},
+                                                    {"1e5e5", 1e5},
+                                                    {"abc", 0},
+                                                    {"", 0},
+                                                    {"+3", 3},
+                                                    {"5.", 5},
+                                                    {"1e-400", 0},
+                                                    {"1e999", 0},
+                                                    // Short numbers are read in a way of their own.
+                                                    {"647.096", 647.096},
+                                                    {"999999999999999", 999999999999999},
+                                                    {"9007199254740993", 9007199254740992},
+                                                    {"-0.0000000000000000000001", -1e-22},
+                                                    {"0.00000000000000000000003", 3e-23},
+                                                    {"1.10e2", 110}};
     for (const auto& [text, value] : cases)
         EXPECT_EQ(Val(text), value) << text;
 }
