@@ -1,78 +1,148 @@
 #include "export/ClosingCheck.h"
 
+#include "export/ElementNames.h"
 #include "export/ExpectedValues.h"
 #include "export/XmlWriter.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "reference/XmlReader.h"
 
+#include <algorithm>
 #include <cmath>
-#include <map>
+#include <functional>
 #include <optional>
 #include <set>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace vexora {
 
 namespace {
 
+using Kind = ElementKind;
+
 struct OpenElement {
-    std::string_view name;
+    const ElementName* name = nullptr;
     bool hasContent = false;
+};
+
+/// A handful of texts, such as the numbers of the variables of a set.
+class FewTexts {
+public:
+    bool Contains(std::string_view text) const {
+        return std::find(texts_.begin(), texts_.end(), text) != texts_.end();
+    }
+    /// False when it is there already.
+    bool Add(std::string_view text) {
+        if (Contains(text)) return false;
+        texts_.emplace_back(text);
+        return true;
+    }
+    void Clear() { texts_.clear(); }
+    auto begin() const { return texts_.begin(); }
+    auto end() const { return texts_.end(); }
+
+private:
+    std::vector<std::string> texts_;
 };
 
 /// What data of one system refer to by number, and what numbers they give.
 struct Numbers {
-    std::set<std::string> given, used;
+    FewTexts given, used;
+    void Clear() {
+        given.Clear();
+        used.Clear();
+    }
 };
 
-class StrangeReader : public XmlHandler {
-public:
-    explicit StrangeReader(const std::vector<XmlMark>& marks) : marks_(marks) {}
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const {
+        return std::hash<std::string_view>()(text);
+    }
+};
+using Texts = std::unordered_set<std::string, TextHash, std::equal_to<>>;
+/// Numbers of the samples of each compound.
+using Samples = std::unordered_map<std::string, Texts, TextHash, std::equal_to<>>;
 
-    void Open(std::string_view name, int line) override {
-        FollowMarks(line);
-        if (!open_.empty()) open_.back().hasContent = true;
-        open_.push_back({name});
-        text_.clear();
-        if (name == "PureOrMixtureData") BeginData();
-        if (name == "NumValues" && values_) inBlock_ = values_->Next();
+/// What their contents are is told by the elements in them, and they begin and end something.
+bool IsFrame(Kind kind) {
+    return kind == Kind::Data || kind == Kind::NumValues || kind == Kind::Sample ||
+           kind == Kind::Component || kind == Kind::PropertyValue || kind == Kind::VariableValue;
+}
+
+} // namespace
+
+class ClosingCheck::Stranger : public XmlHandler {
+public:
+    explicit Stranger(const std::vector<XmlMark>& marks) : reader_(*this), marks_(marks) {}
+
+    void Read(std::string_view part) {
+        Try([&] { reader_.Read(part); });
+    }
+    std::vector<ExportFinding> Finish() {
+        Try([&] { reader_.Finish(); });
+        return std::move(findings_);
     }
 
-    void Text(std::string_view text) override { text_ += text; }
+    void Open(std::string_view name, int line) override {
+        Begin(line);
+        open_.push_back({&names_.Of(name)});
+        text_.clear();
+        const Kind kind = open_.back().name->kind;
+        if (kind == Kind::Data) BeginData();
+        if (kind == Kind::NumValues && values_) inBlock_ = values_->Next();
+    }
+
+    void Text(std::string_view text) override {
+        if (!open_.back().hasContent) text_ += text;
+    }
 
     void Close() override {
         const OpenElement element = open_.back();
-        const std::string text(Trim(text_));
-        text_.clear();
         open_.pop_back();
-        if (!element.hasContent) {
-            if (text.empty())
-                Add("The element " + std::string(element.name) + " is empty");
-            else
-                Leaf(element.name, text);
-        }
-        if (element.name == "Sample" || element.name == "Component") CloseSample(element.name);
-        if (element.name == "PureOrMixtureData") EndData();
-        if (element.name == "VariableValue" || element.name == "PropertyValue") inValue_.clear();
+        if (!element.hasContent) Content(*element.name, text_);
+        const Kind kind = element.name->kind;
+        if (kind == Kind::Sample || kind == Kind::Component) CloseSample(kind);
+        if (kind == Kind::Data) EndData();
+        if (kind == Kind::VariableValue || kind == Kind::PropertyValue) inValue_.clear();
     }
 
-    std::vector<ExportFinding> Take() { return std::move(findings_); }
-    void Add(std::string text) { findings_.push_back({std::move(text), record_}); }
+    void Leaf(std::string_view name, int line, std::string_view text) override {
+        const ElementName& element = names_.Of(name);
+        if (IsFrame(element.kind)) return XmlHandler::Leaf(name, line, text);
+        Begin(line);
+        Content(element, text);
+    }
 
 private:
-    void FollowMarks(int line) {
+    /// Behind a place that makes no sense nothing is read.
+    template <class Reading>
+    void Try(Reading read) {
+        if (isBroken_) return;
+        try {
+            read();
+        } catch (const XmlError& error) {
+            isBroken_ = true;
+            Add(std::string("The file is not well formed: ") + error.what());
+        }
+    }
+    void Add(std::string text) { findings_.push_back({std::move(text), record_}); }
+
+    void Begin(int line) {
         while (mark_ < marks_.size() && marks_[mark_].line <= line)
             record_ = marks_[mark_++].record;
+        if (!open_.empty()) open_.back().hasContent = true;
     }
-    std::string_view Above() const { return open_.empty() ? "" : open_.back().name; }
-    std::string_view Above(std::size_t levels) const {
-        return open_.size() < levels ? "" : open_[open_.size() - levels].name;
+    Kind Above(std::size_t levels = 1) const {
+        return open_.size() < levels ? Kind::Other : open_[open_.size() - levels].name->kind;
     }
 
     void BeginData() {
-        properties_ = variables_ = {};
-        components_.clear();
+        properties_.Clear();
+        variables_.Clear();
+        components_.Clear();
         values_.emplace(record_);
     }
     void EndData() {
@@ -83,104 +153,137 @@ private:
     }
     void Missing(const Numbers& numbers, const std::string& element) {
         for (const std::string& number : numbers.used)
-            if (!numbers.given.contains(number))
+            if (!numbers.given.Contains(number))
                 Add(element + " " + number + " stands for nothing");
     }
 
-    void Leaf(std::string_view name, const std::string& text) {
-        const bool isNumber = name.size() > 1 && name[0] == 'n' && name[1] >= 'A' && name[1] <= 'Z';
-        const std::string before = std::exchange(number_, isNumber && IsNumeric(text) ? text : "");
-        if (isNumber && !IsNumeric(text))
-            return Add("The number " + std::string(name) + " reads \"" + text + "\"");
-        if (name == "nOrgNum")
-            Compound(text);
-        else if (name == "nPureOrMixtureDataNumber" && !data_.insert(text).second)
-            Add(std::string(name) + " " + text + " stands twice");
-        else if (name == "nSampleNm")
-            sample_ = text;
-        else if (name == "nPropNumber" || name == "nVarNumber")
-            Quantity(name, text);
-        else if (name == "nPropValue" || name == "nVarValue")
-            Value(name, text);
+    /// An element without others in it.
+    void Content(const ElementName& element, std::string_view text) {
+        text = Trim(text);
+        if (text.empty()) return Add("The element " + element.text + " is empty");
+        std::optional<double> value;
+        if (element.isNumber) value = NumberIn(text);
+        if (element.isNumber && !value)
+            Add("The number " + element.text + " reads \"" + std::string(text) + "\"");
         else
-            Definition(name, text);
-        if (name.ends_with("Digits")) Digits(name, text, before);
+            Understand(element, text, value.value_or(0));
+        number_ = value ? text : std::string_view();
+        valueOfNumber_ = value.value_or(0);
     }
-
-    void Compound(const std::string& number) {
-        compound_ = number;
-        if (Above() == "RegNum" && Above(2) == "Compound") {
-            if (!samples_.emplace(number, std::set<std::string>()).second)
-                Add("nOrgNum " + number + " stands for two compounds");
-        } else if (!samples_.contains(number)) {
-            Add("nOrgNum " + number + " stands for no compound");
-        } else if (Above(2) == "Component") {
-            components_.insert(number);
-        } else if (values_ && !components_.contains(number)) {
-            Add("nOrgNum " + number + " stands for no component of these data");
+    void Understand(const ElementName& element, std::string_view text, double value) {
+        switch (element.kind) {
+        case Kind::OrgNum:
+            return Compound(text);
+        case Kind::DataNumber:
+            if (!IsNewData(text, value)) Add(Said(element, text) + " stands twice");
+            return;
+        case Kind::SampleNumber:
+            sample_ = text;
+            return;
+        case Kind::PropNumber:
+            return Quantity(element, text, properties_);
+        case Kind::VarNumber:
+            variable_ = static_cast<int>(ToInteger(value));
+            return Quantity(element, text, variables_);
+        case Kind::PropValue:
+        case Kind::VarValue:
+            return Value(element, text, value);
+        default:
+            if (values_) Definition(element, text, value);
+            if (element.isDigits) Digits(element, text, value);
         }
     }
-    void CloseSample(std::string_view element) {
+    static std::string Said(const ElementName& element, std::string_view text) {
+        return element.text + " " + std::string(text);
+    }
+
+    /// Data are counted on from 1; what is not in order is remembered by itself.
+    bool IsNewData(std::string_view text, double value) {
+        if (value <= counted_) return false;
+        if (value > counted_ + 1 || !strays_.empty()) return strays_.emplace(text).second;
+        ++counted_;
+        return true;
+    }
+    void Compound(std::string_view number) {
+        compound_ = number;
+        if (Above() == Kind::RegNum && Above(2) == Kind::Compound) {
+            if (!samples_.try_emplace(compound_).second)
+                Add("nOrgNum " + compound_ + " stands for two compounds");
+        } else if (!samples_.contains(number)) {
+            Add("nOrgNum " + compound_ + " stands for no compound");
+        } else if (Above(2) == Kind::Component) {
+            components_.Add(number);
+        } else if (values_ && !components_.Contains(number)) {
+            Add("nOrgNum " + compound_ + " stands for no component of these data");
+        }
+    }
+    void CloseSample(Kind element) {
         const auto found = samples_.find(compound_);
         if (found == samples_.end() || sample_.empty()) return;
-        if (element == "Sample" && !found->second.insert(sample_).second)
+        if (element == Kind::Sample && !found->second.insert(sample_).second)
             Add("nSampleNm " + sample_ + " stands for two samples");
-        if (element == "Component" && !found->second.contains(sample_))
+        if (element == Kind::Component && !found->second.contains(sample_))
             Add("nSampleNm " + sample_ + " stands for no sample");
         sample_.clear();
     }
-    void Quantity(std::string_view name, const std::string& number) {
-        Numbers& numbers = name == "nPropNumber" ? properties_ : variables_;
-        if (name == "nVarNumber") variable_ = static_cast<int>(ToInteger(Val(number)));
-        if (Above() == "PropertyValue" || Above() == "VariableValue") {
-            numbers.used.insert(number);
+    void Quantity(const ElementName& element, std::string_view number, Numbers& numbers) {
+        if (Above() == Kind::PropertyValue || Above() == Kind::VariableValue) {
+            numbers.used.Add(number);
             inValue_ = number;
-        } else if (!numbers.given.insert(number).second) {
-            Add(std::string(name) + " " + number + " stands twice");
+        } else if (!numbers.given.Add(number)) {
+            Add(Said(element, number) + " stands twice");
         }
     }
-    void Value(std::string_view name, const std::string& text) {
+    void Value(const ElementName& element, std::string_view text, double value) {
         if (!values_ || !inBlock_ || inValue_.empty()) return;
-        const int n = name == "nPropValue" ? 0 : static_cast<int>(ToInteger(Val(inValue_)));
-        Compare(name, text, values_->Of(n));
+        const int n =
+            element.kind == Kind::PropValue ? 0 : static_cast<int>(ToInteger(Val(inValue_)));
+        Compare(element, text, value, values_->Of(n));
     }
     /// What the heads say of the numbers below.
-    void Definition(std::string_view name, const std::string& text) {
-        if (!values_) return;
-        if (name == "ePropName") Unit(text, 0);
-        if (Above() == "VariableType") Unit(text, variable_);
-        if (name == "nConstraintValue") Compare(name, text, values_->NextConstant());
+    void Definition(const ElementName& element, std::string_view text, double value) {
+        if (element.kind == Kind::PropName) Unit(text, 0);
+        if (Above() == Kind::VariableType) Unit(text, variable_);
+        if (element.kind == Kind::ConstraintValue)
+            Compare(element, text, value, values_->NextConstant());
     }
     /// Behind the last comma of the name; without one it is a pure number.
-    void Unit(const std::string& text, int n) {
+    void Unit(std::string_view text, int n) {
         constexpr std::string_view mark = ", ";
         const std::size_t at = text.rfind(mark);
         const std::string unit = values_->UnitOf(n);
         if (!unit.empty() && unit != (at == text.npos ? "1" : text.substr(at + mark.size())))
-            Add("\"" + text + "\" does not name the unit of the numbers, " + unit);
+            Add("\"" + std::string(text) + "\" does not name the unit of the numbers, " + unit);
     }
-    void Compare(std::string_view name, const std::string& text,
+    void Compare(const ElementName& element, std::string_view text, double value,
                  const std::optional<ExpectedValue>& expected) {
-        if (expected && std::abs(Val(text) - expected->value) > expected->tolerance)
-            Add(std::string(name) + " reads " + text + " where the record says " +
+        if (expected && std::abs(value - expected->value) > expected->tolerance)
+            Add(element.text + " reads " + std::string(text) + " where the record says " +
                 NumberText(expected->value));
     }
     /// The count stands behind its number. A zero has decimals, but no digit that counts.
-    void Digits(std::string_view name, const std::string& text, const std::string& number) {
-        if (number.empty() || Val(number) == 0) return;
-        if (ToInteger(Val(text)) <= SignificantDigits(number)) return;
-        Add(std::string(name) + " " + text + " is more than the digits of " + number);
+    void Digits(const ElementName& element, std::string_view text, double count) {
+        if (number_.empty() || valueOfNumber_ == 0) return;
+        if (ToInteger(count) <= SignificantDigits(number_)) return;
+        Add(Said(element, text) + " is more than the digits of " + number_);
     }
 
+    XmlReader reader_;
     const std::vector<XmlMark>& marks_;
     std::size_t mark_ = 0;
     const Record* record_ = nullptr;
     std::vector<ExportFinding> findings_;
+    bool isBroken_ = false;
+    ElementNames names_;
     std::vector<OpenElement> open_;
-    std::string text_, number_; // character data in hand; the last number
-    std::map<std::string, std::set<std::string>> samples_; // numbers of each compound's samples
-    std::set<std::string> data_, components_; // numbers of all data; compounds of those in hand
-    std::string compound_, sample_;           // the numbers read last
+    std::string text_;         // character data in hand
+    std::string number_;       // the last element, if it was a number
+    double valueOfNumber_ = 0; // its value
+    Samples samples_;
+    double counted_ = 0;            // up to here data have their numbers
+    Texts strays_;                  // numbers of data above that
+    FewTexts components_;           // compounds of those in hand
+    std::string compound_, sample_; // the numbers read last
     Numbers properties_, variables_;
     std::optional<ExpectedValues> values_;
     bool inBlock_ = false;
@@ -188,16 +291,23 @@ private:
     int variable_ = 0;    // the number read last
 };
 
-} // namespace
+ClosingCheck::ClosingCheck(const std::vector<XmlMark>& marks)
+    : stranger_(std::make_unique<Stranger>(marks)) {}
+
+ClosingCheck::~ClosingCheck() = default;
+
+void ClosingCheck::Read(std::string_view part) {
+    stranger_->Read(part);
+}
+
+std::vector<ExportFinding> ClosingCheck::Finish() {
+    return stranger_->Finish();
+}
 
 std::vector<ExportFinding> CheckExport(std::string_view xml, const std::vector<XmlMark>& marks) {
-    StrangeReader reader(marks);
-    try {
-        ReadXml(xml, reader);
-    } catch (const XmlError& error) {
-        reader.Add(std::string("The file is not well formed: ") + error.what());
-    }
-    return reader.Take();
+    ClosingCheck check(marks);
+    check.Read(xml);
+    return check.Finish();
 }
 
 } // namespace vexora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +20,25 @@ struct ExportFinding {
 /// Reads a written file as a stranger would, who has nothing else: is it well formed, does every
 /// number that is referred to stand for something, and for one thing only, do numbers parse and
 /// stand for the value of the record in the system unit, does no count of digits exceed the digits
-/// of its text, is no element empty. marks say which record an element came from, by lines.
-/// The records must stand as they were when the file was written.
+/// of its text, is no element empty.
+/// The file may come in parts while it is written, cut between lines; each record must stand until
+/// the file has gone past it as it stood when it was written.
+class ClosingCheck {
+public:
+    /// marks say which record an element came from, by lines; they stand before the lines come.
+    explicit ClosingCheck(const std::vector<XmlMark>& marks);
+    ~ClosingCheck();
+
+    void Read(std::string_view part);
+    /// What was found, to be asked at the end of the file.
+    std::vector<ExportFinding> Finish();
+
+private:
+    class Stranger;
+    std::unique_ptr<Stranger> stranger_;
+};
+
+/// The same of a whole file.
 std::vector<ExportFinding> CheckExport(std::string_view xml, const std::vector<XmlMark>& marks);
 
 } // namespace vexora

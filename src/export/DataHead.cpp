@@ -52,14 +52,6 @@ void ExportCompound(XmlWriter& xml, const DataSubject& subject, int n) {
 
 } // namespace
 
-std::string DataSubject::PropertyGroup() const {
-    return XMLPropertyGroup(propertyCode, context, propertyContext);
-}
-
-std::string DataSubject::PropertyName() const {
-    return XMLPropertyName(propertyCode, context, propertyContext);
-}
-
 bool DataSubject::HasPlace() const {
     return IsXmlName(PropertyGroup()) && !PropertyName().empty();
 }

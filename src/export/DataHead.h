@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "reference/Vocabulary.h"
+
 namespace vexora {
 
 class clsA;
@@ -31,9 +33,12 @@ struct DataSubject {
     std::string propertyContext; // kind of equilibrium, by which names of a property differ
     std::vector<SystemComponent> components;
     std::string_view solvent; // code of the components that it consists of
+    /// Names of the property in the schema, as the tables have them; empty where they have none.
+    std::string group = XMLPropertyGroup(propertyCode, context, propertyContext);
+    std::string name = XMLPropertyName(propertyCode, context, propertyContext);
 
-    std::string PropertyGroup() const;
-    std::string PropertyName() const;
+    const std::string& PropertyGroup() const { return group; }
+    const std::string& PropertyName() const { return name; }
     /// Both names are there, and the first may stand as that of an element.
     bool HasPlace() const;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <memory>
 #include <vector>
 
 #include "export/RegNum.h"
@@ -108,7 +109,27 @@ std::string IsoDate(std::string_view recordDate) {
 }
 
 ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers) {
-    XmlWriter xml(readers == ExportFor::StrictReaders);
+    ExportedDocument exported;
+    std::string& text = exported.xml;
+    exported.findings = ExportDocument(today, readers, [&](std::string_view part) {
+        // Room that is not written to costs nothing, but a copy does.
+        constexpr std::size_t growth = 4;
+        if (text.capacity() < text.size() + part.size())
+            text.reserve(growth * (text.size() + part.size()));
+        text += part;
+    });
+    return exported;
+}
+
+std::vector<ExportFinding> ExportDocument(const ui::Date& today, ExportFor readers,
+                                          const std::function<void(std::string_view)>& taker) {
+    std::unique_ptr<ClosingCheck> check;
+    // What was just written is still at hand, the file as well as its records.
+    XmlWriter xml(readers == ExportFor::StrictReaders, [&](std::string_view part) {
+        check->Read(part);
+        taker(part);
+    });
+    check = std::make_unique<ClosingCheck>(xml.Marks());
     xml.Declaration();
     xml.Comment("Created by Vexora " VEXORA_VERSION);
     xml.Open("DataReport", AttributesOfRoot(xml.IsStrict()));
@@ -119,10 +140,11 @@ ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers) {
     for (const auto& source : Globals().recR)
         source->ExportAll(xml, today);
     xml.Close();
+    xml.Finish();
     TellWhatIsUnusual();
-    ExportedDocument exported{xml.Text(), CheckExport(xml.Text(), xml.Marks())};
-    if (xml.IsStrict()) NameCompoundsPassedOver(exported.findings);
-    return exported;
+    std::vector<ExportFinding> findings = check->Finish();
+    if (xml.IsStrict()) NameCompoundsPassedOver(findings);
+    return findings;
 }
 
 } // namespace vexora

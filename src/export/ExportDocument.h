@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "export/ClosingCheck.h"
@@ -22,6 +24,10 @@ enum class ExportFor { House, StrictReaders };
 /// tells which data it had to leave out. today is the day that the citation bears.
 /// Nothing is written to disk here. Text beyond ASCII leaves as character references.
 ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers = ExportFor::House);
+/// The same in parts of whole lines, for a file that need not stand in memory; what the closing
+/// check found.
+std::vector<ExportFinding> ExportDocument(const ui::Date& today, ExportFor readers,
+                                          const std::function<void(std::string_view)>& taker);
 
 /// yyyy-mm-dd.
 /// ISO 8601, the date type of XML schemas.

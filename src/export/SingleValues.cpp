@@ -19,12 +19,12 @@ std::string ValueFault(const DataSubject& subject, const SingleValue& value) {
 }
 
 void ExportDirectProperty(XmlWriter& xml, const DataSubject& subject, const SingleValue& value,
-                          std::string_view phase) {
+                          const clsX& item, std::string_view phase) {
     xml.Open("Property");
     ExportPropertyHead(xml, subject, phase, value.Header);
     xml.Element("ePresentation", "Direct value, X");
     ExportSolvent(xml, subject, value.PRPCODE);
-    value.Statements(0).ExportX(xml, "Prop");
+    item.ExportX(xml, "Prop");
     xml.Close();
 }
 
@@ -37,10 +37,9 @@ bool ExportQuantity(XmlWriter& xml, const std::string& role, const std::string& 
     return ExportStatements(xml, item, role, typed, unit);
 }
 
-bool ExportPropertyValue(XmlWriter& xml, const SingleValue& value) {
+bool ExportPropertyValue(XmlWriter& xml, const SingleValue& value, const clsX& item) {
     xml.Open("PropertyValue");
-    const bool isWhole =
-        ExportQuantity(xml, "Prop", value.PRPVALUE, value.Statements(0), PropertyUnitOf(value));
+    const bool isWhole = ExportQuantity(xml, "Prop", value.PRPVALUE, item, PropertyUnitOf(value));
     xml.Close();
     return isWhole;
 }

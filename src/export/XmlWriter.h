@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,15 +16,22 @@ struct XmlMark {
     const Record* record = nullptr;
 };
 
-/// Writes XML in memory: one element or tag a line, indented by tabs. Texts are escaped here and
-/// nowhere else: "&", "<", ">" (and quotes in attributes) as entities, control characters dropped,
-/// all that is not plain ASCII as a character reference, so that every file is well formed, pure
-/// ASCII, and loses nothing.
+/// Writes XML: one element or tag a line, indented by tabs. Texts are escaped here and nowhere
+/// else:
+/// "&", "<", ">" (and quotes in attributes) as entities, control characters dropped, all that is
+/// not plain ASCII as a character reference, so that every file is well formed, pure ASCII, and
+/// loses nothing.
 /// Made for one document and thrown away. It knows no schema: what stands where is the callers'.
 class XmlWriter {
 public:
+    /// Takes what is written, in parts of whole lines.
+    using Taker = std::function<void(std::string_view)>;
+
     /// For strict readers some texts and elements are others; the writer only tells who asks.
-    explicit XmlWriter(bool isStrict = false) : isStrict_(isStrict) {}
+    /// Without a taker the text gathers in the writer.
+    explicit XmlWriter(bool isStrict = false, Taker taker = {});
+    XmlWriter(const XmlWriter&) = delete;
+    XmlWriter& operator=(const XmlWriter&) = delete;
     bool IsStrict() const { return isStrict_; }
 
     /// The declaration; the first line of a file.
@@ -47,15 +56,25 @@ public:
     void Mark(const Record* record) { marks_.push_back({lines_ + 1, record}); }
     const std::vector<XmlMark>& Marks() const { return marks_; }
 
-    /// Whole once every element is closed.
-    const std::string& Text() const { return text_; }
+    /// Hands over what is left, at the end of the document.
+    void Finish();
+    /// What was written to a writer without a taker; whole once every element is closed.
+    const std::string& Text();
 
 private:
-    void Indent();
+    /// Begins a line of at most so many bytes behind the tabs.
+    void BeginLine(std::size_t most);
+    void Put(char c) { part_[used_++] = c; }
+    void Put(std::string_view text) { used_ += text.copy(part_.data() + used_, text.size()); }
+    void PutText(std::string_view text, bool ofAttribute = false);
 
     bool isStrict_;
-    std::string text_;
-    std::vector<std::string> open_;
+    Taker taker_;
+    std::string text_; // without a taker
+    std::string part_; // in hand, with room behind what is used of it
+    std::size_t used_ = 0;
+    std::string names_;              // of the open elements, one behind the other
+    std::vector<std::size_t> begin_; // where each of them begins
     int lines_ = 0, number_ = 0;
     std::vector<XmlMark> marks_;
 };

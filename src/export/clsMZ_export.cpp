@@ -68,14 +68,15 @@ void clsMZ::ExportMZ(XmlWriter& xml) const {
     const std::string fault = FaultOf(*this, subject);
     if (!fault.empty()) return TellDataError(subject, fault);
     OpenData(xml, subject, Header);
-    ExportDirectProperty(xml, subject, *this, PhaseOfProperty(subject, *this));
+    const clsX item = Statements(0);
+    ExportDirectProperty(xml, subject, *this, item, PhaseOfProperty(subject, *this));
     ExportPhases(xml, subject, PhasesOfMixture(subject, Phases()));
     // A state that is told goes before the assumption.
     const std::vector<ExportedConstant> constants = ConstantsOf(*this);
     ExportConstants(xml, subject, constants);
     if (constants.empty() && IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml, subject);
     xml.Open("NumValues");
-    const bool isWhole = ExportPropertyValue(xml, *this);
+    const bool isWhole = ExportPropertyValue(xml, *this, item);
     xml.Close();
     if (!isWhole) TellDataError(subject, NoRepeatability);
     xml.Close();

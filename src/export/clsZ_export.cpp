@@ -40,7 +40,7 @@ std::string FaultOf(const DataSubject& subject, const clsZ& value) {
     return fault.empty() && value.nVar == 1 ? VariableFault(value) : fault;
 }
 
-void ExportValues(XmlWriter& xml, const DataSubject& subject, const clsZ& value) {
+void ExportValues(XmlWriter& xml, const DataSubject& subject, const clsZ& value, const clsX& item) {
     bool isWhole = true;
     xml.Open("NumValues");
     if (value.nVar == 1) {
@@ -50,7 +50,7 @@ void ExportValues(XmlWriter& xml, const DataSubject& subject, const clsZ& value)
         xml.Close();
     }
     // Both are written before the fault is told.
-    isWhole &= ExportPropertyValue(xml, value);
+    isWhole &= ExportPropertyValue(xml, value, item);
     xml.Close();
     if (!isWhole) TellDataError(subject, NoRepeatability);
 }
@@ -63,11 +63,12 @@ void clsZ::ExportZ(XmlWriter& xml) const {
     const std::string fault = FaultOf(subject, *this);
     if (!fault.empty()) return TellDataError(subject, fault);
     OpenData(xml, subject, Header);
-    ExportDirectProperty(xml, subject, *this, PHASE1);
+    const clsX item = Statements(0);
+    ExportDirectProperty(xml, subject, *this, item, PHASE1);
     ExportPhases(xml, subject, PhasesOfPure(PRPCODE, Header, {PHASE1, PhaseBeside(), PHASE3}));
     if (IsUnderOneAtmosphere(*this)) ExportAtmosphere(xml, subject);
     if (nVar == 1) ExportVariable(xml, subject, 1, Variable(), PHASE1, Statements(1));
-    ExportValues(xml, subject, *this);
+    ExportValues(xml, subject, *this, item);
     xml.Close();
 }
 

@@ -38,8 +38,19 @@ protected:
         const std::size_t at = xml.find(from, xml.find(behind));
         if (at == std::string::npos) return "no such text";
         xml.replace(at, from.size(), to);
+        // In one piece and line by line.
+        const std::string told = Told(CheckExport(xml, marks_));
+        ClosingCheck check(marks_);
+        for (std::size_t from = 0, end = 0; from < xml.size(); from = end) {
+            end = std::min(xml.find('\n', from), xml.size() - 1) + 1;
+            check.Read(std::string(xml, from, end - from)); // the part is gone behind it
+        }
+        EXPECT_EQ(Told(check.Finish()), told);
+        return told;
+    }
+    static std::string Told(const std::vector<ExportFinding>& findings) {
         std::string told;
-        for (const ExportFinding& finding : CheckExport(xml, marks_))
+        for (const ExportFinding& finding : findings)
             told += (told.empty() ? "" : "|") +
                     (finding.record ? finding.record->ShowKey().substr(0, 3) + " " : "") +
                     finding.text;
