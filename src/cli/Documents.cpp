@@ -39,6 +39,7 @@ struct Product {
     std::string name; // what it is: "tree", "xml"
     std::string text;
     std::string file; // empty for standard output
+    Printing print;   // of a text that need not stand in memory; its findings come with it
     ExportFor readers = ExportFor::House;
 };
 
@@ -75,15 +76,16 @@ int Export(OpenedDocument& document, Product& product) {
     }
     if (const auto text = NotKeptText(document.LinesPassedOver()); !text.empty())
         document.Tell(0, Severity::Warning, text);
-    ExportedDocument exported = DocumentForExport(ui::TheDesktop().Today(), product.readers);
-    for (const ExportFinding& finding : exported.findings) {
-        const Record* record = finding.record;
-        document.Tell(record ? record->Line : 0,
-                      finding.isError ? Severity::Error : Severity::Warning,
-                      (record ? record->ShowKey() + ": " : "") + finding.text);
-    }
-    product.text = std::move(exported.xml);
-    return document.Findings().empty() ? kExitClean : kExitFindings;
+    product.print = [&document, readers = product.readers](const auto& taker) {
+        const ui::Date today = ui::TheDesktop().Today();
+        for (const ExportFinding& finding : DocumentForExport(today, readers, taker)) {
+            const Record* record = finding.record;
+            document.Tell(record ? record->Line : 0,
+                          finding.isError ? Severity::Error : Severity::Warning,
+                          (record ? record->ShowKey() + ": " : "") + finding.text);
+        }
+    };
+    return kExitClean;
 }
 
 /// An object a document: where it stands, how it went, what there is to say, what came of it.
@@ -125,14 +127,14 @@ public:
 
 private:
     int One(const ListedDocument& listed, const std::string& file) {
-        Product product{
-            {}, {}, file, arguments_.isStrict ? ExportFor::StrictReaders : ExportFor::House};
+        Product product;
+        product.file = file;
+        if (arguments_.isStrict) product.readers = ExportFor::StrictReaders;
         int exitCode = listed.isEmptyFolder
                            ? document_.Refuse(listed.path, "the folder holds no record file")
                            : document_.Read(listed.path);
         if (exitCode == kExitClean) exitCode = command_(document_, product);
-        if (exitCode != kExitCannotWrite && !product.file.empty() && !product.text.empty())
-            exitCode = Write(product, exitCode);
+        if (product.print) exitCode = Print(product);
         if (arguments_.format != "text")
             PrintJson(document_, exitCode, product);
         else if (product.file.empty())
@@ -140,17 +142,27 @@ private:
         if (arguments_.format == "jsonl") std::cout << '\n';
         return exitCode;
     }
-    int Write(const Product& product, int exitCode) {
+    int Print(Product& product) {
+        if (!product.file.empty()) return Write(product);
+        if (arguments_.format == "text")
+            product.print([](std::string_view part) { std::cout << part; });
+        else
+            product.print([&](std::string_view part) { product.text += part; });
+        return ExitCodeOfExport();
+    }
+    int Write(const Product& product) {
         std::error_code made; // a folder that cannot be made shows when the file is written
         const auto folder = std::filesystem::path(product.file).parent_path();
         if (!arguments_.out.empty()) std::filesystem::create_directories(folder, made);
         const SaveOutcome outcome =
-            WriteSafely(document_.Files(), product.file, product.text, false);
+            WriteSafely(document_.Files(), product.file, product.print, false);
+        const int exitCode = ExitCodeOfExport();
         if (outcome.fault.empty()) return exitCode;
         document_.Tell(0, outcome.isSaved ? Severity::Warning : Severity::Error,
                        product.file + (outcome.isSaved ? ": saved, but " : ": ") + outcome.fault);
         return outcome.isSaved ? std::max<int>(exitCode, kExitFindings) : kExitCannotWrite;
     }
+    int ExitCodeOfExport() { return document_.Findings().empty() ? kExitClean : kExitFindings; }
 
     const Arguments& arguments_;
     Command* command_;

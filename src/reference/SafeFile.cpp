@@ -32,9 +32,14 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
 }
 
-std::string Fill(ui::OutputFile& file, std::string_view content) {
+/// Of which the size is told as well.
+std::string Fill(ui::OutputFile& file, const Printing& print, long long& size) {
     // A full disk may be told at any of the three; the first reason is the one to show.
-    std::string error = file.Write(content);
+    std::string error;
+    print([&](std::string_view part) {
+        size += static_cast<long long>(part.size());
+        if (error.empty()) error = file.Write(part);
+    });
     if (error.empty()) error = file.Flush();
     const std::string closing = file.Close();
     return error.empty() ? closing : error;
@@ -56,7 +61,7 @@ bool Holds(ui::FileSystem& files, const std::string& path, std::string_view cont
 /// for that is given. Both happen or neither. A renaming over a network may report a fault and have
 /// happened all the same, so it is looked at what stands.
 SaveOutcome Exchange(ui::FileSystem& files, const TemporaryFile& finished,
-                     const std::string& target, std::string_view content,
+                     const std::string& target, const std::function<bool()>& stands,
                      const std::string& backup) {
     // Under a temporary name first: the old backup is gone only when there is a new one.
     TemporaryFile present(files, backup.empty() ? std::string()
@@ -65,8 +70,7 @@ SaveOutcome Exchange(ui::FileSystem& files, const TemporaryFile& finished,
     if (!backup.empty()) error = SecondName(files, target, present.Path());
     if (!error.empty()) return {false, error};
     error = files.Rename(finished.Path(), target);
-    if (!error.empty() && (files.Exists(finished.Path()) || !Holds(files, target, content)))
-        return {false, error};
+    if (!error.empty() && (files.Exists(finished.Path()) || !stands())) return {false, error};
     if (backup.empty()) return {true, {}};
     error = files.Rename(present.Path(), backup);
     if (error.empty() || !files.Exists(present.Path())) return {true, {}};
@@ -92,17 +96,10 @@ void RemoveLeftovers(ui::FileSystem& files, const std::string& target) {
         files.Remove(path);
 }
 
-} // namespace
-
-std::string SaveOutcome::Told(const std::string& file) const {
-    if (fault.empty()) return {};
-    return file +
-           (isSaved ? " is saved, but the disk reports a fault.\n" : " cannot be written.\n") +
-           fault;
-}
-
-SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, std::string_view content,
-                        bool keepBackup) {
+/// stands tells whether the target holds the content of this size.
+SaveOutcome Save(ui::FileSystem& files, const std::string& path, const Printing& print,
+                 const std::function<bool(const std::string& target, long long size)>& stands,
+                 bool keepBackup) {
     const std::string target = files.Resolve(path);
     // Before anything is written: a rename would replace a write-protected file without asking.
     if (const std::string reason = files.WhyNotWritable(target); !reason.empty())
@@ -114,17 +111,44 @@ SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, std::str
     const std::unique_ptr<ui::OutputFile> file = files.CreateBeside(target, temporaryPath, error);
     if (!file) return {false, error.empty() ? "The file cannot be made: " + target : error};
     const TemporaryFile temporary(files, temporaryPath);
-    error = Fill(*file, content);
+    long long size = 0;
+    error = Fill(*file, print, size);
     // On a full disk writing has been seen to report success for a file cut short.
-    if (error.empty() && files.Size(temporaryPath) != static_cast<long long>(content.size()))
+    if (error.empty() && files.Size(temporaryPath) != size)
         error = "The file was not written whole: " + target;
     if (!error.empty()) return {false, error};
     const std::string backup = keepBackup && files.Exists(target) ? path + BackupEnding : "";
-    SaveOutcome outcome = Exchange(files, temporary, target, content, backup);
+    SaveOutcome outcome = Exchange(
+        files, temporary, target, [&] { return stands(target, size); }, backup);
     if (!outcome.isSaved) return outcome;
     error = FlushFolders(files, target, backup);
     if (outcome.fault.empty()) outcome.fault = error;
     return outcome;
+}
+
+} // namespace
+
+std::string SaveOutcome::Told(const std::string& file) const {
+    if (fault.empty()) return {};
+    return file +
+           (isSaved ? " is saved, but the disk reports a fault.\n" : " cannot be written.\n") +
+           fault;
+}
+
+SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, std::string_view content,
+                        bool keepBackup) {
+    return Save(
+        files, path, [content](const auto& taker) { taker(content); },
+        [&](const std::string& target, long long) { return Holds(files, target, content); },
+        keepBackup);
+}
+
+SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, const Printing& print,
+                        bool keepBackup) {
+    return Save(
+        files, path, print,
+        [&](const std::string& target, long long size) { return files.Size(target) == size; },
+        keepBackup);
 }
 
 } // namespace vexora

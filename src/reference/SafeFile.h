@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,13 @@ struct SaveOutcome {
 /// killed program has left of this file are removed.
 /// path may be a symbolic link, whose target is replaced; content is written byte by byte as it is.
 SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, std::string_view content,
+                        bool keepBackup);
+
+/// Hands its parts to the taker, one behind the other.
+using Printing = std::function<void(const std::function<void(std::string_view)>& taker)>;
+/// The same of a content that is printed while it is written, so that it never stands in memory as
+/// a whole. What the printing throws is passed on, and nothing is saved.
+SaveOutcome WriteSafely(ui::FileSystem& files, const std::string& path, const Printing& print,
                         bool keepBackup);
 
 } // namespace vexora

@@ -98,6 +98,12 @@ ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers) {
     return ExportDocument(today, readers);
 }
 
+std::vector<ExportFinding> DocumentForExport(const ui::Date& today, ExportFor readers,
+                                             const std::function<void(std::string_view)>& taker) {
+    AskSourcesOfDocument();
+    return ExportDocument(today, readers, taker);
+}
+
 std::string DocumentAsXml(const ui::Date& today, ExportFor readers) {
     ExportedDocument exported = DocumentForExport(today, readers);
     if (!exported.findings.empty()) ui::Say(TextOf(exported.findings), "Please review the export");

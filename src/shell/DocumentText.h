@@ -2,8 +2,10 @@
 // export show no boxes of their own while a document is read or printed.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "export/ExportDocument.h"
 #include "records/RecordReader.h"
@@ -25,6 +27,9 @@ std::string DocumentAsRecords();
 
 /// The document as ThermoML with what its closing check found, after the same question.
 ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers = ExportFor::House);
+/// The same in parts (see ExportDocument); what the closing check found.
+std::vector<ExportFinding> DocumentForExport(const ui::Date& today, ExportFor readers,
+                                             const std::function<void(std::string_view)>& taker);
 /// The document as ThermoML, after the same question. What its closing check finds is told at once,
 /// all in one message, each with its node.
 std::string DocumentAsXml(const ui::Date& today, ExportFor readers = ExportFor::House);

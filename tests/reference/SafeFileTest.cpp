@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,32 @@ TEST_F(SafeFile, AFailureAtAnyStepLeavesEverythingAsItWas) {
     noLinks.FailAt("Copy");
     EXPECT_NE(Save(noLinks, path, "a new version", true), "");
     EXPECT_EQ(State(), before);
+}
+
+TEST_F(SafeFile, WhatIsPrintedInPartsIsSavedWholeOrNotAtAll) {
+    folder.Write("doc.txt", "old");
+    const auto save = [this](ui::FileSystem& disk, bool breaksOff) {
+        const Printing print = [breaksOff](const auto& taker) {
+            for (const char* part : {"in ", "three ", "parts"})
+                taker(part);
+            if (breaksOff) throw std::runtime_error("no database");
+        };
+        return WriteSafely(disk, path, print, true).Told("It");
+    };
+    const std::pair<const char*, int> steps[] = {
+        {"Write", 1}, {"Write", 3}, {"Close", 1}, {"Size", 1}, {"Rename", 1}};
+    for (const auto& [operation, call] : steps) {
+        test::FailingFileSystem failing;
+        failing.FailAt(operation, call);
+        EXPECT_NE(save(failing, false), "") << operation;
+        EXPECT_EQ(State(), "doc.txt=old;") << operation << " " << call;
+    }
+    EXPECT_THROW(save(files, true), std::runtime_error);
+    EXPECT_EQ(State(), "doc.txt=old;");
+    files.FailAt("Rename");
+    files.FailsAfterwards = true;
+    EXPECT_EQ(save(files, false), "");
+    EXPECT_EQ(State(), "doc.txt=in three parts;doc.txt.bak=old;");
 }
 
 TEST_F(SafeFile, WithoutLinksTheBackupIsACopy) {
