@@ -41,9 +41,9 @@ protected:
         // In one piece and line by line.
         const std::string told = Told(CheckExport(xml, marks_));
         ClosingCheck check(marks_);
-        for (std::size_t from = 0, end = 0; from < xml.size(); from = end) {
-            end = std::min(xml.find('\n', from), xml.size() - 1) + 1;
-            check.Read(std::string(xml, from, end - from)); // the part is gone behind it
+        for (std::size_t begin = 0, end = 0; begin < xml.size(); begin = end) {
+            end = std::min(xml.find('\n', begin), xml.size() - 1) + 1;
+            check.Read(std::string(xml, begin, end - begin)); // the part is gone behind it
         }
         EXPECT_EQ(Told(check.Finish()), told);
         return told;
