@@ -268,11 +268,12 @@ int DecimalPlaces(std::string_view text) {
 
 int SignificantDigits(std::string_view text) {
     text = TrimBlanks(text);
-    const std::size_t e = std::min(text.find('e'), text.find('E'));
-    const std::size_t small = text.find('e');
-    text = text.substr(0, small != std::string_view::npos ? small : e);
+    std::size_t e = std::min(text.find('e'), text.size());
+    if (e == text.size()) e = std::min(text.find('E'), e);
+    text = text.substr(0, e);
     // Signs, point and leading zeros tell the size of a number, not its precision.
-    text.remove_prefix(std::min(text.find_first_not_of("-.0"), text.size()));
+    while (!text.empty() && (text[0] == '-' || text[0] == '.' || text[0] == '0'))
+        text.remove_prefix(1);
     const std::size_t length = CodePointCount(text);
     return static_cast<int>(text.find('.') == std::string_view::npos ? length : length - 1);
 }

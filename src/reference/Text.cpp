@@ -117,7 +117,10 @@ std::vector<std::string> Split(std::string_view text, char separator) {
 std::size_t CodePointCount(std::string_view text) {
     std::size_t count = 0;
     for (std::size_t offset = 0; offset < text.size(); ++count)
-        NextCodePoint(text, offset);
+        if (static_cast<unsigned char>(text[offset]) < 0x80)
+            ++offset;
+        else
+            NextCodePoint(text, offset);
     return count;
 }
 
