@@ -18,12 +18,6 @@ std::string SystemUnitOf(const ProcessColumn& head) {
 
 } // namespace
 
-bool Equal(double a, double b) {
-    constexpr double tolerance = 1e-9;
-    if (a == 0 || b == 0) return a == b;
-    return std::abs((a - b) / a) < tolerance;
-}
-
 UnitConversion ColumnConversion(const ProcessColumn& column, std::string_view systemUnit) {
     UnitConversion conversion{column.unit, 0, 0, std::string(systemUnit)};
     if (column.unit == ProcessColumn::ByFactor)

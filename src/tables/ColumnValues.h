@@ -6,13 +6,11 @@
 #include <string_view>
 
 #include "grid/Finding.h"
+#include "records/HiddenRows.h"
 #include "records/UnitConversion.h"
 #include "tables/ProcessTable.h"
 
 namespace vexora {
-
-/// Two numbers are the same within the decimals that a double keeps.
-bool Equal(double a, double b);
 
 /// How the cells of a column lead to the system unit. The look-up of a unit without a letter is
 /// made here, once.
