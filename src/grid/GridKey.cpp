@@ -54,7 +54,7 @@ std::string TenthOf(const std::string& text) {
 
 /// With the top row of the selection.
 void FillDown(TableUndo& table) {
-    const int top = table.Table().Selection().top;
+    const int top = std::max(table.Table().Selection().top, table.Table().FixedRows());
     ChangeSelection(table, [&](int, int column) { return table.Table().Cell(top, column); });
 }
 

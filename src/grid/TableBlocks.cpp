@@ -14,6 +14,15 @@ namespace {
 
 constexpr const char* TextTables = "Text tables (*.txt *.csv *.dat)";
 
+/// Columns up to the last one with a value.
+int FilledColumns(const ui::Grid& grid) {
+    int columns = grid.FixedColumns();
+    for (int row = grid.FixedRows(); row < grid.Rows(); ++row)
+        for (int column = columns; column < grid.Columns(); ++column)
+            if (!grid.Cell(row, column).empty()) columns = column + 1;
+    return columns;
+}
+
 } // namespace
 
 TableBlocks::TableBlocks(const TableRules& rules, TableUndo& history, ui::Label& notice)
@@ -45,7 +54,7 @@ PastedTable TableBlocks::BesideStatements(PastedTable block, int column) const {
     const std::vector<int> places = rules_.ValueColumns();
     // Without columns between the values there is nothing to go past.
     const bool parted = !places.empty() && places.back() >= static_cast<int>(places.size());
-    if (!parted || column != 0 || block.Columns() != places.size()) return block;
+    if (!parted || column != grid_.FixedColumns() || block.Columns() != places.size()) return block;
     const auto& first = block.rows.front(); // not full: the corner of a table in two dimensions
     if (first.size() < places.size() || std::ranges::find(first, std::string()) != first.end())
         return block;
@@ -69,14 +78,15 @@ void TableBlocks::Paste(const std::string& text) {
     if (text.empty()) return; // nothing, or no text, was copied
     const ui::Grid::Block cells = grid_.Selection();
     const int row = std::max(cells.top, grid_.FixedRows());
+    const int column = std::max(cells.left, grid_.FixedColumns());
     const PastedTable block =
-        BesideStatements(CleanTable(text, row - grid_.FixedRows() + 1), cells.left);
-    if (!FillSelection(block)) PutIn(block, row, cells.left);
+        BesideStatements(CleanTable(text, row - grid_.FixedRows() + 1, rules_.Parting()), column);
+    if (!FillSelection(block)) PutIn(block, row, column);
 }
 
 void TableBlocks::PasteShown() {
     const std::string text = ui::TheDesktop().ClipboardText();
-    if (rules_.IsWanted(CleanTable(text))) Paste(text);
+    if (rules_.IsWanted(CleanTable(text, 1, rules_.Parting()))) Paste(text);
 }
 
 /// A single value goes into every cell of a larger selection.
@@ -86,7 +96,8 @@ bool TableBlocks::FillSelection(const PastedTable& block) {
     if (!several || block.rows.size() != 1 || block.rows.front().size() != 1) return false;
     const auto writer = [&](TableEdit& edit) {
         for (int row = std::max(cells.top, grid_.FixedRows()); row <= cells.bottom; ++row) {
-            for (int column = cells.left; column <= cells.right; ++column)
+            for (int column = std::max(cells.left, grid_.FixedColumns()); column <= cells.right;
+                 ++column)
                 edit.Cell(row, column, block.rows.front().front());
         }
     };
@@ -109,9 +120,9 @@ void TableBlocks::PutIn(const PastedTable& block, int row, int column) {
 /// or one of several parts side by side comes to an empty table, which grows for it.
 bool TableBlocks::IsRefused(const PastedTable& block, int row, int column, bool isEmpty) const {
     const int columns = static_cast<int>(block.Columns());
-    if (column + columns <= grid_.Columns()) return false;
+    if (column + columns <= grid_.Columns() || rules_.GrowsEverywhere()) return false;
     // Anywhere else a block that is too wide is a slip of the selection.
-    const bool atStart = row == grid_.FixedRows() && column == 0;
+    const bool atStart = row == grid_.FixedRows() && column == grid_.FixedColumns();
     if (atStart && isEmpty && block.rows.size() > 1 && rules_.MayGrowFor(columns)) return false;
     ui::Say("The block has " + std::to_string(columns) + " columns, the table has room for " +
             std::to_string(grid_.Columns() - column) + "\nNothing was pasted");
@@ -128,6 +139,7 @@ void TableBlocks::InsertRows() {
     const int row = std::max(cells.top, grid_.FixedRows());
     if (row > history_.LastFilledRow()) return; // an empty row stands there already
     const int count = cells.bottom - row + 1;
+    if (count <= 0) return; // heads are selected
     history_.Do([&](TableEdit& edit) { edit.InsertRows(row, count); });
     MoveNotices(row, count);
 }
@@ -136,6 +148,7 @@ void TableBlocks::RemoveRows() {
     const ui::Grid::Block cells = grid_.Selection();
     const int row = std::max(cells.top, grid_.FixedRows());
     const int count = cells.bottom - row + 1;
+    if (count <= 0) return;
     history_.Do([&](TableEdit& edit) { edit.RemoveRows(row, count); });
     // The rows that were selected are gone.
     SelectCell(grid_, row, cells.left);
@@ -179,15 +192,17 @@ void TableBlocks::OpenFile() {
         ui::Say(error);
         return;
     }
-    const PastedTable block = BesideStatements(CleanTable(ToUtf8(*text)), 0);
+    const int left = grid_.FixedColumns();
+    const PastedTable block =
+        BesideStatements(CleanTable(ToUtf8(*text), 1, rules_.Parting()), left);
     const int first = grid_.FixedRows();
-    if (IsRefused(block, first, 0, true)) return;
-    BlockToPut put{block};
+    if (IsRefused(block, first, left, true)) return;
+    BlockToPut put{block, left};
     if (OnPut && !OnPut(put)) return;
     const int replaced = history_.LastFilledRow() - first + 1;
     PasteTable(history_, put.block, first, put.column,
                {.replaces = true, .widens = true, .ahead = put.ahead});
-    SelectCell(grid_, first, 0);
+    SelectCell(grid_, first, left);
     std::vector<PasteNotice> told = put.block.notices;
     if (replaced > 0)
         told.insert(told.begin(), {0, "The table of the file replaced " + std::to_string(replaced) +
@@ -208,9 +223,10 @@ void TableBlocks::SaveFile() const {
 std::string TableBlocks::Text() const {
     std::string text;
     const int last = history_.LastFilledRow();
+    const int end = rules_.GrowsEverywhere() ? FilledColumns(grid_) : grid_.Columns();
     for (int row = grid_.FixedRows(); row <= last; ++row) {
-        for (int column = 0; column < grid_.Columns(); ++column) {
-            if (column > 0) text += '\t';
+        for (int column = grid_.FixedColumns(); column < end; ++column) {
+            if (column > grid_.FixedColumns()) text += '\t';
             text += grid_.Cell(row, column);
         }
         text += '\n';

@@ -194,6 +194,23 @@ std::vector<std::string> PiecesOf(const std::string& part, std::size_t row, Noti
     return pieces;
 }
 
+/// One line whose tabs alone part cells. A comma is that of a number or stays in the text.
+std::vector<std::string> CellsBetweenTabs(const std::string& line, std::size_t row,
+                                          Decimals& decimals, Notices& notices) {
+    std::vector<std::string> cells;
+    for (const std::string& part : Split(WithoutEdges(line), '\t')) {
+        if (StandsForNothing(part)) {
+            NoteNothing(part, "", row, notices);
+            cells.emplace_back();
+            continue;
+        }
+        NoteCommas(part, row, decimals, notices);
+        const std::string point = Replace(part, ",", ".");
+        cells.push_back(IsNumeric(point) ? point : part);
+    }
+    return cells;
+}
+
 /// One line, its blanks and tabs cleaned: the cells.
 std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size_t row,
                                  Decimals& decimals, Notices& notices) {
@@ -292,7 +309,7 @@ std::size_t PastedTable::Columns() const {
     return columns;
 }
 
-PastedTable CleanTable(std::string_view text, int firstRow) {
+PastedTable CleanTable(std::string_view text, int firstRow, CellParting parting) {
     PastedTable table;
     Notices notices(firstRow);
     std::vector<std::string> lines = LinesOf(text);
@@ -301,7 +318,9 @@ PastedTable CleanTable(std::string_view text, int firstRow) {
     Decimals decimals;
     for (std::size_t row = 0; row < lines.size(); ++row) {
         const std::string plain = PlainCharacters(lines[row], row, notices);
-        table.rows.push_back(CellsOf(plain, tabbed, row, decimals, notices));
+        const bool byTabs = parting == CellParting::AtTabsAlone && plain.find('\t') != plain.npos;
+        table.rows.push_back(byTabs ? CellsBetweenTabs(plain, row, decimals, notices)
+                                    : CellsOf(plain, tabbed, row, decimals, notices));
     }
     // Commas are plainly the decimal sign of this block.
     if (decimals.comma && !decimals.point) notices.Drop("thousands");

@@ -17,6 +17,11 @@ struct PasteNotice {
     std::string Line() const;
 };
 
+/// What parts the cells of a line that holds tabs. In a table without texts a blank in a cell is
+/// doubtful and parts it; where headings or empty cells matter only the tabs do, so that no value
+/// comes into another column.
+enum class CellParting { AtBlanks, AtTabsAlone };
+
 /// A text table cleaned for a grid: "," is a decimal point, runs of blanks, tabs and ";" part
 /// columns, line ends part rows; a dash for no value becomes an empty cell and a plus-minus sign
 /// parts a value from its uncertainty. The notices name what the cleaning had to guess or could not
@@ -31,7 +36,8 @@ struct PastedTable {
 
 /// The notices count rows from firstRow on, the one where the block is to stand.
 /// Every text is a table, if need be of one cell.
-PastedTable CleanTable(std::string_view text, int firstRow = 1);
+PastedTable CleanTable(std::string_view text, int firstRow = 1,
+                       CellParting parting = CellParting::AtBlanks);
 
 /// A number whose comma may part thousands as well as decimals, such as "1,234".
 /// "0,123" and "12,34" may not, "1,234" may.

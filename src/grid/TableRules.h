@@ -46,6 +46,10 @@ public:
     /// Whether an empty table grows for a block with so many columns, which is to be turned there;
     /// a block that is too wide is refused otherwise.
     virtual bool MayGrowFor(int) const { return false; }
+    /// The table gets more columns wherever a block needs them.
+    virtual bool GrowsEverywhere() const { return false; }
+    /// How the lines of a pasted block are parted into cells.
+    virtual CellParting Parting() const { return CellParting::AtBlanks; }
     /// Stands below what the last paste had to guess; rows counts those down to the last filled
     /// one.
     virtual std::string Remark(int) const { return {}; }

@@ -155,7 +155,7 @@ int TableUndo::LastFilledRow() const {
 }
 
 void TableUndo::KeepSpareRow(TableEdit& edit) {
-    edit.Rows(std::max(LastFilledRow() + 2, grid_.FixedRows() + 1));
+    edit.Rows(std::max({LastFilledRow() + 2, grid_.FixedRows() + 1, leastRows_}));
 }
 
 void TableUndo::ForgetOldest() {

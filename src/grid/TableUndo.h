@@ -52,6 +52,8 @@ public:
     /// Takes back the last step, or does the next one again.
     void Undo();
     void Redo();
+    /// Lets the table have so many rows at least, the fixed ones included.
+    void KeepRows(int least) { leastRows_ = least; }
     /// Forgets all steps.
     /// The table stays as it is.
     void Clear();
@@ -109,6 +111,7 @@ private:
     std::size_t done_ = 0;
     int firstRow_ = 0;
     int lastRow_ = 0;
+    int leastRows_ = 0;
     std::vector<bool> columns_; // Concerns
 };
 

@@ -58,6 +58,8 @@ void Actor::PasteCells(ui::Grid& grid, int row, int column, const std::string& t
 }
 
 void Actor::SelectBlock(ui::Grid& grid, const ui::Grid::Block& block) {
+    if (grid.ChoosesHeads() && block.bottom < grid.FixedRows())
+        return grid.UserHead(block.top, block.left);
     grid.SetFocus();
     grid.UserSelect(block);
 }

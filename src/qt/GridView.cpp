@@ -10,7 +10,9 @@
 #include <QStyle>
 #include <QStyledItemDelegate>
 
+#include "qt/Events.h"
 #include "qt/FormWindow.h"
+#include "qt/HeadView.h"
 #include "qt/Text.h"
 #include "qt/Windows.h"
 
@@ -161,6 +163,7 @@ GridView::GridView(FormWindow& window, ui::Grid& grid)
     own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
     own_->verticalHeader()->setVisible(grid.FixedColumns() > 0 || grid.ShowsRowNumbers);
     if (grid.Editor) UseEditorOfForm(*grid.Editor);
+    if (grid.ChoosesHeads()) UseHeads();
     own_->horizontalHeader()->setDefaultSectionSize(own_->fontMetrics().averageCharWidth() * 14);
     own_->verticalHeader()->setDefaultSectionSize(own_->fontMetrics().height() + 8);
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 8);
@@ -181,6 +184,27 @@ void GridView::UseEditorOfForm(ui::TextBox& editor) {
     editor.Redraw.Connect([self = QPointer<GridView>(this)] {
         if (self && !self->Window().IsDetached()) self->Window().MarkDirty(*self);
     });
+}
+
+void GridView::UseHeads() {
+    heads_ = new HeadView(*this, model_, own_);
+    heads_->OnPressed = [this](int row, int column) { Act([&] { model_.UserHead(row, column); }); };
+    own_->setHorizontalHeader(heads_);
+    own_->setCornerButtonEnabled(false);
+    corner_ = new CornerView(*heads_, own_);
+    for (QHeaderView* header : {own_->horizontalHeader(), own_->verticalHeader()})
+        QObject::connect(header, &QHeaderView::geometriesChanged, this, [this] { PlaceCorner(); });
+    own_->verticalHeader()->setMinimumWidth(heads_->LabelWidth());
+    for (ui::ComboBox* list : model_.HeadLists)
+        list->Redraw.Connect([self = QPointer<GridView>(this)] {
+            if (self && !self->Window().IsDetached()) self->Window().MarkDirty(*self);
+        });
+}
+
+void GridView::PlaceCorner() {
+    const int frame = own_->frameWidth();
+    corner_->setGeometry(frame, frame, own_->verticalHeader()->width(), heads_->height());
+    corner_->raise();
 }
 
 bool GridView::HasLostGrid() const {
@@ -245,6 +269,42 @@ void GridView::Draw() {
     own_->viewport()->update();
     DrawSelection();
     PlaceEditor();
+    if (heads_) DrawHeads();
+}
+
+void GridView::DrawHeads() {
+    heads_->viewport()->update();
+    PlaceCorner();
+    PlaceHeadList();
+}
+
+// Over the head that it is for, as wide as its entries ask where the column is narrow.
+void GridView::PlaceHeadList() {
+    const ui::Grid::Block& block = model_.Selection();
+    if (!model_.IsInHeads() || block.top >= static_cast<int>(model_.HeadLists.size())) return;
+    const ui::ComboBox& list = *model_.HeadLists[static_cast<std::size_t>(block.top)];
+    View* view = list.Visible() ? Window().ViewFor(list) : nullptr;
+    if (!view || !view->Widget()) return;
+    QWidget* field = view->Widget();
+    if (field->parentWidget() != heads_->viewport()) field->setParent(heads_->viewport());
+    QRect place = heads_->CellRect(block.top, block.left);
+    int wide = 0;
+    for (const std::string& item : list.Items())
+        wide = std::max(wide, field->fontMetrics().horizontalAdvance(ToQt(item)));
+    constexpr int besideText = 50; // the button and the margins
+    const int room = heads_->viewport()->width();
+    place.setWidth(std::min(std::max(place.width(), wide + besideText), room));
+    place.moveLeft(std::clamp(place.left(), 0, room - place.width()));
+    field->setGeometry(place);
+    view->Refresh();
+    field->raise();
+    if (list.HasFocus() && !field->hasFocus()) field->setFocus(Qt::OtherFocusReason);
+}
+
+void GridView::ClickHead(int row, int column) {
+    Window().Flush();
+    own_->scrollTo(IndexOf(model_.FixedRows(), column));
+    MouseClick(heads_->viewport(), heads_->CellRect(row, column).center());
 }
 
 // The field of the form that edits lies over the selected cell while it is to be seen.
@@ -265,6 +325,11 @@ void GridView::PlaceEditor() {
 
 void GridView::DrawSelection() {
     const ui::Grid::Block& block = model_.Selection();
+    if (model_.IsInHeads()) {
+        own_->selectionModel()->clearSelection();
+        own_->scrollTo(IndexOf(own_->rowAt(0) + model_.FixedRows(), block.left));
+        return;
+    }
     const QModelIndex first = IndexOf(std::max(block.top, model_.FixedRows()),
                                       std::max(block.left, model_.FixedColumns()));
     const QModelIndex last = IndexOf(block.bottom, block.right);

@@ -7,7 +7,9 @@
 
 namespace vexora::qt {
 
+class CornerView;
 class GridView;
+class HeadView;
 
 /// The cells of a grid behind its fixed rows and columns, which become the headers. It reads the
 /// model on demand, so that a grid of many thousand rows opens at once.
@@ -44,6 +46,8 @@ public:
     /// The cell as the model counts it, fixed rows and columns included.
     QModelIndex IndexOf(int row, int column) const;
     QTableView& Table() const { return *own_; }
+    /// Clicks a head that is chosen, as the mouse does.
+    void ClickHead(int row, int column);
     /// The form has gone, and its grid with it; the widgets are still asked for sizes.
     bool HasLostGrid() const;
     /// Selects as a drag from corner to corner does; false for a block that holds fixed cells.
@@ -63,8 +67,14 @@ private:
     void ShowMenu(const QPoint& place);
     void PlaceEditor();
     void UseEditorOfForm(ui::TextBox& editor);
+    void UseHeads();
+    void PlaceCorner();
+    void DrawHeads();
+    void PlaceHeadList();
 
     GridModel cells_;
+    HeadView* heads_ = nullptr; // of a table whose heads are chosen
+    CornerView* corner_ = nullptr;
     bool fitted_ = false;
     bool fresh_ = true; // columns have not got their first widths
     bool following_ = false;

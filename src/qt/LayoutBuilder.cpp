@@ -347,7 +347,16 @@ QWidget* LayoutBuilder::MakeSplit(const ui::Layout& layout) {
         splitter->addWidget(Make(part));
     for (int i = 0; i < splitter->count(); ++i)
         splitter->setStretchFactor(i, 1);
-    splitter->setSizes(QList<int>(splitter->count(), 1 << 12)); // shared evenly, whatever the hints
+    QList<int> sizes(splitter->count(), 1 << 12); // shared evenly, whatever the hints
+    for (int i = 0; i < splitter->count(); ++i) {
+        const int columns = layout.parts[static_cast<std::size_t>(i)].columns;
+        if (columns == 0) continue;
+        sizes[i] = columns * window_.fontMetrics().averageCharWidth();
+        splitter->setStretchFactor(i, 0);
+        for (int& other : sizes) // what is left over goes to the others
+            if (&other != &sizes[i] && other == 1 << 12) other = window_.width();
+    }
+    splitter->setSizes(sizes);
     return splitter;
 }
 

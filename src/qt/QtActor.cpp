@@ -218,8 +218,10 @@ void QtActor::PasteCells(ui::Grid& grid, int row, int column, const std::string&
 
 void QtActor::SelectBlock(ui::Grid& grid, const ui::Grid::Block& block) {
     Do([&] {
-        grid.SetFocus();
         auto& view = ViewOf<GridView>(grid);
+        if (grid.ChoosesHeads() && block.bottom < grid.FixedRows())
+            return view.ClickHead(block.top, block.left);
+        grid.SetFocus();
         if (!view.SelectAsDragged(block)) grid.UserSelect(block);
     });
 }

@@ -162,7 +162,9 @@ std::pair<int, int> Grid::Step(const Key& key, std::pair<int, int> from) const {
         column += right ? far : -far;
         if (edge && key.control) row = right ? Rows() : 0;
     }
-    return {std::clamp(row, fixedRows_, Rows() - 1),
+    // Long ways end at the first row; one step more leads to the heads.
+    const bool toHeads = ChoosesHeads() && from.first <= fixedRows_;
+    return {std::clamp(row, toHeads ? 0 : fixedRows_, Rows() - 1),
             std::clamp(column, fixedColumns_, columns_ - 1)};
 }
 
@@ -180,6 +182,14 @@ bool Grid::Move(const Key& key) {
     anchor_ = from;
     cursor_ = cursor;
     return true;
+}
+
+void Grid::UserHead(int row, int column) {
+    if (!IsUsable() || !ChoosesHeads() || !IsInside(row, column)) return;
+    if (row >= fixedRows_ || column < fixedColumns_) return;
+    SetFocus();
+    UserSelect({row, column, row, column});
+    if (OnHead) OnHead(row, column);
 }
 
 void Grid::UserSelect(Block block) {

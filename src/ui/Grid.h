@@ -9,6 +9,7 @@
 
 namespace vexora::ui {
 
+class ComboBox;
 class TextBox;
 
 /// A table of texts with fixed rows and columns at its head. Rows and columns count from 0, the
@@ -27,6 +28,7 @@ public:
         bool operator==(const Mark&) const = default;
     };
     using Marks = std::map<std::pair<int, int>, Mark>; // by row and column
+    using Proposals = std::map<std::pair<int, int>, std::string>;
 
     /// While one lives, changes of cells are told once, at its end: as that of the cell when there
     /// was only one, else as a change of the whole table.
@@ -63,6 +65,16 @@ public:
     /// A field that the form shows while a cell is being edited; it is laid over the selected cell,
     /// and double clicks and typed keys are the form's to handle. Null: the view edits by itself.
     TextBox* Editor = nullptr;
+    /// Lists by fixed row from which the texts of its cells are chosen: such a head is reached by
+    /// mouse and keys, and the list lies over the selected one while it is visible. None: heads are
+    /// only read.
+    std::vector<ComboBox*> HeadLists;
+    bool ChoosesHeads() const { return !HeadLists.empty(); }
+    /// The selected cell is one of a head that is chosen.
+    bool IsInHeads() const { return ChoosesHeads() && selection_.top < fixedRows_; }
+    /// Texts that cells of heads would get, shown in the empty ones; they change nothing.
+    const Proposals& Proposed() const { return proposals_; }
+    void Propose(Proposals proposals) { Alter(proposals_, std::move(proposals)); }
     /// Rows are numbered at their head, the first one behind the fixed rows by 1.
     bool ShowsRowNumbers = false;
 
@@ -90,10 +102,14 @@ public:
     std::function<void(int row, int column, const std::string& text)> OnEdit;
     /// Takes a pasted text; without it nothing is pasted.
     std::function<void(const std::string& text)> OnPaste;
+    /// A head that is chosen was clicked; it is selected then.
+    std::function<void(int row, int column)> OnHead;
 
     void UserCell(int row, int column, const std::string& typed);
     void UserPaste(const std::string& text);
     void UserSelect(Block block);
+    /// A click on a head; nothing happens where heads are only read.
+    void UserHead(int row, int column);
     /// Ctrl+V pastes at the selection, Ctrl+C copies it; arrows, Home, End, PageUp and PageDown
     /// move it, with Ctrl to the edge of the table, with Shift they extend it.
     bool UserKey(Key& key) override;
@@ -116,6 +132,7 @@ private:
     Block selection_;
     std::pair<int, int> anchor_, cursor_; // corners of the selection, by row and column
     Marks marks_;
+    Proposals proposals_;
     int timesShown_ = 0;
     int batches_ = 0;
     int changesInBatch_ = 0;
