@@ -2,12 +2,16 @@
 
 #include "tables/frmData2.h"
 #include "tables/frmPasteView.h"
+#include "tables/frmProcess.h"
+#include "tables/frmSelect.h"
 
 namespace vexora {
 
 void RegisterTableForms(ui::Forms& forms) {
     forms.Register<frmData2>("frmData2");
     forms.Register<frmPasteView>("frmPasteView");
+    forms.Register<frmSelect>("frmSelect");
+    forms.Register<frmProcess>("frmProcess");
 }
 
 } // namespace vexora
