@@ -16,7 +16,6 @@
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
-#include "ui/Desktop.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -80,6 +79,7 @@ void frmMixtSingle::Load() {
         Fill(*record_);
     else
         txtComment.Text(globals.PropertyComment);
+    cmdCheck.Enabled(CanAverage());
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     if (!record_) return;
@@ -146,7 +146,8 @@ void frmMixtSingle::Uncertainty() {
     Touch();
 }
 
-/// The purity of the mixed sample, weighted by the composition of the state where it is known.
+/// The average of repeated values. It tells the purity of the mixed sample besides, weighted by the
+/// composition of the state where it is known, which goes into the context.
 void frmMixtSingle::CheckAverage() {
     if (!CheckSamples()) return;
     clsMZ draft;
@@ -155,11 +156,12 @@ void frmMixtSingle::CheckAverage() {
     StoreValues(draft);
     clsMMM average;
     PrepareAverage(average, *mixture_, Samples(), draft);
+    Globals().CurrentMethod->Purity = average.Purity();
     std::string text = "Average purity of the mixture: " + FormatFixed(average.Purity(), 2) + " %";
     const double mass = average.Calculate();
     text += mass > 0 ? "\nAverage molar mass: " + FormatFixed(mass, 3) + " g/mol"
                      : "\nNo composition is stated: the mean of the components";
-    ui::Say(text, "Average of the components");
+    if (average_.Ask(statement_, text)) Touch();
 }
 
 void frmMixtSingle::Touch() {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "entry/AverageForm.h"
 #include "entry/SampleList.h"
 #include "entry/ValueEntry.h"
 #include "globals/FormChain.h"
@@ -101,6 +102,7 @@ private:
                                        SampleList{*this, cboSample(1)},
                                        SampleList{*this, cboSample(2)}};
     ValueEntry value_{*this, txtValue, lblUnit, cmdMethod};
+    AverageEntry average_{*this, txtValue};
     std::array<State, 2> states_{{{"T", "temperature", lblT, txtT, cboTUnit, {}, {}},
                                   {"P", "pressure", lblP, txtP, cboPUnit, {}, {}}}};
     std::shared_ptr<clsM> mixture_; // the chosen one

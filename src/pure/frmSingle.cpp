@@ -57,7 +57,7 @@ void frmSingle::WireEvents() {
         option->OnClick = [this] { Touch(); };
     cmdMethod.OnClick = [this] { Method(); };
     cmdUnc.OnClick = [this] { Uncertainty(); };
-    cmdCheck.OnClick = [] { ui::Forms::Current().Get("frmAverage").ShowModal(); };
+    cmdCheck.OnClick = [this] { CheckAverage(); };
 }
 
 void frmSingle::Load() {
@@ -76,9 +76,7 @@ void frmSingle::Load() {
         txtComment.Text(globals.PropertyComment);
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
-    const bool canAverage = ui::Forms::Current().Knows("frmAverage");
-    cmdCheck.Enabled(canAverage);
-    cmdCheck.ToolTip(canAverage ? "" : "Averages come with a later edition");
+    cmdCheck.Enabled(CanAverage());
     if (editing_) cmdAccept.Caption("Accept");
 }
 
@@ -119,6 +117,10 @@ void frmSingle::Uncertainty() {
     if (!EditStatementsOfValue(items, "RLSZ", inSystemUnits)) return;
     std::ranges::copy(items, statements_.begin());
     Touch();
+}
+
+void frmSingle::CheckAverage() {
+    if (average_.Ask(statements_[0])) Touch();
 }
 
 void frmSingle::Touch() {

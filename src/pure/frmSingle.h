@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "entry/AverageForm.h"
 #include "entry/PropertyRules.h"
 #include "entry/SampleChoice.h"
 #include "entry/ValueEntry.h"
@@ -51,6 +52,7 @@ private:
     void Phase1Click();
     void Method();
     void Uncertainty();
+    void CheckAverage();
     void Touch();
 
     // What stands on the form.
@@ -79,6 +81,7 @@ private:
 
     SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }};
     ValueEntry value_{*this, txtValue, lblUnit, cmdMethod};
+    AverageEntry average_{*this, txtValue};
     PropertyRow row_;                // the property in hand
     std::string variable_;           // code of the fixed variable
     std::string variableUnit_;       // system unit of it

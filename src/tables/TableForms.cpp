@@ -1,5 +1,6 @@
 #include "tables/TableForms.h"
 
+#include "tables/frmAverage.h"
 #include "tables/frmData2.h"
 #include "tables/frmPasteView.h"
 #include "tables/frmProcess.h"
@@ -8,6 +9,7 @@
 namespace vexora {
 
 void RegisterTableForms(ui::Forms& forms) {
+    forms.Register<frmAverage>("frmAverage");
     forms.Register<frmData2>("frmData2");
     forms.Register<frmPasteView>("frmPasteView");
     forms.Register<frmSelect>("frmSelect");
