@@ -24,6 +24,7 @@ struct PlotTable {
     std::vector<bool> PointFar;   // far from its neighbours, to be looked at again
     std::vector<int> PointSeries; // place in SeriesNames
     std::vector<int> PointTie;    // points of one number coexist, 0 for none
+    std::vector<int> PointColumn; // column of the dialog's table that it tells, -1 for none
 
     std::array<std::string, 8> VarNames; // captions with their units, "Temperature (K)"
     std::string YName;                   // caption of the dependent quantity
@@ -39,7 +40,9 @@ struct PlotTable {
     };
     std::vector<End> Ends;
     std::shared_ptr<PlotTable> Next; // another picture of the same table
-    int ChosenRow = 0; // set by the plot: where the person wants to go on, 0 for nowhere
+    bool HasDiagonal = false;        // the line of equal values is drawn
+    // Set by the plot: where the person wants to go on, 0 for nowhere; the column -1 for any.
+    int ChosenRow = 0, ChosenColumn = -1;
 
     void Add(const Row& point, double uncertainty = 0, int row = 0, bool isFar = false,
              int series = 0, int tie = 0) {
@@ -49,6 +52,7 @@ struct PlotTable {
         PointFar.push_back(isFar);
         PointSeries.push_back(series);
         PointTie.push_back(tie);
+        PointColumn.push_back(-1);
     }
     /// Applies the same to each list that has one entry a point.
     template <class Change>
@@ -59,6 +63,7 @@ struct PlotTable {
         change(PointFar);
         change(PointSeries);
         change(PointTie);
+        change(PointColumn);
     }
     /// Only the points that a plot has room for stay.
     void Cut() {

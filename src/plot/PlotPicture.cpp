@@ -143,6 +143,19 @@ std::optional<std::pair<PlotPlace, PlotPlace>> InFrame(const Plot& plot, PlotPla
                      PlotPlace{a.x + to * wide, a.y + to * high}};
 }
 
+/// Where both quantities are equal, on plain axes.
+void DrawDiagonal(PlotStrokes& strokes, const Plot& plot) {
+    if (!plot.table.HasDiagonal || plot.scale.Log) return;
+    PlotTable::Row from{}, to{};
+    const auto x = static_cast<std::size_t>(plot.xVar);
+    from[0] = from[x] = std::min(plot.scale.XMin, plot.scale.YMin);
+    to[0] = to[x] = std::max(plot.scale.XMax, plot.scale.YMax);
+    const auto a = AnyPlaceOf(plot, from), b = AnyPlaceOf(plot, to);
+    if (!a || !b) return;
+    if (const auto seen = InFrame(plot, *a, *b))
+        strokes.push_back(PlotLine(seen->first, seen->second));
+}
+
 /// Joins the points of one tie; three and more close to a figure.
 void DrawTie(PlotStrokes& strokes, const Plot& plot, std::span<const int> points) {
     const std::size_t count = points.size() > 2 ? points.size() : points.size() - 1;
@@ -262,6 +275,7 @@ PlotStrokes PlotPicture(const Plot& plot) {
         DrawTicksY(strokes, plot);
         DrawFrame(strokes, plot);
     }
+    DrawDiagonal(strokes, plot);
     if (plot.showTies) DrawTies(strokes, plot);
     DrawEnds(strokes, plot);
     DrawPoints(strokes, plot);

@@ -270,6 +270,7 @@ void frmGraph::GoToPoint() {
     const int row = point_ ? table_->PointRow[static_cast<std::size_t>(*point_)] : 0;
     if (row == 0) return;
     Globals().Plot->ChosenRow = row;
+    Globals().Plot->ChosenColumn = table_->PointColumn[static_cast<std::size_t>(*point_)];
     Close();
 }
 
