@@ -16,6 +16,10 @@ DataSet::DataSet() {
         UX[n].N = static_cast<int>(n);
 }
 
+std::string DataSet::VariableWords(int n) const {
+    return VariableName(VARIABLE(n), DataContext());
+}
+
 std::string DataSet::ConstantOf(std::string_view code) const {
     if (HasVariable(code)) return {};
     const std::string value = CommentTags(Header.DATACOMMENT).Constant(code);

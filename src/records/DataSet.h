@@ -70,6 +70,8 @@ public:
     /// Code and conversion code of variable n, 1 to nVar; empty outside.
     virtual const std::string& VARIABLE(int n) const = 0;
     virtual const std::string& VAR_UNIT(int n) const = 0;
+    /// The name of variable n as the tables have it; empty for one that the system cannot have.
+    virtual std::string VariableWords(int n) const;
     /// The phase in which a quantity is meant: 0 the property, 1 to nVar the variables.
     virtual const std::string& PhaseFor(int n) const = 0;
     /// All phases that are there together, the main one first; "&" for none.

@@ -6,10 +6,13 @@
 #include "globals/KVOGlobal.h"
 #include "records/RecordChecks.h"
 #include "records/Walk.h"
+#include "records/clsC.h"
+#include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
+#include "records/clsQ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
@@ -28,7 +31,10 @@ const ByClass<void, Findings&>& Checks() {
                                    .On<clsTwo>(CheckSet)
                                    .On<clsM>(CheckMixture)
                                    .On<clsMZ>(CheckMixtureValue)
-                                   .On<clsMV>(CheckMixtureSet);
+                                   .On<clsMV>(CheckMixtureSet)
+                                   .On<clsQ>(CheckReaction)
+                                   .On<clsC>(CheckPropertyChange)
+                                   .On<clsE>(CheckEquilibrium);
     return checks;
 }
 

@@ -1,6 +1,7 @@
 #include "records/RecordChecks.h"
 
 #include "chem/PropertyLimits.h"
+#include "records/MixtureWords.h"
 #include "records/Presentation.h"
 #include "records/StateRules.h"
 #include "records/StatedUncertainty.h"
@@ -68,9 +69,12 @@ struct RowFindings {
     RowTally noNumber, noMass, invalid, suspicious;
 };
 
-/// Variables of a mixture bear the number of their component, those of a pure compound none.
-bool IsVariableOf(const DataSet& set, const std::string& code) {
+/// Variables of a mixture bear the number of their component, those of a pure compound none;
+/// a reaction has few.
+bool IsVariableOf(const DataSet& set, int n) {
+    const std::string& code = set.VARIABLE(n);
     if (set.DataContext() == "Pure") return VariableValid(code);
+    if (set.DataContext() == "React") return !set.VariableWords(n).empty();
     const VariableRow* const row = FindVariable(code);
     return row && row->Offered.IsIn(set.DataContext());
 }
@@ -127,8 +131,8 @@ void CheckRows(const DataSet& set, const std::string& name, Remarks& remarks) {
         CheckMarks(stated, name, remarks);
     CheckUnit(set, 0, name, remarks);
     for (int n = 1; n <= set.nVar; ++n) {
-        if (IsVariableOf(set, set.VARIABLE(n)))
-            CheckUnit(set, n, name + ", " + LowerAscii(VariableName(set.VARIABLE(n))), remarks);
+        if (IsVariableOf(set, n))
+            CheckUnit(set, n, name + ", " + FirstSmall(set.VariableWords(n)), remarks);
         else
             remarks.Error(name + ": unknown variable " + set.VARIABLE(n));
     }

@@ -44,6 +44,9 @@ constexpr LineGrammar Grammars[] = {
      "reference temperature,reference pressure,reference phase"},
     {"^B", ' ', "first component,second component,-"},
     {"^T", ' ', "first component,second component,third component,-"},
+    {"^Q", ' ',
+     "reaction class,participant 1,participant 2,participant 3,participant 4,-,-,participant 5,"
+     "participant 6,participant 7,participant 8,solvent,inert compound"},
     {"^X", ' ',
      "-,quantity,phase,device specification,judge of the device,confidence of the device,"
      "specified by the device,repeatability,kind of repeatability,repeatability value,repetitions,"
@@ -75,6 +78,47 @@ std::string MixtureNames(std::string_view kind, int components) {
                    "reference phase";
 }
 
+/// "coefficient 1,coefficient 2,..."
+std::string Numbered(std::string_view what, int count) {
+    std::string names;
+    for (int n = 1; n <= count; ++n)
+        names.append(n == 1 ? "" : ",").append(what).append(" ").append(std::to_string(n));
+    return names;
+}
+
+/// The same of two fields that take turns.
+std::string NumberedPairs(std::string_view first, std::string_view second, int count) {
+    std::string names;
+    for (int n = 1; n <= count; ++n)
+        for (const std::string_view what : {first, second})
+            names.append(names.empty() ? "" : ",")
+                .append(what)
+                .append(" ")
+                .append(std::to_string(n));
+    return names;
+}
+
+/// The fields of the lines of a reaction, which go by its participants; empty for other lines.
+std::string ReactionNames(std::string_view kind) {
+    constexpr int most = 8, ofEquilibrium = 6, places = 4;
+    if (kind == "^q") return Numbered("coefficient", most) + "," + Numbered("sample", most);
+    if (kind == "^C")
+        return Numbered("coefficient", most) +
+               ",property,unit,participant of the mass,set number," + Numbered("phase", most) +
+               "," + Numbered("sample", most) + "," + Numbered("composition", most) + "," +
+               Numbered("value of composition", most) +
+               ",solvent phase,standard state,initial temperature,initial pressure,"
+               "final temperature,final pressure,value,evaluated uncertainty,repeatability,"
+               "repetitions";
+    if (kind != "^E" && kind != "^H") return {};
+    return Numbered("coefficient", ofEquilibrium) + "," + Numbered("sample", ofEquilibrium) +
+           ",property,unit,set number,presentation,experimental design,solvent phase,"
+           "standard state," +
+           NumberedPairs("variable", "unit of variable", places) + "," +
+           NumberedPairs("phase", "participants in phase", places) + "," +
+           NumberedPairs("constant", "value of constant", places);
+}
+
 bool IsOfMixture(std::string_view kind, int components) {
     return components > 1 && IsOneOf(kind, {"^Z", "^1", "^2", "^3"});
 }
@@ -101,24 +145,25 @@ std::string_view TakePart(std::string_view& text, char separator) {
 
 std::string LineKind(std::string_view line) {
     constexpr std::size_t tagLength = 2;
-    return UpperAscii(line.substr(0, tagLength));
+    // The coefficients of a reaction are no other form of its own line.
+    return line.starts_with("^q") ? "^q" : UpperAscii(line.substr(0, tagLength));
 }
 
 std::vector<std::pair<std::string, std::string>> NamedFields(std::string_view line,
                                                              int components) {
     const std::string kind = LineKind(line);
-    const std::string ofMixture =
-        IsOfMixture(kind, components) ? MixtureNames(kind, components) : std::string();
+    const std::string composed =
+        IsOfMixture(kind, components) ? MixtureNames(kind, components) : ReactionNames(kind);
     const LineGrammar* grammar = GrammarOf(kind);
     const char separator = grammar ? grammar->separator : ' ';
     std::string_view names = grammar ? grammar->names : std::string_view();
-    if (!ofMixture.empty()) names = ofMixture;
+    if (!composed.empty()) names = composed;
     std::vector<std::pair<std::string, std::string>> fields;
     // The tag says whether figures stand in the units of the paper.
     fields.emplace_back("tag", TakePart(line, separator));
     for (int n = 1; !line.empty(); ++n) {
         std::string name(TakePart(names, ','));
-        const bool isLast = (grammar || !ofMixture.empty()) && names.empty();
+        const bool isLast = (grammar || !composed.empty()) && names.empty();
         const std::string_view part =
             isLast ? std::exchange(line, std::string_view()) : TakePart(line, separator);
         if (name.empty()) name = "field " + std::to_string(n);

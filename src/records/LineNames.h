@@ -14,7 +14,8 @@ namespace vexora {
 std::vector<std::pair<std::string, std::string>> NamedFields(std::string_view line,
                                                              int components = 1);
 
-/// The letter of the line without regard to case: "^z" and "^Z" are one kind of line.
+/// The letter of the line without regard to case: "^z" and "^Z" are one kind of line, but "^q" is
+/// one of its own.
 std::string LineKind(std::string_view line);
 
 } // namespace vexora

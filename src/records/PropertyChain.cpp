@@ -5,8 +5,10 @@
 #include "records/DataSet.h"
 #include "records/MixtureWords.h"
 #include "records/PropertyLabels.h"
+#include "records/ReactionText.h"
 #include "records/SingleValue.h"
 #include "records/UnitConversion.h"
+#include "records/clsE.h"
 #include "records/clsMV.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -51,12 +53,24 @@ const clsMV* MixtureOf(const DataSet& set) {
     return dynamic_cast<const clsMV*>(&set);
 }
 
+/// The same as one of a reaction, whose fractions are named by its participants.
+const clsE* ReactionOf(const DataSet& set) {
+    return dynamic_cast<const clsE*>(&set);
+}
+
+Label ReactionLabel(const clsE& set, const std::string& code) {
+    const std::string name = ReactionVariableName(set.Parent, code);
+    if (name.empty()) return VariableLabel(code);
+    return {name, VariableLabel(ParticipantCodeOf(code).code).unit};
+}
+
 /// Of the property (n = 0) or a variable of a set, as its system and its phases name it.
 Label LabelOf(const DataSet& set, int n) {
     const std::string& code = n == 0 ? set.PRPCODE : set.VARIABLE(n);
     const clsMV* const mixture = MixtureOf(set);
     Label label =
         n == 0 ? LabelOfProperty(code, FindProperty(code, set.DataContext())) : VariableLabel(code);
+    if (n > 0 && ReactionOf(set)) label = ReactionLabel(*ReactionOf(set), code);
     if (mixture && n == 0) label.name = PropertyLabels::Of(set).name;
     if (mixture) label.name = NameOnForms(*mixture, code, label.name, set.PhaseFor(n));
     return label;
@@ -106,19 +120,28 @@ void NameItem(const DataSet& set, clsX& item, int n, bool original) {
     if (MixtureOf(set) && !item.IsKept()) item.PHASE = set.PhaseFor(n);
 }
 
+/// What is constant by the definition of a set of a mixture or reaction.
+Label LabelOf(const DataSet& set, const HeldConstant& constant) {
+    if (const clsE* const equilibrium = ReactionOf(set))
+        return ReactionLabel(*equilibrium, constant.code);
+    Label label = VariableLabel(constant.code);
+    if (const clsMV* const mixture = MixtureOf(set))
+        label.name = NameOnForms(*mixture, constant.code, label.name, constant.phase);
+    return label;
+}
+
 /// The definition says what is constant, in which phase and unit. The others have no quantity.
-void NameHeldConstants(DataSet& set, const clsMV& mixture) {
+void NameHeldConstants(DataSet& set) {
     const std::span<clsX> places =
         std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
     for (clsX& item : places)
         item.Name.clear();
     for (const HeldConstant& constant : set.Constants()) {
+        if (constant.item == 0) continue;
         clsX& item = set.UX.at(static_cast<std::size_t>(constant.item));
         // A critical curve has no value that could be uncertain.
         if (constant.value.empty() && !item.IsKept()) continue;
-        Label label = VariableLabel(constant.code);
-        label.name = NameOnForms(mixture, constant.code, label.name, constant.phase);
-        Name(item, constant.item, constant.code, label, constant.unit);
+        Name(item, constant.item, constant.code, LabelOf(set, constant), constant.unit);
         item.Constr = true;
         if (!item.IsKept()) item.PHASE = constant.phase;
     }
@@ -126,7 +149,7 @@ void NameHeldConstants(DataSet& set, const clsMV& mixture) {
 
 /// What stays the same for all rows has its statements behind those of the variables.
 void NameConstraints(DataSet& set) {
-    if (const clsMV* const mixture = MixtureOf(set)) return NameHeldConstants(set, *mixture);
+    if (MixtureOf(set) || ReactionOf(set)) return NameHeldConstants(set);
     const std::span<clsX> places =
         std::span(set.UX).subspan(static_cast<std::size_t>(set.nVar) + 1);
     const auto take = [&set](clsX& item, const std::string& code) {

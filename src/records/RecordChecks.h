@@ -16,10 +16,13 @@
 
 namespace vexora {
 
+class clsC;
+class clsE;
 class clsL;
 class clsM;
 class clsMV;
 class clsMZ;
+class clsQ;
 class clsR;
 class clsS;
 class clsTwo;
@@ -89,6 +92,9 @@ void CheckSet(const clsTwo& set, Findings& findings);
 void CheckMixture(const clsM& mixture, Findings& findings);
 void CheckMixtureValue(const clsMZ& value, Findings& findings);
 void CheckMixtureSet(const clsMV& set, Findings& findings);
+void CheckReaction(const clsQ& reaction, Findings& findings);
+void CheckPropertyChange(const clsC& value, Findings& findings);
+void CheckEquilibrium(const clsE& set, Findings& findings);
 
 // What all kinds of values and sets are checked for.
 

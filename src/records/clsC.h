@@ -60,6 +60,7 @@ public:
     std::string SystemName() const override;
     double MolarMass() const override;
     bool HasMolarMass() const override { return false; }
+    bool StatesInUnitsOfLine() const override { return true; }
     const Record* Owner() const override;
     void ExportAll(XmlWriter& xml) const override { ExportC(xml); }
     void ExportC(XmlWriter& xml) const;

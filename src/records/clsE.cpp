@@ -27,6 +27,10 @@ const std::string& clsE::VARIABLE(int n) const {
     return n == 0 ? PRPCODE : At(variables_, n);
 }
 
+std::string clsE::VariableWords(int n) const {
+    return ReactionVariableName(Parent, VARIABLE(n));
+}
+
 const std::string& clsE::PhaseFor(int) const {
     return NoText; // a reaction may run through several at once
 }
@@ -188,12 +192,13 @@ int NextSetNumber(const clsQ& reaction, const clsE& set) {
     return static_cast<int>(highest) + 1;
 }
 
-std::string ReactionVariableName(const clsQ& reaction, std::string_view code) {
+std::string ReactionVariableName(const clsQ* reaction, std::string_view code) {
     const ParticipantCode parts = ParticipantCodeOf(code);
+    if (parts.participant == 0 && !IsOneOf(code, {"T", "P"})) return {};
     const std::string name = VariableName(parts.code, "React");
-    if (name.empty()) return std::string(code);
-    const std::string participant = reaction.Name(parts.participant);
-    return participant.empty() ? name : Replace(name, "a participant", participant);
+    if (parts.participant == 0 || reaction == nullptr) return name;
+    const std::string participant = reaction->Name(parts.participant);
+    return participant.empty() ? participant : Replace(name, "a participant", participant);
 }
 
 } // namespace vexora

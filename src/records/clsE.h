@@ -56,6 +56,8 @@ public:
     /// 0 is the property.
     const std::string& VARIABLE(int n) const override;
     const std::string& VAR_UNIT(int n) const override { return At(units_, n); }
+    /// The mole fraction of a participant by its name.
+    std::string VariableWords(int n) const override;
     const std::string& PhaseFor(int n) const override;
     std::vector<std::string> Phases() const override;
     std::string_view DataContext() const override { return "React"; }
@@ -115,8 +117,9 @@ private:
 /// The number for a new set of a reaction: one above the highest among those of its property.
 int NextSetNumber(const clsQ& reaction, const clsE& set);
 
-/// A state variable of a reaction in words: "Mole fraction of water" where the code names a
-/// participant; the code itself where no table knows it.
-std::string ReactionVariableName(const clsQ& reaction, std::string_view code);
+/// A state variable of a reaction in words: "Temperature", "Mole fraction of water" where the code
+/// names a participant; empty for one that a reaction has not. A reaction that is not known (null)
+/// leaves "a participant".
+std::string ReactionVariableName(const clsQ* reaction, std::string_view code);
 
 } // namespace vexora

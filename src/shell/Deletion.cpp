@@ -11,6 +11,7 @@
 #include "records/clsM.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
+#include "records/clsQ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 
@@ -37,20 +38,28 @@ std::string WhyCompoundStays(const Record& record) {
     for (const auto& mixture : compound.Parent->recM)
         if (mixture->PlaceOf(compound) != 0)
             return stays + "A mixture containing this compound is defined";
-    return {};
+    const auto& reactions = compound.Parent->recQ;
+    const bool isUsed = std::any_of(reactions.begin(), reactions.end(), [&](const auto& reaction) {
+        return reaction->Uses(compound.RN);
+    });
+    return isUsed ? Blocked : "";
 }
 
 std::string WhySampleStays(const Record& record) {
     const auto& sample = static_cast<const clsS&>(record);
     if (!sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty()) return Blocked;
-    return IsUsedInMixtures(sample)
-               ? "You cannot delete this record because properties of mixtures "
-                 "containing this sample are present"
-               : "";
+    const std::string stays = "You cannot delete this record because properties of ";
+    if (IsUsedInMixtures(sample)) return stays + "mixtures containing this sample are present";
+    if (IsUsedInReactionData(sample)) return stays + "reactions involving this sample are present";
+    return IsUsedInReactions(sample) ? Blocked : "";
 }
 
 std::string WhyMixtureStays(const Record& record) {
     return static_cast<const clsM&>(record).HasData() ? Blocked : "";
+}
+
+std::string WhyReactionStays(const Record& record) {
+    return static_cast<const clsQ&>(record).HasData() ? Blocked : "";
 }
 
 struct DeletionRule {
@@ -71,6 +80,9 @@ constexpr DeletionRule Rules[] = {
     {"RM1"},
     {"RM2"},
     {"RM3"},
+    {"RQ", WhyReactionStays},
+    {"RQC"},
+    {"RQE"},
 };
 
 const DeletionRule* RuleOf(std::string_view nodeKey) {

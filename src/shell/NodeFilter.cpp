@@ -9,6 +9,7 @@
 #include "records/SingleValue.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
+#include "records/clsQ.h"
 #include "records/clsR.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
@@ -27,9 +28,15 @@ constexpr std::string_view Dots = "..";
 /// What stands between two texts that are searched as one; no word holds it.
 constexpr char Between = '\n';
 
-std::string VariableText(const std::string& code, const std::string& unit,
-                         std::string_view context) {
-    const std::string name = VariableName(code, context);
+std::string NameOf(const SingleValue& value, int n) {
+    return VariableName(value.VARIABLE(n), value.DataContext());
+}
+
+std::string NameOf(const DataSet& set, int n) {
+    return set.VariableWords(n);
+}
+
+std::string VariableText(const std::string& name, const std::string& unit) {
     return name + Between + UnitText(DefaultUnit(name), unit, 0) + Between;
 }
 
@@ -115,7 +122,7 @@ std::string NodeFilter::TextOf(const ui::TreeNode& node) {
         add(label.name);
         add(label.unit);
         for (int n = 1; n <= variables; ++n)
-            text += VariableText(data.VARIABLE(n), data.VAR_UNIT(n), data.DataContext());
+            text += VariableText(NameOf(data, n), data.VAR_UNIT(n));
         add(CommentText(data.Header, data.PRPCODE));
     };
     const auto addCompound = [&](const clsL& compound) {
@@ -130,6 +137,13 @@ std::string NodeFilter::TextOf(const ui::TreeNode& node) {
     } else if (const auto* mixture = dynamic_cast<const clsM*>(tag.get())) {
         for (int n = 1; n <= mixture->MixType; ++n)
             if (const auto component = mixture->Component(n)) addCompound(*component);
+    } else if (const auto* reaction = dynamic_cast<const clsQ*>(tag.get())) {
+        add(ReactionType(reaction->REACTCLASS));
+        for (int i = 1; i <= clsQ::MostParticipants; ++i)
+            if (const auto participant = reaction->Compound(i)) addCompound(*participant);
+        for (const std::string& rn : {reaction->SOLVENTRN, reaction->INERTRN})
+            if (const auto other = reaction->Parent ? reaction->Parent->FindL(rn) : nullptr)
+                addCompound(*other);
     } else if (const auto* value = dynamic_cast<const SingleValue*>(tag.get())) {
         addProperty(*value, value->VariableCount());
     } else if (const auto* set = dynamic_cast<const DataSet*>(tag.get())) {

@@ -1,5 +1,6 @@
 #include "shell/ReadingPane.h"
 
+#include "chem/Balancer.h"
 #include "chem/CommentTags.h"
 #include "compounds/RegistryNumber.h"
 #include "globals/KVOGlobal.h"
@@ -9,10 +10,13 @@
 #include "records/StatedUncertainty.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
+#include "records/clsC.h"
+#include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
+#include "records/clsQ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "records/clsTwo.h"
@@ -90,6 +94,7 @@ std::string ReadingOf(const clsR& source) {
     page.Line("Authors:", AuthorsOf(source));
     page.Line("Compounds:", std::to_string(source.recL.Count()));
     if (!source.recM.IsEmpty()) page.Line("Mixtures:", std::to_string(source.recM.Count()));
+    if (!source.recQ.IsEmpty()) page.Line("Reactions:", std::to_string(source.recQ.Count()));
     if (!source.isNew) page.Item("This source stands in the reference database; it is not edited.");
     page.Need(source.recL.IsEmpty(), "A compound");
     page.Need(source.isNew && source.TTITLE.empty(), "The title");
@@ -141,7 +146,7 @@ std::string ReadingOf(const clsS& sample) {
         page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
                   Counted(set->recData.Count(), "row", "rows"));
     const bool hasOwn = !sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty();
-    page.Need(!hasOwn && !IsUsedInMixtures(sample), "Data");
+    page.Need(!hasOwn && !IsUsedInMixtures(sample) && !IsUsedInReactions(sample), "Data");
     return page.Html();
 }
 
@@ -214,6 +219,59 @@ std::string ReadingOf(const clsMZ& value) {
     return page.Html();
 }
 
+/// A compound of the reaction's source by its number.
+std::string NameOf(const clsQ& reaction, const std::string& rn) {
+    const auto compound = reaction.Parent ? reaction.Parent->FindL(rn) : nullptr;
+    return compound ? compound->ShowKey() : rn;
+}
+
+std::string ReadingOf(const clsQ& reaction) {
+    ReadingPage page(reaction.ShowKey());
+    const std::string type = ReactionType(reaction.REACTCLASS);
+    page.Line("Class:", type.empty() ? reaction.REACTCLASS : type);
+    for (int i = 1; i <= clsQ::MostParticipants; ++i)
+        page.Line(reaction.Name(i) + ":", reaction.Formula(i));
+    page.Line("Solvent:", NameOf(reaction, reaction.SOLVENTRN));
+    page.Line("Inert compound:", NameOf(reaction, reaction.INERTRN));
+    page.Line("Holds:", Counted(reaction.recC.Count(), "property change", "property changes") +
+                            ", " + Counted(reaction.recE.Count(), "equilibrium", "equilibria"));
+    for (const auto& value : reaction.recC)
+        page.Line(PropertyName(value->PRPCODE, value->DataContext()) + ":", ValueText(*value));
+    for (const auto& set : reaction.recE)
+        page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
+                  Counted(set->recData.Count(), "row", "rows"));
+    const bool isBalanced = IsBalanced(reaction.Formulas(), reaction.Coefficients());
+    page.Need(!isBalanced, "Coefficients that balance");
+    page.Need(!reaction.HasData(), "Data");
+    return page.Html();
+}
+
+std::string ReadingOf(const clsC& value) {
+    const std::string name = PropertyName(value.PRPCODE, value.DataContext());
+    ReadingPage page(name.empty() ? value.PRPCODE.View() : name);
+    if (value.Parent != nullptr) page.Line("Reaction:", value.Parent->Equation(value.PhaseNames()));
+    page.Line("Value:", ValueText(value));
+    page.Line("In system units:", ConvertedText(value));
+    const auto state = [](const std::string& temperature, const std::string& pressure) {
+        const std::string at = IsBlankField(temperature) ? "" : temperature + " K";
+        if (IsBlankField(pressure)) return at;
+        return at + (at.empty() ? "" : ", ") + pressure + " kPa";
+    };
+    page.Line("Initial state:", state(value.INITIAL_TEMPERATURE, value.INITIAL_PRESSURE));
+    page.Line("Final state:", state(value.FINAL_TEMPERATURE, value.FINAL_PRESSURE));
+    page.Line("Standard state:", TextOfCode(StandardStates, value.STANDARD_STATE));
+    page.Line("Solvent phase:", PhaseText(value.SOLVENT_PHASE));
+    for (int i = 1; value.Parent && i <= clsQ::MostParticipants; ++i) {
+        const std::string participant = value.Parent->Name(i);
+        page.Line("Sample of " + participant + ":", value.SMPNM(i));
+        const std::string kind = TextOfCode(ParticipantCompositions, value.COMPOSITION(i));
+        page.Line((kind.empty() ? "Composition" : kind) + " (" + participant + "):",
+                  value.COMPOSITION_VALUE(i));
+    }
+    DescribeRest(page, value);
+    return page.Html();
+}
+
 /// What the pane shows of a record, by its class.
 const ByClass<std::string>& Readings() {
     static const auto readings = ByClass<std::string>()
@@ -224,7 +282,10 @@ const ByClass<std::string>& Readings() {
                                      .On<clsTwo>(ReadingOfSet)
                                      .On<clsM>([](const clsM& one) { return ReadingOf(one); })
                                      .On<clsMZ>([](const clsMZ& one) { return ReadingOf(one); })
-                                     .On<clsMV>(ReadingOfMixtureSet);
+                                     .On<clsMV>(ReadingOfMixtureSet)
+                                     .On<clsQ>([](const clsQ& one) { return ReadingOf(one); })
+                                     .On<clsC>([](const clsC& one) { return ReadingOf(one); })
+                                     .On<clsE>(ReadingOfEquilibrium);
     return readings;
 }
 

@@ -7,6 +7,7 @@
 #include "records/RowMasses.h"
 #include "records/StateRules.h"
 #include "records/StatedUncertainty.h"
+#include "records/clsE.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
 #include "records/clsTwo.h"
@@ -86,6 +87,10 @@ std::string DefinitionText(const DataSet& set) {
 std::string VariableInWords(const DataSet& set, int n) {
     if (const auto* const mixtureSet = dynamic_cast<const clsMV*>(&set))
         return QuantityInWords(*mixtureSet, n);
+    if (set.DataContext() == "React") {
+        const std::string words = set.VariableWords(n);
+        return words.empty() ? set.VARIABLE(n) : FirstSmall(words);
+    }
     const std::string name = VariableName(set.VARIABLE(n), set.DataContext());
     return LowerAscii(name.empty() ? set.VARIABLE(n) : name);
 }
@@ -154,6 +159,14 @@ void DescribePresentation(ReadingPage& page, const DataSet& set) {
                       presentation.equation ? "equation" : "", presentation.graph ? "graph" : ""}));
 }
 
+/// The names of the participants in phase i.
+std::string ParticipantsIn(const clsE& set, int i) {
+    std::string names;
+    for (const char digit : set.COMPONENTS_IN_PHASE(i))
+        if (set.Parent) names += (names.empty() ? "" : ", ") + set.Parent->Name(digit - '0');
+    return names;
+}
+
 } // namespace
 
 /// What is told of every set behind what its class tells.
@@ -179,6 +192,29 @@ std::string ReadingOfSet(const clsTwo& set) {
     DescribeRest(page, set);
     for (const std::string& unstated : UnstatedOf(set))
         page.Need(true, "The " + unstated);
+    page.Need(!StatesUncertainty(set), "A statement of uncertainty");
+    return page.Html();
+}
+
+std::string ReadingOfEquilibrium(const clsE& set) {
+    const std::string name = PropertyName(set.PRPCODE, set.DataContext());
+    ReadingPage page(name.empty() ? set.PRPCODE : name);
+    page.Line("Reaction:", set.SystemName());
+    DescribeRows(page, set);
+    DescribePresentation(page, set);
+    for (const HeldConstant& constant : set.Constants()) {
+        const std::string words = ReactionVariableName(set.Parent, constant.code);
+        const std::string unit = words.starts_with("Mole") ? "1" : UnitOfVariable(constant.code);
+        page.Line("Constant " + (words.empty() ? constant.code : FirstSmall(words)) + ":",
+                  WithUnitIfAny(constant.value, unit));
+    }
+    for (int i = 1; i <= clsE::Places; ++i)
+        page.Line(PhaseText(set.PHASE(i)) + ":", ParticipantsIn(set, i));
+    page.Line("Standard state:", TextOfCode(StandardStates, set.STANDARD_STATE));
+    page.Line("Solvent phase:", PhaseText(set.SOLVENTPHASE));
+    for (int i = 1; set.Parent && i <= clsE::Participants; ++i)
+        page.Line("Sample of " + set.Parent->Name(i) + ":", set.SMPNM(i));
+    DescribeRest(page, set);
     page.Need(!StatesUncertainty(set), "A statement of uncertainty");
     return page.Html();
 }

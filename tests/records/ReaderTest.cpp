@@ -169,13 +169,13 @@ TEST_F(Reader, CompoundsOfTheDatabaseGetNameAndFormulaFromThere) {
 }
 
 TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
-    const std::string foreign = "^A & O & & & & & of the change\n^C 1 VDN S 1 L & DP\n"
+    const std::string foreign = "^A & O & & & & & of the change\nBN 1\n"
                                 "^X 0 VDN L + & & 1 - & & & - & & - & & - & & &\n"
                                 "^D 298.15 997\n^Y & &\n^M 0\n";
-    const std::string reaction = "^Q 7732185 64175\n^A & & & & & & & of the reaction\n^M 2\n"
-                                 "^z 1 TC S 1 L G & 500 & & &\n^M 0\n"
-                                 "^X 0 TC L + & & 1 - & & & - & & - & & - & & &\n";
-    const ReadResult result = Read(kWater + foreign + "^z 1 PC S 1 L G & 22 & & &\n" + reaction +
+    const std::string hydrate = "CS 1 Hydrate\n^A & & & & & & & of the hydrate\n^M 2\n"
+                                "^z 1 TC S 1 L G & 500 & & &\n^M 0\n"
+                                "^X 0 TC L + & & 1 - & & & - & & - & & - & & &\n";
+    const ReadResult result = Read(kWater + foreign + "^z 1 PC S 1 L G & 22 & & &\n" + hydrate +
                                    "%% unknown\n^? line\n^L 64175 NNNNN &\n^S 1 ns\n"
                                    "^z 1 TC S 1 L G & 514 & & &\nBR 1\nBE\n");
     EXPECT_EQ(result.linesNotKept, 6 + 6 + 2 + 2);

@@ -106,6 +106,58 @@ TEST_F(DeletionTest, NothingGoesWithWhatDependsOnIt) {
     EXPECT_FALSE(Shell().mnuUndoDelete.Enabled());
 }
 
+/// A reaction before it has data, and one with some, of compounds that nothing else needs.
+class ReactionDeletionTest : public ShellFixture {
+protected:
+    void Delete(const std::string& node, const std::vector<std::string>& boxes) {
+        ClickNode(node);
+        for (const std::string& box : boxes)
+            desktop.Expect(box, box == Sure || box == DataToo ? ui::Answer::Yes : ui::Answer::Ok);
+        Shell().mnuDelete.UserClick();
+    }
+};
+
+TEST_F(ReactionDeletionTest, ReactionsKeepTheirCompoundsAndSamples) {
+    const std::string head = "^A & O & & & & & &\n";
+    const std::string path = WriteDocument(
+        "^L 64175 NNNNN &\n^S 1 ns\n^L 10544726 NNNNN &\n^S 1 cm\n^S 2 ns\n^S 3 rs\n"
+        "^L 10102440 NNNNN &\n"
+        "^Q OTH 64175 7732185 999999994 999999994 N N & & & & 124389 &\n"
+        "^q -1 1 & & & & & & 1 & & & & & & &\n"
+        "^Q OTH 10544726 10102440 999999994 999999994 Y Y & & & & & &\n" +
+        head +
+        "^C -1 2 0 0 0 0 0 0 HR S S 1 & & & & & & & & 1 & & & & & & & & & & & & & & & 0 0 0 "
+        "0 0 0 0 0 & & & & & & 57 & & &\n" +
+        head + "^E -1 2 0 0 0 0 2 & & & & & KP S 1 Y & & & T S\n^D 298.15 0.146 &\n^M 0\n");
+    ASSERT_TRUE(Start(path));
+    Shell().Save();
+    const std::string saved = FileText(path);
+    const std::string inData = "You cannot delete this record because properties of reactions "
+                               "involving this sample are present";
+    Delete("nitrogen dioxide", {Blocked});
+    Delete("carbon dioxide", {Blocked});
+    Delete("Sample 1 (ns)", {Blocked});
+    Delete("Sample 1 (cm)", {inData});
+    Delete("Sample 2 (ns)", {inData});
+    Delete("dinitrogen tetroxide = 2 nitrogen dioxide", {Blocked});
+    EXPECT_TRUE(Globals().Saved);
+    const std::pair<const char*, std::vector<std::string>> goes[] = {
+        {"Sample 3 (rs)", {Sure}},
+        {"^C: Molar enthalpy of reaction (kJ/mol, Set 1)", {Sure}},
+        {"^E: Equilibrium constant in terms of partial pressure (1, Set 1)", {Sure, DataToo}},
+        {"ethanol = water", {Sure}}};
+    for (const auto& [node, boxes] : goes) {
+        Delete(node, boxes);
+        EXPECT_FALSE(Globals().Saved) << node;
+        Shell().mnuUndoDelete.UserClick();
+        EXPECT_TRUE(Globals().Saved) << node;
+        Shell().Save();
+        EXPECT_EQ(FileText(path), saved) << node;
+    }
+    Delete(goes[1].first, goes[1].second);
+    Delete("Sample 1 (cm)", {Blocked}); // the reaction goes on naming it
+}
+
 TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFile) {
     while (!Sample().Children().empty())
         Delete(*Sample().Children().back(), HasRows(*Sample().Children().back()));
