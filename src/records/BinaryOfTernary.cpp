@@ -124,8 +124,9 @@ bool BinaryOfTernary::IsFractionBeside(const std::string& code, const std::strin
 }
 
 bool BinaryOfTernary::Take(const clsData& row, std::string& fault) {
+    if (isSilent_ || !IsNumeric(row.PRPVALUE())) return false;
     fault = fault_;
-    if (isSilent_ || !fault_.empty() || !IsNumeric(row.PRPVALUE())) return false;
+    if (!fault_.empty()) return false;
     const auto isEmpty = [&row](const Variable& one) {
         return !IsNumeric(row.VARIABLE(one.place));
     };

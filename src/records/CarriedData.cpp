@@ -1,7 +1,7 @@
 #include "records/CarriedData.h"
 
 #include "chem/CommentTags.h"
-#include "records/HiddenRows.h"
+#include "records/RecordChecks.h"
 #include "records/SetLines.h"
 #include "reference/Conversions.h"
 #include "reference/KVODefinitions.h"

@@ -1,7 +1,6 @@
 #include "records/HiddenRows.h"
 
 #include <bit>
-#include <cmath>
 
 #include "records/TiedSets.h"
 #include "records/clsMV.h"
@@ -23,12 +22,6 @@ unsigned Others(int component, int components) {
 }
 
 } // namespace
-
-bool Equal(double a, double b) {
-    constexpr double nearness = 1e-9;
-    if (a == 0 || b == 0) return a == b;
-    return std::abs((a - b) / a) < nearness;
-}
 
 int Presence::AbsentCount() const {
     return std::popcount(absent);

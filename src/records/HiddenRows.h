@@ -9,9 +9,6 @@
 
 namespace vexora {
 
-/// Both zero, or alike but for what a conversion rounds.
-bool Equal(double a, double b);
-
 /// What one row says of the presence of each component (1 to 3, as bits).
 struct Presence {
     unsigned absent = 0, present = 0;

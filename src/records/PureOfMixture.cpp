@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "records/HiddenRows.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
@@ -246,8 +245,9 @@ bool PureOfMixture::Take(const clsData& row, std::string& fault) {
         if (value && !Equal(*value, *expected_)) fault = NotPure;
         return false;
     }
+    if (!IsNumeric(row.PRPVALUE())) return false;
     fault = fault_;
-    if (!fault_.empty() || !IsNumeric(row.PRPVALUE())) return false;
+    if (!fault_.empty()) return false;
     const auto isEmpty = [&row](int n) { return !IsNumeric(row.VARIABLE(n)); };
     if (std::ranges::any_of(states_, isEmpty)) return false;
     const Form form = FormOf(row);

@@ -171,6 +171,12 @@ double Val(std::string_view text) {
     return Parse(text, BeginningOf(text)).value_or(0.0);
 }
 
+bool Equal(double a, double b) {
+    constexpr double nearness = 1e-9;
+    if (a == 0 || b == 0) return a == b;
+    return std::abs((a - b) / a) < nearness;
+}
+
 std::string NumberText(double v) {
     constexpr double plainBound = 1e15;
     if (!std::isfinite(v) || v == 0) return "0";

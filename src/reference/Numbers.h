@@ -21,6 +21,8 @@ std::optional<double> NumberIn(std::string_view text);
 /// Value of the longest numeric beginning after removal of all blanks; else 0.
 /// "12 kPa" is 12: what follows the number is passed over, a typing mistake too.
 double Val(std::string_view text);
+/// Both zero, or the same but for what a conversion rounds (1e-9 of the first).
+bool Equal(double a, double b);
 /// Shortest text within 15 significant digits; plain for 1e-15 <= |v| < 1e15, else "1.5E+20".
 /// A value that is not finite gives "0".
 /// 15 digits are those that every double gives back unharmed (DBL_DIG).

@@ -1,7 +1,5 @@
 #include "tables/ColumnValues.h"
 
-#include <cmath>
-
 #include "chem/PropertyLimits.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"

@@ -4,6 +4,7 @@
 #include <map>
 #include <utility>
 
+#include "reference/Numbers.h"
 #include "reference/Vocabulary.h"
 #include "tables/ColumnValues.h"
 
