@@ -29,8 +29,13 @@ bool IsSameConstant(const ConstraintSlot& a, const ConstraintSlot& b) {
                                      DataSet::ConversionOf(b.code, b.unit).Converted(b.value).text;
 }
 
-/// The slots of the new set in the order of the old one. What says the same stays as it was typed;
-/// a constant that is named without its value is an empty slot.
+/// A slot that a new set has no code for: a constant that is named without its value, or air, which
+/// stands for a pressure that nobody states.
+bool IsUnstated(const ConstraintSlot& slot) {
+    return slot.code == "air" || (slot.value.empty() && !NamesPhase(slot.code));
+}
+
+/// The slots of the new set in the order of the old one. What says the same stays as it was typed.
 std::array<ConstraintSlot, MixtureLine::MostSlots> Merged(const clsMV& old, const clsMV& made) {
     auto slots = old.Constraints;
     std::vector<ConstraintSlot> rest(made.Constraints.begin(),
@@ -39,7 +44,7 @@ std::array<ConstraintSlot, MixtureLine::MostSlots> Merged(const clsMV& old, cons
     for (int i = 0; i < old.ConstraintCount(); ++i) {
         ConstraintSlot& slot = slots[static_cast<std::size_t>(i)];
         auto found = std::ranges::find(rest, slot.code, &ConstraintSlot::code);
-        if (found == rest.end() && slot.value.empty() && !NamesPhase(slot.code))
+        if (found == rest.end() && IsUnstated(slot))
             found = std::ranges::find(rest, std::string(), &ConstraintSlot::code);
         if (found == rest.end()) {
             open.push_back(&slot);

@@ -30,7 +30,7 @@ std::string WhyNotAlone(const clsMV& set) {
         return "Only compositions, temperatures and pressures of phases in equilibrium stand in "
                "this table.";
     if (set.Relation() != "A") return "Results relative to another state have no place here.";
-    if (set.nPhases() < 2) return "A table of phase equilibria needs two phases.";
+    if (TablePhases(set).size() < 2) return "A table of phase equilibria needs two phases.";
     for (int n = 1; n <= set.nVar; ++n)
         if (!HasPlace(set.VARIABLE(n)))
             return "The table has no column for the variable " + VariableName(set.VARIABLE(n)) +

@@ -17,6 +17,8 @@ namespace {
 
 using Role = ProcessColumn::Role;
 
+constexpr std::string_view Air = "air";
+
 bool IsState(std::string_view code) {
     return code == "T" || code == "P";
 }
@@ -101,7 +103,7 @@ std::vector<std::string> OrderOfPhases(const std::vector<std::shared_ptr<clsMV>>
         for (int n = 1; n <= set->nVar; ++n)
             if (!IsState(set->VARIABLE(n))) add(set->PhaseFor(n));
     for (const auto& set : sets) {
-        const std::vector<std::string> phases = set->Phases();
+        const std::vector<std::string> phases = TablePhases(*set);
         for (const std::string& phase : phases)
             add(phase);
         for (std::size_t i = 2; i < phases.size(); ++i)
@@ -145,11 +147,11 @@ void AddMissingStates(std::map<Place, Wish>& wishes, const clsMV& set,
                       std::vector<std::string>& notStated) {
     int empty = 0;
     for (int n = 1; n <= set.ConstraintCount(); ++n) {
-        if (IsBlankField(set.CONSTRAINT(n))) ++empty;
+        if (IsBlankField(set.CONSTRAINT(n)) || set.CONSTRAINT(n) == Air) ++empty;
         if (IsState(set.CONSTRAINT(n)) && set.CNVALUE(n).empty())
             notStated.push_back(set.CONSTRAINT(n));
     }
-    const bool phasesDetermine = set.nPhases() == set.MixType + 1;
+    const bool phasesDetermine = static_cast<int>(TablePhases(set).size()) == set.MixType + 1;
     for (const char* code : {"P", "T"}) {
         if (wishes.contains({code, {}}) || std::ranges::find(notStated, code) != notStated.end())
             continue;
@@ -182,6 +184,12 @@ bool HasCombinedUncertainty(const clsMV& set) {
 }
 
 } // namespace
+
+std::vector<std::string> TablePhases(const clsMV& set) {
+    std::vector<std::string> phases = set.Phases();
+    std::erase(phases, Air);
+    return phases;
+}
 
 bool IsTableComposition(std::string_view code) {
     return code.size() == 2 && std::string_view("XWJV").find(code[0]) != std::string_view::npos &&

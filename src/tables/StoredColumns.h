@@ -53,6 +53,10 @@ struct StoredColumns {
 /// the heads would tell of another equilibrium.
 StoredColumns ColumnsOf(const std::vector<std::shared_ptr<clsMV>>& sets);
 
+/// The phases that such a table tells of, the main one first. Air above a liquid is none of them:
+/// it stands for a pressure that is not stated.
+std::vector<std::string> TablePhases(const clsMV& set);
+
 /// The codes of compositions that stand in such a table.
 bool IsTableComposition(std::string_view code);
 

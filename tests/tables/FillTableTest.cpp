@@ -163,6 +163,17 @@ TEST_F(FillTableTest, WhatIsNotEditedStaysAndAnEditedCellChangesItsRow) {
          0, "20.5",
          "^D 293.15 0.1772 0.8000 & 2 -> ^G 293.65 4 0.1772 4 0.8000 4 & 2\n"
          "^d 20.00 0.1772 44.12 & 2 -> ^d 20.5 0.1772 44.12 & 2\n"},
+        {"layers below air",
+         "^T 64197 67663 7732185 S\n" + Head +
+             "^M 0.01\n^1 1 1 1 W2 S DIR 1 Y L1 T 291.15 L2 & air & W1 S & & & & & &\n"
+             "^d 0.00 99.01 & 1\n^d 0.0677 91.85 & 2\n" +
+             Head +
+             "^M 0.01\n^1 1 1 1 W1 S DIR 1 Y L2 T 291.15 L1 -1 air & W1 S & & & & & &\n"
+             "^d 0.00 0.00 & 1\n^d 0.0677 25.10 & 2\n",
+         2,
+         "T W1 W2 W1 \nS= S: 0.01 0.01 \n- L1 L1 L2 \n291.15 0.00 99.01 0.00 #1\n"
+         "291.15 0.0677 91.85 25.10 #2\nnot stated: P\n",
+         3, "25.1", "^d 0.0677 25.10 & 2 -> ^d 0.0677 25.1 & 2\n"},
         {"a factor that is no listed unit, and a crystal beside two liquids",
          "^B 64175 7732185 S\n" + Head +
              "^M 0.7\n^1 1 1 W1 S DIR 1 Y L1 Cp2 & L2 & T C & & & & & &\n^d 20 0.5 &\n^d 25 0.6 "
