@@ -16,6 +16,7 @@ namespace vexora {
 namespace {
 
 constexpr const char* TableForm = "frmData2";
+constexpr const char* TiedTableForm = "frmProcess";
 
 /// The working context as it was before the table opened.
 class ContextScope {
@@ -75,17 +76,32 @@ bool AskToDropRows(ui::Control& field, std::size_t rows) {
                                             " of numerical data.\nAre they to be deleted?");
 }
 
-bool EnterRows(ui::Control& field, const std::shared_ptr<DataSet>& set, bool includeDigits) {
+namespace {
+
+bool OpenTable(ui::Control& field, std::string_view table, const std::shared_ptr<DataSet>& set) {
     KVOGlobal& globals = Globals();
     ui::Form& opener = field.Owner();
-    if (!ui::Forms::Current().Knows(TableForm))
-        return opener.Refuse(field, "There is no table dialog");
+    if (!ui::Forms::Current().Knows(table)) return opener.Refuse(field, "There is no table dialog");
     const ContextScope scope(set);
     globals.DialogAccepted = false;
-    globals.IncludeDigits = includeDigits;
     globals.OpenForms.push_back(opener.Name());
-    ui::Forms::Current().Get(TableForm).ShowModal();
+    ui::Forms::Current().Get(table).ShowModal();
     return std::exchange(globals.DialogAccepted, false);
+}
+
+} // namespace
+
+bool EnterRows(ui::Control& field, const std::shared_ptr<DataSet>& set, bool includeDigits) {
+    Globals().IncludeDigits = includeDigits;
+    return OpenTable(field, TableForm, set);
+}
+
+bool EnterTiedRows(ui::Control& field, const std::vector<std::shared_ptr<clsMV>>& sets) {
+    if (sets.empty()) return false;
+    Globals().SetsToShow = sets;
+    const bool isAccepted = OpenTable(field, TiedTableForm, sets.front());
+    Globals().SetsToShow.clear();
+    return isAccepted;
 }
 
 } // namespace vexora

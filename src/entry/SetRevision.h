@@ -5,12 +5,14 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "ui/Control.h"
 
 namespace vexora {
 
 class clsData;
+class clsMV;
 class DataSet;
 
 /// Whether a row states something of one quantity, 0 the property; of the property its evaluated
@@ -29,5 +31,9 @@ bool AskToDropRows(ui::Control& field, std::size_t rows);
 /// Opens the table on a set, as a link of the chain behind the form; true when it was accepted. The
 /// working context is then as it was before, for the table makes its own.
 bool EnterRows(ui::Control& field, const std::shared_ptr<DataSet>& set, bool includeDigits);
+
+/// Opens the table of sets that share tie lines, in the same way. They have to stand in the
+/// document as the table is to show them.
+bool EnterTiedRows(ui::Control& field, const std::vector<std::shared_ptr<clsMV>>& sets);
 
 } // namespace vexora

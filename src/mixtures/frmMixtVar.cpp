@@ -86,6 +86,7 @@ void frmMixtVar::Load() {
     globals.DialogAccepted = false;
     as_ = std::dynamic_pointer_cast<clsMV>(std::exchange(globals.SetToRepeat, nullptr));
     if (globals.EditMixtVar) as_ = record_ = globals.CurrentMV;
+    tied_ = std::exchange(globals.SetsToShow, {});
     if (!globals.CurrentMethod) globals.CurrentMethod = std::make_shared<clsMethod>();
     {
         const ui::FillingScope filling(*this);

@@ -19,7 +19,8 @@ class clsMV;
 
 /// Defines a set of a property of a mixture: its samples, the phases in equilibrium, what is held
 /// constant and what varies, and leads to its table (frmData2). The set joins the tree, or an
-/// edited one is changed (EditMixtVar), only when the table has been accepted. The property in hand
+/// edited one is changed (EditMixtVar), only when the table has been accepted. Of tied sets
+/// (SetsToShow) the table of all of them follows (frmProcess). The property in hand
 /// stands in the globals, or comes from a set that is to be repeated (SetToRepeat).
 ///
 /// Phases and constraints leave so many variables as the phase rule says; their rows follow the
@@ -148,6 +149,7 @@ private:
     bool MayLoseVariables();
     bool DropNumbers(clsMV& set);
     bool EnterNumbers(const std::shared_ptr<clsMV>& set);
+    bool EnterTied(const clsMV& set);
     void Store(const std::shared_ptr<clsMV>& set);
 
     // What the form says, in a set (frmMixtVar_write.cpp).
@@ -170,12 +172,13 @@ private:
     std::array<std::unique_ptr<SampleList>, MostComponents> samples_;
     PropertyRow row_; // the property in hand
     std::vector<VariableRow> variables_, constraints_;
-    bool constraintsChosen_ = false;  // by a person, and so not to be preset
-    std::set<std::string> allowed_;   // questions that were answered, or held from the start
-    bool keepsSolvent_ = false;       // the set that the form began with names one unasked
-    bool keepsState_ = false;         // the same of a standard state
-    std::string openAtFirst_;         // the variable whose constant value was shown first
-    std::shared_ptr<clsMV> record_;   // the set that is being edited, null for a new one
+    bool constraintsChosen_ = false; // by a person, and so not to be preset
+    std::set<std::string> allowed_;  // questions that were answered, or held from the start
+    bool keepsSolvent_ = false;      // the set that the form began with names one unasked
+    bool keepsState_ = false;        // the same of a standard state
+    std::string openAtFirst_;        // the variable whose constant value was shown first
+    std::shared_ptr<clsMV> record_;  // the set that is being edited, null for a new one
+    std::vector<std::shared_ptr<clsMV>> tied_; // those that its table is to show with it
     std::shared_ptr<const clsMV> as_; // the set that the form began with: that one, or its pattern
 };
 

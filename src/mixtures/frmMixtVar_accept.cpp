@@ -24,6 +24,10 @@ void frmMixtVar::Accept() {
     const auto set = MakeSet();
     if (TurnsRows()) ui::Say("The rows of the table are brought to system units");
     const bool none = Draft().numerical == Presentation::NoNumbers;
+    if (!none && !tied_.empty()) {
+        if (EnterTied(*set)) Close();
+        return;
+    }
     if (none ? !DropNumbers(*set) : !EnterNumbers(set)) return;
     Store(set);
     Close();
@@ -197,6 +201,20 @@ bool frmMixtVar::EnterNumbers(const std::shared_ptr<clsMV>& set) {
     return EnterRows(cmdOK, set,
                      chkIncludeDigit.Value() ||
                          (TurnsRows() && std::ranges::any_of(set->recData, isDigit)));
+}
+
+/// The table of all tied sets shows them as they stand, so the definition is stored first, and
+/// taken back with a table that is cancelled. What the table is accepted for, it stores itself.
+bool frmMixtVar::EnterTied(const clsMV& set) {
+    const clsMV before = *record_;
+    record_->Replace(set);
+    if (!EnterTiedRows(cmdOK, tied_)) {
+        record_->Replace(before);
+        return false;
+    }
+    Globals().Saved = false;
+    Globals().DialogAccepted = true;
+    return true;
 }
 
 void frmMixtVar::Store(const std::shared_ptr<clsMV>& set) {

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "globals/KVOGlobal.h"
+#include "records/TiedSets.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
@@ -27,8 +28,16 @@ void TakePropertyOfMixtureValue() {
     Globals().PropertyCode = Globals().CurrentMZ->PRPCODE;
 }
 
+/// Tied sets may be brought before the user side by side.
 void TakePropertyOfMixtureSet() {
-    Globals().PropertyCode = Globals().CurrentMV->PRPCODE;
+    KVOGlobal& globals = Globals();
+    clsMV& set = *globals.CurrentMV;
+    globals.PropertyCode = set.PRPCODE;
+    globals.SetsToShow.clear();
+    if (set.IsTied() && ui::Forms::Current().Knows("frmProcess") &&
+        ui::AskYesNo("This data set is tied with another\n"
+                     "Would you like to access all tied sets?"))
+        globals.SetsToShow = TiedSets(set);
 }
 
 constexpr EditRule EditRules[] = {
