@@ -33,8 +33,7 @@ void CloseForm() {
     if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;
     const std::string opener = globals.OpenForms.back();
     globals.OpenForms.pop_back();
-    const bool editing = globals.EditReaction || globals.EditChanged || globals.EditEquilibrium;
-    if (opener != "frmMain" && !editing) {
+    if (opener != "frmMain") {
         ui::Form* form = ui::Forms::Current().Find(opener);
         if (form && (globals.AdvancedMode || !form->IsVisible())) form->Show();
     }

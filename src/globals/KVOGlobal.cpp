@@ -42,7 +42,8 @@ void KVOGlobal::ForgetCurrent() {
 }
 
 bool KVOGlobal::IsEditingInPlace() const {
-    return EditCompound || EditSample || EditSingle || EditTwo || EditMixtSingle || EditMixtVar;
+    return EditCompound || EditSample || EditSingle || EditTwo || EditMixtSingle || EditMixtVar ||
+           EditReaction || EditChanged || EditEquilibrium;
 }
 
 KVOGlobal& Globals() {

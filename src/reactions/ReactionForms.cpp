@@ -1,8 +1,11 @@
 #include "reactions/ReactionForms.h"
 
+#include "reactions/frmReact.h"
+
 namespace vexora {
 
-void RegisterReactionForms(ui::Forms&) {
+void RegisterReactionForms(ui::Forms& forms) {
+    forms.Register<frmReact>("frmReact");
 }
 
 } // namespace vexora

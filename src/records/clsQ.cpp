@@ -81,6 +81,13 @@ void clsQ::RemoveParticipant(int i) {
     slots_.back() = {};
 }
 
+void clsQ::TakeDefinition(const clsQ& other) {
+    REACTCLASS = other.REACTCLASS;
+    SOLVENTRN = other.SOLVENTRN;
+    INERTRN = other.INERTRN;
+    slots_ = other.slots_;
+}
+
 std::shared_ptr<clsL> clsQ::Compound(int i) const {
     const clsR* const source = SourceOf(*this);
     return source && !NamesNoCompound(RN(i)) ? source->FindL(RN(i)) : nullptr;

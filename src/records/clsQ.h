@@ -63,6 +63,8 @@ public:
     void RN(int i, std::string_view number);
     /// Takes compound, coefficient and sample out of a slot; the later ones move up by one.
     void RemoveParticipant(int i);
+    /// Class, participants with coefficients and samples, solvent and inert compound of another.
+    void TakeDefinition(const clsQ& other);
 
     /// The compound that is participant i, null when the source has none.
     std::shared_ptr<clsL> Compound(int i) const;

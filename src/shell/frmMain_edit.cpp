@@ -8,6 +8,8 @@
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
+#include "shell/EditScope.h"
+#include "shell/ReactionReview.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -20,16 +22,17 @@ struct EditRule {
     std::string_view nodeKey;
     std::string_view dialog;
     bool KVOGlobal::*flag;
-    void (*prepare)() = nullptr; // done first
+    bool (*prepare)() = nullptr; // done first, under the flag; false when it ends there
 };
 
 /// The dialogs of mixtures look up what they offer by the property in hand.
-void TakePropertyOfMixtureValue() {
+bool TakePropertyOfMixtureValue() {
     Globals().PropertyCode = Globals().CurrentMZ->PRPCODE;
+    return true;
 }
 
 /// Tied sets may be brought before the user side by side.
-void TakePropertyOfMixtureSet() {
+bool TakePropertyOfMixtureSet() {
     KVOGlobal& globals = Globals();
     clsMV& set = *globals.CurrentMV;
     globals.PropertyCode = set.PRPCODE;
@@ -38,6 +41,7 @@ void TakePropertyOfMixtureSet() {
         ui::AskYesNo("This data set is tied with another\n"
                      "Would you like to access all tied sets?"))
         globals.SetsToShow = TiedSets(set);
+    return true;
 }
 
 constexpr EditRule EditRules[] = {
@@ -53,24 +57,14 @@ constexpr EditRule EditRules[] = {
     {"RM2", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
     {"RM3", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
     {"RQ", "frmReact", &KVOGlobal::EditReaction},
+    {"RQC", "frmChanged", &KVOGlobal::EditChanged, ReviewReactionOfChange},
+    {"RQE", "frmEquil", &KVOGlobal::EditEquilibrium, ReviewReactionOfEquilibrium},
     {"RX", "frmComplex", &KVOGlobal::EditComplex},
     {"RXS", "frmComplexSample", &KVOGlobal::EditComplexSample},
     {"RXSX", "frmCrStruct", &KVOGlobal::EditCrystal},
     {"RBR", "frmBioReact", &KVOGlobal::EditBioReact},
     {"RBP", "frmBioProp", &KVOGlobal::EditBioProp},
     {"RXSP", "frmGH", &KVOGlobal::EditBioProp},
-};
-
-/// Tells the dialog that it runs on an existing record, as long as it lasts.
-class EditScope {
-public:
-    explicit EditScope(bool& flag) : flag_(flag) { flag_ = true; }
-    ~EditScope() { flag_ = false; }
-    EditScope(const EditScope&) = delete;
-    EditScope& operator=(const EditScope&) = delete;
-
-private:
-    bool& flag_;
 };
 
 const EditRule* RuleOf(std::string_view nodeKey) {
@@ -106,10 +100,10 @@ void frmMain::EditNode() {
     if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
     RenewCurrentMethod();
     globals.DialogAccepted = false;
-    if (rule->prepare != nullptr) rule->prepare();
     {
         const EditScope editing(globals.*rule->flag);
-        ui::Forms::Current().Get(rule->dialog).ShowModal();
+        if (rule->prepare == nullptr || rule->prepare())
+            ui::Forms::Current().Get(rule->dialog).ShowModal();
     }
     ui::TreeNode* node = tvwTree.SelectedNode();
     if (globals.DialogAccepted && node != nullptr) {

@@ -8,6 +8,7 @@
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
+#include "shell/ReactionReview.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -92,7 +93,7 @@ constexpr Offer Offers[] = {
     {"RLS", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
     {"RM", "AddProp", "frmProperty", "", "frmMixtSingle", nullptr, CheckSamplesOfMixture},
     {"RM", "AddTable", "frmProcess", "", "frmSelect", nullptr, ChooseTable},
-    {"RQ", "AddProp", "frmProperty", "", "frmChanged"},
+    {"RQ", "AddProp", "frmProperty", "React", "frmChanged", nullptr, ReviewReactionOfFile},
     {"RXS", "AddProp", "frmCrStruct"},
 };
 

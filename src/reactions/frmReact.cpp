@@ -1,0 +1,191 @@
+#include "reactions/frmReact.h"
+
+#include "chem/Balancer.h"
+#include "globals/KVOGlobal.h"
+#include "reactions/Combustion.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "records/clsS.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr int Count = clsQ::MostParticipants;
+constexpr const char* NoSample = "No sample";
+constexpr const char* NotBalancedTitle = "Unable to Balance Reaction";
+constexpr const char* ByHand = "Verify the reaction participants or \n"
+                               "Enter the stoichiometric coefficients manually.\n"
+                               "(Reactants = negative numbers; Products = positive numbers)";
+
+void TellWhyUnbalanced(BalanceOutcome outcome) {
+    if (outcome == BalanceOutcome::Unable)
+        ui::Say("Unable to balance\nTry to add or eliminate a participant");
+    else if (outcome == BalanceOutcome::Ambiguous)
+        ui::Say(std::string("The equation is ambiguous\n") + ByHand, NotBalancedTitle);
+    else
+        ui::Say(ByHand, NotBalancedTitle);
+}
+
+} // namespace
+
+frmReact::frmReact() : ChainForm("frmReact", "Reaction") {
+    for (int n = 0; n < Count; ++n) {
+        compounds_.emplace_back(*this, cmbComp(n));
+        samples_.emplace_back(*this, cboSample(n), NoSample);
+    }
+    ArrangeControls();
+    WireEvents();
+    UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
+    HelpContext = 270;
+    cmdComplete.ToolTip("Adds oxygen and what the first participant burns to");
+    cmdEquate.ToolTip("Finds the coefficients; the first one typed, or -1, fixes the scale");
+}
+
+void frmReact::ArrangeControls() {
+    using namespace ui;
+    std::vector<Layout> rows = {
+        Note("Coefficients of reactants are negative, those of products positive.")};
+    for (int n = 0; n < Count; ++n)
+        rows.push_back(Field(std::to_string(n + 1) + ":",
+                             Row({cmbComp(n), Field("Coefficient:", Narrow(txtCoeff(n), 12)),
+                                  Field("Sample:", Narrow(cboSample(n), 9))})));
+    rows.push_back(Row({Stretch(), cmdComplete, cmdEquate, cmdCheck}));
+    Arrangement =
+        Column({Field("Reaction class:", cboReactClass), Group("Participants", rows),
+                Row({Field("Solvent:", cmbSolvent), Field("Inert or catalyst:", cmbInert)}),
+                Group("Equation", {lblEquation, lblSurplus}), ButtonRow({cmdAccept, cmdCancel})});
+    TabAlongArrangement();
+    PreferredColumns = 125;
+}
+
+void frmReact::WireEvents() {
+    cboReactClass.OnClick = [this] { ClassClick(); };
+    for (int i = 1; i <= Count; ++i) {
+        cmbComp(i - 1).OnClick = [this, i] { CompoundClick(i); };
+        txtCoeff(i - 1).OnChange = [this, i] { CoefficientChanged(i); };
+        cboSample(i - 1).OnClick = [this, i] { SampleClick(i); };
+    }
+    cmbSolvent.OnClick = [this] { OtherClick(solvent_, draft_.SOLVENTRN); };
+    cmbInert.OnClick = [this] { OtherClick(inert_, draft_.INERTRN); };
+    cmdEquate.OnClick = [this] { Equate(); };
+    cmdComplete.OnClick = [this] { Complete(); };
+    cmdCheck.OnClick = [this] { CheckStoichiometry(); };
+}
+
+void frmReact::Load() {
+    KVOGlobal& globals = Globals();
+    globals.DialogAccepted = false;
+    record_ = globals.EditReaction ? globals.CurrentQ : nullptr;
+    if (record_) draft_.TakeDefinition(*record_);
+    FillClasses();
+    Fill();
+    // Whoever comes from a compound means it to take part.
+    if (!record_ && globals.CurrentKey == "RL" && globals.CurrentL)
+        SetCompound(1, globals.CurrentL->RN);
+    ShowEquation();
+    if (record_) Caption("Edit: Reaction");
+    if (HasData()) txtCoeff(0).SetFocus(); // its compounds are closed
+}
+
+/// Helpers opened on the way have had answers of their own.
+void frmReact::Unload() {
+    DropUnused();
+    Globals().DialogAccepted = accepted_;
+    ChainForm::Unload();
+}
+
+void frmReact::ClassClick() {
+    if (Filling) return;
+    const std::string& text = cboReactClass.Chosen();
+    const std::string code = ReactionCode(text);
+    draft_.REACTCLASS = code.empty() ? text : code;
+    ShowEquation();
+}
+
+void frmReact::CompoundClick(int i) {
+    if (Filling) return;
+    const auto rn = compounds_[static_cast<std::size_t>(i - 1)].Click();
+    if (rn && *rn != draft_.RN(i)) SetCompound(i, *rn);
+    FillCompounds();
+    ShowEquation();
+}
+
+/// Solvent and inert compound.
+void frmReact::OtherClick(CompoundList& list, std::string& rn) {
+    if (Filling) return;
+    if (const auto chosen = list.Click()) rn = *chosen;
+    FillCompounds();
+}
+
+void frmReact::CoefficientChanged(int i) {
+    if (Filling) return;
+    draft_.Coeff(i, NormalizeNumber(txtCoeff(i - 1).Text()));
+    ShowEquation();
+}
+
+/// The dialog may come back with a sample of another participant, or with another compound.
+void frmReact::SampleClick(int i) {
+    if (Filling) return;
+    const auto made = samples_[static_cast<std::size_t>(i - 1)].Click();
+    TakeSample(i);
+    if (!made) return;
+    FillCompounds();
+    for (int other = 1; other <= Count; ++other) {
+        if (other == i || draft_.RN(other) != made->Parent->RN) continue;
+        const bool isOpen = draft_.SMPNM(other).empty();
+        FillRow(other);
+        if (!isOpen) continue;
+        samples_[static_cast<std::size_t>(other - 1)].Choose(made.get());
+        TakeSample(other);
+    }
+}
+
+/// Coefficients that balance already stay as they are.
+void frmReact::Equate() {
+    if (!CheckFormulas()) return;
+    const BalanceResult result = Balance(Formulas(), draft_.Coefficients());
+    if (result.outcome != BalanceOutcome::Balanced) return TellWhyUnbalanced(result.outcome);
+    for (int i = Count; i >= 1; --i) {
+        if (!IsUsed(i)) continue;
+        const std::string& text = result.coefficients[static_cast<std::size_t>(i - 1)];
+        draft_.Coeff(i, text);
+        // What takes no part goes, unless data tell of it.
+        if (Val(text) == 0 && !HasData()) draft_.RemoveParticipant(i);
+    }
+    Fill();
+    ShowEquation();
+}
+
+void frmReact::Complete() {
+    const CombustionCompound oxygen = OxygenOfCombustion();
+    if (!IsUsed(1) || draft_.RN(1) == oxygen.rn) {
+        Refuse(cmbComp(0), "Select 1st reaction participant");
+        return;
+    }
+    if (!CheckFormulas()) return;
+    const auto products = ProductsOfCombustion(ParticipantFormula(1));
+    if (!CompleteCombustion(draft_, products)) {
+        Refuse(cmbComp(Count - 1), "No free slot for the products");
+        return;
+    }
+    MakeCompound(oxygen);
+    for (const CombustionCompound& product : products)
+        MakeCompound(product);
+    Fill();
+    ShowEquation();
+}
+
+void frmReact::CheckStoichiometry() {
+    if (!CheckFormulas()) return;
+    if (CheckEquation())
+        ui::Say("Reaction is balanced");
+    else
+        ui::Say("Reaction is NOT balanced", "Error");
+}
+
+} // namespace vexora
