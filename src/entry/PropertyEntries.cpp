@@ -23,6 +23,8 @@ constexpr PropertyEntry Entries[] = {
     {"Bin", EntryKind::Table, 1, "frmMixtVar"},    {"Tern", EntryKind::Table, 1, "frmMixtVar"},
     {"Bin", EntryKind::Table, 2, "frmMixtVar"},    {"Tern", EntryKind::Table, 2, "frmMixtVar"},
     {"Bin", EntryKind::Table, 3, "frmMixtVar"},    {"Tern", EntryKind::Table, 3, "frmMixtVar"},
+    {"React", EntryKind::Value, 0, "frmChanged"},  {"React", EntryKind::Table, 1, "frmEquil"},
+    {"React", EntryKind::Table, 2, "frmEquil"},    {"React", EntryKind::Table, 3, "frmEquil"},
 };
 
 } // namespace
@@ -46,6 +48,13 @@ bool IsMixtureContext(std::string_view context) {
 
 bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount,
                  std::string_view context) {
+    if (context == "React") {
+        // Codes of equilibrium constants begin so; all others are changes between two states.
+        const bool isTable = row.Code.starts_with('K');
+        const EntryKind its = isTable ? EntryKind::Table : EntryKind::Value;
+        const int least = isTable ? 1 : 0, most = isTable ? 3 : 0;
+        return row.REACT && kind == its && variableCount >= least && variableCount <= most;
+    }
     if (IsMixtureContext(context)) {
         if (kind == EntryKind::Table) return variableCount >= 1 && variableCount <= 3 && row.MixV;
         // A single value of a property of tables is one at a stated temperature or pressure.

@@ -27,7 +27,8 @@ bool IsMixtureContext(std::string_view context);
 
 /// Whether the columns of the property let data of it be entered so. Pure data: a value at 0 or 1
 /// fixed variables, a table against 1 or 2, as many as the phase rule leaves. Mixtures: a value, or
-/// a table against 1 to 3.
+/// a table against 1 to 3. Reactions: a value of a property change, a table of an equilibrium
+/// against 1 to 3.
 bool AllowsEntry(const PropertyRow& row, EntryKind kind, int variableCount,
                  std::string_view context = "Pure");
 

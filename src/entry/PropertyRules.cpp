@@ -21,11 +21,20 @@ bool IsOfVaporEquilibrium(std::string_view code) {
     return IsOneOf(code, {"T", "P", "TB", "X1", "X2", "X3", "W1", "W2", "W3"});
 }
 
+/// Of reactions: H second-law enthalpies, M, C, W and V what a heat of combustion goes by, L
+/// logarithms of equilibrium constants.
+bool LetterAppliesToReaction(std::string_view letter, std::string_view code) {
+    if (letter == "L") return code.starts_with('K');
+    if (letter == "H") return code == "HR";
+    return IsOneOf(letter, {"M", "C", "W", "V"}) && IsOneOf(code, {"HR", "UR"});
+}
+
 /// Which letters make sense: H second-law enthalpies, S speed of sound as source, Y vapour
-/// compositions of mixtures. Letters of reactions are not offered here.
+/// compositions of mixtures.
 bool LetterApplies(std::string_view letter, std::string_view code, std::string_view context) {
-    if (letter == "Y") return IsMixtureContext(context) && IsOfVaporEquilibrium(code);
     if (letter == "m") return true;
+    if (context == "React") return LetterAppliesToReaction(letter, code);
+    if (letter == "Y") return IsMixtureContext(context) && IsOfVaporEquilibrium(code);
     if (letter == "H") return code == "HTR" || code == "HVP";
     if (letter == "S") return code == "CP" || code == "VPA";
     return false;

@@ -151,7 +151,8 @@ void frmProperty::ShowEntries() {
     const std::string& context = Globals().DataContext;
     for (const Entry& entry : entries_) {
         // A point at a fixed variable is entered of pure compounds only.
-        const bool exists = !IsMixtureContext(context) || &entry.button != &cmdFixed;
+        const bool ofPure = !IsMixtureContext(context) && context != "React";
+        const bool exists = ofPure || &entry.button != &cmdFixed;
         OfferEntry(entry,
                    row ? AllowsEntry(*row, entry.kind, entry.variableCount, context) : exists);
     }

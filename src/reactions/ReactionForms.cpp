@@ -1,11 +1,13 @@
 #include "reactions/ReactionForms.h"
 
+#include "reactions/frmChanged.h"
 #include "reactions/frmReact.h"
 
 namespace vexora {
 
 void RegisterReactionForms(ui::Forms& forms) {
     forms.Register<frmReact>("frmReact");
+    forms.Register<frmChanged>("frmChanged");
 }
 
 } // namespace vexora
