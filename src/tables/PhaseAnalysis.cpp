@@ -166,31 +166,37 @@ private:
         first_ = first == kept_.end() ? -1 : static_cast<int>(first - kept_.begin());
     }
 
-    /// State variables that vary, the one that is preferred in front: that of stored sets, then
-    /// that of more values where it matters, then the temperature.
+    /// State variables that vary, that of more values in front where it matters.
     std::vector<int> VaryingStates(bool byValues) const {
         std::vector<int> columns;
         for (const State& state : states_)
             if (state.varies) columns.push_back(state.column);
-        if (columns.size() < 2) return columns;
-        const auto isVariable = [this](int column) { return Head(column).role == Role::Variable; };
-        const bool differ = isVariable(columns[0]) != isVariable(columns[1]);
-        const bool isTurned = differ
-                                  ? isVariable(columns[1])
-                                  : byValues && StateValues(table_, rows_, columns[1]).size() >
-                                                    StateValues(table_, rows_, columns[0]).size();
-        if (isTurned) std::swap(columns[0], columns[1]);
+        const auto count = [this](int column) { return StateValues(table_, rows_, column).size(); };
+        if (byValues && columns.size() == 2 && count(columns[1]) > count(columns[0]))
+            std::swap(columns[0], columns[1]);
+        return columns;
+    }
+    /// The columns that are variables of the stored sets that filled the table.
+    std::vector<int> StoredVariables() const {
+        std::vector<int> columns;
+        for (const State& state : states_)
+            if (state.varies && Head(state.column).role == Role::Variable)
+                columns.push_back(state.column);
+        for (const KeptColumns& phase : kept_)
+            for (const int column : phase.kept)
+                if (Head(column).role == Role::Variable) columns.push_back(column);
         return columns;
     }
     void ChooseIndependents() {
         if (IsRefused()) return;
+        const std::vector<int> stored = StoredVariables();
+        if (static_cast<int>(stored.size()) == result_.nVar) {
+            independents_ = stored;
+            return;
+        }
         const bool byComposition = IsBinary() && heads_.HasGas();
         const bool isLayered = !IsBinary() && result_.PhaseCount() == 2;
-        // Both are variables then, in their usual order.
-        const bool takesBoth = !byComposition && result_.nVar > 1;
         std::vector<int> columns = VaryingStates(byComposition);
-        if (takesBoth)
-            std::ranges::sort(columns, {}, [this](int c) { return c != states_[0].column; });
         const int composition = first_ < 0 ? -1 : kept_[static_cast<std::size_t>(first_)].variable;
         if (composition >= 0 && byComposition) columns.insert(columns.begin(), composition);
         if (composition >= 0 && isLayered) columns.push_back(composition);

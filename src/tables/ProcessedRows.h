@@ -29,6 +29,7 @@ public:
     ProcessedRows(const ProcessTable& table, const DataSet& set, const RowColumns& columns);
 
     clsData NewRow(int row, const std::string& tie) const;
+
 private:
     const clsData* StoredRow(int row) const;
     bool IsUntouched(int row) const;

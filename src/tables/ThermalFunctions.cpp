@@ -146,31 +146,15 @@ private:
     std::vector<Finding> findings_;
 };
 
-} // namespace
+/// The first thing that is missing counts.
+void Refuse(ThermalAnalysis& analysis, const std::string& hint) {
+    if (hint.empty() || !analysis.message.empty()) return;
+    analysis.message = DataErrors;
+    analysis.hint = hint;
+}
 
-ThermalAnalysis AnalyseTDF(const ProcessTable& table) {
-    ThermalAnalysis analysis;
-    const auto refuse = [&analysis](const std::string& hint) {
-        if (hint.empty() || !analysis.message.empty()) return;
-        analysis.message = DataErrors;
-        analysis.hint = hint;
-    };
-    std::string fault;
-    const std::vector<int> uncertainty = UncertaintyColumns(table, fault);
-    analysis.TColumn = table.ColumnOf("T");
-    for (int column = 0; column < static_cast<int>(table.columns.size()); ++column) {
-        refuse(FaultOf(table, column, analysis.TColumn));
-        const ProcessColumn& head = HeadOf(table, column);
-        if (!IsThermalFunction(head.quantity)) continue;
-        analysis.PropColumn = column;
-        analysis.sets.push_back(
-            {column, uncertainty[static_cast<std::size_t>(column)], head.quantity, {}});
-    }
-    refuse(fault);
-    if (analysis.TColumn < 0) refuse("A column of temperatures");
-    if (analysis.PropColumn < 0) refuse("A column of a property");
-    if (analysis.TColumn >= 0 && uncertainty[static_cast<std::size_t>(analysis.TColumn)] >= 0)
-        refuse("No uncertainties of temperatures, which have no place in the sets");
+/// A value without its temperature is no reason to refuse the table: its cell is told of.
+void TakeRows(const ProcessTable& table, ThermalAnalysis& analysis) {
     bool hasValue = false;
     std::size_t rows = 0;
     for (int row = 0; row < static_cast<int>(table.rows.size()); ++row) {
@@ -182,8 +166,33 @@ ThermalAnalysis AnalyseTDF(const ProcessTable& table) {
             if (!table.Cell(row, analysis.TColumn).empty()) planned.rows.push_back(row);
         }
     }
-    if (rows > MostRows) refuse("At most " + std::to_string(MostRows) + " rows");
-    if (!hasValue) refuse("A row with a temperature and a property");
+    if (rows > MostRows) Refuse(analysis, "At most " + std::to_string(MostRows) + " rows");
+    if (!hasValue) Refuse(analysis, "A row with a temperature and a property");
+}
+
+} // namespace
+
+ThermalAnalysis AnalyseTDF(const ProcessTable& table) {
+    ThermalAnalysis analysis;
+    std::string fault;
+    const std::vector<int> uncertainty = UncertaintyColumns(table, fault);
+    const auto uncertaintyOf = [&](int column) {
+        return column < 0 ? -1 : uncertainty[static_cast<std::size_t>(column)];
+    };
+    analysis.TColumn = table.ColumnOf("T");
+    for (int column = 0; column < static_cast<int>(table.columns.size()); ++column) {
+        Refuse(analysis, FaultOf(table, column, analysis.TColumn));
+        const ProcessColumn& head = HeadOf(table, column);
+        if (!IsThermalFunction(head.quantity)) continue;
+        analysis.PropColumn = column;
+        analysis.sets.push_back({column, uncertaintyOf(column), head.quantity, {}});
+    }
+    Refuse(analysis, fault);
+    if (analysis.TColumn < 0) Refuse(analysis, "A column of temperatures");
+    if (analysis.PropColumn < 0) Refuse(analysis, "A column of a property");
+    if (uncertaintyOf(analysis.TColumn) >= 0)
+        Refuse(analysis, "No uncertainties of temperatures, which have no place in the sets");
+    TakeRows(table, analysis);
     analysis.Ok = analysis.message.empty();
     return analysis;
 }

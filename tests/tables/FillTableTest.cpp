@@ -236,7 +236,7 @@ TEST_F(FillTableTest, WhatHasNoPlaceInTheTableIsRefused) {
         {"^B 64175 7732185 P\n" + Head + "^1 1 1 P S DIR 1 Y L X1 0.5 G & T S & & & & & &\n",
          "The table has no column for the constraint "},
         {"^B 64175 7732185 P\n" + Head +
-             "^1 1 1 P S DIR 1 Y L1 L2 & G & T C & & & & & &\n^d 20 5 &\n",
+             "^1 1 1 P S DIR 1 Y G L & T 353.15 X1 S & & & & & &\n^d 0.1 500 &\n",
          "A table of phase equilibria gives other sets than these"},
         {"^B 64175 7732185 P\n" + Head +
              "^1 1 1 P S DIR 1 Y L G & T 353.15 X1 S & & & & & &\n^d 0.1 500 &\n^d 0.2 & &\n",

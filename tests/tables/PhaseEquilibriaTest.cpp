@@ -43,6 +43,12 @@ TEST_F(PhaseEquilibria, BoilingTemperaturesAndTheGasAtOnePressure) {
         Rows(Boiling, {2, 0}) + Header + "^1 1 1 X1 D DIR 1 Y G P 101.325 L -1 X1 D & & & & & &\n" +
         Rows(Boiling, {2, 3});
     EXPECT_EQ(Saved(), lines);
+    // The pressure may as well be known apart from the table.
+    const ProcessSystem again = Mixture("^B 64175 7732185 &");
+    ProcessTable withoutPressure = TableOf(2, Boiling);
+    withoutPressure.columns[1] = {};
+    Process(withoutPressure, again, {.P = "101.325"});
+    EXPECT_EQ(Saved(), lines);
     const std::string xml = Leaving();
     const std::string row = "/NumValues[1]/VariableValue";
     EXPECT_EQ(At(xml, row + "/nVarValue") + "; " + At(xml, row + "/nVarDigits"),
@@ -204,15 +210,20 @@ TEST_F(PhaseEquilibria, ConstantsComeOfTheColumnsOrAreAskedFor) {
               "T(L) X1(L) : G P=50 *1\nX1(G) X1(L) : L P=50 *1\n");
     filled.columns[1].role = ProcessColumn::Role::Variable;
     filled.rows.resize(2, filled.rows[0]);
-    EXPECT_EQ(Told(filled, AnalyseVLE(filled)),
-              "P(L) X1(L) : G T=300 *2\nX1(G) X1(L) : L T=300 *2\n");
+    EXPECT_EQ(Told(filled, AnalyseVLE(filled)), "X1(L) P : G T=300 *2\nX1(G) P : L T=300 *2\n");
     filled.columns[0].role = ProcessColumn::Role::Constant;
     filled.columns[1].role = ProcessColumn::Role::Free;
     EXPECT_EQ(Told(filled, AnalyseVLE(filled)),
               "P(L) X1(L) : G T=300 *2\nX1(G) X1(L) : L T=300 *2\n");
     filled.columns[1].role = ProcessColumn::Role::Variable;
     filled.rows[1].cells[0] = "310";
-    EXPECT_EQ(Told(filled, AnalyseVLE(filled)), "T(L) X1(L) P : G *2\nX1(G) X1(L) P : L *2\n");
+    filled.columns[2].role = ProcessColumn::Role::Variable;
+    EXPECT_EQ(Told(filled, AnalyseVLE(filled)), "T(L) P X1(L) : G *2\nX1(G) P X1(L) : L *2\n");
+    // It may be one that a new table would not be told against.
+    ProcessTable turned = TableOf(2, "T X1 X1\nS D D\n- L1 L2\n300 .1 .2\n310 .2 .3");
+    turned.columns[2].role = ProcessColumn::Role::Variable;
+    EXPECT_EQ(Told(turned, AnalyseVLE(turned)),
+              "T(L1) X1(L2) : L2 & *2\nX1(L1) X1(L2) : L2 & *2\n");
 }
 
 TEST_F(PhaseEquilibria, HeadsAndValuesTellWhatIsAgainstWhat) {
