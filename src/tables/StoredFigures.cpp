@@ -31,13 +31,8 @@ public:
         for (int n = 0; n <= made.nVar; ++n) {
             const auto i = static_cast<std::size_t>(n);
             columns_[i] = ColumnOf(n);
-            const auto column = static_cast<std::size_t>(columns_[i]);
-            const ProcessColumn& head = table.columns[column];
-            const bool wasThere = column < table.origin->columns.size();
-            isUnitKept_[i] = wasThere && head.unit == table.origin->columns[column].unit &&
-                             head.factor == table.origin->columns[column].factor;
-            shown_[i] = ColumnUnit::Of(head);
-            isAsShown_[i] = !isUnitKept_[i] || ColumnUnit{stored.Conversion(n)} == shown_[i];
+            shown_[i] = ColumnUnit::Of(table.columns[static_cast<std::size_t>(columns_[i])]);
+            isAsShown_[i] = ColumnUnit{stored.Conversion(n)} == shown_[i];
         }
     }
 
@@ -52,6 +47,17 @@ public:
         }
     }
 
+    /// Where a head names another unit now, the figures of the table are those of a paper.
+    bool AreUnitsKept() const {
+        for (int n = 0; n <= made_.nVar; ++n) {
+            const auto column = static_cast<std::size_t>(columns_[static_cast<std::size_t>(n)]);
+            const auto& before = table_.origin->columns;
+            if (column >= before.size() || table_.columns[column].unit != before[column].unit ||
+                table_.columns[column].factor != before[column].factor)
+                return false;
+        }
+        return true;
+    }
     /// A row of the stored sets stands in another unit than a row that was typed would.
     bool IsMixed() const {
         return std::ranges::find(isAsShown_, false) != isAsShown_.end() ||
@@ -74,14 +80,10 @@ private:
     }
 
     void TakeUnits() {
-        if (isUnitKept_[0]) {
-            made_.PROPERTY_UNIT = stored_.PROPERTY_UNIT;
-            made_.Factor = stored_.Factor;
-        }
-        for (int n = 1; n <= made_.nVar; ++n) {
-            const auto i = static_cast<std::size_t>(n);
-            if (isUnitKept_[i]) made_.Variables[i - 1].unit = stored_.Variables[i - 1].unit;
-        }
+        made_.PROPERTY_UNIT = stored_.PROPERTY_UNIT;
+        made_.Factor = stored_.Factor;
+        for (std::size_t i = 0; i < made_.Variables.size(); ++i)
+            made_.Variables[i].unit = stored_.Variables[i].unit;
     }
 
     const CellOrigin* OriginOf(const ProcessRow& typed, int column) const {
@@ -102,7 +104,7 @@ private:
         bool isUnchanged = from != nullptr;
         for (int n = 0; n <= made_.nVar; ++n) {
             const auto i = static_cast<std::size_t>(n);
-            if (from && isUnitKept_[i] && IsUnedited(typed, columns_[i])) {
+            if (from && IsUnedited(typed, columns_[i])) {
                 TakeItem(row, *from, n);
             } else {
                 isUnchanged = false;
@@ -120,8 +122,8 @@ private:
     void TakeUncertainty(clsData& row, const ProcessRow& typed, const clsData& from) const {
         if (!row.Extras) return;
         std::string& combined = row.Extras->userCU;
-        const bool isTaken = isUnitKept_[0] && IsUnedited(typed, columns_[0]);
-        if (isUnitKept_[0] && from.Extras && IsUnedited(typed, planned_.uncertainty))
+        const bool isTaken = IsUnedited(typed, columns_[0]);
+        if (from.Extras && IsUnedited(typed, planned_.uncertainty))
             combined = from.Extras->userCU;
         else if (isTaken && !(row.inOriginalUnits && isAsShown_[0]))
             combined = InUnitOfRow(shown_[0].conversion.DifferenceText(combined), row);
@@ -161,7 +163,7 @@ private:
     bool ofNewRows_ = true; // what rows that were typed stand in: the units of the paper
     static constexpr std::size_t MostItems = DataSet::MostVariables + 1;
     std::array<int, MostItems> columns_{}; // of the property and the variables
-    std::array<bool, MostItems> isUnitKept_{}, isAsShown_{};
+    std::array<bool, MostItems> isAsShown_{};
     std::array<ColumnUnit, MostItems> shown_;
 };
 
@@ -190,7 +192,7 @@ void TakeUpStored(const ProcessTable& table, const PhaseAnalysis& analysis,
         }
         if (!stored || !IsOfSameQuantities(set, *stored)) continue;
         SetFigures figures(table, planned, set, *stored);
-        if (figures.IsMixed()) figures.TakeUp();
+        if (figures.AreUnitsKept() && figures.IsMixed()) figures.TakeUp();
     }
 }
 
