@@ -22,7 +22,7 @@ std::string Rows(std::size_t count) {
 }
 
 /// A pane has room for so many characters.
-constexpr std::size_t Wide = 58;
+constexpr std::size_t Wide = 68;
 
 /// Long lines go on below, further in.
 std::vector<std::string> Wrapped(const std::vector<std::string>& lines) {

@@ -56,11 +56,11 @@ void frmProcess::ArrangeControls() {
     Layout table = Column({tblData, Row({lblHeads, cmdUseHeads}), lblNotice, lstFindings});
     table.columns = 100;
     Layout preview = Column({lblPreview, lstPreview});
-    preview.columns = 62;
+    preview.columns = 70;
     Arrangement = Column({Row({Field(lblPhase, Narrow(lstPhase, 30)), Stretch()}),
                           Split(std::move(table), std::move(preview)),
                           ButtonRow({cmdClear, cmdProcess, cmdCancel})});
-    PreferredColumns = 166;
+    PreferredColumns = 176;
     PreferredRows = 40;
     const char* const labels[] = {"Property", "Units", "Phase"};
     for (int row = 0; row < HeadRows(); ++row)
@@ -86,6 +86,7 @@ void frmProcess::WireEvents() {
         if (Filling) return;
         system_.phase = PhaseChosen(lstPhase);
         outlook_.reset();
+        table_.Findings().FindAgain();
         ShowOutlook();
     };
     cmdUseHeads.OnClick = [this] { UseHeads(); };
@@ -193,7 +194,11 @@ void frmProcess::Unload() {
 void frmProcess::ShowOutlook() {
     if (!heads_) return;
     const Outlook& now = Now();
-    table_.Findings().FindAgain();
+    // The editor asks for the findings of what was typed; other heads change those of all rows.
+    if (const std::string heads = AllHeads(); heads != shownHeads_) {
+        shownHeads_ = heads;
+        table_.Findings().FindAgain();
+    }
     ProposeHeads();
     const ui::FillingScope filling(*this);
     std::vector<std::string> lines = IsPure() ? PreviewOf(now.table, now.functions, *heads_)

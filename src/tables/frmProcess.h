@@ -52,7 +52,7 @@ public:
     ui::ComboBox cboUnit{*this, "cboUnit", ui::ComboBox::Style::Editable};
     ui::ComboBox cboPhase{*this, "cboPhase", ui::ComboBox::Style::Editable};
     ui::Label lblHeads{*this, "lblHeads"};
-    ui::CommandButton cmdUseHeads{*this, "cmdUseHeads", "Use these &heads"};
+    ui::CommandButton cmdUseHeads{*this, "cmdUseHeads", "Use these heads"};
     ui::Label lblNotice{*this, "lblNotice"};
     ui::Label lblPreview{*this, "lblPreview", "Process would make:"};
     ui::ListBox lstPreview{*this, "lstPreview"};
@@ -134,6 +134,7 @@ private:
     ProcessTable filled_; // from stored sets, to keep what they know of rows and columns
     std::optional<ProcessHeads> heads_;
     std::string firstText_, firstHeads_; // to tell whether the table has changed
+    std::string shownHeads_;             // that the findings go by
     GuessedHeads guess_;                 // what the first rows say of the columns
     int guessedRow_ = 0;                 // where these rows begin in the grid
     ui::ComboBox* list_ = nullptr;       // the one that lies over a head

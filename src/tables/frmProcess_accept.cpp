@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "entry/DeletionQuestion.h"
 #include "globals/KVOGlobal.h"
 #include "records/ProcessedSets.h"
 #include "records/clsM.h"
@@ -129,7 +130,7 @@ std::shared_ptr<ProcessedSets> frmProcess::MixtureSets(const Outlook& outlook) {
     const auto shown =
         filled_.origin ? filled_.origin->sets : std::vector<std::shared_ptr<clsMV>>();
     return ProcessedSets::Attach(*system_.mixture, made, shown, [](clsMV& unused) {
-        return ui::AskYesNo("Are you sure you want to delete the record?", unused.ShowKey());
+        return AskToDelete(unused, unused.ShowKey());
     });
 }
 

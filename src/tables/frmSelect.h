@@ -22,7 +22,7 @@ public:
     ui::ComboBox cboMixt{*this, "cboMixt"};
     ui::ControlArray<ui::Label> lblSample{*this, "lblSample", 3};
     ui::ControlArray<ui::ComboBox> cboSample{*this, "cboSample", 3};
-    ui::CheckBox chkStatic{*this, "chkStatic", "Measured by a &static method"};
+    ui::CheckBox chkStatic{*this, "chkStatic", "Measured by a static method"};
     ui::CommandButton cmdOK{*this, "cmdOK", "OK"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 

@@ -222,6 +222,63 @@ TEST_F(frmProcessTest, ATableOfAMixtureBecomesSetsAndCloses) {
     EXPECT_EQ(globals.tvwTree->SelectedNode(), first->tNode);
 }
 
+TEST_F(frmProcessTest, StoredSetsComeBackAndAreReplacedInTheirPlaces) {
+    Mixture();
+    Paste(Boiling);
+    BoilingHeads();
+    table->cmdProcess.UserClick();
+    const std::string before = DocumentAsRecords();
+    const auto show = [this] {
+        for (const auto& one : globals.CurrentM->recMV)
+            globals.SetsToShow.push_back(one);
+        Begin();
+        EXPECT_TRUE(globals.SetsToShow.empty());
+    };
+    show();
+    EXPECT_EQ(HeadsOf(1) + HeadsOf(4),
+              "Temperature|C||Mole fraction of ethanol|Dimensionless|Gas|");
+    EXPECT_EQ(table->tblData.Cell(4, 4), "0.3891");
+    table->Close(); // nothing to lose
+    show();
+    table->cmdProcess.UserClick();
+    EXPECT_EQ(DocumentAsRecords(), before);
+    show();
+    table->tblData.UserCell(4, 4, "0.3892");
+    table->cmdProcess.UserClick();
+    EXPECT_EQ(DocumentAsRecords(), Replace(before, "0.0721 0.3891", "0.0721 0.3892"));
+
+    // Without a phase two sets are one, and the other is asked about.
+    show();
+    Head(0, 4, "Nothing");
+    EXPECT_EQ(table->lblPreview.Caption(), "Process cannot make sets yet:");
+    table->mnuUndo.UserClick();
+    for (int row = 3; row <= 5; ++row)
+        table->tblData.UserCell(row, 4, "");
+    desktop.Expect("The row has no property and will be left out", ui::Answer::No);
+    table->cmdProcess.UserClick();
+    EXPECT_TRUE(table->tblData.HasFocus());
+    EXPECT_EQ(Place().substr(0, 2), "3,");
+    desktop.Expect("The row has no property and will be left out", ui::Answer::YesToAll);
+    desktop.Expect("Are you sure you want to delete the record? | " +
+                       globals.CurrentM->recMV.Item(2)->ShowKey(),
+                   ui::Answer::No);
+    table->cmdProcess.UserClick();
+    EXPECT_EQ(Sets(), "T 3;X1 3;");
+}
+
+TEST_F(frmProcessTest, ATieLineThatCannotBeShownClosesTheTable) {
+    Mixture("^T 64197 67663 7732185 &\n^A & O B & XXX XXX 1/15/2026 ::Method:UNKNOWN:\n"
+            "^1 1 1 1 W2 S DIR 1 Y L1 T 291.15 L2 & & & W1 S & & & & & &\n^d 0.1 0.5 & a\n");
+    table->Close();
+    globals.SetsToShow = {globals.CurrentM->recMV.Item(1)};
+    desktop.Expect("TIELINE error\nPlease try anothed tied data set");
+    Begin();
+    EXPECT_FALSE(table->cmdProcess.Enabled());
+    EXPECT_EQ(HeadsOf(1), "|||");
+    table->tblData.UserHead(0, 1);
+    EXPECT_FALSE(table->cboCell.Visible());
+}
+
 TEST_F(frmProcessTest, AConstantWithoutAColumnIsAskedUntilItIsANumberOrEmpty) {
     Mixture();
     Heads({{"Temperature", "C", "-"},
