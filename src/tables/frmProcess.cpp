@@ -141,7 +141,7 @@ void frmProcess::TakeSystem() {
 void frmProcess::TakeSets(const std::vector<std::shared_ptr<clsMV>>& sets) {
     FilledTable filled = FillTable(sets);
     if (!filled.refusal.empty()) {
-        tblData.Editable(false);
+        tblData.Enabled(false);
         cmdProcess.Enabled(false);
         ui::Say(filled.refusal);
         return;

@@ -107,7 +107,7 @@ bool frmProcess::HeadKey(ui::Key& key) {
         }
     } else if (name == "Delete" || name == "Backspace") {
         table_.History().Do([&](TableEdit& edit) {
-            for (int row = block.top; row <= std::min(block.bottom, HeadRows() - 1); ++row)
+            for (int row = block.top; row <= block.bottom; ++row)
                 for (int column = std::max(block.left, 1); column <= block.right; ++column) {
                     if (row == HeadRow::Quantity)
                         WriteHeads(edit, column, {});
@@ -130,7 +130,7 @@ bool frmProcess::HeadKey(ui::Key& key) {
 void frmProcess::OpenHeadList(int row, int column) {
     table_.EndTyping();
     CloseHeadList();
-    if (!tblData.IsEditable() || !heads_) return;
+    if (!heads_) return;
     const ProcessColumn described = ColumnAt(column);
     if (!described.IsDescribed()) row = HeadRow::Quantity;
     offered_ = heads_->Offered(static_cast<HeadRow>(row), described);
@@ -218,9 +218,10 @@ std::string frmProcess::EntryMeant() const {
     if (list_->Index() >= 0) return list_->Chosen();
     const std::string typed(TrimBlanks(list_->Text()));
     if (!isTyped_ || typed.empty()) return typed;
-    if (list_->Count() > 0) return list_->Item(0);
+    // "8" is no beginning of "*8.31451".
     const bool isFactor = listRow_ == HeadRow::Unit && IsNumeric(typed) && Val(typed) > 0;
-    return isFactor ? typed : std::string();
+    if (isFactor) return typed;
+    return list_->Count() > 0 ? list_->Item(0) : std::string();
 }
 
 /// In one step that can be undone; the next head of the column comes after it.
