@@ -195,7 +195,7 @@ void frmProcess::ShowOutlook() {
     if (!heads_) return;
     const Outlook& now = Now();
     // The editor asks for the findings of what was typed; other heads change those of all rows.
-    if (const std::string heads = AllHeads(); heads != shownHeads_) {
+    if (const std::string heads = AllHeads(); shownHeads_ != heads) {
         shownHeads_ = heads;
         table_.Findings().FindAgain();
     }

@@ -133,14 +133,14 @@ private:
     ProcessSystem system_;
     ProcessTable filled_; // from stored sets, to keep what they know of rows and columns
     std::optional<ProcessHeads> heads_;
-    std::string firstText_, firstHeads_; // to tell whether the table has changed
-    std::string shownHeads_;             // that the findings go by
-    GuessedHeads guess_;                 // what the first rows say of the columns
-    int guessedRow_ = 0;                 // where these rows begin in the grid
-    ui::ComboBox* list_ = nullptr;       // the one that lies over a head
-    int listRow_ = 0, listColumn_ = 0;   // and over which
-    std::vector<std::string> offered_;   // all of its entries
-    bool isTyped_ = false;               // something was typed into it
+    std::string firstText_, firstHeads_;    // to tell whether the table has changed
+    std::optional<std::string> shownHeads_; // that the findings go by
+    GuessedHeads guess_;                    // what the first rows say of the columns
+    int guessedRow_ = 0;                    // where these rows begin in the grid
+    ui::ComboBox* list_ = nullptr;          // the one that lies over a head
+    int listRow_ = 0, listColumn_ = 0;      // and over which
+    std::vector<std::string> offered_;      // all of its entries
+    bool isTyped_ = false;                  // something was typed into it
     bool stored_ = false;
     mutable std::unique_ptr<Outlook> outlook_;
     TableEditor table_{*this,
