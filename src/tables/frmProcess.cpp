@@ -59,7 +59,7 @@ void frmProcess::ArrangeControls() {
     preview.columns = 70;
     Arrangement = Column({Row({Field(lblPhase, Narrow(lstPhase, 30)), Stretch()}),
                           Split(std::move(table), std::move(preview)),
-                          ButtonRow({cmdClear, cmdProcess, cmdCancel})});
+                          ButtonRow({cmdDiagram, cmdGraph, cmdClear, cmdProcess, cmdCancel})});
     PreferredColumns = 176;
     PreferredRows = 40;
     const char* const labels[] = {"Property", "Units", "Phase"};
@@ -90,6 +90,8 @@ void frmProcess::WireEvents() {
         ShowOutlook();
     };
     cmdUseHeads.OnClick = [this] { UseHeads(); };
+    cmdDiagram.OnClick = [this] { Diagram(); };
+    cmdGraph.OnClick = [this] { Graph(); };
     cmdClear.OnClick = [this] {
         table_.EndTyping();
         table_.Blocks().Clear();
@@ -118,6 +120,7 @@ void frmProcess::Load() {
     }
     lblPhase.Visible(IsPure());
     lstPhase.Visible(IsPure());
+    cmdDiagram.Visible(!IsPure());
     table_.MoveTo(HeadRows(), 1);
     if (!sets.empty()) TakeSets(sets);
     firstText_ = table_.Blocks().Text();

@@ -15,6 +15,7 @@
 namespace vexora {
 
 class ProcessedSets;
+struct PlotTable;
 class Record;
 
 /// A whole table of a paper, pasted once: its columns are named, and all its data sets are made in
@@ -57,6 +58,8 @@ public:
     ui::Label lblPreview{*this, "lblPreview", "Process would make:"};
     ui::ListBox lstPreview{*this, "lstPreview"};
     ui::ListBox lstFindings{*this, "lstFindings"};
+    ui::CommandButton cmdDiagram{*this, "cmdDiagram", "Phase &diagram..."};
+    ui::CommandButton cmdGraph{*this, "cmdGraph", "&View plot ..."};
     ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
     ui::CommandButton cmdProcess{*this, "cmdProcess", "Process"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
@@ -117,6 +120,12 @@ private:
     int FirstPlaceOf(int row) const;
     const Outlook& Now() const;
     std::vector<Finding> FindingsIn(const Outlook& outlook) const;
+
+    // Its pictures (frmProcess_plot.cpp).
+    bool HasPoints();
+    void Diagram();
+    void Graph();
+    void ShowPictures(const std::shared_ptr<PlotTable>& pictures);
 
     // Processing (frmProcess_accept.cpp).
     void Process();
