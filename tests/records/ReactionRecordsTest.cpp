@@ -117,6 +117,9 @@ TEST_F(ReactionRecords, LinesWithoutTheirPlaceAreNamedAndFactorsStayWithTheirOwn
          "3 no value stands in the unit of the factor 4184\n", ""},
         {Combustion + header + "^M 122.12\n^c" + change("Z S 1") + header + "^c" + change("S S 2"),
          "^c" + change("Z S 1") + "^c" + change("S S 2"), "", ""},
+        // Nor without a header in between does a factor go on to the next.
+        {Combustion + header + "^M 2\n^c" + change("S S 1") + "^c" + change("S S 2"),
+         "^M 2\n^c" + change("S S 1") + "^M 0\n^c" + change("S S 2"), "", ""},
         {Combustion + header + "^c" + change("S S 1") + header + "^c" + change("S S 1"),
          "^c" + change("S S 1") + "^c" + change("S S 2"), "",
          "Duplicate data set number will be changed 1950 cox wag 1 "
@@ -147,7 +150,7 @@ TEST_F(ReactionRecords, LinesWithoutTheirPlaceAreNamedAndFactorsStayWithTheirOwn
         EXPECT_EQ(told, one.told);
         std::string data;
         for (const std::string& line : Split(DocumentAsRecords(), '\n'))
-            if (LowerAscii(line).starts_with("^c ")) data += line + "\n";
+            if (IsOneOf(line.substr(0, 3), {"^C ", "^c ", "^M "})) data += line + "\n";
         EXPECT_EQ(data, one.reactions) << one.lines;
     }
     globals.recR.Clear();
@@ -304,10 +307,10 @@ TEST_F(ReactionRecords, ParticipantsAreSortedWithAllThatNamesThem) {
          "^A & O & & & & & ::PYC:dX2:0.001:\n"
          "^C 1 2 0 4 5 6 7 0 HR S S 1 L1 L2 & L4 L5 L6 L7 & 1 2 & & & & 1 & & & & & & & & & 0 "
          "0.2 0 0 0 0 0 0 & & & & & & 1 & & &\n"
-         "^A & O & & & & & ::PYC:dXI2:0.001:\n"
-         "^H 1 2 0 4 5 6 1 2 & & & & KT S 1 Y & & P T S XI2 S & & & & G 1256 & & & & & & X1 "
+         "^A & O & & & & & ::PYC:dXI1:0.001:\n"
+         "^H 1 2 0 4 5 6 1 2 & & & & KT S 1 Y & & P T S XI1 S & & & & G 1256 & & & & & & X1 "
          "0.5 & & & & & &\n"
-         "^X 2 XI2 & - & & & - & & & + 95 0.1 - & & - & & &\n"
+         "^X 2 XI1 & - & & & - & & & + 95 0.1 - & & - & & &\n"
          "^D 300 0.1 2 &\n^M 0\n");
     EXPECT_TRUE(Reaction().Sort());
     EXPECT_FALSE(Reaction().Sort());
@@ -318,10 +321,10 @@ TEST_F(ReactionRecords, ParticipantsAreSortedWithAllThatNamesThem) {
               "^A & O & & & & & ::PYC:dX2:0.001:\n"
               "^C 7 2 5 6 1 4 0 0 HR S S 1 L7 L2 L5 L6 L1 L4 & & 1 2 & & 1 & & & & & & & & & & & 0 "
               "0.2 0 0 0 0 0 0 & & & & & & 1 & & &\n"
-              "^A & O & & & & & ::PYC:dXI2:0.001:\n"
-              "^H 7 2 5 6 1 4 1 2 & & 1 & KT S 1 Y & & P T S XI2 S & & & & G 2345 & & & & & & X5 "
+              "^A & O & & & & & ::PYC:dXI5:0.001:\n"
+              "^H 7 2 5 6 1 4 1 2 & & 1 & KT S 1 Y & & P T S XI5 S & & & & G 2345 & & & & & & X5 "
               "0.5 & & & & & &\n"
-              "^X 2 XI2 & - & & & - & & & + 95 0.1 - & & - & & &\n"
+              "^X 2 XI5 & - & & & - & & & + 95 0.1 - & & - & & &\n"
               "^D 300 0.1 2 &\n^M 0\n");
     EXPECT_EQ(Reaction().Coeff(1), "7");
     EXPECT_EQ(Source().FindQ(Reaction()).get(), &Reaction());
