@@ -18,7 +18,7 @@ namespace vexora {
 namespace {
 
 constexpr int Count = clsQ::MostParticipants;
-constexpr const char* NoSample = "No sample";
+constexpr const char* NoSample = "None";
 
 } // namespace
 

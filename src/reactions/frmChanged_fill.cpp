@@ -62,7 +62,9 @@ void frmChanged::FillRow(int i) {
     for (ui::Control* control : std::initializer_list<ui::Control*>{
              &lblPart(n), &cboPhase(n), &cboSample(n), &cboComposition(n), &txtComposition(n)})
         control->Visible(IsUsed(i));
-    lblPart(n).Caption(reaction_->Coeff(i) + " " + reaction_->Name(i) + ":");
+    // A file may give a value other coefficients than its reaction.
+    const std::string own = record_ ? record_->PARTICIPANT_COEFF(i) : std::string();
+    lblPart(n).Caption((own.empty() ? reaction_->Coeff(i) : own) + " " + reaction_->Name(i) + ":");
     FillPromptedPhaseList(cboPhase(n), PhaseCodes());
     FillCodes(cboComposition(n), ParticipantCompositions, "No composition");
 }

@@ -16,7 +16,7 @@ namespace vexora {
 namespace {
 
 constexpr int Count = clsQ::MostParticipants;
-constexpr const char* NoSample = "No sample";
+constexpr const char* NoSample = "None";
 constexpr const char* NotBalancedTitle = "Unable to Balance Reaction";
 constexpr const char* ByHand = "Verify the reaction participants or \n"
                                "Enter the stoichiometric coefficients manually.\n"

@@ -64,7 +64,7 @@ TEST_F(frmChangedTest, ChecksComeInOrderAndPutTheFocusOnTheField) {
     Refused(form, "Please review the property selection", form.cmdMethod);
     globals.PropertyCode = code;
     // Everything else is wrong as well.
-    Pick(form.cboSample(0), "No sample");
+    Pick(form.cboSample(0), "None");
     Pick(form.cboPhase(0), "Crystal");
     Pick(form.cboPhase(1), "Gas");
     Refused(form, "Select phase for 3 participant", form.cboPhase(2));
@@ -159,6 +159,7 @@ TEST_F(frmChangedTest, ALookChangesNothing) {
         LineWriter before, after;
         value->Print(before);
         auto& form = EditValue(value);
+        EXPECT_EQ(form.lblPart(0).Caption(), value->PARTICIPANT_COEFF(1) + " benzoic acid:");
         form.cmdAccept.UserClick();
         EXPECT_FALSE(form.IsOpen()) << line;
         value->Print(after);

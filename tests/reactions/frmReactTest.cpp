@@ -34,7 +34,7 @@ TEST_F(frmReactTest, ChecksComeInOrderAndPutTheFocusOnTheField) {
     form.txtCoeff(3).UserReplaceAll("-7,5");
     Put(form, 5, "water", "3");
     Put(form, 7, "carbon dioxide", "6");
-    Pick(form.cboSample(5), "No sample");
+    Pick(form.cboSample(5), "None");
     Refused(form, "No samples specified\nAt least one participant must have a sample number",
             form.cboSample(1));
     Pick(form.cboSample(1), "2");
@@ -69,7 +69,7 @@ TEST_F(frmReactTest, TheEquationIsShownAsItIsTyped) {
     EXPECT_EQ(form.lblSurplus.Caption(),
               "Not balanced. More in the reactants: H 6; in the products: C 1, O 14");
     Pick(form.cmbComp(1), "None");
-    EXPECT_EQ(form.txtCoeff(1).Text() + form.cboSample(1).Chosen(), "No sample");
+    EXPECT_EQ(form.txtCoeff(1).Text() + form.cboSample(1).Chosen(), "None");
     AddCompound("999991", "humus", "");
     form.cmdCancel.UserClick();
     auto& second = Begin();
@@ -94,20 +94,20 @@ TEST_F(frmReactTest, BalancingEndsAsTheEquationAllows) {
                                "Unable to Balance Reaction";
     const Balancing cases[] = {
         {"benzoic acid,nitrogen,oxygen,carbon dioxide,water", ",,,,", "",
-         "benzoic acid -1 No sample|oxygen -7.5 No sample|carbon dioxide 7 No sample|water 3 1|"},
+         "benzoic acid -1 None|oxygen -7.5 None|carbon dioxide 7 None|water 3 1|"},
         {"benzoic acid,oxygen,carbon dioxide,water", ",,3.5,x", "",
-         "benzoic acid -0.5 No sample|oxygen -3.75 No sample|carbon dioxide 3.5 No sample|"
+         "benzoic acid -0.5 None|oxygen -3.75 None|carbon dioxide 3.5 None|"
          "water 1.5 1|"},
         {"carbon,oxygen,carbon dioxide", "-1.0,-1.00,1", "",
-         "carbon -1.0 No sample|oxygen -1.00 No sample|carbon dioxide 1 No sample|"},
+         "carbon -1.0 None|oxygen -1.00 None|carbon dioxide 1 None|"},
         {"benzoic acid,oxygen,carbon dioxide", ",,",
          "Unable to balance\nTry to add or eliminate a participant",
-         "benzoic acid  No sample|oxygen  No sample|carbon dioxide  No sample|"},
+         "benzoic acid  None|oxygen  None|carbon dioxide  None|"},
         {"carbon,oxygen,carbon monoxide,carbon dioxide", ",,,",
          "The equation is ambiguous\n" + byHand,
-         "carbon  No sample|oxygen  No sample|carbon monoxide  No sample|"
-         "carbon dioxide  No sample|"},
-        {"carbon", "", byHand, "carbon  No sample|"}};
+         "carbon  None|oxygen  None|carbon monoxide  None|"
+         "carbon dioxide  None|"},
+        {"carbon", "", byHand, "carbon  None|"}};
     for (const Balancing& one : cases) {
         forms.DropClosed();
         auto& form = Begin();
@@ -136,8 +136,8 @@ TEST_F(frmReactTest, CombustionIsCompletedAroundWhatIsThere) {
     Put(form, 1, "water", "7");
     Put(form, 3, "oxygen", "-5");
     form.cmdComplete.UserClick();
-    EXPECT_EQ(Rows(form), "chloroethane -2 No sample|oxygen -5 No sample|hydrogen chloride  No "
-                          "sample|water 7 1|carbon dioxide  No sample|");
+    EXPECT_EQ(Rows(form), "chloroethane -2 None|oxygen -5 None|hydrogen chloride  None|"
+                          "water 7 1|carbon dioxide  None|");
     EXPECT_EQ(globals.CurrentR->FindL("7647010")->Formula, "ClH");
     form.cmdComplete.UserClick(); // once is enough
     EXPECT_EQ(form.cmbComp(5).Chosen(), "None");
@@ -168,8 +168,8 @@ TEST_F(frmReactTest, ALookChangesNothing) {
     const std::string before = Lines();
     auto& form = Edit(odd);
     EXPECT_EQ(form.cboReactClass.Chosen() + " " + form.cmbInert.Chosen(), "ZZZ 111");
-    EXPECT_EQ(Rows(form), "oxygen -7.50 No sample|benzoic acid -1 No sample|water 3 1|carbon "
-                          "dioxide 7 No sample|");
+    EXPECT_EQ(Rows(form), "oxygen -7.50 None|benzoic acid -1 None|water 3 1|carbon "
+                          "dioxide 7 None|");
     form.cmdAccept.UserClick();
     EXPECT_EQ(Lines(), before);
     EXPECT_TRUE(globals.Saved && globals.DialogAccepted);
