@@ -19,7 +19,6 @@ namespace vexora {
 namespace {
 
 constexpr int HelpAbout = 370;
-constexpr int HelpKeys = 330;
 
 constexpr const char* FirstRunText =
     "Numerical data are entered in an electronic table\n"
@@ -77,11 +76,7 @@ void frmProcess::WireEvents() {
         follows();
         ShowOutlook();
     };
-    const auto help = [](ui::MenuItem& item, int context) {
-        item.OnClick = [context] { ui::TheDesktop().ShowHelp(context); };
-    };
-    help(mnuHelpAbout, HelpAbout);
-    help(mnuHelpList, HelpKeys);
+    mnuHelpAbout.OnClick = [] { ui::TheDesktop().ShowHelp(HelpAbout); };
     lstPhase.OnClick = [this] {
         if (Filling) return;
         system_.phase = PhaseChosen(lstPhase);

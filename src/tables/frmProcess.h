@@ -43,7 +43,6 @@ public:
     ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
-    ui::MenuItem mnuHelpList{*this, "mnuHelpList", "&Keys of the table", &mnuHelp};
 
     ui::Label lblPhase{*this, "lblPhase", "Phase:"};
     ui::ComboBox lstPhase{*this, "lstPhase"};
