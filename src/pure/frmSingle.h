@@ -38,8 +38,8 @@ public:
     ui::OptionButton optFP{*this, "optFP", "At fixed pressure 1 atm"};
     ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
     ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
-    ui::CommandButton cmdCheck{*this, "cmdCheck", "Calculate average value..."};
     ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainty..."};
+    ui::CommandButton cmdCheck{*this, "cmdCheck", "Calculate average value..."};
     ui::CommandButton cmdAccept{*this, "cmdAccept", "Next"};
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 

@@ -69,7 +69,8 @@ void ComboView::Draw() {
     const QString text = ToQt(model_.Text());
     if (model_.IsEditable() && own_->currentText() != text) {
         own_->setEditText(text);
-        if (!own_->hasFocus()) own_->lineEdit()->home(false); // a long text shows its beginning
+        if (!own_->hasFocus() && !model_.HasFocus())
+            own_->lineEdit()->home(false); // a long text shows its beginning
     }
     // New entries take the caret to the end; a selection that nothing touched has to stay.
     if (model_.IsEditable() && before == text && own_->lineEdit()->cursorPosition() != caret)

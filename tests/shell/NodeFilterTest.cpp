@@ -74,15 +74,15 @@ TEST_F(NodeFilterTest, WordsFindWhatLabelsAndRecordsHold) {
 TEST_F(NodeFilterTest, WhatTheFilterHidesIsNotCurrent) {
     ASSERT_TRUE(Start(WriteDocument()));
     ClickNode("water");
-    EXPECT_EQ(LiveButtons(), "AddSample AddMixt ");
+    EXPECT_EQ(LiveButtons(), "AddSample AddMixt AddReact ");
     Shell().txtFind.Text("sample");
-    EXPECT_EQ(LiveButtons(), "AddSample AddMixt "); // it leads to what was found
+    EXPECT_EQ(LiveButtons(), "AddSample AddMixt AddReact "); // it leads to what was found
     Shell().txtFind.Text("nothing");
     EXPECT_EQ(LiveButtons(), "");
     desktop.Expect("Please select the node with a mouse before editing");
     Shell().mnuDelete.UserClick();
     Shell().txtFind.Text("");
-    EXPECT_EQ(LiveButtons(), "AddSample AddMixt ");
+    EXPECT_EQ(LiveButtons(), "AddSample AddMixt AddReact ");
     Shell().txtFind.Text("nothing"); // another document is shown whole
     Globals().Saved = true;
     EXPECT_TRUE(Shell().NewProc());
@@ -100,7 +100,7 @@ TEST_F(NodeFilterTest, TheMenuOfANodeRepeatsWhatIsOfferedForIt) {
             names += offer == nullptr ? "- " : offer->Name() + " ";
         return names;
     };
-    EXPECT_EQ(offers("water"), "AddSample AddMixt - mnuEditNode mnuExpandNode mnuDelete ");
+    EXPECT_EQ(offers("water"), "AddSample AddMixt AddReact - mnuEditNode mnuExpandNode mnuDelete ");
     const std::string set =
         Shell().tvwTree.Roots()[0]->Children()[0]->Children()[0]->Children()[0]->Text();
     EXPECT_EQ(offers(set), "mnuEditNode mnuNewLike mnuExpandNode mnuDelete ");
