@@ -109,7 +109,11 @@ void frmChanged::PhaseClick(int i) {
             cboComposition(i - 1).Index(0);
             txtComposition(i - 1).Text("");
         }
-        if (!HasSolution()) cboSolventPhase.Index(0);
+        if (!HasSolution()) {
+            cboSolventPhase.Index(0);
+            solvent_ = reaction_->SOLVENTRN;
+            ShowSolvent();
+        }
     }
     UsePhases();
     Touch();

@@ -180,6 +180,8 @@ TEST_F(frmChangedTest, WhatBelongsToAnotherChoiceGoes) {
     Pick(form.cboPhase(2), "Solution");
     Pick(form.cboComposition(2), "Mass ratio of participant to solvent");
     form.txtComposition(2).UserReplaceAll("0.1");
+    desktop.ExpectInput("Please enter solvent:", "water");
+    Refused(form, "Select the solvent phase", form.cboSolventPhase);
     Pick(form.cboSolventPhase, "Liquid");
     Pick(form.cboPhase(2), "Liquid");
     EXPECT_EQ(form.txtComposition(2).Text(), "");
@@ -212,6 +214,7 @@ TEST_F(frmChangedTest, WhatBelongsToAnotherChoiceGoes) {
               std::string::npos)
         << out.Text();
     EXPECT_EQ(out.Text().find("^X"), std::string::npos);
+    EXPECT_EQ(reaction->SOLVENTRN, "");
 }
 
 TEST_F(frmChangedTest, TheUnitIsChosenBesideTheValue) {
