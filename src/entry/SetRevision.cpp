@@ -3,6 +3,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"
 #include "records/LineWriter.h"
+#include "records/clsE.h"
 #include "records/clsMV.h"
 #include "records/clsTwo.h"
 #include "reference/Text.h"
@@ -23,14 +24,17 @@ class ContextScope {
 public:
     explicit ContextScope(const std::shared_ptr<DataSet>& set)
         : two_(Globals().CurrentTwo), mixture_(Globals().CurrentMV),
-          head_(Globals().CurrentProperty), depth_(Globals().OpenForms.size()) {
+          equilibrium_(Globals().CurrentE), head_(Globals().CurrentProperty),
+          depth_(Globals().OpenForms.size()) {
         Globals().CurrentTwo = std::dynamic_pointer_cast<clsTwo>(set);
         Globals().CurrentMV = std::dynamic_pointer_cast<clsMV>(set);
+        Globals().CurrentE = std::dynamic_pointer_cast<clsE>(set);
     }
     ~ContextScope() {
         KVOGlobal& globals = Globals();
         globals.CurrentTwo = two_;
         globals.CurrentMV = mixture_;
+        globals.CurrentE = equilibrium_;
         globals.CurrentProperty = head_;
         if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
     }
@@ -40,6 +44,7 @@ public:
 private:
     std::shared_ptr<clsTwo> two_;
     std::shared_ptr<clsMV> mixture_;
+    std::shared_ptr<clsE> equilibrium_;
     std::shared_ptr<clsProperty> head_;
     std::size_t depth_;
 };

@@ -1,6 +1,7 @@
 #include "reactions/ReactionForms.h"
 
 #include "reactions/frmChanged.h"
+#include "reactions/frmEquil.h"
 #include "reactions/frmReact.h"
 
 namespace vexora {
@@ -8,6 +9,7 @@ namespace vexora {
 void RegisterReactionForms(ui::Forms& forms) {
     forms.Register<frmReact>("frmReact");
     forms.Register<frmChanged>("frmChanged");
+    forms.Register<frmEquil>("frmEquil");
 }
 
 } // namespace vexora

@@ -80,6 +80,13 @@ bool MayBeEdited(const EditRule& rule) {
     return rule.nodeKey != "R" || (globals.CurrentR && globals.CurrentR->isNew);
 }
 
+/// The dialog that begins a set like the one of a node; empty for a node without rows.
+std::string_view RepeatingDialog(std::string_view nodeKey) {
+    if (nodeKey == "RM1") return "frmMixtVar";
+    if (nodeKey == "RQE") return "frmEquil";
+    return nodeKey == "RLS1" ? "frmTwo" : "";
+}
+
 } // namespace
 
 bool frmMain::HasMouseSelection() {
@@ -114,11 +121,9 @@ void frmMain::EditNode() {
 
 /// Only sets against state variables have rows to begin anew.
 bool frmMain::MayRepeat() const {
-    const KVOGlobal& globals = Globals();
-    const bool isMixture = globals.CurrentKey == "RM1" && globals.CurrentMV;
-    const bool isPure = globals.CurrentKey == "RLS1" && globals.CurrentTwo;
-    return (isMixture || isPure) && !globals.ReadOnly &&
-           ui::Forms::Current().Knows(isMixture ? "frmMixtVar" : "frmTwo");
+    const std::string_view dialog = RepeatingDialog(Globals().CurrentKey);
+    return !dialog.empty() && CurrentSet() && !Globals().ReadOnly &&
+           ui::Forms::Current().Knows(dialog);
 }
 
 /// A set with the definition of the selected one, on the way of a new one.
@@ -127,7 +132,7 @@ void frmMain::mnuNewLike_Click() {
     if (!HasMouseSelection() || !MayRepeat()) return;
     RenewCurrentMethod();
     globals.SetToRepeat = CurrentSet();
-    if (!OpenDialog(globals.CurrentKey == "RM1" ? "frmMixtVar" : "frmTwo")) Activate();
+    if (!OpenDialog(RepeatingDialog(globals.CurrentKey))) Activate();
 }
 
 } // namespace vexora

@@ -147,7 +147,7 @@ TEST_F(frmPropertyTest, EntriesFollowThePropertyAndDeadOnesSayWhy) {
 
 TEST_F(frmPropertyTest, EntriesOfAContextWithoutFormsAreDead) {
     for (const auto& [context, count] : {std::pair("Pure", 4), std::pair("Complex", 4),
-                                         std::pair("React", 1), std::pair("Bio", 0)}) {
+                                         std::pair("React", 4), std::pair("Bio", 0)}) {
         globals.DataContext = context;
         auto& form = Open<frmProperty>("frmProperty");
         int live = 0;
