@@ -37,7 +37,7 @@ void frmChanged::ArrangeControls() {
     std::vector<Layout> rows;
     for (int n = 0; n < Count; ++n)
         rows.push_back(Field(
-            lblPart(n), Row({Narrow(cboPhase(n), 20), Field("Sample:", Narrow(cboSample(n), 9)),
+            lblPart(n), Row({Narrow(cboPhase(n), 20), Field("Sample:", Narrow(cboSample(n), 16)),
                              cboComposition(n), Narrow(txtComposition(n), 8)})));
     rows.push_back(Row({Field("Solvent phase:", Narrow(cboSolventPhase, 20)), lblSolvent}));
     const auto state = [](TextBox& temperature, TextBox& pressure) {

@@ -53,7 +53,7 @@ void frmReact::ArrangeControls() {
     for (int n = 0; n < Count; ++n)
         rows.push_back(Field(std::to_string(n + 1) + ":",
                              Row({cmbComp(n), Field("Coefficient:", Narrow(txtCoeff(n), 12)),
-                                  Field("Sample:", Narrow(cboSample(n), 9))})));
+                                  Field("Sample:", Narrow(cboSample(n), 16))})));
     rows.push_back(Row({Stretch(), cmdComplete, cmdEquate, cmdCheck}));
     Arrangement =
         Column({Field("Reaction class:", cboReactClass), Group("Participants", rows),
