@@ -48,7 +48,7 @@ ui::Layout frmEquil::ParticipantsLayout() {
     std::vector<ui::Layout> left, right;
     for (int n = 0; n < Participants; ++n)
         (n < Participants / 2 ? left : right)
-            .push_back(ui::Field(lblPart(n), ui::Narrow(cboSample(n), 12)));
+            .push_back(ui::Field(lblPart(n), ui::Narrow(cboSample(n), 16)));
     return ui::Group("Participants and their samples",
                      {ui::Row({ui::Column(std::move(left)), ui::Column(std::move(right))})});
 }
