@@ -63,13 +63,24 @@ struct TextHash {
     }
 };
 using Texts = std::unordered_set<std::string, TextHash, std::equal_to<>>;
+/// Numbers that data of a kind bear.
+struct Counted {
+    double upTo = 0; // in order
+    Texts strays;    // above that
+};
 /// Numbers of the samples of each compound.
 using Samples = std::unordered_map<std::string, Texts, TextHash, std::equal_to<>>;
 
+bool IsData(Kind kind) {
+    return kind == Kind::Data || kind == Kind::Reaction;
+}
+bool IsMember(Kind kind) {
+    return kind == Kind::Component || kind == Kind::Participant;
+}
 /// What their contents are is told by the elements in them, and they begin and end something.
 bool IsFrame(Kind kind) {
-    return kind == Kind::Data || kind == Kind::NumValues || kind == Kind::Sample ||
-           kind == Kind::Component || kind == Kind::PropertyValue || kind == Kind::VariableValue;
+    return IsData(kind) || IsMember(kind) || kind == Kind::NumValues || kind == Kind::Sample ||
+           kind == Kind::PropertyValue || kind == Kind::VariableValue;
 }
 
 } // namespace
@@ -91,7 +102,7 @@ public:
         open_.push_back({&names_.Of(name)});
         text_.clear();
         const Kind kind = open_.back().name->kind;
-        if (kind == Kind::Data) BeginData();
+        if (IsData(kind)) BeginData(kind);
         if (kind == Kind::NumValues && values_) inBlock_ = values_->Next();
     }
 
@@ -104,8 +115,8 @@ public:
         open_.pop_back();
         if (!element.hasContent) Content(*element.name, text_);
         const Kind kind = element.name->kind;
-        if (kind == Kind::Sample || kind == Kind::Component) CloseSample(kind);
-        if (kind == Kind::Data) EndData();
+        if (kind == Kind::Sample || IsMember(kind)) CloseSample(kind);
+        if (IsData(kind)) EndData();
         if (kind == Kind::VariableValue || kind == Kind::PropertyValue) inValue_.clear();
     }
 
@@ -139,7 +150,8 @@ private:
         return open_.size() < levels ? Kind::Other : open_[open_.size() - levels].name->kind;
     }
 
-    void BeginData() {
+    void BeginData(Kind kind) {
+        kindOfData_ = kind;
         properties_.Clear();
         variables_.Clear();
         components_.Clear();
@@ -148,7 +160,8 @@ private:
     void EndData() {
         Missing(properties_, "nPropNumber");
         Missing(variables_, "nVarNumber");
-        if (values_ && values_->Next()) Add("A value of the record is not in the file");
+        if (values_ && (values_->NextOfHead() || values_->Next()))
+            Add("A value of the record is not in the file");
         values_.reset();
     }
     void Missing(const Numbers& numbers, const std::string& element) {
@@ -175,7 +188,9 @@ private:
         case Kind::OrgNum:
             return Compound(text);
         case Kind::DataNumber:
-            if (!IsNewData(text, value)) Add(Said(element, text) + " stands twice");
+        case Kind::ReactionNumber:
+            if (!IsNewData(text, value, element.kind == Kind::DataNumber ? data_ : reactions_))
+                Add(Said(element, text) + " stands twice");
             return;
         case Kind::SampleNumber:
             sample_ = text;
@@ -198,10 +213,11 @@ private:
     }
 
     /// Data are counted on from 1; what is not in order is remembered by itself.
-    bool IsNewData(std::string_view text, double value) {
-        if (value <= counted_) return false;
-        if (value > counted_ + 1 || !strays_.empty()) return strays_.emplace(text).second;
-        ++counted_;
+    static bool IsNewData(std::string_view text, double value, Counted& counted) {
+        if (value <= counted.upTo) return false;
+        if (value > counted.upTo + 1 || !counted.strays.empty())
+            return counted.strays.emplace(text).second;
+        ++counted.upTo;
         return true;
     }
     void Compound(std::string_view number) {
@@ -211,8 +227,10 @@ private:
                 Add("nOrgNum " + compound_ + " stands for two compounds");
         } else if (!samples_.contains(number)) {
             Add("nOrgNum " + compound_ + " stands for no compound");
-        } else if (Above(2) == Kind::Component) {
+        } else if (IsMember(Above(2))) {
             components_.Add(number);
+        } else if (Above(2) == Kind::Outsider && kindOfData_ == Kind::Reaction) {
+            return; // of the source, but no participant
         } else if (values_ && !components_.Contains(number)) {
             Add("nOrgNum " + compound_ + " stands for no component of these data");
         }
@@ -222,7 +240,7 @@ private:
         if (found == samples_.end() || sample_.empty()) return;
         if (element == Kind::Sample && !found->second.insert(sample_).second)
             Add("nSampleNm " + sample_ + " stands for two samples");
-        if (element == Kind::Component && !found->second.contains(sample_))
+        if (IsMember(element) && !found->second.contains(sample_))
             Add("nSampleNm " + sample_ + " stands for no sample");
         sample_.clear();
     }
@@ -246,6 +264,7 @@ private:
         if (Above() == Kind::VariableType) Unit(text, variable_);
         if (element.kind == Kind::ConstraintValue)
             Compare(element, text, value, values_->NextConstant());
+        if (element.kind == Kind::HeadValue) Compare(element, text, value, values_->NextOfHead());
     }
     /// Behind the last comma of the name; without one it is a pure number.
     void Unit(std::string_view text, int n) {
@@ -280,8 +299,8 @@ private:
     std::string number_;       // the last element, if it was a number
     double valueOfNumber_ = 0; // its value
     Samples samples_;
-    double counted_ = 0;            // up to here data have their numbers
-    Texts strays_;                  // numbers of data above that
+    Counted data_, reactions_;
+    Kind kindOfData_ = Kind::Other; // of those in hand
     FewTexts components_;           // compounds of those in hand
     std::string compound_, sample_; // the numbers read last
     Numbers properties_, variables_;

@@ -58,7 +58,8 @@ void ExportConstraint(XmlWriter& xml, const DataSubject& subject,
     xml.Open("Constraint");
     xml.Open("ConstraintID");
     xml.Open("ConstraintType");
-    xml.Element(XMLVariableGroup(constant.code), XMLVariableName(constant.code));
+    const std::string inTables = CodeInTables(subject, constant.code);
+    xml.Element(XMLVariableGroup(inTables), XMLVariableName(inTables));
     xml.Close();
     ExportComponentOf(xml, subject, constant.code);
     xml.Close();
@@ -105,9 +106,10 @@ std::vector<ExportedConstant> ConstantsOf(const clsMZ& value) {
     return constants;
 }
 
-std::string ConstantFault(const std::vector<ExportedConstant>& constants) {
+std::string ConstantFault(const DataSubject& subject,
+                          const std::vector<ExportedConstant>& constants) {
     for (const ExportedConstant& constant : constants) {
-        if (!VariableHasPlace(constant.code)) return NoPlaceInExport;
+        if (!VariableHasPlace(CodeInTables(subject, constant.code))) return NoPlaceInExport;
         if (!constant.HasNumber()) continue;
         if (std::string fault = ConversionFault(constant.unit); !fault.empty()) return fault;
     }

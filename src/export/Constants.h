@@ -30,7 +30,8 @@ std::vector<ExportedConstant> ConstantsOf(const DataSet& set);
 std::vector<ExportedConstant> ConstantsOf(const clsMZ& value);
 
 /// Why a constant cannot leave, in words for the user, or empty.
-std::string ConstantFault(const std::vector<ExportedConstant>& constants);
+std::string ConstantFault(const DataSubject& subject,
+                          const std::vector<ExportedConstant>& constants);
 /// Their elements. Tells of those without a number, which are left out, and of an announced
 /// repeatability that lacks its figure.
 void ExportConstants(XmlWriter& xml, const DataSubject& subject,

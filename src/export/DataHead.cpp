@@ -8,6 +8,7 @@
 #include "export/XmlWriter.h"
 #include "globals/KVOGlobal.h"
 #include "records/OpenRecord.h"
+#include "records/ReactionText.h"
 #include "records/clsL.h"
 #include "records/clsX.h"
 #include "reference/KVODefinitions.h"
@@ -47,7 +48,12 @@ void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& hea
 void ExportCompound(XmlWriter& xml, const DataSubject& subject, int n) {
     const auto& components = subject.components;
     if (components.size() < 2 || n < 1 || n > static_cast<int>(components.size())) return;
-    ExportRegNum(xml, *components[static_cast<std::size_t>(n - 1)].compound);
+    const clsL* const compound = components[static_cast<std::size_t>(n - 1)].compound;
+    if (compound != nullptr) ExportRegNum(xml, *compound);
+}
+
+bool IsOfReaction(const DataSubject& subject) {
+    return subject.context == "React";
 }
 
 } // namespace
@@ -58,6 +64,10 @@ bool DataSubject::HasPlace() const {
 
 bool VariableHasPlace(std::string_view code) {
     return IsXmlName(XMLVariableGroup(code)) && !XMLVariableName(code).empty();
+}
+
+std::string CodeInTables(const DataSubject& subject, std::string_view code) {
+    return IsOfReaction(subject) ? ParticipantCodeOf(code).code : std::string(code);
 }
 
 void TellDataError(const DataSubject& subject, const std::string& fault) {
@@ -80,7 +90,7 @@ void ExportRecord(XmlWriter& xml, const OpenRecord& data) {
 
 void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header) {
     xml.Open("PureOrMixtureData");
-    xml.Element("nPureOrMixtureDataNumber", std::to_string(xml.NextNumber()));
+    xml.Element("nPureOrMixtureDataNumber", std::to_string(xml.NextNumber("PureOrMixtureData")));
     for (const SystemComponent& component : subject.components) {
         xml.Open("Component");
         ExportRegNum(xml, *component.compound);
@@ -88,6 +98,10 @@ void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header) {
         xml.Close();
     }
     xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
+    ExportCompiler(xml, header);
+}
+
+void ExportCompiler(XmlWriter& xml, const clsA& header) {
     xml.ElementIfAny("sCompiler", Globals().UserName);
     xml.ElementIfAny("sContributor", Globals().Organization);
     xml.ElementIfAny("dateDateAdded", IsoDate(header.DATEADDED));
@@ -109,7 +123,8 @@ void ExportPropertyHead(XmlWriter& xml, const DataSubject& subject, std::string_
 }
 
 void ExportComponentOf(XmlWriter& xml, const DataSubject& subject, std::string_view code) {
-    ExportCompound(xml, subject, ComponentOf(code));
+    ExportCompound(xml, subject,
+                   IsOfReaction(subject) ? ParticipantCodeOf(code).participant : ComponentOf(code));
 }
 
 void ExportSolvent(XmlWriter& xml, const DataSubject& subject, std::string_view code) {
@@ -129,15 +144,18 @@ void ExportSolvent(XmlWriter& xml, const DataSubject& subject, std::string_view 
     xml.Close();
 }
 
+std::string PhaseText(const XmlWriter& xml, std::string_view phase) {
+    const std::string publicName = xml.IsStrict() ? TextOfCode(PublicPhases, phase) : std::string();
+    const std::string name = publicName.empty() ? PhaseName(phase) : publicName;
+    return name.empty() ? std::string(phase) : name;
+}
+
 void ExportPhase(XmlWriter& xml, const DataSubject& subject, std::string_view element,
                  std::string_view inner, std::string_view phase) {
     if (IsBlankField(phase)) return;
     const bool ofComponent = phase.size() == 3 && phase.starts_with("Cp");
-    const std::string_view code = ofComponent ? phase.substr(0, 1) : phase;
-    const std::string publicName = xml.IsStrict() ? TextOfCode(PublicPhases, code) : std::string();
-    const std::string name = publicName.empty() ? PhaseName(code) : publicName;
     xml.Open(element);
-    xml.Element(inner, name.empty() ? code : name); // the code where no table knows the phase
+    xml.Element(inner, PhaseText(xml, ofComponent ? phase.substr(0, 1) : phase));
     if (ofComponent) ExportComponentOf(xml, subject, phase);
     xml.Close();
 }
@@ -164,7 +182,8 @@ void ExportVariable(XmlWriter& xml, const DataSubject& subject, int number, cons
     xml.Element("nVarNumber", std::to_string(number));
     xml.Open("VariableID");
     xml.Open("VariableType");
-    xml.Element(XMLVariableGroup(code), XMLVariableName(code));
+    const std::string inTables = CodeInTables(subject, code);
+    xml.Element(XMLVariableGroup(inTables), XMLVariableName(inTables));
     xml.Close();
     ExportComponentOf(xml, subject, code);
     xml.Close();

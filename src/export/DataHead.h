@@ -49,8 +49,11 @@ DataSubject SubjectOf(const Data& data, std::vector<SystemComponent> components,
             std::move(propertyContext), std::move(components), solvent};
 }
 
-/// The same of a state variable.
+/// The same of a state variable, by its code in the tables.
 bool VariableHasPlace(std::string_view code);
+/// The code by which the tables know a variable of these data: a reaction's may bear the digit of
+/// a participant, of which they know nothing.
+std::string CodeInTables(const DataSubject& subject, std::string_view code);
 
 /// Tells the user which data could not be exported as they stand.
 /// In a box for each set: one that is left out must not go unnoticed.
@@ -66,6 +69,8 @@ void ExportRecord(XmlWriter& xml, const OpenRecord& data);
 /// Opens the element of a set or value: its number in the file, the compounds with their samples,
 /// purpose, compiler and date, the latter only where the record knows them.
 void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header);
+/// Compiler, organization and date.
+void ExportCompiler(XmlWriter& xml, const clsA& header);
 /// Number, group with name and method, and phase of the property.
 /// A set has one property, whose number is always 1; rows refer to it by that.
 void ExportPropertyHead(XmlWriter& xml, const DataSubject& subject, std::string_view phase,
@@ -78,6 +83,8 @@ void ExportSolvent(XmlWriter& xml, const DataSubject& subject, std::string_view 
 /// crystal, and names the compound.
 void ExportPhase(XmlWriter& xml, const DataSubject& subject, std::string_view element,
                  std::string_view inner, std::string_view phase);
+/// A phase in the words of the export, or its code where no table knows it.
+std::string PhaseText(const XmlWriter& xml, std::string_view phase);
 /// A PhaseID for each phase, for one that is stated twice as well.
 void ExportPhases(XmlWriter& xml, const DataSubject& subject,
                   const std::vector<std::string>& phases);

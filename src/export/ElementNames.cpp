@@ -8,9 +8,13 @@ namespace {
 
 constexpr std::pair<std::string_view, ElementKind> Kinds[] = {
     {"PureOrMixtureData", ElementKind::Data},
+    {"ReactionData", ElementKind::Reaction},
     {"NumValues", ElementKind::NumValues},
     {"Sample", ElementKind::Sample},
     {"Component", ElementKind::Component},
+    {"Participant", ElementKind::Participant},
+    {"Solvent", ElementKind::Outsider},
+    {"Catalyst", ElementKind::Outsider},
     {"Compound", ElementKind::Compound},
     {"RegNum", ElementKind::RegNum},
     {"PropertyValue", ElementKind::PropertyValue},
@@ -18,6 +22,7 @@ constexpr std::pair<std::string_view, ElementKind> Kinds[] = {
     {"VariableType", ElementKind::VariableType},
     {"nOrgNum", ElementKind::OrgNum},
     {"nPureOrMixtureDataNumber", ElementKind::DataNumber},
+    {"nReactionDataNumber", ElementKind::ReactionNumber},
     {"nSampleNm", ElementKind::SampleNumber},
     {"nPropNumber", ElementKind::PropNumber},
     {"nVarNumber", ElementKind::VarNumber},
@@ -25,6 +30,10 @@ constexpr std::pair<std::string_view, ElementKind> Kinds[] = {
     {"nVarValue", ElementKind::VarValue},
     {"ePropName", ElementKind::PropName},
     {"nConstraintValue", ElementKind::ConstraintValue},
+    {"nStoichiometricCoef", ElementKind::HeadValue},
+    {"nNumericalComposition", ElementKind::HeadValue},
+    {"nTemperature-K", ElementKind::HeadValue},
+    {"nPressure-kPa", ElementKind::HeadValue},
 };
 
 } // namespace

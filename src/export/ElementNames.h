@@ -15,9 +15,11 @@ namespace vexora {
 enum class ElementKind : unsigned char {
     Other,
     Data,
+    Reaction,
     NumValues,
     Sample,
     Component,
+    Participant,
     Compound,
     RegNum,
     PropertyValue,
@@ -25,6 +27,7 @@ enum class ElementKind : unsigned char {
     VariableType,
     OrgNum,
     DataNumber,
+    ReactionNumber,
     SampleNumber,
     PropNumber,
     VarNumber,
@@ -32,6 +35,8 @@ enum class ElementKind : unsigned char {
     VarValue,
     PropName,
     ConstraintValue,
+    HeadValue, // of a reaction, in front of the rows
+    Outsider,  // what is there, but takes no part
 };
 
 /// What the name of an element tells.

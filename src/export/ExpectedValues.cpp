@@ -1,8 +1,12 @@
 #include "export/ExpectedValues.h"
 
 #include "export/Constants.h"
+#include "export/ReactionParts.h"
 #include "export/SetRows.h"
 #include "records/DataSet.h"
+#include "records/ReactionText.h"
+#include "records/clsC.h"
+#include "records/clsE.h"
 #include "records/clsMZ.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
@@ -41,7 +45,9 @@ template <class Data>
 std::string UnitOfQuantity(const Data& data, int count, int n) {
     if (n == 0) return UnitOfProperty(data.PRPCODE, data.DataContext());
     if (n > count) return {};
-    const std::string code = data.VARIABLE(n);
+    const bool isOfReaction = data.DataContext() == "React";
+    const std::string variable = data.VARIABLE(n);
+    const std::string code = isOfReaction ? ParticipantCodeOf(variable).code : variable;
     return code == "WL" ? "nm" : UnitOfVariable(code);
 }
 
@@ -61,6 +67,19 @@ std::vector<ExportedConstant> ConstantsOf(const Record* record) {
     return ofMixture ? ConstantsOf(*ofMixture) : std::vector<ExportedConstant>();
 }
 
+/// In their order: of each participant its coefficient and content, then the initial state.
+std::vector<std::string> NumbersOfHead(const Record* record) {
+    const auto* const change = dynamic_cast<const clsC*>(record);
+    const auto* const equilibrium = change ? nullptr : dynamic_cast<const clsE*>(record);
+    if (change == nullptr && equilibrium == nullptr) return {};
+    std::vector<std::string> numbers;
+    for (const auto& one : change ? ParticipantsOf(*change) : ParticipantsOf(*equilibrium))
+        numbers.insert(numbers.end(), {one.coefficient, one.content});
+    if (change)
+        numbers.insert(numbers.end(), {change->INITIAL_TEMPERATURE, change->INITIAL_PRESSURE});
+    return numbers;
+}
+
 } // namespace
 
 ExpectedValues::ExpectedValues(const Record* record)
@@ -68,6 +87,8 @@ ExpectedValues::ExpectedValues(const Record* record)
     for (const ExportedConstant& constant : ConstantsOf(record))
         if (const auto value = Expected(constant.value, constant.unit))
             constants_.push_back(*value);
+    for (const std::string& number : NumbersOfHead(record))
+        if (const auto value = Expected(number, {})) head_.push_back(*value);
     if (set_ == nullptr) return;
     rows_ = std::make_unique<SetRows>(*set_);
     next_ = set_->recData.begin();
@@ -90,6 +111,10 @@ bool ExpectedValues::Next() {
 
 std::optional<ExpectedValue> ExpectedValues::NextConstant() {
     return constant_ < constants_.size() ? std::optional(constants_[constant_++]) : std::nullopt;
+}
+
+std::optional<ExpectedValue> ExpectedValues::NextOfHead() {
+    return ofHead_ < head_.size() ? std::optional(head_[ofHead_++]) : std::nullopt;
 }
 
 std::optional<ExpectedValue> ExpectedValues::Of(int n) const {

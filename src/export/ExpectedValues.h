@@ -31,6 +31,8 @@ public:
     bool Next();
     /// The next of the values that the record holds constant; nothing behind the last.
     std::optional<ExpectedValue> NextConstant();
+    /// The next number that the head of a reaction's data gives; nothing behind the last.
+    std::optional<ExpectedValue> NextOfHead();
     /// Quantity n of the block in hand, 0 the property; nothing where the record does not tell.
     std::optional<ExpectedValue> Of(int n) const;
     /// The unit in which quantity n leaves, "1" for none; empty where the record does not tell.
@@ -40,8 +42,8 @@ private:
     const Record* record_;
     const DataSet* set_ = nullptr;
     std::unique_ptr<SetRows> rows_;
-    std::vector<ExpectedValue> constants_;
-    std::size_t constant_ = 0;
+    std::vector<ExpectedValue> constants_, head_;
+    std::size_t constant_ = 0, ofHead_ = 0;
     RowList::const_iterator next_, row_;
     bool isFirst_ = true;
 };

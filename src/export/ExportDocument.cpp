@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "export/ReactionParts.h"
 #include "export/RegNum.h"
 #include "export/SetRows.h"
 #include "export/XmlWriter.h"
@@ -12,6 +13,7 @@
 #include "records/DataSet.h"
 #include "records/PropertyLabels.h"
 #include "records/Walk.h"
+#include "records/clsC.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
@@ -36,18 +38,21 @@ void TellTogether(const std::string& saying, const std::vector<std::string>& nam
     if (names.empty()) return;
     std::string text = saying;
     for (std::size_t i = 0; i < std::min(names.size(), mostNamed); ++i)
-        text += "\n" + names[i];
+        text += (text.empty() ? "" : "\n") + names[i];
     if (names.size() > mostNamed)
         text += "\nand " + std::to_string(names.size() - mostNamed) + " more";
     ui::Say(text);
 }
 
-/// Sets that have no numbers on purpose, and compounds that nobody has named.
+/// Sets that have no numbers on purpose, compounds that nobody has named, and final states.
 void TellWhatIsUnusual() {
-    std::vector<std::string> unnamed, sets;
+    std::vector<std::string> unnamed, sets, states;
     WalkDocument([&](Record& record) {
         const auto* compound = dynamic_cast<const clsL*>(&record);
         if (compound && compound->Name.empty()) unnamed.push_back(compound->RN);
+        if (const auto* change = dynamic_cast<const clsC*>(&record))
+            for (std::string& text : FinalStateWarnings(*change))
+                states.push_back(std::move(text));
         const auto* set = dynamic_cast<const DataSet*>(&record);
         if (!set || !IsWithoutNumbers(*set)) return;
         sets.push_back(set->SystemName() + ": " + PropertyLabels::Of(*set).name + ", Set " +
@@ -56,6 +61,7 @@ void TellWhatIsUnusual() {
     TellTogether("These compounds have no name and stand under their registry numbers in the file:",
                  unnamed);
     TellTogether("These sets are stated to have no numerical data and are not in the file:", sets);
+    TellTogether({}, states);
 }
 
 constexpr const char* PublicNamespace = "http://www.iupac.org/namespaces/ThermoML";

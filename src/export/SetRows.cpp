@@ -145,7 +145,7 @@ const ExportUnit& SetRows::UnitIn(int n) const {
 std::string SetRows::Fault(const DataSubject& subject) {
     bool hasPlace = subject.HasPlace();
     for (int n = 1; n <= set.nVar; ++n)
-        hasPlace = hasPlace && VariableHasPlace(set.VARIABLE(n));
+        hasPlace = hasPlace && VariableHasPlace(CodeInTables(subject, set.VARIABLE(n)));
     if (!hasPlace) return NoPlaceInExport;
     if (set.recData.IsEmpty()) return "No numerical data in ";
     if (std::none_of(set.recData.begin(), set.recData.end(), IsNumericRow)) return NoValidRows;

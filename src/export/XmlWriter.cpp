@@ -66,6 +66,12 @@ XmlWriter::XmlWriter(bool isStrict, Taker taker) : isStrict_(isStrict), taker_(s
     if (!taker_) taker_ = [this](std::string_view part) { text_ += part; };
 }
 
+int XmlWriter::NextNumber(std::string_view element) {
+    auto found = numbers_.find(element);
+    if (found == numbers_.end()) found = numbers_.emplace(element, 0).first;
+    return ++found->second;
+}
+
 void XmlWriter::Finish() {
     if (used_ > 0) taker_({part_.data(), used_});
     used_ = 0;

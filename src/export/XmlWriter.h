@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,8 +50,8 @@ public:
     /// The same, but only when the text is not empty.
     void ElementIfAny(std::string_view name, std::string_view text);
 
-    /// 1, 2, ... for elements that bear a number of their own in the document.
-    int NextNumber() { return ++number_; }
+    /// 1, 2, ... for elements of this name, which bear a number of their own in the document.
+    int NextNumber(std::string_view element);
 
     /// What follows comes from this record, until the next one; null for none.
     void Mark(const Record* record) { marks_.push_back({lines_ + 1, record}); }
@@ -75,7 +76,8 @@ private:
     std::size_t used_ = 0;
     std::string names_;              // of the open elements, one behind the other
     std::vector<std::size_t> begin_; // where each of them begins
-    int lines_ = 0, number_ = 0;
+    int lines_ = 0;
+    std::map<std::string, int, std::less<>> numbers_; // given out, by element
     std::vector<XmlMark> marks_;
 };
 

@@ -39,7 +39,7 @@ std::string FaultOf(const clsMV& set, const DataSubject& subject,
     const bool hasPlace = !MixtureAvailable(set.PRPCODE, "MixV").empty() && !HasStrangeCodes(set);
     if (fault.empty() && !hasPlace) fault = NoPlaceInExport;
     if (fault.empty()) fault = rows.Fault(subject);
-    return fault.empty() ? ConstantFault(constants) : fault;
+    return fault.empty() ? ConstantFault(subject, constants) : fault;
 }
 
 void ExportProperty(XmlWriter& xml, const DataSubject& subject, const clsMV& set,

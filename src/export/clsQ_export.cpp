@@ -7,12 +7,6 @@
 
 namespace vexora {
 
-namespace {
-
-constexpr const char* NotWritten = "Data of reactions are not exported yet";
-
-} // namespace
-
 void clsQ::ExportAll(XmlWriter& xml) const {
     // Names of properties depend on the context.
     Globals().DataContext = "React";
@@ -20,14 +14,6 @@ void clsQ::ExportAll(XmlWriter& xml) const {
         ExportRecord(xml, *value);
     for (const auto& set : recE)
         ExportRecord(xml, *set);
-}
-
-void clsC::ExportC(XmlWriter&) const {
-    TellDataError(SubjectOf(*this, {}), NotWritten);
-}
-
-void clsE::ExportE(XmlWriter&) const {
-    TellDataError(SubjectOf(*this, {}), NotWritten);
 }
 
 } // namespace vexora
