@@ -1,6 +1,7 @@
 #include "chem/Balancer.h"
 #include "records/LineWriter.h"
 #include "records/MixtureWords.h"
+#include "records/ReactionAdvice.h"
 #include "records/RecordChecks.h"
 #include "records/StatedUncertainty.h"
 #include "records/clsC.h"
@@ -169,6 +170,7 @@ void CheckPropertyChange(const clsC& value, Findings& findings) {
     CheckState(value, name, remarks);
     CheckFigures(value, name, remarks);
     if (!StatesUncertainty(value)) remarks.Hint(name + ": no uncertainty is stated");
+    AdviseOnCombustion(value, findings);
 }
 
 void CheckEquilibrium(const clsE& set, Findings& findings) {
@@ -186,6 +188,7 @@ void CheckEquilibrium(const clsE& set, Findings& findings) {
     if (!set.recData.IsEmpty() && !StatesUncertainty(set))
         remarks.Hint(name + ": no uncertainty is stated");
     CheckRows(set, name, remarks);
+    AdviseOnEquilibrium(set, findings);
 }
 
 } // namespace vexora
