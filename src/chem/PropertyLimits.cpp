@@ -34,6 +34,7 @@ constexpr Rule HardLimits[] = {
     // Visible light is slower in matter than in the vacuum.
     {"RID RIX", 1, None, true},
     // "WL" without a number is a wavelength.
+    {"XI# X4 X5 X6 XI4 XI5 XI6", 0, 1}, // of participants of a reaction, who are more
     {"W# X# XU# WU# XL# WL# XA# WA# XE# WE# XC# WC# W#S X#S V# V#S", 0, 1},
     {"KT KP KX KM KJ EE YRC PHx PHM PHM# PHJ PHJ# RSS Z ZC VLC VLR CGM", 0, None},
     {"AP# AC# AOC FC IST IIT NVC NFL NVK NTC NTD NDC NMC", 0, None},

@@ -79,12 +79,19 @@ Total TotalOf(const FractionSum& sum, const ui::Grid& grid, const TableColumns& 
 
 std::vector<FractionSum> FractionSums(const DataSet& set) {
     Gathered gathered;
+    // Nobody says in which of its phases a participant of a reaction is meant.
+    const bool isReaction = set.DataContext() == "React";
+    const std::vector<std::string> phases = isReaction ? set.Phases() : std::vector<std::string>();
+    if (isReaction && phases.size() != 1) return {};
+    const auto phaseOf = [&](const std::string& stated) {
+        return isReaction ? phases.front() : stated;
+    };
     for (const HeldConstant& constant : set.Constants())
         if (IsFraction(constant.code))
-            AddConstant(gathered.Of(constant.code, constant.phase), constant);
+            AddConstant(gathered.Of(constant.code, phaseOf(constant.phase)), constant);
     for (int n = 1; n <= set.nVar; ++n) {
         if (!IsFraction(set.VARIABLE(n))) continue;
-        FractionSum& sum = gathered.Of(set.VARIABLE(n), set.PhaseFor(n));
+        FractionSum& sum = gathered.Of(set.VARIABLE(n), phaseOf(set.PhaseFor(n)));
         sum.isRefused =
             !sum.items.empty() && set.DataContext() == "Tern" && set.VARIABLE(n).front() != 'V';
         sum.items.push_back(n);

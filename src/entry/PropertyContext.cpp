@@ -29,7 +29,8 @@ std::string ChoiceInForce() {
     for (const std::string& part :
          {globals.PropertyCode, globals.PropertyUnit, globals.PropertyText, globals.ExpPurpose,
           globals.PropertyFlags, globals.PropertyComment, globals.KeyRest, method.Method,
-          method.sMethod, method.Context, std::to_string(method.f)}) {
+          method.sMethod, method.Context, std::to_string(method.f),
+          std::to_string(globals.OriginalUnits)}) {
         text += part + "\n";
     }
     return text;

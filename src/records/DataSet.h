@@ -110,7 +110,7 @@ public:
     std::vector<SetConstant> SystemConstants() const;
     ResultDefinition Definition() const { return ResultDefinition::Of(PROPERTY_FUNCT); }
     /// "A" for absolute values (direct, mean), "D" for differences, "R" for ratios.
-    std::string_view Relation() const { return Definition().Relation(); }
+    virtual std::string_view Relation() const { return Definition().Relation(); }
     bool HasVariable(std::string_view code) const;
     /// Some rows stand in the units of the paper, some do not.
     bool HasBothKinds() const;

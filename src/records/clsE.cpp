@@ -1,5 +1,6 @@
 #include "records/clsE.h"
 
+#include "chem/CommentTags.h"
 #include "globals/KVOGlobal.h"
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
@@ -16,6 +17,7 @@ namespace vexora {
 namespace {
 
 const std::string NoText;
+constexpr const char* ReportedAsLogarithm = "L"; // a statement that is a tag of the comment
 
 } // namespace
 
@@ -46,6 +48,10 @@ std::string clsE::SystemName() const {
     return Parent ? Parent->ShowKey() : std::string();
 }
 
+std::string_view clsE::Relation() const {
+    return CommentTags(Header.DATACOMMENT).Has(ReportedAsLogarithm) ? "D" : "A";
+}
+
 double clsE::MolarMass(const clsData&) const {
     for (int i = 1; Parent && i <= clsQ::MostParticipants; ++i)
         if (!Parent->RN(i).empty()) return Parent->MolarMass(i);
@@ -58,11 +64,13 @@ const Record* clsE::Owner() const {
 
 std::vector<HeldConstant> clsE::Constants() const {
     std::vector<HeldConstant> constants;
+    int item = nVar;
     for (int i = 1; i <= Places; ++i) {
+        if (IsBlankField(CONSTANT_VARIABLE(i))) continue;
         // Of the places for statements the last constant gets none when there are many.
-        const int item = nVar + i < Items ? nVar + i : 0;
-        if (!IsBlankField(CONSTANT_VARIABLE(i)))
-            constants.push_back({item, CONSTANT_VARIABLE(i), CNVARVALUE(i), "S", {}});
+        ++item;
+        constants.push_back(
+            {item < Items ? item : 0, CONSTANT_VARIABLE(i), CNVARVALUE(i), "S", {}});
     }
     return constants;
 }

@@ -62,6 +62,8 @@ public:
     std::vector<std::string> Phases() const override;
     std::string_view DataContext() const override { return "React"; }
     std::string SystemName() const override;
+    /// "D" where logarithms are reported, for they have no limits, else "A".
+    std::string_view Relation() const override;
     using DataSet::MolarMass;
     /// That of the first participant.
     double MolarMass(const clsData& row) const override;

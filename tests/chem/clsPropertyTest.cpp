@@ -106,10 +106,10 @@ TEST(Property, LimitsRefuseAndQuestionAtTheirBounds) {
         {"PA", -2, false, true},     {"TA", -1, true, true},      {"TC", 647.096, true, true},
         {"TC", 189, true, false},    {"PC", 22064, true, false},  {"G/T", 0.1, false, true},
         {"X2", 1, true, true},       {"X2", 1.0001, false, true}, {"XU3", -0.1, false, true},
-        {"X4", 7, true, true},       {"M1", 20, true, false},     {"CP", -75, false, true},
+        {"X7", 7, true, true},       {"M1", 20, true, false},     {"CP", -75, false, true},
         {"HEX", -10.5, true, false}, {"V2S", 1.5, false, true},   {"VDC", 322, true, true},
         {"WL2", 1.2, false, true},   {"WL", 5893, true, true},    {"TG", -1, false, false},
-        {"NMC", -1, false, true},    {"GEX", 11, true, false},
+        {"NMC", -1, false, true},    {"GEX", 11, true, false},    {"XI4", 1.1, false, true},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(IsValidValue(c.code, c.value), c.valid) << c.code << " " << c.value;
