@@ -37,7 +37,7 @@ void frmEquil::ArrangeControls() {
               Field("Standard state:", cboStandardState)}),
          ConstantsLayout(), VariablesLayout(),
          Group(fraPresentation,
-               {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
+               {Row({Field("Numerical:", lstNumerical), chkCalc, chkEqu, chkGraph})}),
          chkIncludeDigit, Field("Comment:", txtComment),
          ButtonRow({cmdMethod, cmdUnc, cmdAccept, cmdFinish})});
     PreferredColumns = 120;
@@ -67,12 +67,14 @@ ui::Layout frmEquil::PhasesLayout() {
 }
 
 ui::Layout frmEquil::ConstantsLayout() {
-    std::vector<ui::Layout> rows;
+    std::vector<ui::Layout> left, right;
     for (int row = 0; row < Places; ++row)
-        rows.push_back(ui::Field("Fixed condition:",
-                                 ui::Row({cboConst(row), ui::Narrow(txtConst(row), 14),
-                                          ui::Narrow(lblConstUnit(row), 6), ui::Stretch()})));
-    return ui::Group(fraConstants, std::move(rows));
+        (row < Places / 2 ? left : right)
+            .push_back(
+                ui::Field("Fixed condition:", ui::Row({cboConst(row), ui::Narrow(txtConst(row), 10),
+                                                       ui::Narrow(lblConstUnit(row), 4)})));
+    return ui::Group(fraConstants,
+                     {ui::Row({ui::Column(std::move(left)), ui::Column(std::move(right))})});
 }
 
 ui::Layout frmEquil::VariablesLayout() {
