@@ -181,7 +181,8 @@ void AdviseOnCombustion(const clsC& value, Findings& findings) {
 
 void AdviseOnEquilibrium(const clsE& set, Findings& findings) {
     constexpr std::size_t leastRows = 5;
-    if (set.nVar != 1 || set.VARIABLE(1) != "T" || set.Relation() != "A" || !GoesByEnthalpy(set))
+    if (set.nVar != 1 || set.VARIABLE(1) != "T" || set.Definition().Relation() != "A" ||
+        !GoesByEnthalpy(set))
         return;
     const std::vector<Point> points = VantHoffPoints(set);
     if (points.size() < leastRows) return;
