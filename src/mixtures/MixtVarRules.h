@@ -17,6 +17,7 @@ namespace vexora {
 struct MixtVarQuantity {
     std::string code, unit, phase;
     std::string value = {};
+    bool isUnstated = false; // a constraint that the stored set leaves open, and that stays so
 };
 
 /// What stands on frmMixtVar, as codes; an empty text is an open choice.

@@ -162,9 +162,11 @@ void Checks::Samples() {
         Tell(!has, Sample, "Select sample # for component", index++);
 }
 
-/// A critical curve is a condition without a figure.
+/// A critical curve is a condition without a figure. A table may have been processed without a
+/// constant that its paper does not tell.
 void Checks::OneConstraint(int index) {
     const MixtVarQuantity& one = draft.constraints[static_cast<std::size_t>(index)];
+    if (one.isUnstated) return;
     const std::string number = std::to_string(index + 1);
     Tell(one.code.empty(), Constraint, "Select constraint", index);
     if (IsCriticalCurve(one.code)) return;

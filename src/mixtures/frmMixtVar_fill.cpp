@@ -240,15 +240,18 @@ std::string frmMixtVar::PhaseShown(const ui::ComboBox& list, const std::string& 
 
 MixtVarQuantity frmMixtVar::ConstraintShown(int row) const {
     const std::string code = CodeOf(cboConstraint(row));
+    const std::string value = IsCriticalCurve(code) ? std::string() : txtConstr(row).Text();
     std::string before;
+    bool isUnstated = false;
     if (as_) {
         const std::vector<ConstraintSlot> slots = ConstraintsOf(*as_);
         const auto place = static_cast<std::size_t>(row);
-        if (place < slots.size() && slots[place].code == code) before = slots[place].phase;
+        const bool isSame = place < slots.size() && slots[place].code == code;
+        if (isSame) before = slots[place].phase;
+        isUnstated = record_ && isSame && code.empty() && value.empty();
     }
-    const std::string value = IsCriticalCurve(code) ? std::string() : txtConstr(row).Text();
-    return {code, cboConstrUnit(row).Chosen(), PhaseShown(cboConstrPhase(row), code, before),
-            value};
+    return {code, cboConstrUnit(row).Chosen(), PhaseShown(cboConstrPhase(row), code, before), value,
+            isUnstated};
 }
 
 MixtVarQuantity frmMixtVar::VariableShown(int row) const {
