@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,7 @@ struct KVOGlobal {
     bool ShellLocked = false;
     bool DialogAccepted = false;
     bool FirstRun = false;
+    std::set<std::string> Explained; // what was told in the first run, each once
     bool ProgramEnds = false; // the user chose to leave; whoever opened the dialog acts on it
 
     // True while that dialog runs on an existing record; set by the caller around the modal call.

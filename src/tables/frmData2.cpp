@@ -74,7 +74,7 @@ void frmData2::Load() {
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr && !isMixed_);
     if (!set_) mnuSystemUnits.Enabled(false);
-    if (Globals().FirstRun) ui::Say(FirstRunText);
+    ExplainOnce(FirstRunText);
 }
 
 void frmData2::Activate() {

@@ -120,7 +120,7 @@ void frmProcess::Load() {
     if (!sets.empty()) TakeSets(sets);
     firstText_ = table_.Blocks().Text();
     firstHeads_ = AllHeads();
-    if (globals.FirstRun) ui::Say(FirstRunText);
+    ExplainOnce(FirstRunText);
 }
 
 /// As frmSelect has chosen.
