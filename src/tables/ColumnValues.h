@@ -33,6 +33,9 @@ private:
     UnitConversion conversion_;
 };
 
+/// Of a row that holds values of variables alone; a question.
+inline constexpr std::string_view RowLeftOut = "The row has no property and will be left out";
+
 /// What can be wrong with a cell of a column.
 struct CellRules {
     int column = 0;

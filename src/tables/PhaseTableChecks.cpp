@@ -160,9 +160,7 @@ private:
             }
             if (alone < 0 && IsIndependent(column)) alone = column;
         }
-        if (alone >= 0)
-            findings_.push_back(
-                {row, alone, "The row has no property and will be left out", false});
+        if (alone >= 0) findings_.push_back({row, alone, std::string(RowLeftOut), false});
         return true;
     }
 

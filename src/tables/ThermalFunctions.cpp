@@ -137,8 +137,7 @@ private:
             findings_.push_back(
                 {row, temperature.rules.column, "Invalid value of independent variable"});
         if (!hasProperty && temperature.values.Has(row))
-            findings_.push_back({row, temperature.rules.column,
-                                 "The row has no property and will be left out", false});
+            findings_.push_back({row, temperature.rules.column, std::string(RowLeftOut), false});
     }
 
     const ProcessTable& table_;

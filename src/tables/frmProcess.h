@@ -103,6 +103,7 @@ private:
     void MoveToHead(int row, int column);
     void ProposeHeads();
     void UseHeads();
+    std::vector<PasteNotice> UnreadHeadings() const;
 
     // What the editor of the table asks (frmProcess_rules.cpp).
     std::vector<int> ValueColumns() const override { return {}; }
@@ -130,6 +131,8 @@ private:
     void Process();
     bool CheckPhase();
     bool Check(const Outlook& outlook);
+    ValueDoubt DoubtOf(const Finding& finding) const;
+    bool CheckNamed();
     bool Refuse(const Finding& finding);
     bool AskConstant(const std::string& title, const std::string& quantity, const std::string& unit,
                      std::string& answer) const;

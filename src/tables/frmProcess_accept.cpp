@@ -12,6 +12,8 @@
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "tables/ColumnValues.h"
 #include "tables/frmProcess_outlook.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -46,7 +48,7 @@ void frmProcess::Process() {
         tblData.SetFocus();
         return;
     }
-    if (!Check(Now())) return;
+    if (!Check(Now()) || !CheckNamed()) return;
     if (const auto processed = IsPure() ? FunctionSets(Now()) : MixtureSets(Now()))
         Finish(processed);
 }
@@ -76,14 +78,45 @@ bool frmProcess::Check(const Outlook& outlook) {
     if (fault != outlook.findings.end()) return Refuse(*fault);
     SuspicionsOfRun suspicions;
     for (const Finding& finding : outlook.findings) {
-        const std::string& cell = tblData.Cell(finding.row, finding.column);
-        if (suspicions.Confirm({ColumnName(finding.column), Val(cell), finding.text, true}))
-            continue;
+        if (suspicions.Confirm(DoubtOf(finding))) continue;
         table_.Findings().GoTo(finding);
         tblData.SetFocus();
         return false;
     }
     return true;
+}
+
+/// Rows are asked about one by one, values of a column each once.
+ValueDoubt frmProcess::DoubtOf(const Finding& finding) const {
+    if (finding.text == RowLeftOut)
+        return {finding.text, static_cast<double>(finding.row),
+                finding.text + "\nDo you want to process the other rows?", true};
+    return {ColumnName(finding.column), Val(tblData.Cell(finding.row, finding.column)),
+            finding.text + "\nIs that all right?", true};
+}
+
+/// What stands under no quantity becomes no data and goes with the table: that has to be wanted.
+bool frmProcess::CheckNamed() {
+    std::vector<int> unnamed;
+    const int last = table_.History().LastFilledRow();
+    for (int column = 1; column < tblData.Columns(); ++column) {
+        if (!tblData.Cell(HeadRow::Quantity, column).empty()) continue;
+        for (int row = HeadRows(); row <= last; ++row) {
+            if (TrimBlanks(tblData.Cell(row, column)).empty()) continue;
+            unnamed.push_back(column);
+            break;
+        }
+    }
+    if (unnamed.empty()) return true;
+    std::string numbers;
+    for (const int column : unnamed)
+        numbers += (numbers.empty() ? "" : ", ") + std::to_string(column);
+    if (ui::AskYesNo("Columns without a heading hold values, which would be lost: " + numbers +
+                     "\nDo you want to process the other columns?"))
+        return true;
+    MoveToHead(HeadRow::Quantity, unnamed.front());
+    tblData.SetFocus();
+    return false;
 }
 
 bool frmProcess::Refuse(const Finding& finding) {
@@ -114,6 +147,7 @@ std::shared_ptr<ProcessedSets> frmProcess::MixtureSets(const Outlook& outlook) {
         return nullptr;
     if (outlook.phases.asksP && !AskConstant("Pressure", "pressure", "kPa", constants.P))
         return nullptr;
+    constants.isAsked = true;
     const PhaseAnalysis analysis = AnalyseVLE(outlook.table, constants);
     if (!analysis.Ok) {
         ui::Say(analysis.message.empty() ? DataErrors : analysis.message);

@@ -303,18 +303,37 @@ void frmProcess::ProposeHeads() {
                          : "The first " + std::to_string(guess_.rows) + " rows read as headings");
 }
 
+/// The headings go with their rows, also those that name a column for a person alone.
+std::vector<PasteNotice> frmProcess::UnreadHeadings() const {
+    std::vector<PasteNotice> notices;
+    for (int column = 1; column < tblData.Columns(); ++column) {
+        if (!tblData.Cell(HeadRow::Quantity, column).empty() ||
+            tblData.Proposed().contains({HeadRow::Quantity, column}))
+            continue;
+        std::string texts;
+        for (int row = guessedRow_; row < guessedRow_ + guess_.rows; ++row)
+            texts += " " + tblData.Cell(row, column);
+        const std::string_view heading = TrimBlanks(texts);
+        if (heading.empty()) continue;
+        notices.push_back({0, "column " + std::to_string(column) +
+                                  ": no quantity was found for \"" + std::string(heading) + "\""});
+    }
+    return notices;
+}
+
 /// The proposals become heads, and the rows that they were read from go.
 void frmProcess::UseHeads() {
     table_.EndTyping();
     if (guess_.rows == 0) return;
     const GuessedHeads guess = guess_;
     const ui::Grid::Proposals proposals = tblData.Proposed();
+    const std::vector<PasteNotice> notices = UnreadHeadings();
     table_.History().Do([&](TableEdit& edit) {
         for (const auto& [place, text] : proposals)
             edit.Cell(place.first, place.second, text);
         edit.RemoveRows(guessedRow_, guess.rows);
     });
-    table_.Blocks().Tell({});
+    table_.Blocks().Tell(notices);
     tblData.SetFocus();
 }
 

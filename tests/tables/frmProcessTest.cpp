@@ -254,11 +254,15 @@ TEST_F(frmProcessTest, StoredSetsComeBackAndAreReplacedInTheirPlaces) {
     table->mnuUndo.UserClick();
     for (int row = 3; row <= 5; ++row)
         table->tblData.UserCell(row, 4, "");
-    desktop.Expect("The row has no property and will be left out", ui::Answer::No);
+    desktop.Expect(
+        "The row has no property and will be left out\nDo you want to process the other rows?",
+        ui::Answer::No);
     table->cmdProcess.UserClick();
     EXPECT_TRUE(table->tblData.HasFocus());
     EXPECT_EQ(Place().substr(0, 2), "3,");
-    desktop.Expect("The row has no property and will be left out", ui::Answer::YesToAll);
+    desktop.Expect(
+        "The row has no property and will be left out\nDo you want to process the other rows?",
+        ui::Answer::YesToAll);
     desktop.Expect("Are you sure you want to delete the record? | " +
                        globals.CurrentM->recMV.Item(2)->ShowKey(),
                    ui::Answer::No);
@@ -294,6 +298,16 @@ TEST_F(frmProcessTest, AConstantWithoutAColumnIsAskedUntilItIsANumberOrEmpty) {
     table->cmdProcess.UserClick();
     EXPECT_EQ(Sets(), "T 2;X1 2;");
     EXPECT_EQ(globals.CurrentM->recMV.Item(1)->PhaseStatement(), "Liquid + Gas, P = 101.325");
+
+    Mixture(kTernary); // one of the two has to be known
+    Heads({{"Weight fraction of acetic acid", "Dimensionless", "Liquid mixture 1"},
+           {"Weight fraction of chloroform", "Dimensionless", "Liquid mixture 1"},
+           {"Weight fraction of acetic acid", "Dimensionless", "Liquid mixture 2"}});
+    Paste("0.1\t0.8\t0.3\n0.2\t0.7\t0.4\n");
+    desktop.ExpectInput("Enter the constant temperature in K, or leave it empty", "");
+    desktop.ExpectInput(prompt, "");
+    Refuses("Properties and/or phases are not completely defined in a consistent way\n"
+            "Try to add T or P as a state variable");
 }
 
 TEST_F(frmProcessTest, PastedHeadingsAreProposedAndChangeNothingUntilTaken) {
@@ -314,6 +328,9 @@ TEST_F(frmProcessTest, PastedHeadingsAreProposedAndChangeNothingUntilTaken) {
     EXPECT_EQ(HeadsOf(1), "|||");
     EXPECT_EQ(table->tblData.Cell(3, 1), "t/\u00b0C");
     EXPECT_TRUE(table->cmdUseHeads.Visible());
+    Paste("run", 5);
+    table->cmdUseHeads.UserClick();
+    EXPECT_EQ(table->lblNotice.Caption(), "column 5: no quantity was found for \"run\"");
 }
 
 TEST_F(frmProcessTest, TabsAloneKeepCellsInTheirColumnsAndTheTableGrows) {
