@@ -41,6 +41,7 @@ struct Example {
 };
 const Example Water{"water", "2002wagpru1"};
 const Example EthanolWater{"ethanol_water", "1932carlew1"};
+const Example Reactions{"reactions", "2026com1"};
 
 std::string RecordsOf(const Example& example) {
     return Content("/examples/" + example.folder + "/" + example.records + ".txt");
@@ -69,10 +70,16 @@ TEST(Examples, OfMixturesDoNotChangeByAnotherLoadAndSave) {
 }
 
 TEST(Examples, AreSavedAsTheyWereWhenAcceptedUnchanged) {
-    const SessionPlay play =
-        PlaySession(VEXORA_SOURCE_DIR "/tests/sessions/road/the_example_reopened.vxs");
-    ASSERT_EQ(play.status, 0) << play.errors;
-    EXPECT_EQ(play.files.at("example.txt"), RecordsOf(Water));
+    const struct {
+        const Example& example;
+        std::string folder, saved;
+    } cases[] = {{Water, "road", "example.txt"}, {Reactions, "reactions", "saved_again.txt"}};
+    for (const auto& [example, folder, saved] : cases) {
+        const SessionPlay play = PlaySession(VEXORA_SOURCE_DIR "/tests/sessions/" + folder +
+                                             "/the_example_reopened.vxs");
+        ASSERT_EQ(play.status, 0) << play.errors;
+        EXPECT_EQ(play.files.at(saved), RecordsOf(example));
+    }
 }
 
 /// Forms, menu entries and toolbar buttons by the names under which scripts address them.
