@@ -83,6 +83,8 @@ std::string NotKeptText(const PassedOver& passedOver) {
 std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver) {
     Findings findings;
     TellPassedOver(passedOver, findings);
+    for (const auto& source : Globals().recR)
+        source->MarkCompounds();
     WalkDocument([&findings](const Record& record) { Checks()(record, findings); });
     return findings;
 }

@@ -111,24 +111,14 @@ void CheckSource(const clsR& source, Findings& findings) {
     if (source.recL.IsEmpty()) remarks.Warn("The source has no compounds");
 }
 
-namespace {
-
-/// A participant of a reaction needs no sample, and stands in the line of the reaction.
-bool TakesPart(const clsL& compound) {
-    const clsR* source = compound.Parent;
-    return source && std::any_of(source->recQ.begin(), source->recQ.end(),
-                                 [&](const auto& reaction) { return reaction->Uses(compound.RN); });
-}
-
-} // namespace
-
 void CheckCompound(const clsL& compound, Findings& findings) {
     Remarks remarks(findings, compound);
     const std::string name = "Compound " + compound.ShowKey();
     // Only a number stands in the file of a compound that is not new: all else is looked up.
     if (compound.Name.empty()) remarks.Warn(name + " is not in the reference database");
     if (compound.Formula.empty()) remarks.Warn(name + " has no formula");
-    if (compound.recS.IsEmpty() && !TakesPart(compound))
+    // What a mixture or reaction lacks is told there.
+    if (compound.recS.IsEmpty() && !compound.isUsed)
         remarks.Warn(name + " has no sample" + (compound.isNew ? "" : " and will not be saved"));
 }
 
@@ -140,7 +130,7 @@ void CheckSample(const clsS& sample, Findings& findings) {
     else if (description->Availability.empty() && sample.Purity <= 0)
         remarks.Hint(sample.Key() + ": no purity is stated");
     if (sample.recZ.IsEmpty() && sample.recTwo.IsEmpty() && !IsUsedInMixtures(sample) &&
-        !IsUsedInReactionData(sample))
+        !IsUsedInReactions(sample))
         remarks.Warn(sample.Key() + " has no data");
     CheckEqualValues(sample, findings);
     CheckEqualPoints(sample, findings);

@@ -24,7 +24,7 @@ constexpr LineGrammar Grammars[] = {
      "ISSN,bulletin"},
     {"^I", '#', "-,surname code,initials,full name"},
     {"^L", ' ', "registry number,-,-"},
-    {"^N", ' ', "registry number,formula,name"},
+    {"^N", ' ', "-,formula,name"},
     {"BL", ' ', "registry number,EC number,PDB number,formula,charge,name"},
     {"^S", ' ', "sample number,description"},
     {"^A", ' ', "note,taken from,purpose,flags,compiler,contributor,date added,comment"},

@@ -164,6 +164,8 @@ Outline OutlineOf(Record& record) {
 
 Outline OutlineOfDocument() {
     const auto& sources = Globals().recR;
+    for (const auto& source : sources)
+        source->MarkCompounds(); // those that are named have lines
     Outline document = OutlineOf(*sources.Item(std::size_t{1}));
     for (std::size_t place = 2; place <= sources.Count(); ++place) {
         document.children.push_back(OutlineOf(*sources.Item(place)));

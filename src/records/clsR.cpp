@@ -273,6 +273,13 @@ std::shared_ptr<clsQ> clsR::FindQ(const clsQ& reaction) const {
     return recQ.Item(reaction.Key());
 }
 
+bool clsR::Names(std::string_view rn) const {
+    const auto compound = FindL(rn);
+    return std::ranges::any_of(recM,
+                               [&](const auto& m) { return compound && m->PlaceOf(*compound); }) ||
+           std::ranges::any_of(recQ, [&](const auto& reaction) { return reaction->Uses(rn); });
+}
+
 std::string clsR::ProposedName() const {
     const bool isManuscript = TYPDOC == "S" && isNew && !ManuscriptID.empty();
     return isManuscript ? ForFileName(ManuscriptID) : IdentityName();

@@ -113,6 +113,9 @@ public:
     /// components bear these; null for none. A mixture with an unknown component bears no name.
     std::shared_ptr<clsM> FindM(std::string_view composition) const;
 
+    /// A mixture or reaction of it is of this compound.
+    bool Names(std::string_view rn) const;
+
     /// The reaction of the same class, participants, solvent and inert compound, or null.
     std::shared_ptr<clsQ> FindQ(const clsQ& reaction) const;
 
@@ -127,6 +130,8 @@ public:
     /// being the code. Another letter leaves it open.
     std::string QuestionOfOrigin() const;
     void TakeOrigin(std::string_view answer);
+    /// Says of every compound which kinds of data and whether mixtures or reactions name it.
+    void MarkCompounds();
     /// Brings SYSTYPES and the property letters up to date, as saving and exporting need them. The
     /// answer is what does not fit, for the user.
     std::vector<std::string> PrepareOutput();
@@ -136,7 +141,6 @@ public:
 
 private:
     void PrintDescription(LineWriter& out) const;
-    void MarkCompounds();
     void MakeCompound(const std::string& rn);
 };
 

@@ -111,7 +111,10 @@ std::string ReadingOf(const clsL& compound) {
     if (compound.isNew) page.Item("New to the reference database.");
     page.Line("Samples:", std::to_string(compound.recS.Count()));
     page.Need(compound.Formula.empty(), "The formula");
-    page.Need(compound.recS.IsEmpty(), "A sample: without one the compound is not saved");
+    const auto* source = compound.Parent;
+    const bool isNamed = source != nullptr && source->Names(compound.RN);
+    page.Need(compound.recS.IsEmpty() && !isNamed,
+              "A sample: without one the compound is not saved");
     return page.Html();
 }
 

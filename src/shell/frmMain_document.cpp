@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
-#include <set>
 #include <string>
 #include <utility>
 
@@ -11,7 +10,6 @@
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
-#include "records/clsQ.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Database.h"
@@ -36,18 +34,10 @@ const clsR& Source() {
 
 /// Compounds that came from a file and have no sample are left out of the file, unless a mixture
 /// or reaction names them.
-bool LosesCompounds(const clsR& source) {
-    std::set<std::string> named;
-    for (const auto& mixture : source.recM)
-        for (int n = 1; n <= mixture->MixType; ++n)
-            named.insert(mixture->RN(n));
-    for (const auto& reaction : source.recQ) {
-        named.insert({reaction->SOLVENTRN, reaction->INERTRN});
-        for (int i = 1; i <= clsQ::MostParticipants; ++i)
-            named.insert(reaction->RN(i));
-    }
-    return std::ranges::any_of(source.recL, [&named](const auto& compound) {
-        return compound->recS.IsEmpty() && !compound->isNew && !named.contains(compound->RN);
+bool LosesCompounds(clsR& source) {
+    source.MarkCompounds();
+    return std::ranges::any_of(source.recL, [](const auto& compound) {
+        return compound->recS.IsEmpty() && !compound->isNew && !compound->isUsed;
     });
 }
 
