@@ -37,11 +37,11 @@ std::string Content(const std::string& path) {
 
 /// An example with the files that it leaves.
 struct Example {
-    std::string folder, records;
+    std::string folder, records, golden = folder;
 };
 const Example Water{"water", "2002wagpru1"};
 const Example EthanolWater{"ethanol_water", "1932carlew1"};
-const Example Reactions{"reactions", "2026com1"};
+const Example Reactions{"reactions", "2026com1", "reactions_example"};
 
 std::string RecordsOf(const Example& example) {
     return Content("/examples/" + example.folder + "/" + example.records + ".txt");
@@ -49,7 +49,7 @@ std::string RecordsOf(const Example& example) {
 
 // The numbers of the expected exports were worked out from the figures of the papers.
 TEST(Examples, LeaveTheFilesThatAreExpected) {
-    for (const Example& example : {Water, EthanolWater}) {
+    for (const Example& example : {Water, EthanolWater, Reactions}) {
         const std::string name = example.folder;
         const SessionPlay play =
             PlaySession(VEXORA_SOURCE_DIR "/examples/" + name + "/" + name + ".vxs");
@@ -57,7 +57,7 @@ TEST(Examples, LeaveTheFilesThatAreExpected) {
         EXPECT_EQ(play.files.at(example.records + ".txt"), RecordsOf(example));
         const std::string& xml = play.files.at(example.records + ".xml");
         EXPECT_EQ(Replace(xml, "Vexora " VEXORA_VERSION, "Vexora VERSION"),
-                  Content("/tests/export/golden/" + name + ".xml"));
+                  Content("/tests/export/golden/" + example.golden + ".xml"));
         EXPECT_TRUE(IsWellFormed(xml));
     }
 }
