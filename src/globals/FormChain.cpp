@@ -1,7 +1,8 @@
 #include "globals/FormChain.h"
 
+#include <string>
+
 #include "globals/KVOGlobal.h"
-#include "ui/Desktop.h"
 #include "ui/Forms.h"
 
 namespace vexora {
@@ -38,11 +39,6 @@ void CloseForm() {
     }
     if (!globals.OpenForms.empty()) return;
     if (ui::Form* shell = ui::Forms::Current().Find("frmMain")) shell->Activate();
-}
-
-void ExplainOnce(const std::string& text) {
-    KVOGlobal& globals = Globals();
-    if (globals.FirstRun && globals.Explained.insert(text).second) ui::Say(text);
 }
 
 bool ChainForm::IsGuided() const {

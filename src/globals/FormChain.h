@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "ui/Form.h"
@@ -24,9 +23,6 @@ void LeadOnAndWait(std::string_view opener, std::string_view next);
 /// record is edited in place. An opener that has hidden is shown again. When the chain becomes
 /// empty the main form runs its activation step.
 void CloseForm();
-
-/// Tells a new user what a form is for: in the first run alone, and each text once in it.
-void ExplainOnce(const std::string& text);
 
 /// A dialog that is always a link of the chain.
 class ChainForm : public ui::Form {

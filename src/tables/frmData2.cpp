@@ -1,6 +1,7 @@
 #include "tables/frmData2.h"
 
 #include "chem/clsProperty.h"
+#include "entry/Explanations.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
 #include "records/DataSet.h"

@@ -1,5 +1,6 @@
 #include "tables/frmProcess.h"
 
+#include "entry/Explanations.h"
 #include "entry/PhaseLists.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
