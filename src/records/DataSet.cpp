@@ -188,6 +188,11 @@ void DataSet::PrintStatements(LineWriter& out) const {
 }
 
 void DataSet::PrintRows(LineWriter& out) const {
+    const bool hasTieWord = DataContext() == "Tern";
+    ForEachWrittenRow([&](const clsData& row) { row.PrintData(out, hasTieWord); });
+}
+
+void DataSet::ForEachWrittenRow(const std::function<void(const clsData&)>& visit) const {
     // ^M is the property's alone, so a variable whose unit has no letter leaves it in each row. The
     // row goes on being one in original units, for the rest of it is.
     std::array<UnitConversion, MostVariables + 1> units;
@@ -199,16 +204,15 @@ void DataSet::PrintRows(LineWriter& out) const {
             FactorOfLongUnit(code, UnitOfVariable(VARIABLE(n)), *this, Owner());
         converts = true;
     }
-    const bool hasTieWord = DataContext() == "Tern";
     for (const clsData& row : recData) {
         if (!converts || !row.inOriginalUnits) {
-            row.PrintData(out, hasTieWord);
+            visit(row);
             continue;
         }
         clsData converted = row;
         for (int n = 1; n <= nVar; ++n)
             converted.Convert(n, units[static_cast<std::size_t>(n)]);
-        converted.PrintData(out, hasTieWord);
+        visit(converted);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -157,6 +158,10 @@ public:
     std::string SystemPrecision(const std::string& code, const std::string& typed) const;
     /// How a value of a state variable leads to its system unit from that of a unit field.
     static UnitConversion ConversionOf(const std::string& variable, const std::string& field);
+
+    /// Visits each row as its record bears it: values of variables in units without a letter have
+    /// left these. Throws SaveRefused, before the first row, for a unit that has no factor.
+    void ForEachWrittenRow(const std::function<void(const clsData&)>& visit) const;
 
 protected:
     DataSet(const DataSet&) = default;

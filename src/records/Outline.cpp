@@ -109,7 +109,8 @@ std::string RowText(const clsData& row, const std::vector<int>& items, bool hasT
     return text;
 }
 
-void AddRows(Outline& outline, const DataSet& set) {
+/// Rows as the record bears them, or as they stand in a set that cannot be written.
+void AddRows(Outline& outline, const DataSet& set, bool isWritten) {
     const std::vector<Quantity> quantities = NamedQuantities(set);
     outline.variables = static_cast<std::size_t>(set.nVar);
     AddColumns(outline, quantities);
@@ -119,8 +120,13 @@ void AddRows(Outline& outline, const DataSet& set) {
         items.push_back(quantity.item);
     outline.rows.reserve(set.recData.Count());
     const bool hasTies = set.HasTies();
-    for (const clsData& row : set.recData)
+    const auto add = [&](const clsData& row) {
         outline.rows.push_back(RowText(row, items, hasTies));
+    };
+    if (isWritten)
+        set.ForEachWrittenRow(add);
+    else
+        std::ranges::for_each(set.recData, add);
 }
 
 std::string IdentityOfSource(std::size_t place) {
@@ -147,15 +153,17 @@ Outline OutlineOf(Record& record) {
     outline.identity = IdentityOf(record);
     outline.label = record.ShowKey();
     LineWriter lines;
+    bool isWritten = true;
     try {
         record.Print(lines);
     } catch (const SaveRefused& refused) {
         outline.fields.emplace_back("cannot be written", refused.what());
+        isWritten = false;
     }
     FieldCollector fields(outline, ComponentsOf(record));
     for (const std::string& line : Split(lines.Text(), '\n'))
         if (!Trim(line).empty() && !IsRow(LineKind(line))) fields.Add(line);
-    if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set);
+    if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set, isWritten);
     record.EachChild([&outline](Record& child) { outline.children.push_back(OutlineOf(child)); });
     return outline;
 }
