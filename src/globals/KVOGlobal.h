@@ -11,6 +11,7 @@
 
 namespace vexora {
 
+class BioSet;
 class clsA;
 class clsBP;
 class clsBR;
@@ -96,8 +97,13 @@ struct KVOGlobal {
     // The set whose definition a new one begins with; the dialog that opens takes it.
     std::shared_ptr<DataSet> SetToRepeat;
 
-    // What frmSelect chose, for the table to process.
-    std::string TableKind;                  // the kind of table in words
+    // What frmBioProp or frmGH begins: "D" a transition, "S" a solubility, "G" a phase equilibrium.
+    std::string BioType;
+    std::shared_ptr<BioSet> BioSetInHand;   // whose rows frmBioData is to fill
+    std::shared_ptr<BioSet> BioSetToRepeat; // whose definition a new one begins with
+
+    // What frmSelect chose: for the table to process, or the kind of bio or complex data.
+    std::string TableKind;                  // in words
     std::string SystemClass;                // "Pure", "Bin" or "Tern"
     bool StaticMode = false;                // measured by a static method
     std::vector<std::string> ChosenSamples; // numbers, one a component

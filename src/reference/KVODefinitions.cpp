@@ -167,50 +167,66 @@ constexpr std::array<QuantityText, 13> StateVariables{{
     {"WF", "Frequency", "MHz"},
 }};
 
-constexpr std::array<QuantityText, 24> BioVariables{{
-    {"T", "Temperature", "K"},
-    {"P", "Pressure", "kPa"},
-    {"pH", "pH", "1"},
-    {"pHs", "pH of solvent", "1"},
-    {"Ic", "Ionic strength (molaRity basis)", "mol/dm3"},
-    {"Im", "Ionic strength (molaLity basis)", "mol/kg"},
-    {"X", "Mole fraction", "1"},
-    {"W", "Mass fraction", "1"},
-    {"M", "MolaLity", "mol/kg"},
-    {"J", "MolaRity", "mol/dm3"},
-    {"E", "Mass concentration", "kg/m3"},
-    {"Xs", "Solvent: mole fraction", "1"},
-    {"Ws", "Solvent: mass fraction", "1"},
-    {"Vs", "Solvent: volume fraction", "1"},
-    {"Js", "Solvent: MolaRity", "mol/dm3"},
-    {"pC", "pC (molaRity basis)", "1"},
-    {"pCs", "pC of solvent", "1"},
-    {"KT", "Thermodynamic equilibrium constant", "1"},
-    {"KX", "Apparent equilibrium constant (mole fraction)", "1"},
-    {"KM", "Apparent equilibrium constant (molaLity)", "1"},
-    {"KJ", "Apparent equilibrium constant (molaRity)", "1"},
-    {"H", "Enthalpy", "kJ/mol"},
-    {"S", "Entropy", "J/K/mol"},
-    {"G", "Gibbs Energy", "kJ/mol"},
+constexpr std::array<BioQuantityText, 24> BioVariables{{
+    {"T", "Temperature", "K", false, "", "eTemperature"},
+    {"P", "Pressure", "kPa", false, "", "ePressure"},
+    {"pH", "pH", "1", false, "", "eMiscellaneous"},
+    {"pHs", "pH of solvent", "1", false, "", "eMiscellaneous"},
+    {"Ic", "Ionic strength (molaRity basis)", "mol/dm3", false, "", "eMiscellaneous"},
+    {"Im", "Ionic strength (molaLity basis)", "mol/kg", false, "", "eMiscellaneous"},
+    {"X", "Mole fraction", "1", true, "", "eComponentComposition"},
+    {"W", "Mass fraction", "1", true, "", "eComponentComposition"},
+    {"M", "MolaLity", "mol/kg", true, "", "eComponentComposition"},
+    {"J", "MolaRity", "mol/dm3", true, "", "eComponentComposition"},
+    {"E", "Mass concentration", "kg/m3", true, "", "eComponentComposition"},
+    {"Xs", "Solvent: mole fraction", "1", true, "", "eSolventComposition"},
+    {"Ws", "Solvent: mass fraction", "1", true, "", "eSolventComposition"},
+    {"Vs", "Solvent: volume fraction", "1", true, "", "eSolventComposition"},
+    {"Js", "Solvent: MolaRity", "mol/dm3", true, "", "eSolventComposition"},
+    {"pC", "pC (molaRity basis)", "1", true, "", "eMiscellaneous"},
+    {"pCs", "pC of solvent", "1", true, "", "eMiscellaneous"},
+    {"KT", "Thermodynamic equilibrium constant", "1", false, "P", "ReactionEquilibriumProp"},
+    {"KX", "Apparent equilibrium constant (mole fraction)", "1", false, "P",
+     "ReactionEquilibriumProp"},
+    {"KM", "Apparent equilibrium constant (molaLity)", "1", false, "P", "ReactionEquilibriumProp"},
+    {"KJ", "Apparent equilibrium constant (molaRity)", "1", false, "P", "ReactionEquilibriumProp"},
+    {"H", "Enthalpy", "kJ/mol", false, "P", "ReactionEquilibriumProp"},
+    {"S", "Entropy", "J/K/mol", false, "P", "ReactionEquilibriumProp"},
+    {"G", "Gibbs Energy", "kJ/mol", false, "P", "ReactionEquilibriumProp"},
 }};
 
-constexpr std::array<QuantityText, 16> BioProperties{{
-    {"T12", "Temperature of 1/2 conversion", "K"},
-    {"Tp", "Peak temperature", "K"},
-    {"T0", "Zero-Gibbs energy temperature", "K"},
-    {"Cp", "Heat capacity change at transition", "J/K/mol"},
-    {"Cpm", "Heat capacity change at transition (mass basis)", "J/K/kg"},
-    {"H", "Enthalpy of transition", "kJ/mol"},
-    {"Hm", "Enthalpy of transition (mass basis)", "kJ/kg"},
-    {"HvH", "van't Hoff enthalpy of transition", "kJ/mol"},
-    {"Hvm", "van't Hoff enthalpy of transition (mass basis)", "kJ/kg"},
-    {"C0", "Partial heat capacity", "J/K/mol"},
-    {"C0m", "Partial heat capacity (mass basis)", "J/K/kg"},
-    {"X", "Mole fraction", "1"},
-    {"W", "Mass fraction", "1"},
-    {"M", "MolaLity", "mol/kg"},
-    {"J", "MolaRity", "mol/dm3"},
-    {"E", "Mass concentration", "kg/dm3"},
+constexpr std::array<BioQuantityText, 16> BioProperties{{
+    {"T12", "Temperature of 1/2 conversion", "K", false, "D", "BioProperties"},
+    {"Tp", "Peak temperature", "K", false, "D", "BioProperties"},
+    {"T0", "Zero-Gibbs energy temperature", "K", false, "D", "BioProperties"},
+    {"Cp", "Heat capacity change at transition", "J/K/mol", false, "D", "BioProperties"},
+    {"Cpm", "Heat capacity change at transition (mass basis)", "J/K/kg", false, "D",
+     "BioProperties"},
+    {"H", "Enthalpy of transition", "kJ/mol", false, "D", "BioProperties"},
+    {"Hm", "Enthalpy of transition (mass basis)", "kJ/kg", false, "D", "BioProperties"},
+    {"HvH", "van't Hoff enthalpy of transition", "kJ/mol", false, "D", "BioProperties"},
+    {"Hvm", "van't Hoff enthalpy of transition (mass basis)", "kJ/kg", false, "D", "BioProperties"},
+    {"C0", "Partial heat capacity", "J/K/mol", false, "D", "BioProperties"},
+    {"C0m", "Partial heat capacity (mass basis)", "J/K/kg", false, "D", "BioProperties"},
+    {"X", "Mole fraction", "1", false, "S", "CompositionAtPhaseEquilibrium"},
+    {"W", "Mass fraction", "1", false, "S", "CompositionAtPhaseEquilibrium"},
+    {"M", "MolaLity", "mol/kg", false, "S", "CompositionAtPhaseEquilibrium"},
+    {"J", "MolaRity", "mol/dm3", false, "S", "CompositionAtPhaseEquilibrium"},
+    {"E", "Mass concentration", "kg/dm3", false, "S", "CompositionAtPhaseEquilibrium"},
+}};
+
+constexpr std::array<BioQuantityText, 3> HydrateQuantities{{
+    {"X", "Mole fraction", "1", true, "", "eComponentComposition"},
+    {"T", "Temperature", "K", false, "", "eTemperature"},
+    {"P", "Pressure", "kPa", false, "", "ePressure"},
+}};
+
+constexpr std::array<CodeText, 5> BioFunctions{{
+    {"Solvent", "Solvent"},
+    {"Buffer component", "Buffer"},
+    {"Inert", "Inert"},
+    {"Cofactor", "Cofactor"},
+    {"Catalyst", "Catalyst"},
 }};
 
 constexpr std::array<PurityUnit, 8> PurityUnits{{
@@ -277,6 +293,10 @@ std::string CodeOfText(CodeTexts table, std::string_view text) {
 
 const QuantityText* QuantityByCode(QuantityTexts table, std::string_view code) {
     return FindIn(table, &QuantityText::code, code);
+}
+
+const BioQuantityText* QuantityByCode(BioQuantityTexts table, std::string_view code) {
+    return FindIn(table, &BioQuantityText::code, code);
 }
 
 const PurityUnit* PurityUnitByCode(std::string_view code) {

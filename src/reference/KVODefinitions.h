@@ -24,6 +24,19 @@ struct QuantityText {
     std::string_view text;
     std::string_view unit;
 };
+/// A quantity of bio data.
+struct BioQuantityText {
+    std::string_view code;
+    std::string_view text;
+    std::string_view unit; // system unit, "1" for none
+    /// It is said of a component, which has to be named.
+    bool needsComponent = false;
+    /// "P" for one that only a property can be; of properties of bio substances the kind of set
+    /// that it belongs to: "D" a transition, "S" a solubility.
+    std::string_view kind;
+    /// Element of its group in the export.
+    std::string_view group;
+};
 /// A unit of purity statements with the element that exports it.
 /// The second letter of a code is "%"; the first says of what.
 struct PurityUnit {
@@ -33,6 +46,7 @@ struct PurityUnit {
 };
 using CodeTexts = std::span<const CodeText>;
 using QuantityTexts = std::span<const QuantityText>;
+using BioQuantityTexts = std::span<const BioQuantityText>;
 
 /// Experimental, smoothed or calculated values.
 /// First letter of `DATATYPE`.
@@ -74,10 +88,16 @@ extern const std::array<std::string_view, 5> CriticalCurves;
 
 /// State variables of pure data.
 extern const std::array<QuantityText, 13> StateVariables;
-/// Variables and properties of bio data.
-/// Their codes are a list of their own: "S" is an entropy here.
-extern const std::array<QuantityText, 24> BioVariables;
-extern const std::array<QuantityText, 16> BioProperties;
+/// The quantities of bio data. Their codes are a list of their own: "S" is an entropy here.
+/// Variables and constraints of all sets, and the properties of bio reactions (K, H, S, G).
+extern const std::array<BioQuantityText, 24> BioVariables;
+/// Properties of bio substances.
+extern const std::array<BioQuantityText, 16> BioProperties;
+/// All quantities of a phase equilibrium of a complex sample.
+extern const std::array<BioQuantityText, 3> HydrateQuantities;
+/// What a further component of the solution is there for: in a bio reaction, and (the first three)
+/// in the solution of a bio substance. The code is the word of the export.
+extern const std::array<CodeText, 5> BioFunctions;
 
 extern const std::array<PurityUnit, 8> PurityUnits;
 
@@ -95,6 +115,7 @@ std::string TextOfCode(CodeTexts table, std::string_view code);
 std::string CodeOfText(CodeTexts table, std::string_view text);
 /// The quantity with this code; null if absent.
 const QuantityText* QuantityByCode(QuantityTexts table, std::string_view code);
+const BioQuantityText* QuantityByCode(BioQuantityTexts table, std::string_view code);
 /// The purity unit with this code; null if absent.
 const PurityUnit* PurityUnitByCode(std::string_view code);
 

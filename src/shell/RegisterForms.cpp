@@ -1,5 +1,6 @@
 #include "shell/RegisterForms.h"
 
+#include "bio/BioForms.h"
 #include "compounds/CompoundForms.h"
 #include "entry/EntryForms.h"
 #include "mixtures/MixtureForms.h"
@@ -11,6 +12,7 @@
 #include "shell/frmConfigure.h"
 #include "shell/frmMain.h"
 #include "sources/SourceForms.h"
+#include "structures/StructureForms.h"
 #include "tables/TableForms.h"
 
 namespace vexora {
@@ -26,6 +28,8 @@ void RegisterForms(ui::Forms& forms) {
     RegisterPureForms(forms);
     RegisterMixtureForms(forms);
     RegisterReactionForms(forms);
+    RegisterBioForms(forms);
+    RegisterStructureForms(forms);
     RegisterTableForms(forms);
     RegisterPlotForms(forms);
 }

@@ -1,0 +1,7 @@
+#include "bio/BioForms.h"
+
+namespace vexora {
+
+void RegisterBioForms(ui::Forms&) {}
+
+} // namespace vexora

@@ -1,0 +1,7 @@
+#include "records/clsBR.h"
+
+namespace vexora {
+
+void clsBR::ExportAll(XmlWriter&) const {}
+
+} // namespace vexora

@@ -1,0 +1,7 @@
+#include "structures/StructureForms.h"
+
+namespace vexora {
+
+void RegisterStructureForms(ui::Forms&) {}
+
+} // namespace vexora
