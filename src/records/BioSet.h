@@ -77,8 +77,6 @@ public:
     std::vector<BioComponent> Components;
     /// Properties first, then variables, then constraints; changed by Add, Erase, Change and
     /// TakeQuantities only, so that statements and cells go along.
-    /// Properties first, then variables, then constraints; changed only by Insert, Erase and
-    /// Reorder, so that statements and rows go along.
     const std::vector<BioQuantity>& Quantities() const { return quantities_; }
     std::vector<clsX> recU; // one a quantity, in their order
     std::vector<clsBD> recD;
