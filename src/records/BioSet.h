@@ -15,6 +15,7 @@
 namespace vexora {
 
 class LineWriter;
+class WordReader;
 class clsL;
 class clsR;
 
@@ -55,6 +56,13 @@ struct BioComponent {
     bool operator==(const BioComponent&) const = default;
 };
 
+/// A part of a bio set in which sets have to agree whose rows are to stand in one, as a text that
+/// is the same for equal ones.
+struct BioPart {
+    std::string name, text;
+    bool operator==(const BioPart&) const = default;
+};
+
 /// What bio reactions and bio properties have in common: a solution with its components, any number
 /// of properties against any number of variables, with what is held constant, the rows, a statement
 /// of uncertainty for each quantity, and the method. The lines behind the one of the class are
@@ -89,6 +97,8 @@ public:
     virtual BioQuantityTexts TableOf(BioRole role) const = 0;
     /// Compounds that take part or are the substance, by key, in front of the components.
     virtual std::vector<std::string> ParticipantKeys() const = 0;
+    /// The registry numbers of all that the set is of, each once.
+    std::vector<std::string> Compounds() const;
 
     /// The entry of the table for a quantity, null for a code that it lacks.
     const BioQuantityText* TextOf(const BioQuantity& quantity) const;
@@ -115,6 +125,9 @@ public:
 
     /// The key of component n, and the registry number that a key names.
     std::string KeyOf(std::size_t component) const;
+    /// Those of participants or substance, and behind them of the components: registry numbers, the
+    /// further ones of a compound numbered.
+    std::vector<std::string> Keys() const;
     static std::string RNOfKey(std::string_view key);
     /// The compound that a key names, null when the source has none; its name, or the number.
     std::shared_ptr<clsL> CompoundOf(std::string_view key) const;
@@ -122,6 +135,8 @@ public:
     /// A compound, or a sample of it, stands in the set.
     virtual bool Uses(std::string_view rn) const;
     virtual bool UsesSample(std::string_view rn, std::string_view sample) const;
+    /// Two numbers of samples are one; none is no sample.
+    static bool IsSameSample(std::string_view a, std::string_view b);
 
     // Making one set of many. Each keeps every figure that was typed.
 
@@ -131,29 +146,53 @@ public:
     void Clean();
     /// Constraints become variables, with their value in each row.
     void Expand();
-    /// All that must agree agrees, but rows and constraints: kind, participants, components,
-    /// quantities with units and statements, states, phases and method.
-    virtual bool Equal(const BioSet& other) const;
+    /// All that must agree agrees, but rows and the values of constraints: kind, participants,
+    /// components, quantities with units and statements, states, phases, method and what the header
+    /// says. In which order things stand, and whether a quantity varies or is held constant, is all
+    /// one.
+    bool Equal(const BioSet& other) const;
+    /// What has to agree, part by part, each under its name.
+    std::vector<BioPart> Parts() const;
     /// Appends the rows of an equal set, cell by cell under the same quantity.
     void Merge(const BioSet& other);
     /// Variables that are the same text in all rows become constraints.
     void Compact();
 
     bool StandsByFactor() const override { return false; }
+    /// By its number, else by its code; what names no quantity of the set is kept as read.
     Placement AddX(const clsX& item) override;
+    /// A BD line. One that is too short is filled up with empty cells.
     Taken LoadRow(std::string_view line) override;
 
 protected:
-    BioSet() = default;
+    BioSet();
     BioSet(const BioSet&) = default;
     BioSet& operator=(const BioSet&) = default;
-    void PrintComponents(LineWriter& out) const;
-    void PrintQuantities(LineWriter& out) const;
+    static std::vector<std::string> NumberedKeys(std::vector<std::string> rns);
+    void PrintHeader(LineWriter& out) const;
+    /// BC to BM.
+    void PrintDefinition(LineWriter& out) const;
     void PrintRows(LineWriter& out) const;
     void PrintStatements(LineWriter& out) const;
+    /// Appends the parts that are those of the class.
+    virtual void AddParts(std::vector<BioPart>& parts) const = 0;
+    /// What is said of each participant or the substance, as a text.
+    virtual std::vector<std::string> ParticipantTexts() const = 0;
+    /// Texts in one, which tells them apart; sorted, for parts whose order means nothing.
+    static std::string Joined(const std::vector<std::string>& texts);
+    static std::string Sorted(std::vector<std::string> texts);
 
 private:
+    std::vector<std::string> TextsOfQuantities(bool properties) const;
+    std::vector<std::string> IdentityTexts() const;
+    bool IsEmptyColumn(std::size_t place) const;
+    bool RepeatsColumn(std::size_t place, std::size_t earlier) const;
+    bool CanBeConstraint(std::size_t place) const;
+    void CleanComponents();
+    void CleanColumns();
+
     std::vector<BioQuantity> quantities_;
+    std::vector<clsX> others_; // ^X lines that name no quantity of the set
 };
 
 /// The bio set that the selected node is about, by CurrentKey; null for none.
@@ -162,5 +201,9 @@ std::shared_ptr<BioSet> CurrentBioSet();
 /// Whether a component's content is stated by a quantity: X, W, M, J, E or pC of that compound that
 /// varies or is held constant.
 bool StatesContent(const BioSet& set, std::string_view rn);
+
+/// The units in which its values may be typed, the system unit ("1" for none) first: those that
+/// need no molar mass.
+std::vector<std::string> BioUnits(const BioQuantityText& quantity);
 
 } // namespace vexora

@@ -1,4 +1,5 @@
 #include "globals/KVOGlobal.h"
+#include "records/BioSet.h"
 #include "records/DataSet.h"
 #include "records/clsE.h"
 #include "records/clsMV.h"
@@ -8,6 +9,8 @@ namespace vexora {
 
 std::shared_ptr<DataSet> CurrentSet() {
     const KVOGlobal& globals = Globals();
+    // Bio reactions share the context of reactions, but have rows of their own kind.
+    if (globals.DataContext == "Bio" || CurrentBioSet()) return nullptr;
     const bool isMixture = globals.DataContext == "Bin" || globals.DataContext == "Tern";
     if (isMixture) return globals.CurrentMV;
     if (globals.DataContext == "React") return globals.CurrentE;

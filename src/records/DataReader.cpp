@@ -1,6 +1,7 @@
 #include "records/DataReader.h"
 
 #include "globals/KVOGlobal.h"
+#include "records/BioReader.h"
 #include "records/ReaderState.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -148,6 +149,7 @@ void ReadStatement(ReaderState& state, std::string_view line) {
     if (!state.open) return PassOverStatement(state);
     clsX item;
     item.Load(line);
+    PlaceStatement(state, item);
     const auto [place, replaces] = state.open->AddX(item);
     if (place < 0) return; // kept as it stands
     const auto [entry, isFirst] = state.statementLines.try_emplace(place, state.lineNumber);

@@ -2,6 +2,7 @@
 
 #include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
+#include "records/BioReader.h"
 #include "records/DataReader.h"
 #include "records/LineWriter.h"
 #include "records/MixtureReader.h"
@@ -47,6 +48,8 @@ std::string LinesOf(const clsL& compound) {
 void ReadSource(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
     state.BeginSystem(nullptr);
+    LeaveBioSet(state);
+    state.lastBioReaction = nullptr;
     auto source = std::make_shared<clsR>();
     source->Line = state.lineNumber;
     Notices told;
@@ -206,6 +209,7 @@ void ReadHeader(ReaderState& state, std::string_view line) {
     }
     state.Tell(state.pending.Load(line));
     ++state.pendingLines;
+    state.hasHeader = true;
     if (isUnused && LosesHeader(before, state.pending, line))
         state.Lose(state.headerLine, NothingBehind);
     state.headerLine = state.lineNumber;
@@ -260,12 +264,20 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
             table[tag] = ReadPropertyChange;
         for (const std::string_view tag : {"^E", "^H"})
             table[tag] = ReadEquilibrium;
+        table["BR"] = ReadBioReaction;
+        table["BN"] = ReadBioProperty;
+        table["BP"] = ReadBioCompound;
+        table["BH"] = ReadBioKind;
+        table["BC"] = ReadBioComponent;
+        table["BV"] = ReadBioQuantity;
+        table["BE"] = ReadBioEnd;
+        table["BM"] = ReadBioMethod;
+        table["B0"] = ReadBioFlags;
+        table["BD"] = ReadBioRow;
         // Behind these the values and samples are those of a complex.
         for (const std::string_view tag : {"CS", "SB"})
             table[tag] = PassOverSystem;
-        for (const std::string_view tag :
-             {"BR", "B0", "BN", "BP", "BC", "BV", "BM", "BH", "BD", "BE", "CC", "CE", "SS", "GH",
-              "SE", "XB", "XD", "XC", "XE"})
+        for (const std::string_view tag : {"CC", "CE", "SS", "GH", "SE", "XB", "XD", "XC", "XE"})
             table[tag] = PassOverLine;
         return table;
     }();
@@ -311,6 +323,7 @@ void ReaderState::LeaveFactor() {
 
 void ReaderState::Finish() {
     LeaveFactor();
+    LeaveBioSet(*this);
     OpenNext();
     // A header with no record behind it goes lost, too.
     linesNotKept += pendingLines;
@@ -323,6 +336,7 @@ void ReaderState::PassOver() {
     OpenNext();
     // Its header is not that of the next record.
     pending = clsA();
+    hasHeader = false;
     headerLine = factorLine = 0;
     lastNotKept = true;
 }

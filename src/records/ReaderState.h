@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "records/BioInHand.h"
 #include "records/Notice.h"
 #include "records/clsA.h"
 
@@ -45,6 +46,7 @@ struct ReaderState {
     std::vector<LineLost> lost; // what else a save would lose, and lines that nobody knows
     std::vector<LineLost> told; // what records had to say of their lines
     int pendingLines = 0;       // lines of the header since the last data record
+    bool hasHeader = false;     // a header is in force
     int headerLine = 0;         // the header, until a record stands under it
     int factorLine = 0;         // the factor, until a value stands in the unit that it makes
     double statedFactor = 0;    // what that line says
@@ -57,6 +59,8 @@ struct ReaderState {
     /// Lines of the statements of the open record, by the place that they took in it.
     std::unordered_map<int, int> statementLines;
     int rowStatementsLine = 0; // that of the row read last, 0 for none
+    BioInHand bio;
+    std::shared_ptr<clsBR> lastBioReaction; // of those that are in hand no more
 
     bool isAbandoned = false;
     /// A registry number that is no number: nothing behind it can be told to a compound.
@@ -70,6 +74,8 @@ struct ReaderState {
     std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
     std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
     std::unordered_map<const Record*, std::unordered_map<std::string, SetNumbers>> setNumbers;
+    /// The highest number of a bio set, by the collection.
+    std::unordered_map<const void*, int> highestBioSet;
     /// Mixtures whose components stand in another order than in the one that the source has
     /// already: their sets join it once all their lines are read.
     std::vector<std::shared_ptr<clsM>> reordered;

@@ -18,7 +18,7 @@ LabelsLater::~LabelsLater() {
 }
 
 std::string Record::NodeKey(const ui::TreeNode* above) const {
-    return (above ? above->Key() : "R") + Key();
+    return (above ? above->Key() : "R") + KeyInTree();
 }
 
 void Record::MakeNode(ui::TreeNode* above) {

@@ -27,6 +27,8 @@ public:
     /// A collection holds the record under the key that it had on joining: who changes a part of
     /// the key has to rekey it there.
     virtual std::string Key() const = 0;
+    /// The key of its node among those of its siblings.
+    virtual std::string KeyInTree() const { return Key(); }
     /// The text of the node.
     virtual std::string ShowKey() const = 0;
     /// Its node is to catch the eye.

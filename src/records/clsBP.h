@@ -34,9 +34,9 @@ public:
     std::vector<std::string> ParticipantKeys() const override;
     bool Uses(std::string_view rn) const override;
     bool UsesSample(std::string_view rn, std::string_view sample) const override;
-    bool Equal(const BioSet& other) const override;
 
-    std::string Key() const override;
+    std::string Key() const override { return PlaceKey(SetNo); }
+    static std::string PlaceKey(int setNo);
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsR& source);
@@ -51,6 +51,10 @@ public:
     void PrintBP(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintBP(out); }
     void ExportAll(XmlWriter& xml) const override;
+
+protected:
+    void AddParts(std::vector<BioPart>& parts) const override;
+    std::vector<std::string> ParticipantTexts() const override;
 };
 
 } // namespace vexora

@@ -38,7 +38,6 @@ public:
     std::vector<std::string> ParticipantKeys() const override;
     bool Uses(std::string_view rn) const override;
     bool UsesSample(std::string_view rn, std::string_view sample) const override;
-    bool Equal(const BioSet& other) const override;
 
     /// The formulas and coefficients of all participants, as the balancer takes them.
     std::vector<std::string> Formulas() const;
@@ -46,7 +45,11 @@ public:
     /// "D-glucose = D-fructose"; reactants joined by " + ", coefficients but 1 in front.
     std::string Equation() const;
 
+    /// "RBR" and the registry numbers of the participants, parted by commas.
     std::string Key() const override;
+    /// The same with the number: sets of one reaction stand side by side.
+    std::string KeyInTree() const override;
+    static std::string PlaceKey(int setNo); // its key in the source
     std::string ShowKey() const override;
     void SetMe() override;
     void AttachTo(clsR& source);
@@ -62,6 +65,10 @@ public:
     void PrintBR(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintBR(out); }
     void ExportAll(XmlWriter& xml) const override;
+
+protected:
+    void AddParts(std::vector<BioPart>& parts) const override;
+    std::vector<std::string> ParticipantTexts() const override;
 };
 
 } // namespace vexora

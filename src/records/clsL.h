@@ -47,7 +47,7 @@ public:
     /// Known there, but its name was chosen among others and has to travel too.
     bool isNamed = false;
     bool isBio = false;
-    /// A mixture or reaction names it: its line is needed though it has no samples. Known
+    /// A mixture, reaction or bio set names it: its line is needed though it has no samples. Known
     /// behind clsR::MarkCompounds.
     bool isUsed = false;
     /// Enzyme classification and protein data bank code of a bio compound.

@@ -7,6 +7,8 @@
 #include "records/RegistryNumbers.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsC.h"
 #include "records/clsE.h"
 #include "records/clsL.h"
@@ -151,6 +153,7 @@ void clsR::MarkCompounds() {
             if (!reaction->recE.IsEmpty()) compound->SYSTYPES[equilibrium] = 'D';
         }
     }
+    MarkCompoundsOfBioSets();
 }
 
 void clsR::PrintR(LineWriter& out) const {
@@ -203,6 +206,10 @@ void clsR::EachChild(const std::function<void(Record&)>& visit) const {
         visit(*mixture);
     for (const auto& reaction : recQ)
         visit(*reaction);
+    for (const auto& set : recBR)
+        visit(*set);
+    for (const auto& set : recBP)
+        visit(*set);
 }
 
 std::vector<std::string> clsR::UpdateRefInfo() {
@@ -277,7 +284,8 @@ bool clsR::Names(std::string_view rn) const {
     const auto compound = FindL(rn);
     return std::ranges::any_of(recM,
                                [&](const auto& m) { return compound && m->PlaceOf(*compound); }) ||
-           std::ranges::any_of(recQ, [&](const auto& reaction) { return reaction->Uses(rn); });
+           std::ranges::any_of(recQ, [&](const auto& reaction) { return reaction->Uses(rn); }) ||
+           StandsInBioSets(rn);
 }
 
 std::string clsR::ProposedName() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@ namespace ui {
 struct Date;
 }
 
+class BioSet;
 class clsAuthor;
 class clsBP;
 class clsBR;
@@ -113,11 +115,20 @@ public:
     /// components bear these; null for none. A mixture with an unknown component bears no name.
     std::shared_ptr<clsM> FindM(std::string_view composition) const;
 
-    /// A mixture or reaction of it is of this compound.
+    /// A mixture, a reaction or a bio set of it is of this compound.
     bool Names(std::string_view rn) const;
 
     /// The reaction of the same class, participants, solvent and inert compound, or null.
     std::shared_ptr<clsQ> FindQ(const clsQ& reaction) const;
+
+    /// The bio set with this number, or null.
+    std::shared_ptr<clsBR> FindBR(int setNo) const;
+    std::shared_ptr<clsBP> FindBP(int setNo) const;
+    /// The number that a new one is offered: one above the count, or the next free one.
+    int NextBRNumber() const;
+    int NextBPNumber() const;
+    /// Bio reactions, then properties of bio substances.
+    void ForEachBioSet(const std::function<void(BioSet&)>& visit) const;
 
     /// File name for a document that has none, without its ending: the manuscript's identifier, or
     /// year, author codes and number in one.
@@ -130,7 +141,8 @@ public:
     /// being the code. Another letter leaves it open.
     std::string QuestionOfOrigin() const;
     void TakeOrigin(std::string_view answer);
-    /// Says of every compound which kinds of data and whether mixtures or reactions name it.
+    /// Says of every compound which kinds of data it has, and whether mixtures, reactions or bio
+    /// sets name it.
     void MarkCompounds();
     /// Brings SYSTYPES and the property letters up to date, as saving and exporting need them. The
     /// answer is what does not fit, for the user.
@@ -142,6 +154,8 @@ public:
 private:
     void PrintDescription(LineWriter& out) const;
     void MakeCompound(const std::string& rn);
+    void MarkCompoundsOfBioSets();
+    bool StandsInBioSets(std::string_view rn) const;
 };
 
 /// The next free AUTHORN for the identity in SOURCE_REFINFO and in the document, one source of the

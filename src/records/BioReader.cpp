@@ -1,0 +1,426 @@
+#include "records/BioReader.h"
+
+#include "chem/clsAtom.h"
+#include "globals/KVOGlobal.h"
+#include "records/BioLines.h"
+#include "records/LineWriter.h"
+#include "records/ReaderState.h"
+#include "records/RegistryNumbers.h"
+#include "records/SetLines.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
+#include "records/clsL.h"
+#include "records/clsR.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
+
+#include <algorithm>
+
+namespace vexora {
+
+namespace {
+
+constexpr const char* WordsTooMany = "words stand behind the last field";
+constexpr const char* DescribedBefore = "the compound is described before, in another way";
+
+/// The set that a line belongs to; null, which is told, when none has been begun.
+BioSet* SetInHand(ReaderState& state) {
+    if (!state.bio.set) {
+        ++state.linesNotKept;
+        state.Lose(state.lineNumber, "no bio set stands before it");
+    }
+    return state.bio.set.get();
+}
+
+/// Names what is lost with words that stand too far back.
+void LoseWordsLeft(ReaderState& state, const WordReader& words) {
+    if (!words.AtEnd()) state.Lose(state.lineNumber, WordsTooMany);
+}
+
+/// A line that there can be once takes the place of another one.
+void LoseBefore(ReaderState& state, int& lineBefore, bool differs) {
+    if (lineBefore != 0 && differs)
+        state.Lose(lineBefore, "this stands once more in line " + std::to_string(state.lineNumber) +
+                                   ", which takes its place");
+    lineBefore = state.lineNumber;
+}
+
+/// A set whose line has been read is the one in hand from here on.
+template <class Set>
+void Begin(ReaderState& state, const std::shared_ptr<Set>& set) {
+    state.BeginSystem(state.lines);
+    LeaveBioSet(state);
+    set->Line = state.lineNumber;
+    set->Parent = Globals().CurrentR.get();
+    if (state.hasHeader) {
+        set->Header.TakeHeader(state.pending);
+    } else {
+        set->Header.COMPILER = Globals().CompilerCode;
+        set->Header.CONTRIBUTOR = Globals().ContributorCode;
+    }
+    state.pendingLines = state.headerLine = 0;
+    state.bio.set = set;
+    state.OpenNext(set);
+}
+
+void BeginReaction(ReaderState& state, const std::shared_ptr<clsBR>& set) {
+    Begin(state, set);
+    state.bio.reaction = set;
+    Globals().CurrentBR = set;
+    Globals().CurrentKey = "RBR";
+}
+
+/// A number that is in use gives way to the one above the highest.
+template <class Sets>
+void SettleNumber(ReaderState& state, const Sets& sets, const void* owner, BioSet& set,
+                  bool isTaken) {
+    const auto [entry, isFirst] = state.highestBioSet.try_emplace(owner, 0);
+    if (isFirst)
+        for (const auto& known : sets)
+            entry->second = std::max(entry->second, known->SetNo);
+    if (isTaken) {
+        state.Tell({{"Duplicate data set number will be changed", {}}});
+        set.SetNo = entry->second + 1;
+        Globals().Saved = false;
+    }
+    entry->second = std::max(entry->second, set.SetNo);
+}
+
+void AttachReaction(ReaderState& state, clsR& source, clsBR& set) {
+    SettleNumber(state, source.recBR, &source.recBR, set, source.FindBR(set.SetNo) != nullptr);
+    set.AttachTo(source);
+}
+
+void AttachProperty(ReaderState& state, clsR& source, clsBP& set) {
+    // A phase equilibrium is one of a complex sample, and this edition attaches to none.
+    if (set.PrpType == "G")
+        return state.Abandon(source.Source() + "\n" + set.ShowKey(), "Sample not specified");
+    SettleNumber(state, source.recBP, &source.recBP, set, source.FindBP(set.SetNo) != nullptr);
+    set.AttachTo(source);
+}
+
+/// The compound of a line as the line has it.
+struct BioCompound {
+    std::string RN;
+    CompoundWords words;
+};
+
+/// A complex has a number below 0, and its own lines.
+bool IsCompoundNumber(const std::string& rn) {
+    return !NamesNoCompound(rn) && Val(rn) > 0;
+}
+
+std::int32_t ChargeOf(const std::string& word) {
+    constexpr std::int64_t most = 999'999;
+    return static_cast<std::int32_t>(std::clamp(ToInteger(Val(word)), -most, most));
+}
+
+/// The compound as far as the reference database knows it, under the name of the line.
+std::shared_ptr<clsL> NewCompound(const BioCompound& read, int line) {
+    auto compound = std::make_shared<clsL>();
+    compound->Line = line;
+    compound->RN = read.RN;
+    compound->TakeKnownIdentity();
+    compound->isBio = true;
+    compound->isNew = CompoundsOf(ToInteger(Val(read.RN))).empty();
+    if (read.words.name.empty() || RunTogether(compound->Name) == read.words.name) return compound;
+    compound->Name = UnderscoresToBlanks(read.words.name);
+    compound->isNamed = !compound->isNew;
+    return compound;
+}
+
+/// What a compound of the source does not say yet it takes over; false when it says something else.
+bool TakeWords(clsL& compound, const BioCompound& read) {
+    const CompoundWords& words = read.words;
+    bool fits = true;
+    const auto take = [&fits](std::string& field, const std::string& word, bool isText) {
+        if (field.empty()) field = isText ? UnderscoresToBlanks(word) : word;
+        fits = fits && (word.empty() || (isText ? RunTogether(field) : field) == word);
+    };
+    take(compound.Name, words.name, true);
+    take(compound.Formula, words.formula, false);
+    take(compound.EC, words.EC, true);
+    take(compound.PDB, words.PDB, true);
+    const std::int32_t charge = ChargeOf(words.charge);
+    if (compound.Charge == 0) compound.Charge = charge;
+    if (compound.MMass <= 0) compound.MMass = MolarMassOfFormula(compound.Formula);
+    if (compound.MMass <= 0) compound.MMass = std::max(0.0, Val(words.molarMass));
+    return fits && (charge == 0 || charge == compound.Charge);
+}
+
+void TakeCompound(ReaderState& state, const BioCompound& read) {
+    const auto source = Globals().CurrentR;
+    if (!source || !IsCompoundNumber(read.RN)) return;
+    auto compound = source->FindL(read.RN);
+    if (!compound) {
+        compound = NewCompound(read, state.lineNumber);
+        compound->AttachTo(*source);
+    }
+    if (!TakeWords(*compound, read)) state.Lose(state.lineNumber, DescribedBefore);
+}
+
+/// The number of a line, mended; lines further down name the old one.
+std::string MendedNumber(ReaderState& state, const std::string& rn) {
+    std::string mended = state.MendedRN(rn);
+    if (mended != rn) {
+        state.mendedRN[rn] = mended;
+        Globals().Saved = false;
+    }
+    return mended;
+}
+
+bool IsZero(const std::string& coefficient) {
+    return coefficient.empty() || (IsNumeric(coefficient) && Val(coefficient) == 0);
+}
+
+/// BP n key 0 SMPNM RN name formula mmass 0 coeff phase charge EC PDB
+void ReadParticipant(ReaderState& state, clsBR& set, WordReader& words) {
+    const bool isMarked = words.NextWord() == "1";
+    const std::string key = NextField(words);
+    words.NextWord();
+    BioParticipant participant;
+    participant.SMPNM = NextField(words);
+    BioCompound read;
+    read.RN = participant.RN = MendedNumber(state, NextField(words));
+    read.words.name = NextField(words);
+    read.words.formula = NextField(words);
+    read.words.molarMass = words.NextWord();
+    words.NextWord();
+    participant.coefficient = NextField(words);
+    participant.phase = NextField(words);
+    read.words.charge = words.NextWord();
+    read.words.EC = NextField(words);
+    read.words.PDB = NextField(words);
+    LoseWordsLeft(state, words);
+    TakeCompound(state, read);
+    if (!isMarked && IsZero(participant.coefficient)) {
+        state.bio.keys[key] = {read.RN, {}, participant.SMPNM, false};
+        return;
+    }
+    if (participant.coefficient == "0") participant.coefficient.clear();
+    set.Participants.push_back(std::move(participant));
+    state.bio.keys[key] = {read.RN, set.ParticipantKeys().back(), {}, true};
+}
+
+/// BP key 0 SMPNM & name RN formula mmass charge EC PDB
+void ReadSubstance(ReaderState& state, clsBP& set, WordReader& words) {
+    const std::string key = NextField(words);
+    words.NextWord();
+    const std::string sample = NextField(words);
+    words.NextWord();
+    BioCompound read;
+    read.words.name = NextField(words);
+    read.RN = MendedNumber(state, NextField(words));
+    read.words.formula = NextField(words);
+    read.words.molarMass = words.NextWord();
+    read.words.charge = words.NextWord();
+    read.words.EC = NextField(words);
+    read.words.PDB = NextField(words);
+    LoseWordsLeft(state, words);
+    TakeCompound(state, read);
+    const bool isSubstance = state.bio.keys.empty();
+    state.bio.keys[key] = {read.RN, isSubstance ? read.RN : "", isSubstance ? "" : sample,
+                           isSubstance};
+    if (!isSubstance) return;
+    set.RN = read.RN;
+    set.SMPNM = sample;
+}
+
+} // namespace
+
+void ReadBioReaction(ReaderState& state, std::string_view line) {
+    auto set = std::make_shared<clsBR>();
+    if (!Globals().CurrentR || !set->Load(line)) return state.AbandonIncomplete(line);
+    BeginReaction(state, set);
+    WordReader words(line);
+    for (int n = 0; n < 3; ++n)
+        words.NextWord();
+    LoseWordsLeft(state, words);
+}
+
+void ReadBioProperty(ReaderState& state, std::string_view line) {
+    auto set = std::make_shared<clsBP>();
+    if (!Globals().CurrentR || !set->Load(line)) return state.AbandonIncomplete(line);
+    Begin(state, set);
+    state.bio.property = set;
+    Globals().CurrentBP = set;
+    Globals().CurrentKey = "RBP";
+    WordReader words(line);
+    for (int n = 0; n < 2; ++n)
+        words.NextWord();
+    LoseWordsLeft(state, words);
+}
+
+void ReadBioCompound(ReaderState& state, std::string_view line) {
+    if (!SetInHand(state)) return;
+    WordReader words(line);
+    words.NextWord();
+    if (state.bio.reaction)
+        ReadParticipant(state, *state.bio.reaction, words);
+    else
+        ReadSubstance(state, *state.bio.property, words);
+}
+
+void ReadBioKind(ReaderState& state, std::string_view line) {
+    if (!SetInHand(state)) return;
+    if (!state.bio.property) return state.Lose(state.lineNumber, "a bio reaction has no such line");
+    clsBP& set = *state.bio.property;
+    WordReader words(line);
+    words.NextWord();
+    const std::string kind = NextField(words), sample = NextField(words);
+    std::string state1 = NextText(words), state2 = NextText(words);
+    std::array<std::string, 4> phases;
+    for (std::string& phase : phases)
+        phase = NextField(words);
+    LoseWordsLeft(state, words);
+    const std::array<std::string, 4> before = {set.PHASE1, set.PHASE2, set.PHASE3, set.PHASE4};
+    LoseBefore(state, state.bio.kindLine,
+               kind != set.PrpType || state1 != set.State1 || state2 != set.State2 ||
+                   phases != before);
+    if (!sample.empty() && !set.SMPNM.empty() && sample != set.SMPNM)
+        state.Lose(state.lineNumber, "the line of the substance names sample " + set.SMPNM);
+    if (set.SMPNM.empty()) set.SMPNM = sample;
+    set.PrpType = kind;
+    set.State1 = std::move(state1);
+    set.State2 = std::move(state2);
+    set.PHASE1 = std::move(phases[0]);
+    set.PHASE2 = std::move(phases[1]);
+    set.PHASE3 = std::move(phases[2]);
+    set.PHASE4 = std::move(phases[3]);
+    if (set.PrpType == "G") Globals().CurrentKey = "RXSP";
+}
+
+namespace {
+
+/// What a key means, the k-th of a compound by any of its lines; null for a compound that no line
+/// of the set names.
+BioInHand::Meaning* MeaningOf(BioInHand& bio, const std::string& key) {
+    const auto known = bio.keys.find(key);
+    if (known != bio.keys.end()) return &known->second;
+    const auto first = bio.keys.find(BioSet::RNOfKey(key));
+    if (first == bio.keys.end()) return nullptr;
+    const std::string rn = first->second.RN;
+    return &(bio.keys[key] = {rn, {}, {}, false});
+}
+
+} // namespace
+
+void ReadBioComponent(ReaderState& state, std::string_view line) {
+    BioSet* const set = SetInHand(state);
+    if (!set) return;
+    WordReader words(line);
+    words.NextWord();
+    const std::string key = NextField(words);
+    BioInHand::Meaning* const meaning = MeaningOf(state.bio, key);
+    if (!meaning)
+        return state.Lose(state.lineNumber, "no line of the set names the compound " + key);
+    BioComponent component;
+    component.RN = meaning->RN;
+    component.function = NextText(words);
+    component.phase = NextField(words);
+    component.SMPNM = NextField(words);
+    component.note = WithoutPlaceholder(Trim(words.Rest()));
+    if (component.SMPNM.empty()) component.SMPNM = meaning->sample;
+    set->Components.push_back(std::move(component));
+    // Of two with one key the first is meant.
+    if (meaning->key.empty()) meaning->key = set->Keys().back();
+}
+
+void ReadBioQuantity(ReaderState& state, std::string_view line) {
+    BioSet* const set = SetInHand(state);
+    if (!set) return;
+    WordReader words(line);
+    words.NextWord();
+    bool knowsRole = true;
+    BioQuantity quantity = ReadQuantity(words, *set, &knowsRole);
+    LoseWordsLeft(state, words);
+    if (!knowsRole) state.Lose(state.lineNumber, "the role of the quantity is none of P, V and C");
+    const auto known = state.bio.keys.find(quantity.component);
+    if (known != state.bio.keys.end() && !known->second.key.empty())
+        quantity.component = known->second.key;
+    const std::size_t place = set->Add(std::move(quantity));
+    for (std::size_t& other : state.bio.places)
+        if (other >= place) ++other;
+    state.bio.places.push_back(place);
+}
+
+void ReadBioEnd(ReaderState& state, std::string_view) {
+    if (!SetInHand(state) || state.bio.isAttached) return;
+    const auto source = Globals().CurrentR;
+    if (state.bio.reaction)
+        AttachReaction(state, *source, *state.bio.reaction);
+    else
+        AttachProperty(state, *source, *state.bio.property);
+    state.bio.isAttached = true;
+}
+
+void ReadBioMethod(ReaderState& state, std::string_view line) {
+    BioSet* const set = SetInHand(state);
+    if (!set) return;
+    WordReader words(line);
+    words.NextWord();
+    const std::string method = WithoutPlaceholder(Trim(words.Rest()));
+    LoseBefore(state, state.bio.methodLine, method != set->Method);
+    set->Method = method;
+}
+
+namespace {
+
+/// The last bio reaction again, without its rows.
+void ReadCopy(ReaderState& state, std::string_view number) {
+    const auto source = Globals().CurrentR;
+    const auto last = state.lastBioReaction;
+    if (!source || !last) {
+        ++state.linesNotKept;
+        return state.Lose(state.lineNumber, "no bio reaction stands before it");
+    }
+    const auto copy = last->Copy();
+    copy->recD.clear();
+    copy->SetNo = BioSetNumber(number);
+    if (copy->SetNo == 0 || source->FindBR(copy->SetNo)) copy->SetNo = source->NextBRNumber();
+    BeginReaction(state, copy);
+    AttachReaction(state, *source, *copy);
+    state.bio.isAttached = true;
+}
+
+} // namespace
+
+void ReadBioFlags(ReaderState& state, std::string_view line) {
+    WordReader words(line);
+    words.NextWord();
+    const std::string_view first = words.NextWord(), second = words.NextWord();
+    if (second.empty()) return ReadCopy(state, first);
+    BioSet* const set = SetInHand(state);
+    if (!set) return;
+    if (!state.bio.reaction)
+        return state.Lose(state.lineNumber, "a property of a bio substance has no such line");
+    LoseBefore(state, state.bio.flagLine,
+               set->Flag1 != (first == "1") || set->Flag2 != (second == "1"));
+    set->Flag1 = first == "1";
+    set->Flag2 = second == "1";
+    LoseWordsLeft(state, words);
+}
+
+void ReadBioRow(ReaderState& state, std::string_view line) {
+    BioSet* const set = SetInHand(state);
+    if (set && set->LoadRow(line) == OpenRecord::Taken::InPart)
+        state.Lose(state.lineNumber, WordsTooMany);
+}
+
+void PlaceStatement(const ReaderState& state, clsX& item) {
+    const std::vector<std::size_t>& places = state.bio.places;
+    if (state.open != state.bio.set || item.N < 0) return;
+    const auto number = static_cast<std::size_t>(item.N);
+    if (number < places.size()) item.N = static_cast<int>(places[number]);
+}
+
+void LeaveBioSet(ReaderState& state) {
+    const BioInHand& bio = state.bio;
+    if (bio.set && !bio.isAttached)
+        state.Lose(bio.set->Line, "the bio set that begins here has no line that ends it (BE)");
+    if (bio.reaction) state.lastBioReaction = bio.reaction;
+    state.bio = {};
+}
+
+} // namespace vexora
