@@ -80,19 +80,19 @@ void frmSample::WireEvents() {
 void frmSample::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
-    editing_ = globals.EditSample && globals.CurrentS != nullptr;
+    editing_ = globals.EditSample && CurrentCompoundSample() != nullptr;
     FillLists();
     FillCompounds();
     cboSubst.Enabled(!editing_);
     cmdNext.Visible(!editing_);
     if (editing_) {
-        stored_ = globals.CurrentS;
+        stored_ = CurrentCompoundSample();
         const ui::FillingScope filling(*this);
         cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(stored_->Parent)) - 1);
         txtSampleNo.Text(stored_->SMPNM);
         Fill();
     } else {
-        cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(globals.CurrentL.get())) -
+        cboSubst.Index(static_cast<int>(globals.CurrentR->recL.Position(CurrentCompound().get())) -
                        1);
         NewSample();
     }

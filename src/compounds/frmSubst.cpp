@@ -100,7 +100,7 @@ void frmSubst::WireEvents() {
 void frmSubst::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
-    editing_ = globals.EditCompound && globals.CurrentL != nullptr;
+    editing_ = globals.EditCompound && CurrentCompound() != nullptr;
     forBioData_ = !editing_ && OpenedByBioDialog();
     fraBio.Visible(globals.BioEnabled || forBioData_);
     if (editing_) PrepareEdit();
@@ -109,7 +109,7 @@ void frmSubst::Load() {
 /// The registry number is what mixtures, reactions and data know a compound by, so it stays. Name
 /// and formula are the database's, unless it has none of them.
 void frmSubst::PrepareEdit() {
-    const clsL& compound = *Globals().CurrentL;
+    const clsL& compound = *CurrentCompound();
     mendable_ = compound.isNew || compound.Name.empty() || compound.Formula.empty();
     cmdAccept.Caption("OK");
     cmdUseRN.Visible(false);

@@ -199,7 +199,7 @@ void frmSubst::ClearBoxes() {
 }
 
 void frmSubst::AcceptEdit() {
-    clsL& compound = *Globals().CurrentL;
+    clsL& compound = *CurrentCompound();
     if (!CheckCharge()) return;
     AskAboutHydrate();
     // Looking at a compound without identity does not make it a new one.

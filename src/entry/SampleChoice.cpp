@@ -27,13 +27,27 @@ SampleChoice::SampleChoice(ui::Form& form, ui::ComboBox& compounds, ui::ComboBox
 }
 
 void SampleChoice::Fill(bool isLocked) {
-    locked_ = isLocked;
-    compounds_.Enabled(!isLocked);
-    sampleBox_.Enabled(!isLocked);
-    const KVOGlobal& globals = Globals();
-    ListCompounds(globals.CurrentL.get());
+    ofComplex_ = CurrentCompoundSample() ? nullptr : Globals().CurrentS;
+    locked_ = isLocked || ofComplex_;
+    compounds_.Enabled(!locked_);
+    sampleBox_.Enabled(!locked_);
+    if (ofComplex_) return ShowOfComplex();
+    ListCompounds(CurrentCompound().get());
     samples_.Fill(Compound());
-    samples_.Choose(globals.CurrentS.get());
+    samples_.Choose(CurrentCompoundSample().get());
+}
+
+void SampleChoice::ShowOfComplex() {
+    const ui::FillingScope filling(form_);
+    compounds_.Assign({ofComplex_->SystemName()});
+    compounds_.Index(0);
+    sampleBox_.Assign({ofComplex_->SMPNM});
+    sampleBox_.Index(0);
+}
+
+std::shared_ptr<SubstanceSample> SampleChoice::Sample() const {
+    if (ofComplex_) return ofComplex_;
+    return samples_.Sample();
 }
 
 void SampleChoice::ListCompounds(const clsL* chosen) {
@@ -62,8 +76,9 @@ std::shared_ptr<clsL> SampleChoice::Compound() const {
 }
 
 double SampleChoice::MolarMass() const {
+    if (ofComplex_) return ofComplex_->MolarMass();
     const auto compound = Compound();
-    return compound ? MolarMassOfRN(compound->RN) : 0;
+    return compound ? compound->MolarMass() : 0;
 }
 
 void SampleChoice::PutInContext(double fallbackMolarMass) {

@@ -10,11 +10,13 @@
 
 namespace vexora {
 
+class SubstanceSample;
 class clsL;
-class clsS;
 
 /// The two lists in which a dialog for data of a pure compound asks for the compound and its
-/// sample. The dialog owns the lists and this; the choice is told through the globals.
+/// sample. The dialog owns the lists and this; the choice is told through the globals. Data of a
+/// complex belong to the sample that was current when the dialog was opened: the lists show it and
+/// offer no other.
 class SampleChoice {
 public:
     /// Answers to clicks in the lists: another compound offers its samples, the "New" of the
@@ -28,10 +30,9 @@ public:
     /// when a record is edited, which keeps its sample.
     void Fill(bool isLocked);
 
-    /// The chosen one, null for none or without a source.
-    std::shared_ptr<clsL> Compound() const;
-    std::shared_ptr<clsS> Sample() const { return samples_.Sample(); }
-    /// Molar mass [g/mol] of the compound, 0 when it is not known.
+    /// The chosen one, null for none.
+    std::shared_ptr<SubstanceSample> Sample() const;
+    /// Molar mass [g/mol] of the compound or complex, 0 when it is not known.
     /// From the registry number, whose formula the databases know.
     double MolarMass() const;
     /// Makes the sample the current one, unless locked, and puts purity and molar mass, or this one
@@ -40,6 +41,8 @@ public:
     void PutInContext(double fallbackMolarMass);
 
 private:
+    std::shared_ptr<clsL> Compound() const;
+    void ShowOfComplex();
     void ListCompounds(const clsL* chosen);
     void ClickSample();
 
@@ -47,6 +50,7 @@ private:
     ui::ComboBox& compounds_;
     ui::ComboBox& sampleBox_;
     SampleList samples_;
+    std::shared_ptr<SubstanceSample> ofComplex_; // null for data of a compound
     bool locked_ = false;
 };
 

@@ -31,9 +31,11 @@ bool HasPlace(const clsTwo& set) {
 
 void clsTwo::ExportAll(XmlWriter& xml) const {
     // A set outside a document has no compound to refer to.
-    if (Parent == nullptr || Parent->Parent == nullptr) return;
+    // Data of a complex do not leave.
+    const auto* const compound = dynamic_cast<const clsL*>(Parent ? Parent->System() : nullptr);
+    if (compound == nullptr) return;
     if (IsWithoutNumbers(*this)) return; // named behind all others
-    const DataSubject subject = SubjectOf(*this, {{Parent->Parent, SMPNM}});
+    const DataSubject subject = SubjectOf(*this, {{compound, SMPNM}});
     SetRows rows(*this);
     const std::string fault = HasPlace(*this) ? rows.Fault(subject) : NoPlaceInExport;
     if (!fault.empty()) return TellDataError(subject, fault);

@@ -58,8 +58,10 @@ void ExportValues(XmlWriter& xml, const DataSubject& subject, const clsZ& value,
 } // namespace
 
 void clsZ::ExportZ(XmlWriter& xml) const {
-    if (Parent == nullptr || Parent->Parent == nullptr) return;
-    const DataSubject subject = SubjectOf(*this, {{Parent->Parent, SMPNM}});
+    // Data of a complex do not leave.
+    const auto* const compound = dynamic_cast<const clsL*>(Parent ? Parent->System() : nullptr);
+    if (compound == nullptr) return;
+    const DataSubject subject = SubjectOf(*this, {{compound, SMPNM}});
     const std::string fault = FaultOf(subject, *this);
     if (!fault.empty()) return TellDataError(subject, fault);
     OpenData(xml, subject, Header);

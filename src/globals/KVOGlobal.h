@@ -20,7 +20,6 @@ class clsComplex;
 class clsComplexSample;
 class clsCrS;
 class clsE;
-class clsL;
 class clsM;
 class clsMethod;
 class clsMMM;
@@ -29,12 +28,13 @@ class clsMZ;
 class clsProperty;
 class clsQ;
 class clsR;
-class clsS;
 class clsTwo;
 class clsX;
 class clsZ;
 class DataSet;
 class ProcessedSets;
+class Substance;
+class SubstanceSample;
 struct PlotTable;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
@@ -47,8 +47,10 @@ struct KVOGlobal {
     ui::TreeView* tvwTree = nullptr; // the tree of the main form, null before it is open
 
     std::shared_ptr<clsR> CurrentR;
-    std::shared_ptr<clsL> CurrentL;
-    std::shared_ptr<clsS> CurrentS;
+    // A compound or a complex, and its sample: CurrentCompound and CurrentCompoundSample ask for
+    // those of a compound.
+    std::shared_ptr<Substance> CurrentL;
+    std::shared_ptr<SubstanceSample> CurrentS;
     std::shared_ptr<clsZ> CurrentZ;
     std::shared_ptr<clsTwo> CurrentTwo;
     std::shared_ptr<clsM> CurrentM;

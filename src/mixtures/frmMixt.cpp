@@ -60,7 +60,7 @@ void frmMixt::Load() {
     const KVOGlobal& globals = Globals();
     Globals().DialogAccepted = false;
     const auto& compounds = globals.CurrentR->recL;
-    chosen_[0] = compounds.Item(compounds.Position(globals.CurrentL.get()));
+    chosen_[0] = compounds.Item(compounds.Position(CurrentCompound().get()));
     Fill(0);
     Fill(1);
 }

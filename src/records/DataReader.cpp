@@ -3,9 +3,9 @@
 #include "globals/KVOGlobal.h"
 #include "records/BioReader.h"
 #include "records/ReaderState.h"
-#include "records/clsL.h"
+#include "records/Substance.h"
+#include "records/clsComplexSample.h"
 #include "records/clsR.h"
-#include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "records/clsX.h"
 #include "records/clsZ.h"
@@ -22,7 +22,7 @@ using Taken = OpenRecord::Taken;
 
 /// "*" and "S1" mean the current sample; other texts are the number of one.
 /// The text stays in the record as read; to whom it belongs is told by the sample it hangs on.
-std::shared_ptr<clsS> SampleOf(ReaderState& state, const std::string& text) {
+std::shared_ptr<SubstanceSample> SampleOf(ReaderState& state, const std::string& text) {
     const KVOGlobal& globals = Globals();
     const bool isCurrent = text == "*" || (text.starts_with('S') && IsNumeric(text.substr(1)));
     if (isCurrent || !globals.CurrentL) return globals.CurrentS;
@@ -42,7 +42,7 @@ std::string SetKey(const clsTwo& set) {
 
 /// Notes the set among those of its sample; false when its like is there already.
 /// A walk through all siblings for each record would cost the square of their number.
-bool IsNewSet(ReaderState& state, const clsS& sample, const std::string& key) {
+bool IsNewSet(ReaderState& state, const SubstanceSample& sample, const std::string& key) {
     const auto [entry, isFirst] = state.setKeys.try_emplace(&sample);
     if (isFirst) {
         for (const auto& known : sample.recZ)
@@ -94,6 +94,8 @@ std::shared_ptr<Record> Attached(ReaderState& state, std::string_view line) {
                       record->SMPNM);
         return nullptr;
     }
+    // A sample of a complex may have been given another number than the file has.
+    if (dynamic_cast<const clsComplexSample*>(sample.get())) record->SMPNM = sample->SMPNM;
     record->TakePending(state.pending);
     record->AttachTo(*sample);
     // The header has found its record: its lines are kept.

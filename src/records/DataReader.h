@@ -12,7 +12,7 @@ struct DataLines {
     void (*value)(ReaderState& state, std::string_view line);
     void (*set)(ReaderState& state, std::string_view line);
 };
-/// Values and sets of the samples of a compound, which have no third variable.
+/// Values and sets of the samples of a compound or of a complex, which have no third variable.
 extern const DataLines PureLines;
 /// Values and sets of a mixture, which name a sample of each component.
 extern const DataLines MixtureLines;

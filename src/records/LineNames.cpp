@@ -47,6 +47,14 @@ constexpr LineGrammar Grammars[] = {
     {"^Q", ' ',
      "reaction class,participant 1,participant 2,participant 3,participant 4,-,-,participant 5,"
      "participant 6,participant 7,participant 8,solvent,inert compound"},
+    {"CS", ' ', "number,type"},
+    {"CC", ' ', "component,sample,function,content"},
+    {"CE", ' ', "-"},
+    {"SB", ' ', "number"},
+    {"SS", ' ', "component,content,kind of content,sample"},
+    {"GH", ' ',
+     "preparation temperature,preparation pressure,composition of the preparation,method"},
+    {"SE", ' ', "-"},
     {"^X", ' ',
      "-,quantity,phase,device specification,judge of the device,confidence of the device,"
      "specified by the device,repeatability,kind of repeatability,repeatability value,repetitions,"

@@ -3,6 +3,7 @@
 #include "chem/clsMethod.h"
 #include "globals/KVOGlobal.h"
 #include "records/BioReader.h"
+#include "records/ComplexReader.h"
 #include "records/DataReader.h"
 #include "records/LineWriter.h"
 #include "records/MixtureReader.h"
@@ -10,7 +11,9 @@
 #include "records/ReactionReader.h"
 #include "records/RecordReader.h"
 #include "records/RegistryNumbers.h"
+#include "records/StructureReader.h"
 #include "records/clsAuthor.h"
+#include "records/clsCrS.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
@@ -69,6 +72,8 @@ void ReadSource(ReaderState& state, std::string_view line) {
     globals.CurrentL = nullptr;
     globals.CurrentS = nullptr;
     globals.CurrentQ = nullptr;
+    globals.CurrentComplex = nullptr;
+    globals.CurrentComplexSample = nullptr;
 }
 
 void ReadDescription(ReaderState& state, std::string_view line) {
@@ -174,16 +179,17 @@ void ReadCorrection(ReaderState& state, std::string_view line) {
 void ReadSample(ReaderState& state, std::string_view line) {
     KVOGlobal& globals = Globals();
     state.BeginSystem(state.lines);
-    if (!globals.CurrentL) return state.AbandonIncomplete(line);
+    const auto compound = CurrentCompound();
+    if (!compound) return state.AbandonIncomplete(line);
     auto sample = std::make_shared<clsS>();
     sample->Line = state.lineNumber;
     sample->Load(line);
     if (sample->SMPNM.empty()) return state.AbandonIncomplete(line);
     const int number = static_cast<int>(ToInteger(Val(sample->SMPNM)));
-    const auto [entry, isNew] = state.SamplesOf(*globals.CurrentL).try_emplace(number, sample);
+    const auto [entry, isNew] = state.SamplesOf(*compound).try_emplace(number, sample);
     // As with compounds, a repeat keeps the first and adds to it.
     if (isNew)
-        sample->AttachTo(*globals.CurrentL);
+        sample->AttachTo(*compound);
     else if (sample->SMPDESC != entry->second->SMPDESC)
         state.Lose(state.lineNumber, "sample " + sample->SMPNM + " is described before, as " +
                                          OrPlaceholder(entry->second->SMPDESC));
@@ -231,16 +237,6 @@ void ReadFactor(ReaderState& state, std::string_view line) {
         ++state.pendingLines;
 }
 
-void PassOverSystem(ReaderState& state, std::string_view) {
-    state.PassOver();
-    state.pending.Factor = 0;
-    state.lines = nullptr;
-}
-
-void PassOverLine(ReaderState& state, std::string_view) {
-    state.PassOver();
-}
-
 /// Upper and lower case are different tags: by them values in system units and in those of the
 /// paper are told apart.
 const std::unordered_map<std::string_view, Handler>& Handlers() {
@@ -274,11 +270,17 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
         table["BM"] = ReadBioMethod;
         table["B0"] = ReadBioFlags;
         table["BD"] = ReadBioRow;
-        // Behind these the values and samples are those of a complex.
-        for (const std::string_view tag : {"CS", "SB"})
-            table[tag] = PassOverSystem;
-        for (const std::string_view tag : {"CC", "CE", "SS", "GH", "SE", "XB", "XD", "XC", "XE"})
-            table[tag] = PassOverLine;
+        table["CS"] = ReadComplex;
+        table["CC"] = ReadComplexComponent;
+        table["CE"] = CloseComplex;
+        table["SB"] = ReadComplexSample;
+        table["SS"] = ReadSampleComponent;
+        table["GH"] = ReadPreparation;
+        table["SE"] = CloseComplexSample;
+        table["XB"] = ReadStructure;
+        table["XD"] = ReadDistance;
+        table["XE"] = ReadStructureEnd;
+        table["XC"] = ReadAtom;
         return table;
     }();
     return handlers;
@@ -295,7 +297,9 @@ std::string ReaderState::MendedRN(const std::string& rn) {
 }
 
 void ReaderState::BeginSystem(const DataLines* itsLines) {
+    LoseOpenComplex(*this);
     LeaveFactor();
+    LeaveStructure();
     OpenNext();
     // A factor that nothing closed must not reach the data of somebody else.
     pending.Factor = 0;
@@ -321,9 +325,20 @@ void ReaderState::LeaveFactor() {
     factorLine = 0;
 }
 
+void ReaderState::LeaveStructure() {
+    if (structureLines > 0) {
+        linesNotKept += structureLines;
+        Lose(structure->Line, "the structure that begins here has no end");
+    }
+    structureLines = 0;
+    structure = nullptr;
+}
+
 void ReaderState::Finish() {
+    LoseOpenComplex(*this);
     LeaveFactor();
     LeaveBioSet(*this);
+    LeaveStructure();
     OpenNext();
     // A header with no record behind it goes lost, too.
     linesNotKept += pendingLines;

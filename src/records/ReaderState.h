@@ -17,12 +17,15 @@
 namespace vexora {
 
 class ReadTalk;
-class clsL;
+class clsCrS;
 class clsM;
 class clsR;
-class clsS;
 class OpenRecord;
 class Record;
+class Substance;
+class SubstanceSample;
+class clsComplex;
+class clsComplexSample;
 struct DataLines;
 
 /// Numbers of the values or sets of one kind that a mixture or reaction has.
@@ -61,6 +64,8 @@ struct ReaderState {
     int rowStatementsLine = 0; // that of the row read last, 0 for none
     BioInHand bio;
     std::shared_ptr<clsBR> lastBioReaction; // of those that are in hand no more
+    std::shared_ptr<clsCrS> structure;      // the one read last in this system, null for none
+    int structureLines = 0;                 // its lines as long as it has not joined its sample
 
     bool isAbandoned = false;
     /// A registry number that is no number: nothing behind it can be told to a compound.
@@ -71,8 +76,9 @@ struct ReaderState {
     /// Lines further down still name the old number and must find their compound.
     std::unordered_map<std::string, std::string> mendedRN;
     /// What is there already, so that looking for a twin takes no walk through all siblings.
-    std::unordered_map<const clsL*, std::unordered_map<int, std::shared_ptr<clsS>>> samples;
-    std::unordered_map<const clsS*, std::unordered_set<std::string>> setKeys;
+    std::unordered_map<const Substance*, std::unordered_map<int, std::shared_ptr<SubstanceSample>>>
+        samples;
+    std::unordered_map<const SubstanceSample*, std::unordered_set<std::string>> setKeys;
     std::unordered_map<const Record*, std::unordered_map<std::string, SetNumbers>> setNumbers;
     /// The highest number of a bio set, by the collection.
     std::unordered_map<const void*, int> highestBioSet;
@@ -80,6 +86,9 @@ struct ReaderState {
     /// already: their sets join it once all their lines are read.
     std::vector<std::shared_ptr<clsM>> reordered;
     std::unordered_map<const clsR*, std::pair<int, std::string>> descriptions; // ^J, by its line
+    /// The complex and the sample of one that wait for the line that closes them; null for none.
+    std::shared_ptr<clsComplex> openComplex;
+    std::shared_ptr<clsComplexSample> openComplexSample;
 
     /// Makes the lines that follow belong to another data record, null for none.
     void OpenNext(std::shared_ptr<OpenRecord> next = nullptr);
@@ -87,6 +96,8 @@ struct ReaderState {
     void Lose(int line, const std::string& what);
     /// The factor in front is none of what follows: names it, if no value stands by it.
     void LeaveFactor();
+    /// No line that follows belongs to the structure in hand: names one that has not been closed.
+    void LeaveStructure();
     /// What lines of data in front left, header aside, is none of the system that begins now.
     void BeginSystem(const DataLines* itsLines);
     /// The number with its check digit set right, told unless the compound's line has told it.
@@ -98,8 +109,8 @@ struct ReaderState {
     /// The number of a value or set that joins its mixture or reaction: its own, or the next free
     /// one of its kind when that is taken, which is told. `place` names the owner, one line each.
     std::string SettledNumber(const Record& owner, const Record& set, const std::string& place);
-    /// The samples of a compound by their number.
-    std::unordered_map<int, std::shared_ptr<clsS>>& SamplesOf(const clsL& compound);
+    /// The samples of a compound or complex by their number.
+    std::unordered_map<int, std::shared_ptr<SubstanceSample>>& SamplesOf(const Substance& owner);
 
     /// Drops the read for a line that lacks a field or has no place.
     void AbandonIncomplete(std::string_view line);

@@ -3,8 +3,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/Record.h"
-#include "records/clsL.h"
-#include "records/clsS.h"
+#include "records/Substance.h"
 #include "reference/Numbers.h"
 
 #include <algorithm>
@@ -40,10 +39,11 @@ std::string ReaderState::SettledNumber(const Record& owner, const Record& set,
     return number;
 }
 
-std::unordered_map<int, std::shared_ptr<clsS>>& ReaderState::SamplesOf(const clsL& compound) {
-    const auto [entry, isFirst] = samples.try_emplace(&compound);
+std::unordered_map<int, std::shared_ptr<SubstanceSample>>&
+ReaderState::SamplesOf(const Substance& owner) {
+    const auto [entry, isFirst] = samples.try_emplace(&owner);
     if (isFirst) {
-        for (const auto& sample : compound.recS)
+        for (const auto& sample : owner.Samples())
             entry->second.try_emplace(static_cast<int>(ToInteger(Val(sample->SMPNM))), sample);
     }
     return entry->second;

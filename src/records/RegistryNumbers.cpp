@@ -1,7 +1,7 @@
 #include "records/RegistryNumbers.h"
 
-#include "chem/clsAtom.h"
 #include "globals/KVOGlobal.h"
+#include "records/clsComplex.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
@@ -15,9 +15,9 @@ namespace {
 
 constexpr std::string_view Water = "7732185";
 
-std::shared_ptr<clsL> CompoundOfRN(std::string_view rn, const clsR* source) {
+std::shared_ptr<Substance> SubstanceOfRN(std::string_view rn, const clsR* source) {
     if (!source) source = Globals().CurrentR.get();
-    return source && !NamesNoCompound(rn) ? source->FindL(rn) : nullptr;
+    return source && !NamesNoCompound(rn) ? source->FindSubstance(rn) : nullptr;
 }
 
 } // namespace
@@ -40,25 +40,33 @@ std::string WithCheckDigit(std::string_view rn) {
     return mended;
 }
 
+bool NamesComplex(std::string_view rn) {
+    return rn.starts_with('-') && IsNumeric(rn);
+}
+
 bool NamesNoCompound(std::string_view rn) {
     return rn.empty() || rn == EmptySlot || !IsNumeric(rn) || Val(rn) == 0;
 }
 
 std::string NameOfRN(std::string_view rn) {
-    const auto compound = CompoundOfRN(rn, nullptr);
+    const auto source = Globals().CurrentR;
+    if (source && NamesComplex(rn)) {
+        const auto complex = source->FindComplex(rn);
+        return complex ? complex->Name() : std::string();
+    }
+    const auto compound = source && !NamesNoCompound(rn) ? source->FindL(rn) : nullptr;
     const std::string name = compound ? compound->Name : std::string();
     return name.empty() && rn == Water ? "water" : name;
 }
 
 std::string FormulaOfRN(std::string_view rn) {
-    const auto compound = CompoundOfRN(rn, nullptr);
-    return compound ? compound->Formula : std::string();
+    const auto substance = SubstanceOfRN(rn, nullptr);
+    return substance ? substance->FormulaText() : std::string();
 }
 
 double MolarMassOfRN(std::string_view rn, const clsR* source) {
-    const auto compound = CompoundOfRN(rn, source);
-    if (!compound) return 0;
-    return compound->MMass > 0 ? compound->MMass : MolarMassOfFormula(compound->Formula);
+    const auto substance = SubstanceOfRN(rn, source);
+    return substance ? substance->MolarMass() : 0;
 }
 
 std::string NewSubstanceRN() {

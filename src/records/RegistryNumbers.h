@@ -18,4 +18,7 @@ inline constexpr std::string_view EmptySlot = "999999994";
 /// Systems with fewer members than places fill up with the empty slot.
 bool NamesNoCompound(std::string_view rn);
 
+/// The number is that of a complex ("-1"), which no registry has.
+bool NamesComplex(std::string_view rn);
+
 } // namespace vexora

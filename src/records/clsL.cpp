@@ -77,6 +77,18 @@ bool clsL::Return(std::size_t place) {
     return Parent && ReturnTo(Parent->recL, place, Parent->FindL(RN));
 }
 
+double clsL::MolarMass() const {
+    return MMass > 0 ? MMass : MolarMassOfFormula(Formula);
+}
+
+std::vector<std::shared_ptr<SubstanceSample>> clsL::Samples() const {
+    return {recS.begin(), recS.end()};
+}
+
+std::shared_ptr<clsL> CurrentCompound() {
+    return std::dynamic_pointer_cast<clsL>(Globals().CurrentL);
+}
+
 bool clsL::Load(std::string_view line, Notices& told) {
     WordReader words(line);
     const bool bioLine = words.NextWord() == "BL";

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "records/Notice.h"
-#include "records/Record.h"
+#include "records/Substance.h"
 #include "ui/Collection.h"
 
 namespace vexora {
@@ -35,10 +35,10 @@ class XmlWriter;
 /// binary and ternary data, reaction changes and equilibria, "D" for data and "N" for none; REFPROP
 /// one for each kind of pure property. Name is the rest of its line and may hold blanks, EC and PDB
 /// write theirs as "_"; "&" is an empty field.
-class clsL : public Record {
+class clsL : public Substance {
 public:
     /// NewRn is empty unless the file had a wrong check digit.
-    std::string RN, NewRn, SYSTYPES = "NNNNN", REFPROP = "&", Name;
+    std::string NewRn, SYSTYPES = "NNNNN", REFPROP = "&", Name;
     /// Follows from the formula; units by mass cannot be converted while it is 0.
     double MMass = 0; // molar mass [g/mol]
     std::string Formula;
@@ -54,7 +54,6 @@ public:
     std::string EC, PDB;
     std::int32_t Charge = 0;
     ui::Collection<clsS> recS;
-    clsR* Parent = nullptr;
 
     std::string Key() const override { return RN; }
     /// The name, or the RN of a compound without one.
@@ -63,6 +62,9 @@ public:
     void AttachTo(clsR& source);
     std::size_t Leave() override;
     bool Return(std::size_t place) override;
+    std::string FormulaText() const override { return Formula; }
+    double MolarMass() const override;
+    std::vector<std::shared_ptr<SubstanceSample>> Samples() const override;
 
     /// Reads a ^L or BL line and mends a wrong check digit, which it tells; NewRn then holds the
     /// mended number. False for a line without a number, and for one that is not numeric, which is
@@ -98,8 +100,13 @@ private:
 /// text that is not all digits.
 std::optional<char> CheckDigit(std::string_view digits);
 
-/// Name, formula and molar mass [g/mol] of a compound of the current source; empty or 0 for "", for
-/// "999999994", for a text that is not numeric and for 0. Water is known without being entered.
+/// The compound that is the current one (KVOGlobal::CurrentL); null when there is none or when it
+/// is a complex.
+std::shared_ptr<clsL> CurrentCompound();
+
+/// Name, formula and molar mass [g/mol] of a compound or complex of the current source; empty or 0
+/// for "", for "999999994", for a text that is not numeric and for 0. Water is known without being
+/// entered.
 std::string NameOfRN(std::string_view rn);
 std::string FormulaOfRN(std::string_view rn);
 double MolarMassOfRN(std::string_view rn, const clsR* source = nullptr);

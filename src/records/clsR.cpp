@@ -10,6 +10,8 @@
 #include "records/clsBP.h"
 #include "records/clsBR.h"
 #include "records/clsC.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
@@ -66,6 +68,15 @@ std::string LettersOf(const clsQ& reaction) {
     for (const auto& set : reaction.recE)
         letters += HasGas(*set) ? "K" : "k";
     return letters;
+}
+
+/// The compounds of a complex and of its samples.
+void EachCompoundOf(const clsComplex& complex, const std::function<void(const std::string&)>& act) {
+    for (const ComplexComponent& component : complex.Components)
+        act(component.RN);
+    for (const auto& sample : complex.recS)
+        for (const SampleComponent& component : sample->Components)
+            act(component.RN);
 }
 
 /// Every header in the document says where the document comes from.
@@ -154,6 +165,10 @@ void clsR::MarkCompounds() {
         }
     }
     MarkCompoundsOfBioSets();
+    for (const auto& complex : recComplex)
+        EachCompoundOf(*complex, [this](const std::string& rn) {
+            if (const auto compound = FindL(rn)) compound->isUsed = true;
+        });
 }
 
 void clsR::PrintR(LineWriter& out) const {
@@ -202,6 +217,8 @@ void clsR::TakeOriginOfData() {
 void clsR::EachChild(const std::function<void(Record&)>& visit) const {
     for (const auto& compound : recL)
         visit(*compound);
+    for (const auto& complex : recComplex)
+        visit(*complex);
     for (const auto& mixture : recM)
         visit(*mixture);
     for (const auto& reaction : recQ)
@@ -236,7 +253,7 @@ std::vector<std::string> clsR::UpdateRefInfo() {
 }
 
 void clsR::MakeCompound(const std::string& rn) {
-    if (NamesNoCompound(rn) || FindL(rn)) return;
+    if (NamesNoCompound(rn) || NamesComplex(rn) || FindL(rn)) return;
     auto compound = std::make_shared<clsL>();
     compound->RN = rn;
     compound->TakeKnownIdentity();
@@ -256,6 +273,21 @@ void clsR::CheckPresence() {
         MakeCompound(reaction->SOLVENTRN);
         MakeCompound(reaction->INERTRN);
     }
+    for (const auto& complex : recComplex)
+        EachCompoundOf(*complex, [this](const std::string& rn) { MakeCompound(rn); });
+}
+
+std::shared_ptr<clsComplex> clsR::FindComplex(std::string_view rn, std::size_t* index) const {
+    if (index) *index = 0;
+    if (!NamesComplex(rn)) return nullptr;
+    auto complex = recComplex.Item("RX" + std::string(rn.substr(1)));
+    if (complex && index) *index = recComplex.Position(complex.get());
+    return complex;
+}
+
+std::shared_ptr<Substance> clsR::FindSubstance(std::string_view rn) const {
+    if (NamesComplex(rn)) return FindComplex(rn);
+    return FindL(rn);
 }
 
 std::shared_ptr<clsL> clsR::FindL(std::string_view rn, std::size_t* index) const {
@@ -285,6 +317,7 @@ bool clsR::Names(std::string_view rn) const {
     return std::ranges::any_of(recM,
                                [&](const auto& m) { return compound && m->PlaceOf(*compound); }) ||
            std::ranges::any_of(recQ, [&](const auto& reaction) { return reaction->Uses(rn); }) ||
+           std::ranges::any_of(recComplex, [&](const auto& complex) { return complex->Uses(rn); }) ||
            StandsInBioSets(rn);
 }
 

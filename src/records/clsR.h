@@ -26,6 +26,7 @@ class clsL;
 class clsM;
 class clsQ;
 class LineWriter;
+class Substance;
 class XmlWriter;
 
 /// The literature source: root of the document, owner of compounds, mixtures, reactions, bio
@@ -102,12 +103,18 @@ public:
     /// holds. The answer is what does not fit, for the user.
     /// Nothing reads these letters back: they are made anew at every save.
     std::vector<std::string> UpdateRefInfo();
-    /// Every compound that a mixture without data or a reaction names exists; missing ones are
-    /// made.
+    /// Every compound that a mixture without data, a reaction or a complex names exists; missing
+    /// ones are made. Of a complex that a reaction names nothing can be made.
     void CheckPresence();
 
     /// The compound with this RN, or null; its place from 1 goes into index.
     std::shared_ptr<clsL> FindL(std::string_view rn, std::size_t* index = nullptr) const;
+
+    /// The complex with this RN ("-1"), or null; its place from 1 goes into index.
+    std::shared_ptr<clsComplex> FindComplex(std::string_view rn,
+                                            std::size_t* index = nullptr) const;
+    /// The compound or the complex with this RN, or null.
+    std::shared_ptr<Substance> FindSubstance(std::string_view rn) const;
 
     /// The mixture of the same components, in whatever order, or null.
     std::shared_ptr<clsM> FindM(const clsM& mixture) const;
@@ -115,7 +122,8 @@ public:
     /// components bear these; null for none. A mixture with an unknown component bears no name.
     std::shared_ptr<clsM> FindM(std::string_view composition) const;
 
-    /// A mixture, a reaction or a bio set of it is of this compound.
+    /// A mixture, reaction, complex or bio set of it is of this compound, or a reaction of this
+    /// complex.
     bool Names(std::string_view rn) const;
 
     /// The reaction of the same class, participants, solvent and inert compound, or null.

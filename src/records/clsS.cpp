@@ -58,25 +58,6 @@ int RatingOf(std::string_view method) {
     return PurityRating(method.starts_with('(') ? FreeTextMethod : method).value_or(UnknownMethod);
 }
 
-template <class Set>
-std::shared_ptr<Set> FindSet(const ui::Collection<Set>& sets, std::string_view code, int nVar,
-                             std::string_view setNumber) {
-    for (const auto& set : sets)
-        if (set->nVar == nVar && set->PRPCODE == code && set->PRPSETNO == setNumber) return set;
-    return nullptr;
-}
-
-template <class Set>
-int NextNumber(const ui::Collection<Set>& sets, std::string_view code, int nVar) {
-    // One above the count; after a deletion that may be taken, then the next free one.
-    int number = 1;
-    for (const auto& set : sets)
-        number += set->nVar == nVar && set->PRPCODE == code ? 1 : 0;
-    while (FindSet(sets, code, nVar, std::to_string(number)))
-        ++number;
-    return number;
-}
-
 } // namespace
 
 std::string clsS::Key() const {
@@ -117,13 +98,6 @@ void clsS::PrintS(LineWriter& out) const {
     out.Fields({"^S", SMPNM}, SMPDESC);
 }
 
-void clsS::EachChild(const std::function<void(Record&)>& visit) const {
-    for (const auto& value : recZ)
-        visit(*value);
-    for (const auto& set : recTwo)
-        visit(*set);
-}
-
 void clsS::AssessPurity() {
     Purity = 0;
     if (SMPDESC.find(';') == std::string::npos) return;
@@ -147,6 +121,10 @@ void clsS::AssessPurity() {
     }
 }
 
+Substance* clsS::System() const {
+    return Parent;
+}
+
 std::string clsS::Formula() const {
     return Parent ? Parent->Formula : std::string();
 }
@@ -156,22 +134,8 @@ double clsS::MolarMass() const {
     return Parent ? MolarMassOfRN(Parent->RN, Parent->Parent) : 0;
 }
 
-std::shared_ptr<clsZ> clsS::FindZ(std::string_view code, int nVar,
-                                  std::string_view setNumber) const {
-    return FindSet(recZ, code, nVar, setNumber);
-}
-
-int clsS::NextSetNumber(std::string_view code, int nVar) const {
-    return NextNumber(recZ, code, nVar);
-}
-
-std::shared_ptr<clsTwo> clsS::FindTwo(std::string_view code, int nVar,
-                                      std::string_view setNumber) const {
-    return FindSet(recTwo, code, nVar, setNumber);
-}
-
-int clsS::NextTwoNumber(std::string_view code, int nVar) const {
-    return NextNumber(recTwo, code, nVar);
+std::shared_ptr<clsS> CurrentCompoundSample() {
+    return std::dynamic_pointer_cast<clsS>(Globals().CurrentS);
 }
 
 } // namespace vexora

@@ -5,14 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "records/Record.h"
+#include "records/Substance.h"
 #include "ui/Collection.h"
 
 namespace vexora {
 
 class clsL;
-class clsTwo;
-class clsZ;
 class LineWriter;
 class XmlWriter;
 
@@ -23,12 +21,8 @@ class XmlWriter;
 ///
 /// SMPNM counts the samples of a compound from "1" and never changes, for values name it; SMPDESC
 /// is the rest of the line (see SampleDescription.h), "&" for none.
-class clsS : public Record {
+class clsS : public SubstanceSample {
 public:
-    std::string SMPNM, SMPDESC;
-    double Purity = 0; // best purity [per cent], 0 if none can be derived
-    ui::Collection<clsZ> recZ;
-    ui::Collection<clsTwo> recTwo;
     clsL* Parent = nullptr;
 
     /// "Sample n (description)".
@@ -45,23 +39,18 @@ public:
     /// Its own line; values and sets write theirs.
     void PrintS(LineWriter& out) const;
     void Print(LineWriter& out) const override { PrintS(out); }
-    void EachChild(const std::function<void(Record&)>& visit) const override;
     /// Derives Purity from SMPDESC: the statement of the best rated method counts.
     void AssessPurity();
-    std::string Formula() const;
-    /// Molar mass of the compound [g/mol], 0 when it is not known.
-    double MolarMass() const;
-    /// The single value with this property, number of variables and set number, or null.
-    /// Asks the records, not their keys: "P1" and set "1" read like "P" and set "11".
-    std::shared_ptr<clsZ> FindZ(std::string_view code, int nVar, std::string_view setNumber) const;
-    /// The next free set number for a property with so many variables.
-    int NextSetNumber(std::string_view code, int nVar) const;
-    /// The same for data sets against one or two state variables.
-    std::shared_ptr<clsTwo> FindTwo(std::string_view code, int nVar,
-                                    std::string_view setNumber) const;
-    int NextTwoNumber(std::string_view code, int nVar) const;
+    Substance* System() const override;
+    std::string_view NodeType() const override { return "RLS"; }
+    std::string Formula() const override;
+    double MolarMass() const override;
 
     void ExportS(XmlWriter& xml) const;
 };
+
+/// The sample of a compound that is the current one (KVOGlobal::CurrentS); null when there is none
+/// or when it is the sample of a complex.
+std::shared_ptr<clsS> CurrentCompoundSample();
 
 } // namespace vexora

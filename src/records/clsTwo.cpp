@@ -5,8 +5,7 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
-#include "records/clsL.h"
-#include "records/clsS.h"
+#include "records/Substance.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -50,7 +49,7 @@ const std::string& clsTwo::PhaseFor(int n) const {
 }
 
 std::string clsTwo::SystemName() const {
-    return Parent && Parent->Parent ? Parent->Parent->ShowKey() : std::string();
+    return Parent ? Parent->SystemName() : std::string();
 }
 
 const Record* clsTwo::Owner() const {
@@ -138,11 +137,12 @@ std::string clsTwo::ShowKey() const {
 void clsTwo::SetMe() {
     KVOGlobal& globals = Globals();
     globals.CurrentTwo = As<clsTwo>();
-    if (globals.CurrentKey.empty()) globals.CurrentKey = "RLS1";
+    if (globals.CurrentKey.empty())
+        globals.CurrentKey = std::string(Parent ? Parent->NodeType() : "RLS") + "1";
     if (Parent) Parent->SetMe();
 }
 
-void clsTwo::AttachTo(clsS& sample) {
+void clsTwo::AttachTo(SubstanceSample& sample) {
     Parent = &sample;
     sample.recTwo.Add(As<clsTwo>(), Key());
     if (sample.tNode) MakeNode(sample.tNode);
@@ -157,7 +157,7 @@ bool clsTwo::Return(std::size_t place) {
 }
 
 void clsTwo::Replace(const clsTwo& other) {
-    clsS* const parent = Parent;
+    SubstanceSample* const parent = Parent;
     ui::TreeNode* const node = tNode;
     *this = other;
     Parent = parent;

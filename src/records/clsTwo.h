@@ -10,7 +10,7 @@
 
 namespace vexora {
 
-class clsS;
+class SubstanceSample;
 
 /// A property of one sample measured against one or two state variables.
 ///
@@ -33,7 +33,7 @@ class clsTwo : public DataSet {
 public:
     std::string SMPNM, PHASE1, PHASE2 = "&", CONSTRAINT, VARIABLE1, VAR1_UNIT, VARIABLE2, VAR2_UNIT,
                                REF_TEMP, REF_PRESSURE, REF_PHASE;
-    clsS* Parent = nullptr;
+    SubstanceSample* Parent = nullptr;
 
     std::string_view DataContext() const override { return "Pure"; }
     std::string SystemName() const override;
@@ -60,7 +60,7 @@ public:
     std::string Key() const override;
     std::string ShowKey() const override;
     void SetMe() override;
-    void AttachTo(clsS& sample);
+    void AttachTo(SubstanceSample& sample);
     std::size_t Leave() override;
     bool Return(std::size_t place) override;
     /// Takes over all fields and rows of another set and stays where it is: same parent, position

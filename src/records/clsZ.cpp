@@ -5,8 +5,7 @@
 #include "records/LineWriter.h"
 #include "records/PropertyLabels.h"
 #include "records/SetLines.h"
-#include "records/clsL.h"
-#include "records/clsS.h"
+#include "records/Substance.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -89,7 +88,7 @@ void clsZ::SetMe() {
     if (Parent) Parent->SetMe();
 }
 
-void clsZ::AttachTo(clsS& sample) {
+void clsZ::AttachTo(SubstanceSample& sample) {
     Parent = &sample;
     sample.recZ.Add(As<clsZ>(), Key());
     if (sample.tNode) MakeNode(sample.tNode);
@@ -108,7 +107,7 @@ void clsZ::Rekey() {
 }
 
 std::string clsZ::SystemName() const {
-    return Parent && Parent->Parent ? Parent->Parent->ShowKey() : std::string();
+    return Parent ? Parent->SystemName() : std::string();
 }
 
 const Record* clsZ::Owner() const {

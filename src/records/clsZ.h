@@ -9,7 +9,7 @@
 
 namespace vexora {
 
-class clsS;
+class SubstanceSample;
 
 /// One value of one property of one sample, by itself (nVar 0) or at a fixed value of one variable
 /// (nVar 1).
@@ -36,7 +36,7 @@ public:
     /// The phases are those that the property connects: a boiling point has two, a triple point
     /// three.
     ShortText SMPNM, PHASE1, PHASE2 = "&", PHASE3 = "&", INDVARIABLE, VARIABLE_UNIT;
-    clsS* Parent = nullptr;
+    SubstanceSample* Parent = nullptr;
 
     std::string_view DataContext() const override { return "Pure"; }
     std::string SystemName() const override;
@@ -54,7 +54,7 @@ public:
     std::string Key() const override;
     std::string ShowKey() const override;
     void SetMe() override;
-    void AttachTo(clsS& sample);
+    void AttachTo(SubstanceSample& sample);
     std::size_t Leave() override;
     bool Return(std::size_t place) override;
     /// Puts it under the key that it has now, at the same place among its siblings.

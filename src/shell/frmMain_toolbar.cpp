@@ -51,7 +51,7 @@ bool CheckSampleForReaction() {
     const KVOGlobal& globals = Globals();
     const bool ofSource = globals.CurrentKey == "R";
     if (ofSource ? globals.CurrentR && HasSample(*globals.CurrentR)
-                 : globals.CurrentL && !globals.CurrentL->recS.IsEmpty())
+                 : globals.CurrentL && globals.CurrentL->HasSamples())
         return true;
     ui::Say("A SAMPLE description for a reaction participant must be provided first",
             "SAMPLE description needed");

@@ -128,7 +128,7 @@ void frmProcess::Load() {
 void frmProcess::TakeSystem() {
     const KVOGlobal& globals = Globals();
     if (HeadRows() == 2) {
-        system_.sample = globals.CurrentS;
+        system_.sample = CurrentCompoundSample();
         return;
     }
     system_.mixture = globals.CurrentM;

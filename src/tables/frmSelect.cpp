@@ -68,7 +68,7 @@ void frmSelect::Load() {
     if (IsOfMixture())
         mixture_ = globals.CurrentM;
     else
-        compound_ = globals.CurrentL;
+        compound_ = CurrentCompound();
     chkStatic.Value(globals.StaticMode);
     chkStatic.Visible(IsOfMixture());
     lblMixt.Caption(IsOfMixture() ? "Mixture:" : "Compound:");
@@ -171,7 +171,7 @@ void frmSelect::FillSamples() {
         if (!compound) continue;
         asks = asks || compound->recS.Count() != 1;
         if (!compound->recS.IsEmpty()) samples_[n].Choose(compound->recS.Item(1).get());
-        if (!IsOfMixture()) samples_[n].Choose(Globals().CurrentS.get());
+        if (!IsOfMixture()) samples_[n].Choose(CurrentCompoundSample().get());
         lblSample(static_cast<int>(n)).Caption("Sample of " + compound->ShowKey() + ":");
     }
     for (int n = 0; n < cboSample.Count(); ++n) {

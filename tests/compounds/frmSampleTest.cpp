@@ -22,7 +22,7 @@ protected:
         auto sample = std::make_shared<clsS>();
         sample->SMPNM = "1";
         sample->SMPDESC = description;
-        sample->AttachTo(*globals.CurrentL);
+        sample->AttachTo(*CurrentCompound());
         globals.CurrentS = sample;
         globals.EditSample = true;
         return Open();
@@ -131,11 +131,11 @@ TEST_F(frmSampleTest, ANumberThatIsTakenIsPassedOver) {
         auto sample = std::make_shared<clsS>();
         sample->SMPNM = number;
         sample->SMPDESC = "ns";
-        sample->AttachTo(*globals.CurrentL);
+        sample->AttachTo(*CurrentCompound());
     }
     frmSample& dialog = Open();
     EXPECT_EQ(dialog.txtSampleNo.Text(), "3");
-    globals.CurrentL->recS.Remove(globals.CurrentL->recS.Item(2).get());
+    CurrentCompound()->recS.Remove(CurrentCompound()->recS.Item(2).get());
     dialog.Close();
     globals.OpenForms = {"frmMain"};
     EXPECT_EQ(Open().txtSampleNo.Text(), "3");
@@ -288,7 +288,7 @@ TEST_F(frmSampleTest, ASampleIsEditedWithWhatItsDescriptionSays) {
     dialog.cmdAccept.UserClick();
     EXPECT_FALSE(dialog.IsOpen());
     EXPECT_EQ(Samples(), "1 sx;(frozen twice);99.0m%,(by us) 99\n");
-    const auto& samples = globals.CurrentL->recS;
+    const auto& samples = CurrentCompound()->recS;
     EXPECT_EQ(samples.Item("Sample 1 (sx;(frozen twice);99.0m%,(by us))"), samples.Item(1));
 }
 

@@ -317,7 +317,7 @@ TEST_F(frmSubstTest, CancelLeavesTheSourceAsItWas) {
 
 TEST_F(frmSubstTest, ACompoundOfTheDatabaseIsLockedWhenEdited) {
     globals.CurrentL = AddCompound("7732185", "water", "H2O");
-    globals.CurrentL->MMass = 18.015;
+    CurrentCompound()->MMass = 18.015;
     globals.EditCompound = true;
     frmSubst& dialog = Open();
     EXPECT_EQ(Boxes(dialog), "7732-18-5 water H2O");
@@ -332,8 +332,8 @@ TEST_F(frmSubstTest, ACompoundOfTheDatabaseIsLockedWhenEdited) {
 
 TEST_F(frmSubstTest, ACorrectedFormulaBringsItsOwnMass) {
     globals.CurrentL = AddCompound("1003", "oil", "C31H64O");
-    globals.CurrentL->MMass = 452.852;
-    globals.CurrentL->isNew = true;
+    CurrentCompound()->MMass = 452.852;
+    CurrentCompound()->isNew = true;
     globals.EditCompound = true;
     frmSubst& dialog = Open();
     Enter(dialog.txtFormula, "C2H5OH");
@@ -345,14 +345,14 @@ TEST_F(frmSubstTest, ACorrectedFormulaBringsItsOwnMass) {
 
 TEST_F(frmSubstTest, AnEmptyFormulaIsStoredOnlyOnYes) {
     globals.CurrentL = AddCompound("1003", "oil", "C31H64O");
-    globals.CurrentL->isNew = true;
+    CurrentCompound()->isNew = true;
     globals.EditCompound = true;
     frmSubst& dialog = Open();
     Enter(dialog.txtFormula, "");
     desktop.Expect("Formula is empty\nIs that OK?", Answer::No);
     dialog.cmdAccept.UserClick();
     EXPECT_TRUE(dialog.IsOpen());
-    EXPECT_EQ(globals.CurrentL->Formula, "C31H64O");
+    EXPECT_EQ(CurrentCompound()->Formula, "C31H64O");
     desktop.Expect("Formula is empty\nIs that OK?", Answer::Yes);
     dialog.cmdAccept.UserClick();
     EXPECT_EQ(Compounds(), "1003 oil  0.000 new\n");

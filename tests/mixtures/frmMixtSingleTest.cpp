@@ -260,8 +260,8 @@ TEST_F(frmMixtSingleTest, NewMakesASampleOnTheWay) {
         const auto openers = globals.OpenForms;
         const std::string number = editing ? "3" : "2";
         desktop.OnModal([this, &number](ui::Form& dialog) {
-            AddSample(globals.CurrentL, 0);
-            EXPECT_EQ(globals.CurrentL->Name, "ethanol") << number;
+            AddSample(CurrentCompound(), 0);
+            EXPECT_EQ(CurrentCompound()->Name, "ethanol") << number;
             dialog.Close();
         });
         Pick(form.cboSample(0), "New");

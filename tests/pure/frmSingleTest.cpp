@@ -30,7 +30,7 @@ protected:
         globals.CurrentR->SOURCEDOC = "O";
         globals.CurrentR->AttachTo();
         globals.CurrentL = AddCompound("7732185", "water", "H2O");
-        globals.CurrentS = AddSample(*globals.CurrentL);
+        globals.CurrentS = AddSample(*CurrentCompound());
     }
     ~frmSingleTest() override { forms.CloseAll(); }
 
@@ -95,7 +95,7 @@ protected:
 };
 
 TEST_F(frmSingleTest, ChecksComeInOrderAndPutTheFocusOnTheField) {
-    AddSample(*globals.CurrentL);
+    AddSample(*CurrentCompound());
     globals.CurrentS = nullptr;
     auto& form = Choose({"Density", "kg/m3", 1});
     const auto refused = [&](const std::string& text, const ui::Control& control) {
@@ -208,7 +208,7 @@ TEST_F(frmSingleTest, UnitsKeepTheTypedTextAndAreTestedInTheSystemUnit) {
 
 TEST_F(frmSingleTest, UnitPerMassNeedsTheMolarMass) {
     globals.CurrentL = AddCompound("999", "something", "");
-    globals.CurrentS = AddSample(*globals.CurrentL);
+    globals.CurrentS = AddSample(*CurrentCompound());
     auto& form = Choose({"Enthalpy of vaporization or sublimation", "J/g"});
     Pick(form.lstPhase1, "Liquid");
     form.txtValue.UserReplaceAll("400");
@@ -386,7 +386,7 @@ TEST_F(frmSingleTest, NewSampleIsMadeOnTheWay) {
     Pick(form.cboSample, "New");
     EXPECT_EQ(form.cboSample.Chosen(), "1");
     desktop.OnModal([this](ui::Form& shown) {
-        AddSample(*globals.CurrentL);
+        AddSample(*CurrentCompound());
         shown.Close();
     });
     Pick(form.cboSample, "New");

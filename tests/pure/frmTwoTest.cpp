@@ -40,15 +40,15 @@ protected:
         globals.CurrentR = std::make_shared<clsR>();
         globals.CurrentR->AttachTo();
         globals.CurrentL = std::make_shared<clsL>();
-        globals.CurrentL->RN = "7732185";
-        globals.CurrentL->Name = "water";
-        globals.CurrentL->Formula = "H2O";
-        globals.CurrentL->AttachTo(*globals.CurrentR);
+        CurrentCompound()->RN = "7732185";
+        CurrentCompound()->Name = "water";
+        CurrentCompound()->Formula = "H2O";
+        CurrentCompound()->AttachTo(*globals.CurrentR);
         for (const char* number : {"1", "2"}) {
             globals.CurrentS = std::make_shared<clsS>();
             globals.CurrentS->SMPNM = number;
             globals.CurrentS->SMPDESC = "ns";
-            globals.CurrentS->AttachTo(*globals.CurrentL);
+            CurrentCompoundSample()->AttachTo(*CurrentCompound());
         }
     }
     ~frmTwoTest() override { forms.CloseAll(); }

@@ -83,7 +83,7 @@ TEST_P(RoundTrips, TheFirstSaveSettlesADocument) {
     ASSERT_FALSE(trip.notes.empty() || trip.document.empty());
     Read(trip.document);
     if (trip.notes.find("typed") != std::string::npos) {
-        clsS& sample = *Value().Parent;
+        SubstanceSample& sample = *Value().Parent;
         LeaveAsADialogDoes(sample.recZ);
         LeaveAsADialogDoes(sample.recTwo);
     }

@@ -228,7 +228,8 @@ TEST_F(DocumentTest, LinesThatAreNotKeptMakeTheDocumentReadOnly) {
     const std::string path = WriteDocument("XB 1\nXE\n");
     const std::string before = FileText(path);
     desktop.Expect("This document holds 2 lines of data that this edition does not keep.\n"
-                   "It is opened for reading only, so that nothing of it is lost. | Read only");
+                   "It is opened for reading only, so that nothing of it is lost.\n"
+                   "Line 5: no sample of a complex stands before it | Read only");
     ASSERT_TRUE(Start(path));
     EXPECT_EQ(LiveButtons(), "");
     EXPECT_EQ(Shell().lblStatus.Caption(), "paper.txt - read only");

@@ -33,7 +33,7 @@ protected:
     frmProcess& Pure() {
         Read("");
         globals.CurrentL = globals.recR.Item(std::size_t{1})->FindL("7732185");
-        globals.CurrentS = globals.CurrentL->recS.Item(1);
+        globals.CurrentS = CurrentCompound()->recS.Item(1);
         globals.SystemClass = "Pure";
         return Begin();
     }
