@@ -8,7 +8,7 @@
 
 #include "entry/SampleList.h"
 #include "globals/FormChain.h"
-#include "reactions/CompoundList.h"
+#include "entry/CompoundList.h"
 #include "records/clsQ.h"
 
 namespace vexora {

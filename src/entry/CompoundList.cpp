@@ -1,4 +1,4 @@
-#include "reactions/CompoundList.h"
+#include "entry/CompoundList.h"
 
 #include <cstddef>
 #include <utility>
