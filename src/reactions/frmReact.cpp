@@ -16,7 +16,6 @@ namespace vexora {
 namespace {
 
 constexpr int Count = clsQ::MostParticipants;
-constexpr const char* NoSample = "None";
 constexpr const char* NotBalancedTitle = "Unable to Balance Reaction";
 constexpr const char* ByHand = "Verify the reaction participants or \n"
                                "Enter the stoichiometric coefficients manually.\n"
@@ -34,10 +33,6 @@ void TellWhyUnbalanced(BalanceOutcome outcome) {
 } // namespace
 
 frmReact::frmReact() : ChainForm("frmReact", "Reaction") {
-    for (int n = 0; n < Count; ++n) {
-        compounds_.emplace_back(*this, cmbComp(n));
-        samples_.emplace_back(*this, cboSample(n), NoSample);
-    }
     ArrangeControls();
     WireEvents();
     UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
@@ -65,11 +60,6 @@ void frmReact::ArrangeControls() {
 
 void frmReact::WireEvents() {
     cboReactClass.OnClick = [this] { ClassClick(); };
-    for (int i = 1; i <= Count; ++i) {
-        cmbComp(i - 1).OnClick = [this, i] { CompoundClick(i); };
-        txtCoeff(i - 1).OnChange = [this, i] { CoefficientChanged(i); };
-        cboSample(i - 1).OnClick = [this, i] { SampleClick(i); };
-    }
     cmbSolvent.OnClick = [this] { OtherClick(solvent_, draft_.SOLVENTRN); };
     cmbInert.OnClick = [this] { OtherClick(inert_, draft_.INERTRN); };
     cmdEquate.OnClick = [this] { Equate(); };
@@ -82,11 +72,14 @@ void frmReact::Load() {
     globals.DialogAccepted = false;
     record_ = globals.EditReaction ? globals.CurrentQ : nullptr;
     if (record_) draft_.TakeDefinition(*record_);
+    if (HasData()) rows_.CloseCompounds("The reaction has data: its compounds stay");
+    if (!MayChooseSamples()) rows_.CloseSamples("Each set of this reaction has samples of its own");
     FillClasses();
     Fill();
     // Whoever comes from a compound means it to take part.
     if (!record_ && globals.CurrentKey == "RL" && globals.CurrentL)
-        SetCompound(1, globals.CurrentL->RN);
+        rows_.SetCompound(0, globals.CurrentL->RN);
+    TakeRows();
     ShowEquation();
     if (record_) Caption("Edit: Reaction");
     if (HasData()) txtCoeff(0).SetFocus(); // its compounds are closed
@@ -107,58 +100,27 @@ void frmReact::ClassClick() {
     ShowEquation();
 }
 
-void frmReact::CompoundClick(int i) {
-    if (Filling) return;
-    const auto rn = compounds_[static_cast<std::size_t>(i - 1)].Click();
-    if (rn && *rn != draft_.RN(i)) SetCompound(i, *rn);
-    FillCompounds();
-    ShowEquation();
-}
-
 /// Solvent and inert compound.
 void frmReact::OtherClick(CompoundList& list, std::string& rn) {
     if (Filling) return;
     if (const auto chosen = list.Click()) rn = *chosen;
+    rows_.FillCompounds();
     FillCompounds();
 }
 
-void frmReact::CoefficientChanged(int i) {
-    if (Filling) return;
-    draft_.Coeff(i, NormalizeNumber(txtCoeff(i - 1).Text()));
+/// A person has changed the rows, or made a compound on the way.
+void frmReact::RowsChanged() {
+    TakeRows();
+    FillCompounds();
     ShowEquation();
-}
-
-/// The dialog may come back with a sample of another participant, or with another compound.
-void frmReact::SampleClick(int i) {
-    if (Filling) return;
-    const auto made = samples_[static_cast<std::size_t>(i - 1)].Click();
-    TakeSample(i);
-    if (!made) return;
-    FillCompounds();
-    for (int other = 1; other <= Count; ++other) {
-        if (other == i || draft_.RN(other) != made->Parent->RN) continue;
-        const bool isOpen = draft_.SMPNM(other).empty();
-        FillRow(other);
-        if (!isOpen) continue;
-        samples_[static_cast<std::size_t>(other - 1)].Choose(made.get());
-        TakeSample(other);
-    }
 }
 
 /// Coefficients that balance already stay as they are.
 void frmReact::Equate() {
     if (!CheckFormulas()) return;
-    const BalanceResult result = Balance(Formulas(), draft_.Coefficients());
-    if (result.outcome != BalanceOutcome::Balanced) return TellWhyUnbalanced(result.outcome);
-    for (int i = Count; i >= 1; --i) {
-        if (!IsUsed(i)) continue;
-        const std::string& text = result.coefficients[static_cast<std::size_t>(i - 1)];
-        draft_.Coeff(i, text);
-        // What takes no part goes, unless data tell of it.
-        if (Val(text) == 0 && !HasData()) draft_.RemoveParticipant(i);
-    }
-    Fill();
-    ShowEquation();
+    const BalanceOutcome outcome = rows_.Equate(BalanceScale::AsTyped);
+    if (outcome != BalanceOutcome::Balanced) return TellWhyUnbalanced(outcome);
+    RowsChanged();
 }
 
 void frmReact::Complete() {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "entry/SampleList.h"
-#include "globals/FormChain.h"
 #include "entry/CompoundList.h"
+#include "entry/ParticipantRows.h"
+#include "globals/FormChain.h"
 #include "records/clsQ.h"
 
 namespace vexora {
@@ -43,10 +43,8 @@ private:
     void WireEvents();
 
     void ClassClick();
-    void CompoundClick(int i);
     void OtherClick(CompoundList& list, std::string& rn);
-    void CoefficientChanged(int i);
-    void SampleClick(int i);
+    void RowsChanged();
     void Equate();
     void Complete();
     void CheckStoichiometry();
@@ -55,17 +53,12 @@ private:
     void Fill();
     void FillClasses();
     void FillCompounds();
-    void FillRow(int i);
-    void LockRow(int i);
-    void SetCompound(int i, const std::string& rn);
-    void TakeSample(int i);
+    void TakeRows();
     void ShowEquation();
-    std::string SurplusLine() const;
     bool IsUsed(int i) const { return !draft_.RN(i).empty(); }
     bool HasData() const { return record_ && record_->HasData(); }
     bool MayChooseSamples() const;
-    std::string ParticipantFormula(int i) const;
-    std::vector<std::string> Formulas() const;
+    std::string ParticipantFormula(int i) const { return rows_.Formula(i - 1); }
     void MakeCompound(const struct CombustionCompound& compound);
     void DropUnused();
 
@@ -75,17 +68,16 @@ private:
     bool CheckCoefficients();
     bool CheckSamples();
     bool CheckFormulas();
-    bool CheckEquation() const;
+    bool CheckEquation() const { return rows_.IsBalanced(); }
     bool CheckKey();
     bool ConfirmSets();
     bool IsChanged() const;
     void Store();
     void StoreInSets(const std::vector<std::string>& before) const;
 
-    clsQ draft_;                   // what the form says
+    clsQ draft_;                   // what the form says; its participants follow the rows
     std::shared_ptr<clsQ> record_; // that is edited, null for a new reaction
-    std::vector<CompoundList> compounds_;
-    std::vector<SampleList> samples_;
+    ParticipantRows rows_{*this, {cmbComp, txtCoeff, cboSample}, [this] { RowsChanged(); }};
     CompoundList solvent_{*this, cmbSolvent};
     CompoundList inert_{*this, cmbInert};
     std::vector<std::shared_ptr<clsL>> made_; // for the products of a combustion

@@ -80,14 +80,8 @@ bool frmReact::CheckSamples() {
 }
 
 bool frmReact::CheckFormulas() {
-    for (int i = 1; i <= Count; ++i)
-        if (IsUsed(i) && CanonicalFormula(ParticipantFormula(i)).empty())
-            return Refuse(cmbComp(i - 1), "Participant formula is misisng");
-    return true;
-}
-
-bool frmReact::CheckEquation() const {
-    return IsBalanced(Formulas(), draft_.Coefficients());
+    const int row = rows_.FirstWithoutFormula();
+    return row < 0 || Refuse(cmbComp(row), "Participant formula is misisng");
 }
 
 /// Equal reactions have one key, whatever the order in which they were typed.

@@ -20,10 +20,6 @@ namespace {
 constexpr int Count = clsQ::MostParticipants;
 constexpr std::string_view CombustionWithOxygen = "CMO";
 
-int NumberOf(std::string_view text) {
-    return static_cast<int>(ToInteger(Val(text)));
-}
-
 } // namespace
 
 void frmReact::FillClasses() {
@@ -38,55 +34,25 @@ void frmReact::FillClasses() {
 }
 
 void frmReact::Fill() {
-    FillCompounds();
+    std::vector<Participant> participants;
     for (int i = 1; i <= Count; ++i)
-        FillRow(i);
+        participants.push_back({draft_.RN(i), draft_.SMPNM(i), draft_.Coeff(i), {}});
+    rows_.Take(std::move(participants));
+    FillCompounds();
 }
 
-/// The lists offer what the source has now.
 void frmReact::FillCompounds() {
-    for (int i = 1; i <= Count; ++i)
-        compounds_[static_cast<std::size_t>(i - 1)].Fill(draft_.RN(i));
     solvent_.Fill(draft_.SOLVENTRN);
     inert_.Fill(draft_.INERTRN);
 }
 
-/// Coefficient and sample of a participant. A sample that the document does not have is not
-/// replaced in silence.
-void frmReact::FillRow(int i) {
-    const ui::FillingScope filling(*this);
-    const auto compound = draft_.Compound(i);
-    SampleList& samples = samples_[static_cast<std::size_t>(i - 1)];
-    txtCoeff(i - 1).Text(draft_.Coeff(i));
-    samples.Fill(compound);
-    samples.ChooseNone();
-    if (compound) samples.Choose(compound->FindS(NumberOf(draft_.SMPNM(i))).get());
-    LockRow(i);
-}
-
-void frmReact::LockRow(int i) {
-    cmbComp(i - 1).Enabled(!HasData());
-    txtCoeff(i - 1).Enabled(IsUsed(i));
-    ui::ComboBox& samples = cboSample(i - 1);
-    samples.Enabled(IsUsed(i) && MayChooseSamples());
-    samples.ToolTip(MayChooseSamples() ? "" : "Each set of this reaction has samples of its own");
-    cmbComp(i - 1).ToolTip(HasData() ? "The reaction has data: its compounds stay" : "");
-}
-
-/// Coefficient and sample belong to the compound that stood there.
-void frmReact::SetCompound(int i, const std::string& rn) {
-    draft_.RN(i, rn);
-    draft_.Coeff(i, "");
-    draft_.SMPNM(i, "");
-    FillRow(i);
-    compounds_[static_cast<std::size_t>(i - 1)].Fill(rn);
-    samples_[static_cast<std::size_t>(i - 1)].Fill(draft_.Compound(i)); // one alone is chosen
-    TakeSample(i);
-}
-
-void frmReact::TakeSample(int i) {
-    const auto sample = samples_[static_cast<std::size_t>(i - 1)].Sample();
-    draft_.SMPNM(i, sample ? sample->SMPNM : std::string());
+void frmReact::TakeRows() {
+    for (int i = 1; i <= Count; ++i) {
+        const Participant& one = rows_.All()[static_cast<std::size_t>(i - 1)];
+        draft_.RN(i, one.RN);
+        draft_.Coeff(i, one.coefficient);
+        draft_.SMPNM(i, one.SMPNM);
+    }
 }
 
 bool frmReact::MayChooseSamples() const {
@@ -95,49 +61,10 @@ bool frmReact::MayChooseSamples() const {
 
 /// The equation in formulas, with names where one is not known; all names stand in the tool tip.
 void frmReact::ShowEquation() {
-    std::vector<EquationTerm> terms;
-    for (int i = 1; i <= Count; ++i) {
-        if (!IsUsed(i)) continue;
-        const std::string formula = ParticipantFormula(i);
-        terms.push_back(
-            {draft_.Coeff(i), formula.empty() ? draft_.Name(i) : PrintedFormula(formula)});
-    }
-    lblEquation.Caption(EquationText(terms));
-    lblEquation.ToolTip(draft_.Equation());
-    lblSurplus.Caption(SurplusLine());
+    lblEquation.Caption(rows_.FormulaEquation());
+    lblEquation.ToolTip(rows_.NameEquation());
+    lblSurplus.Caption(rows_.SurplusLine());
     cmdComplete.Enabled(draft_.REACTCLASS == CombustionWithOxygen && !HasData());
-}
-
-std::string frmReact::SurplusLine() const {
-    bool any = false;
-    for (int i = 1; i <= Count; ++i) {
-        if (!IsUsed(i)) continue;
-        any = true;
-        if (ParticipantFormula(i).empty())
-            return "The formula of " + draft_.Name(i) + " is not known";
-    }
-    if (!any) return {};
-    const SurplusTexts surplus = SurplusOf(ElementBalances(Formulas(), draft_.Coefficients()));
-    std::string text;
-    for (const auto& [side, elements] :
-         {std::pair("reactants", &surplus.reactants), std::pair("products", &surplus.products)})
-        if (!elements->empty())
-            text += (text.empty() ? "Not balanced. More in the " : "; in the ") +
-                    std::string(side) + ": " + *elements;
-    if (!text.empty()) return text;
-    return CheckEquation() ? "Balanced" : "Coefficients are missing";
-}
-
-std::string frmReact::ParticipantFormula(int i) const {
-    const std::string formula = draft_.Formula(i);
-    return formula.empty() ? FormulaOfRN(draft_.RN(i)) : formula;
-}
-
-std::vector<std::string> frmReact::Formulas() const {
-    std::vector<std::string> formulas;
-    for (int i = 1; i <= Count; ++i)
-        formulas.push_back(ParticipantFormula(i));
-    return formulas;
 }
 
 void frmReact::MakeCompound(const CombustionCompound& compound) {
