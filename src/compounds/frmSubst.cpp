@@ -1,12 +1,17 @@
 #include "compounds/frmSubst.h"
 
 #include "chem/clsAtom.h"
+#include "compounds/BioIdentifiers.h"
 #include "globals/KVOGlobal.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsL.h"
+#include "records/clsR.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vexora {
@@ -39,6 +44,12 @@ bool OpenedByBioDialog() {
     return !openers.empty() && openers.back().starts_with("frmBio");
 }
 
+bool StandsInBioData(const clsL& compound) {
+    const auto uses = [&](const auto& set) { return set->Uses(compound.RN); };
+    const clsR& source = *Globals().CurrentR;
+    return std::ranges::any_of(source.recBR, uses) || std::ranges::any_of(source.recBP, uses);
+}
+
 } // namespace
 
 frmSubst::frmSubst() : ChainForm("frmSubst", "Substance") {
@@ -64,9 +75,9 @@ void frmSubst::ArrangeControls() {
          Field("Empirical  formula (Case sensitive):", Row({txtFormula, cmdFind})),
          Note("Upper and lower case matter: type CHBr3, not Chbr3"),
          Field("Molar Mass:", Narrow(txtMMass, 14)),
-         Group(fraBio,
-               {Field("Charge:", Narrow(thtCharge, 14)), Field("EC Number:", Narrow(txtEC, 14)),
-                Field("PDB Number:", Narrow(txtPDB, 14))}),
+         Group(fraBio, {Field("Charge:", Row({Narrow(thtCharge, 14), Stretch()})),
+                        Field("EC Number:", Row({Narrow(txtEC, 14), lblEC})),
+                        Field("PDB Number:", Row({Narrow(txtPDB, 14), lblPDB}))}),
          Field("Search results:", lstNames),
          Field("CAS Registry Number of the entry:", Row({lblRN, cmdUseRN})),
          ButtonRow({cmdAccept, cmdCancel})});
@@ -82,7 +93,10 @@ void frmSubst::WireEvents() {
     txtCASD.OnChange = [this] { CheckDigitChanged(); };
     txtFormula.OnChange = [this] { FormulaChanged(); };
     for (ui::TextBox* box : {&thtCharge, &txtEC, &txtPDB})
-        box->OnChange = [this] { Touch(); };
+        box->OnChange = [this] {
+            ShowHints();
+            Touch();
+        };
     txtRN2.OnKey = [this](ui::Key& key) { FrontKey(key); };
     txtRN1.OnKey = [this](ui::Key& key) { MiddleKey(key); };
     txtCASD.OnKey = [this](ui::Key& key) { CheckDigitKey(key); };
@@ -120,7 +134,7 @@ void frmSubst::PrepareEdit() {
     txtFormula.Locked(!mendable_);
     cmdFind.Enabled(mendable_);
     lstNames.Enabled(mendable_);
-    if (compound.isBio) fraBio.Visible(true);
+    if (compound.isBio || StandsInBioData(compound)) fraBio.Visible(true);
     Fill(compound);
     if (compound.isNew) FindSubstance();
 }
@@ -176,6 +190,12 @@ void frmSubst::FormulaChanged() {
     settledFormula_.clear();
     ShowMass();
     Touch();
+}
+
+/// A code of another form may be meant: it is told and taken.
+void frmSubst::ShowHints() {
+    lblEC.Caption(std::string(EnzymeNumberHint(txtEC.Text())));
+    lblPDB.Caption(std::string(ProteinCodeHint(txtPDB.Text())));
 }
 
 void frmSubst::Touch() {

@@ -30,7 +30,9 @@ public:
     ui::Frame fraBio{*this, "fraBio", "Bio compound"};
     ui::TextBox thtCharge{*this, "thtCharge"};
     ui::TextBox txtEC{*this, "txtEC"};
+    ui::Label lblEC{*this, "lblEC"};
     ui::TextBox txtPDB{*this, "txtPDB"};
+    ui::Label lblPDB{*this, "lblPDB"};
     ui::CommandButton cmdFind{*this, "cmdFind", "Find"};
     ui::ListBox lstNames{*this, "lstNames"};
     ui::Label lblRN{*this, "lblRN"};
@@ -57,6 +59,7 @@ private:
     void RegistryNumberChanged();
     void CheckDigitChanged();
     void FormulaChanged();
+    void ShowHints();
     void Touch();
     void FrontKey(ui::Key& key);
     void MiddleKey(ui::Key& key);

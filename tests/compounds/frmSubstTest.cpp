@@ -372,12 +372,19 @@ TEST_F(frmSubstTest, BioBoxesShowWithBioDataAndMakeABioCompound) {
     dialog.cmdAccept.UserClick();
     EXPECT_TRUE(dialog.thtCharge.HasFocus());
     Enter(dialog.thtCharge, "-2");
+    Enter(dialog.txtEC, " 1.1.1 ");
+    Enter(dialog.txtPDB, "LYZ");
+    EXPECT_EQ(dialog.lblEC.Caption() + "|" + dialog.lblPDB.Caption(),
+              "Four parts are usual: 5.3.1.5, or 5.3.1.-|"
+              "Four characters are usual, first a digit: 1LYZ");
     Enter(dialog.txtEC, " 1.1.1.1 ");
+    EXPECT_EQ(dialog.lblEC.Caption(), "");
     desktop.Expect(notFound);
     desktop.Expect(addNew, Answer::Yes);
     dialog.cmdAccept.UserClick();
     EXPECT_EQ(Compounds(), "1003 some enzyme C31H64O 452.852 new bio\n");
     EXPECT_EQ(globals.CurrentR->recL.Item(1)->EC, "1.1.1.1");
+    EXPECT_EQ(globals.CurrentR->recL.Item(1)->PDB, "LYZ");
     EXPECT_EQ(globals.CurrentR->recL.Item(1)->Charge, -2);
 }
 
