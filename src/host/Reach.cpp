@@ -11,26 +11,6 @@ namespace {
 
 constexpr std::string_view PathSeparator = " / ";
 
-bool Holds(const ui::Layout& layout, const ui::Control& control) {
-    if (layout.control == &control || layout.label == &control) return true;
-    return std::ranges::any_of(layout.parts,
-                               [&](const auto& part) { return Holds(part, control); });
-}
-
-/// False when the control stands on a page that is not turned up.
-bool IsOnTurnedPage(const ui::Layout& layout, const ui::Control& control) {
-    const bool pages = layout.kind == ui::Layout::Kind::Pages && layout.control != nullptr;
-    for (std::size_t i = 0; i < layout.parts.size(); ++i) {
-        if (!Holds(layout.parts[i], control)) continue;
-        if (pages) {
-            const auto& tabs = static_cast<const ui::TabStrip&>(*layout.control);
-            if (std::max(tabs.Index(), 0) != static_cast<int>(i)) return false;
-        }
-        return IsOnTurnedPage(layout.parts[i], control);
-    }
-    return true;
-}
-
 const ui::MenuItem* MenuAbove(const ui::Control& control) {
     const auto* item = dynamic_cast<const ui::MenuItem*>(&control);
     return item ? item->Parent() : nullptr;
@@ -63,7 +43,7 @@ void Collect(const Nodes& nodes, std::string_view path, std::vector<ui::TreeNode
 bool IsSeen(const ui::Control& control) {
     const ui::MenuItem* menu = MenuAbove(control);
     return control.IsShown() && (menu == nullptr || IsSeen(*menu)) &&
-           IsOnTurnedPage(control.Owner().Arrangement, control);
+           ui::IsOnTurnedPage(control.Owner().Arrangement, control);
 }
 
 bool IsEnabledThrough(const ui::Control& control) {

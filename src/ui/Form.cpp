@@ -113,6 +113,7 @@ void Form::UserClose() {
 void Form::FocusTo(Control* control) {
     if (control == active_) return;
     if (control && (!control->TakesFocus() || !control->IsUsable())) return;
+    if (control) TurnPageTo(Arrangement, *control);
     Control* before = active_;
     active_ = control;
     if (before) before->FocusLost();
@@ -129,7 +130,9 @@ Control* Form::NextInTabOrder(bool backwards) const {
     for (int step = 0; step < count; ++step) {
         at = (at + (backwards ? count - 1 : 1)) % count;
         Control* candidate = controls_[static_cast<std::size_t>(at)];
-        if (candidate->TakesFocus() && candidate->IsUsable()) return candidate;
+        if (candidate->TakesFocus() && candidate->IsUsable() &&
+            IsOnTurnedPage(Arrangement, *candidate))
+            return candidate;
     }
     return nullptr;
 }
@@ -151,12 +154,14 @@ void Form::TabAlongArrangement() {
 }
 
 bool Form::Refuse(Control& control, const std::string& text, const std::string& title) {
+    TurnPageTo(Arrangement, control); // what is meant is seen behind the words
     Say(text, title);
     control.SetFocus();
     return false;
 }
 
 bool Form::Confirm(Control& control, const std::string& question, const std::string& title) {
+    TurnPageTo(Arrangement, control);
     if (AskYesNo(question, title)) return true;
     control.SetFocus();
     return false;

@@ -67,7 +67,8 @@ public:
 
     Control* ActiveControl() const { return active_; }
     /// Moves the focus, telling the one left and the one entered; null leaves all. A control that
-    /// is not usable or takes no focus is passed over.
+    /// is not usable or takes no focus is passed over; the page of one on another page is turned
+    /// up.
     void FocusTo(Control* control);
     /// A key on the control that has the focus: the control first, then Enter for the default
     /// button, Escape for the cancel button, Tab to the next field, F1 for the help of the form.

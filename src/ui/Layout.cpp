@@ -2,6 +2,8 @@
 
 #include "ui/Buttons.h"
 
+#include <algorithm>
+
 namespace vexora::ui {
 
 namespace {
@@ -23,6 +25,26 @@ void PutInto(Frame& frame, const Layout& layout) {
     }
     for (const Layout& part : layout.parts)
         PutInto(frame, part);
+}
+
+bool Holds(const Layout& layout, const Control& control) {
+    if (layout.control == &control || layout.label == &control) return true;
+    return std::ranges::any_of(layout.parts,
+                               [&](const auto& part) { return Holds(part, control); });
+}
+
+/// Each page that a control stands on with its tabs, from the outside in, as long as the visitor
+/// agrees.
+template <class Visit>
+bool VisitPages(const Layout& layout, const Control& control, const Visit& visit) {
+    for (std::size_t i = 0; i < layout.parts.size(); ++i) {
+        if (!Holds(layout.parts[i], control)) continue;
+        const bool isPage = layout.kind == Layout::Kind::Pages && layout.control != nullptr;
+        if (isPage && !visit(static_cast<TabStrip&>(*layout.control), static_cast<int>(i)))
+            return false;
+        return VisitPages(layout.parts[i], control, visit);
+    }
+    return true;
 }
 
 } // namespace
@@ -75,6 +97,19 @@ Layout Note(std::string text) {
 }
 Layout Stretch() {
     return Make(Layout::Kind::Stretch, {});
+}
+
+bool IsOnTurnedPage(const Layout& layout, const Control& control) {
+    return VisitPages(layout, control, [](const TabStrip& tabs, int page) {
+        return std::max(tabs.Index(), 0) == page;
+    });
+}
+
+void TurnPageTo(const Layout& layout, const Control& control) {
+    VisitPages(layout, control, [](TabStrip& tabs, int page) {
+        if (std::max(tabs.Index(), 0) != page) tabs.Index(page);
+        return true;
+    });
 }
 
 } // namespace vexora::ui

@@ -50,4 +50,9 @@ Layout ButtonRow(std::vector<Layout> buttons);
 Layout Note(std::string text);
 Layout Stretch();
 
+/// False for a control on a page that is not turned up.
+bool IsOnTurnedPage(const Layout& layout, const Control& control);
+/// Turns up the page on which a control stands, and those around it.
+void TurnPageTo(const Layout& layout, const Control& control);
+
 } // namespace vexora::ui

@@ -54,6 +54,21 @@ TEST_F(FormTest, FocusPassesOverWhatCannotTakeIt) {
     EXPECT_TRUE(form.cboKind.HasFocus());
 }
 
+TEST_F(FormTest, TabKeepsToThePageInSightAndARefusalTurnsUpThatOfItsField) {
+    frmSmall& form = Small();
+    form.Show();
+    for (int n = 0; n < 40; ++n) {
+        form.UserKey(ui::ParseKey("Tab"));
+        ASSERT_FALSE(form.txtSecondPage.HasFocus());
+    }
+    desktop_.Expect("Enter it");
+    form.Refuse(form.txtSecondPage, "Enter it");
+    EXPECT_TRUE(form.txtSecondPage.HasFocus());
+    EXPECT_EQ(form.tabPages.Chosen(), "Second");
+    form.txtName.SetFocus();
+    EXPECT_EQ(form.tabPages.Chosen(), "First");
+}
+
 TEST_F(FormTest, AFrameHidesAndDisablesWhatStandsInIt) {
     ui::Form form("frmFrames", "Frames");
     ui::Frame outer(form, "fraOuter");
