@@ -108,15 +108,18 @@ bool ReviewProperty(ui::TextBox& comment) {
     return true;
 }
 
+void SignHeader(clsA& header) {
+    const KVOGlobal& globals = Globals();
+    header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
+    header.COMPILER = globals.CompilerCode;
+    header.CONTRIBUTOR = globals.ContributorCode;
+    header.DATEADDED = DateText(ui::TheDesktop().Today());
+}
+
 void FillHeader(clsA& header, bool isNew, const std::string& comment) {
     const KVOGlobal& globals = Globals();
     // An edit leaves who compiled the datum first, and when.
-    if (isNew) {
-        header.SOURCEDOC = globals.CurrentR ? globals.CurrentR->SOURCEDOC : std::string();
-        header.COMPILER = globals.CompilerCode;
-        header.CONTRIBUTOR = globals.ContributorCode;
-        header.DATEADDED = DateText(ui::TheDesktop().Today());
-    }
+    if (isNew) SignHeader(header);
     header.EXPPURPOSE = globals.ExpPurpose;
     header.PRPFLAG = globals.PropertyFlags;
     header.DATACOMMENT = comment;

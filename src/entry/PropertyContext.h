@@ -42,6 +42,8 @@ PropertyRow PropertyInForce();
 /// when the review has changed anything. A cancelled one has not.
 /// The comment is changed as by filling, not by typing.
 bool ReviewProperty(ui::TextBox& comment);
+/// Says in the header of a new record who adds it, when, and where the paper was taken from.
+void SignHeader(clsA& header);
 /// Writes the header of a record from the context. Who added it, and when, is of a new one only.
 /// The date is m/d/y of the desktop's day.
 void FillHeader(clsA& header, bool isNew, const std::string& comment);
