@@ -6,6 +6,7 @@
 #include "entry/BioPages.h"
 #include "entry/CodeLists.h"
 #include "entry/PhaseLists.h"
+#include "entry/SelectionScope.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -27,26 +28,6 @@ std::vector<std::string> WithNone(std::vector<std::string> texts) {
     texts.insert(texts.begin(), None);
     return texts;
 }
-
-/// The dialogs of compounds and samples make current what they show; what this form is about stays.
-class SelectionScope {
-public:
-    SelectionScope()
-        : compound_(Globals().CurrentL), sample_(Globals().CurrentS),
-          context_(Globals().DataContext) {}
-    ~SelectionScope() {
-        Globals().CurrentL = compound_;
-        Globals().CurrentS = sample_;
-        Globals().DataContext = context_;
-    }
-    SelectionScope(const SelectionScope&) = delete;
-    SelectionScope& operator=(const SelectionScope&) = delete;
-
-private:
-    std::shared_ptr<clsL> compound_;
-    std::shared_ptr<clsS> sample_;
-    std::string context_;
-};
 
 /// A text that is not offered, as a file may have it, joins the list.
 void ChooseEntry(ui::ComboBox& list, const std::string& text) {

@@ -117,38 +117,21 @@ bool HasRowUncertainties(const BioSet& set, std::size_t place) {
            });
 }
 
-/// The name with its unit, as it tells what changes.
-std::string FullName(const BioSet& set, const BioQuantity& quantity) {
-    return set.NameOf(quantity) + (quantity.unit == "1" ? "" : " in " + quantity.unit);
-}
-
-/// What becomes of the figures of a quantity that is another one now, or stands in another unit.
-ui::Answer AskFate(const BioSet& set, const BioQuantity& before, const BioQuantity& now) {
-    return ui::AskYesNoCancel("The set has figures of " + FullName(set, before) +
-                              "\nDo they stand for " + FullName(set, now) +
-                              " from now on? With No they are dropped.");
-}
-
-bool AskLoss(const std::string& what) {
-    return ui::AskYesNo(what + ", which go with it\nGo on?");
-}
-
 /// How what stood in a set becomes what its pages say.
 class Revision {
 public:
     Revision(BioSet& draft, const BioEntries& entries) : draft_(draft), entries_(entries) {}
 
-    /// Asks what has to be asked; the control to go back to, null for none.
-    ui::Control* Ask() {
+    /// Asks what has to be asked; false when the person wants to go back.
+    bool Ask() {
         for (std::size_t place = 0; place < draft_.Quantities().size(); ++place)
-            if (ui::Control* const field = AskOf(place)) return field;
-        return nullptr;
+            if (!AskOf(place)) return false;
+        return true;
     }
     void Apply() {
         for (const BioEntry& entry : entries_) {
             if (!entry.origin || IsDropped(*entry.origin)) continue;
             draft_.Change(*entry.origin, entry.quantity);
-            if (!entry.quantity.StatesByRow()) DropRowUncertainties(*entry.origin);
         }
         for (auto place = dropped_.rbegin(); place != dropped_.rend(); ++place)
             draft_.Erase(*place);
@@ -168,34 +151,44 @@ private:
             return !one.origin && one.quantity.role == before.role && one.quantity.IsSameAs(before);
         });
     }
-    ui::Control* AskOf(std::size_t place) {
+    bool AskOf(std::size_t place) {
         const BioQuantity& before = draft_.Quantities()[place];
         const auto now = std::ranges::find(entries_, std::optional(place), &BioEntry::origin);
-        if (now == entries_.end()) {
-            if (HasMoved(before)) return nullptr;
-            dropped_.push_back(place);
-            if (!HasFigures(draft_, place) ||
-                AskLoss("The set has figures of " + draft_.NameOf(before)))
-                return nullptr;
-            return entries_.empty() ? nullptr : entries_.front().field;
-        }
-        if ((now->isOther || now->quantity.unit != before.unit) && HasFigures(draft_, place)) {
-            const auto fate = AskFate(draft_, before, now->quantity);
-            if (fate == ui::Answer::No) dropped_.push_back(place);
-            if (fate != ui::Answer::Yes) return fate == ui::Answer::No ? nullptr : now->field;
-        }
-        const bool losesRows = before.StatesByRow() && !now->quantity.StatesByRow();
-        return losesRows && HasRowUncertainties(draft_, place) &&
-                       !AskLoss("Rows of the table state uncertainties of " + draft_.NameOf(before))
-                   ? now->field
-                   : nullptr;
+        if (now == entries_.end()) return HasMoved(before) || MayDrop(place);
+        const bool isOther = now->isOther || now->quantity.unit != before.unit;
+        return (!isOther || !HasFigures(draft_, place) || AskFate(place, *now)) &&
+               (IsDropped(place) || MayDropRowUncertainties(place, *now));
     }
-    void DropRowUncertainties(std::size_t place) {
-        if (place >= draft_.Columns()) return;
-        for (clsBD& row : draft_.recD)
-            if (place < row.Cells.size()) row.Cells[place].uncertainty = "";
+    bool MayDrop(std::size_t place) {
+        dropped_.push_back(place);
+        return !HasFigures(draft_, place) || entries_.empty() ||
+               AskLoss(*entries_.front().field,
+                       "The set has figures of " + draft_.NameOf(draft_.Quantities()[place]));
     }
-
+    /// What becomes of the figures of a quantity that is another one now, or in another unit.
+    bool AskFate(std::size_t place, const BioEntry& now) {
+        const auto answer =
+            ui::AskYesNoCancel("The set has figures of " + FullName(draft_.Quantities()[place]) +
+                               "\nDo they stand for " + FullName(now.quantity) +
+                               " from now on? With No they are dropped.");
+        if (answer == ui::Answer::No) dropped_.push_back(place);
+        if (answer == ui::Answer::Cancel) now.field->SetFocus();
+        return answer != ui::Answer::Cancel;
+    }
+    bool MayDropRowUncertainties(std::size_t place, const BioEntry& now) const {
+        const BioQuantity& before = draft_.Quantities()[place];
+        return !before.StatesByRow() || now.quantity.StatesByRow() ||
+               !HasRowUncertainties(draft_, place) ||
+               AskLoss(*now.field,
+                       "Rows of the table state uncertainties of " + draft_.NameOf(before));
+    }
+    static bool AskLoss(ui::Control& field, const std::string& what) {
+        return field.Owner().Confirm(field, what + ", which go with it\nGo on?");
+    }
+    /// The name with its unit, as it tells what changes.
+    std::string FullName(const BioQuantity& quantity) const {
+        return draft_.NameOf(quantity) + (quantity.unit == "1" ? "" : " in " + quantity.unit);
+    }
     BioSet& draft_;
     const BioEntries& entries_;
     std::vector<std::size_t> dropped_;
@@ -203,11 +196,11 @@ private:
 
 } // namespace
 
-ui::Control* TakeEntries(BioSet& draft, const BioEntries& entries) {
+bool TakeEntries(BioSet& draft, const BioEntries& entries) {
     Revision revision(draft, entries);
-    if (ui::Control* const field = revision.Ask()) return field;
+    if (!revision.Ask()) return false;
     revision.Apply();
-    return nullptr;
+    return true;
 }
 
 void FillBioHeader(clsA& header, bool isNew, const std::string& comment) {

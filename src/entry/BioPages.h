@@ -186,9 +186,9 @@ BioFaults CheckAcross(const BioEntries& entries);
 
 /// Puts what the pages say into a draft, a copy of the set that they were filled from. Figures of
 /// what has got another component, phase or unit stay only if that is meant, and that others go is
-/// asked. The answer is the control that the person wants to go back to, null when all is taken;
-/// otherwise the draft is as it was.
-ui::Control* TakeEntries(BioSet& draft, const BioEntries& entries);
+/// asked; false when the person wants to go back, with the focus on the row. The draft is as it was
+/// then.
+bool TakeEntries(BioSet& draft, const BioEntries& entries);
 
 /// The header of a set: comment, and for a new one who adds it, when, and that it is what the work
 /// was done for.

@@ -25,12 +25,14 @@ std::string UnitStored(const std::string& shown) {
 }
 
 /// Units that need no molar mass, and whose text is one word, as a record keeps it.
-std::vector<std::string> UnitsOf(const BioQuantityText& entry) {
+std::vector<std::string> UnitsShown(const BioQuantityText& entry) {
     std::vector<std::string> units = UnitList(entry.unit, entry.code);
     std::erase_if(units, [&entry](const std::string& unit) {
         return unit.find(' ') != std::string::npos ||
                IsMassBased(ConversionCodeOf(unit, entry.unit));
     });
+    for (std::string& unit : units)
+        unit = UnitShown(unit);
     return units;
 }
 
@@ -202,7 +204,7 @@ const BioQuantityPage::Offered* BioQuantityPage::Chosen(int i) const {
 void BioQuantityPage::FillUnits(int i, const std::string& unit) {
     const Offered* const chosen = Chosen(i);
     std::vector<std::string> units;
-    if (chosen && chosen->entry) units = UnitsOf(*chosen->entry);
+    if (chosen && chosen->entry) units = UnitsShown(*chosen->entry);
     const std::string own =
         unit.empty() ? (units.empty() ? std::string() : units.front()) : UnitShown(unit);
     if (!own.empty() && std::ranges::find(units, own) == units.end()) units.push_back(own);
