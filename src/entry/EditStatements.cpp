@@ -27,10 +27,11 @@ std::shared_ptr<clsProperty> ChainToEvaluate(bool inSystemUnits) {
 
 } // namespace
 
-bool EditStatements(std::span<clsX> items) {
+bool EditStatements(std::span<clsX> items, int properties) {
     KVOGlobal& globals = Globals();
     const auto before = globals.CurrentUX;
     globals.CurrentUX = std::make_shared<std::vector<clsX>>(items.begin(), items.end());
+    const int propertiesBefore = std::exchange(globals.PropertiesInUX, properties);
     // The dialog below has an answer of its own to give when it closes.
     const bool acceptedBefore = std::exchange(globals.DialogAccepted, false);
     ui::Forms::Current().Get("frmUnc").ShowModal();
@@ -38,6 +39,7 @@ bool EditStatements(std::span<clsX> items) {
     // On a copy until then: Cancel leaves every item as it was, digits and flags.
     if (accepted) std::ranges::copy(*globals.CurrentUX, items.begin());
     globals.CurrentUX = before;
+    globals.PropertiesInUX = propertiesBefore;
     return accepted;
 }
 

@@ -78,11 +78,12 @@ ui::Layout frmUnc::FrameLayout(int i) {
 void frmUnc::ArrangeControls() {
     using namespace ui;
     std::vector<Layout> parts;
-    parts.reserve(static_cast<std::size_t>(frameCount) + 3);
+    parts.reserve(static_cast<std::size_t>(frameCount) + 4);
     for (int i = 0; i < frameCount; ++i)
         parts.push_back(FrameLayout(i));
     parts.push_back(Field(lblKVOU, Row({txtKVOU, lblKVOunit})));
     parts.emplace_back(lblFigures);
+    parts.push_back(Row({lblPage, cmdLast, cmdNext, Stretch()}));
     parts.push_back(ButtonRow({cmdCalc, cmdOK, cmdCancel}));
     Arrangement = Column(std::move(parts));
     // The controls are declared by kind; the keyboard is to go frame by frame.
@@ -96,6 +97,8 @@ void frmUnc::WireEvents() {
     for (ui::CheckBox* box : {&chkComb, &chkCD})
         box->OnClick = [this] { UseBlocks(); };
     WirePrompt(cboCUType);
+    cmdLast.OnClick = [this] { GoToPage(page_ - 1); };
+    cmdNext.OnClick = [this] { GoToPage(page_ + 1); };
     cmdCalc.OnClick = [this] { Calculate(); };
     mnuAbout.OnClick = [] { ui::TheDesktop().ShowHelp(HelpForm); };
     mnuDefinitions.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDefinitions); };
@@ -109,8 +112,9 @@ void frmUnc::WireFrame(int i) {
 
 void frmUnc::Load() {
     FillLists();
-    ShowItems();
-    UseBlocks();
+    TakeItems();
+    LayOutPages();
+    ShowPage(0);
     // The evaluated figure of the house is no entry of this edition.
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&lblKVOU, &txtKVOU, &lblKVOunit})

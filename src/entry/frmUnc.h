@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,14 +12,15 @@ namespace vexora {
 
 class clsProperty;
 
-/// The uncertainty statements of a data set: one frame for the property, one for each variable.
+/// The uncertainty statements of a data set: one frame for the property, one for each variable. A
+/// set with more of either has several pages, each with one property and up to four others.
 /// Opened modally through EditStatements on the items in CurrentUX, which change on OK only. The
 /// figures that follow from the statements are shown for the value in the property chain.
 /// The terms are those of the GUM (JCGM 100): a level makes a figure an expanded uncertainty,
 /// without one it is a standard deviation. The registry owns the form.
 class frmUnc : public ui::Form {
 public:
-    /// The property and up to four variables.
+    /// A property and up to four variables.
     static constexpr int frameCount = 5;
 
     frmUnc();
@@ -56,6 +59,9 @@ public:
     ui::TextBox txtKVOU{*this, "txtKVOU"};
     ui::Label lblKVOunit{*this, "lblKVOunit"};
     ui::Label lblFigures{*this, "lblFigures"};
+    ui::Label lblPage{*this, "lblPage"};
+    ui::CommandButton cmdLast{*this, "cmdLast", "Previous quantities"};
+    ui::CommandButton cmdNext{*this, "cmdNext", "Next quantities"};
     ui::CommandButton cmdCalc{*this, "cmdCalc", "Calculate uncertainty"};
     ui::CommandButton cmdOK{*this, "cmdOK", "OK"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
@@ -75,30 +81,46 @@ private:
 
     // Items and controls (frmUnc_items.cpp).
     void FillLists();
-    void ShowItems();
-    void ShowItem(const clsX& item);
+    void TakeItems();
+    void ShowItem(int i, const clsX& item);
     void ShowPropertyItem(const clsX& item);
-    void ShowCaption(const clsX& item);
+    void ShowCaption(int i, const clsX& item);
+    void ClearFrame(int i);
     clsX FromControls(int i) const;
     void ReadPropertyBlocks(clsX& item) const;
-    static bool HasFrame(const clsX& item);
-    clsX* ItemOf(int i);
+    const clsX* ItemOf(int i) const;
+
+    // Pages (frmUnc_pages.cpp).
+    /// Places in items_ by frame, -1 for none.
+    using Page = std::array<int, frameCount>;
+    void LayOutPages();
+    void ShowPage(std::size_t page);
+    void KeepPage();
+    void GoToPage(std::size_t page);
+    /// The number of the property that the page is about.
+    int PropertyOfPage() const;
+    clsX Entered(int n) const;
     bool IsCalibrated(int i) const;
 
     // Evaluating and accepting (frmUnc_accept.cpp).
     bool CheckEntries();
     bool CheckFrame(int i);
+    bool CheckPage();
     bool CheckValue(ui::TextBox& box);
     bool CheckLevel(ui::TextBox& box);
     bool CheckRepetitions(ui::TextBox& box);
     void Calculate();
     void TakeEvaluated(const clsProperty& head);
-    void TakeEntries(clsProperty& quantity, int i) const;
+    void TakeEntries(clsProperty& quantity, int n) const;
     void ShowFigures(const clsProperty& head, const std::string& result);
     void Accept();
 
-    std::vector<clsX> items_; // as the statements stand in the entered units
-    std::vector<clsX> shown_; // what the controls said when they had been filled
+    std::vector<clsX> items_;   // as the statements stand in the entered units
+    std::vector<clsX> shown_;   // what the controls said when they had been filled
+    std::vector<clsX> entered_; // what they said when their page was left
+    std::vector<bool> wasShown_;
+    std::vector<Page> pages_;
+    std::size_t page_ = 0;
 };
 
 } // namespace vexora

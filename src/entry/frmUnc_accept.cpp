@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "chem/clsMethod.h"
+#include "entry/RowChecks.h"
 #include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
@@ -77,17 +78,19 @@ void frmUnc::Calculate() {
     if (!CheckEntries()) return;
     lblFigures.Caption("");
     const auto& given = Globals().CurrentProperty;
-    if (!given || given->Text.empty()) {
+    const int property = PropertyOfPage();
+    const clsProperty* const of = given ? vexora::ItemOf(*given, property) : nullptr;
+    if (!of || of->Text.empty()) {
         lblFigures.Caption("The figures are those of a value: enter one first");
         return;
     }
     clsProperty head;
-    head.Copy(*given);
-    clsProperty* quantity = &head;
-    for (int i = 0; quantity && i < frameCount; ++i) {
-        TakeEntries(*quantity, i);
-        quantity = quantity->isLast ? nullptr : quantity->NextItem.get();
-    }
+    head.Copy(*of);
+    KeepPage();
+    int n = property;
+    for (clsProperty* quantity = &head; quantity;
+         quantity = quantity->isLast ? nullptr : quantity->NextItem.get())
+        TakeEntries(*quantity, n++);
     const auto& method = Globals().CurrentMethod;
     const std::string result = EvaluateUncertainty(head, method ? method->MMass : 0, ConfirmInBox);
     TakeEvaluated(head);
@@ -97,21 +100,21 @@ void frmUnc::Calculate() {
 /// The evaluated figure of the value: that of a file stays until the operator's combined
 /// uncertainty is the larger one.
 void frmUnc::TakeEvaluated(const clsProperty& head) {
-    const clsX item = FromControls(0);
-    if (!item.iCU || item.CValue.empty()) return;
+    const clsX item = Entered(PropertyOfPage());
+    if (!item.iCU || item.CValue.empty() || !ItemOf(0)) return;
     const double stated = std::abs(StatedFigure(item.CValue, head.Value));
     if (Val(txtKVOU.Text()) >= stated) return;
     txtKVOU.Text(item.CValue.ends_with('%') ? NumberText(stated) : item.CValue);
 }
 
-void frmUnc::TakeEntries(clsProperty& quantity, int i) const {
-    const clsX item = FromControls(i);
+void frmUnc::TakeEntries(clsProperty& quantity, int n) const {
+    const clsX item = Entered(n);
     // What stands on the form is the whole statement; defaults of the set would hide a cleared one.
     quantity.masterds = quantity.masterrep = quantity.masterunc = "";
     quantity.masternrep = 0;
     quantity.DS = item.DSValue;
     quantity.DSLevel = Level(item.DSLevel);
-    if (IsCalibrated(i) && item.iDS) {
+    if (n == 0 && IsCalibrated(0) && item.iDS) {
         const double constant = Val(item.DSValue);
         // The relative uncertainty of the constant is that of every heat measured with it.
         const bool known = IsNumeric(item.DSEvaluator) && constant > 0;
@@ -133,7 +136,7 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
         lblFigures.Caption(result);
         return;
     }
-    const clsX item = FromControls(0);
+    const clsX item = Entered(PropertyOfPage());
     const double stated = item.iCU ? std::abs(StatedFigure(item.CValue, head.Value)) : 0;
     if (stated > head.PRECISION) {
         lblFigures.Caption("Combined uncertainty as stated: " +
@@ -152,23 +155,25 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
                        NumberWithUnit(FormatValue(head.SystemPrecision, ShownDigits), systemUnit));
 }
 
-void frmUnc::Accept() {
-    if (!CheckEntries()) return;
+/// A page is whole before another one is shown.
+bool frmUnc::CheckPage() {
+    if (!CheckEntries()) return false;
     const bool typeOpen = cboCUType.Index() < 0 || cboCUType.Chosen().starts_with("SELECT ");
-    if (chkComb.Value() && typeOpen) {
-        Refuse(cboCUType, "SELECT TYPE OF EVALUATION");
-        return;
-    }
+    return !Frame(0).Visible() || !chkComb.Value() || !typeOpen ||
+           Refuse(cboCUType, "SELECT TYPE OF EVALUATION");
+}
+
+void frmUnc::Accept() {
+    if (!CheckPage()) return;
     if (txtKVOU.Enabled() && !IsNumeric(txtKVOU.Text())) {
         Refuse(txtKVOU, InvalidNumber);
         return;
     }
+    KeepPage();
     std::vector<clsX>& stated = *Globals().CurrentUX;
     for (std::size_t k = 0; k < stated.size(); ++k) {
-        // What was not shown cannot have been changed.
-        if (!HasFrame(items_[k])) continue;
-        const clsX item = FromControls(items_[k].N);
-        if (item != shown_[k]) stated[k] = item; // else it keeps the unit that it was read in
+        // What was not shown cannot have been changed; the rest keeps the unit that it was read in.
+        if (wasShown_[k] && entered_[k] != shown_[k]) stated[k] = entered_[k];
     }
     Globals().DialogAccepted = true;
     Close();

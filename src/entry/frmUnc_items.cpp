@@ -57,37 +57,44 @@ std::string Evaluator(const ui::ComboBox& list) {
 
 void frmUnc::FillLists() {
     for (int i = 0; i < frameCount; ++i) {
-        Frame(i).Caption(i == 0 ? "Property" : "Variable " + std::to_string(i));
-        cboRType(i).Assign(
-            {"SELECT REPRESENTATION OF REPEATABILITY", OfTheMean, OfSingleMeasurement});
-        cboRType(i).Index(0);
         // The place in this list is what is stored; new ones go behind.
         cboDSEvaluator(i).Assign({"Manufacturer", "Third party", "Author"});
     }
+}
+
+void frmUnc::TakeItems() {
+    if (const auto stated = Globals().CurrentUX)
+        for (const clsX& item : *stated)
+            // Files state figures of variables in system units, a person thinks in those of the
+            // paper.
+            items_.push_back(item.Name.empty() ? item : InEnteredUnit(item, UnitInChain(item.N)));
+    shown_ = entered_ = items_;
+    wasShown_.resize(items_.size());
+}
+
+/// Nothing is left of the quantity that the frame showed before.
+void frmUnc::ClearFrame(int i) {
+    for (ui::CheckBox* box :
+         {&chkDS(i), &chkDSPerCent(i), &chkRep(i), &chkRPerCent(i), &chkUnc(i), &chkUPerCent(i)})
+        box->Value(false);
+    for (ui::TextBox* box : {&txtDSValue(i), &txtDSLevel(i), &txtRValue(i), &txtRepetitions(i),
+                             &txtUValue(i), &txtULevel(i)})
+        box->Text("");
+    cboDSEvaluator(i).Index(-1);
+    cboDSEvaluator(i).Text("");
+    cboRType(i).Assign({"SELECT REPRESENTATION OF REPEATABILITY", OfTheMean, OfSingleMeasurement});
+    cboRType(i).Index(0);
+    if (i > 0) return;
+    for (ui::CheckBox* box : {&chkComb, &chkCUPerCent, &chkCD, &chkRMSPerCent})
+        box->Value(false);
+    for (ui::TextBox* box : {&txtCalibrError, &txtCUValue, &txtCULevel, &txtEq, &txtRMS, &txtKVOU})
+        box->Text("");
     cboCUType.Assign({"SELECT TYPE OF EVALUATION", Propagation, Comparison});
     cboCUType.Index(0);
 }
 
-void frmUnc::ShowItems() {
-    const auto stated = Globals().CurrentUX;
-    for (int i = 0; i < frameCount; ++i)
-        Frame(i).Visible(false);
-    if (!stated) return;
-    for (const clsX& item : *stated)
-        // Files state figures of variables in system units, a person thinks in those of the paper.
-        items_.push_back(HasFrame(item) ? InEnteredUnit(item, UnitInChain(item.N)) : item);
-    for (const clsX& item : items_) {
-        if (HasFrame(item)) ShowItem(item);
-    }
-    for (const clsX& item : items_)
-        // Read back at once: a difference to this later is a change by the operator, not one by
-        // showing.
-        shown_.push_back(HasFrame(item) ? FromControls(item.N) : item);
-}
-
-void frmUnc::ShowItem(const clsX& item) {
-    const int i = item.N;
-    ShowCaption(item);
+void frmUnc::ShowItem(int i, const clsX& item) {
+    ShowCaption(i, item);
     Frame(i).Visible(true);
     if (IsCalibrated(i)) {
         chkDS(i).Caption("Calibration constant");
@@ -110,11 +117,14 @@ void frmUnc::ShowItem(const clsX& item) {
     if (i == 0) ShowPropertyItem(item);
 }
 
-void frmUnc::ShowCaption(const clsX& item) {
-    ui::Frame& frame = Frame(item.N);
+void frmUnc::ShowCaption(int i, const clsX& item) {
     // A set may have several constraints, which are told apart by their names.
-    const std::string kind = item.Constr ? "Constraint" : frame.Caption();
-    frame.Caption(kind + ": " + item.Name + " (" + item.Unit + ")");
+    const int properties = Globals().PropertiesInUX;
+    const std::string number = std::to_string(item.N - properties + 1);
+    const std::string kind = i == 0        ? "Property"
+                             : item.Constr ? "Constraint"
+                                           : "Variable " + number;
+    Frame(i).Caption(kind + ": " + item.Name + (item.Unit.empty() ? "" : " (" + item.Unit + ")"));
 }
 
 void frmUnc::ShowPropertyItem(const clsX& item) {
@@ -135,10 +145,7 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
 
 /// The item as the controls of its frame say it.
 clsX frmUnc::FromControls(int i) const {
-    clsX item;
-    for (const clsX& known : items_) {
-        if (known.N == i) item = known;
-    }
+    clsX item = *ItemOf(i);
     item.iDS = chkDS(i).Value();
     item.DSEvaluator = item.DSLevel = item.DSValue = "";
     if (item.iDS) {
@@ -175,21 +182,16 @@ void frmUnc::ReadPropertyBlocks(clsX& item) const {
     item.CDRms = item.iCD ? Statement(txtRMS, chkRMSPerCent) : "";
 }
 
-/// An item without a name has no quantity in the set.
-bool frmUnc::HasFrame(const clsX& item) {
-    return item.N >= 0 && item.N < frameCount && !item.Name.empty();
-}
-
-clsX* frmUnc::ItemOf(int i) {
-    for (clsX& item : items_) {
-        if (item.N == i) return &item;
-    }
-    return nullptr;
+const clsX* frmUnc::ItemOf(int i) const {
+    if (pages_.empty()) return nullptr;
+    const int place = pages_[page_][static_cast<std::size_t>(i)];
+    return place < 0 ? nullptr : &items_[static_cast<std::size_t>(place)];
 }
 
 /// A calorimeter is stated by its calibration constant: heats of reactions.
 bool frmUnc::IsCalibrated(int i) const {
     if (i != 0 || Globals().DataContext != "React" || items_.empty()) return false;
+    if (Globals().BioSetInHand) return false;
     return items_.front().N == 0 && items_.front().PRPCODE.starts_with('H');
 }
 

@@ -35,6 +35,7 @@ class DataSet;
 class ProcessedSets;
 class Substance;
 class SubstanceSample;
+struct ColumnsToPlot;
 struct PlotTable;
 
 /// The one process-wide state: the open document, the records on the path from the selected node to
@@ -118,7 +119,9 @@ struct KVOGlobal {
     std::shared_ptr<clsProperty> CurrentProperty; // head of the property chain
     std::shared_ptr<clsMMM> MixtureMass;
     std::shared_ptr<std::vector<clsX>> CurrentUX; // the statements that frmUnc works on
-    std::shared_ptr<PlotTable> Plot;              // the points that frmGraph is to show
+    int PropertiesInUX = 1;                 // so many of them are of properties, the first ones
+    std::shared_ptr<PlotTable> Plot;        // the points that frmGraph is to show
+    std::shared_ptr<ColumnsToPlot> BioPlot; // the table that frmBioPlot is to show
     std::string KeyRest; // tags of a comment that no dialog interprets; kept over read and write
 
     // What the property dialog hands to the entry dialog.

@@ -81,4 +81,21 @@ struct PlotTable {
     }
 };
 
+/// A table with any number of properties and variables, of which its plot draws one against
+/// another: what the table of a bio set hands to frmBioPlot through the globals.
+struct ColumnsToPlot {
+    struct Column {
+        std::string name; // with the unit, "Temperature (K)"
+        bool isProperty = false;
+        int column = 0;                    // of the dialog's table
+        std::vector<double> values;        // one a row, not a number for none
+        std::vector<double> uncertainties; // likewise, 0 for none
+    };
+    std::vector<Column> columns;
+    std::vector<int> rows;   // of the dialog's table
+    std::vector<bool> isFar; // to be looked at again
+    // Set by the plot, as in PlotTable.
+    int ChosenRow = 0, ChosenColumn = -1;
+};
+
 } // namespace vexora
