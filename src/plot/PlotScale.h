@@ -8,7 +8,7 @@
 namespace vexora {
 
 /// The axes of a plot: which values they span and where a value stands on them. Plain axes carry X
-/// and Y, logarithmic ones 1 / (X + Shift) and ln Y. Owned by frmGraph.
+/// and Y, logarithmic ones 1 / (X + Shift) and ln Y. Owned by the pane of a plot.
 class PlotScale {
 public:
     bool Log = false;

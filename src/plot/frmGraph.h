@@ -1,11 +1,9 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "plot/PlotPicture.h"
+#include "plot/PlotPane.h"
 #include "ui/Form.h"
 
 namespace vexora {
@@ -46,39 +44,20 @@ public:
 
 private:
     void WireEvents();
-    void WireMenus();
-    void picPIC_Move(PlotPlace place);
-    void picPIC_Release(PlotPlace place);
-    void picPIC_Key(ui::Key& key);
     void ShowPicture(std::shared_ptr<PlotTable> table);
     void cmdPicture_Click();
     void cmdMode_Click();
     void cmdVar_Click();
-    void mnuFileSave_Click();
-    void ChangeTolerance(double factor);
 
-    Plot ThePlot() const;
     void ShowAgainst(int variable);
     void NameMode();
     std::string CaptionText() const;
-    void Redraw();
-
-    // The point that is told, and the ways to others.
-    void PointTo(std::optional<int> point);
-    void StepPoint(int step, bool withinFamily);
-    void StepFar(int step);
-    void GoToPoint();
 
     std::shared_ptr<PlotTable> table_;
-    PlotScale scale_; // its Log is the mode
-    PlotFamilies families_;
-    int xVar_ = 1;
-    double groupTolerance_ = UsualTolerance;
-    bool showUnc_ = true;
-    bool showTies_ = true;
-    bool hideMarks_ = true;          // on: the point under the mouse is told
-    std::optional<int> point_;       // the one that is told
-    std::optional<PlotPlace> start_; // of the rubber band, while the button is down
+    PlotPane pane_{*this,
+                   {picPIC, lblPoint, lblRow},
+                   {mnuFileSave, mnuFilePrint, mnuToolsIncrease, mnuToolsDecrease, mnuHide,
+                    mnuNextFar, mnuLastFar}};
 };
 
 } // namespace vexora

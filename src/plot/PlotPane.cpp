@@ -1,0 +1,218 @@
+#include "plot/PlotPane.h"
+
+#include <cmath>
+#include <utility>
+
+#include "plot/PictureSvg.h"
+#include "plot/PlotPoint.h"
+#include "reference/SafeFile.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+
+namespace vexora {
+
+namespace {
+
+constexpr double LeastDrag = 10; // a smaller rectangle is a click
+constexpr const char* DragHint = "Drag a rectangle to enlarge it, click to see all points";
+constexpr const char* TriangleHint = "The fractions of the three components are told at each point";
+constexpr const char* KeysHint = "The arrow keys step through the points";
+constexpr const char* NoPoints = "There are no points to draw";
+constexpr const char* NoLogarithm =
+    "Nothing to draw: 1/X and ln Y need an absolute temperature and "
+    "a value above 0";
+
+} // namespace
+
+PlotPane::PlotPane(ui::Form& form, const PlotControls& controls, const PlotMenu& menu)
+    : form_(form), controls_(controls), table_(std::make_shared<PlotTable>()) {
+    WirePicture();
+    WireMenu(menu);
+}
+
+void PlotPane::WirePicture() {
+    ui::Picture& picture = controls_.picture;
+    picture.OnPress = [this](double x, double y) { start_ = PlotPlace{x, y}; };
+    picture.OnMove = [this](double x, double y) { Move({x, y}); };
+    picture.OnRelease = [this](double x, double y) { Release({x, y}); };
+    picture.OnDoubleClick = [this] { GoToPoint(); };
+    picture.OnKey = [this](ui::Key& key) { UseKey(key); };
+}
+
+void PlotPane::WireMenu(const PlotMenu& menu) {
+    menu.save.OnClick = [this] { Save(); };
+    menu.print.OnClick = [this] {
+        ui::TheDesktop().PrintPicture(form_.Caption(), controls_.picture);
+    };
+    menu.merge.OnClick = [this] { ChangeTolerance(2); };
+    menu.split.OnClick = [this] { ChangeTolerance(0.5); };
+    menu.identify.Checked(identifies_);
+    menu.identify.OnClick = [this, &identify = menu.identify] {
+        identifies_ = !identifies_;
+        identify.Checked(identifies_);
+        point_.reset();
+        Redraw();
+    };
+    menu.nextFar.OnClick = [this] { StepFar(1); };
+    menu.lastFar.OnClick = [this] { StepFar(-1); };
+}
+
+void PlotPane::Show(std::shared_ptr<PlotTable> table, int xVar, bool hasLog) {
+    table_ = std::move(table);
+    xVar_ = xVar;
+    scale_.Shift = ShiftOf(*table_);
+    scale_.Log = scale_.Log && hasLog;
+    controls_.picture.KeepsShape(table_->IsTriangle());
+    Arrange(*table_, xVar_);
+    scale_.Ranges(*table_, xVar_);
+    ChangeTolerance(1);
+}
+
+void PlotPane::ToggleLog() {
+    scale_.Log = !scale_.Log;
+    scale_.Ranges(*table_, xVar_);
+    Redraw();
+}
+
+void PlotPane::ToggleUncertainties() {
+    showUnc_ = !showUnc_;
+    Redraw();
+}
+
+void PlotPane::ToggleTies() {
+    showTies_ = !showTies_;
+    Redraw();
+}
+
+void PlotPane::Move(PlotPlace place) {
+    if (start_ && !table_->IsTriangle())
+        controls_.picture.Overlay(
+            {{ui::Picture::Shape::Rectangle, start_->x, start_->y, place.x, place.y, 0, {}}});
+    else if (const auto point = identifies_ ? NearestPoint(ThePlot(), place) : std::nullopt)
+        PointTo(point);
+}
+
+/// A rectangle becomes the new ranges, a mere click brings all points back. A triangle is always
+/// seen whole.
+void PlotPane::Release(PlotPlace place) {
+    if (!start_) return;
+    const PlotPlace start = *start_;
+    start_.reset();
+    controls_.picture.Overlay({});
+    if (table_->IsTriangle()) return PointTo(point_);
+    const double wide = std::abs(place.x - start.x);
+    const double high = std::abs(place.y - start.y);
+    if (wide > LeastDrag && high > LeastDrag) {
+        const PlotPlace from = PositionsAt(ThePlot(), start);
+        const PlotPlace to = PositionsAt(ThePlot(), place);
+        scale_.Zoom(from.x, from.y, to.x, to.y);
+    } else {
+        scale_.Ranges(*table_, xVar_);
+    }
+    Redraw();
+}
+
+void PlotPane::UseKey(ui::Key& key) {
+    const std::string name = key.FullName();
+    key.swallowed = true;
+    if (name == "Left" || name == "Right")
+        StepPoint(name == "Right" ? 1 : -1, false);
+    else if (name == "Up" || name == "Down")
+        StepPoint(name == "Up" ? 1 : -1, true);
+    else if (name == "Home" || name == "End") {
+        point_.reset();
+        StepPoint(name == "Home" ? 1 : -1, false);
+    } else if (name == "Enter" && point_)
+        GoToPoint();
+    else
+        key.swallowed = false;
+}
+
+/// The ending of the name tells what is written; without one it is a drawing.
+void PlotPane::Save() {
+    const auto chosen = ui::TheDesktop().Choose({true, {}, "plot.svg", "Pictures (*.svg *.png)"});
+    if (!chosen) return;
+    const std::string name = LowerAscii(*chosen);
+    const bool isPng = name.ends_with(".png");
+    const std::string path = isPng || name.ends_with(".svg") ? *chosen : *chosen + ".svg";
+    ui::FileSystem& files = ui::TheDesktop().Files();
+    if (files.Exists(path) && !ui::AskYesNo(path + " exists already\nReplace it?")) return;
+    const auto bytes = isPng ? ui::TheDesktop().PngOf(controls_.picture)
+                             : SvgOf(controls_.picture, form_.Caption());
+    if (!bytes)
+        return ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
+    const SaveOutcome outcome = WriteSafely(files, path, *bytes, false);
+    if (const std::string told = outcome.Told("The file " + path); !told.empty()) ui::Say(told);
+}
+
+void PlotPane::ChangeTolerance(double factor) {
+    groupTolerance_ *= factor;
+    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
+    Redraw();
+}
+
+Plot PlotPane::ThePlot() const {
+    return {*table_, scale_, xVar_, families_, showUnc_, showTies_};
+}
+
+void PlotPane::Redraw() {
+    controls_.picture.Strokes(PlotPicture(ThePlot()));
+    PointTo(point_);
+}
+
+/// Its values and its row are told on the plot and below it.
+void PlotPane::PointTo(std::optional<int> point) {
+    point_ = point;
+    const Plot plot = ThePlot();
+    std::vector<ui::Picture::Stroke> mark;
+    if (point) mark = PointMark(plot, *point);
+    const bool isSeen = !mark.empty();
+    const char* untold = table_->PointTable.empty() ? NoPoints
+                         : scale_.Empty             ? NoLogarithm
+                         : table_->IsTriangle()     ? TriangleHint
+                                                    : DragHint;
+    const bool hasRow = isSeen && table_->PointRow[static_cast<std::size_t>(*point)] > 0;
+    controls_.point.Caption(isSeen ? PointText(plot, *point) : untold);
+    controls_.row.Caption(isSeen ? RowText(plot, *point) + (hasRow ? ", Enter goes there" : "")
+                                 : KeysHint);
+    controls_.picture.Overlay(std::move(mark));
+}
+
+/// To the next drawn point in the order of X, around at the ends; Up and Down stay on the curve.
+void PlotPane::StepPoint(int step, bool withinFamily) {
+    const int count = table_->PointCount();
+    const auto family = [this](int point) {
+        return families_.GroupOf[static_cast<std::size_t>(point)];
+    };
+    const Plot plot = ThePlot();
+    int at = point_ ? *point_ : step > 0 ? -1 : count;
+    for (int tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (withinFamily && point_ && family(at) != family(*point_)) continue;
+        if (!PlaceOf(plot, at)) continue;
+        PointTo(at);
+        return;
+    }
+}
+
+void PlotPane::StepFar(int step) {
+    const int count = table_->PointCount();
+    int at = point_ ? *point_ : step > 0 ? -1 : count;
+    for (int tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (!table_->PointFar[static_cast<std::size_t>(at)]) continue;
+        point_ = at;
+        if (!PlaceOf(ThePlot(), at)) scale_.Ranges(*table_, xVar_);
+        Redraw();
+        return;
+    }
+}
+
+/// The dialog with the table takes the person to the row of the point.
+void PlotPane::GoToPoint() {
+    const int row = point_ ? table_->PointRow[static_cast<std::size_t>(*point_)] : 0;
+    if (row == 0 || !OnGoTo) return;
+    OnGoTo(row, table_->PointColumn[static_cast<std::size_t>(*point_)]);
+}
+
+} // namespace vexora
