@@ -82,6 +82,13 @@ std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns,
                                     "Correct it or clear the cell"
                                   : "Invalid number\nCorrect it or clear the cell"});
     }
+    const auto beside = CheckBeside(grid, columns, row);
+    findings.insert(findings.end(), beside.begin(), beside.end());
+    return findings;
+}
+
+std::vector<Finding> CheckBeside(const ui::Grid& grid, const TableColumns& columns, int row) {
+    std::vector<Finding> findings;
     for (int column = columns.Count(); column < grid.Columns(); ++column) {
         if (grid.Cell(row, column).empty()) continue;
         findings.push_back(

@@ -24,6 +24,8 @@ bool IsEmptyRow(const ui::Grid& grid, const TableColumns& columns, int row);
 /// of the statements; none for an empty row.
 /// A finding names the first thing to mend in a cell; rows and columns count as in the grid.
 std::vector<Finding> CheckRow(const ui::Grid& grid, const TableColumns& columns, int row);
+/// The entries of a row that stand beside the columns of the table.
+std::vector<Finding> CheckBeside(const ui::Grid& grid, const TableColumns& columns, int row);
 /// The values of a row that cannot be true, or hardly. The chain says codes and units; molarMass in
 /// g/mol. Nothing is asked and nothing changes.
 /// Faults for what is not valid, questions for what is suspicious. A cell that is no number is

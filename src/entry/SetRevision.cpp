@@ -19,22 +19,37 @@ namespace {
 constexpr const char* TableForm = "frmData2";
 constexpr const char* TiedTableForm = "frmProcess";
 
-/// The working context as it was before the table opened.
-class ContextScope {
+/// The set of the table as the current one of its kind, and those before it again at the end.
+class SetScope {
 public:
-    explicit ContextScope(const std::shared_ptr<DataSet>& set)
+    explicit SetScope(const std::shared_ptr<DataSet>& set)
         : two_(Globals().CurrentTwo), mixture_(Globals().CurrentMV),
-          equilibrium_(Globals().CurrentE), head_(Globals().CurrentProperty),
-          depth_(Globals().OpenForms.size()) {
+          equilibrium_(Globals().CurrentE) {
         Globals().CurrentTwo = std::dynamic_pointer_cast<clsTwo>(set);
         Globals().CurrentMV = std::dynamic_pointer_cast<clsMV>(set);
         Globals().CurrentE = std::dynamic_pointer_cast<clsE>(set);
     }
-    ~ContextScope() {
+    ~SetScope() {
         KVOGlobal& globals = Globals();
         globals.CurrentTwo = two_;
         globals.CurrentMV = mixture_;
         globals.CurrentE = equilibrium_;
+    }
+    SetScope(const SetScope&) = delete;
+    SetScope& operator=(const SetScope&) = delete;
+
+private:
+    std::shared_ptr<clsTwo> two_;
+    std::shared_ptr<clsMV> mixture_;
+    std::shared_ptr<clsE> equilibrium_;
+};
+
+/// The working context as it was before a table opened.
+class ContextScope {
+public:
+    ContextScope() : head_(Globals().CurrentProperty), depth_(Globals().OpenForms.size()) {}
+    ~ContextScope() {
+        KVOGlobal& globals = Globals();
         globals.CurrentProperty = head_;
         if (globals.OpenForms.size() > depth_) globals.OpenForms.resize(depth_);
     }
@@ -42,9 +57,6 @@ public:
     ContextScope& operator=(const ContextScope&) = delete;
 
 private:
-    std::shared_ptr<clsTwo> two_;
-    std::shared_ptr<clsMV> mixture_;
-    std::shared_ptr<clsE> equilibrium_;
     std::shared_ptr<clsProperty> head_;
     std::size_t depth_;
 };
@@ -81,30 +93,28 @@ bool AskToDropRows(ui::Control& field, std::size_t rows) {
                                             " of numerical data.\nAre they to be deleted?");
 }
 
-namespace {
-
-bool OpenTable(ui::Control& field, std::string_view table, const std::shared_ptr<DataSet>& set) {
+bool EnterTable(ui::Control& field, std::string_view table) {
     KVOGlobal& globals = Globals();
     ui::Form& opener = field.Owner();
     if (!ui::Forms::Current().Knows(table)) return opener.Refuse(field, "There is no table dialog");
-    const ContextScope scope(set);
+    const ContextScope scope;
     globals.DialogAccepted = false;
     globals.OpenForms.push_back(opener.Name());
     ui::Forms::Current().Get(table).ShowModal();
     return std::exchange(globals.DialogAccepted, false);
 }
 
-} // namespace
-
 bool EnterRows(ui::Control& field, const std::shared_ptr<DataSet>& set, bool includeDigits) {
     Globals().IncludeDigits = includeDigits;
-    return OpenTable(field, TableForm, set);
+    const SetScope scope(set);
+    return EnterTable(field, TableForm);
 }
 
 bool EnterTiedRows(ui::Control& field, const std::vector<std::shared_ptr<clsMV>>& sets) {
     if (sets.empty()) return false;
     Globals().SetsToShow = sets;
-    const bool isAccepted = OpenTable(field, TiedTableForm, sets.front());
+    const SetScope scope(sets.front());
+    const bool isAccepted = EnterTable(field, TiedTableForm);
     Globals().SetsToShow.clear();
     return isAccepted;
 }

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "ui/Control.h"
@@ -27,6 +28,10 @@ void DropStatements(clsData& row, int item);
 bool AskToDropStatements(ui::Control& field, const std::string& names);
 /// Asks whether so many rows of a set that is said to have no numbers may go.
 bool AskToDropRows(ui::Control& field, std::size_t rows);
+
+/// Opens a dialog with a table as a link of the chain behind the form; true when it was accepted.
+/// The property chain and the chain of dialogs are then as they were before.
+bool EnterTable(ui::Control& field, std::string_view table);
 
 /// Opens the table on a set, as a link of the chain behind the form; true when it was accepted. The
 /// working context is then as it was before, for the table makes its own.

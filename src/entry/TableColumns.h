@@ -56,6 +56,9 @@ public:
     explicit TableColumns(const std::vector<Quantity>& quantities, bool withDigits = false,
                           bool withTies = false, const OwnSigns& ownSigns = {});
 
+    /// These, from left to right.
+    explicit TableColumns(std::vector<TableColumn> columns) : columns_(std::move(columns)) {}
+
     const std::vector<TableColumn>& All() const { return columns_; }
     int Count() const { return static_cast<int>(columns_.size()); }
     const TableColumn& operator[](int column) const {

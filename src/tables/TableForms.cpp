@@ -2,7 +2,6 @@
 
 #include "tables/frmAverage.h"
 #include "tables/frmData2.h"
-#include "tables/frmPasteView.h"
 #include "tables/frmProcess.h"
 #include "tables/frmSelect.h"
 
@@ -11,7 +10,6 @@ namespace vexora {
 void RegisterTableForms(ui::Forms& forms) {
     forms.Register<frmAverage>("frmAverage");
     forms.Register<frmData2>("frmData2");
-    forms.Register<frmPasteView>("frmPasteView");
     forms.Register<frmSelect>("frmSelect");
     forms.Register<frmProcess>("frmProcess");
 }

@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <functional>
-#include <unordered_set>
-#include <utility>
 
 #include "chem/LocalFit.h"
 #include "chem/clsProperty.h"
+#include "entry/RepeatedRows.h"
 #include "records/DataSet.h"
 #include "reference/Conversions.h"
 #include "reference/Numbers.h"
@@ -22,17 +21,6 @@ constexpr const char* LookAgainText = "Look again: far from what its neighbours 
 /// A vapor pressure is nearly straight as its logarithm against the reciprocal temperature.
 FitScale ScaleOf(const DataSet& set, int variable) {
     return set.PRPCODE == "PV" && set.VARIABLE(variable) == "T" ? FitScale::Vapor : FitScale::Plain;
-}
-
-/// Which of `count` things are equal to one in front of them, each with the first of its kind.
-template <class Hash, class Equal>
-std::vector<std::pair<std::size_t, std::size_t>> Repeated(std::size_t count, const Hash& hash,
-                                                          const Equal& equal) {
-    std::unordered_set<std::size_t, Hash, Equal> firsts(count, hash, equal);
-    std::vector<std::pair<std::size_t, std::size_t>> repeated;
-    for (std::size_t i = 0; i < count; ++i)
-        if (const auto [first, isNew] = firsts.insert(i); !isNew) repeated.emplace_back(i, *first);
-    return repeated;
 }
 
 /// Of the values and the state.

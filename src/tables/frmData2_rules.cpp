@@ -4,10 +4,10 @@
 
 #include "chem/clsProperty.h"
 #include "entry/TableTurns.h"
+#include "entry/frmPasteView.h"
 #include "globals/PlotTable.h"
 #include "records/DataSet.h"
 #include "reference/Numbers.h"
-#include "tables/frmPasteView.h"
 #include "ui/Desktop.h"
 
 namespace vexora {

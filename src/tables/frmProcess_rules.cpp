@@ -4,7 +4,7 @@
 
 #include <numeric>
 
-#include "tables/frmPasteView.h"
+#include "entry/frmPasteView.h"
 #include "tables/frmProcess_outlook.h"
 
 namespace vexora {

@@ -1,7 +1,7 @@
 // Work in the cells of a table: typing, pasting, rows, files, undo.
 #include "tables/frmData2Fixture.h"
 
-#include "tables/frmPasteView.h"
+#include "entry/frmPasteView.h"
 
 namespace vexora::test {
 namespace {

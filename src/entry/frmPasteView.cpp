@@ -1,4 +1,4 @@
-#include "tables/frmPasteView.h"
+#include "entry/frmPasteView.h"
 
 #include <algorithm>
 
