@@ -1,0 +1,122 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "chem/clsProperty.h"
+#include "entry/TableColumns.h"
+#include "grid/TableEditor.h"
+#include "records/clsX.h"
+#include "ui/Form.h"
+
+namespace vexora {
+
+class BioSet;
+class clsBD;
+struct ColumnsToPlot;
+
+/// The table of the rows of a bio set (BioSetInHand of the globals): any number of properties
+/// against any number of variables. Rows and statements go into the set when the table is accepted;
+/// one that is cancelled leaves the set as it was.
+class frmBioData : public ui::Form, private TableRules {
+public:
+    frmBioData();
+    ~frmBioData() override;
+
+    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
+    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
+    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
+    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
+    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
+    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
+    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
+    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
+    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
+    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
+                               "Ctrl+Shift+V"};
+    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
+    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
+    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
+    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
+    ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
+    ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
+    ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
+    ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
+    ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
+    ui::MenuItem mnuHelpList{*this, "mnuHelpList", "&Keys of the table", &mnuHelp};
+    ui::MenuItem mnuUnc{*this, "mnuUnc", "&Uncertainty Definitions", &mnuHelp};
+
+    ui::Label lblColumns{*this, "lblColumns"};
+    ui::Grid tblData{*this, "tblData", 2, 1};
+    ui::TextBox txtCell{*this, "txtCell"};
+    ui::Label lblNotice{*this, "lblNotice"};
+    ui::ListBox lstFindings{*this, "lstFindings"};
+    ui::CommandButton cmdView{*this, "cmdView", "View plot"};
+    ui::CommandButton cmdAssign{*this, "cmdAssign", "Evaluate Uncertainties"};
+    ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
+    ui::CommandButton cmdSave{*this, "cmdSave", "Accept"};
+    ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
+
+    void Load() override;
+    void Activate() override;
+    bool QueryUnload() override;
+    void Unload() override;
+
+private:
+    void WireEvents();
+    void WireMenus();
+    void TakeSet();
+    void FillRows();
+    bool IsChanged() const;
+    std::string CaptionText() const;
+    int CountOfProperties() const;
+
+    // What the editor of the table asks (frmBioData_rules.cpp).
+    std::vector<int> ValueColumns() const override;
+    bool IsTypedInto(int column) const override { return column < columns_.Count(); }
+    std::string ColumnName(int column) const override;
+    std::vector<Finding> FindingsOf(int row) const override;
+    std::vector<Finding> Hints() const override;
+    bool MayGrowFor(int columns) const override;
+    std::string Remark(int rows) const override;
+    bool IsWanted(const PastedTable& block) const override;
+    void HintAtFarRows(int property, std::vector<Finding>& hints) const;
+    void HintAtRepeatedRows(std::vector<Finding>& hints) const;
+    bool MayBeTwoDimensional() const;
+    void Action2D();
+    void Split();
+
+    // Statements, checks and storing (frmBioData_accept.cpp).
+    void Assign();
+    bool AssignAccepted();
+    void UseStatements(const std::vector<clsX>& statements);
+    void TakeRow(int row);
+    bool Check();
+    bool CheckUnc();
+    int Calc_unc(int row, const ConfirmValue& confirm);
+    bool Refuse(const Finding& finding, const std::string& title = {});
+    void Save();
+    void Store();
+    const clsBD* OldRowHere(int row) const;
+    clsBD NewRow(int row) const;
+
+    // The plot (frmBioData_plot.cpp).
+    void View();
+    ColumnsToPlot PlotOfTable();
+
+    std::shared_ptr<BioSet> set_;
+    std::vector<clsX> statements_, firstStatements_; // with the names of their quantities
+    std::string firstText_;                          // of the table, to tell whether it has changed
+    std::shared_ptr<clsProperty> chain_;
+    bool assigned_ = false; // uncertainties have been looked at
+    bool stored_ = false;
+    TableColumns columns_;
+    TableEditor table_{*this,
+                       {tblData, txtCell, lblNotice, lstFindings},
+                       {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
+                        mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
+                        mnuLastFinding}};
+};
+
+} // namespace vexora
