@@ -77,6 +77,8 @@ bool IsData(Kind kind) {
 bool IsMember(Kind kind) {
     return kind == Kind::Component || kind == Kind::Participant;
 }
+constexpr const char* ValueIsMissing = "A value of the record is not in the file";
+
 /// What their contents are is told by the elements in them, and they begin and end something.
 bool IsFrame(Kind kind) {
     return IsData(kind) || IsMember(kind) || kind == Kind::NumValues || kind == Kind::Sample ||
@@ -103,7 +105,7 @@ public:
         text_.clear();
         const Kind kind = open_.back().name->kind;
         if (IsData(kind)) BeginData(kind);
-        if (kind == Kind::NumValues && values_) inBlock_ = values_->Next();
+        if (kind == Kind::NumValues) BeginBlock();
     }
 
     void Text(std::string_view text) override {
@@ -117,6 +119,7 @@ public:
         const Kind kind = element.name->kind;
         if (kind == Kind::Sample || IsMember(kind)) CloseSample(kind);
         if (IsData(kind)) EndData();
+        if (kind == Kind::NumValues) EndBlock();
         if (kind == Kind::VariableValue || kind == Kind::PropertyValue) inValue_.clear();
     }
 
@@ -160,9 +163,17 @@ private:
     void EndData() {
         Missing(properties_, "nPropNumber");
         Missing(variables_, "nVarNumber");
-        if (values_ && (values_->NextOfHead() || values_->Next()))
-            Add("A value of the record is not in the file");
+        if (values_ && (values_->NextOfHead() || values_->NextConstant() || values_->Next()))
+            Add(ValueIsMissing);
         values_.reset();
+    }
+    void BeginBlock() {
+        inBlock_ = values_ && values_->Next();
+        inRow_ = 0;
+    }
+    void EndBlock() {
+        if (inBlock_ && inRow_ < values_->CountInBlock()) Add(ValueIsMissing);
+        inBlock_ = false;
     }
     void Missing(const Numbers& numbers, const std::string& element) {
         for (const std::string& number : numbers.used)
@@ -196,10 +207,9 @@ private:
             sample_ = text;
             return;
         case Kind::PropNumber:
-            return Quantity(element, text, properties_);
         case Kind::VarNumber:
-            variable_ = static_cast<int>(ToInteger(value));
-            return Quantity(element, text, variables_);
+            quantity_ = {element.kind == Kind::PropNumber, static_cast<int>(ToInteger(value))};
+            return Quantity(element, text, quantity_.isProperty ? properties_ : variables_);
         case Kind::PropValue:
         case Kind::VarValue:
             return Value(element, text, value);
@@ -254,23 +264,21 @@ private:
     }
     void Value(const ElementName& element, std::string_view text, double value) {
         if (!values_ || !inBlock_ || inValue_.empty()) return;
-        const int n =
-            element.kind == Kind::PropValue ? 0 : static_cast<int>(ToInteger(Val(inValue_)));
-        Compare(element, text, value, values_->Of(n));
+        ++inRow_;
+        Compare(element, text, value, values_->Of(quantity_));
     }
     /// What the heads say of the numbers below.
     void Definition(const ElementName& element, std::string_view text, double value) {
-        if (element.kind == Kind::PropName) Unit(text, 0);
-        if (Above() == Kind::VariableType) Unit(text, variable_);
+        if (element.kind == Kind::PropName || Above() == Kind::VariableType) Unit(text);
         if (element.kind == Kind::ConstraintValue)
             Compare(element, text, value, values_->NextConstant());
         if (element.kind == Kind::HeadValue) Compare(element, text, value, values_->NextOfHead());
     }
     /// Behind the last comma of the name; without one it is a pure number.
-    void Unit(std::string_view text, int n) {
+    void Unit(std::string_view text) {
         constexpr std::string_view mark = ", ";
         const std::size_t at = text.rfind(mark);
-        const std::string unit = values_->UnitOf(n);
+        const std::string unit = values_->UnitOf(quantity_);
         if (!unit.empty() && unit != (at == text.npos ? "1" : text.substr(at + mark.size())))
             Add("\"" + std::string(text) + "\" does not name the unit of the numbers, " + unit);
     }
@@ -306,8 +314,9 @@ private:
     Numbers properties_, variables_;
     std::optional<ExpectedValues> values_;
     bool inBlock_ = false;
-    std::string inValue_; // number of the quantity whose value is being read
-    int variable_ = 0;    // the number read last
+    std::string inValue_;       // number of the quantity whose value is being read
+    std::size_t inRow_ = 0;     // values of the block so far
+    NumberedQuantity quantity_; // the number read last
 };
 
 ClosingCheck::ClosingCheck(const std::vector<XmlMark>& marks)

@@ -73,9 +73,12 @@ std::string CodeInTables(const DataSubject& subject, std::string_view code) {
 void TellDataError(const DataSubject& subject, const std::string& fault) {
     const std::string name =
         PropertyName(subject.propertyCode, subject.context, subject.propertyContext);
-    ui::Say(fault + "\nSystem: " + subject.system +
-                "\nProperty: " + (name.empty() ? std::string(subject.propertyCode) : name),
-            "Data Error!");
+    TellDataError(subject.system, name.empty() ? std::string(subject.propertyCode) : name, fault);
+}
+
+void TellDataError(const std::string& system, const std::string& property,
+                   const std::string& fault) {
+    ui::Say(fault + "\nSystem: " + system + "\nProperty: " + property, "Data Error!");
 }
 
 bool HasTag(const clsA& header, std::string_view tag) {
@@ -97,8 +100,12 @@ void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header) {
         xml.Element("nSampleNm", Trim(component.sample));
         xml.Close();
     }
-    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
+    ExportPurpose(xml, header);
     ExportCompiler(xml, header);
+}
+
+void ExportPurpose(XmlWriter& xml, const clsA& header) {
+    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
 }
 
 void ExportCompiler(XmlWriter& xml, const clsA& header) {

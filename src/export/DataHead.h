@@ -58,6 +58,8 @@ std::string CodeInTables(const DataSubject& subject, std::string_view code);
 /// Tells the user which data could not be exported as they stand.
 /// In a box for each set: one that is left out must not go unnoticed.
 void TellDataError(const DataSubject& subject, const std::string& fault);
+void TellDataError(const std::string& system, const std::string& property,
+                   const std::string& fault);
 
 /// True when the tags of the comment hold this one ("PB").
 /// "PB" is said of values on a phase boundary, "FP" of values under one atmosphere.
@@ -69,6 +71,8 @@ void ExportRecord(XmlWriter& xml, const OpenRecord& data);
 /// Opens the element of a set or value: its number in the file, the compounds with their samples,
 /// purpose, compiler and date, the latter only where the record knows them.
 void OpenData(XmlWriter& xml, const DataSubject& subject, const clsA& header);
+/// Why it was measured, where that is stated.
+void ExportPurpose(XmlWriter& xml, const clsA& header);
 /// Compiler, organization and date.
 void ExportCompiler(XmlWriter& xml, const clsA& header);
 /// Number, group with name and method, and phase of the property.

@@ -46,12 +46,22 @@ std::vector<std::string> PhasesWith(const clsE& set, int place) {
     return phases;
 }
 
-std::string NumberFault(const std::string& what, const std::string& typed) {
-    return IsNumeric(NormalizeNumber(typed)) ? "" : what + " is no number: " + typed;
-}
-
 std::shared_ptr<clsL> CompoundOf(const clsQ& reaction, const std::string& rn) {
     return reaction.Parent && !NamesNoCompound(rn) ? reaction.Parent->FindL(rn) : nullptr;
+}
+
+/// What is there without taking part.
+void ExportBystander(XmlWriter& xml, const char* element, const std::shared_ptr<clsL>& compound) {
+    if (!compound) return;
+    xml.Open(element);
+    ExportRegNum(xml, *compound);
+    xml.Close();
+}
+
+} // namespace
+
+std::string NumberFault(const std::string& what, const std::string& typed) {
+    return IsNumeric(NormalizeNumber(typed)) ? "" : what + " is no number: " + typed;
 }
 
 void ExportParticipant(XmlWriter& xml, const ReactionParticipant& one) {
@@ -70,16 +80,6 @@ void ExportParticipant(XmlWriter& xml, const ReactionParticipant& one) {
     }
     xml.Close();
 }
-
-/// What is there without taking part.
-void ExportBystander(XmlWriter& xml, const char* element, const std::shared_ptr<clsL>& compound) {
-    if (!compound) return;
-    xml.Open(element);
-    ExportRegNum(xml, *compound);
-    xml.Close();
-}
-
-} // namespace
 
 ReactionParticipants ParticipantsOf(const clsC& value) {
     return Participants(value.Parent, [&value](ReactionParticipant& one) {
@@ -126,7 +126,7 @@ void OpenReaction(XmlWriter& xml, const clsQ& reaction, const ReactionParticipan
                   const clsA& header) {
     xml.Open("ReactionData");
     xml.Element("nReactionDataNumber", std::to_string(xml.NextNumber("ReactionData")));
-    xml.ElementIfAny("eExpPurpose", TextOfCode(ExperimentPurposes, header.EXPPURPOSE));
+    ExportPurpose(xml, header);
     for (const ReactionParticipant& one : participants)
         ExportParticipant(xml, one);
     ExportCompiler(xml, header);

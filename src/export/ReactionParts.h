@@ -48,6 +48,11 @@ void OpenReaction(XmlWriter& xml, const clsQ& reaction, const ReactionParticipan
 void OpenReactionProperty(XmlWriter& xml, const clsQ& reaction, const DataSubject& subject,
                           const clsA& header);
 
+/// Who takes part, with what the data say of it.
+void ExportParticipant(XmlWriter& xml, const ReactionParticipant& one);
+/// Why a typed number cannot leave, in words for the user, or empty; what names the number.
+std::string NumberFault(const std::string& what, const std::string& typed);
+
 /// What the final state of a value that leaves has besides the initial one: the format keeps one
 /// state only.
 std::vector<std::string> FinalStateWarnings(const clsC& value);

@@ -62,15 +62,6 @@ ExportUnit UnitOf(const UnitConversion& conversion, bool converts) {
     return {conversion, converts};
 }
 
-// What stands behind a mark that is off is not stated, and says nothing about the rows either.
-void DropUnstated(clsX& item) {
-    if (!item.iDS) item.DSEvaluator = item.DSLevel = item.DSValue = "";
-    if (!item.iRep) item.Repetitions = item.RValue = "";
-    if (!item.iRep) item.RType = -1;
-    if (!item.iUnc) item.ULevel = item.UValue = "";
-    if (!item.iCD) item.CDRms = "";
-}
-
 // Statements that only some rows make announce themselves like those of the set.
 void AnnounceRows(const DataSet& set, SetRows& rows) {
     for (const clsData& row : set.recData) {

@@ -165,6 +165,14 @@ std::string ConversionFault(const ExportUnit& unit) {
     return unit.IsPossible() ? "" : "Molar mass of the compound is not known";
 }
 
+void DropUnstated(clsX& item) {
+    if (!item.iDS) item.DSEvaluator = item.DSLevel = item.DSValue = "";
+    if (!item.iRep) item.Repetitions = item.RValue = "";
+    if (!item.iRep) item.RType = -1;
+    if (!item.iUnc) item.ULevel = item.UValue = "";
+    if (!item.iCD) item.CDRms = "";
+}
+
 ExportNumber ExportedValue(std::string_view typed, const ExportUnit& unit, int count) {
     const std::string text = WithoutPlus(NormalizeNumber(typed));
     // The recorded count goes before the text: the operator may have stated it.

@@ -56,6 +56,9 @@ struct RowFigures {
     bool setConverts = false; // the figures of the set stand in the entered unit
 };
 
+/// What stands behind a mark that is off is not stated, and says nothing about the rows either.
+void DropUnstated(clsX& item);
+
 /// The statements of one value, in the order of their heads (clsX::ExportX); role is "Prop" or
 /// "Var". value is the typed value of the quantity, to which per cent refer. False when a
 /// repeatability was announced but has no figure.

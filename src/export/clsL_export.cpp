@@ -40,7 +40,7 @@ void clsL::ExportL(XmlWriter& xml) const {
     xml.Element("sCommonName", ShowKey());
     xml.ElementIfAny("sFormulaMolec", Formula);
     // Enzyme Commission number and Protein Data Bank entry.
-    if (!isBio) return;
+    if (!isBio || (EC.empty() && PDB.empty())) return;
     xml.Open("bio");
     xml.ElementIfAny("sECNumber", EC);
     xml.ElementIfAny("sPDBNumber", PDB);

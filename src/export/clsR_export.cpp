@@ -9,6 +9,8 @@
 #include "records/SourceText.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsQ.h"
@@ -111,6 +113,10 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
         mixture->ExportAll(xml);
     for (const auto& reaction : recQ)
         reaction->ExportAll(xml);
+    for (const auto& set : recBR)
+        ExportRecord(xml, *set);
+    for (const auto& set : recBP)
+        ExportRecord(xml, *set);
     xml.Mark(nullptr);
     Globals().LineInHand = 0;
 }

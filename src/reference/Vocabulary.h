@@ -21,6 +21,8 @@
 
 namespace vexora {
 
+struct BioQuantityText;
+
 /// The contexts in which a table offers a row.
 struct ContextFlags {
     bool Pure = false;
@@ -183,6 +185,10 @@ std::string XMLMethod(std::string_view methodCode, std::string_view propertyCode
 /// Group of the variable's row; without one, by the letter the code begins with.
 std::string XMLVariableGroup(std::string_view code);
 std::string XMLVariableName(std::string_view code);
+/// Names of a bio quantity, by its entry and not by its code, which means something else in other
+/// tables. A variable is called as that of the same code and unit, where there is one.
+std::string XMLBioPropertyName(const BioQuantityText& quantity);
+std::string XMLBioVariableName(const BioQuantityText& quantity);
 std::string ReferenceStateText(std::string_view code);
 
 } // namespace vexora

@@ -7,8 +7,9 @@ namespace vexora {
 namespace {
 
 /// Names of ThermoML end with their unit.
-std::string WithUnit(const std::string& name, const std::string& unit) {
-    return unit.empty() || unit == "1" || name.empty() ? name : name + ", " + unit;
+std::string WithUnit(std::string_view name, std::string_view unit) {
+    const bool isPlain = unit.empty() || unit == "1" || name.empty();
+    return isPlain ? std::string(name) : std::string(name).append(", ").append(unit);
 }
 
 } // namespace
@@ -42,11 +43,11 @@ std::string XMLVariableGroup(std::string_view code) {
     if (variable && !variable->XMLGroup.empty()) return variable->XMLGroup;
     if (code.empty()) return {};
     // Codes of the tables go before this; it serves variables that only files have: X mole
-    // fraction, W mass fraction, V volume fraction, M molality, O, Q, B ratios, with "s" behind for
-    // the solvent.
+    // fraction, W mass fraction, V volume fraction, M molality, J molarity, O, Q, B ratios, with
+    // "s" behind for the solvent.
     const bool solvent =
         code.size() > 1 && (code.back() == 's' || (code.size() > 2 && code.back() == 'S'));
-    if (solvent && std::string_view("XWVMOQB").find(code.front()) != std::string_view::npos)
+    if (solvent && std::string_view("XWVMJOQB").find(code.front()) != std::string_view::npos)
         return "eSolventComposition";
     // The number of the component stands behind the letter.
     const bool composition = code.size() == 1 || (code[1] >= '0' && code[1] <= '9');
@@ -60,6 +61,16 @@ std::string XMLVariableName(std::string_view code) {
     if (!variable) return {};
     return variable->XMLNAME.empty() ? WithUnit(variable->IndVariable, variable->Unit)
                                      : variable->XMLNAME;
+}
+
+std::string XMLBioPropertyName(const BioQuantityText& quantity) {
+    return WithUnit(quantity.text, quantity.unit);
+}
+
+std::string XMLBioVariableName(const BioQuantityText& quantity) {
+    const VariableRow* row = FindVariable(quantity.code);
+    return row && row->Unit == quantity.unit ? XMLVariableName(quantity.code)
+                                             : WithUnit(quantity.text, quantity.unit);
 }
 
 std::string ReferenceStateText(std::string_view code) {

@@ -205,6 +205,7 @@ TEST_F(Vocabulary, VariablesAreFilteredByContextAndNamedForTheExport) {
                                                           {"M", "eComponentComposition"},
                                                           {"W2", "eComponentComposition"},
                                                           {"Ws", "eSolventComposition"},
+                                                          {"Js", "eSolventComposition"},
                                                           {"X1S", "eSolventComposition"},
                                                           {"VM", "eMiscellaneous"},
                                                           {"pH", "eMiscellaneous"}};
