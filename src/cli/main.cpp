@@ -10,6 +10,7 @@
 
 #include <csignal>
 #include <iostream>
+#include <new>
 #include <string>
 
 namespace {
@@ -49,6 +50,9 @@ int main(int argc, char** argv) {
         exitCode = app.exit(error) == 0 ? vexora::kExitClean : vexora::kExitUsage;
     } catch (const vexora::DatabaseError& error) {
         std::cerr << "error: " << error.what() << '\n';
+        return vexora::kExitUnreadable;
+    } catch (const std::bad_alloc&) {
+        std::cerr << "error: the memory does not suffice\n";
         return vexora::kExitUnreadable;
     }
     if (std::cout.flush()) return exitCode;

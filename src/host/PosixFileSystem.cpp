@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <ctime>
 #include <filesystem>
+#include <new>
 #include <system_error>
 
 namespace vexora::host {
@@ -98,8 +99,24 @@ int OpenRetrying(const std::string& path, int flags) {
     return file;
 }
 
-/// Reads to the end; the reason of a failure, empty when it went well.
-std::string ReadAll(int file, std::string& into) {
+/// Why nothing is read from there or written over it: a pipe has no end, a device no content of
+/// its own. Empty for a file.
+std::string WhyNoFile(mode_t mode) {
+    if (S_ISREG(mode)) return {};
+    if (S_ISDIR(mode)) return Reason(EISDIR);
+    if (S_ISFIFO(mode)) return "It is no file but a pipe";
+    return S_ISSOCK(mode) ? "It is no file but a socket" : "It is no file but a device";
+}
+
+std::string TooLarge(long long most) {
+    constexpr long long mebi = 1024LL * 1024;
+    const bool isWhole = most % mebi == 0;
+    return "It is larger than " + std::to_string(isWhole ? most / mebi : most) +
+           (isWhole ? " MiB" : " bytes");
+}
+
+/// Reads to the end; the reason of a failure, empty when it went well. A file may grow meanwhile.
+std::string ReadAll(int file, std::string& into, long long most) {
     char buffer[65536];
     for (;;) {
         const ssize_t count = ::read(file, buffer, sizeof buffer);
@@ -107,6 +124,21 @@ std::string ReadAll(int file, std::string& into) {
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return Reason(errno);
         into.append(buffer, static_cast<std::size_t>(count));
+        if (static_cast<long long>(into.size()) > most) return TooLarge(most);
+    }
+}
+
+/// The same of a file that was just opened.
+std::string ReadOpened(int file, std::string& into, long long most) {
+    struct stat status {};
+    if (::fstat(file, &status) != 0) return Reason(errno);
+    if (std::string reason = WhyNoFile(status.st_mode); !reason.empty()) return reason;
+    if (status.st_size > most) return TooLarge(most);
+    try {
+        into.reserve(static_cast<std::size_t>(status.st_size));
+        return ReadAll(file, into, most);
+    } catch (const std::bad_alloc&) {
+        return Reason(ENOMEM);
     }
 }
 
@@ -123,13 +155,14 @@ bool PosixFileSystem::IsFolder(const std::string& path) {
 }
 
 std::optional<std::string> PosixFileSystem::Read(const std::string& path, std::string& error) {
-    const int file = OpenRetrying(path, O_RDONLY);
+    // A pipe that nobody writes to would keep the program waiting.
+    const int file = OpenRetrying(path, O_RDONLY | O_NONBLOCK);
     if (file < 0) {
         error = Reason(errno);
         return {};
     }
     std::string text;
-    error = ReadAll(file, text);
+    error = ReadOpened(file, text, mostBytes_);
     ::close(file);
     if (!error.empty()) return {};
     return text;
@@ -154,7 +187,10 @@ std::string PosixFileSystem::Resolve(const std::string& path) {
 }
 
 std::string PosixFileSystem::WhyNotWritable(const std::string& path) {
-    if (IsFolder(path)) return Reason(EISDIR);
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0) {
+        if (std::string reason = WhyNoFile(status.st_mode); !reason.empty()) return reason;
+    }
     if (Exists(path) && ::access(path.c_str(), W_OK) != 0) return Reason(errno);
     const std::string folder = FolderOf(path);
     if (!IsFolder(folder)) return Reason(Exists(folder) ? ENOTDIR : ENOENT);

@@ -1,9 +1,8 @@
 #include "host/ScriptParser.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
+#include "host/PosixFileSystem.h"
 #include "host/ScriptGrammar.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -13,6 +12,8 @@ namespace vexora::host {
 namespace {
 
 constexpr int DeepestInclude = 20;
+// Two scripts that include each other twice would otherwise go on for a million files.
+constexpr int MostIncludes = 1000;
 constexpr std::string_view Blanks = " \t\r";
 
 std::string FolderOf(const std::string& file) {
@@ -109,8 +110,10 @@ private:
 /// Reads one file and the files that it includes.
 class FileParser {
 public:
-    FileParser(Script& script, std::string file, ScriptVariables variables, int depth)
-        : script_(script), file_(std::move(file)), variables_(std::move(variables)), depth_(depth) {
+    FileParser(Script& script, std::string file, ScriptVariables variables, int depth,
+               int& includes)
+        : script_(script), file_(std::move(file)), variables_(std::move(variables)), depth_(depth),
+          includes_(includes) {
         variables_["SCRIPT_DIR"] = FolderOf(file_);
     }
 
@@ -168,16 +171,19 @@ private:
 
     void Include(const std::string& path) {
         if (depth_ >= DeepestInclude) throw std::runtime_error("includes too deep: " + path);
+        if (++includes_ > MostIncludes) throw std::runtime_error("too many includes: " + path);
         const auto full = std::filesystem::path(FolderOf(file_)) / path;
-        const auto text = FileText(full.string());
-        if (!text) throw std::runtime_error("cannot read " + full.string());
-        FileParser(script_, full.string(), variables_, depth_ + 1).Parse(*text);
+        std::string error;
+        const auto text = PosixFileSystem().Read(full.string(), error);
+        if (!text) throw std::runtime_error("cannot read " + full.string() + ": " + error);
+        FileParser(script_, full.string(), variables_, depth_ + 1, includes_).Parse(*text);
     }
 
     Script& script_;
     std::string file_;
     ScriptVariables variables_;
     int depth_;
+    int& includes_; // so far, of all files together
     std::vector<std::string> lines_;
     std::size_t at_ = 0;
 };
@@ -199,27 +205,23 @@ std::string ScriptLine::BlockText() const {
 }
 
 Script ReadScript(const std::string& path, const ScriptVariables& variables) {
-    const auto text = FileText(path);
-    std::error_code fault;
-    const bool isFolder = std::filesystem::is_directory(path, fault);
-    if (!text) throw ScriptError(path + (isFolder ? ": this is a folder" : ": cannot be read"));
+    std::string error;
+    const auto text = PosixFileSystem().Read(path, error);
+    if (!text) throw ScriptError(path + ": cannot be read: " + error);
     return ParseScript(*text, path, variables);
 }
 
 Script ParseScript(std::string_view text, const std::string& name,
                    const ScriptVariables& variables) {
     Script script;
-    FileParser(script, name, variables, 0).Parse(text);
+    int includes = 0;
+    FileParser(script, name, variables, 0, includes).Parse(text);
     return script;
 }
 
 std::optional<std::string> FileText(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::error_code fault;
-    if (!stream || std::filesystem::is_directory(path, fault)) return {};
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
+    std::string error;
+    return PosixFileSystem().Read(path, error);
 }
 
 std::vector<std::string> LinesOf(std::string_view text) {

@@ -209,8 +209,8 @@ TEST_F(CommandLine, TheDatabasesOfTheConfigurationAndOfTheHomeAreFound) {
 }
 
 TEST_F(CommandLine, PlayEndsWithTheResultOfTheScript) {
-    EXPECT_EQ(Run("play .").err, ".: this is a folder\n");
-    EXPECT_EQ(Run("play nowhere.vxs").err, "nowhere.vxs: cannot be read\n");
+    EXPECT_EQ(Run("play .").err, ".: cannot be read: Is a directory\n");
+    EXPECT_EQ(Run("play nowhere.vxs").err, "nowhere.vxs: cannot be read: No such file or directory\n");
     folder.Write("good.vxs", "note \"a b\"\n");
     folder.Write("bad.vxs", "expect open frmNowhere\n");
     folder.Write("malformed.vxs", "jump frmMain\n");

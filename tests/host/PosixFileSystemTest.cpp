@@ -9,6 +9,7 @@
 
 #include "host/FindPlaces.h"
 #include "host/HostClock.h"
+#include "reference/SafeFile.h"
 #include "shell/Places.h"
 #include "support/FailingFileSystem.h"
 #include "support/ScratchFolder.h"
@@ -53,6 +54,39 @@ TEST_F(Disk, ATemporaryFileTakesThePlaceAndTheModeOfItsTarget) {
     struct stat status {};
     ::stat(target.c_str(), &status);
     EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
+TEST_F(Disk, OnlyFilesAreReadAndReplaced) {
+    const std::string pipe = folder_.Path("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::filesystem::create_symlink("/dev/null", folder_.Path("link"));
+    const std::pair<std::string, std::string> cases[] = {
+        {pipe, "It is no file but a pipe"},
+        {"/dev/zero", "It is no file but a device"},
+        {folder_.Path("link"), "It is no file but a device"},
+        {folder_.Path(), "Is a directory"}};
+    for (const auto& [path, reason] : cases) {
+        std::string error;
+        EXPECT_FALSE(disk_.Read(path, error)) << path;
+        EXPECT_EQ(error, reason) << path;
+        const SaveOutcome outcome = WriteSafely(disk_, path, "text", true);
+        EXPECT_FALSE(outcome.isSaved) << path;
+        EXPECT_EQ(outcome.fault, reason) << path;
+    }
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+    EXPECT_EQ(FileCount(), 2U);
+}
+
+TEST_F(Disk, AFileThatIsTooLargeIsNotRead) {
+    host::PosixFileSystem small(3);
+    std::string error;
+    EXPECT_EQ(small.Read(Put("a.txt", "abc"), error), "abc");
+    EXPECT_FALSE(small.Read(Put("b.txt", "abcd"), error));
+    EXPECT_EQ(error, "It is larger than 3 bytes");
+    const std::string hole = Put("hole.txt", "");
+    std::filesystem::resize_file(hole, std::uintmax_t{1} << 40);
+    EXPECT_FALSE(disk_.Read(hole, error));
+    EXPECT_EQ(error, "It is larger than 1024 MiB");
 }
 
 TEST_F(Disk, LinksAreFollowedAlsoToFilesThatAreNotThereYet) {
