@@ -30,13 +30,13 @@ struct BioQuantity {
     std::string code;
     /// The system unit, or the text of another one that needs no molar mass ("C", "MPa"); "1" for
     /// none.
-    std::string unit;
-    std::string phase; // code, empty for none
+    std::string unit = {};
+    std::string phase = {}; // code, empty for none
     /// Key of the participant or component that it is said of, empty for none.
-    std::string component;
+    std::string component = {};
     /// For all rows, as typed: with "%" per cent of the value; "*" when each row states its own.
-    std::string uncertainty;
-    std::string value; // of a constraint, as typed
+    std::string uncertainty = {};
+    std::string value = {}; // of a constraint, as typed
 
     bool StatesByRow() const { return uncertainty == "*"; }
     /// The same quantity, whatever its role, unit, uncertainty and value.

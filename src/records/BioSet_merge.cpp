@@ -190,7 +190,6 @@ void BioSet::Merge(const BioSet& other) {
         from[n] = found.back();
         found.pop_back();
     }
-    recD.reserve(recD.size() + other.recD.size());
     for (const clsBD& row : other.recD) {
         clsBD& added = recD.emplace_back();
         added.Flag1 = row.Flag1;

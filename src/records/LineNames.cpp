@@ -55,6 +55,13 @@ constexpr LineGrammar Grammars[] = {
     {"GH", ' ',
      "preparation temperature,preparation pressure,composition of the preparation,method"},
     {"SE", ' ', "-"},
+    {"BR", ' ', "set number,notation"},
+    {"BN", ' ', "set number"},
+    {"BH", ' ', "kind,sample,initial state,final state,phase 1,phase 2,phase 3,phase 4"},
+    {"BC", ' ', "component,function,phase,sample,content"},
+    {"BV", ' ', "quantity,unit,phase,component,uncertainty,role,value"},
+    {"BM", ' ', "method"},
+    {"B0", ' ', "first mark,second mark"},
     {"^X", ' ',
      "-,quantity,phase,device specification,judge of the device,confidence of the device,"
      "specified by the device,repeatability,kind of repeatability,repeatability value,repetitions,"
@@ -127,6 +134,22 @@ std::string ReactionNames(std::string_view kind) {
            NumberedPairs("constant", "value of constant", places);
 }
 
+/// The fields of the lines of a bio set that have two forms, or a number of fields that the set
+/// knows; empty for other lines. Keys and molar masses follow from the rest.
+std::string BioNames(std::string_view kind, std::string_view line) {
+    constexpr int mostColumns = 24;
+    if (kind == "BD") return Numbered("value", mostColumns);
+    if (kind != "BP") return {};
+    WordReader words(line);
+    for (int n = 0; n < 2; ++n)
+        words.NextWord();
+    // In the place of the key of a participant a property has a 0.
+    return words.NextWord() == "0"
+               ? "-,-,sample,-,name,registry number,formula,-,charge,EC number,PDB number"
+               : "-,-,-,sample,registry number,name,formula,-,-,coefficient,phase,charge,"
+                 "EC number,PDB number";
+}
+
 bool IsOfMixture(std::string_view kind, int components) {
     return components > 1 && IsOneOf(kind, {"^Z", "^1", "^2", "^3"});
 }
@@ -160,8 +183,9 @@ std::string LineKind(std::string_view line) {
 std::vector<std::pair<std::string, std::string>> NamedFields(std::string_view line,
                                                              int components) {
     const std::string kind = LineKind(line);
-    const std::string composed =
-        IsOfMixture(kind, components) ? MixtureNames(kind, components) : ReactionNames(kind);
+    const std::string composed = IsOfMixture(kind, components)
+                                     ? MixtureNames(kind, components)
+                                     : ReactionNames(kind) + BioNames(kind, line);
     const LineGrammar* grammar = GrammarOf(kind);
     const char separator = grammar ? grammar->separator : ' ';
     std::string_view names = grammar ? grammar->names : std::string_view();

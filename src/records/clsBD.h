@@ -8,7 +8,7 @@ namespace vexora {
 
 /// A value of a row, and its uncertainty where the set gives that row by row.
 struct BioCell {
-    ShortText value, uncertainty;
+    ShortText value = {}, uncertainty = {};
     bool operator==(const BioCell&) const = default;
 };
 
