@@ -36,9 +36,10 @@ std::shared_ptr<clsBP> frmBioProp::Base() const {
     set->PHASE1 = Solution;
     set->PHASE2 = set->PrpType == "S" ? Crystal : Solution;
     // Whoever comes from a compound means it.
-    if (globals.CurrentKey.starts_with("RL") && globals.CurrentL) {
-        set->RN = globals.CurrentL->RN;
-        if (globals.CurrentL->recS.Count() == 1) set->SMPNM = globals.CurrentL->recS.Item(1)->SMPNM;
+    const auto compound = std::dynamic_pointer_cast<clsL>(globals.CurrentL);
+    if (globals.CurrentKey.starts_with("RL") && compound) {
+        set->RN = compound->RN;
+        if (compound->recS.Count() == 1) set->SMPNM = compound->recS.Item(1)->SMPNM;
     }
     set->Add(AtmosphericPressure());
     return set;
