@@ -7,8 +7,9 @@
 #include "export/RegNum.h"
 #include "export/XmlWriter.h"
 #include "records/LineWriter.h"
+#include "records/Substance.h"
 #include "records/clsData.h"
-#include "records/clsL.h"
+#include "records/clsR.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -66,7 +67,8 @@ std::string_view ValueIn(const clsBD& row, std::size_t column) {
 BioParts::BioParts(const BioSet& set)
     : set_(set), properties_(set.CountOf(BioRole::Property)), columns_(set.Columns()) {
     for (const std::string& key : set.Keys())
-        members_.emplace(key, set.CompoundOf(key));
+        members_.emplace(key,
+                         set.Parent ? set.Parent->FindSubstance(BioSet::RNOfKey(key)) : nullptr);
     int number = 0;
     for (const BioQuantity& stated : set.Quantities()) {
         const std::size_t place = quantities_.size();
@@ -82,7 +84,7 @@ std::span<const BioParts::Quantity> BioParts::Of(BioRole role) const {
     return std::span(quantities_).subspan(set_.FirstOf(role), set_.CountOf(role));
 }
 
-const clsL* BioParts::Member(std::string_view key) const {
+const Substance* BioParts::Member(std::string_view key) const {
     const auto found = members_.find(key);
     return found == members_.end() ? nullptr : found->second.get();
 }
@@ -135,7 +137,7 @@ BioParts::Leaving BioParts::LeavingOf(const clsBD& row) const {
 
 // Heads.
 
-void ExportBioComponent(XmlWriter& xml, const clsL& compound, std::string_view function,
+void ExportBioComponent(XmlWriter& xml, const Substance& compound, std::string_view function,
                         std::string_view sample) {
     xml.Open("Component");
     ExportRegNum(xml, compound);
@@ -172,7 +174,7 @@ void BioParts::OpenProperty(XmlWriter& xml, const Quantity& property,
     xml.ElementIfAny("sMethodName", WithoutPlaceholder(head.method));
     xml.Close();
     xml.Close();
-    if (const clsL* component = Member(head.component)) ExportRegNum(xml, *component);
+    if (const Substance* component = Member(head.component)) ExportRegNum(xml, *component);
     xml.Close();
 }
 
@@ -187,7 +189,8 @@ void BioParts::ExportQuantity(XmlWriter& xml, const Quantity& quantity, const ch
     xml.Open(type);
     xml.Element(quantity.text->group, XMLBioVariableName(*quantity.text));
     xml.Close();
-    if (const clsL* component = Member(quantity.stated.component)) ExportRegNum(xml, *component);
+    if (const Substance* component = Member(quantity.stated.component))
+        ExportRegNum(xml, *component);
     xml.Close();
     ExportBioPhase(xml, phaseId, phase, quantity.stated.phase);
 }

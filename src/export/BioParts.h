@@ -14,6 +14,7 @@
 
 namespace vexora {
 
+class Substance;
 class XmlWriter;
 
 /// What a bio set gives to its export: who is in the solution, how values and statements of each
@@ -34,8 +35,8 @@ public:
     std::span<const Quantity> Of(BioRole role) const;
     /// The property or variable of a cell.
     const Quantity& InColumn(std::size_t column) const { return quantities_[column]; }
-    /// The compound with this key in the solution, null for none.
-    const clsL* Member(std::string_view key) const;
+    /// The compound or complex with this key in the set, null for none.
+    const Substance* Member(std::string_view key) const;
 
     /// Why the set cannot leave, in words for the user, or empty.
     std::string Fault() const;
@@ -73,12 +74,12 @@ private:
     const BioSet& set_;
     std::size_t properties_, columns_; // how many cells of a row are measured, and how many in all
     std::vector<Quantity> quantities_; // in the order of the set
-    std::map<std::string, std::shared_ptr<clsL>, std::less<>> members_;
+    std::map<std::string, std::shared_ptr<Substance>, std::less<>> members_;
 };
 
 /// A component of a solution: compound, what it is there for (empty for the substance itself), and
 /// the number of its sample.
-void ExportBioComponent(XmlWriter& xml, const clsL& compound, std::string_view function,
+void ExportBioComponent(XmlWriter& xml, const Substance& compound, std::string_view function,
                         std::string_view sample);
 /// An element with a phase and other texts inside; nothing for no phase and no texts.
 void ExportBioPhase(XmlWriter& xml, const char* element, const char* inner, std::string_view phase,

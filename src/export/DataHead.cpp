@@ -9,7 +9,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/OpenRecord.h"
 #include "records/ReactionText.h"
-#include "records/clsL.h"
+#include "records/Substance.h"
 #include "records/clsX.h"
 #include "reference/KVODefinitions.h"
 #include "reference/MixtureCodes.h"
@@ -48,7 +48,7 @@ void ExportMethod(XmlWriter& xml, std::string_view propertyCode, const clsA& hea
 void ExportCompound(XmlWriter& xml, const DataSubject& subject, int n) {
     const auto& components = subject.components;
     if (components.size() < 2 || n < 1 || n > static_cast<int>(components.size())) return;
-    const clsL* const compound = components[static_cast<std::size_t>(n - 1)].compound;
+    const Substance* const compound = components[static_cast<std::size_t>(n - 1)].compound;
     if (compound != nullptr) ExportRegNum(xml, *compound);
 }
 

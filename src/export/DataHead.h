@@ -14,14 +14,14 @@
 namespace vexora {
 
 class clsA;
-class clsL;
 class clsX;
 class OpenRecord;
+class Substance;
 class XmlWriter;
 
-/// A compound of the system, with the number of its sample.
+/// A compound or complex of the system, with the number of its sample.
 struct SystemComponent {
-    const clsL* compound = nullptr;
+    const Substance* compound = nullptr;
     std::string sample;
 };
 

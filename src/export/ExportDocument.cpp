@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "export/Complexes.h"
 #include "export/ReactionParts.h"
 #include "export/RegNum.h"
 #include "export/SetRows.h"
@@ -13,7 +14,11 @@
 #include "records/DataSet.h"
 #include "records/PropertyLabels.h"
 #include "records/Walk.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsC.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
@@ -28,6 +33,9 @@ namespace {
 bool HoldsBioData() {
     for (const auto& source : Globals().recR) {
         if (!source->recBR.IsEmpty() || !source->recBP.IsEmpty()) return true;
+        for (const auto& complex : source->recComplex)
+            for (const auto& sample : complex->recS)
+                if (!sample->recBP.IsEmpty()) return true;
     }
     return false;
 }
@@ -62,6 +70,7 @@ void TellWhatIsUnusual() {
                  unnamed);
     TellTogether("These sets are stated to have no numerical data and are not in the file:", sets);
     TellTogether({}, states);
+    if (const std::string told = DataOfComplexesLeftOut(); !told.empty()) ui::Say(told);
 }
 
 constexpr const char* PublicNamespace = "http://www.iupac.org/namespaces/ThermoML";
@@ -88,6 +97,11 @@ void NameCompoundsPassedOver(std::vector<ExportFinding>& findings) {
                 findings.push_back({"Public readers pass over this compound, for no table knows "
                                     "its structure",
                                     compound.get(), false});
+    for (const auto& source : Globals().recR)
+        for (const auto& complex : ExportedComplexes(*source))
+            findings.push_back({"Public readers pass over this complex, for it has no structure of "
+                                "its own",
+                                complex.get(), false});
 }
 
 std::string Padded(std::int64_t number) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "export/DataHead.h"
+#include "records/clsL.h"
 #include "records/clsM.h"
 
 namespace vexora {

@@ -18,6 +18,11 @@ namespace vexora {
 
 namespace {
 
+/// A complex as well.
+std::shared_ptr<Substance> CompoundOf(const clsQ& reaction, const std::string& rn) {
+    return reaction.Parent && !NamesNoCompound(rn) ? reaction.Parent->FindSubstance(rn) : nullptr;
+}
+
 bool IsNone(std::string_view coefficient) {
     return IsBlankField(coefficient) || (IsNumeric(coefficient) && Val(coefficient) == 0);
 }
@@ -28,7 +33,7 @@ ReactionParticipants Participants(const clsQ* reaction, Fill fill) {
     ReactionParticipants participants;
     for (int i = 1; reaction != nullptr && i <= clsQ::MostParticipants; ++i) {
         if (reaction->RN(i).empty()) continue;
-        ReactionParticipant one{i, reaction->Compound(i), {}, {}, {}, {}, {}};
+        ReactionParticipant one{i, CompoundOf(*reaction, reaction->RN(i)), {}, {}, {}, {}, {}};
         fill(one);
         if (!IsNone(one.coefficient)) participants.push_back(std::move(one));
     }
@@ -46,12 +51,9 @@ std::vector<std::string> PhasesWith(const clsE& set, int place) {
     return phases;
 }
 
-std::shared_ptr<clsL> CompoundOf(const clsQ& reaction, const std::string& rn) {
-    return reaction.Parent && !NamesNoCompound(rn) ? reaction.Parent->FindL(rn) : nullptr;
-}
-
 /// What is there without taking part.
-void ExportBystander(XmlWriter& xml, const char* element, const std::shared_ptr<clsL>& compound) {
+void ExportBystander(XmlWriter& xml, const char* element,
+                     const std::shared_ptr<Substance>& compound) {
     if (!compound) return;
     xml.Open(element);
     ExportRegNum(xml, *compound);

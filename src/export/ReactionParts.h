@@ -16,8 +16,8 @@ class clsE;
 /// A participant with what the data say of it. A place without a compound or a coefficient has
 /// none.
 struct ReactionParticipant {
-    int place = 0;                  // in the reaction, from 1
-    std::shared_ptr<clsL> compound; // null for one that the source does not describe
+    int place = 0;                       // in the reaction, from 1
+    std::shared_ptr<Substance> compound; // null for one that the source does not describe
     std::string coefficient, sample;
     std::vector<std::string> phases;
     std::string composition, content; // code of its kind and value, both or neither

@@ -6,12 +6,13 @@
 
 namespace vexora {
 
+class Substance;
 class clsL;
 class XmlWriter;
 
-/// The number by which data refer to a compound: its place among the compounds of the source.
-/// Places count from 1 and are those of this file only; 0 for a compound without a source.
-void ExportRegNum(XmlWriter& xml, const clsL& compound);
+/// The number by which data refer to a compound: its place among the compounds of the source, from
+/// 1. Complexes count on behind them. 0 for one without a source.
+void ExportRegNum(XmlWriter& xml, const Substance& substance);
 /// The structure by which public readers know the compound; nothing where no table has it.
 std::optional<StructureIdentifiers> PublicStructure(const clsL& compound);
 

@@ -4,6 +4,8 @@
 #include "export/DataHead.h"
 #include "export/ReactionParts.h"
 #include "export/XmlWriter.h"
+#include "records/Substance.h"
+#include "records/clsR.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Text.h"
 
@@ -24,7 +26,7 @@ ReactionParticipants BioParticipants(const clsBR& set) {
     for (const BioParticipant& one : set.Participants) {
         ReactionParticipant& participant = participants.emplace_back();
         participant.place = static_cast<int>(participants.size());
-        participant.compound = set.CompoundOf(one.RN);
+        participant.compound = set.Parent->FindSubstance(one.RN);
         participant.coefficient = one.coefficient;
         participant.sample = one.SMPNM;
         if (!IsBlankField(one.phase)) participant.phases = {one.phase};

@@ -2,15 +2,28 @@
 
 #include "export/RegNum.h"
 #include "export/XmlWriter.h"
+#include "records/clsComplex.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
 
 namespace vexora {
 
-void ExportRegNum(XmlWriter& xml, const clsL& compound) {
-    // The place serves as number, for compounds of unknown registry number need one too.
-    const std::size_t position = compound.Parent ? compound.Parent->recL.Position(&compound) : 0;
+namespace {
+
+// The place serves as number, for compounds of unknown registry number need one too.
+std::size_t PlaceInFile(const Substance& substance) {
+    const clsR* const source = substance.Parent;
+    if (source == nullptr) return 0;
+    if (const auto* complex = dynamic_cast<const clsComplex*>(&substance))
+        return source->recL.Count() + source->recComplex.Position(complex);
+    return source->recL.Position(static_cast<const clsL*>(&substance));
+}
+
+} // namespace
+
+void ExportRegNum(XmlWriter& xml, const Substance& substance) {
+    const std::size_t position = PlaceInFile(substance);
     xml.Open("RegNum");
     xml.Element("nOrgNum", std::to_string(position));
     xml.Close();

@@ -1,5 +1,6 @@
 #include "records/clsR.h"
 
+#include "export/Complexes.h"
 #include "export/DataHead.h"
 #include "export/ExportDocument.h"
 #include "export/XmlWriter.h"
@@ -102,6 +103,7 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
         xml.Mark(compound.get());
         compound->ExportAll(xml);
     }
+    ExportComplexes(xml, *this);
     // Names of properties depend on the context; data begin with those of compounds.
     Globals().DataContext = "Pure";
     for (const auto& compound : recL)
@@ -117,6 +119,7 @@ void clsR::ExportAll(XmlWriter& xml, const ui::Date& today) {
         ExportRecord(xml, *set);
     for (const auto& set : recBP)
         ExportRecord(xml, *set);
+    ExportDataOfComplexes(xml, *this);
     xml.Mark(nullptr);
     Globals().LineInHand = 0;
 }

@@ -180,6 +180,47 @@ TEST_F(BioExport, WhatCannotLeaveIsTold) {
               "1 | 3");
 }
 
+TEST_F(BioExport, PhaseEquilibriaOfComplexesLeaveAndTheirOtherDataAreCounted) {
+    const std::string hydrate =
+        "^L 74828 NNNNN &\n^S 1 cm\nCS 1 Ice\nCC 7732185 & Water 1 X\nCE\n"
+        "CS 2 Gas Hydrate\nCC 74828 1 Enclathrated_species 0.148 X\nCC 7732185 & Water 0.852 X\n"
+        "CE\n^A & O & & & & & &\nSB 1\nSS 74828 0.148 X 1\nSS 7732185 0.852 X &\nSE\n";
+    const std::string set =
+        Dated + "BN 1\nBP -2 0 1 & & -2 & 0 0 & &\nBP 74828 0 1 & & 74828 & 0 0 & &\n" +
+        "BH G 1 & & CS1 L G &\nBC 74828 Gas G 1 &\nBV P MPa G & 1% P &\nBV X 1 G 74828 & P &\n"
+        "BV T K & & & V &\nBE\nBM cell\nBD 2.76 0.999 273.7\n";
+    desktop.Expect("Data of complexes have no place in the file: 1 crystal structure");
+    const std::string xml =
+        Left(hydrate + set + "XB Pm-3n 11.9 11.9 11.9 90 90 90 & & & & & & X\nXE\n");
+    EXPECT_NE(xml.find("ThermoML.Bio.xsd"), std::string::npos);
+    // The first complex has no data in the file; the number is that of the place.
+    EXPECT_EQ(At(xml, "Compound[7]/RegNum/nOrgNum"), "8");
+    EXPECT_EQ(At(xml, "Compound[7]/sFormulaMolec"), "(CH4)0.148(H2O)0.852");
+    EXPECT_EQ(At(xml, "Compound[7]/Sample/nSampleNm"), "1");
+    EXPECT_EQ(At(xml, "PureOrMixtureData/Component/RegNum/nOrgNum"), "8 | 6");
+    EXPECT_EQ(At(xml, "PropertyGroup/VaporPBoilingTAzeotropTandP/ePropName") + " | " +
+                  At(xml, "PropertyGroup/CompositionAtPhaseEquilibrium/ePropName"),
+              "Pressure, kPa | Mole fraction");
+    EXPECT_EQ(At(xml, "Property/Property-MethodID/RegNum/nOrgNum"), "6");
+    EXPECT_EQ(At(xml, "PhaseID/ePhase"), "Crystal sI | Liquid | Gas");
+    EXPECT_EQ(At(xml, "PropertyValue/nPropValue") + " " + At(xml, "nStdUncertValue"),
+              "2760 | 0.999 27.6");
+}
+
+TEST_F(BioExport, AReactionOfAComplexNamesItAsACompound) {
+    const std::string xml =
+        Left("^L 74828 NNNNN &\nCS 1 Gas Hydrate\nCC 74828 & Gas 0.148 X\n"
+             "CC 7732185 & Water 0.852 X\nCE\n^A & O & & & & & &\nSB 3\nSE\n"
+             "^Q OTH -1 74828 7732185 999999994 Y N & & & & & &\n" +
+             kHeader +
+             "^C -1 0.148 0.852 0 0 0 0 0 HR S S 1 C G L & & & & & 3 & & & & & & &"
+             " & & & & & & & & 0 0 0 0 0 0 0 0 & & 273.15 & & & 18.1 & & &\n");
+    EXPECT_EQ(At(xml, "ReactionData/Participant/RegNum/nOrgNum"), "7 | 6 | 3");
+    EXPECT_EQ(At(xml, "ReactionData/Participant/nSampleNm"), "3");
+    EXPECT_EQ(At(xml, "Compound[7]/sCommonName"), "Gas Hydrate (methane + water)");
+    EXPECT_NE(xml.find("xsi:SchemaLocation"), std::string::npos); // nothing of biology in it
+}
+
 TEST_F(BioExport, TheClosingCheckKnowsAllQuantities) {
     Read(Reaction("BV KM 1 & & & P &\nBV H kJ/mol & & & P &\nBV T C & & & V &\n"
                   "BV P MPa & & & C 0.1\n",
