@@ -1,10 +1,12 @@
 #include "entry/CompoundList.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
 
 #include "globals/KVOGlobal.h"
+#include "records/clsComplex.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "ui/Desktop.h"
@@ -24,27 +26,32 @@ void CompoundList::Fill(const std::string& rn) {
     const ui::FillingScope filling(form_);
     const clsR& source = *Globals().CurrentR;
     std::vector<std::string> names = {NoCompound};
+    numbers_.clear();
+    const auto offer = [&](const Substance& substance) {
+        names.push_back(substance.ShowKey());
+        numbers_.push_back(substance.RN);
+    };
     for (const auto& compound : source.recL)
-        names.push_back(compound->ShowKey());
-    const auto compound = source.FindL(rn);
-    stranger_ = compound ? std::string() : rn;
-    if (!stranger_.empty()) names.push_back(stranger_);
+        offer(*compound);
+    if (withComplexes_)
+        for (const auto& complex : source.recComplex)
+            offer(*complex);
+    auto place = std::ranges::find(numbers_, rn);
+    if (!rn.empty() && place == numbers_.end()) { // one that the source does not have
+        names.push_back(rn);
+        place = numbers_.insert(numbers_.end(), rn);
+    }
     // Not offered where nothing could open.
     if (ui::Forms::Current().Knows(CompoundDialog)) names.emplace_back(NewEntry);
     list_.Assign(std::move(names));
-    const auto place =
-        stranger_.empty() ? source.recL.Position(compound.get()) : source.recL.Count() + 1;
-    list_.Index(static_cast<int>(place));
+    list_.Index(rn.empty() ? 0 : static_cast<int>(place - numbers_.begin()) + 1);
 }
 
 /// By its place, for compounds may share a name.
 std::optional<std::string> CompoundList::Click() {
-    const auto& compounds = Globals().CurrentR->recL;
     const auto place = static_cast<std::size_t>(list_.Index());
     if (place == 0) return "";
-    if (place <= compounds.Count()) return compounds.Item(place)->RN;
-    if (!stranger_.empty() && place == compounds.Count() + 1) return stranger_;
-    return Make();
+    return place <= numbers_.size() ? numbers_[place - 1] : Make();
 }
 
 std::optional<std::string> CompoundList::Make() {

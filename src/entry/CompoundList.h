@@ -2,17 +2,20 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "ui/Form.h"
 #include "ui/Lists.h"
 
 namespace vexora {
 
-/// A list in which a dialog asks for a compound of the source, or for none. The dialog owns the
-/// list and this. The compounds end with "New", which makes one on the way.
+/// A list in which a dialog asks for a compound of the source, or for none; where complexes can be
+/// meant, they follow the compounds. The dialog owns the list and this. The compounds end with
+/// "New", which makes one on the way.
 class CompoundList {
 public:
-    CompoundList(ui::Form& form, ui::ComboBox& list) : form_(form), list_(list) {}
+    CompoundList(ui::Form& form, ui::ComboBox& list, bool withComplexes = false)
+        : form_(form), list_(list), withComplexes_(withComplexes) {}
 
     /// Offers the compounds as the source has them now and chooses the one of this registry number;
     /// "" is none. A number that the source does not have joins the list as it is.
@@ -26,7 +29,8 @@ private:
 
     ui::Form& form_;
     ui::ComboBox& list_;
-    std::string stranger_; // a number that the source does not have
+    bool withComplexes_;
+    std::vector<std::string> numbers_; // of the entries behind the first
 };
 
 } // namespace vexora

@@ -7,7 +7,9 @@
 #include "chem/PrintedFormula.h"
 #include "chem/clsAtom.h"
 #include "entry/PhaseLists.h"
+#include "entry/SelectionScope.h"
 #include "globals/KVOGlobal.h"
+#include "records/RegistryNumbers.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
@@ -29,7 +31,7 @@ ParticipantRows::ParticipantRows(ui::Form& form, Fields fields, std::function<vo
     : form_(form), fields_(fields), changed_(std::move(changed)),
       all_(static_cast<std::size_t>(fields.compounds.Count())) {
     for (int row = 0; row < Rows(); ++row) {
-        compounds_.emplace_back(form, fields_.compounds(row));
+        compounds_.emplace_back(form, fields_.compounds(row), fields_.withComplexes);
         samples_.emplace_back(form, fields_.samples(row), NoSample);
         fields_.compounds(row).OnClick = [this, row] { CompoundClick(row); };
         fields_.coefficients(row).OnChange = [this, row] { CoefficientChanged(row); };
@@ -62,19 +64,19 @@ void ParticipantRows::SetCompound(int row, const std::string& rn) {
     if (IsUsed(row)) At(row).phase = usualPhase_;
     FillRow(row);
     compounds_[static_cast<std::size_t>(row)].Fill(rn);
-    samples_[static_cast<std::size_t>(row)].Fill(Compound(row)); // one alone is chosen
+    samples_[static_cast<std::size_t>(row)].Fill(SubstanceIn(row)); // one alone is chosen
     TakeSample(row);
 }
 
 /// A sample that the document does not have is not replaced in silence.
 void ParticipantRows::FillRow(int row) {
     const ui::FillingScope filling(form_);
-    const auto compound = Compound(row);
+    const auto substance = SubstanceIn(row);
     SampleList& samples = samples_[static_cast<std::size_t>(row)];
     fields_.coefficients(row).Text(At(row).coefficient);
-    samples.Fill(compound);
+    samples.Fill(substance);
     samples.ChooseNone();
-    if (compound) samples.Choose(compound->FindS(NumberOf(At(row).SMPNM)).get());
+    if (substance) samples.Choose(substance->FindSample(NumberOf(At(row).SMPNM)).get());
     if (fields_.phases) FillPhase(row);
     LockRow(row);
 }
@@ -98,12 +100,13 @@ void ParticipantRows::LockRow(int row) {
 }
 
 void ParticipantRows::TakeSample(int row) {
-    const auto sample = samples_[static_cast<std::size_t>(row)].Sample();
+    const auto sample = samples_[static_cast<std::size_t>(row)].Chosen();
     At(row).SMPNM = sample ? sample->SMPNM : std::string();
 }
 
 void ParticipantRows::CompoundClick(int row) {
     if (form_.Filling) return;
+    const SelectionScope selection;
     const auto rn = compounds_[static_cast<std::size_t>(row)].Click();
     if (rn && *rn != At(row).RN) SetCompound(row, *rn);
     FillCompounds();
@@ -119,6 +122,7 @@ void ParticipantRows::CoefficientChanged(int row) {
 /// The dialog may come back with a sample of another participant, or with another compound.
 void ParticipantRows::SampleClick(int row) {
     if (form_.Filling) return;
+    const SelectionScope selection;
     const auto made = samples_[static_cast<std::size_t>(row)].Click();
     TakeSample(row);
     if (made) FillCompounds();
@@ -139,19 +143,19 @@ void ParticipantRows::PhaseClick(int row) {
     changed_();
 }
 
-std::shared_ptr<clsL> ParticipantRows::Compound(int row) const {
+std::shared_ptr<Substance> ParticipantRows::SubstanceIn(int row) const {
     const auto& source = Globals().CurrentR;
-    return source && IsUsed(row) ? source->FindL(At(row).RN) : nullptr;
+    return source && IsUsed(row) ? source->FindSubstance(At(row).RN) : nullptr;
 }
 
 std::string ParticipantRows::Name(int row) const {
-    const auto compound = Compound(row);
-    return compound ? compound->ShowKey() : At(row).RN;
+    const auto substance = SubstanceIn(row);
+    return substance ? substance->ShowKey() : At(row).RN;
 }
 
 std::string ParticipantRows::Formula(int row) const {
-    const auto compound = Compound(row);
-    return compound && !compound->Formula.empty() ? compound->Formula : FormulaOfRN(At(row).RN);
+    const std::string formula = FormulaOfSample(SubstanceIn(row).get(), At(row).SMPNM);
+    return formula.empty() && !NamesComplex(At(row).RN) ? FormulaOfRN(At(row).RN) : formula;
 }
 
 std::vector<std::string> ParticipantRows::Formulas() const {
@@ -213,7 +217,7 @@ std::string ParticipantRows::SurplusLine(bool mustBalance) const {
 std::string ParticipantRows::ChargeText() const {
     double surplus = 0;
     for (int row = 0; row < Count(); ++row)
-        if (const auto compound = Compound(row))
+        if (const auto compound = std::dynamic_pointer_cast<clsL>(SubstanceIn(row)))
             surplus += Val(At(row).coefficient) * compound->Charge;
     constexpr double noticeable = 1e-6; // coefficients may be rounded
     if (std::abs(surplus) < noticeable) return {};

@@ -15,7 +15,7 @@
 
 namespace vexora {
 
-class clsL;
+class Substance;
 
 /// Who takes part in a reaction, as a form has it.
 struct Participant {
@@ -34,6 +34,7 @@ public:
         const ui::ControlArray<ui::TextBox>& coefficients;
         const ui::ControlArray<ui::ComboBox>& samples;
         const ui::ControlArray<ui::ComboBox>* phases = nullptr; // of a form that asks for them
+        bool withComplexes = false;
     };
     /// Answers to the controls; `changed` follows whatever a person changes, or makes on the way.
     ParticipantRows(ui::Form& form, Fields fields, std::function<void()> changed);
@@ -81,7 +82,7 @@ private:
     const Participant& At(int row) const { return all_.at(static_cast<std::size_t>(row)); }
     Participant& At(int row) { return all_.at(static_cast<std::size_t>(row)); }
     int Count() const { return static_cast<int>(all_.size()); }
-    std::shared_ptr<clsL> Compound(int row) const;
+    std::shared_ptr<Substance> SubstanceIn(int row) const;
     std::vector<EquationTerm> Terms(bool inFormulas) const;
     std::string ChargeText() const;
 

@@ -40,22 +40,28 @@ std::shared_ptr<clsS> AddedSample(const clsR& source, std::vector<std::size_t> b
 SampleList::SampleList(ui::Form& form, ui::ComboBox& list, std::string prompt)
     : form_(form), list_(list), prompt_(std::move(prompt)) {}
 
-void SampleList::Fill(std::shared_ptr<clsL> compound) {
+void SampleList::Fill(std::shared_ptr<Substance> system) {
     const ui::FillingScope filling(form_);
-    compound_ = std::move(compound);
+    system_ = std::move(system);
     list_.Clear();
     if (!prompt_.empty()) list_.Add(prompt_);
-    if (!compound_) return ChoosePosition(0);
-    for (const auto& sample : compound_->recS)
+    if (!system_) return ChoosePosition(0);
+    const auto samples = system_->Samples();
+    for (const auto& sample : samples)
         list_.Add(sample->SMPNM);
     // Not offered where nothing could open.
-    if (ui::Forms::Current().Knows(SampleDialog)) list_.Add(NewEntry);
-    ChoosePosition(compound_->recS.Count() == 1 ? 1 : 0);
+    const bool isCompound = dynamic_cast<const clsL*>(system_.get()) != nullptr;
+    if (isCompound && ui::Forms::Current().Knows(SampleDialog)) list_.Add(NewEntry);
+    ChoosePosition(samples.size() == 1 ? 1 : 0);
 }
 
-void SampleList::Choose(const clsS* sample) {
-    const std::size_t position = compound_ ? compound_->recS.Position(sample) : 0;
-    if (position > 0) ChoosePosition(position);
+void SampleList::Choose(const SubstanceSample* sample) {
+    if (!system_ || !sample) return;
+    std::size_t position = 0;
+    for (const auto& one : system_->Samples()) {
+        ++position;
+        if (one.get() == sample) return ChoosePosition(position);
+    }
 }
 
 std::shared_ptr<clsS> SampleList::Click() {
@@ -66,16 +72,16 @@ std::shared_ptr<clsS> SampleList::Click() {
 
 std::shared_ptr<clsS> SampleList::Make() {
     KVOGlobal& globals = Globals();
-    const std::vector<std::size_t> before = SampleCounts(*compound_->Parent);
+    const std::vector<std::size_t> before = SampleCounts(*system_->Parent);
     const std::size_t chosen = chosen_;
-    globals.CurrentL = compound_;
+    globals.CurrentL = system_;
     // By this the dialog knows that it was opened on the way, and comes back here when it closes.
     if (!globals.IsEditingInPlace()) globals.OpenForms.push_back(form_.Name());
     ui::Forms::Current().Get(SampleDialog).ShowModal();
-    Fill(compound_);
+    Fill(system_);
     // Cancelled: "New" is no sample and must not stay chosen.
     ChoosePosition(chosen);
-    const auto made = AddedSample(*compound_->Parent, before);
+    const auto made = AddedSample(*system_->Parent, before);
     if (!made) return nullptr;
     // What has been made must be found by its number, or data could not refer to it.
     auto found = made->Parent->FindS(static_cast<int>(Val(made->SMPNM)));
@@ -93,8 +99,14 @@ void SampleList::ChoosePosition(std::size_t position) {
     list_.Index(static_cast<int>(position) - (prompt_.empty() ? 1 : 0));
 }
 
+std::shared_ptr<SubstanceSample> SampleList::Chosen() const {
+    if (!system_ || chosen_ == 0) return nullptr;
+    const auto samples = system_->Samples();
+    return chosen_ <= samples.size() ? samples[chosen_ - 1] : nullptr;
+}
+
 std::shared_ptr<clsS> SampleList::Sample() const {
-    return compound_ ? compound_->recS.Item(chosen_) : nullptr;
+    return std::dynamic_pointer_cast<clsS>(Chosen());
 }
 
 } // namespace vexora

@@ -9,12 +9,13 @@
 
 namespace vexora {
 
-class clsL;
+class Substance;
+class SubstanceSample;
 class clsS;
 
-/// A list in which a data dialog asks for the sample of one compound. The dialog owns the list and
-/// this; a mixture has one for each of its compounds. The samples end with "New", which makes one
-/// on the way.
+/// A list in which a data dialog asks for the sample of one compound, or of a complex. The dialog
+/// owns the list and this; a mixture has one for each of its compounds. The samples of a compound
+/// end with "New", which makes one on the way.
 class SampleList {
 public:
     /// A prompt, if there is one, leads the list.
@@ -24,9 +25,9 @@ public:
     /// Lists the samples of a compound; one alone is chosen by itself. Without a compound nothing
     /// is on offer.
     /// Samples stand by their numbers (SMPNM), in the order of the document.
-    void Fill(std::shared_ptr<clsL> compound);
-    /// Chooses a sample of the compound; another one, or null, changes nothing.
-    void Choose(const clsS* sample);
+    void Fill(std::shared_ptr<Substance> system);
+    /// Chooses a sample that is on offer; another one, or null, changes nothing.
+    void Choose(const SubstanceSample* sample);
     /// No sample is in force then.
     void ChooseNone() { ChoosePosition(0); }
     /// Acts on the chosen entry: "New" opens frmSample as a link of the chain behind the form. The
@@ -34,8 +35,9 @@ public:
     /// else what was chosen before stays.
     std::shared_ptr<clsS> Click();
 
-    const std::shared_ptr<clsL>& Compound() const { return compound_; }
-    /// The sample in force, null for none.
+    const std::shared_ptr<Substance>& System() const { return system_; }
+    /// The sample in force, null for none; Sample is null for one of a complex, too.
+    std::shared_ptr<SubstanceSample> Chosen() const;
     std::shared_ptr<clsS> Sample() const;
 
 private:
@@ -45,7 +47,7 @@ private:
     ui::Form& form_;
     ui::ComboBox& list_;
     std::string prompt_;
-    std::shared_ptr<clsL> compound_;
+    std::shared_ptr<Substance> system_;
     std::size_t chosen_ = 0; // position of the sample in force, 0 for none
 };
 

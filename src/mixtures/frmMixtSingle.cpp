@@ -104,8 +104,8 @@ void frmMixtSingle::SampleClick(std::size_t n) {
     if (Filling) return;
     const auto made = samples_[n].Click();
     for (SampleList& list : samples_) {
-        if (!made || list.Compound().get() != made->Parent || &list == &samples_[n]) continue;
-        list.Fill(list.Compound());
+        if (!made || list.System().get() != made->Parent || &list == &samples_[n]) continue;
+        list.Fill(list.System());
         list.Choose(made.get());
     }
     UseSamples();

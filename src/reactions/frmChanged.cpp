@@ -126,9 +126,9 @@ void frmChanged::SampleClick(int i) {
     for (int other = 1; made && other <= Count; ++other) {
         if (other == i || reaction_->RN(other) != made->Parent->RN) continue;
         SampleList& list = samples_[static_cast<std::size_t>(other - 1)];
-        const auto before = list.Sample();
-        list.Fill(list.Compound());
-        list.Choose(before ? before.get() : made.get());
+        const auto before = list.Chosen();
+        list.Fill(list.System());
+        list.Choose(before ? before.get() : static_cast<const SubstanceSample*>(made.get()));
     }
     Touch();
 }

@@ -212,11 +212,12 @@ void frmChanged::StoreParticipants(clsC& record) const {
         if (!IsUsed(i)) continue;
         if (!record_) record.PARTICIPANT_COEFF(i, reaction_->Coeff(i));
         record.PARTICIPANT_PHASE(i, PhaseChosen(cboPhase(n)));
-        const auto sample = samples_[static_cast<std::size_t>(n)].Sample();
+        const auto sample = samples_[static_cast<std::size_t>(n)].Chosen();
         const std::string before = record_ ? record_->SMPNM(i) : std::string();
-        const auto compound = reaction_->Compound(i);
-        const auto known =
-            compound ? compound->FindS(static_cast<int>(ToInteger(Val(before)))) : nullptr;
+        const auto participant = reaction_->Participant(i);
+        const auto known = participant
+                               ? participant->FindSample(static_cast<int>(ToInteger(Val(before))))
+                               : nullptr;
         record.SMPNM(i, known == sample ? before : sample ? sample->SMPNM : std::string());
         record.COMPOSITION(i, CodeBehindNone(cboComposition(n), ParticipantCompositions));
         record.COMPOSITION_VALUE(i, txtComposition(n).Text());

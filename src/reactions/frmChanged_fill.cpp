@@ -64,10 +64,10 @@ void frmChanged::FillRow(int i) {
 /// A sample that the document does not have is not replaced in silence.
 void frmChanged::FillSample(int i, const std::string& number) {
     SampleList& list = samples_[static_cast<std::size_t>(i - 1)];
-    const auto compound = reaction_->Compound(i);
-    list.Fill(compound);
+    const auto participant = reaction_->Participant(i);
+    list.Fill(participant);
     list.ChooseNone();
-    if (compound) list.Choose(compound->FindS(NumberOf(number)).get());
+    if (participant) list.Choose(participant->FindSample(NumberOf(number)).get());
 }
 
 /// Brings the form in line with the property in force.

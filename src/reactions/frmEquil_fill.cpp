@@ -80,10 +80,10 @@ void frmEquil::FillParticipant(int i) {
 /// A sample that the document does not have is not replaced in silence.
 void frmEquil::FillSample(int i, const std::string& number) {
     SampleList& list = samples_[static_cast<std::size_t>(i - 1)];
-    const auto compound = reaction_->Compound(i);
-    list.Fill(compound);
+    const auto participant = reaction_->Participant(i);
+    list.Fill(participant);
     list.ChooseNone();
-    if (compound) list.Choose(compound->FindS(NumberOf(number)).get());
+    if (participant) list.Choose(participant->FindSample(NumberOf(number)).get());
 }
 
 /// The lists that no property changes.
@@ -296,10 +296,10 @@ std::string frmEquil::TickedDigits(int row) const {
 /// The number of the sample, as the set that the form began with writes it; one that the document
 /// does not have counts for what it is while nobody chooses another.
 std::string frmEquil::SampleNumber(int i) const {
-    const auto sample = samples_[static_cast<std::size_t>(i - 1)].Sample();
+    const auto sample = samples_[static_cast<std::size_t>(i - 1)].Chosen();
     const std::string before = as_ ? as_->SMPNM(i) : std::string();
-    const auto compound = reaction_->Compound(i);
-    const auto known = compound ? compound->FindS(NumberOf(before)) : nullptr;
+    const auto participant = reaction_->Participant(i);
+    const auto known = participant ? participant->FindSample(NumberOf(before)) : nullptr;
     return known == sample ? before : sample ? sample->SMPNM : std::string();
 }
 

@@ -3,6 +3,7 @@
 #include "chem/Balancer.h"
 #include "globals/KVOGlobal.h"
 #include "reactions/Combustion.h"
+#include "records/Decomposition.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
@@ -71,7 +72,10 @@ void frmReact::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
     record_ = globals.EditReaction ? globals.CurrentQ : nullptr;
-    if (record_) draft_.TakeDefinition(*record_);
+    if (record_)
+        draft_.TakeDefinition(*record_);
+    else if (globals.CurrentKey == "RXS" && globals.CurrentComplexSample)
+        TakeDecomposition(*globals.CurrentComplexSample);
     if (HasData()) rows_.CloseCompounds("The reaction has data: its compounds stay");
     if (!MayChooseSamples()) rows_.CloseSamples("Each set of this reaction has samples of its own");
     FillClasses();
@@ -83,6 +87,11 @@ void frmReact::Load() {
     ShowEquation();
     if (record_) Caption("Edit: Reaction");
     if (HasData()) txtCoeff(0).SetFocus(); // its compounds are closed
+}
+
+/// What is measured of a sample of a complex is that it falls apart.
+void frmReact::TakeDecomposition(const clsComplexSample& sample) {
+    if (const auto reaction = DecompositionOf(sample)) draft_.TakeDefinition(*reaction);
 }
 
 /// Helpers opened on the way have had answers of their own.

@@ -13,10 +13,13 @@
 
 namespace vexora {
 
+class clsComplexSample;
+
 /// A reaction of the source: what takes part in it and by how much, with the equation shown as it
 /// is typed, its balancing, and the products of a complete combustion. On an existing reaction
 /// (EditReaction) its sets go along with what changes; its compounds are closed then. The samples
-/// of a reaction with data are those of its sets: they are open while one of these is edited.
+/// of a reaction with data are those of its sets: they are open while one of these is edited. Begun
+/// from a sample of a complex (the node in hand) it shows how that falls apart.
 class frmReact : public ChainForm {
 public:
     frmReact();
@@ -45,6 +48,7 @@ private:
     void ClassClick();
     void OtherClick(CompoundList& list, std::string& rn);
     void RowsChanged();
+    void TakeDecomposition(const clsComplexSample& sample);
     void Equate();
     void Complete();
     void CheckStoichiometry();
@@ -77,7 +81,8 @@ private:
 
     clsQ draft_;                   // what the form says; its participants follow the rows
     std::shared_ptr<clsQ> record_; // that is edited, null for a new reaction
-    ParticipantRows rows_{*this, {cmbComp, txtCoeff, cboSample}, [this] { RowsChanged(); }};
+    ParticipantRows rows_{
+        *this, {cmbComp, txtCoeff, cboSample, nullptr, true}, [this] { RowsChanged(); }};
     CompoundList solvent_{*this, cmbSolvent};
     CompoundList inert_{*this, cmbInert};
     std::vector<std::shared_ptr<clsL>> made_; // for the products of a combustion

@@ -79,11 +79,11 @@ void CheckSamples(const Set& set, const std::string& name, Remarks& remarks) {
     bool hasAny = false;
     for (int i = 1; set.Parent && i <= Count; ++i) {
         const std::string sample = set.SMPNM(i);
-        const auto compound = set.Parent->Compound(i);
-        if (sample.empty() || !compound) continue;
+        const auto participant = set.Parent->Participant(i);
+        if (sample.empty() || !participant) continue;
         hasAny = true;
-        if (!compound->FindS(static_cast<int>(ToInteger(Val(sample)))))
-            remarks.Error(name + ": " + compound->ShowKey() + " has no sample " + sample);
+        if (!participant->FindSample(static_cast<int>(ToInteger(Val(sample)))))
+            remarks.Error(name + ": " + participant->ShowKey() + " has no sample " + sample);
     }
     if (set.Parent && !hasAny) remarks.Warn(name + ": no participant has a sample");
 }
@@ -149,7 +149,7 @@ void CheckReaction(const clsQ& reaction, Findings& findings) {
     Remarks remarks(findings, reaction);
     const std::string name = "Reaction " + reaction.ShowKey();
     for (int i = 1; i <= Count; ++i)
-        if (!reaction.RN(i).empty() && !reaction.Compound(i))
+        if (!reaction.RN(i).empty() && !reaction.Participant(i))
             remarks.Error(name + ": participant not described: " + reaction.RN(i));
     if (ReactionType(reaction.REACTCLASS).empty())
         remarks.Error(name + ": unknown class " + OrPlaceholder(reaction.REACTCLASS));

@@ -1,5 +1,6 @@
 #include "records/Substance.h"
 
+#include "records/RegistryNumbers.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
 #include "reference/Numbers.h"
@@ -33,6 +34,14 @@ std::shared_ptr<SubstanceSample> Substance::FindSample(int number) const {
     for (auto& sample : Samples())
         if (ToInteger(Val(sample->SMPNM)) == number) return std::move(sample);
     return nullptr;
+}
+
+std::string FormulaOfSample(const Substance* substance, std::string_view number) {
+    if (!substance) return {};
+    if (!NamesComplex(substance->RN)) return substance->FormulaText();
+    const auto sample = substance->FindSample(static_cast<int>(ToInteger(Val(number))));
+    const std::string formula = sample ? sample->Formula() : substance->FormulaText();
+    return formula == "Error" ? std::string() : formula;
 }
 
 std::string SubstanceSample::SystemName() const {

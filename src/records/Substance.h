@@ -36,6 +36,10 @@ public:
     std::shared_ptr<SubstanceSample> FindSample(int number) const;
 };
 
+/// The formula of what takes part in a reaction with this sample (its number, empty for none): of a
+/// complex it depends on the sample. Empty when it is not known, and for null.
+std::string FormulaOfSample(const Substance* substance, std::string_view number);
+
 /// A sample of a compound (clsS) or of a complex (clsComplexSample).
 class SubstanceSample : public Record {
 public:

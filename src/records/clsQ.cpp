@@ -88,23 +88,29 @@ void clsQ::TakeDefinition(const clsQ& other) {
     slots_ = other.slots_;
 }
 
-std::shared_ptr<clsL> clsQ::Compound(int i) const {
+std::shared_ptr<Substance> clsQ::Participant(int i) const {
     const clsR* const source = SourceOf(*this);
-    return source && !NamesNoCompound(RN(i)) ? source->FindL(RN(i)) : nullptr;
+    return source && !NamesNoCompound(RN(i)) ? source->FindSubstance(RN(i)) : nullptr;
+}
+
+std::shared_ptr<clsL> clsQ::Compound(int i) const {
+    return std::dynamic_pointer_cast<clsL>(Participant(i));
 }
 
 std::string clsQ::Name(int i) const {
-    const auto compound = Compound(i);
-    return compound ? compound->ShowKey() : RN(i);
+    const auto participant = Participant(i);
+    return participant ? participant->ShowKey() : RN(i);
 }
 
 std::string clsQ::Formula(int i) const {
-    const auto compound = Compound(i);
-    return compound ? compound->Formula : std::string();
+    return FormulaOfSample(Participant(i).get(), SMPNM(i));
 }
 
 double clsQ::MolarMass(int i) const {
-    return MolarMassOfRN(RN(i), SourceOf(*this));
+    const auto participant = Participant(i);
+    if (!participant || !NamesComplex(RN(i))) return MolarMassOfRN(RN(i), SourceOf(*this));
+    const auto sample = participant->FindSample(static_cast<int>(ToInteger(Val(SMPNM(i)))));
+    return sample ? sample->MolarMass() : participant->MolarMass();
 }
 
 int clsQ::PlaceOf(std::string_view rn) const {
@@ -294,31 +300,31 @@ bool clsQ::IsPClBr() const {
 
 namespace {
 
-bool IsSample(const std::string& number, const clsS& sample) {
+bool IsSample(const std::string& number, const SubstanceSample& sample) {
     // "01" names sample 1 too.
     return !number.empty() && ToInteger(Val(number)) == ToInteger(Val(sample.SMPNM));
 }
 
 /// A record of the source's reactions that takes the sample at the place of its compound.
 template <class Takes>
-bool AnyReaction(const clsS& sample, Takes takes) {
-    const clsL* const compound = sample.Parent;
-    if (compound == nullptr || compound->Parent == nullptr) return false;
-    for (const auto& reaction : compound->Parent->recQ)
+bool AnyReaction(const SubstanceSample& sample, Takes takes) {
+    const Substance* const system = sample.System();
+    if (system == nullptr || system->Parent == nullptr) return false;
+    for (const auto& reaction : system->Parent->recQ)
         for (int i = 1; i <= clsQ::MostParticipants; ++i)
-            if (reaction->RN(i) == compound->RN && takes(*reaction, i)) return true;
+            if (reaction->RN(i) == system->RN && takes(*reaction, i)) return true;
     return false;
 }
 
 } // namespace
 
-bool IsUsedInReactions(const clsS& sample) {
+bool IsUsedInReactions(const SubstanceSample& sample) {
     return AnyReaction(sample, [&sample](const clsQ& reaction,
                                          int i) { return IsSample(reaction.SMPNM(i), sample); }) ||
            IsUsedInReactionData(sample);
 }
 
-bool IsUsedInReactionData(const clsS& sample) {
+bool IsUsedInReactionData(const SubstanceSample& sample) {
     return AnyReaction(sample, [&sample](const clsQ& reaction, int i) {
         const auto isOfSample = [&](const auto& set) { return IsSample(set->SMPNM(i), sample); };
         return std::ranges::any_of(reaction.recC, isOfSample) ||

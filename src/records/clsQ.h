@@ -16,8 +16,9 @@ class clsC;
 class clsE;
 class clsL;
 class clsR;
-class clsS;
 class LineWriter;
+class Substance;
+class SubstanceSample;
 class XmlWriter;
 
 /// A text for each of the eight participants.
@@ -66,10 +67,12 @@ public:
     /// Class, participants with coefficients and samples, solvent and inert compound of another.
     void TakeDefinition(const clsQ& other);
 
-    /// The compound that is participant i, null when the source has none.
+    /// The compound or complex that is participant i, null when the source has none; the compound,
+    /// null for a complex as well.
+    std::shared_ptr<Substance> Participant(int i) const;
     std::shared_ptr<clsL> Compound(int i) const;
-    /// Its name, or the registry number of a compound without one; its formula, empty when it is
-    /// not known; its molar mass [g/mol], 0 when it is not known.
+    /// Its name, or the registry number of a compound without one; its formula, of a complex that
+    /// of its sample, empty when it is not known; its molar mass [g/mol], 0 when it is not known.
     std::string Name(int i) const;
     std::string Formula(int i) const;
     double MolarMass(int i) const;
@@ -133,9 +136,9 @@ private:
     std::array<Slot, MostParticipants> slots_;
 };
 
-/// A reaction has this sample of its compound.
-bool IsUsedInReactions(const clsS& sample);
+/// A reaction has this sample of its compound or complex.
+bool IsUsedInReactions(const SubstanceSample& sample);
 /// The same, and a property change or equilibrium of it does.
-bool IsUsedInReactionData(const clsS& sample);
+bool IsUsedInReactionData(const SubstanceSample& sample);
 
 } // namespace vexora

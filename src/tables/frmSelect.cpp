@@ -118,8 +118,8 @@ void frmSelect::SampleClick(std::size_t n) {
     const auto made = samples_[n].Click();
     Globals().DialogAccepted = false;
     for (SampleList& list : samples_) {
-        if (!made || list.Compound().get() != made->Parent || &list == &samples_[n]) continue;
-        list.Fill(list.Compound());
+        if (!made || list.System().get() != made->Parent || &list == &samples_[n]) continue;
+        list.Fill(list.System());
         list.Choose(made.get());
     }
 }
