@@ -163,10 +163,11 @@ void frmMixtSingle::Fill(const clsMZ& record) {
 /// A sample that the document does not have is not replaced in silence.
 void frmMixtSingle::ChooseSamples(const clsMZ& record) {
     for (std::size_t n = 0; n < samples_.size(); ++n) {
-        const auto compound = samples_[n].Compound();
+        const auto& compound = samples_[n].System();
         if (!compound) continue;
         samples_[n].ChooseNone();
-        samples_[n].Choose(compound->FindS(NumberOf(record.SMPNM(static_cast<int>(n) + 1))).get());
+        samples_[n].Choose(
+            compound->FindSample(NumberOf(record.SMPNM(static_cast<int>(n) + 1))).get());
     }
     UseSamples();
 }

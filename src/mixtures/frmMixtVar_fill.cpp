@@ -125,9 +125,9 @@ void frmMixtVar::Fill(const clsMV& record) {
 void frmMixtVar::FillSamples(const clsMV& record) {
     for (int n = 1; n <= record.MixType; ++n) {
         SampleList& list = *samples_[static_cast<std::size_t>(n - 1)];
-        if (!list.Compound()) continue;
+        if (!list.System()) continue;
         const auto sample =
-            list.Compound()->FindS(static_cast<int>(ToInteger(Val(record.SMPNM(n)))));
+            list.System()->FindSample(static_cast<int>(ToInteger(Val(record.SMPNM(n)))));
         list.Choose(sample.get());
     }
 }
