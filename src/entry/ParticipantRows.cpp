@@ -6,6 +6,7 @@
 
 #include "chem/PrintedFormula.h"
 #include "chem/clsAtom.h"
+#include "entry/BioPages.h"
 #include "entry/PhaseLists.h"
 #include "entry/SelectionScope.h"
 #include "globals/KVOGlobal.h"
@@ -27,7 +28,7 @@ int NumberOf(std::string_view text) {
 
 } // namespace
 
-ParticipantRows::ParticipantRows(ui::Form& form, Fields fields, std::function<void()> changed)
+ParticipantRows::ParticipantRows(ui::Form& form, Fields fields, std::function<void(bool)> changed)
     : form_(form), fields_(fields), changed_(std::move(changed)),
       all_(static_cast<std::size_t>(fields.compounds.Count())) {
     for (int row = 0; row < Rows(); ++row) {
@@ -83,8 +84,7 @@ void ParticipantRows::FillRow(int row) {
 
 void ParticipantRows::FillPhase(int row) {
     ui::ComboBox& list = (*fields_.phases)(row);
-    list.Index(-1);
-    FillPromptedPhaseList(list, ReactionPhases());
+    FillBioPhases(list, BioPhaseCodes());
     ChoosePhase(list, At(row).phase);
     list.Enabled(IsUsed(row));
 }
@@ -110,13 +110,13 @@ void ParticipantRows::CompoundClick(int row) {
     const auto rn = compounds_[static_cast<std::size_t>(row)].Click();
     if (rn && *rn != At(row).RN) SetCompound(row, *rn);
     FillCompounds();
-    changed_();
+    changed_(true);
 }
 
 void ParticipantRows::CoefficientChanged(int row) {
     if (form_.Filling) return;
     At(row).coefficient = NormalizeNumber(fields_.coefficients(row).Text());
-    changed_();
+    changed_(false);
 }
 
 /// The dialog may come back with a sample of another participant, or with another compound.
@@ -134,13 +134,13 @@ void ParticipantRows::SampleClick(int row) {
         samples_[static_cast<std::size_t>(other)].Choose(made.get());
         TakeSample(other);
     }
-    changed_();
+    changed_(made != nullptr);
 }
 
 void ParticipantRows::PhaseClick(int row) {
     if (form_.Filling) return;
-    At(row).phase = PhaseChosen((*fields_.phases)(row));
-    changed_();
+    At(row).phase = BioPhaseChosen((*fields_.phases)(row));
+    changed_(false);
 }
 
 std::shared_ptr<Substance> ParticipantRows::SubstanceIn(int row) const {

@@ -36,8 +36,9 @@ public:
         const ui::ControlArray<ui::ComboBox>* phases = nullptr; // of a form that asks for them
         bool withComplexes = false;
     };
-    /// Answers to the controls; `changed` follows whatever a person changes, or makes on the way.
-    ParticipantRows(ui::Form& form, Fields fields, std::function<void()> changed);
+    /// Answers to the controls. `changed` follows whatever a person changes; it gets true when
+    /// other compounds take part, or one or a sample was made on the way.
+    ParticipantRows(ui::Form& form, Fields fields, std::function<void(bool)> changed);
 
     /// Why compounds, or samples, cannot be chosen; empty when they can. Before Take.
     void CloseCompounds(std::string why) { compoundsClosed_ = std::move(why); }
@@ -97,7 +98,7 @@ private:
 
     ui::Form& form_;
     Fields fields_;
-    std::function<void()> changed_;
+    std::function<void(bool)> changed_;
     std::vector<CompoundList> compounds_;
     std::vector<SampleList> samples_;
     std::vector<Participant> all_; // one a row at least

@@ -44,15 +44,6 @@ void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& c
     list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);
 }
 
-std::vector<std::string> ReactionPhases() {
-    std::vector<std::string> codes;
-    for (const std::string& name : PhaseList("React"))
-        codes.push_back(PhaseCode(name));
-    for (const char* solution : {"S", "S1", "S2"})
-        codes.emplace_back(solution);
-    return codes;
-}
-
 void ChoosePhase(ui::ComboBox& list, std::string_view code) {
     if (IsBlankField(code)) return;
     std::string name = PhaseName(code);

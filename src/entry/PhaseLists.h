@@ -24,9 +24,6 @@ void FillPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes);
 /// For forms on which a choice once made must not vanish silently.
 void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes);
 
-/// What a participant of a reaction may be: the phases of the table, and solutions.
-std::vector<std::string> ReactionPhases();
-
 /// Chooses the entry of a code, which joins the list where it is not offered; a blank code changes
 /// nothing.
 /// Call it after the list was filled, for filling drops what is not offered.

@@ -23,6 +23,14 @@ namespace {
 constexpr int Count = clsQ::MostParticipants;
 const std::vector<std::string> Solutions = {"S", "S1", "S2"};
 
+std::vector<std::string> PhaseCodes() {
+    std::vector<std::string> codes;
+    for (const std::string& name : PhaseList("React"))
+        codes.push_back(PhaseCode(name));
+    codes.insert(codes.end(), Solutions.begin(), Solutions.end());
+    return codes;
+}
+
 /// A list of codes behind an entry that says there is none.
 void FillCodes(ui::ComboBox& list, CodeTexts table, const char* none) {
     std::vector<std::string> texts = Texts(table);
@@ -43,7 +51,7 @@ void frmChanged::FillReaction() {
         if (IsUsed(i)) cboMassOf.Add(reaction_->Name(i));
         if (IsUsed(i)) FillSample(i, reaction_->SMPNM(i));
     }
-    FillPromptedPhaseList(cboSolventPhase, ReactionPhases());
+    FillPromptedPhaseList(cboSolventPhase, PhaseCodes());
     FillCodes(cboStandardState, StandardStates, "Not stated");
     solvent_ = reaction_->SOLVENTRN;
     ShowSolvent();
@@ -57,7 +65,7 @@ void frmChanged::FillRow(int i) {
     // A file may give a value other coefficients than its reaction.
     const std::string own = record_ ? record_->PARTICIPANT_COEFF(i) : std::string();
     lblPart(n).Caption((own.empty() ? reaction_->Coeff(i) : own) + " " + reaction_->Name(i) + ":");
-    FillPromptedPhaseList(cboPhase(n), ReactionPhases());
+    FillPromptedPhaseList(cboPhase(n), PhaseCodes());
     FillCodes(cboComposition(n), ParticipantCompositions, "No composition");
 }
 

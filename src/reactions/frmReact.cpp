@@ -80,8 +80,8 @@ void frmReact::Load() {
     if (!MayChooseSamples()) rows_.CloseSamples("Each set of this reaction has samples of its own");
     FillClasses();
     Fill();
-    // Whoever comes from a compound means it to take part.
-    if (!record_ && globals.CurrentKey == "RL" && globals.CurrentL)
+    // Whoever comes from a compound or complex means it to take part.
+    if (!record_ && IsOneOf(globals.CurrentKey, {"RL", "RX"}) && globals.CurrentL)
         rows_.SetCompound(0, globals.CurrentL->RN);
     TakeRows();
     ShowEquation();
@@ -118,9 +118,9 @@ void frmReact::OtherClick(CompoundList& list, std::string& rn) {
 }
 
 /// A person has changed the rows, or made a compound on the way.
-void frmReact::RowsChanged() {
+void frmReact::RowsChanged(bool isOther) {
     TakeRows();
-    FillCompounds();
+    if (isOther) FillCompounds();
     ShowEquation();
 }
 
@@ -129,7 +129,7 @@ void frmReact::Equate() {
     if (!CheckFormulas()) return;
     const BalanceOutcome outcome = rows_.Equate(BalanceScale::AsTyped);
     if (outcome != BalanceOutcome::Balanced) return TellWhyUnbalanced(outcome);
-    RowsChanged();
+    RowsChanged(true);
 }
 
 void frmReact::Complete() {

@@ -47,7 +47,7 @@ private:
 
     void ClassClick();
     void OtherClick(CompoundList& list, std::string& rn);
-    void RowsChanged();
+    void RowsChanged(bool isOther);
     void TakeDecomposition(const clsComplexSample& sample);
     void Equate();
     void Complete();
@@ -81,8 +81,9 @@ private:
 
     clsQ draft_;                   // what the form says; its participants follow the rows
     std::shared_ptr<clsQ> record_; // that is edited, null for a new reaction
-    ParticipantRows rows_{
-        *this, {cmbComp, txtCoeff, cboSample, nullptr, true}, [this] { RowsChanged(); }};
+    ParticipantRows rows_{*this,
+                          {cmbComp, txtCoeff, cboSample, nullptr, true},
+                          [this](bool isOther) { RowsChanged(isOther); }};
     CompoundList solvent_{*this, cmbSolvent};
     CompoundList inert_{*this, cmbInert};
     std::vector<std::shared_ptr<clsL>> made_; // for the products of a combustion

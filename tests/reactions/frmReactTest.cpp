@@ -1,7 +1,11 @@
 #include "reactions/frmReact.h"
 
 #include "reactions/ReactionFixture.h"
+#include "records/Decomposition.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "reference/Text.h"
+#include "reference/Vocabulary.h"
 
 namespace vexora::test {
 namespace {
@@ -224,6 +228,54 @@ TEST_F(frmReactTest, SamplesOfAReactionWithDataAreOpenWhileASetIsEdited) {
     globals.EditChanged = false;
     EXPECT_EQ(reaction->SMPNM(1), "2");
     EXPECT_FALSE(globals.Saved);
+}
+
+/// A hydrate of methane with two samples of other contents.
+std::shared_ptr<clsComplex> AddHydrate() {
+    auto complex = std::make_shared<clsComplex>();
+    complex->SetNo(1);
+    complex->CType = "Gas Hydrate";
+    complex->Components = {{"74828", "", "Gas", {}}, {"7732185", "", "Water", {}}};
+    complex->AttachTo(*Globals().CurrentR);
+    for (const auto& [gas, water] : {std::pair("0.148", "0.852"), std::pair("1", "5.75")}) {
+        auto sample = std::make_shared<clsComplexSample>();
+        sample->SetNo(complex->NextSampleNumber());
+        sample->Components = {{"74828", {gas, "n"}, ""}, {"7732185", {water, "n"}, "1"}};
+        sample->AttachTo(*complex);
+    }
+    return complex;
+}
+
+TEST_F(frmReactTest, AComplexTakesPartAsItsSampleIsComposed) {
+    AddCompound("74828", "methane", "CH4");
+    const auto complex = AddHydrate();
+    const auto sample = complex->FindS(1);
+    auto reaction = DecompositionOf(*sample);
+    ASSERT_TRUE(reaction);
+    EXPECT_EQ(reaction->Equation(), "Gas Hydrate (methane + water) = 0.148 methane + 0.852 water");
+    globals.OpenForms.clear();
+    sample->SetMe();
+    auto& form = Begin();
+    EXPECT_EQ(form.cboReactClass.Chosen(), ReactionType("OTH"));
+    EXPECT_EQ(Rows(form), "Gas Hydrate (methane + water) -1 1|methane 0.148 None|water 0.852 1|");
+    EXPECT_EQ(form.lblSurplus.Caption(), "Balanced");
+    // Another sample is of another formula.
+    Pick(form.cboSample(0), "2");
+    EXPECT_EQ(form.lblSurplus.Caption(),
+              "Not balanced. More in the reactants: C 0.852, H 13.204, O 4.898");
+    Refused(form, "Reaction is not balanced", form.cmdEquate);
+    form.cmdEquate.UserClick();
+    form.cmdAccept.UserClick();
+    EXPECT_EQ(Lines(), "^Q OTH -1 74828 7732185 999999994 N N & & & & & &\n"
+                       "^q -1 1 5.75 & & & & & 2 & 1 & & & & &\n");
+    EXPECT_TRUE(IsUsedInReactions(*complex->FindS(2)) && !IsUsedInReactions(*sample));
+    // No composition, no decomposition.
+    sample->Components.back().content.kind = "X";
+    EXPECT_EQ(DecompositionOf(*sample), nullptr);
+    sample->Components.back().content = {};
+    EXPECT_EQ(DecompositionOf(*sample), nullptr);
+    sample->Components.clear();
+    EXPECT_EQ(DecompositionOf(*sample), nullptr);
 }
 
 } // namespace
