@@ -4,6 +4,8 @@
 #include "records/LineWriter.h"
 #include "records/clsBP.h"
 #include "records/clsBR.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "records/clsR.h"
 
 #include <algorithm>
@@ -104,6 +106,9 @@ void TakeOutJoined(clsR& source, const BioCompaction& result) {
     }
     TakeOut(source.recBR, leaving);
     TakeOut(source.recBP, leaving);
+    for (const auto& complex : source.recComplex)
+        for (const auto& sample : complex->recS)
+            TakeOut(sample->recBP, leaving);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "records/SetLines.h"
 #include "records/clsBP.h"
 #include "records/clsBR.h"
+#include "records/clsComplexSample.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "reference/Numbers.h"
@@ -92,10 +93,27 @@ void AttachReaction(ReaderState& state, clsR& source, clsBR& set) {
     set.AttachTo(source);
 }
 
-void AttachProperty(ReaderState& state, clsR& source, clsBP& set) {
-    // A phase equilibrium is one of a complex sample, and this edition attaches to none.
-    if (set.PrpType == "G")
+/// The complex sample of a phase equilibrium: the one in hand, or another one of its complex that
+/// the set names; null for none.
+std::shared_ptr<clsComplexSample> SampleOf(ReaderState& state, const clsBP& set) {
+    const auto inHand = Globals().CurrentComplexSample;
+    if (!inHand || !IsNumeric(set.SMPNM)) return inHand;
+    const auto& samples = state.SamplesOf(*inHand->System());
+    const auto named = samples.find(static_cast<int>(ToInteger(Val(set.SMPNM))));
+    return named == samples.end() ? inHand
+                                  : std::static_pointer_cast<clsComplexSample>(named->second);
+}
+
+void AttachEquilibrium(ReaderState& state, const clsR& source, clsBP& set) {
+    const auto sample = SampleOf(state, set);
+    if (!sample)
         return state.Abandon(source.Source() + "\n" + set.ShowKey(), "Sample not specified");
+    SettleNumber(state, sample->recBP, &sample->recBP, set, sample->FindBP(set.SetNo) != nullptr);
+    set.AttachTo(*sample);
+}
+
+void AttachProperty(ReaderState& state, clsR& source, clsBP& set) {
+    if (set.PrpType == "G") return AttachEquilibrium(state, source, set);
     SettleNumber(state, source.recBP, &source.recBP, set, source.FindBP(set.SetNo) != nullptr);
     set.AttachTo(source);
 }
@@ -370,7 +388,7 @@ namespace {
 /// The last bio reaction again, without its rows.
 void ReadCopy(ReaderState& state, std::string_view number) {
     const auto source = Globals().CurrentR;
-    const auto last = state.lastBioReaction;
+    const auto last = state.bio.reaction ? state.bio.reaction : state.lastBioReaction;
     if (!source || !last) {
         ++state.linesNotKept;
         return state.Lose(state.lineNumber, "no bio reaction stands before it");

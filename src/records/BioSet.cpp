@@ -1,6 +1,7 @@
 #include "records/BioSet.h"
 
 #include "globals/KVOGlobal.h"
+#include "records/Substance.h"
 #include "records/clsBP.h"
 #include "records/clsBR.h"
 #include "records/clsL.h"
@@ -211,9 +212,12 @@ std::shared_ptr<clsL> BioSet::CompoundOf(std::string_view key) const {
     return source ? source->FindL(RNOfKey(key)) : nullptr;
 }
 
+/// A phase equilibrium is one of a complex.
 std::string BioSet::CompoundName(std::string_view key) const {
-    const auto compound = CompoundOf(key);
-    return compound ? compound->ShowKey() : RNOfKey(key);
+    const std::string rn = RNOfKey(key);
+    const clsR* const source = SourceOf(*this);
+    const auto substance = source ? source->FindSubstance(rn) : nullptr;
+    return substance ? substance->ShowKey() : rn;
 }
 
 bool BioSet::Uses(std::string_view rn) const {

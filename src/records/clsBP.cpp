@@ -4,11 +4,30 @@
 #include "records/BioLines.h"
 #include "records/LineWriter.h"
 #include "records/SetLines.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
+#include "reference/Numbers.h"
 #include "reference/Text.h"
 
 namespace vexora {
+
+namespace {
+
+/// Formula and molar mass are those of the sample that was measured.
+CompoundWords WordsOf(const clsComplexSample& sample) {
+    const double mass = sample.MolarMass();
+    // Without the contents of all components there is no formula.
+    return {RunTogether(sample.SystemName()),
+            mass > 0 ? RunTogether(sample.Formula()) : std::string(),
+            NumberText(mass),
+            "0",
+            {},
+            {}};
+}
+
+} // namespace
 
 BioQuantityTexts clsBP::TableOf(BioRole role) const {
     if (PrpType == "G") return HydrateQuantities;
@@ -50,7 +69,10 @@ void clsBP::SetMe() {
     globals.CurrentBP = As<clsBP>();
     const bool isOfSample = PrpType == "G";
     if (globals.CurrentKey.empty()) globals.CurrentKey = isOfSample ? "RXSP" : "RBP";
-    if (Parent) Parent->SetMe();
+    if (Sample)
+        Sample->SetMe();
+    else if (Parent)
+        Parent->SetMe();
     // Last, for the owner would say what its own data are.
     globals.DataContext = isOfSample ? "Pure" : "Bio";
 }
@@ -61,11 +83,22 @@ void clsBP::AttachTo(clsR& source) {
     if (source.tNode) MakeNode(source.tNode);
 }
 
+void clsBP::AttachTo(clsComplexSample& sample) {
+    Sample = &sample;
+    Parent = sample.Parent ? sample.Parent->Parent : nullptr;
+    RN = sample.Parent ? sample.Parent->RN : std::string();
+    SMPNM = sample.SMPNM;
+    sample.recBP.Add(As<clsBP>(), Key());
+    if (sample.tNode) MakeNode(sample.tNode);
+}
+
 std::size_t clsBP::Leave() {
+    if (Sample) return LeaveFrom(Sample->recBP);
     return Parent ? LeaveFrom(Parent->recBP) : 0;
 }
 
 bool clsBP::Return(std::size_t place) {
+    if (Sample) return ReturnTo(Sample->recBP, place, Sample->FindBP(SetNo));
     return Parent && ReturnTo(Parent->recBP, place, Parent->FindBP(SetNo));
 }
 
@@ -84,7 +117,10 @@ void clsBP::Replace(const clsBP& other) {
     Parent = parent;
     Sample = sample;
     tNode = node;
-    if (Parent) Parent->recBP.Rekey(this, Key());
+    if (Sample)
+        Sample->recBP.Rekey(this, Key());
+    else if (Parent)
+        Parent->recBP.Rekey(this, Key());
 }
 
 bool clsBP::Load(std::string_view line) {
@@ -99,7 +135,7 @@ void clsBP::PrintBP(LineWriter& out) const {
     out.Fields({"BN", std::to_string(SetNo)});
     const std::vector<std::string> keys = Keys();
     for (std::size_t n = 0; n < keys.size(); ++n) {
-        const CompoundWords words = WordsOf(*this, keys[n]);
+        const CompoundWords words = n == 0 && Sample ? WordsOf(*Sample) : WordsOf(*this, keys[n]);
         out.Fields({"BP", keys[n], "0", n == 0 ? SMPNM : Components[n - 1].SMPNM, "&", words.name,
                     n == 0 ? RN : Components[n - 1].RN, words.formula, words.molarMass,
                     words.charge, words.EC, words.PDB});

@@ -317,7 +317,8 @@ bool clsR::Names(std::string_view rn) const {
     return std::ranges::any_of(recM,
                                [&](const auto& m) { return compound && m->PlaceOf(*compound); }) ||
            std::ranges::any_of(recQ, [&](const auto& reaction) { return reaction->Uses(rn); }) ||
-           std::ranges::any_of(recComplex, [&](const auto& complex) { return complex->Uses(rn); }) ||
+           std::ranges::any_of(recComplex,
+                               [&](const auto& complex) { return complex->Uses(rn); }) ||
            StandsInBioSets(rn);
 }
 

@@ -135,7 +135,7 @@ public:
     /// The number that a new one is offered: one above the count, or the next free one.
     int NextBRNumber() const;
     int NextBPNumber() const;
-    /// Bio reactions, then properties of bio substances.
+    /// Bio reactions, properties of bio substances, and phase equilibria of complex samples.
     void ForEachBioSet(const std::function<void(BioSet&)>& visit) const;
 
     /// File name for a document that has none, without its ending: the manuscript's identifier, or

@@ -1,12 +1,11 @@
 // The bio sets of a source.
 #include "records/clsR.h"
 
-#include "records/Walk.h"
 #include "records/clsBP.h"
 #include "records/clsBR.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
 #include "records/clsL.h"
-
-#include <algorithm>
 
 namespace vexora {
 
@@ -44,6 +43,10 @@ void clsR::ForEachBioSet(const std::function<void(BioSet&)>& visit) const {
         visit(*set);
     for (const auto& set : recBP)
         visit(*set);
+    for (const auto& complex : recComplex)
+        for (const auto& sample : complex->recS)
+            for (const auto& set : sample->recBP)
+                visit(*set);
 }
 
 void clsR::MarkCompoundsOfBioSets() {

@@ -18,7 +18,7 @@ public:
         for (int number = 1; number <= records; ++number) {
             if (Below(3) == 0) text += "^M " + Of({"18.015", "1000", "0"}) + "\n";
             if (Below(4) > 0) text += Header();
-            text += Below(2) == 0 ? Value(number) : Set(number);
+            text += Below(2) == 0 ? Value(number) : Below(3) == 0 ? Bio(number) : Set(number);
             if (Below(3) == 0) text += "^M 0\n";
         }
         return text;
@@ -88,6 +88,41 @@ private:
         for (int rows = Below(4); rows > 0; --rows)
             text += Row(variables);
         return text;
+    }
+    /// A bio set with lines that may lack, stand twice, or name what is not there.
+    std::string Bio(int number) {
+        const bool isReaction = Below(2) == 0;
+        std::string text =
+            (isReaction ? "BR " : "BN ") + std::to_string(number) + " " + Of({"0", "1", ""}) + "\n";
+        for (int lines = Below(12); lines > 0; --lines)
+            text += BioLine(isReaction) + "\n";
+        return text + Of({"BE\n", "BE\n", "BE\n", ""}) + Of({"BD 1 2\n", "BM x\n", ""});
+    }
+    std::string BioLine(bool isReaction) {
+        const std::string rn = Of({"7732185", "50997", "64175", "-3", "1003"});
+        const std::string key = Of({"7732185", "50997.2", "x", "&"});
+        switch (Below(8)) {
+        case 0:
+        case 1:
+            return isReaction ? "BP " + Of({"0", "1"}) + " " + rn + " 0 & " + rn + " a_b " +
+                                    Of({"&", "C6H12O6"}) + " 0 0 " + Number() + " " + Phase() +
+                                    " " + Of({"0", "-3"}) + " & " + Of({"&", "1LYZ"})
+                              : "BP " + rn + " 0 1 & a_b " + rn + " & 0 0 &";
+        case 2:
+            return "BC " + key + " " + Of({"Inert", "Buffer_component", "&"}) + " & 1 " +
+                   Of({"", "two  words"});
+        case 3:
+        case 4:
+            return "BV " + Code() + " " + Unit() + " " + Phase() + " " + key + " " +
+                   Of({"&", "*", "1%"}) + " " + Of({"P", "V", "C", "Q", ""}) + " " + Number();
+        case 5:
+            return "BH " + Of({"D", "S", "x"}) + " & a_b & L";
+        case 6:
+            // Of a property there may be no reaction to copy.
+            return "B0 " + (isReaction ? Of({"0 1", "1", "", "1 x"}) : "0 1");
+        default:
+            return "BD " + Number() + " " + Number();
+        }
     }
     std::string Row(int variables) {
         const std::string tag = Of({"^d", "^D", "^g", "^G"});

@@ -173,6 +173,31 @@ TEST_F(BioCompactionOf, PropertiesOfOneSubstanceBecomeOneOfTheirKindAndStates) {
             set("2", phase, "5.0", "BD 331.1 &\n") + set("3", state, "6.0", "BD 332.1 0.2\n"));
 }
 
+TEST_F(BioCompactionOf, PhaseEquilibriaBecomeOneWithinTheirSample) {
+    const auto set = [](const std::string& sample, const std::string& number,
+                        const std::string& temperature, const std::string& rows) {
+        return Header + "BN " + number + "\nBP -1 0 " + sample +
+               " & Gas_Hydrate_(water) -1 & 0 0 & &\nBH G " + sample +
+               " & & & & & &\nBV P kPa & & & P &\nBV T K & & & " + temperature + "\nBE\nBM &\n" +
+               rows;
+    };
+    const auto sample = [](const std::string& number) {
+        return "^A & & & & & & & Table 3\nSB " + number + "\nGH & & & &\nSE\n";
+    };
+    const std::string complex = "CS 1 Gas Hydrate\nCC 7732185 2 Water &\nCE\n";
+    // The last one names the first sample, though the second one stands before it.
+    Read(BioHead + complex + sample("1") + set("1", "1", "C 280", "BD 5000\n") +
+         set("1", "2", "C 281", "BD 6000\n") + sample("2") + set("2", "1", "C 282", "BD 7000\n") +
+         set("1", "3", "C 283", "BD 7500\n"));
+    result = CompactBioSets(Source());
+    const std::string text = DocumentAsRecords();
+    EXPECT_EQ(text.substr(text.find("CS ")),
+              complex + sample("1") +
+                  set("1", "1", "V &", "BD 5000 280\nBD 6000 281\nBD 7500 283\n") + sample("2") +
+                  set("2", "1", "C 282", "BD 7000\n"));
+    EXPECT_EQ(SavedAgain(text), text);
+}
+
 // Quantities and rows before, and after constants have become constraints.
 TEST_F(BioCompactionOf, WhatIsTheSameInAllRowsIsHeldConstantAsItWasTyped) {
     const struct {

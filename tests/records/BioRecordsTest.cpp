@@ -202,14 +202,15 @@ TEST_F(BioRecords, LinesWithoutASetAreNamedAndBadOnesEndTheRead) {
 }
 
 TEST_F(BioRecords, ANumberInUseGivesWayAndACopyHasNoRows) {
-    const std::string set = Header + "BR 4 1\nBV T K & & & V &\nBE\nBM &\nB0 0 0\n";
+    const auto set = [](const std::string& number, const std::string& method) {
+        return Header + "BR " + number + " 1\nBV T K & & & V &\nBE\nBM " + method + "\nB0 0 0\n";
+    };
     desktop.Expect("Duplicate data set number will be changed");
     globals.Saved = true;
-    Read(BioHead + set + "BD 300\n" + set + "BD 301\nB0 9\nBD 302\nB0\n");
+    Read(BioHead + set("4", "a") + "BD 300\n" + set("4", "b") + "BD 301\nB0 9\nBD 302\nB0\n");
     EXPECT_FALSE(globals.Saved);
-    const auto numbered = [&set](int n) { return Replace(set, "BR 4", "BR " + std::to_string(n)); };
-    EXPECT_EQ(BioLines(), set + "BD 300\n" + numbered(5) + "BD 301\n" + numbered(9) + "BD 302\n" +
-                              numbered(6 - 2 + 2));
+    EXPECT_EQ(BioLines(), set("4", "a") + "BD 300\n" + set("5", "b") + "BD 301\n" + set("9", "b") +
+                              "BD 302\n" + set("6", "b"));
     EXPECT_EQ(Source().FindBR(9)->recD.size(), 1U);
 }
 

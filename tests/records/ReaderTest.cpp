@@ -180,6 +180,7 @@ TEST_F(Reader, LinesOfOtherKindsOfDataAreCountedAndLeakNowhere) {
                                    "^z 1 TC S 1 L G & 514 & & &\n");
     EXPECT_EQ(result.linesNotKept, 6 + 6 + 1);
     EXPECT_EQ(Named(result), "5 nobody knows this tag: ^? 1\n"
+                             "11 no line CE closes this complex\n"
                              "17 nobody knows this tag: %% unknown\n");
     const auto source = globals.recR.Item(std::size_t{1});
     const auto water = source->FindL("7732185")->FindS(1);

@@ -34,7 +34,28 @@ TEST_F(RoundTrip, EveryKeptLineComesBackByteForByte) {
         "^S 1 ns\n"
         "^L 1003 NNNNN &\n"
         "^N 1003 C8H10N4O2 new compound, beta form\n"
-        "BL 1014 3.2.1.17_x 1LYZ & -3 lysozyme of hen\n";
+        "BL 1014 3.2.1.17_x 1LYZ & -3 lysozyme of hen\n"
+        "^A read_twice O A 3 AB CD 12/25/2004 hydrolysis\n"
+        "BR 4 1\n"
+        "BP 1 64175 0 1 64175 1-hydroxy_ethane C2H6O 46.069 0 -1 L 0 & &\n"
+        "BP 0 7732185 0 1 7732185 water H2O 18.015 0 0 & 0 & &\n"
+        "BC 7732185 Solvent L 1 99.9  per cent\n"
+        "BV KM 1 & & 2% P &\n"
+        "BV T C & & * V &\n"
+        "BE\n"
+        "BM by  calorimetry\n"
+        "B0 0 1\n"
+        "BD 0.10 25.0 0.05\n"
+        "^X 1 T & - & & & - & & & + 95 0.1 - & & - & & &\n"
+        "^A & O B & & & & &\n"
+        "BN 2\n"
+        "BP 1014 0 & & lysozyme_of_hen 1014 & 0 -3 3.2.1.17_x 1LYZ\n"
+        "BH D & Native partly_unfolded L C & &\n"
+        "BV T12 K & & & P &\n"
+        "BV pH 1 & & & C 4.50\n"
+        "BE\n"
+        "BM &\n"
+        "BD 349.10\n";
     std::string saved = LoadAndSave(text);
     // The letters are found anew, all else is as it was.
     const auto withoutLetters = [](std::string lines) {
