@@ -1,6 +1,7 @@
 #include "reference/Vocabulary.h"
 
 #include "reference/Conversions.h"
+#include "reference/KVODefinitions.h"
 
 #include "reference/ReferenceFixture.h"
 
@@ -211,6 +212,10 @@ TEST_F(Vocabulary, VariablesAreFilteredByContextAndNamedForTheExport) {
                                                           {"pH", "eMiscellaneous"}};
     for (const auto& [code, group] : groups)
         EXPECT_EQ(XMLVariableGroup(code), group) << code;
+    // A bio quantity shares the words of a variable only when it shares its unit.
+    EXPECT_EQ(XMLBioVariableName({"VM", "Volume", "m3/mol"}), "Molar volume, m3/mol");
+    EXPECT_EQ(XMLBioVariableName({"VM", "Vitamin", "mol/kg"}), "Vitamin, mol/kg");
+    EXPECT_EQ(XMLBioPropertyName({"P", "Partition", "1"}), "Partition");
 }
 
 TEST(PureLetters, EveryClassAnswersForFluidsAndSolids) {
