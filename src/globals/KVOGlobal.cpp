@@ -43,7 +43,8 @@ void KVOGlobal::ForgetCurrent() {
 
 bool KVOGlobal::IsEditingInPlace() const {
     return EditCompound || EditSample || EditSingle || EditTwo || EditMixtSingle || EditMixtVar ||
-           EditReaction || EditChanged || EditEquilibrium;
+           EditReaction || EditChanged || EditEquilibrium || EditBioReact || EditBioProp ||
+           EditCrystal || EditComplex || EditComplexSample;
 }
 
 KVOGlobal& Globals() {
