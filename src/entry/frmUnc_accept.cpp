@@ -147,12 +147,16 @@ void frmUnc::ShowFigures(const clsProperty& head, const std::string& result) {
         lblFigures.Caption("No figure follows for the property: nothing is stated about it");
         return;
     }
-    const auto row = FindProperty(item.PRPCODE);
-    const std::string systemUnit = row && head.Relation != "R" ? row->Unit : std::string();
-    lblFigures.Caption("Expanded uncertainty of " + head.Text + ": " +
-                       NumberWithUnit(FormatValue(head.PRECISION, ShownDigits), item.Unit) +
-                       "; in the system unit " +
-                       NumberWithUnit(FormatValue(head.SystemPrecision, ShownDigits), systemUnit));
+    std::string text = "Expanded uncertainty of " + head.Text + ": " +
+                       NumberWithUnit(FormatValue(head.PRECISION, ShownDigits), item.Unit);
+    // Bio data have codes of their own, which this table would take for others.
+    if (!Globals().BioSetInHand) {
+        const auto row = FindProperty(item.PRPCODE);
+        const std::string systemUnit = row && head.Relation != "R" ? row->Unit : std::string();
+        text += "; in the system unit " +
+                NumberWithUnit(FormatValue(head.SystemPrecision, ShownDigits), systemUnit);
+    }
+    lblFigures.Caption(text);
 }
 
 /// A page is whole before another one is shown.

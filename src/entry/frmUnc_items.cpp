@@ -6,7 +6,6 @@
 #include "records/PropertyChain.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
-#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -133,10 +132,6 @@ void frmUnc::ShowPropertyItem(const clsX& item) {
     txtCULevel.Text(item.CLevel);
     if (item.CType == "A") cboCUType.Choose(Propagation);
     if (item.CType == "B") cboCUType.Choose(Comparison);
-    // Kept as it is unless another type is chosen.
-    if (item.CType == "C")
-        ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
-                "External mode");
     chkCD.Value(item.iCD || item.HasUnmarkedCD());
     txtKVOU.Text(item.KVOUValue);
     txtEq.Text(item.CDSpec);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "globals/KVOGlobal.h"
+#include "ui/Desktop.h"
 
 namespace vexora {
 
@@ -44,6 +45,10 @@ void frmUnc::ShowPage(std::size_t page) {
         const auto k = static_cast<std::size_t>(item - items_.data());
         ShowItem(i, entered_[k]);
         if (wasShown_[k]) continue;
+        // Kept as it is unless another type is chosen.
+        if (i == 0 && item->CType == "C")
+            ui::Say("Uncertainty was evaluated at KVO\nand cannot be correctly processed by VXR in "
+                    "External mode");
         // Read back at once: a difference to this later is a change by the operator, not one by
         // showing.
         wasShown_[k] = true;
