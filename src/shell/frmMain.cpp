@@ -42,7 +42,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Load() {
     Globals().tvwTree = &tvwTree;
-    for (ui::MenuItem* entry : {&mnuMerge, &mnuInvert, &mnuBio, &mnuPreLoad})
+    for (ui::MenuItem* entry : {&mnuMerge, &mnuInvert, &mnuPreLoad})
         entry->Enabled(false);
     const ui::Forms& forms = ui::Forms::Current();
     New.Enabled(forms.Knows("frmDocument"));
@@ -79,6 +79,7 @@ void frmMain::WireMenus() {
     mnuUndoProcess.OnClick = [this] { mnuUndoProcess_Click(); };
     mnuCheck.OnClick = [this] { mnuCheck_Click(); };
     mnuDetect.OnClick = [this] { mnuDetect_Click(); };
+    mnuBio.OnClick = [this] { mnuBio_Click(); };
     mnuToolsConfigure.OnClick = [this] { mnuToolsConfigure_Click(); };
     mnuToolsTables.OnClick = [] { ui::Forms::Current().Get("frmTables").ShowModal(); };
     const std::pair<ui::MenuItem*, int> pages[] = {

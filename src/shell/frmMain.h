@@ -179,6 +179,10 @@ private:
     void mnuDetect_Click();
     static bool MayDetect();
 
+    // frmMain_bio.cpp
+    void mnuBio_Click();
+    static bool MayCompact();
+
     // frmMain_compare.cpp
     void mnuCompare_Click();
     std::optional<Outline> ReadOutline(const std::string& path);

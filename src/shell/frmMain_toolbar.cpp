@@ -141,6 +141,7 @@ void frmMain::SetLocked(bool locked) {
         mnuUndoProcess.Enabled(Globals().Processed != nullptr);
         mnuCheck.Enabled(!Globals().recR.IsEmpty());
         mnuDetect.Enabled(MayDetect());
+        mnuBio.Enabled(MayCompact());
     }
     RefreshTexts();
 }
