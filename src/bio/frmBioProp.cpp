@@ -1,12 +1,16 @@
 #include "bio/frmBioProp.h"
 
+#include "entry/PhaseLists.h"
 #include "entry/SelectionScope.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
+#include "reference/Vocabulary.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vexora {
@@ -14,98 +18,40 @@ namespace vexora {
 namespace {
 
 constexpr int UsualComponents = 6;
-constexpr int UsualProperties = 4;
-constexpr int UsualVariables = 4;
-constexpr int UsualConstraints = 8;
+constexpr const char* Prompt = "Select or enter text here";
+constexpr const char* Solution = "S";
+constexpr const char* Crystal = "C";
+constexpr const char* Solubility = "S";
+constexpr const char* Solvent = "Solvent";
 
-int QuantityCount(const clsBP* pattern, BioRole role, int usual) {
-    return BioRowCount(usual, pattern ? pattern->CountOf(role) : 0);
-}
-
-ui::Layout PageLayout(ui::Layout rows, ui::CommandButton& next) {
-    return ui::Column({std::move(rows), ui::Row({ui::Stretch(), next})});
+/// Contents that are said of a solvent.
+bool IsOfSolvent(const BioQuantity& quantity) {
+    return quantity.role != BioRole::Property && IsOneOf(quantity.code, {"Xs", "Ws", "Vs", "Js"});
 }
 
 } // namespace
 
-std::shared_ptr<clsBP> frmBioProp::Pattern() {
-    const KVOGlobal& globals = Globals();
-    return globals.EditBioProp ? globals.CurrentBP
-                               : std::dynamic_pointer_cast<clsBP>(globals.BioSetToRepeat);
-}
-
 int frmBioProp::ComponentCount() {
-    const auto pattern = Pattern();
-    return BioRowCount(UsualComponents, pattern ? pattern->Components.size() : 0);
+    const auto shown = Shown();
+    return BioRowCount(UsualComponents, shown ? shown->Components.size() : 0);
 }
 
-int frmBioProp::PropertyCount() {
-    return QuantityCount(Pattern().get(), BioRole::Property, UsualProperties);
-}
-
-int frmBioProp::VariableCount() {
-    return QuantityCount(Pattern().get(), BioRole::Variable, UsualVariables);
-}
-
-int frmBioProp::ConstraintCount() {
-    return QuantityCount(Pattern().get(), BioRole::Constraint, UsualConstraints);
-}
-
-frmBioProp::frmBioProp() : ChainForm("frmBioProp", "Bio System Properties") {
-    ArrangeControls();
-    WireEvents();
-    UseButtons(cmdAccept, cmdCancel, [this] { Accept(); });
-    HelpContext = 520;
-}
-
-void frmBioProp::ArrangeControls() {
+frmBioProp::frmBioProp() : BioPropertyForm("frmBioProp", "Bio System Properties", false) {
     using namespace ui;
-    TabStrip1.Assign({"Initial state", "Final state", "Composition", "Property", "Variables",
-                      "Constraints", "Description"});
-    TabStrip1.Index(0);
-    const Layout first =
-        Column({Row({Field("Substance:", cmbSubst), Field("Sample:", Narrow(cboSubstSample, 12))}),
-                Field(lblState1, cboState1), Field("Phase:", cboPhase1), Stretch()});
-    const Layout second =
-        Column({Field(lblState2, cboState2), Field("Phase:", cboPhase2), Stretch()});
-    const Layout description =
-        Column({Field("Data set #:", lblSetNo), Field("Method of measurement:", txtMethod),
-                Field("Comment:", txtComment)});
-    Arrangement =
-        Column({Pages(TabStrip1, {PageLayout(first, Next1), PageLayout(second, Next2),
-                                  PageLayout(components_.Arrangement(), Next3),
-                                  PageLayout(properties_.Arrangement(), Next4),
-                                  PageLayout(variables_.Arrangement(), Next5),
-                                  PageLayout(constraints_.Arrangement(), Next6), description}),
-                ButtonRow({cmdAccept, cmdCancel})});
-    TabAlongArrangement();
-    PreferredColumns = 130;
-}
-
-void frmBioProp::WireEvents() {
+    Arrange({{"Initial state",
+              Column({Row({Field("Substance:", cmbSubst),
+                           Field("Sample:", Narrow(cboSubstSample, 12))}),
+                      Field(lblState1, cboState1), Field("Phase:", cboPhase1), Stretch()}),
+              &cmbSubst, [this] { return CheckFirst(); }},
+             {"Final state",
+              Column({Field(lblState2, cboState2), Field("Phase:", cboPhase2), Stretch()}),
+              &cboPhase2, [this] { return CheckSecond(); }},
+             {"Composition", components_.Arrangement(), &cmbComp(0),
+              [this] { return components_.Check(); }}});
     cmbSubst.OnClick = [this] { SubstanceClick(); };
     cboSubstSample.OnClick = [this] { SampleClick(); };
     components_.Follow = [this] { Follow(); };
-    int page = First;
-    for (ui::CommandButton* next : {&Next1, &Next2, &Next3, &Next4, &Next5, &Next6})
-        next->OnClick = [this, leaves = static_cast<Page>(page++)] { Next(leaves); };
-}
-
-void frmBioProp::Load() {
-    KVOGlobal& globals = Globals();
-    globals.DialogAccepted = false;
-    if (globals.EditBioProp) record_ = globals.CurrentBP;
-    base_ = Base();
-    globals.BioSetToRepeat = nullptr;
-    Fill();
-    if (record_) Caption("Edit: Bio System Properties");
-    cmbSubst.SetFocus();
-}
-
-/// Helpers opened on the way have had answers of their own.
-void frmBioProp::Unload() {
-    Globals().DialogAccepted = accepted_;
-    ChainForm::Unload();
+    HelpContext = 520;
 }
 
 /// A sample is one of its compound.
@@ -138,25 +84,136 @@ void frmBioProp::Follow() {
     OfferSubjects();
 }
 
-/// Quantities are said of the substance and the components as they stand on the form now.
-void frmBioProp::OfferSubjects() {
-    clsBP draft;
-    WriteSubstance(draft);
-    const auto subjects = BioSubjects(draft, {0}, components_.Rows());
-    for (BioQuantityPage* page : {&properties_, &variables_, &constraints_})
-        page->OfferSubjects(subjects);
+std::shared_ptr<clsBP> frmBioProp::NewSet() const {
+    const KVOGlobal& globals = Globals();
+    auto set = std::make_shared<clsBP>();
+    set->PrpType = globals.BioType;
+    set->PHASE1 = Solution;
+    set->PHASE2 = set->PrpType == Solubility ? Crystal : Solution;
+    set->Add(AtmosphericPressure());
+    // Whoever comes from a compound means it.
+    if (!globals.CurrentKey.starts_with("RL") || !globals.CurrentL) return set;
+    set->RN = globals.CurrentL->RN;
+    const auto compound = globals.CurrentR->FindL(set->RN);
+    if (compound && compound->recS.Count() == 1) set->SMPNM = compound->recS.Item(1)->SMPNM;
+    return set;
 }
 
-void frmBioProp::Next(Page page) {
-    if (!CheckPage(page)) return;
-    ui::Control* const first[] = {IsTransition() ? &cboState2 : &cboPhase2,
-                                  &cmbComp(0),
-                                  &cboProp(0),
-                                  &cboVar(0),
-                                  &cboConst(0),
-                                  &txtMethod};
-    TabStrip1.Index(page + 1);
-    first[page]->SetFocus();
+int frmBioProp::NextNumber() const {
+    return Globals().CurrentR->NextBPNumber();
+}
+
+void frmBioProp::FillOwn() {
+    rn_ = Base().RN;
+    sample_ = Base().SMPNM;
+    FillSubstance();
+    FillStates();
+    components_.Fill(Base().Components);
+}
+
+/// A sample that the document does not have is not replaced in silence.
+void frmBioProp::FillSubstance() {
+    const ui::FillingScope filling(*this);
+    const auto compound = Globals().CurrentR->FindL(rn_);
+    substances_.Fill(rn_);
+    samples_.Fill(compound);
+    samples_.ChooseNone();
+    if (compound && !sample_.empty())
+        samples_.Choose(compound->FindS(static_cast<int>(Val(sample_))).get());
+    cboSubstSample.Enabled(compound != nullptr);
+}
+
+void frmBioProp::FillStates() {
+    if (!IsTransition()) NamePages({"Phase 1", "Phase 2"});
+    for (const auto& [list, state] :
+         {std::pair(&cboState1, &Base().State1), std::pair(&cboState2, &Base().State2)}) {
+        list->Assign({"Solution", "Native", "Denatured", "Monomer", "Dimer"});
+        list->Text(state->empty() ? Prompt : *state);
+        list->Visible(IsTransition());
+    }
+    lblState1.Visible(IsTransition());
+    lblState2.Visible(IsTransition());
+    for (const auto& [list, code] :
+         {std::pair(&cboPhase1, &Base().PHASE1), std::pair(&cboPhase2, &Base().PHASE2)}) {
+        list->Assign({PhaseName(Solution), PhaseName(Crystal)});
+        ChoosePhase(*list, *code);
+    }
+}
+
+/// The prompt is no state.
+std::string frmBioProp::StateIn(const ui::ComboBox& list) const {
+    const std::string text = list.Text();
+    return text == Prompt ? std::string() : std::string(Trim(text));
+}
+
+void frmBioProp::WriteOwn(clsBP& set) const {
+    set.RN = rn_;
+    set.SMPNM = sample_;
+    set.Components = components_.Components();
+    set.PHASE1 = PhaseChosen(cboPhase1);
+    set.PHASE2 = PhaseChosen(cboPhase2);
+    if (!IsTransition()) return;
+    set.State1 = StateIn(cboState1);
+    set.State2 = StateIn(cboState2);
+}
+
+std::vector<BioSubject> frmBioProp::Subjects() const {
+    clsBP draft;
+    WriteOwn(draft);
+    return BioSubjects(draft, {0}, components_.Rows());
+}
+
+BioFaults frmBioProp::CheckFirst() {
+    if (rn_.empty()) return {{&cmbSubst, "Select the substance for which the property is stored"}};
+    if (IsTransition() && StateIn(cboState1).empty())
+        return {{&cboState1, "Please specity the initial state"}};
+    return {};
+}
+
+BioFaults frmBioProp::CheckSecond() {
+    if (IsTransition() && StateIn(cboState2).empty())
+        return {{&cboState2, "Please specity the final state"}};
+    return {};
+}
+
+BioFaults frmBioProp::CheckWhole() {
+    BioFaults faults = CheckAcross(Entries());
+    CheckSolvents(faults);
+    if (Trim(txtMethod.Text()).empty()) faults.push_back(NoMethod());
+    if (IsTransition() && StateIn(cboState1) == StateIn(cboState2))
+        faults.push_back({&cboState2, "Please specity the final state other than initial state"});
+    return faults;
+}
+
+/// In a solubility, contents of a solvent are those of a component that is one.
+void frmBioProp::CheckSolvents(BioFaults& faults) {
+    if (IsTransition()) return;
+    clsBP draft;
+    WriteOwn(draft);
+    const std::vector<int> rows = components_.Rows();
+    for (const BioEntry& entry : Entries()) {
+        if (!IsOfSolvent(entry.quantity)) continue;
+        std::size_t n = 0;
+        while (n < rows.size() && draft.KeyOf(n) != entry.quantity.component)
+            ++n;
+        if (n < rows.size() && draft.Components[n].function == Solvent) continue;
+        ui::Control& field = n < rows.size() ? cboFunction(rows[n]) : cmbComp(0);
+        faults.push_back({&field, "Please review the Composition tab\n" +
+                                      draft.CompoundName(entry.quantity.component) +
+                                      " is not a solvent component"});
+    }
+}
+
+/// The rows were measured on the substance that the set was of.
+bool frmBioProp::ConfirmOwn() {
+    if (rn_ == Base().RN || Base().recD.empty()) return true;
+    return Confirm(cmbSubst, "The table has values of " + Base().CompoundName(Base().RN) +
+                                 "\nDo they stand for " + Base().CompoundName(rn_) +
+                                 " from now on?");
+}
+
+void frmBioProp::Attach(const std::shared_ptr<clsBP>& set) const {
+    set->AttachTo(*Globals().CurrentR);
 }
 
 } // namespace vexora

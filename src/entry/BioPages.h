@@ -125,7 +125,7 @@ public:
     void Offer(const BioSet& set, std::string_view kind);
     /// Offers the subjects as the form has them now; a choice follows its subject.
     void OfferSubjects(const std::vector<BioSubject>& subjects);
-    /// Offers these phases, by code; what was chosen stays.
+    /// Offers these phases, by code; a choice stays unless its phase was on offer before only.
     void OfferPhases(const std::vector<std::string>& codes);
     /// Shows those of the page's role. Subjects and phases have to be on offer before.
     void Fill(const std::vector<BioQuantity>& quantities);
@@ -162,6 +162,7 @@ private:
     const Offered* Chosen(int i) const;
     BioQuantity QuantityIn(int i) const;
     std::string StatedUncertainty(int i) const;
+    bool IsOtherSubject(const Row& row) const;
     void CheckSubjects(BioFaults& faults) const;
     void CheckNumbers(BioFaults& faults);
     void CheckRepeats(BioFaults& faults) const;
@@ -175,6 +176,7 @@ private:
     bool isReaction_ = false;
     std::vector<Offered> offered_;
     std::vector<BioSubject> subjects_;
+    std::vector<std::string> phases_; // on offer, by code
     std::vector<Row> rows_;
 };
 

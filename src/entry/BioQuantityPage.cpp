@@ -24,13 +24,8 @@ std::string UnitStored(const std::string& shown) {
     return shown == FixedUnitList(NoUnit).front() ? NoUnit : shown;
 }
 
-/// Units that need no molar mass, and whose text is one word, as a record keeps it.
 std::vector<std::string> UnitsShown(const BioQuantityText& entry) {
-    std::vector<std::string> units = UnitList(entry.unit, entry.code);
-    std::erase_if(units, [&entry](const std::string& unit) {
-        return unit.find(' ') != std::string::npos ||
-               IsMassBased(ConversionCodeOf(unit, entry.unit));
-    });
+    std::vector<std::string> units = BioUnits(entry);
     for (std::string& unit : units)
         unit = UnitShown(unit);
     return units;
@@ -71,8 +66,8 @@ ui::Layout BioQuantityPage::RowArrangement(int i) const {
     if (on_.phases) parts.push_back(Field("Phase:", Narrow((*on_.phases)(i), 12)));
     if (on_.values) parts.push_back(Field("Value:", Narrow((*on_.values)(i), 10)));
     parts.push_back(Field("Unit:", Narrow(on_.units(i), 13)));
-    parts.emplace_back(on_.states(i));
-    parts.push_back(Narrow(on_.uncertainties(i), 8));
+    parts.push_back(
+        Field("Uncertainty:", ui::Row({on_.states(i), Narrow(on_.uncertainties(i), 8)})));
     return Field(std::to_string(i + 1) + ":", ui::Row(std::move(parts)));
 }
 
@@ -138,8 +133,12 @@ void BioQuantityPage::OfferPhases(const std::vector<std::string>& codes) {
     for (const auto& list : *on_.phases) {
         const std::string chosen = BioPhaseChosen(*list);
         FillBioPhases(*list, codes);
-        ChoosePhase(*list, chosen);
+        // What was on offer and is so no more is gone; what never was came from a file.
+        const bool isGone = std::ranges::find(phases_, chosen) != phases_.end() &&
+                            std::ranges::find(codes, chosen) == codes.end();
+        if (!isGone) ChoosePhase(*list, chosen);
     }
+    phases_ = codes;
 }
 
 void BioQuantityPage::Fill(const std::vector<BioQuantity>& quantities) {
@@ -274,6 +273,17 @@ BioQuantity BioQuantityPage::QuantityIn(int i) const {
     return quantity;
 }
 
+/// A compound that has moved to another row is the same, but not the other of two.
+bool BioQuantityPage::IsOtherSubject(const Row& row) const {
+    const BioSubject& before = row.subjectBefore;
+    const std::string rn = BioSet::RNOfKey(before.key);
+    if (BioSet::RNOfKey(row.subject.key) != rn) return true;
+    return row.subject.row != before.row &&
+           std::ranges::any_of(subjects_, [&](const BioSubject& one) {
+               return one.row == before.row && BioSet::RNOfKey(one.key) == rn;
+           });
+}
+
 BioEntries BioQuantityPage::Entries() const {
     BioEntries entries;
     for (int i = 0; i < Count(); ++i) {
@@ -283,9 +293,7 @@ BioEntries BioQuantityPage::Entries() const {
         const bool isSame =
             entry.quantity.code == row.before.code && entry.quantity.role == row.before.role;
         if (isSame) entry.origin = row.origin;
-        entry.isOther = entry.quantity.phase != row.before.phase ||
-                        row.subject.row != row.subjectBefore.row ||
-                        BioSet::RNOfKey(row.subject.key) != BioSet::RNOfKey(row.subjectBefore.key);
+        entry.isOther = entry.quantity.phase != row.before.phase || IsOtherSubject(row);
         entries.push_back(std::move(entry));
     }
     return entries;

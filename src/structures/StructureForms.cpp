@@ -1,7 +1,11 @@
 #include "structures/StructureForms.h"
 
+#include "structures/frmGH.h"
+
 namespace vexora {
 
-void RegisterStructureForms(ui::Forms&) {}
+void RegisterStructureForms(ui::Forms& forms) {
+    forms.Register<frmGH>("frmGH");
+}
 
 } // namespace vexora
