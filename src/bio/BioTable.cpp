@@ -7,6 +7,7 @@
 #include "records/BioSet.h"
 #include "records/PropertyChain.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "reference/UnitText.h"
 
 namespace vexora {
@@ -76,6 +77,24 @@ TableColumns ColumnsOf(const BioSet& set) {
         if (quantity.StatesByRow()) columns.push_back({Kind::Unc, item, false, "Unc."});
     }
     return TableColumns(std::move(columns));
+}
+
+std::string InLines(const std::string& head) {
+    constexpr std::size_t wide = 30; // characters of a line
+    std::string lines;
+    std::size_t begin = 0; // of the last line
+    WordReader words(head);
+    while (!words.AtEnd()) {
+        const std::string_view word = words.NextWord();
+        if (word.empty()) continue;
+        if (!lines.empty()) {
+            const bool fits = lines.size() - begin + 1 + word.size() <= wide;
+            lines += fits ? ' ' : '\n';
+            if (!fits) begin = lines.size();
+        }
+        lines += word;
+    }
+    return lines;
 }
 
 std::string ConstantsOf(const BioSet& set) {

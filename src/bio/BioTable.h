@@ -21,6 +21,8 @@ class clsProperty;
 TableColumns ColumnsOf(const BioSet& set);
 /// A quantity with its unit, as heads and axes show it.
 std::string HeadOf(const BioSet& set, const BioQuantity& quantity);
+/// A head in lines of a width that a column has room for.
+std::string InLines(const std::string& head);
 /// What is the same in all rows, in one line; empty for nothing.
 std::string ConstantsOf(const BioSet& set);
 /// The statements of the set with the codes, names and units of their quantities.

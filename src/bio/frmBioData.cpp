@@ -88,7 +88,7 @@ void frmBioData::FillRows() {
         for (int column = 0; column < columns_.Count(); ++column) {
             const auto item = static_cast<std::size_t>(columns_[column].item);
             const bool isValue = columns_[column].kind == TableColumn::Kind::Value;
-            tblData.Cell(0, column, columns_[column].head);
+            tblData.Cell(0, column, InLines(columns_[column].head));
             for (std::size_t n = 0; n < set_->recD.size(); ++n) {
                 const std::vector<BioCell>& cells = set_->recD[n].Cells;
                 if (item >= cells.size()) continue;
