@@ -114,6 +114,7 @@ void CloseComplex(ReaderState& state, std::string_view) {
     complex->AttachTo(source);
     globals.CurrentComplex = complex;
     globals.CurrentL = complex;
+    state.lines = &PureLines;
 }
 
 void ReadComplexSample(ReaderState& state, std::string_view line) {
