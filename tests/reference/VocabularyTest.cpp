@@ -213,9 +213,10 @@ TEST_F(Vocabulary, VariablesAreFilteredByContextAndNamedForTheExport) {
     for (const auto& [code, group] : groups)
         EXPECT_EQ(XMLVariableGroup(code), group) << code;
     // A bio quantity shares the words of a variable only when it shares its unit.
-    EXPECT_EQ(XMLBioVariableName({"VM", "Volume", "m3/mol"}), "Molar volume, m3/mol");
-    EXPECT_EQ(XMLBioVariableName({"VM", "Vitamin", "mol/kg"}), "Vitamin, mol/kg");
-    EXPECT_EQ(XMLBioPropertyName({"P", "Partition", "1"}), "Partition");
+    EXPECT_EQ(XMLBioVariableName({"VM", "Volume", "m3/mol", false, "", ""}),
+              "Molar volume, m3/mol");
+    EXPECT_EQ(XMLBioVariableName({"VM", "Vitamin", "mol/kg", false, "", ""}), "Vitamin, mol/kg");
+    EXPECT_EQ(XMLBioPropertyName({"P", "Partition", "1", false, "", ""}), "Partition");
 }
 
 TEST(PureLetters, EveryClassAnswersForFluidsAndSolids) {
