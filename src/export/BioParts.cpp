@@ -141,8 +141,8 @@ void ExportBioComponent(XmlWriter& xml, const Substance& compound, std::string_v
                         std::string_view sample) {
     xml.Open("Component");
     ExportRegNum(xml, compound);
-    const std::string word = CodeOfText(BioFunctions, function);
-    xml.ElementIfAny("eFunction", word.empty() ? function : std::string_view(word));
+    // Words of a fixed list; what a component is to a complex is not among them.
+    xml.ElementIfAny("eFunction", CodeOfText(BioFunctions, function));
     if (!IsBlankField(sample)) xml.Element("nSampleNm", Trim(sample));
     xml.Close();
 }

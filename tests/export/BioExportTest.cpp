@@ -198,6 +198,7 @@ TEST_F(BioExport, PhaseEquilibriaOfComplexesLeaveAndTheirOtherDataAreCounted) {
     EXPECT_EQ(At(xml, "Compound[7]/sFormulaMolec"), "(CH4)0.148(H2O)0.852");
     EXPECT_EQ(At(xml, "Compound[7]/Sample/nSampleNm"), "1");
     EXPECT_EQ(At(xml, "PureOrMixtureData/Component/RegNum/nOrgNum"), "8 | 6");
+    EXPECT_EQ(At(xml, "PureOrMixtureData/Component/eFunction"), "");
     EXPECT_EQ(At(xml, "PropertyGroup/VaporPBoilingTAzeotropTandP/ePropName") + " | " +
                   At(xml, "PropertyGroup/CompositionAtPhaseEquilibrium/ePropName"),
               "Pressure, kPa | Mole fraction");
