@@ -90,8 +90,8 @@ TEST_F(frmBioDataTest, RowsGoIntoTheSetAsTheyWereTyped) {
         EXPECT_EQ(form.Caption(), "Temperature of 1/2 conversion (Solution 1); Enthalpy of "
                                   "transition as function of pH");
         EXPECT_EQ(form.lblColumns.Caption(), "Constant: Pressure = 101.325 kPa");
-        EXPECT_EQ(Row(0), "Prop. Temperature of 1/2\nconversion (Solution 1) (C)|Unc.|Prop. "
-                          "Enthalpy of\ntransition (kJ/mol)|Var. pH");
+        EXPECT_EQ(Row(0), "Prop. Temperature of 1/2\nconversion (Solution 1) (C)|Unc.|"
+                          "Prop. Enthalpy of transition\n(kJ/mol)|Var. pH");
         form.tblData.UserPaste("76.10\t0.5\t577.0\t4.50\n\n70,20\t\t\t3.20\n\t\t420\t2.0");
         form.tblData.UserCell(4, 1, "");
         Accept();
