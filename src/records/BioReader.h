@@ -5,6 +5,8 @@
 
 namespace vexora {
 
+class BioSet;
+class WordReader;
 class clsX;
 struct ReaderState;
 
@@ -28,6 +30,12 @@ void ReadBioMethod(ReaderState& state, std::string_view line);
 void ReadBioFlags(ReaderState& state, std::string_view line);
 /// BD: a row.
 void ReadBioRow(ReaderState& state, std::string_view line);
+
+/// The set that a line belongs to; null, which is told, when none has been begun.
+BioSet* SetInHand(ReaderState& state);
+/// Names what is lost with words behind the last field, if there are any.
+void LoseWordsLeft(ReaderState& state, const WordReader& words);
+void LoseWordsLeft(ReaderState& state);
 
 /// Gives a statement the place of the quantity that its line numbers.
 void PlaceStatement(const ReaderState& state, clsX& item);

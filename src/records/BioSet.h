@@ -142,7 +142,8 @@ public:
 
     /// Statements and rows fit the quantities: one statement each, one cell a column.
     bool Check() const;
-    /// Takes out repeats, components without a function, and variables that are empty in every row.
+    /// Takes out components and variables that are there twice, and variables that are empty in
+    /// every row. Properties, constraints and participants stay.
     void Clean();
     /// Constraints become variables, with their value in each row.
     void Expand();
