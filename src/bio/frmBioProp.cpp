@@ -42,12 +42,19 @@ frmBioProp::frmBioProp() : BioPropertyForm("frmBioProp", "Bio System Properties"
               Column({Row({Field("Substance:", cmbSubst),
                            Field("Sample:", Narrow(cboSubstSample, 12))}),
                       Field(lblState1, cboState1), Field("Phase:", cboPhase1), Stretch()}),
-              &cmbSubst, [this] { return CheckFirst(); }},
+              {&cmbSubst},
+              [this] { return CheckFirst(); }},
              {"Final state",
               Column({Field(lblState2, cboState2), Field("Phase:", cboPhase2), Stretch()}),
-              &cboPhase2, [this] { return CheckSecond(); }},
-             {"Composition", components_.Arrangement(), &cmbComp(0),
-              [this] { return components_.Check(); }}});
+              {&cboState2, &cboPhase2},
+              [this] { return CheckSecond(); }},
+             {"Composition", components_.Arrangement(), {&cmbComp(0)}, [this] {
+                  return components_.Check();
+              }}});
+    for (ui::ComboBox* state : {&cboState1, &cboState2})
+        state->OnGotFocus = [state] {
+            if (state->Text() == Prompt) state->SelectFrom(0); // typing takes its place
+        };
     cmbSubst.OnClick = [this] { SubstanceClick(); };
     cboSubstSample.OnClick = [this] { SampleClick(); };
     components_.Follow = [this] { Follow(); };

@@ -5,6 +5,7 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
+#include "ui/OneLine.h"
 
 #include <algorithm>
 
@@ -208,7 +209,7 @@ void FillBioHeader(clsA& header, bool isNew, const std::string& comment) {
         SignHeader(header);
         header.EXPPURPOSE = OfConcern;
     }
-    header.DATACOMMENT = comment;
+    header.DATACOMMENT = ui::OneLine(comment);
 }
 
 } // namespace vexora

@@ -66,17 +66,21 @@ BioPropertyForm::BioPropertyForm(std::string name, std::string caption, bool has
 
 void BioPropertyForm::AddQuantityPages(std::vector<Page>& pages) {
     using namespace ui;
-    pages.push_back({"Property", properties_.Arrangement(), &cboProp(0),
-                     [this] { return properties_.Check(HasPropertyAmongVariables()); }});
-    pages.push_back(
-        {"Variables", variables_.Arrangement(), &cboVar(0), [this] { return variables_.Check(); }});
-    pages.push_back({"Constraints", constraints_.Arrangement(), &cboConst(0),
-                     [this] { return constraints_.Check(); }});
+    pages.push_back({"Property", properties_.Arrangement(), {&cboProp(0)}, [this] {
+                         return properties_.Check(HasPropertyAmongVariables());
+                     }});
+    pages.push_back({"Variables", variables_.Arrangement(), {&cboVar(0)}, [this] {
+                         return variables_.Check();
+                     }});
+    pages.push_back({"Constraints", constraints_.Arrangement(), {&cboConst(0)}, [this] {
+                         return constraints_.Check();
+                     }});
     pages.push_back(
         {"Description",
          Column({Field("Data set #:", lblSetNo), Field("Method of measurement:", txtMethod),
                  Field("Comment:", txtComment)}),
-         &txtMethod, [this] { return CheckWhole(); }});
+         {&txtMethod},
+         [this] { return CheckWhole(); }});
 }
 
 void BioPropertyForm::Arrange(std::vector<Page> pages) {
@@ -134,7 +138,7 @@ void BioPropertyForm::Load() {
             page->Fill(base_->Quantities());
     }
     if (record_) Caption("Edit: " + Caption());
-    pages_.front().first->SetFocus();
+    Enter(pages_.front());
 }
 
 /// Helpers opened on the way have had answers of their own.
@@ -169,7 +173,13 @@ void BioPropertyForm::OfferPhases(const std::vector<std::string>& codes) {
 void BioPropertyForm::Next(std::size_t page) {
     if (!CheckPage(page)) return;
     TabStrip1.Index(static_cast<int>(page) + 1);
-    pages_[page + 1].first->SetFocus();
+    Enter(pages_[page + 1]);
+}
+
+void BioPropertyForm::Enter(const Page& page) {
+    const auto first =
+        std::ranges::find_if(page.fields, [](const auto* field) { return field->IsUsable(); });
+    if (first != page.fields.end()) (*first)->SetFocus();
 }
 
 bool BioPropertyForm::CheckPage(std::size_t page) {

@@ -55,12 +55,12 @@ public:
 protected:
     BioPropertyForm(std::string name, std::string caption, bool hasPhases);
 
-    /// A page with the field that comes first on it, and what is wrong there. Each but the last has
-    /// a button to the next one, "Next1" and so on.
+    /// A page with the fields of which the first that can be used gets the focus, and what is wrong
+    /// there. Each but the last has a button to the next one, "Next1" and so on.
     struct Page {
         std::string caption;
         ui::Layout layout;
-        ui::Control* first = nullptr;
+        std::vector<ui::Control*> fields;
         std::function<BioFaults()> check;
     };
     /// Puts the dialog's own pages in front of those that all have. For its constructor.
@@ -94,6 +94,7 @@ private:
     void AddQuantityPages(std::vector<Page>& pages);
     std::shared_ptr<clsBP> MakeBase() const;
     void Next(std::size_t page);
+    void Enter(const Page& page);
     bool CheckPage(std::size_t page);
     bool HasPropertyAmongVariables() const;
     void Accept();

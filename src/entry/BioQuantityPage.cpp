@@ -110,8 +110,10 @@ void BioQuantityPage::OfferSubjects(const std::vector<BioSubject>& subjects) {
             row.subject = {};
     }
     subjects_ = subjects;
-    for (int i = 0; i < Count(); ++i)
+    for (int i = 0; i < Count(); ++i) {
         FillSubjects(i);
+        Enable(i);
+    }
 }
 
 void BioQuantityPage::FillSubjects(int i) {
@@ -244,8 +246,12 @@ void BioQuantityPage::SubjectClick(int i) {
 }
 
 void BioQuantityPage::Enable(int i) {
-    const bool isUsed = At(i).chosen >= 0;
-    on_.components(i).Enabled(isUsed);
+    const Offered* const chosen = Chosen(i);
+    const bool isUsed = chosen != nullptr;
+    // A temperature is nobody's, but a property may be one of the components.
+    const bool mayBeOfOne = chosen && (!chosen->entry || chosen->entry->needsComponent ||
+                                       chosen->role == BioRole::Property);
+    on_.components(i).Enabled(mayBeOfOne || !At(i).subject.key.empty());
     on_.units(i).Enabled(isUsed && on_.units(i).Count() > 1);
     if (on_.phases) (*on_.phases)(i).Enabled(isUsed);
     if (on_.values) (*on_.values)(i).Enabled(isUsed);

@@ -34,7 +34,7 @@ frmGH::frmGH() : BioPropertyForm("frmGH", "Gas Hydrate Data", true) {
         };
     }
     rows.push_back(Stretch());
-    Arrange({{"Phases", Column(std::move(rows)), &cboPhase1, [this] { return CheckPhases(); }}});
+    Arrange({{"Phases", Column(std::move(rows)), {&cboPhase1}, [this] { return CheckPhases(); }}});
     HelpContext = 560;
 }
 

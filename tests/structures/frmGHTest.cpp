@@ -133,7 +133,20 @@ TEST_F(frmGHTest, ChecksComeInTheOrderOfThePages) {
     Pick(form.cboVarPhase(1), "Liquid");
     EXPECT_EQ(Lines(), "");
     Accept(form);
-    EXPECT_EQ(Lines(), "");
+    EXPECT_EQ(Lines(), "^A & & B & & & 1/15/2026 &\n"
+                       "BN 1\n"
+                       "BP -1 0 2 & Gas_Hydrate_(methane_+_water) -1 & 0 0 & &\n"
+                       "BP 74828 0 & & methane 74828 CH4 0 0 & &\n"
+                       "BP 7732185 0 & & water 7732185 H2O 0 0 & &\n"
+                       "BH G 2 & & L & G &\n"
+                       "BC 74828 Gas & & &\n"
+                       "BC 7732185 Water & & &\n"
+                       "BV P MPa G & & P &\n"
+                       "BV X 1 G 74828 * V &\n"
+                       "BV X 1 L 74828 & V &\n"
+                       "BV X 1 G 7732185 & C 0.001\n"
+                       "BE\n"
+                       "BM Visual observation\n");
     EXPECT_EQ(globals.CurrentR->recBP.Count(), 0U);
 }
 
