@@ -48,7 +48,7 @@ protected:
 
 TEST_F(frmBioPlotTest, AnyColumnIsDrawnAgainstAnyOther) {
     Add("K", true, {1, 2, None, 3}, {0.1, 0.1, 0, 0.1});
-    Add("H (kJ/mol)", true, {10, None, 30, 40});
+    Add("H (kJ/mol)", true, {10, 20, 30, 40});
     Add("Temperature (K)", false, {300, 310, 300, 310});
     Add("pH", false, {7, 7, 8, 8});
     frmBioPlot& plot = Open();
