@@ -45,13 +45,20 @@ protected:
 };
 
 TEST_F(ComplexRecords, AComplexComesBackWithItsSamplesAndAllTheirData) {
+    const std::string equilibrium =
+        DataHeader +
+        "BN 1\n"
+        "BP -1 0 1 & Gas_Hydrate_(methane_+_water) -1 (CH4)0.148(H2O)0.852 17.723144 0 "
+        "& &\n"
+        "BH G 1 & & CS1 L G &\n"
+        "BV P MPa & & & P &\nBV T K & & & V &\nBE\nBM &\nBD 2.76 273.7\n";
     const std::string structure = "XB Pm-3n 11.877 & & & & & 0.003 & & & & & Powder method\n"
                                   "XE\nXC C 0 & 0.5 & 0.25 & 1\n";
     const std::string ice = "CS 4 Ice\nCC 7732185 & & 1 n\nCE\n" + Header + "SB 2\nSE\n";
     const std::string reaction = "^Q OTH -1 74828 7732185 999999994 N N & & & & & &\n"
                                  "^q -1 0.148 0.852 & & & & & 1 & & & & & & &\n";
-    const std::string lines = Hydrate + Sample + ValueLines + TableLines + structure + Header +
-                              "SB 3\nGH & & & &\nSE\n" + ice;
+    const std::string lines = Hydrate + Sample + ValueLines + TableLines + equilibrium + structure +
+                              Header + "SB 3\nGH & & & &\nSE\n" + ice;
     EXPECT_EQ(Settled(lines + reaction), lines + reaction);
     EXPECT_TRUE(lost.empty());
     EXPECT_EQ(Source().recL.Count(), 2U) << "nothing is made for the number of a complex";
