@@ -142,6 +142,7 @@ TEST_F(BioCompactionOf, SetsStayApartWhenAnythingElseDiffers) {
         second.*one.part = one.with;
         const std::string both = first.Text() + second.Text();
         EXPECT_EQ(Compacted(both), both);
+        ASSERT_EQ(Source().recBR.Count(), 2U);
         EXPECT_EQ(Told(), "BioReaction 2 (" + Reaction(2).Equation() +
                               ") stays apart from set 1, which differs in: " + one.named + "\n");
         EXPECT_FALSE(Reaction().Equal(Reaction(2)));
