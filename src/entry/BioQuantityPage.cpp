@@ -272,6 +272,10 @@ BioQuantity BioQuantityPage::QuantityIn(int i) const {
     quantity.role = chosen->role;
     quantity.code = chosen->code;
     quantity.unit = UnitStored(on_.units(i).Chosen());
+    // A file may leave the system unit open, and so does who looks at it.
+    const BioQuantity& before = At(i).before;
+    const bool isOpen = before.code == chosen->code && before.unit.empty();
+    if (isOpen && chosen->entry && quantity.unit == chosen->entry->unit) quantity.unit.clear();
     quantity.phase = on_.phases ? BioPhaseChosen((*on_.phases)(i)) : At(i).phase;
     quantity.component = At(i).subject.key;
     quantity.uncertainty = StatedUncertainty(i);

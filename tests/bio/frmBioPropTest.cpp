@@ -127,6 +127,9 @@ TEST_F(frmBioPropTest, ChecksOfATransitionComeInTheOrderOfThePages) {
     Pick(form.cmbSubst, "lysozyme");
     EXPECT_EQ(form.cboSubstSample.Chosen(), "1");
     Refused(form, "Please specity the initial state", form.cboState1);
+    // What is typed takes the place of the prompt.
+    form.UserKey(ui::CharacterKey(U'N'));
+    EXPECT_EQ(form.cboState1.Text(), "N");
     form.cboState1.UserEdited("Native");
     form.cboState2.UserEdited(" ");
     Refused(form, "Please specity the final state", form.cboState2);
@@ -316,7 +319,7 @@ TEST_F(frmBioPropTest, NothingOfASetFromAFileIsLost) {
         set->Components.push_back({"56406", "", "Solute", "L", "note " + std::to_string(n)});
     set->Add({BioRole::Property, "Q7", "furlong", "L", "", "*", ""});
     for (const char* code : {"T12", "Tp", "T0", "Cp", "H"})
-        set->Add({BioRole::Property, code, "K", "", "", "", ""});
+        set->Add({BioRole::Property, code, "", "", "", "", ""});
     for (int n = 0; n < 10; ++n)
         set->Add({BioRole::Constraint, "M", "mol/kg", "",
                   n == 0 ? "56406" : "56406." + std::to_string(n + 1), "*", std::to_string(n)});
