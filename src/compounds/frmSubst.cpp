@@ -40,8 +40,10 @@ std::size_t KeptCharacters(const ui::TextBox& box) {
 }
 
 bool OpenedByBioDialog() {
-    const auto& openers = Globals().OpenForms;
-    return !openers.empty() && openers.back().starts_with("frmBio");
+    const KVOGlobal& globals = Globals();
+    const auto& openers = globals.OpenForms;
+    return globals.EditBioReact || globals.EditBioProp || // a set that is edited notes no opener
+           (!openers.empty() && openers.back().starts_with("frmBio"));
 }
 
 bool StandsInBioData(const clsL& compound) {

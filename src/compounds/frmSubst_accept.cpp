@@ -171,8 +171,9 @@ void frmSubst::StoreBio(clsL& compound) const {
     compound.EC = Trimmed(txtEC);
     compound.PDB = Trimmed(txtPDB);
     compound.Charge = static_cast<std::int32_t>(ParseInteger(thtCharge.Text()).value_or(0));
-    if (forBioData_ || !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0)
-        compound.isBio = compound.isNew = true;
+    const bool isStated = !compound.EC.empty() || !compound.PDB.empty() || compound.Charge != 0;
+    // What the database knows, water for one, is no bio compound for standing in bio data.
+    if (isStated || (forBioData_ && compound.isNew)) compound.isBio = compound.isNew = true;
 }
 
 void frmSubst::Finish() {

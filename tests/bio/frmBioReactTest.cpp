@@ -1,5 +1,6 @@
 #include "bio/frmBioReact.h"
 
+#include "compounds/frmSubst.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
@@ -301,6 +302,33 @@ TEST_F(frmBioReactTest, TheEquationIsShownAsItsNotationMeansIt) {
     globals.CurrentR->FindL("58640")->Charge = -3;
     form.txtCoeff(1).UserReplaceAll("-1.0");
     EXPECT_EQ(form.lblSurplus.Caption(), "Balanced but for the charge: +1 in the products");
+}
+
+TEST_F(frmBioReactTest, ACompoundMadeOnTheWayIsABioCompoundOnlyWhenNobodyKnowsIt) {
+    auto& form = Begin();
+    const auto make = [&](const std::string& number, const std::string& name,
+                          const std::string& formula) {
+        desktop.OnModal([=](ui::Form& shown) {
+            auto& substance = dynamic_cast<frmSubst&>(shown);
+            EXPECT_TRUE(substance.txtEC.IsShown());
+            substance.txtRN2.UserReplaceAll(number);
+            substance.txtName.UserEdited(name);
+            substance.txtFormula.UserReplaceAll(formula);
+            substance.cmdAccept.UserClick();
+        });
+    };
+    make("57-48-7", "D-fructose", "C6H12O6");
+    Pick(form.cmbPart(0), "New");
+    EXPECT_EQ(form.cmbPart(0).Chosen() + " " + form.cboPhase(0).Chosen(), "D-fructose Solution");
+    EXPECT_FALSE(globals.CurrentR->FindL("57487")->isBio);
+    make("", "an unheard-of enzyme", "C31H64O");
+    desktop.Expect("Substance not found in the database");
+    desktop.Expect("Do you want to add a new substance not registered in the database?",
+                   ui::Answer::Yes);
+    Pick(form.cmbComp(0), "New");
+    EXPECT_EQ(form.cmbComp(0).Chosen(), "an unheard-of enzyme");
+    EXPECT_TRUE(globals.CurrentR->recL.Item(globals.CurrentR->recL.Count())->isBio);
+    EXPECT_EQ(globals.DataContext, "Bio");
 }
 
 TEST_F(frmBioReactTest, NextChecksItsPageAndLeadsOn) {
