@@ -75,9 +75,10 @@ bool clsComplex::UsesSample(std::string_view rn, std::string_view sample) const 
         return component.RN == rn && !component.SMPNM.empty() &&
                ToInteger(Val(component.SMPNM)) == ToInteger(Val(sample));
     };
-    return std::ranges::any_of(Components, takes) || std::ranges::any_of(recS, [&](const auto& s) {
-               return std::ranges::any_of(s->Components, takes);
-           });
+    if (std::ranges::any_of(Components, takes)) return true;
+    for (const auto& one : recS)
+        if (std::ranges::any_of(one->Components, takes)) return true;
+    return false;
 }
 
 void clsComplex::TakeDefinition(const clsComplex& other) {
