@@ -104,12 +104,19 @@ void frmMain::Activate() {
     KVOGlobal& globals = Globals();
     if (!globals.OpenForms.empty()) return;
     SettleAside();
-    if (!globals.recR.IsEmpty() && globals.CurrentKey.empty()) SelectRoot();
+    const bool isEmpty = globals.recR.IsEmpty();
+    if (!isEmpty && globals.CurrentKey.empty() && !HasClickedNode()) SelectRoot();
     if (globals.DialogAccepted) globals.Saved = false;
     globals.DialogAccepted = false;
     if (!tvwTree.IsEmpty()) MouseSelected = true;
     SelectNode();
     Enable();
+}
+
+/// A node that counts is selected, though a dialog may have been about something else.
+bool frmMain::HasClickedNode() const {
+    const ui::TreeNode* node = tvwTree.SelectedNode();
+    return node != nullptr && MouseSelected && !node->Hidden();
 }
 
 void frmMain::SelectRoot() {
@@ -122,9 +129,9 @@ void frmMain::SelectRoot() {
 /// does not count, nor does one that the filter hides: nothing is current then.
 void frmMain::SelectNode() {
     Globals().CurrentKey.clear();
-    const ui::TreeNode* node = tvwTree.SelectedNode();
-    if (node != nullptr && MouseSelected && !node->Hidden()) {
-        if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock())) record->SetMe();
+    if (HasClickedNode()) {
+        const auto tag = tvwTree.SelectedNode()->Tag.lock();
+        if (auto record = std::dynamic_pointer_cast<Record>(tag)) record->SetMe();
     }
     if (!Globals().ShellLocked) Enable();
 }

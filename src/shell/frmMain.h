@@ -124,6 +124,7 @@ private:
     void SelectNode();
     void SelectBy(bool mouse);
     void SelectRoot();
+    bool HasClickedNode() const;
     void mnuToolsConfigure_Click();
     void ShowOptionalButtons();
     void RefreshTexts();
@@ -139,6 +140,7 @@ private:
     ReadResult ReadAside(const std::string& text);
     bool TakeFile(const std::string& path);
     bool RefuseReadOnly();
+    bool RefuseComplexes();
     bool WriteDocument();
     bool LeaveFile(bool saveElsewhere);
     bool MayExport();
@@ -156,7 +158,6 @@ private:
     bool OpenFromToolbar(std::string_view button);
     void SetLocked(bool locked);
     bool OpenDialog(std::string_view dialog);
-    bool IsOffered(const ui::ToolButton& button) const;
 
     // frmMain_edit.cpp
     void mnuEditNode_Click();

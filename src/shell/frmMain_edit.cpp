@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "globals/KVOGlobal.h"
+#include "records/BioSet.h"
 #include "records/TiedSets.h"
+#include "records/clsBP.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
@@ -44,6 +47,12 @@ bool TakePropertyOfMixtureSet() {
     return true;
 }
 
+/// One dialog serves several kinds of bio properties.
+bool TakeTypeOfBioSet() {
+    Globals().BioType = Globals().CurrentBP->PrpType;
+    return true;
+}
+
 constexpr EditRule EditRules[] = {
     {"R", "frmDocument", &KVOGlobal::EditSource},
     {"RL", "frmSubst", &KVOGlobal::EditCompound},
@@ -52,6 +61,7 @@ constexpr EditRule EditRules[] = {
     {"RLS1", "frmTwo", &KVOGlobal::EditTwo},
     {"RLS2", "frmTwo", &KVOGlobal::EditTwo},
     {"RXS1", "frmTwo", &KVOGlobal::EditTwo},
+    {"RXS2", "frmTwo", &KVOGlobal::EditTwo},
     {"RMZ", "frmMixtSingle", &KVOGlobal::EditMixtSingle, TakePropertyOfMixtureValue},
     {"RM1", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
     {"RM2", "frmMixtVar", &KVOGlobal::EditMixtVar, TakePropertyOfMixtureSet},
@@ -63,8 +73,8 @@ constexpr EditRule EditRules[] = {
     {"RXS", "frmComplexSample", &KVOGlobal::EditComplexSample},
     {"RXSX", "frmCrStruct", &KVOGlobal::EditCrystal},
     {"RBR", "frmBioReact", &KVOGlobal::EditBioReact},
-    {"RBP", "frmBioProp", &KVOGlobal::EditBioProp},
-    {"RXSP", "frmGH", &KVOGlobal::EditBioProp},
+    {"RBP", "frmBioProp", &KVOGlobal::EditBioProp, TakeTypeOfBioSet},
+    {"RXSP", "frmGH", &KVOGlobal::EditBioProp, TakeTypeOfBioSet},
 };
 
 const EditRule* RuleOf(std::string_view nodeKey) {
@@ -82,9 +92,12 @@ bool MayBeEdited(const EditRule& rule) {
 
 /// The dialog that begins a set like the one of a node; empty for a node without rows.
 std::string_view RepeatingDialog(std::string_view nodeKey) {
-    if (nodeKey == "RM1") return "frmMixtVar";
-    if (nodeKey == "RQE") return "frmEquil";
-    return nodeKey == "RLS1" ? "frmTwo" : "";
+    constexpr std::pair<std::string_view, std::string_view> dialogs[] = {
+        {"RM1", "frmMixtVar"},  {"RQE", "frmEquil"},   {"RLS1", "frmTwo"}, {"RXS1", "frmTwo"},
+        {"RBR", "frmBioReact"}, {"RBP", "frmBioProp"}, {"RXSP", "frmGH"}};
+    for (const auto& [key, dialog] : dialogs)
+        if (key == nodeKey) return dialog;
+    return {};
 }
 
 } // namespace
@@ -119,10 +132,10 @@ void frmMain::EditNode() {
     Activate();
 }
 
-/// Only sets against state variables have rows to begin anew.
+/// Only sets have rows to begin anew.
 bool frmMain::MayRepeat() const {
     const std::string_view dialog = RepeatingDialog(Globals().CurrentKey);
-    return !dialog.empty() && CurrentSet() && !Globals().ReadOnly &&
+    return !dialog.empty() && (CurrentBioSet() || CurrentSet()) && !Globals().ReadOnly &&
            ui::Forms::Current().Knows(dialog);
 }
 
@@ -131,7 +144,11 @@ void frmMain::mnuNewLike_Click() {
     KVOGlobal& globals = Globals();
     if (!HasMouseSelection() || !MayRepeat()) return;
     RenewCurrentMethod();
-    globals.SetToRepeat = CurrentSet();
+    globals.BioSetToRepeat = CurrentBioSet();
+    if (!globals.BioSetToRepeat)
+        globals.SetToRepeat = CurrentSet();
+    else if (globals.CurrentKey != "RBR")
+        TakeTypeOfBioSet();
     if (!OpenDialog(RepeatingDialog(globals.CurrentKey))) Activate();
 }
 

@@ -17,6 +17,15 @@ inline constexpr std::string_view PhaseEquilibriaKind =
     "VLE and LLE in binary and ternary mixtures";
 inline constexpr std::string_view OtherUnits = "ALL OTHER UNITS";
 
+/// The kinds of data that it offers elsewhere: below a complex sample, and of bio data.
+inline constexpr std::string_view BulkPropertyKind = "Bulk property";
+inline constexpr std::string_view PhaseEquilibriumKind = "Phase equilibrium";
+inline constexpr std::string_view CrystalStructureKind = "Crystal structure";
+inline constexpr std::string_view DecompositionKind = "Decomposition thermodynamics";
+inline constexpr std::string_view BioTransitionKind = "Bio Property from DSC (in solution)";
+inline constexpr std::string_view BioSolubilityKind = "Bio Substance Solubility";
+inline constexpr std::string_view BioReactionKind = "Bio Reaction";
+
 /// An entry of a list above a column: its code, and its text with the names of the components.
 struct HeadEntry {
     std::string code, text;

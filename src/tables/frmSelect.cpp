@@ -21,7 +21,7 @@ namespace {
 
 constexpr const char* NewEntry = "New";
 
-/// The kinds of tables below a node. Of those that are not processed a person is told so.
+/// The kinds of tables or data below a node.
 struct KindsOfNode {
     std::string_view nodeKey;
     std::span<const std::string_view> kinds;
@@ -29,10 +29,9 @@ struct KindsOfNode {
 
 constexpr std::string_view OfSample[] = {ThermalFunctionsKind};
 constexpr std::string_view OfMixture[] = {PhaseEquilibriaKind};
-constexpr std::string_view OfComplex[] = {"Bulk property", "Phase equilibrium", "Crystal structure",
-                                          "Decomposition thermodynamics"};
-constexpr std::string_view OfOthers[] = {"Bio Property from DSC (in solution)",
-                                         "Bio Substance Solubility", "Bio Reaction"};
+constexpr std::string_view OfComplex[] = {BulkPropertyKind, PhaseEquilibriumKind,
+                                          CrystalStructureKind, DecompositionKind};
+constexpr std::string_view OfOthers[] = {BioTransitionKind, BioSolubilityKind, BioReactionKind};
 constexpr KindsOfNode Kinds[] = {{"RLS", OfSample}, {"RM", OfMixture}, {"RXS", OfComplex}};
 
 } // namespace
@@ -46,7 +45,7 @@ frmSelect::frmSelect() : Form("frmSelect", "Table to process") {
 
 void frmSelect::ArrangeControls() {
     using namespace ui;
-    std::vector<Layout> parts{Field("Kind of table:", cboType), Field(lblMixt, cboMixt)};
+    std::vector<Layout> parts{Field(lblType, cboType), Field(lblMixt, cboMixt)};
     for (int n = 0; n < cboSample.Count(); ++n)
         parts.push_back(Field(lblSample(n), Narrow(cboSample(n), 24)));
     parts.push_back(Row({chkStatic, Stretch()}));
@@ -65,16 +64,26 @@ void frmSelect::WireEvents() {
 void frmSelect::Load() {
     KVOGlobal& globals = Globals();
     globals.DialogAccepted = false;
+    FillTypes();
+    ShowTableFields();
+    if (!IsOfTable()) return FillSamples();
     if (IsOfMixture())
         mixture_ = globals.CurrentM;
     else
         compound_ = CurrentCompound();
     chkStatic.Value(globals.StaticMode);
-    chkStatic.Visible(IsOfMixture());
-    lblMixt.Caption(IsOfMixture() ? "Mixture:" : "Compound:");
-    FillTypes();
     FillMixtures();
     FillSamples();
+}
+
+/// Other data are about what the tree has selected, or about what their form asks for.
+void frmSelect::ShowTableFields() {
+    Caption(IsOfTable() ? "Table to process" : "Data to enter");
+    lblType.Caption(IsOfTable() ? "Kind of table:" : "Kind of data:");
+    lblMixt.Caption(IsOfMixture() ? "Mixture:" : "Compound:");
+    lblMixt.Visible(IsOfTable());
+    cboMixt.Visible(IsOfTable());
+    chkStatic.Visible(IsOfMixture());
 }
 
 void frmSelect::MixtureClick() {
@@ -122,6 +131,10 @@ void frmSelect::SampleClick(std::size_t n) {
         list.Fill(list.System());
         list.Choose(made.get());
     }
+}
+
+bool frmSelect::IsOfTable() const {
+    return IsOfMixture() || Globals().CurrentKey == "RLS";
 }
 
 bool frmSelect::IsOfMixture() const {
@@ -188,10 +201,13 @@ void frmSelect::Accept() {
 }
 
 bool frmSelect::Check() {
-    if (cboType.Index() < 0) return Refuse(cboType, "Please select the kind of table");
-    const std::string& kind = cboType.Chosen();
-    if (kind != PhaseEquilibriaKind && kind != ThermalFunctionsKind)
-        return Refuse(cboType, "Other cases should be entered through the \"Property\" tool");
+    if (cboType.Index() < 0)
+        return Refuse(cboType,
+                      std::string("Please select the kind of ") + (IsOfTable() ? "table" : "data"));
+    return !IsOfTable() || CheckTable();
+}
+
+bool frmSelect::CheckTable() {
     if (IsOfMixture() ? !mixture_ : !compound_)
         return Refuse(cboMixt,
                       IsOfMixture() ? "Please select the mixture" : "Please select the compound");
@@ -202,8 +218,13 @@ bool frmSelect::Check() {
 }
 
 void frmSelect::Store() const {
+    Globals().TableKind = cboType.Chosen();
+    if (IsOfTable()) StoreTable();
+    Globals().DialogAccepted = true;
+}
+
+void frmSelect::StoreTable() const {
     KVOGlobal& globals = Globals();
-    globals.TableKind = cboType.Chosen();
     globals.StaticMode = chkStatic.Value();
     globals.ChosenSamples.clear();
     for (const SampleList& list : samples_)
@@ -218,7 +239,6 @@ void frmSelect::Store() const {
         globals.SystemClass = "Pure";
     }
     globals.DataContext = globals.SystemClass;
-    globals.DialogAccepted = true;
 }
 
 } // namespace vexora

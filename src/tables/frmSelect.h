@@ -11,12 +11,14 @@ namespace vexora {
 class clsL;
 class clsM;
 
-/// What a table to process is about: its kind, the compound with its sample or the mixture with
-/// those of its components. It tells by the globals; frmProcess opens behind it.
+/// The kind of what is to be entered: of a table to process, with the compound and its sample or
+/// the mixture and those of its components; of data below a complex sample; of bio data. It tells
+/// by the globals, and whoever showed it opens the form for it.
 class frmSelect : public ui::Form {
 public:
     frmSelect();
 
+    ui::Label lblType{*this, "lblType", "Kind of table:"};
     ui::ComboBox cboType{*this, "cboType"};
     ui::Label lblMixt{*this, "lblMixt", "Mixture:"};
     ui::ComboBox cboMixt{*this, "cboMixt"};
@@ -37,7 +39,9 @@ private:
     void SampleClick(std::size_t n);
 
     // What is offered.
+    bool IsOfTable() const;
     bool IsOfMixture() const;
+    void ShowTableFields();
     void FillTypes();
     void FillMixtures();
     void FillSamples();
@@ -46,7 +50,9 @@ private:
     // Accepting.
     void Accept();
     bool Check();
+    bool CheckTable();
     void Store() const;
+    void StoreTable() const;
 
     std::array<SampleList, 3> samples_{SampleList{*this, cboSample(0)},
                                        SampleList{*this, cboSample(1)},

@@ -25,7 +25,7 @@ protected:
         for (const char* name :
              {"frmDocument", "frmSubst", "frmComplex", "frmSample", "frmComplexSample", "frmMixt",
               "frmReact", "frmProperty", "frmSingle", "frmProcess", "frmMixtSingle", "frmChanged",
-              "frmCrStruct", "frmBioProp"})
+              "frmCrStruct", "frmBioProp", "frmBioReact", "frmGH"})
             Fake(name);
         Fake("frmSelect", false);
     }
@@ -42,16 +42,18 @@ TEST_F(ToolbarTest, EachNodeOffersItsButtons) {
     ASSERT_TRUE(Start(WriteDocument()));
     Globals().GHEnabled = true;
     Shell().AddComplex.Visible(true);
-    EXPECT_EQ(LiveAt("R"), "AddComp AddComplex AddMixt AddReact ");
-    EXPECT_EQ(LiveAt("RL"), "AddSample AddMixt AddReact ");
-    EXPECT_EQ(LiveAt("RX"), "AddSample AddReact ");
-    EXPECT_EQ(LiveAt("RM"), "AddProp AddTable ");
-    EXPECT_EQ(LiveAt("RLS"), "AddProp AddTable ");
-    EXPECT_EQ(LiveAt("RQ"), "AddProp ");
-    EXPECT_EQ(LiveAt("RXS"), "AddProp ");
-    EXPECT_EQ(LiveAt("RLSZ"), "");
+    Shell().AddBio.Visible(true);
+    EXPECT_EQ(LiveAt("R"), "AddComp AddComplex AddMixt AddReact AddBio ");
+    EXPECT_EQ(LiveAt("RL"), "AddSample AddMixt AddReact AddBio ");
+    EXPECT_EQ(LiveAt("RX"), "AddSample AddReact AddBio ");
+    EXPECT_EQ(LiveAt("RM"), "AddProp AddTable AddBio ");
+    EXPECT_EQ(LiveAt("RLS"), "AddProp AddTable AddBio ");
+    EXPECT_EQ(LiveAt("RQ"), "AddProp AddBio ");
+    EXPECT_EQ(LiveAt("RXS"), "AddProp AddBio ");
+    EXPECT_EQ(LiveAt("RLSZ"), "AddBio ");
+    EXPECT_EQ(LiveAt(""), "AddBio ");
     Globals().CurrentR->recL.Clear();
-    EXPECT_EQ(LiveAt("R"), "AddComp ");
+    EXPECT_EQ(LiveAt("R"), "AddComp AddBio ");
     Shell().NewProc();
     EXPECT_EQ(LiveButtons(), "AddRef ");
 }
@@ -146,6 +148,40 @@ TEST_F(ToolbarTest, EveryStopLeavesTheShellLive) {
     };
     Shell().AddTable.UserClick();
     EXPECT_TRUE(IsOpen("frmProcess") && Globals().ShellLocked);
+}
+
+TEST_F(ToolbarTest, TheChosenKindOfBioDataOpensItsDialogAndNoChoiceLeavesTheSelection) {
+    FakeAll();
+    Globals().BioEnabled = true;
+    ASSERT_TRUE(Start(WriteDocument()));
+    Shell().AddBio.Visible(true);
+    ClickNode("water");
+    std::string key;
+    int kind = -1;
+    desktop.InModal = [&](ui::Form& form) {
+        key = Globals().CurrentKey;
+        constexpr const char* kinds[] = {"Bio Property from DSC (in solution)",
+                                         "Bio Substance Solubility", "Bio Reaction"};
+        Globals().DialogAccepted = kind >= 0;
+        if (kind >= 0) Globals().TableKind = kinds[kind];
+        form.Close();
+    };
+    Shell().AddBio.UserClick();
+    EXPECT_EQ(key, "");
+    EXPECT_EQ(Globals().CurrentKey + " " + Globals().DataContext, "RL Pure");
+    EXPECT_TRUE(Globals().Saved && !Globals().ShellLocked);
+    const std::pair<const char*, const char*> opened[] = {
+        {"frmBioProp", "D"}, {"frmBioProp", "S"}, {"frmBioReact", ""}};
+    for (const auto& [dialog, type] : opened) {
+        ++kind;
+        Shell().AddBio.UserClick();
+        ASSERT_TRUE(IsOpen(dialog) && Globals().ShellLocked);
+        EXPECT_EQ(Globals().BioType + Globals().DataContext, std::string(type) + "Bio");
+        EXPECT_EQ(Globals().CurrentKey, "");
+        workbench.Forms().Get(dialog).Close();
+        EXPECT_EQ(Globals().CurrentKey, "RL") << "the selection stays";
+        EXPECT_TRUE(Globals().Saved);
+    }
 }
 
 TEST_F(ToolbarTest, AnEditRunsModallyUnderItsFlagAndRefreshesTheNode) {

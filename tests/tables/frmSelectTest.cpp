@@ -129,19 +129,26 @@ TEST_F(frmSelectTest, ANewMixtureIsChosenAndACancelledOneLeavesWhatWasThere) {
     EXPECT_FALSE(globals.DialogAccepted);
 }
 
-TEST_F(frmSelectTest, OtherKindsAreOfferedAndRefused) {
-    auto& complex = At("RXS");
-    EXPECT_EQ(Entries(complex.cboType), "Bulk property|Phase equilibrium|Crystal structure|"
-                                        "Decomposition thermodynamics|");
-    desktop.Expect("Please select the kind of table");
-    complex.cmdOK.UserClick();
-    Pick(complex.cboType, "Crystal structure");
-    desktop.Expect("Other cases should be entered through the \"Property\" tool");
-    complex.cmdOK.UserClick();
-    EXPECT_TRUE(complex.cboType.HasFocus());
-    complex.Close();
-    EXPECT_EQ(Entries(At("").cboType),
-              "Bio Property from DSC (in solution)|Bio Substance Solubility|Bio Reaction|");
+TEST_F(frmSelectTest, OtherKindsOfDataAskForNothingElse) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"RXS", "Bulk property|Phase equilibrium|Crystal structure|Decomposition thermodynamics|"},
+        {"", "Bio Property from DSC (in solution)|Bio Substance Solubility|Bio Reaction|"}};
+    globals.DataContext = "Pure";
+    for (const auto& [key, entries] : cases) {
+        auto& dialog = At(key);
+        EXPECT_EQ(Entries(dialog.cboType), entries);
+        EXPECT_EQ(dialog.Caption() + dialog.lblType.Caption(), "Data to enterKind of data:");
+        EXPECT_EQ(Samples(dialog), "-|-|-|");
+        EXPECT_FALSE(dialog.cboMixt.IsShown() || dialog.chkStatic.IsShown());
+        desktop.Expect("Please select the kind of data");
+        dialog.cmdOK.UserClick();
+        EXPECT_TRUE(dialog.cboType.HasFocus());
+        dialog.cboType.UserChoose(2);
+        dialog.cmdOK.UserClick();
+        EXPECT_TRUE(globals.DialogAccepted && !dialog.IsOpen());
+    }
+    EXPECT_EQ(globals.TableKind + " " + globals.DataContext, "Bio Reaction Pure");
+    EXPECT_EQ(globals.CurrentL, water);
 }
 
 std::string Texts(const std::vector<HeadEntry>& entries) {
