@@ -5,8 +5,13 @@
 #include <iterator>
 
 #include "globals/KVOGlobal.h"
+#include "records/BioSetFacts.h"
 #include "records/LineWriter.h"
 #include "records/Walk.h"
+#include "records/clsBP.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
+#include "records/clsCrS.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsMV.h"
@@ -42,7 +47,18 @@ std::string WhyCompoundStays(const Record& record) {
     const bool isUsed = std::any_of(reactions.begin(), reactions.end(), [&](const auto& reaction) {
         return reaction->Uses(compound.RN);
     });
-    return isUsed ? Blocked : "";
+    const bool isInComplex =
+        std::ranges::any_of(compound.Parent->recComplex,
+                            [&](const auto& complex) { return complex->Uses(compound.RN); });
+    return isUsed || isInComplex || IsUsedInBioSets(compound) ? Blocked : "";
+}
+
+/// A complex names it, or one of the samples of a complex.
+bool IsUsedInComplexes(const clsS& sample) {
+    const clsR* const source = sample.Parent ? sample.Parent->Parent : nullptr;
+    return source && std::ranges::any_of(source->recComplex, [&](const auto& complex) {
+               return complex->UsesSample(sample.Parent->RN, sample.SMPNM);
+           });
 }
 
 std::string WhySampleStays(const Record& record) {
@@ -50,7 +66,25 @@ std::string WhySampleStays(const Record& record) {
     if (!sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty()) return Blocked;
     const std::string stays = "You cannot delete this record because properties of ";
     if (IsUsedInMixtures(sample)) return stays + "mixtures containing this sample are present";
-    if (IsUsedInReactionData(sample)) return stays + "reactions involving this sample are present";
+    if (IsUsedInReactionData(sample) || IsUsedInBioSets(sample))
+        return stays + "reactions involving this sample are present";
+    return IsUsedInReactions(sample) || IsUsedInComplexes(sample) ? Blocked : "";
+}
+
+std::string WhyComplexStays(const Record& record) {
+    const auto& complex = static_cast<const clsComplex&>(record);
+    const bool isUsed = complex.Parent && complex.Parent->Names(complex.RN);
+    return !complex.recS.IsEmpty() || isUsed ? Blocked : "";
+}
+
+std::string WhyComplexSampleStays(const Record& record) {
+    const auto& sample = static_cast<const clsComplexSample&>(record);
+    const bool hasData = !sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty() ||
+                         !sample.recBP.IsEmpty() || !sample.recCrS.IsEmpty();
+    if (hasData) return Blocked;
+    if (IsUsedInReactionData(sample))
+        return "You cannot delete this record because properties of reactions involving this "
+               "sample are present";
     return IsUsedInReactions(sample) ? Blocked : "";
 }
 
@@ -83,6 +117,14 @@ constexpr DeletionRule Rules[] = {
     {"RQ", WhyReactionStays},
     {"RQC"},
     {"RQE"},
+    {"RBR"},
+    {"RBP"},
+    {"RX", WhyComplexStays},
+    {"RXS", WhyComplexSampleStays},
+    {"RXS1"},
+    {"RXS2"},
+    {"RXSP"},
+    {"RXSX"},
 };
 
 const DeletionRule* RuleOf(std::string_view nodeKey) {

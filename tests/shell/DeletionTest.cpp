@@ -2,7 +2,7 @@
 #include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
-#include "shell/ShellFixture.h"
+#include "shell/BioFixture.h"
 
 #include <utility>
 
@@ -106,16 +106,22 @@ TEST_F(DeletionTest, NothingGoesWithWhatDependsOnIt) {
     EXPECT_FALSE(Shell().mnuUndoDelete.Enabled());
 }
 
-/// A reaction before it has data, and one with some, of compounds that nothing else needs.
-class ReactionDeletionTest : public ShellFixture {
+/// Deletes by label and boxes: the two questions are answered with Yes.
+template <class Fixture>
+class LabelDeletion : public Fixture {
 protected:
     void Delete(const std::string& node, const std::vector<std::string>& boxes) {
-        ClickNode(node);
+        this->ClickNode(node);
         for (const std::string& box : boxes)
-            desktop.Expect(box, box == Sure || box == DataToo ? ui::Answer::Yes : ui::Answer::Ok);
-        Shell().mnuDelete.UserClick();
+            this->desktop.Expect(box,
+                                 box == Sure || box == DataToo ? ui::Answer::Yes : ui::Answer::Ok);
+        this->Shell().mnuDelete.UserClick();
     }
 };
+
+/// A reaction before it has data, and one with some, of compounds that nothing else needs.
+using ReactionDeletionTest = LabelDeletion<ShellFixture>;
+using BioDeletionTest = LabelDeletion<BioFixture>;
 
 TEST_F(ReactionDeletionTest, ReactionsKeepTheirCompoundsAndSamples) {
     const std::string head = "^A & O & & & & & &\n";
@@ -156,6 +162,34 @@ TEST_F(ReactionDeletionTest, ReactionsKeepTheirCompoundsAndSamples) {
     }
     Delete(goes[1].first, goes[1].second);
     Delete("Sample 1 (cm)", {Blocked}); // the reaction goes on naming it
+}
+
+TEST_F(BioDeletionTest, BioSetsKeepTheirCompoundsAndSamplesAndComeBack) {
+    const std::string path = WriteBio();
+    ASSERT_TRUE(Start(path));
+    Shell().Save();
+    const std::string saved = FileText(path);
+    const std::string inData = "You cannot delete this record because properties of reactions "
+                               "involving this sample are present";
+    Delete("D-fructose", {Blocked});              // a participant without a sample
+    Delete("Sample 1 (cm;;99%,gc)", {inData});    // of the glucose
+    Delete("Sample 1 (rs;;99%,gc)", {inData});    // of the substance
+    Delete("Sample 1 (cm;;99.9m%,gc)", {inData}); // of the solvent
+    Delete("Sample 2 (ns)", {Sure});
+    Shell().mnuUndoDelete.UserClick();
+    EXPECT_TRUE(Globals().Saved);
+    const std::string reaction = "BioReaction 1 (D-glucose = D-fructose)",
+                      transition = "BioProperty Set # 1 (lysozyme) from DSC (Native, Denatured)";
+    for (const std::string& node : {reaction, transition}) {
+        Delete(node, {Sure, DataToo});
+        EXPECT_FALSE(Globals().Saved) << node;
+        Shell().mnuUndoDelete.UserClick();
+        EXPECT_TRUE(Globals().Saved) << node;
+        Shell().Save();
+        EXPECT_EQ(FileText(path), saved) << node;
+    }
+    Delete(reaction, {Sure, DataToo});
+    Delete("D-fructose", {Sure});
 }
 
 TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFile) {
