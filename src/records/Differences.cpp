@@ -51,12 +51,34 @@ Places AllPlaces(std::size_t count) {
     return places;
 }
 
+/// Rows brought under other columns, by name; a column that is not there any more is dropped.
+std::vector<std::string> RowsUnder(const std::vector<std::string>& columns,
+                                   const Outline& outline) {
+    std::vector<std::size_t> from;
+    for (const std::string& column : columns) {
+        const auto found = std::ranges::find(outline.columns, column);
+        from.push_back(static_cast<std::size_t>(found - outline.columns.begin()));
+    }
+    std::vector<std::string> rows;
+    for (const std::string& row : outline.rows) {
+        const std::vector<std::string> parts = Split(row, '\t');
+        std::string text;
+        for (std::size_t i = 0; i < from.size(); ++i)
+            text += (i > 0 ? "\t" : "") + (from[i] < parts.size() ? parts[from[i]] : std::string());
+        rows.push_back(std::move(text));
+    }
+    return rows;
+}
+
 class Comparison {
 public:
     void Compare(const Outline& before, const Outline& after) {
         path_.push_back(after.label);
         CompareFields(before, after);
-        CompareRows(before, after);
+        if (before.columns == after.columns)
+            CompareRows(before.rows, after);
+        else
+            CompareRows(RowsUnder(after.columns, before), after);
         CompareChildren(before, after);
         path_.pop_back();
     }
@@ -108,11 +130,11 @@ private:
 
     /// Rows that are alike to the letter go first, then those at the same values of the variables,
     /// as typed or as numbers; what is left is the same row only where as many have gone as come.
-    void CompareRows(const Outline& before, const Outline& after) {
-        Places gone = AllPlaces(before.rows.size());
+    void CompareRows(const std::vector<std::string>& before, const Outline& after) {
+        Places gone = AllPlaces(before.size());
         Places come = AllPlaces(after.rows.size());
         const auto rowOf = [&](bool isAfter, std::size_t i) -> const std::string& {
-            return (isAfter ? after : before).rows[i];
+            return isAfter ? after.rows[i] : before[i];
         };
         TakePairs(gone, come, rowOf);
         Pairs pairs = TakePairs(gone, come, [&](bool isAfter, std::size_t i) {
@@ -131,9 +153,9 @@ private:
         std::sort(pairs.begin(), pairs.end(),
                   [](const auto& a, const auto& b) { return a.second < b.second; });
         for (const auto& [i, j] : pairs)
-            CompareCells(after.columns, j, before.rows[i], after.rows[j]);
+            CompareCells(after.columns, j, before[i], after.rows[j]);
         for (const std::size_t i : gone)
-            Add(Difference::Kind::OnlyBefore, RowName(i), Values(before.rows[i]), "");
+            Add(Difference::Kind::OnlyBefore, RowName(i), Values(before[i]), "");
         for (const std::size_t i : come)
             Add(Difference::Kind::OnlyAfter, RowName(i), "", Values(after.rows[i]));
     }

@@ -62,6 +62,11 @@ constexpr LineGrammar Grammars[] = {
     {"BV", ' ', "quantity,unit,phase,component,uncertainty,role,value"},
     {"BM", ' ', "method"},
     {"B0", ' ', "first mark,second mark"},
+    {"XB", ' ',
+     "space group,a,b,c,alpha,beta,gamma,uncertainty of a,uncertainty of b,uncertainty of c,"
+     "uncertainty of alpha,uncertainty of beta,uncertainty of gamma,method"},
+    {"XD", ' ', "first atom,second atom,distance,uncertainty"},
+    {"XC", ' ', "atom,x,uncertainty of x,y,uncertainty of y,z,uncertainty of z,occupancy"},
     {"^X", ' ',
      "-,quantity,phase,device specification,judge of the device,confidence of the device,"
      "specified by the device,repeatability,kind of repeatability,repeatability value,repetitions,"

@@ -6,6 +6,8 @@
 #include "records/LineWriter.h"
 #include "records/PropertyChain.h"
 #include "records/Walk.h"
+#include "records/clsBR.h"
+#include "records/clsL.h"
 #include "records/clsMV.h"
 #include "records/clsMZ.h"
 #include "records/clsR.h"
@@ -24,9 +26,11 @@ namespace {
 
 /// A key may hold what the user can change; the number stays.
 std::string IdentityOf(const Record& record) {
-    static const auto number = ByClass<std::string>()
-                                   .On<clsR>([](const clsR&) { return std::string("source"); })
-                                   .On<clsS>([](const clsS& sample) { return sample.SMPNM; });
+    static const auto number =
+        ByClass<std::string>()
+            .On<clsR>([](const clsR&) { return std::string("source"); })
+            .On<clsS>([](const clsS& sample) { return sample.SMPNM; })
+            .On<clsBR>([](const clsBR& set) { return std::to_string(set.SetNo); });
     return std::string(typeid(record).name()) + " " +
            (number.Knows(record) ? number(record) : record.Key());
 }
@@ -39,21 +43,24 @@ int ComponentsOf(const Record& record) {
     return components.Knows(record) ? components(record) : 1;
 }
 
-constexpr std::string_view RowKinds[] = {"^D", "^G", "^Y"};
+constexpr std::string_view RowKinds[] = {"^D", "^G", "^Y", "BD"};
 
 bool IsRow(std::string_view kind) {
     return std::find(std::begin(RowKinds), std::end(RowKinds), kind) != std::end(RowKinds);
 }
 
-/// Lines of one kind after the first get a number, those of a statement bear its quantity.
+/// Lines of one kind after the first get a number; those of a statement bear its quantity, those of
+/// a bio set the quantity or the compound that they are about.
 class FieldCollector {
 public:
-    FieldCollector(Outline& outline, int components) : outline_(outline), components_(components) {}
+    FieldCollector(Outline& outline, const Record& record)
+        : outline_(outline), components_(ComponentsOf(record)),
+          bioSet_(dynamic_cast<const BioSet*>(&record)) {}
 
     void Add(std::string_view line) {
         const std::string kind = LineKind(line);
         auto fields = NamedFields(line, components_);
-        std::string prefix;
+        std::string prefix = SubjectOf(kind, fields);
         if (kind == "^X" && fields.size() > 1)
             prefix = fields[1].second + ", ";
         else if (kind == "^I")
@@ -66,8 +73,23 @@ public:
     }
 
 private:
+    static std::string NameOfKey(const std::string& key) { return NameOfRN(BioSet::RNOfKey(key)); }
+    using Fields = std::vector<std::pair<std::string, std::string>>;
+    std::string SubjectOf(std::string_view kind, const Fields& fields) {
+        if (kind == "BV" && bioSet_ && quantity_ < bioSet_->Quantities().size())
+            return bioSet_->NameOf(bioSet_->Quantities()[quantity_++]) + ", ";
+        if (!IsOneOf(kind, {"BP", "BC", "CC", "SS"})) return {};
+        for (const auto& [name, text] : fields)
+            if (name == (kind == "BP" ? "registry number" : "component"))
+                return (kind == "BP" ? "" : "component ") +
+                       (NameOfKey(text).empty() ? text : NameOfKey(text)) + ", ";
+        return {};
+    }
+
     Outline& outline_;
     int components_; // of the system that the lines are about
+    const BioSet* bioSet_;
+    std::size_t quantity_ = 0; // of the next line about one
     std::map<std::string, int> count_;
 };
 
@@ -129,6 +151,28 @@ void AddRows(Outline& outline, const DataSet& set, bool isWritten) {
         std::ranges::for_each(set.recData, add);
 }
 
+void AddRows(Outline& outline, const BioSet& set) {
+    const std::size_t properties = set.CountOf(BioRole::Property);
+    std::vector<std::size_t> places; // the variables first
+    for (std::size_t n = 0; n < set.Columns(); ++n)
+        places.push_back((n + properties) % set.Columns());
+    outline.variables = set.Columns() - properties;
+    outline.columns = {"units"};
+    for (const std::size_t place : places)
+        outline.columns.push_back(set.NameOf(set.Quantities()[place]));
+    for (const std::size_t place : places)
+        outline.columns.push_back("uncertainty of " + set.NameOf(set.Quantities()[place]));
+    for (const clsBD& row : set.recD) {
+        std::string text;
+        const auto add = [&text](std::string_view part) { text.append("\t").append(part); };
+        for (const auto part : {&BioCell::value, &BioCell::uncertainty})
+            for (const std::size_t place : places)
+                add(place < row.Cells.size() ? std::string_view(row.Cells[place].*part)
+                                             : std::string_view());
+        outline.rows.push_back(std::move(text));
+    }
+}
+
 std::string IdentityOfSource(std::size_t place) {
     return "source " + std::to_string(place);
 }
@@ -160,10 +204,11 @@ Outline OutlineOf(Record& record) {
         outline.fields.emplace_back("cannot be written", refused.what());
         isWritten = false;
     }
-    FieldCollector fields(outline, ComponentsOf(record));
+    FieldCollector fields(outline, record);
     for (const std::string& line : Split(lines.Text(), '\n'))
         if (!Trim(line).empty() && !IsRow(LineKind(line))) fields.Add(line);
     if (const auto* set = dynamic_cast<const DataSet*>(&record)) AddRows(outline, *set, isWritten);
+    if (const auto* set = dynamic_cast<const BioSet*>(&record)) AddRows(outline, *set);
     record.EachChild([&outline](Record& child) { outline.children.push_back(OutlineOf(child)); });
     return outline;
 }

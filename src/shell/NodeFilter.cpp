@@ -7,6 +7,11 @@
 #include "compounds/RegistryNumber.h"
 #include "records/DataSet.h"
 #include "records/SingleValue.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
+#include "records/clsCrS.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
 #include "records/clsQ.h"
@@ -36,8 +41,75 @@ std::string NameOf(const DataSet& set, int n) {
     return set.VariableWords(n);
 }
 
+std::string CompoundText(const clsL& compound) {
+    std::string text;
+    for (const std::string& part :
+         {compound.Name, compound.Formula, compound.RN, compound.EC, compound.PDB})
+        text.append(part) += Between;
+    if (compound.RN.size() > 3) text += DashedRegistryNumber(compound.RN) + Between;
+    return text;
+}
+
 std::string VariableText(const std::string& name, const std::string& unit) {
     return name + Between + UnitText(DefaultUnit(name), unit, 0) + Between;
+}
+
+bool AnyBioValue(const BioSet& set, const std::function<bool(std::string_view)>& holds) {
+    return std::ranges::any_of(set.Quantities(),
+                               [&](const BioQuantity& one) { return holds(one.value); }) ||
+           std::ranges::any_of(set.recD, [&](const clsBD& row) {
+               return std::ranges::any_of(row.Cells,
+                                          [&](const BioCell& cell) { return holds(cell.value); });
+           });
+}
+
+/// All that is said of the compounds, the solution and the quantities of a bio set.
+std::string BioText(const BioSet& set) {
+    std::string text;
+    const auto add = [&text](std::string_view part) { text.append(part) += Between; };
+    std::vector<std::string> keys = set.ParticipantKeys();
+    for (std::size_t n = 0; n < set.Components.size(); ++n) {
+        keys.push_back(set.KeyOf(n));
+        add(set.Components[n].function);
+        add(set.Components[n].note);
+    }
+    for (const std::string& key : keys) {
+        add(set.CompoundName(key));
+        if (const auto compound = set.CompoundOf(key)) text += CompoundText(*compound);
+    }
+    for (const BioQuantity& quantity : set.Quantities()) {
+        add(set.NameOf(quantity));
+        add(quantity.unit);
+    }
+    for (const std::string& part : {set.Method, CommentDisplayText(set.Header.DATACOMMENT)})
+        add(part);
+    if (const auto* reaction = dynamic_cast<const clsBR*>(&set))
+        add(reaction->Notation ? "chemical" : "biochemical");
+    if (const auto* property = dynamic_cast<const clsBP*>(&set))
+        for (const std::string& state : {property->State1, property->State2})
+            add(state);
+    return text;
+}
+
+/// The cell constants and distances of a structure.
+std::vector<std::string> FiguresOf(const clsCrS& structure) {
+    std::vector<std::string> figures = {structure.A,     structure.B,    structure.C,
+                                        structure.Alpha, structure.Beta, structure.GammaText()};
+    for (const CrystalDistance& one : structure.Distances)
+        figures.push_back(one.DD);
+    return figures;
+}
+
+/// What is said of a complex or its sample by its components.
+template <class Components>
+std::string ComponentText(const Components& components, const clsR* source) {
+    std::string text;
+    for (const auto& component : components) {
+        const auto compound = source ? source->FindL(component.RN) : nullptr;
+        text += compound ? CompoundText(*compound) : component.RN + Between;
+        text += component.content.value + Between;
+    }
+    return text;
 }
 
 /// Hands on the values of a record as typed until the answer is true.
@@ -46,6 +118,9 @@ bool AnyValue(const Record* record, const std::function<bool(std::string_view)>&
         const auto* pure = dynamic_cast<const clsZ*>(record);
         return holds(value->PRPVALUE) || (pure != nullptr && holds(pure->INDVARIABLE));
     }
+    if (const auto* bio = dynamic_cast<const BioSet*>(record)) return AnyBioValue(*bio, holds);
+    if (const auto* structure = dynamic_cast<const clsCrS*>(record))
+        return std::ranges::any_of(FiguresOf(*structure), holds);
     const auto* set = dynamic_cast<const DataSet*>(record);
     if (set == nullptr) return false;
     return std::any_of(set->recData.begin(), set->recData.end(), [&](const clsData& row) {
@@ -125,11 +200,7 @@ std::string NodeFilter::TextOf(const ui::TreeNode& node) {
             text += VariableText(NameOf(data, n), data.VAR_UNIT(n));
         add(CommentText(data.Header, data.PRPCODE));
     };
-    const auto addCompound = [&](const clsL& compound) {
-        for (const std::string& part : {compound.Name, compound.Formula, compound.RN})
-            add(part);
-        if (compound.RN.size() > 3) add(DashedRegistryNumber(compound.RN));
-    };
+    const auto addCompound = [&text](const clsL& compound) { text += CompoundText(compound); };
     if (const auto* source = dynamic_cast<const clsR*>(tag.get())) {
         add(source->TTITLE);
     } else if (const auto* compound = dynamic_cast<const clsL*>(tag.get())) {
@@ -148,6 +219,19 @@ std::string NodeFilter::TextOf(const ui::TreeNode& node) {
         addProperty(*value, value->VariableCount());
     } else if (const auto* set = dynamic_cast<const DataSet*>(tag.get())) {
         addProperty(*set, set->nVar);
+    } else if (const auto* bioSet = dynamic_cast<const BioSet*>(tag.get())) {
+        text += BioText(*bioSet);
+    } else if (const auto* complex = dynamic_cast<const clsComplex*>(tag.get())) {
+        text += ComponentText(complex->Components, complex->Parent);
+        for (const ComplexComponent& component : complex->Components)
+            add(component.function);
+    } else if (const auto* part = dynamic_cast<const clsComplexSample*>(tag.get())) {
+        text += ComponentText(part->Components, part->Parent ? part->Parent->Parent : nullptr);
+        for (const std::string& said : {part->Method, CommentDisplayText(part->Header.DATACOMMENT)})
+            add(said);
+    } else if (const auto* structure = dynamic_cast<const clsCrS*>(tag.get())) {
+        for (const std::string& said : {structure->SpaceGroup, structure->Method})
+            add(said);
     }
     return LowerAscii(text);
 }

@@ -3,6 +3,7 @@
 #include "chem/CommentTags.h"
 #include "plot/RtfText.h"
 #include "records/clsA.h"
+#include "records/clsX.h"
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
@@ -37,6 +38,22 @@ std::string MethodText(const clsA& header, const std::string& propertyCode) {
 
 std::string PhaseText(std::string_view code) {
     return IsBlankField(code) ? std::string() : PhaseName(code);
+}
+
+std::string UncertaintyText(const clsX& stated) {
+    const auto with = [](const std::string& text, const std::string& level) {
+        return IsBlankField(level) ? text : text + " (" + level + " % confidence)";
+    };
+    if (stated.iCU && !IsBlankField(stated.CValue)) return with(stated.CValue, stated.CLevel);
+    if (stated.iUnc && !IsBlankField(stated.UValue)) return with(stated.UValue, stated.ULevel);
+    return {};
+}
+
+std::string Listed(std::initializer_list<std::string> parts) {
+    std::string text;
+    for (const std::string& part : parts)
+        if (!part.empty()) text += (text.empty() ? "" : ", ") + part;
+    return text;
 }
 
 } // namespace vexora

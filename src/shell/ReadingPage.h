@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -8,6 +9,7 @@
 namespace vexora {
 
 class clsA;
+class clsX;
 
 /// Collects a page of the reading pane: a heading, lines of "what: value", and what is missing.
 class ReadingPage {
@@ -31,5 +33,10 @@ private:
 std::string MethodText(const clsA& header, const std::string& propertyCode);
 /// A phase in words; empty for none.
 std::string PhaseText(std::string_view code);
+/// The combined uncertainty of a statement, else that of the author, with its confidence; empty for
+/// none that is meant to hold.
+std::string UncertaintyText(const clsX& stated);
+/// Parts that are not empty, with commas between them.
+std::string Listed(std::initializer_list<std::string> parts);
 
 } // namespace vexora

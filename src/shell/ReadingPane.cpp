@@ -4,13 +4,19 @@
 #include "chem/CommentTags.h"
 #include "compounds/RegistryNumber.h"
 #include "globals/KVOGlobal.h"
+#include "records/BioSetFacts.h"
 #include "records/MixtureWords.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
 #include "records/StatedUncertainty.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsC.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
+#include "records/clsCrS.h"
 #include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
@@ -27,6 +33,8 @@
 #include "reference/Text.h"
 #include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
+#include "shell/BioReading.h"
+#include "shell/ComplexReading.h"
 #include "shell/ReadingPage.h"
 #include "shell/SetReading.h"
 
@@ -48,11 +56,7 @@ std::string AuthorsOf(const clsR& source) {
 /// What is stated about the uncertainty of a value, the most telling statement first.
 std::string UncertaintyText(const SingleValue& value) {
     const clsX stated = value.Statements(0);
-    const auto with = [](const std::string& text, const std::string& level) {
-        return IsBlankField(level) ? text : text + " (" + level + " % confidence)";
-    };
-    if (stated.iCU && !IsBlankField(stated.CValue)) return with(stated.CValue, stated.CLevel);
-    if (stated.iUnc && !IsBlankField(stated.UValue)) return with(stated.UValue, stated.ULevel);
+    if (const std::string text = UncertaintyText(stated); !text.empty()) return text;
     if (!IsBlankField(value.PRPUNCERTY)) return value.PRPUNCERTY;
     if (stated.iRep && !IsBlankField(stated.RValue)) return stated.RValue;
     return IsBlankField(value.PRECIS) ? std::string() : std::string(value.PRECIS);
@@ -95,6 +99,10 @@ std::string ReadingOf(const clsR& source) {
     page.Line("Compounds:", std::to_string(source.recL.Count()));
     if (!source.recM.IsEmpty()) page.Line("Mixtures:", std::to_string(source.recM.Count()));
     if (!source.recQ.IsEmpty()) page.Line("Reactions:", std::to_string(source.recQ.Count()));
+    if (const std::size_t sets = source.recBR.Count() + source.recBP.Count(); sets > 0)
+        page.Line("Bio data sets:", std::to_string(sets));
+    if (!source.recComplex.IsEmpty())
+        page.Line("Complexes:", std::to_string(source.recComplex.Count()));
     if (!source.isNew) page.Item("This source stands in the reference database; it is not edited.");
     page.Need(source.recL.IsEmpty(), "A compound");
     page.Need(source.isNew && source.TTITLE.empty(), "The title");
@@ -109,6 +117,10 @@ std::string ReadingOf(const clsL& compound) {
     page.Line("Registry number:",
               compound.RN.size() < 4 ? compound.RN : DashedRegistryNumber(compound.RN));
     if (compound.isNew) page.Item("New to the reference database.");
+    page.Line("Enzyme number (EC):", compound.EC);
+    page.Line("Structure code (PDB):", compound.PDB);
+    if (compound.Charge != 0)
+        page.Line("Charge:", (compound.Charge > 0 ? "+" : "") + std::to_string(compound.Charge));
     page.Line("Samples:", std::to_string(compound.recS.Count()));
     page.Need(compound.Formula.empty(), "The formula");
     const auto* source = compound.Parent;
@@ -136,20 +148,40 @@ void DescribeSample(ReadingPage& page, const clsS& sample) {
     page.Need(used && sample.Purity <= 0, "A statement of purity");
 }
 
-std::string ReadingOf(const clsS& sample) {
-    ReadingPage page("Sample " + sample.SMPNM);
-    if (sample.Parent != nullptr) page.Line("Compound:", sample.Parent->ShowKey());
-    DescribeSample(page, sample);
-    if (sample.Purity > 0) page.Line("Purity that counts:", NumberText(sample.Purity) + " %");
+/// The data of a sample of a compound or a complex.
+void DescribeData(ReadingPage& page, const SubstanceSample& sample, const std::string& more = {}) {
     page.Line("Holds:", Counted(sample.recZ.Count(), "single value", "single values") + ", " +
-                            Counted(sample.recTwo.Count(), "data set", "data sets"));
+                            Counted(sample.recTwo.Count(), "data set", "data sets") + more);
     for (const auto& value : sample.recZ)
         page.Line(PropertyName(value->PRPCODE, value->DataContext()) + ":", ValueText(*value));
     for (const auto& set : sample.recTwo)
         page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
                   Counted(set->recData.Count(), "row", "rows"));
+}
+
+std::string ReadingOf(const clsComplexSample& sample) {
+    ReadingPage page(sample.ShowKey());
+    DescribeComplexSample(page, sample);
+    DescribeData(page, sample,
+                 ", " + Counted(sample.recBP.Count(), "phase equilibrium", "phase equilibria") +
+                     ", " +
+                     Counted(sample.recCrS.Count(), "crystal structure", "crystal structures"));
+    page.Need(sample.recZ.IsEmpty() && sample.recTwo.IsEmpty() && sample.recBP.IsEmpty() &&
+                  sample.recCrS.IsEmpty() && !IsUsedInReactions(sample),
+              "Data");
+    return page.Html();
+}
+
+std::string ReadingOf(const clsS& sample) {
+    ReadingPage page("Sample " + sample.SMPNM);
+    if (sample.Parent != nullptr) page.Line("Compound:", sample.Parent->ShowKey());
+    DescribeSample(page, sample);
+    if (sample.Purity > 0) page.Line("Purity that counts:", NumberText(sample.Purity) + " %");
+    DescribeData(page, sample);
     const bool hasOwn = !sample.recZ.IsEmpty() || !sample.recTwo.IsEmpty();
-    page.Need(!hasOwn && !IsUsedInMixtures(sample) && !IsUsedInReactions(sample), "Data");
+    page.Need(!hasOwn && !IsUsedInMixtures(sample) && !IsUsedInReactions(sample) &&
+                  !IsUsedInBioSets(sample),
+              "Data");
     return page.Html();
 }
 
@@ -277,18 +309,24 @@ std::string ReadingOf(const clsC& value) {
 
 /// What the pane shows of a record, by its class.
 const ByClass<std::string>& Readings() {
-    static const auto readings = ByClass<std::string>()
-                                     .On<clsR>([](const clsR& one) { return ReadingOf(one); })
-                                     .On<clsL>([](const clsL& one) { return ReadingOf(one); })
-                                     .On<clsS>([](const clsS& one) { return ReadingOf(one); })
-                                     .On<clsZ>([](const clsZ& one) { return ReadingOf(one); })
-                                     .On<clsTwo>(ReadingOfSet)
-                                     .On<clsM>([](const clsM& one) { return ReadingOf(one); })
-                                     .On<clsMZ>([](const clsMZ& one) { return ReadingOf(one); })
-                                     .On<clsMV>(ReadingOfMixtureSet)
-                                     .On<clsQ>([](const clsQ& one) { return ReadingOf(one); })
-                                     .On<clsC>([](const clsC& one) { return ReadingOf(one); })
-                                     .On<clsE>(ReadingOfEquilibrium);
+    static const auto readings =
+        ByClass<std::string>()
+            .On<clsR>([](const clsR& one) { return ReadingOf(one); })
+            .On<clsL>([](const clsL& one) { return ReadingOf(one); })
+            .On<clsS>([](const clsS& one) { return ReadingOf(one); })
+            .On<clsZ>([](const clsZ& one) { return ReadingOf(one); })
+            .On<clsTwo>(ReadingOfSet)
+            .On<clsM>([](const clsM& one) { return ReadingOf(one); })
+            .On<clsMZ>([](const clsMZ& one) { return ReadingOf(one); })
+            .On<clsMV>(ReadingOfMixtureSet)
+            .On<clsQ>([](const clsQ& one) { return ReadingOf(one); })
+            .On<clsC>([](const clsC& one) { return ReadingOf(one); })
+            .On<clsE>(ReadingOfEquilibrium)
+            .On<clsBR>(ReadingOfBioReaction)
+            .On<clsBP>(ReadingOfBioProperty)
+            .On<clsComplex>(ReadingOfComplex)
+            .On<clsComplexSample>([](const clsComplexSample& one) { return ReadingOf(one); })
+            .On<clsCrS>(ReadingOfStructure);
     return readings;
 }
 

@@ -109,14 +109,6 @@ void DescribeRows(ReadingPage& page, const DataSet& set) {
     if (set.HasBothKinds()) page.Item("Some rows stand in the units of the paper, some do not.");
 }
 
-/// Parts that are stated, with commas between them.
-std::string Listed(std::initializer_list<std::string> parts) {
-    std::string text;
-    for (const std::string& part : parts)
-        if (!part.empty()) text += (text.empty() ? "" : ", ") + part;
-    return text;
-}
-
 /// What is the same for all rows: a state variable, and the state that the values are relative to.
 void DescribeConstants(ReadingPage& page, const clsTwo& set) {
     for (const QuantityText& quantity : StateVariables)

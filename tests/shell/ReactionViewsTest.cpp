@@ -3,7 +3,6 @@
 #include "records/clsC.h"
 #include "records/clsE.h"
 #include "records/clsQ.h"
-#include "reference/Text.h"
 #include "shell/ReadingPane.h"
 #include "shell/ShellFixture.h"
 
@@ -25,39 +24,12 @@ const std::string Reactions =
     "& "
     "& &\n^d 25 0.5 0.146 &\n^d 35 0.5 0.32 &\n^M 0\n";
 
-/// The lines of a page without its marks.
-std::string LinesOf(const std::string& html) {
-    std::string text;
-    bool isMark = false;
-    for (const char c : html) {
-        if (c == '<' || c == '>') isMark = c == '<';
-        if (!isMark && c != '>') text += c;
-    }
-    return text;
-}
-
 } // namespace
 
 class ReactionViews : public ShellFixture {
 protected:
     clsQ& Reaction(std::size_t position) {
         return *Globals().recR.Item(std::size_t{1})->recQ.Item(position);
-    }
-    /// The labels of what the search leaves, without those above.
-    std::string Found(const std::string& words) {
-        Shell().txtFind.Text(words);
-        std::string found;
-        const std::function<bool(const ui::TreeNode&)> gather = [&](const ui::TreeNode& node) {
-            if (node.Hidden()) return false;
-            bool below = false;
-            for (const auto& child : node.Children())
-                below = gather(*child) || below;
-            if (!below) found += node.Text().substr(0, 10) + "|";
-            return true;
-        };
-        for (const auto& root : Shell().tvwTree.Roots())
-            gather(*root);
-        return found;
     }
 };
 

@@ -32,6 +32,17 @@ inline void WriteText(const std::string& path, const std::string& text) {
     std::ofstream(path, std::ios::binary) << text;
 }
 
+/// The lines of a page without its marks.
+inline std::string LinesOf(const std::string& html) {
+    std::string text;
+    bool isMark = false;
+    for (const char c : html) {
+        if (c == '<' || c == '>') isMark = c == '<';
+        if (!isMark && c != '>') text += c;
+    }
+    return text;
+}
+
 class ShellDesktop : public StrictDesktop {
 public:
     using StrictDesktop::StrictDesktop;
@@ -85,6 +96,22 @@ protected:
     void ClickNode(const std::string& text) {
         for (const auto& root : Shell().tvwTree.Roots())
             ClickBelow(*root, text);
+    }
+    /// The labels of what the search leaves, without those above.
+    std::string Found(const std::string& words) {
+        Shell().txtFind.Text(words);
+        std::string found;
+        const std::function<bool(const ui::TreeNode&)> gather = [&](const ui::TreeNode& node) {
+            if (node.Hidden()) return false;
+            bool below = false;
+            for (const auto& child : node.Children())
+                below = gather(*child) || below;
+            if (!below) found += node.Text().substr(0, 10) + "|";
+            return true;
+        };
+        for (const auto& root : Shell().tvwTree.Roots())
+            gather(*root);
+        return found;
     }
     /// Keys of the toolbar buttons that can be pressed.
     std::string LiveButtons() {
