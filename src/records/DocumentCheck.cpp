@@ -6,7 +6,12 @@
 #include "globals/KVOGlobal.h"
 #include "records/RecordChecks.h"
 #include "records/Walk.h"
+#include "records/clsBP.h"
+#include "records/clsBR.h"
 #include "records/clsC.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
+#include "records/clsCrS.h"
 #include "records/clsE.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
@@ -34,7 +39,12 @@ const ByClass<void, Findings&>& Checks() {
                                    .On<clsMV>(CheckMixtureSet)
                                    .On<clsQ>(CheckReaction)
                                    .On<clsC>(CheckPropertyChange)
-                                   .On<clsE>(CheckEquilibrium);
+                                   .On<clsE>(CheckEquilibrium)
+                                   .On<clsBR>(CheckBioReaction)
+                                   .On<clsBP>(CheckBioProperty)
+                                   .On<clsComplex>(CheckComplex)
+                                   .On<clsComplexSample>(CheckComplexSample)
+                                   .On<clsCrS>(CheckStructure);
     return checks;
 }
 
@@ -78,6 +88,15 @@ std::string NotKeptText(const PassedOver& passedOver) {
     if (count == 0) return {};
     return std::to_string(count) + (count == 1 ? " line holds" : " lines hold") +
            " data of kinds that this edition does not keep";
+}
+
+const Record* SampleBesideSystem() {
+    const Record* found = nullptr;
+    for (const auto& source : Globals().recR)
+        for (const auto& complex : source->recComplex)
+            for (const auto& sample : complex->recS)
+                if (found == nullptr && !FitsSystem(*sample)) found = sample.get();
+    return found;
 }
 
 std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver) {

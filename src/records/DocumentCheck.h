@@ -36,6 +36,13 @@ struct PassedOver {
 /// A word on the lines of unknown kinds; empty when there are none.
 std::string NotKeptText(const PassedOver& passedOver);
 
+/// The first sample of a complex with a component that its complex has not, null for none. Such a
+/// document cannot be saved.
+const Record* SampleBesideSystem();
+/// What is said of it.
+inline constexpr const char* BesideSystemText =
+    "Complex sample composition does not correspond to the system definition";
+
 /// Goes through the open document without asking or changing anything: lines that were passed over,
 /// gaps in the citation, what a save would drop or ask about, descriptions that cannot be taken
 /// apart, codes that the tables do not hold, numbers that are none, values that are impossible or

@@ -169,7 +169,7 @@ std::string KeyOfNumber(double value) {
     return {bytes.begin(), bytes.end()};
 }
 
-void CheckEqualValues(const clsS& sample, Findings& findings) {
+void CheckEqualValues(const SubstanceSample& sample, Findings& findings) {
     ValueKeys keys;
     std::unordered_map<std::string, const clsZ*> known;
     for (const auto& value : sample.recZ) {

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "globals/KVOGlobal.h"
+#include "records/BioSetFacts.h"
 #include "records/SampleDescription.h"
 #include "records/SourceText.h"
 #include "records/clsAuthor.h"
@@ -130,7 +131,7 @@ void CheckSample(const clsS& sample, Findings& findings) {
     else if (description->Availability.empty() && sample.Purity <= 0)
         remarks.Hint(sample.Key() + ": no purity is stated");
     if (sample.recZ.IsEmpty() && sample.recTwo.IsEmpty() && !IsUsedInMixtures(sample) &&
-        !IsUsedInReactions(sample))
+        !IsUsedInReactions(sample) && !IsUsedInBioSets(sample))
         remarks.Warn(sample.Key() + " has no data");
     CheckEqualValues(sample, findings);
     CheckEqualPoints(sample, findings);

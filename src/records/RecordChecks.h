@@ -16,7 +16,13 @@
 
 namespace vexora {
 
+class SubstanceSample;
+class clsBP;
+class clsBR;
 class clsC;
+class clsComplex;
+class clsComplexSample;
+class clsCrS;
 class clsE;
 class clsL;
 class clsM;
@@ -95,6 +101,13 @@ void CheckMixtureSet(const clsMV& set, Findings& findings);
 void CheckReaction(const clsQ& reaction, Findings& findings);
 void CheckPropertyChange(const clsC& value, Findings& findings);
 void CheckEquilibrium(const clsE& set, Findings& findings);
+void CheckBioReaction(const clsBR& set, Findings& findings);
+void CheckBioProperty(const clsBP& set, Findings& findings);
+void CheckComplex(const clsComplex& complex, Findings& findings);
+void CheckComplexSample(const clsComplexSample& sample, Findings& findings);
+void CheckStructure(const clsCrS& structure, Findings& findings);
+/// A sample has no component beside those of its complex; it need not have all.
+bool FitsSystem(const clsComplexSample& sample);
 
 // What all kinds of values and sets are checked for.
 
@@ -111,6 +124,6 @@ std::string KeyOfNumber(double value);
 /// of the same phases, at the same state with the same value, in whatever units.
 void CheckEqualPoints(const Record& owner, Findings& findings);
 /// The same of the single values of a sample.
-void CheckEqualValues(const clsS& sample, Findings& findings);
+void CheckEqualValues(const SubstanceSample& sample, Findings& findings);
 
 } // namespace vexora

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "globals/KVOGlobal.h"
+#include "records/DocumentCheck.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsM.h"
@@ -238,7 +239,20 @@ void frmMain::Save() {
         WriteDocument();
 }
 
+/// Leads to a sample that its complex does not fit; true when there is one.
+bool frmMain::RefuseComplexes() {
+    const Record* const sample = SampleBesideSystem();
+    if (sample == nullptr) return false;
+    ui::Say(BesideSystemText);
+    if (sample->tNode == nullptr) return true;
+    sample->tNode->EnsureVisible();
+    tvwTree.Select(sample->tNode);
+    SelectBy(true);
+    return true;
+}
+
 bool frmMain::WriteDocument() {
+    if (RefuseComplexes()) return false;
     KVOGlobal& globals = Globals();
     for (const auto& source : globals.recR) {
         if (LosesCompounds(*source))

@@ -1,0 +1,112 @@
+#include "records/DocumentCheck.h"
+#include "records/clsComplex.h"
+#include "records/clsComplexSample.h"
+#include "records/clsCrS.h"
+#include "shell/BioFixture.h"
+#include "shell/ReadingPane.h"
+
+#include <utility>
+
+namespace vexora::test {
+
+class ComplexViews : public ShellFixture {
+protected:
+    ComplexViews() {
+        std::filesystem::copy_file(VEXORA_SOURCE_DIR "/tests/sessions/shell/bio_and_hydrate.txt",
+                                   path_);
+    }
+    static clsComplex& Hydrate() {
+        return *Globals().recR.Item(std::size_t{1})->recComplex.Item(std::size_t{1});
+    }
+    static clsComplexSample& Sample() { return *Hydrate().recS.Item(std::size_t{1}); }
+    /// What the check says of the complex and of all below it.
+    static std::string Checked() {
+        std::string found;
+        for (const DocumentFinding& one : CheckDocument()) {
+            const bool isOfComplex = one.record == &Hydrate() || one.record == &Sample() ||
+                                     dynamic_cast<const clsCrS*>(one.record);
+            if (isOfComplex)
+                found += std::string(SeverityWord(one.severity)) + ": " + one.text + "\n";
+        }
+        return found;
+    }
+
+    std::string path_ = folder.Path("hydrate.txt");
+};
+
+TEST_F(ComplexViews, ThePaneReadsComplexesSamplesAndStructures) {
+    ASSERT_TRUE(Start(path_));
+    EXPECT_EQ(LinesOf(ReadingHtml(&Hydrate())),
+              "Gas Hydrate (methane + water)\nType: Gas Hydrate\n"
+              "Enclathrated species: methane, CH4, mole fraction 0.148\n"
+              "Water: water, H2O, sample 1, mole fraction 0.852\n"
+              "Formula: (CH4)0.148(H2O)0.852\nMolar mass: 17.723144 g/mol\nSamples: 1\n");
+    EXPECT_EQ(LinesOf(ReadingHtml(&Sample())),
+              "Sample 1\nComplex: Gas Hydrate (methane + water)\n"
+              "methane: mole fraction 0.148\nwater: mole fraction 0.852, sample 1\n"
+              "Formula: (CH4)0.148(H2O)0.852\nMolar mass: 17.723144 g/mol\n"
+              "Prepared at: 275 K, 5000 kPa\nPrepared by: Bubbling\nEntered: 1/15/2026\n"
+              "Holds: 0 single values, 0 data sets, 0 phase equilibria, 1 crystal structure\n");
+    EXPECT_EQ(LinesOf(ReadingHtml(Sample().recCrS.Item(std::size_t{1}).get())),
+              "Crystal Structure # 1\nSpace group: Pm-3n\na: 11.877 \u00B1 0.003 \u00C5\n"
+              "b: 11.877 \u00C5\nc: 11.877 \u00C5\nalpha: 90 degrees\nbeta: 90 degrees\n"
+              "gamma: 90 degrees\nDistance O-O: 2.75 \u00B1 0.01 \u00C5\n"
+              "O at: 0.5, 0, 0.25, occupancy 1\nMethod: Powder neutron diffraction\n");
+}
+
+TEST_F(ComplexViews, TheCheckNamesWhatDoesNotFit) {
+    ASSERT_TRUE(Start(path_));
+    EXPECT_EQ(Checked(), "");
+    Hydrate().Components[0].content = {"0.5", "X"};
+    Hydrate().Components[1].function.clear();
+    Sample().Components[0].content = {"1.5", "X"};
+    Sample().Components[1].content = {"2", "n"};
+    Sample().PrepT = "-3";
+    clsCrS& structure = *Sample().recCrS.Item(std::size_t{1});
+    structure.SpaceGroup.clear();
+    structure.B = "x";
+    structure.Method.clear();
+    structure.Atoms[0].Atom = "Xe";
+    structure.Atoms[0].Occ = "1.1";
+    structure.Distances[0].DD = "0";
+    const std::string complex = "Complex Gas Hydrate (methane + water)",
+                      sample = "Sample 1 of Gas Hydrate (methane + water)",
+                      crystal = "Crystal Structure # 1";
+    EXPECT_EQ(Checked(), "warning: " + complex + ": no function of water is stated\nwarning: " +
+                             complex + ": the mole fractions add up to 1.352\nerror: " + sample +
+                             ", content of methane: value 1.5 is not valid\nwarning: " + sample +
+                             ": mole fractions and moles stand together\nerror: " + sample +
+                             ": invalid preparation temperature -3\nwarning: " + crystal +
+                             ": no space group is stated\nerror: " + crystal +
+                             ", b: this is no number: x\nwarning: " + crystal +
+                             ": the cell is incomplete\nerror: " + crystal +
+                             ", atom 1: unknown atom Xe\nerror: " + crystal +
+                             ", atom 1: invalid occupancy 1.1\nerror: " + crystal +
+                             ", distance 1: value 0 is not valid\nwarning: " + crystal +
+                             ": no method is stated\n");
+}
+
+TEST_F(ComplexViews, ASampleWithAForeignComponentIsShownInsteadOfSaved) {
+    ASSERT_TRUE(Start(path_));
+    const std::string before = FileText(path_);
+    Sample().Components[0].RN = "50997";
+    Globals().Saved = false;
+    desktop.Expect("Complex sample composition does not correspond to the system definition");
+    Shell().Save();
+    EXPECT_EQ(FileText(path_), before);
+    EXPECT_FALSE(Globals().Saved);
+    EXPECT_EQ(Shell().tvwTree.SelectedNode(), Sample().tNode);
+    EXPECT_EQ(Globals().CurrentKey, "RXS");
+}
+
+TEST_F(ComplexViews, TheSearchKnowsComponentsAndStructures) {
+    ASSERT_TRUE(Start(path_));
+    const std::pair<const char*, std::string> cases[] = {
+        {"enclathrated", "Gas Hydrat|"}, {"74-82-8 bubbling", "Sample 1|"},
+        {"pm-3n", "Crystal St|"},        {"11.877", "Crystal St|"},
+        {"neutron", "Crystal St|"},      {"2.7..2.8", "Crystal St|"}};
+    for (const auto& [words, found] : cases)
+        EXPECT_EQ(Found(words), found) << words;
+}
+
+} // namespace vexora::test
