@@ -32,6 +32,15 @@ TableEditor::TableEditor(const TableRules& rules, const TableControls& controls,
     cell_.Visible(false);
     WireTable();
     WireMenu();
+    follows_ = grid_.Owner().FocusChanged.Connect([this] {
+        const ui::Control* active = grid_.Owner().ActiveControl();
+        const bool isTable = active && active->Kind() == ui::ControlKind::Grid;
+        if (isTable || active == &cell_) isInHand_ = active == &grid_ || active == &cell_;
+    });
+}
+
+TableEditor::~TableEditor() {
+    grid_.Owner().FocusChanged.Disconnect(follows_);
 }
 
 void TableEditor::WireTable() {
@@ -72,7 +81,8 @@ void TableEditor::WireMenu() {
 }
 
 void TableEditor::Wire(ui::MenuItem& item, std::function<void()> action) {
-    item.OnClick = [this, action = std::move(action)] {
+    item.OnClick = [this, action = std::move(action), ofOther = item.OnClick] {
+        if (!isInHand_ && ofOther) return ofOther();
         EndTyping();
         action();
     };
@@ -119,7 +129,7 @@ void TableEditor::GridKeys(ui::Key& key) {
         key.swallowed = MoveAlong(block.top, block.left, key.shift);
     } else if (key.character != 0) {
         key.swallowed = true; // other characters begin no number
-        if (StartsNumber(key.character)) {
+        if (StartsNumber(key.character) || rules_.TakesText(block.left)) {
             std::string typed;
             AppendCodePoint(typed, key.character);
             BeginTyping(typed);

@@ -33,10 +33,12 @@ struct TableMenu {
 
 /// The work in the table of a form: typing into cells, keys, blocks, history and findings, all
 /// wired to the controls, which stay the form's. What the columns mean, the form says by its rules.
-/// A form declares the editor behind its controls and so owns it.
+/// A form declares the editor behind its controls and so owns it; one of several tables has an
+/// editor for each. These share the menu, whose entries work on the table that was entered last.
 class TableEditor {
 public:
     TableEditor(const TableRules& rules, const TableControls& controls, const TableMenu& menu);
+    ~TableEditor();
     TableEditor(const TableEditor&) = delete;
     TableEditor& operator=(const TableEditor&) = delete;
 
@@ -77,6 +79,8 @@ private:
     TableBlocks blocks_;
     FindingList findings_;
     int row_ = 0, column_ = 0; // of the cell that is being typed into
+    bool isInHand_ = false;    // of the tables of the form, the one that was entered last
+    int follows_ = 0;          // ticket for the changes of focus
 };
 
 } // namespace vexora

@@ -29,6 +29,8 @@ public:
     virtual std::vector<int> ValueColumns() const = 0;
     /// Tab goes to columns that are typed into and passes over the others.
     virtual bool IsTypedInto(int) const { return true; }
+    /// Where any character begins to type into a cell; elsewhere only one of a number does.
+    virtual bool TakesText(int) const { return false; }
     /// How the list of findings names a column, also one beside those of the form.
     virtual std::string ColumnName(int column) const = 0;
     /// What is to be said of the cells of one row; none for an empty one. It is asked again when
