@@ -3,10 +3,8 @@
 #include <cmath>
 #include <utility>
 
-#include "plot/PictureSvg.h"
+#include "entry/PictureSvg.h"
 #include "plot/PlotPoint.h"
-#include "reference/SafeFile.h"
-#include "reference/Text.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -128,21 +126,8 @@ void PlotPane::UseKey(ui::Key& key) {
         key.swallowed = false;
 }
 
-/// The ending of the name tells what is written; without one it is a drawing.
 void PlotPane::Save() {
-    const auto chosen = ui::TheDesktop().Choose({true, {}, "plot.svg", "Pictures (*.svg *.png)"});
-    if (!chosen) return;
-    const std::string name = LowerAscii(*chosen);
-    const bool isPng = name.ends_with(".png");
-    const std::string path = isPng || name.ends_with(".svg") ? *chosen : *chosen + ".svg";
-    ui::FileSystem& files = ui::TheDesktop().Files();
-    if (files.Exists(path) && !ui::AskYesNo(path + " exists already\nReplace it?")) return;
-    const auto bytes = isPng ? ui::TheDesktop().PngOf(controls_.picture)
-                             : SvgOf(controls_.picture, form_.Caption());
-    if (!bytes)
-        return ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
-    const SaveOutcome outcome = WriteSafely(files, path, *bytes, false);
-    if (const std::string told = outcome.Told("The file " + path); !told.empty()) ui::Say(told);
+    SavePicture(controls_.picture, form_.Caption(), "plot.svg");
 }
 
 void PlotPane::ChangeTolerance(double factor) {

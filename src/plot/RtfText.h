@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "ui/Html.h"
+
 namespace vexora {
 
 /// A rich text file as a page: paragraphs, bold, italic, underlined, raised and lowered letters and
@@ -10,7 +12,6 @@ namespace vexora {
 /// text that is not rich text comes back as HtmlOfText gives it.
 std::string HtmlOfRtf(std::string_view rtf);
 
-/// A plain text as HTML, line by line.
-std::string HtmlOfText(std::string_view text);
+using ui::HtmlOfText;
 
 } // namespace vexora

@@ -27,4 +27,21 @@ std::string TextOfHtml(std::string_view html) {
     return text;
 }
 
+std::string HtmlOfText(std::string_view text) {
+    std::string html;
+    for (const char c : text) {
+        if (c == '&')
+            html += "&amp;";
+        else if (c == '<')
+            html += "&lt;";
+        else if (c == '>')
+            html += "&gt;";
+        else if (c == '\n')
+            html += "<br>\n";
+        else if (c != '\r')
+            html += c;
+    }
+    return html;
+}
+
 } // namespace vexora::ui

@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "entry/PictureSvg.h"
 #include "globals/KVOGlobal.h"
-#include "plot/PictureSvg.h"
 #include "support/StrictDesktop.h"
 #include "ui/Forms.h"
 

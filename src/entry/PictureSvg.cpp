@@ -1,7 +1,10 @@
-#include "plot/PictureSvg.h"
+#include "entry/PictureSvg.h"
 
-#include "plot/RtfText.h"
 #include "reference/Numbers.h"
+#include "reference/SafeFile.h"
+#include "reference/Text.h"
+#include "ui/Desktop.h"
+#include "ui/Html.h"
 
 namespace vexora {
 
@@ -69,7 +72,7 @@ std::string Text(const Stroke& stroke) {
                          : stroke.align == Align::Centre ? "middle"
                                                          : "end";
     return "<text" + Attribute("x", stroke.x) + Attribute("y", stroke.y + FontSize) +
-           " text-anchor=\"" + anchor + "\">" + HtmlOfText(stroke.text) + "</text>";
+           " text-anchor=\"" + anchor + "\">" + ui::HtmlOfText(stroke.text) + "</text>";
 }
 
 std::string Element(const Stroke& stroke) {
@@ -102,11 +105,27 @@ std::string SvgOf(const ui::Picture& picture, std::string_view title) {
                       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
                       wide + "\" height=\"" + high + "\" viewBox=\"0 0 " + wide + " " + high +
                       "\" font-family=\"sans-serif\" font-size=\"" + Number(FontSize) +
-                      "\">\n<title>" + HtmlOfText(title) +
+                      "\">\n<title>" + ui::HtmlOfText(title) +
                       "</title>\n<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
     for (const Stroke& stroke : picture.Strokes())
         svg += Element(stroke) + "\n";
     return svg + "</svg>\n";
+}
+
+/// The ending of the name tells what is written; without one it is a drawing.
+void SavePicture(const ui::Picture& picture, std::string_view title, const std::string& proposed) {
+    const auto chosen = ui::TheDesktop().Choose({true, {}, proposed, "Pictures (*.svg *.png)"});
+    if (!chosen) return;
+    const std::string name = LowerAscii(*chosen);
+    const bool isPng = name.ends_with(".png");
+    const std::string path = isPng || name.ends_with(".svg") ? *chosen : *chosen + ".svg";
+    ui::FileSystem& files = ui::TheDesktop().Files();
+    if (files.Exists(path) && !ui::AskYesNo(path + " exists already\nReplace it?")) return;
+    const auto bytes = isPng ? ui::TheDesktop().PngOf(picture) : SvgOf(picture, title);
+    if (!bytes)
+        return ui::Say("A picture of points (.png) needs a screen\nSave it as a drawing (.svg)");
+    const SaveOutcome outcome = WriteSafely(files, path, *bytes, false);
+    if (const std::string told = outcome.Told("The file " + path); !told.empty()) ui::Say(told);
 }
 
 } // namespace vexora
