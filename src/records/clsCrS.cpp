@@ -50,13 +50,13 @@ std::string CrystalContent::DGammaText() const {
 }
 
 void CrystalContent::GammaText(std::string_view typed) {
-    gammaTyped_ = typed;
     Gamma = Val(typed);
+    gammaTyped_ = TextOf(std::string(typed), Gamma);
 }
 
 void CrystalContent::DGammaText(std::string_view typed) {
-    dGammaTyped_ = typed;
     dGamma = Val(typed);
+    dGammaTyped_ = TextOf(std::string(typed), dGamma);
 }
 
 std::string clsCrS::Key() const {
