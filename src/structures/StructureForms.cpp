@@ -2,6 +2,7 @@
 
 #include "structures/frmComplex.h"
 #include "structures/frmComplexSample.h"
+#include "structures/frmCrStruct.h"
 #include "structures/frmGH.h"
 
 namespace vexora {
@@ -10,6 +11,7 @@ void RegisterStructureForms(ui::Forms& forms) {
     forms.Register<frmComplex>("frmComplex");
     forms.Register<frmComplexSample>("frmComplexSample");
     forms.Register<frmGH>("frmGH");
+    forms.Register<frmCrStruct>("frmCrStruct");
 }
 
 } // namespace vexora
