@@ -111,14 +111,14 @@ void frmComplex::Delete() {
     Select(std::min(line_, std::max<std::size_t>(draft_.Components.size(), 1) - 1));
 }
 
-/// Sample and content belong to the compound that stood there.
+/// What was said belongs to the compound that stood there.
 void frmComplex::CompoundClick() {
     ComplexComponent* const component = InHand();
     if (Filling || !component) return;
     const auto rn = compounds_.Click();
     if (rn && *rn != component->RN) {
+        if (!component->RN.empty()) *component = {};
         component->RN = *rn;
-        component->SMPNM.clear();
         samples_.Fill(Globals().CurrentR->FindL(*rn)); // one alone is chosen
         if (const auto sample = samples_.Sample()) component->SMPNM = sample->SMPNM;
     }

@@ -114,6 +114,9 @@ TEST_F(ComplexForms, ASystemIsRefusedFaultByFaultAndThenStored) {
     Refused(dialog, dialog.cmdOK, "This component stands in the list already", dialog.cboComp);
     Pick(dialog.cboComp, "water");
     EXPECT_EQ(dialog.cboSample.Chosen(), "1") << "one alone";
+    EXPECT_EQ(dialog.txtContent.Text() + dialog.cboFunction.Chosen(), "") << "were of the other";
+    Pick(dialog.cboFunction, "Water");
+    Pick(dialog.cboContent, "Mole fraction");
     // A line that is not right yet is not left; what the fields show follows the list.
     dialog.txtContent.UserReplaceAll("7");
     desktop.Expect("Illegal content");
@@ -206,7 +209,7 @@ TEST_F(ComplexForms, ContentsInSamplesGoWithTheComponentOnlyWhenThatIsMeant) {
     EXPECT_EQ(Lines(), before);
     desktop.Expect(question, ui::Answer::Yes);
     dialog.cmdOK.UserClick();
-    EXPECT_EQ(Lines(), "CS 1 Gas Hydrate\nCC 124389 & Enclathrated_species 0.148 X\n"
+    EXPECT_EQ(Lines(), "CS 1 Gas Hydrate\nCC 124389 & & &\n"
                        "CC 7732185 & Water 0.852 X\nCE\n"
                        "^A & & & & & & & &\nSB 1\nSS 7732185 0.85 X &\nGH & & & &\nSE\n");
 }
