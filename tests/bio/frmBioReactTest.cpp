@@ -235,6 +235,16 @@ TEST_F(frmBioReactTest, WhatWasTypedIsStoredOnceTheTableIsAccepted) {
     EXPECT_EQ(second->SetNo * 10 + static_cast<int>(second->recD.size()), 21);
     EXPECT_TRUE(second->Equal(*set));
     EXPECT_EQ(globals.BioSetToRepeat, nullptr);
+    // A compound that stands in bio data shows what is asked of these, whatever is configured.
+    for (const char* rn : {"7732185", "7786303", "58640"}) {
+        globals.CurrentL = globals.CurrentR->FindL(rn);
+        globals.EditCompound = true;
+        auto& substance = forms.Get<frmSubst>("frmSubst");
+        substance.Show();
+        EXPECT_TRUE(substance.txtEC.IsShown()) << rn;
+        substance.Close();
+        forms.DropClosed();
+    }
 }
 
 struct Balancing {
@@ -292,12 +302,15 @@ TEST_F(frmBioReactTest, TheEquationIsShownAsItsNotationMeansIt) {
     form.optChem.UserClick();
     EXPECT_EQ(form.lblSurplus.Caption(), "Not balanced. More in the products: H 2, O 1");
     Pick(form.cmbPart(1), "water");
-    // What has no coefficient counts on neither side.
     desktop.Expect("Reaction is NOT balanced | Error");
     form.cmdCheck.UserClick();
     form.txtCoeff(1).UserReplaceAll("-1");
+    // What has no coefficient counts on neither side.
+    Pick(form.cmbPart(4), "magnesium chloride");
+    EXPECT_EQ(form.lblSurplus.Caption(), "Coefficients are missing");
     desktop.Expect("Reaction is balanced");
     form.cmdCheck.UserClick();
+    Pick(form.cmbPart(4), "None");
     globals.CurrentR->FindL("56655")->Charge = -4;
     globals.CurrentR->FindL("58640")->Charge = -3;
     form.txtCoeff(1).UserReplaceAll("-1.0");
