@@ -3,7 +3,7 @@
 #include "records/clsBP.h"
 #include "records/clsBR.h"
 #include "records/clsL.h"
-#include "shell/BioFixture.h"
+#include "shell/BioShellFixture.h"
 #include "shell/ReadingPane.h"
 
 namespace vexora::test {
@@ -22,7 +22,7 @@ std::string Said(const std::vector<Difference>& differences) {
 
 } // namespace
 
-class BioViews : public BioFixture {
+class BioViews : public BioShellFixture {
 protected:
     static clsBR& TheReaction() { return *Source().recBR.Item(std::size_t{1}); }
     static clsBP& TheTransition() { return *Source().recBP.Item(std::size_t{1}); }

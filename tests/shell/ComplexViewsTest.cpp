@@ -2,7 +2,7 @@
 #include "records/clsComplex.h"
 #include "records/clsComplexSample.h"
 #include "records/clsCrS.h"
-#include "shell/BioFixture.h"
+#include "shell/BioShellFixture.h"
 #include "shell/ReadingPane.h"
 
 #include <utility>

@@ -2,7 +2,7 @@
 #include "records/clsS.h"
 #include "records/clsTwo.h"
 #include "records/clsZ.h"
-#include "shell/BioFixture.h"
+#include "shell/BioShellFixture.h"
 
 #include <utility>
 
@@ -121,7 +121,7 @@ protected:
 
 /// A reaction before it has data, and one with some, of compounds that nothing else needs.
 using ReactionDeletionTest = LabelDeletion<ShellFixture>;
-using BioDeletionTest = LabelDeletion<BioFixture>;
+using BioDeletionTest = LabelDeletion<BioShellFixture>;
 
 TEST_F(ReactionDeletionTest, ReactionsKeepTheirCompoundsAndSamples) {
     const std::string head = "^A & O & & & & & &\n";

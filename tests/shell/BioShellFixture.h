@@ -26,7 +26,7 @@ inline const std::string Unfolding =
               "BE\nBM Differential scanning calorimetry\n"
               "BD 509 348.6 4.5\nBD 430 340 3\n";
 
-class BioFixture : public ShellFixture {
+class BioShellFixture : public ShellFixture {
 protected:
     /// With a second sample of the glucose that nothing needs.
     std::string WriteBio() {
