@@ -40,7 +40,7 @@ frmBioProp::frmBioProp() : BioPropertyForm("frmBioProp", "Bio System Properties"
     using namespace ui;
     Arrange({{"Initial state",
               Column({Row({Field("Substance:", cmbSubst),
-                           Field("Sample:", Narrow(cboSubstSample, 12))}),
+                           Field("Sample:", Narrow(cboSubstSample, 16))}),
                       Field(lblState1, cboState1), Field("Phase:", cboPhase1), Stretch()}),
               {&cmbSubst},
               [this] { return CheckFirst(); }},

@@ -96,7 +96,7 @@ ui::Layout frmBioReact::ReactionLayout() {
         rows.push_back(Field(std::to_string(n + 1) + ":",
                              Row({cmbPart(n), Field("Coefficient:", Narrow(txtCoeff(n), 10)),
                                   Field("Phase:", Narrow(cboPhase(n), 18)),
-                                  Field("Sample:", Narrow(cboPartSample(n), 12))})));
+                                  Field("Sample:", Narrow(cboPartSample(n), 16))})));
     rows.push_back(Row({Stretch(), cmdEquate, cmdCheck}));
     rows.push_back(Group("Equation", {txtReaction, lblSurplus}));
     return PageLayout(Column(std::move(rows)), Next1);

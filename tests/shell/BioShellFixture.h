@@ -5,9 +5,9 @@
 
 namespace vexora::test {
 
-inline const std::string BioHead = "^A & O B & & & & &\n";
+inline const std::string BioHeader = "^A & O B & & & & &\n";
 inline const std::string Isomerization =
-    BioHead + "BR 1 0\n"
+    BioHeader + "BR 1 0\n"
               "BP 1 50997 0 1 50997 D-glucose C6H12O6 180.156 0 -1 S 0 & &\n"
               "BP 0 57487 0 & 57487 D-fructose C6H12O6 180.156 0 1 S 0 & &\n"
               "BP 0 7732185 0 1 7732185 water H2O 18.0153 0 0 & 0 & &\n"
@@ -16,7 +16,7 @@ inline const std::string Isomerization =
               "BE\nBM Liquid chromatography\nB0 0 0\n"
               "BD 0.92 298.15 0.05\nBD 1.10 313.15 0.05\n";
 inline const std::string Unfolding =
-    BioHead + "BN 1\n"
+    BioHeader + "BN 1\n"
               "BP 12650883 0 1 & lysozyme 12650883 C613H959N193O185S10 14313 8 3.2.1.17 1LYZ\n"
               "BP 7732185 0 1 & water 7732185 H2O 18.0153 0 & &\n"
               "BH D 1 Native Denatured S S & &\n"
