@@ -42,6 +42,8 @@ struct Example {
 const Example Water{"water", "2002wagpru1"};
 const Example EthanolWater{"ethanol_water", "1932carlew1"};
 const Example Reactions{"reactions", "2026com1", "reactions_example"};
+const Example Bio{"bio", "2026com1", "bio_example"};
+const Example Hydrates{"hydrates", "2026com1", "hydrates_example"};
 
 std::string RecordsOf(const Example& example) {
     return Content("/examples/" + example.folder + "/" + example.records + ".txt");
@@ -49,7 +51,7 @@ std::string RecordsOf(const Example& example) {
 
 // The numbers of the expected exports were worked out from the figures of the papers.
 TEST(Examples, LeaveTheFilesThatAreExpected) {
-    for (const Example& example : {Water, EthanolWater, Reactions}) {
+    for (const Example& example : {Water, EthanolWater, Reactions, Bio, Hydrates}) {
         const std::string name = example.folder;
         const SessionPlay play =
             PlaySession(VEXORA_SOURCE_DIR "/examples/" + name + "/" + name + ".vxs");
@@ -73,7 +75,10 @@ TEST(Examples, AreSavedAsTheyWereWhenAcceptedUnchanged) {
     const struct {
         const Example& example;
         std::string folder, saved;
-    } cases[] = {{Water, "road", "example.txt"}, {Reactions, "reactions", "saved_again.txt"}};
+    } cases[] = {{Water, "road", "example.txt"},
+                 {Reactions, "reactions", "saved_again.txt"},
+                 {Bio, "bio", "saved_again.txt"},
+                 {Hydrates, "structures", "saved_again.txt"}};
     for (const auto& [example, folder, saved] : cases) {
         const SessionPlay play = PlaySession(VEXORA_SOURCE_DIR "/tests/sessions/" + folder +
                                              "/the_example_reopened.vxs");
