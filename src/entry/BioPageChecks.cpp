@@ -73,7 +73,9 @@ void BioQuantityPage::CheckNumbers(BioFaults& faults) {
         if (!on_.states(i).Value()) continue;
         ui::TextBox& uncertainty = on_.uncertainties(i);
         uncertainty.Text(NormalizedUncertainty(uncertainty.Text()));
-        if (!IsUncertainty(StatedUncertainty(i))) faults.push_back({&uncertainty, NoNumber});
+        const std::string stated = StatedUncertainty(i);
+        const bool isByNoRow = on_.values && stated == "*"; // a constant stands in none
+        if (isByNoRow || !IsUncertainty(stated)) faults.push_back({&uncertainty, NoNumber});
     }
 }
 
