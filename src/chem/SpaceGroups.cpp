@@ -149,4 +149,12 @@ CrystalSystem SystemOfSymbol(std::string_view symbol) {
     }
 }
 
+std::string SystemInWords(std::string_view symbol) {
+    if (symbol.empty()) return {};
+    const std::string system(NameOf(SystemOfSymbol(symbol)));
+    if (system.empty()) return "none of the 230 symbols";
+    const int number = SpaceGroupNumber(symbol);
+    return system + (number ? ", no. " + std::to_string(number) : ", in another setting");
+}
+
 } // namespace vexora

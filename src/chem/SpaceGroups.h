@@ -33,5 +33,7 @@ int SpaceGroupNumber(std::string_view symbol);
 CrystalSystem SystemOfNumber(int number);
 /// The system of a symbol, also in another setting than the standard one ("P21/n", "Pbnm").
 CrystalSystem SystemOfSymbol(std::string_view symbol);
+/// "cubic, no. 223", "monoclinic, in another setting", "none of the 230 symbols"; "" for none.
+std::string SystemInWords(std::string_view symbol);
 
 } // namespace vexora

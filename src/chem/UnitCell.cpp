@@ -181,4 +181,21 @@ Point3 Projected(const Point3& point, const std::array<Point3, 3>& edges, CellVi
     return {Dot(point, right), Dot(point, Cross(toEye, right)), Dot(point, toEye)};
 }
 
+std::string ContradictionText(std::string_view group, const CellConstants& cell) {
+    if (cell.AreComplete() && !VolumeOf(cell)) return "These constants close no cell";
+    const CrystalSystem system = SystemOfSymbol(group);
+    std::string text;
+    for (const std::string& unmet : Contradictions(system, group.starts_with('R'), cell))
+        text += (text.empty() ? "" : ", ") + unmet;
+    return text.empty() ? "" : "Not " + std::string(NameOf(system)) + ": " + text;
+}
+
+std::string VolumeText(double volume, const std::array<std::string, 3>& lengths) {
+    constexpr int fewest = 3, most = 8;
+    int digits = most;
+    for (const std::string& length : lengths)
+        digits = std::min(digits, SignificantDigits(length));
+    return FormatValue(volume, std::max(digits, fewest));
+}
+
 } // namespace vexora

@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "chem/SpaceGroups.h"
@@ -33,6 +34,12 @@ CrystalSystem ShapeOf(const CellConstants& cell);
 /// Nothing is rounded here: who takes axes for equal types them alike.
 std::vector<std::string> Contradictions(CrystalSystem system, bool mayBeRhombohedral,
                                         const CellConstants& cell);
+
+/// What group and constants say against each other: "Not cubic: b differs from a"; "" for nothing.
+/// Which of them is wrong only the paper knows.
+std::string ContradictionText(std::string_view group, const CellConstants& cell);
+/// Volume [A^3] with as many digits as the lengths a, b, c as printed, 3 to 8.
+std::string VolumeText(double volume, const std::array<std::string, 3>& lengths);
 
 /// A point or direction in space [A].
 using Point3 = std::array<double, 3>;

@@ -11,7 +11,6 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -91,6 +90,12 @@ void CheckFigure(const std::string& what, const std::string& value, const std::s
         remarks.Error(name + ", " + what + ": an uncertainty without a value");
 }
 
+void CheckNeededFigure(const std::string& what, const std::string& value,
+                       const std::string& uncertainty, const std::string& name, Remarks& remarks) {
+    if (IsBlankField(value)) return remarks.Error(name + ": no " + what + " is stated");
+    CheckFigure(what, value, uncertainty, name, remarks);
+}
+
 void CheckAtomSymbol(const std::string& symbol, const std::string& name, Remarks& remarks) {
     if (!IsOneOf(symbol, {"H", "C", "N", "O"}))
         remarks.Error(name + ": unknown atom " + OrPlaceholder(symbol));
@@ -103,11 +108,10 @@ void CheckCell(const clsCrS& structure, const std::string& name, Remarks& remark
     CheckFigure("alpha", structure.Alpha, structure.dAlpha, name, remarks);
     CheckFigure("beta", structure.Beta, structure.dBeta, name, remarks);
     CheckFigure("gamma", structure.GammaText(), structure.DGammaText(), name, remarks);
-    const std::string constants[] = {structure.A,     structure.B,    structure.C,
-                                     structure.Alpha, structure.Beta, structure.GammaText()};
-    const bool isComplete = std::ranges::all_of(
-        constants, [](const std::string& text) { return IsNumeric(text) && Val(text) > 0; });
-    if (!isComplete) remarks.Warn(name + ": the cell is incomplete");
+    const CellConstants cell = CellOf(structure);
+    if (!cell.AreComplete()) remarks.Warn(name + ": the cell is incomplete");
+    const std::string contradiction = ContradictionText(structure.SpaceGroup, cell);
+    if (!contradiction.empty()) remarks.Warn(name + ": " + FirstSmall(contradiction));
 }
 
 void CheckAtoms(const clsCrS& structure, const std::string& name, Remarks& remarks) {
@@ -115,9 +119,9 @@ void CheckAtoms(const clsCrS& structure, const std::string& name, Remarks& remar
         const CrystalAtom& atom = structure.Atoms[n];
         const std::string where = name + ", atom " + std::to_string(n + 1);
         CheckAtomSymbol(atom.Atom, where, remarks);
-        CheckFigure("x", atom.XX, atom.dX, where, remarks);
-        CheckFigure("y", atom.YY, atom.dY, where, remarks);
-        CheckFigure("z", atom.ZZ, atom.dZ, where, remarks);
+        CheckNeededFigure("x", atom.XX, atom.dX, where, remarks);
+        CheckNeededFigure("y", atom.YY, atom.dY, where, remarks);
+        CheckNeededFigure("z", atom.ZZ, atom.dZ, where, remarks);
         const bool isOccupied = IsNumeric(atom.Occ) && Val(atom.Occ) >= 0 && Val(atom.Occ) <= 1;
         if (!isOccupied) remarks.Error(where + ": invalid occupancy " + OrPlaceholder(atom.Occ));
     }
@@ -129,7 +133,7 @@ void CheckDistances(const clsCrS& structure, const std::string& name, Remarks& r
         const std::string where = name + ", distance " + std::to_string(n + 1);
         for (const std::string& symbol : {one.Atom1, one.Atom2})
             CheckAtomSymbol(symbol, where, remarks);
-        CheckFigure("value", one.DD, one.deltaD, where, remarks);
+        CheckNeededFigure("value", one.DD, one.deltaD, where, remarks);
         if (IsNumeric(one.DD) && Val(one.DD) <= 0)
             remarks.Error(where + ": value " + one.DD + " is not valid");
     }
@@ -182,7 +186,10 @@ void CheckComplexSample(const clsComplexSample& sample, Findings& findings) {
 void CheckStructure(const clsCrS& structure, Findings& findings) {
     Remarks remarks(findings, structure);
     const std::string name = structure.ShowKey();
-    if (IsBlankField(structure.SpaceGroup)) remarks.Warn(name + ": no space group is stated");
+    if (IsBlankField(structure.SpaceGroup))
+        remarks.Warn(name + ": no space group is stated");
+    else if (SystemOfSymbol(structure.SpaceGroup) == CrystalSystem::Unknown)
+        remarks.Warn(name + ": unknown space group " + structure.SpaceGroup);
     CheckCell(structure, name, remarks);
     CheckAtoms(structure, name, remarks);
     CheckDistances(structure, name, remarks);

@@ -7,6 +7,8 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 
+#include <iterator>
+
 namespace vexora {
 
 namespace {
@@ -57,6 +59,17 @@ void CrystalContent::GammaText(std::string_view typed) {
 void CrystalContent::DGammaText(std::string_view typed) {
     dGamma = Val(typed);
     dGammaTyped_ = TextOf(std::string(typed), dGamma);
+}
+
+CellConstants CellOf(const CrystalContent& content) {
+    const std::string typed[] = {content.A,     content.B,    content.C,
+                                 content.Alpha, content.Beta, content.GammaText()};
+    CellConstants cell;
+    for (std::size_t n = 0; n < std::size(typed); ++n) {
+        if (!IsNumeric(typed[n]) || Val(typed[n]) <= 0) continue;
+        (n < 3 ? cell.lengths : cell.angles).at(n % 3) = Val(typed[n]);
+    }
+    return cell;
 }
 
 std::string clsCrS::Key() const {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "chem/UnitCell.h"
 #include "records/Record.h"
 
 namespace vexora {
@@ -53,6 +54,9 @@ struct CrystalContent {
 private:
     std::string gammaTyped_, dGammaTyped_;
 };
+
+/// The constants that are numbers above 0.
+CellConstants CellOf(const CrystalContent& content);
 
 /// The crystal structure of a complex sample. It is kept and checked, and not exported.
 ///

@@ -52,6 +52,12 @@ void DescribeCell(ReadingPage& page, const clsCrS& structure) {
     page.Line("alpha:", Stated(structure.Alpha, structure.dAlpha, "degrees"));
     page.Line("beta:", Stated(structure.Beta, structure.dBeta, "degrees"));
     page.Line("gamma:", Stated(structure.GammaText(), structure.DGammaText(), "degrees"));
+    const CellConstants cell = CellOf(structure);
+    if (const auto volume = VolumeOf(cell))
+        page.Line("Volume of the cell:",
+                  VolumeText(*volume, {structure.A, structure.B, structure.C}) +
+                      " \xC3\x85\xC2\xB3");
+    page.Line("Contradiction:", ContradictionText(structure.SpaceGroup, cell));
 }
 
 } // namespace
@@ -93,7 +99,7 @@ void DescribeComplexSample(ReadingPage& page, const clsComplexSample& sample) {
 
 std::string ReadingOfStructure(const clsCrS& structure) {
     ReadingPage page(structure.ShowKey());
-    page.Line("Space group:", structure.SpaceGroup);
+    page.Line("Space group:", Listed({structure.SpaceGroup, SystemInWords(structure.SpaceGroup)}));
     DescribeCell(page, structure);
     for (const CrystalDistance& one : structure.Distances)
         page.Line("Distance " + one.Atom1 + "-" + one.Atom2 + ":",
@@ -102,10 +108,7 @@ std::string ReadingOfStructure(const clsCrS& structure) {
         page.Line(atom.Atom + " at:", Listed({atom.XX, atom.YY, atom.ZZ, "occupancy " + atom.Occ}));
     page.Line("Method:", structure.Method);
     page.Need(IsBlankField(structure.SpaceGroup), "The space group");
-    const bool hasCell = !structure.A.empty() && !structure.B.empty() && !structure.C.empty() &&
-                         !structure.Alpha.empty() && !structure.Beta.empty() &&
-                         !structure.GammaText().empty();
-    page.Need(!hasCell, "All constants of the cell");
+    page.Need(!CellOf(structure).AreComplete(), "All constants of the cell");
     page.Need(structure.Atoms.empty() && structure.Distances.empty(), "Atoms or distances");
     page.Need(IsBlankField(structure.Method), "The method of determination");
     return page.Html();

@@ -100,9 +100,8 @@ private:
     void PartOff(const Constant& constant);
     CellConstants Cell() const;
     void ShowWhatFollows();
-    std::string SystemText(CrystalSystem system, const CellConstants& cell) const;
-    std::string ContradictionText(CrystalSystem system, const CellConstants& cell) const;
-    std::string VolumeText(double volume) const;
+    std::string SystemText(const CellConstants& cell) const;
+    std::string VolumeCaption(double volume) const;
     std::string DensityText(double volume) const;
     void OpenCif();
     void Take(const CifStructure& structure);

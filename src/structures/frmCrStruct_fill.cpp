@@ -102,12 +102,12 @@ void frmCrStruct::ShowWhatFollows() {
     if (Filling) return;
     const CellConstants cell = Cell();
     const std::string group(Trim(cboGroup.Text()));
-    const CrystalSystem system = SystemOfSymbol(group);
     const auto volume = VolumeOf(cell);
-    lblSystem.Caption(SystemText(system, cell));
-    lblContradiction.Caption(ContradictionText(system, cell));
+    lblSystem.Caption(SystemText(cell));
+    lblContradiction.Caption(ContradictionText(group, cell));
     lblContradiction.Visible(!lblContradiction.Caption().empty());
-    lblVolume.Caption(volume ? VolumeText(*volume) : "The volume follows from six cell constants");
+    lblVolume.Caption(volume ? VolumeCaption(*volume)
+                             : "The volume follows from six cell constants");
     lblDensity.Caption(volume ? DensityText(*volume) : "");
     lblDensity.Visible(!lblDensity.Caption().empty());
     mnuSavePicture.Enabled(volume.has_value());
@@ -115,34 +115,19 @@ void frmCrStruct::ShowWhatFollows() {
         CellPicture(cell, group, atoms_.Rows(), static_cast<CellView>(cboView.Index())));
 }
 
-std::string frmCrStruct::SystemText(CrystalSystem system, const CellConstants& cell) const {
+std::string frmCrStruct::SystemText(const CellConstants& cell) const {
     const std::string group(Trim(cboGroup.Text()));
-    if (const int number = SpaceGroupNumber(group))
-        return std::string(NameOf(system)) + ", no. " + std::to_string(number);
-    if (system != CrystalSystem::Unknown)
-        return std::string(NameOf(system)) + ", in another setting";
-    if (!group.empty()) return "none of the 230 symbols";
+    if (!group.empty()) return SystemInWords(group);
     const CrystalSystem shape = ShapeOf(cell);
     return shape == CrystalSystem::Unknown ? "" : "the cell is " + std::string(NameOf(shape));
 }
 
-/// Group and constants are told where they do not fit; which of them is wrong only the paper knows.
-std::string frmCrStruct::ContradictionText(CrystalSystem system, const CellConstants& cell) const {
-    if (cell.AreComplete() && !VolumeOf(cell)) return "These constants close no cell";
-    const std::string group(Trim(cboGroup.Text()));
-    std::string text;
-    for (const std::string& unmet : Contradictions(system, group.starts_with('R'), cell))
-        text += (text.empty() ? "" : ", ") + unmet;
-    return text.empty() ? "" : "Not " + std::string(NameOf(system)) + ": " + text;
-}
-
 /// With the digits of the lengths.
-std::string frmCrStruct::VolumeText(double volume) const {
-    constexpr int fewest = 3, most = 8;
-    int digits = most;
-    for (const ui::TextBox* box : {&txtA, &txtB, &txtC})
-        digits = std::min(digits, SignificantDigits(NormalizeNumber(box->Text())));
-    return "Volume of the cell: " + FormatValue(volume, std::max(digits, fewest)) + " A3";
+std::string frmCrStruct::VolumeCaption(double volume) const {
+    return "Volume of the cell: " +
+           VolumeText(volume, {NormalizeNumber(txtA.Text()), NormalizeNumber(txtB.Text()),
+                               NormalizeNumber(txtC.Text())}) +
+           " A3";
 }
 
 std::string frmCrStruct::DensityText(double volume) const {

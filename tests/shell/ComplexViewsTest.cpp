@@ -2,9 +2,11 @@
 #include "records/clsComplex.h"
 #include "records/clsComplexSample.h"
 #include "records/clsCrS.h"
+#include "reference/Text.h"
 #include "shell/BioShellFixture.h"
 #include "shell/ReadingPane.h"
 
+#include <tuple>
 #include <utility>
 
 namespace vexora::test {
@@ -47,11 +49,13 @@ TEST_F(ComplexViews, ThePaneReadsComplexesSamplesAndStructures) {
               "Formula: (CH4)0.148(H2O)0.852\nMolar mass: 17.723144 g/mol\n"
               "Prepared at: 275 K, 5000 kPa\nPrepared by: Bubbling\nEntered: 1/15/2026\n"
               "Holds: 0 single values, 0 data sets, 0 phase equilibria, 1 crystal structure\n");
-    EXPECT_EQ(LinesOf(ReadingHtml(Sample().recCrS.Item(std::size_t{1}).get())),
-              "Crystal Structure # 1\nSpace group: Pm-3n\na: 11.877 \u00B1 0.003 \u00C5\n"
-              "b: 11.877 \u00C5\nc: 11.877 \u00C5\nalpha: 90 degrees\nbeta: 90 degrees\n"
-              "gamma: 90 degrees\nDistance O-O: 2.75 \u00B1 0.01 \u00C5\n"
-              "O at: 0.5, 0, 0.25, occupancy 1\nMethod: Powder neutron diffraction\n");
+    EXPECT_EQ(
+        LinesOf(ReadingHtml(Sample().recCrS.Item(std::size_t{1}).get())),
+        "Crystal Structure # 1\nSpace group: Pm-3n, cubic, no. 223\na: 11.877 \u00B1 0.003 \u00C5\n"
+        "b: 11.877 \u00C5\nc: 11.877 \u00C5\nalpha: 90 degrees\nbeta: 90 degrees\n"
+        "gamma: 90 degrees\nVolume of the cell: 1675.4 \u00C5\u00B3\nDistance O-O: 2.75 \u00B1 "
+        "0.01 \u00C5\n"
+        "O at: 0.5, 0, 0.25, occupancy 1\nMethod: Powder neutron diffraction\n");
 }
 
 TEST_F(ComplexViews, TheCheckNamesWhatDoesNotFit) {
@@ -68,6 +72,8 @@ TEST_F(ComplexViews, TheCheckNamesWhatDoesNotFit) {
     structure.Method.clear();
     structure.Atoms[0].Atom = "Xe";
     structure.Atoms[0].Occ = "1.1";
+    structure.Atoms[0].XX = "half";
+    structure.Atoms[0].ZZ.clear();
     structure.Distances[0].DD = "0";
     const std::string complex = "Complex Gas Hydrate (methane + water)",
                       sample = "Sample 1 of Gas Hydrate (methane + water)",
@@ -81,9 +87,36 @@ TEST_F(ComplexViews, TheCheckNamesWhatDoesNotFit) {
                              ", b: this is no number: x\nwarning: " + crystal +
                              ": the cell is incomplete\nerror: " + crystal +
                              ", atom 1: unknown atom Xe\nerror: " + crystal +
+                             ", atom 1, x: this is no number: half\nerror: " + crystal +
+                             ", atom 1: no z is stated\nerror: " + crystal +
                              ", atom 1: invalid occupancy 1.1\nerror: " + crystal +
                              ", distance 1: value 0 is not valid\nwarning: " + crystal +
                              ": no method is stated\n");
+}
+
+TEST_F(ComplexViews, GroupAndCellOfAStructureAreHeldAgainstEachOther) {
+    ASSERT_TRUE(Start(path_));
+    const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+        {"Pm3n", "90", "Pm3n, cubic, no. 223|", ""},
+        {"Fd-3m", "91", "Fd-3m, cubic, no. 227|Not cubic: beta is not 90|",
+         "not cubic: beta is not 90"},
+        {"P21/n", "91", "P21/n, monoclinic, in another setting|", ""},
+        {"Q9", "90", "Q9, none of the 230 symbols|", "unknown space group Q9"},
+        {"P1", "190", "P1, triclinic, no. 1|These constants close no cell|",
+         "these constants close no cell"}};
+    clsCrS& structure = *Sample().recCrS.Item(std::size_t{1});
+    for (const auto& [group, beta, read, told] : cases) {
+        structure.SpaceGroup = group;
+        structure.Beta = beta;
+        std::string shown;
+        for (const std::string& line : Split(LinesOf(ReadingHtml(&structure)), '\n'))
+            for (const std::string what : {"Space group: ", "Contradiction: "})
+                if (line.starts_with(what)) shown += line.substr(what.size()) + "|";
+        EXPECT_EQ(shown, read);
+        const std::string words = told;
+        EXPECT_EQ(Checked(),
+                  words.empty() ? "" : "warning: Crystal Structure # 1: " + words + "\n");
+    }
 }
 
 TEST_F(ComplexViews, ASampleWithAForeignComponentIsShownInsteadOfSaved) {
