@@ -85,6 +85,7 @@ void frmBioReact::ArrangeControls() {
          ui::ButtonRow({cmdAccept, cmdCancel})});
     TabAlongArrangement();
     PreferredColumns = 130;
+    PreferredRows = 49;
 }
 
 ui::Layout frmBioReact::ReactionLayout() {

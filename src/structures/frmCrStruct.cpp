@@ -39,7 +39,7 @@ void frmCrStruct::ArrangeControls() {
         return Field(name, Row({Narrow(value, 10), Field("+-", Narrow(uncertainty, 8))}));
     };
     Layout left = Column(
-        {Field("Space group:", Row({Narrow(cboGroup, 14), lblSystem})), Field("Method:", cboMethod),
+        {Field("Space group:", Row({Narrow(cboGroup, 20), lblSystem})), Field("Method:", cboMethod),
          Group("Cell: lengths, A, and angles, degree",
                {Row({Column({constant("a:", txtA, txtDA), constant("b:", txtB, txtDB),
                              constant("c:", txtC, txtDC)}),
