@@ -165,8 +165,16 @@ private:
     bool MayDrop(std::size_t place) {
         dropped_.push_back(place);
         return !HasFigures(draft_, place) || entries_.empty() ||
-               AskLoss(*entries_.front().field,
+               AskLoss(FieldNear(draft_.Quantities()[place]),
                        "The set has figures of " + draft_.NameOf(draft_.Quantities()[place]));
+    }
+    /// Where the same quantity stands now, else another one of its page.
+    ui::Control& FieldNear(const BioQuantity& before) const {
+        const auto find = [&](auto holds) { return std::ranges::find_if(entries_, holds); };
+        auto entry = find([&](const BioEntry& one) { return one.quantity.IsSameAs(before); });
+        if (entry == entries_.end())
+            entry = find([&](const BioEntry& one) { return one.quantity.role == before.role; });
+        return *(entry == entries_.end() ? entries_.front() : *entry).field;
     }
     /// What becomes of the figures of a quantity that is another one now, or in another unit.
     bool AskFate(std::size_t place, const BioEntry& now) {
