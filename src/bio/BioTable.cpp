@@ -33,10 +33,6 @@ std::string_view LimitsOf(std::string_view code) {
     return {};
 }
 
-std::string UnitOf(const BioQuantity& quantity) {
-    return quantity.unit == "1" ? std::string() : quantity.unit;
-}
-
 /// A figure, absolute or per cent of the value beside it.
 bool IsUncertainty(std::string text) {
     if (text.ends_with('%')) text.pop_back();
@@ -53,7 +49,7 @@ std::shared_ptr<clsProperty> ItemOf(const BioSet& set, const BioQuantity& quanti
     item->Factor = conversion.factor;
     item->Relation = limits.empty() ? AsTyped : "A";
     item->Name = set.NameOf(quantity);
-    if (!UnitOf(quantity).empty()) item->Name += ", " + UnitOf(quantity);
+    if (const std::string unit = set.UnitOf(quantity); !unit.empty()) item->Name += ", " + unit;
     TakeMasters(*item, statements);
     // What the set states in one word holds where its statement says nothing.
     if (item->masterunc.empty() && !quantity.StatesByRow()) item->masterunc = quantity.uncertainty;
@@ -63,7 +59,7 @@ std::shared_ptr<clsProperty> ItemOf(const BioSet& set, const BioQuantity& quanti
 } // namespace
 
 std::string HeadOf(const BioSet& set, const BioQuantity& quantity) {
-    const std::string unit = UnitOf(quantity);
+    const std::string unit = set.UnitOf(quantity);
     return set.NameOf(quantity) + (unit.empty() ? "" : " (" + unit + ")");
 }
 
@@ -102,7 +98,7 @@ std::string ConstantsOf(const BioSet& set) {
     for (const BioQuantity& quantity : set.Quantities()) {
         if (quantity.role != BioRole::Constraint) continue;
         text += (text.empty() ? "Constant: " : "    ") + set.NameOf(quantity) + " = " +
-                NumberWithUnit(quantity.value, quantity.unit);
+                NumberWithUnit(quantity.value, set.UnitOf(quantity));
     }
     return text;
 }
@@ -116,7 +112,7 @@ std::vector<clsX> NamedStatements(const BioSet& set) {
         items[n].PRPCODE = quantity.code;
         items[n].PHASE = quantity.phase;
         items[n].Name = set.NameOf(quantity);
-        items[n].Unit = UnitOf(quantity);
+        items[n].Unit = set.UnitOf(quantity);
         items[n].Constr = quantity.role == BioRole::Constraint;
         items[n].inSystemUnits = false; // they stand in the unit of the quantity, from a file too
     }

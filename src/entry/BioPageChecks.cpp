@@ -198,7 +198,8 @@ private:
     }
     /// The name with its unit, as it tells what changes.
     std::string FullName(const BioQuantity& quantity) const {
-        return draft_.NameOf(quantity) + (quantity.unit == "1" ? "" : " in " + quantity.unit);
+        const std::string unit = draft_.UnitOf(quantity);
+        return draft_.NameOf(quantity) + (unit.empty() ? "" : " in " + unit);
     }
     BioSet& draft_;
     const BioEntries& entries_;

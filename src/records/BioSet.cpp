@@ -59,10 +59,29 @@ const BioQuantityText* BioSet::TextOf(const BioQuantity& quantity) const {
 std::string BioSet::NameOf(const BioQuantity& quantity) const {
     const BioQuantityText* const entry = TextOf(quantity);
     std::string name = entry ? std::string(entry->text) : quantity.code;
-    if (!quantity.component.empty()) name += " of " + CompoundName(quantity.component);
+    if (!quantity.component.empty())
+        name += " of " + CompoundName(quantity.component) + NumberAmong(quantity);
     if (quantity.phase.empty()) return name;
     const std::string phase = PhaseName(quantity.phase);
     return name + " (" + (phase.empty() ? quantity.phase : phase) + ")";
+}
+
+/// Which one of a compound is meant, where the set says the same of another one as well.
+std::string BioSet::NumberAmong(const BioQuantity& quantity) const {
+    const std::string& key = quantity.component;
+    const std::string rn = RNOfKey(key);
+    if (key == rn) return {}; // the first
+    const bool isTold = std::ranges::any_of(quantities_, [&](const BioQuantity& other) {
+        return other.code == quantity.code && other.phase == quantity.phase &&
+               other.component != key && RNOfKey(other.component) == rn;
+    });
+    return isTold ? " (" + key.substr(rn.size() + 1) + ")" : std::string();
+}
+
+std::string BioSet::UnitOf(const BioQuantity& quantity) const {
+    const BioQuantityText* const entry = quantity.unit.empty() ? TextOf(quantity) : nullptr;
+    const std::string unit = entry ? std::string(entry->unit) : quantity.unit;
+    return unit == "1" ? std::string() : unit;
 }
 
 UnitConversion BioSet::ConversionOf(const BioQuantity& quantity) const {

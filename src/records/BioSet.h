@@ -104,6 +104,8 @@ public:
     const BioQuantityText* TextOf(const BioQuantity& quantity) const;
     /// The name of a quantity with its component and phase, as heads, plots and pages show it.
     std::string NameOf(const BioQuantity& quantity) const;
+    /// Its unit as it is shown: the system unit where a file leaves it open, empty for none.
+    std::string UnitOf(const BioQuantity& quantity) const;
     /// How its values lead to the system unit.
     UnitConversion ConversionOf(const BioQuantity& quantity) const;
     /// How many there are in a role, and the place of the first of them.
@@ -184,6 +186,7 @@ protected:
     static std::string Sorted(std::vector<std::string> texts);
 
 private:
+    std::string NumberAmong(const BioQuantity& quantity) const;
     std::vector<std::string> TextsOfQuantities(bool properties) const;
     std::vector<std::string> IdentityTexts() const;
     bool IsEmptyColumn(std::size_t place) const;

@@ -43,9 +43,9 @@ void DescribeQuantity(ReadingPage& page, const BioSet& set, std::size_t place) {
     const std::string name = set.NameOf(quantity);
     const bool isConstraint = quantity.role == BioRole::Constraint;
     const std::string values = isConstraint ? quantity.value : RangeOf(set, place);
-    const std::string unit = quantity.unit == "1" ? "" : quantity.unit;
+    const std::string unit = set.UnitOf(quantity);
     const std::string text =
-        (values.empty() ? unit : NumberWithUnit(values, quantity.unit)) + UncertaintyOf(set, place);
+        (values.empty() ? unit : NumberWithUnit(values, unit)) + UncertaintyOf(set, place);
     const std::string shown = text.empty() ? "dimensionless" : text;
     if (quantity.role == BioRole::Property) return page.Line(name + ":", shown);
     page.Line((isConstraint ? "Constant " : "Against ") + FirstSmall(name) + ":", shown);

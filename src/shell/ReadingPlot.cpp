@@ -12,8 +12,8 @@ namespace {
 
 std::string CaptionOf(const BioSet& set, std::size_t place) {
     const BioQuantity& quantity = set.Quantities()[place];
-    const std::string unit = quantity.unit == "1" ? "" : " (" + quantity.unit + ")";
-    return set.NameOf(quantity) + unit;
+    const std::string unit = set.UnitOf(quantity);
+    return set.NameOf(quantity) + (unit.empty() ? "" : " (" + unit + ")");
 }
 
 /// The first property of a bio set against its first variable, as typed. Null without two points.

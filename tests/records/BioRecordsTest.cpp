@@ -74,6 +74,13 @@ TEST_F(BioRecords, EverythingThatASetSaysComesBack) {
     EXPECT_EQ(set.recU[4].UValue, "0.001");
     EXPECT_EQ(set.Header.COMPILER + " " + set.Header.DATACOMMENT, "AB of the paper");
     EXPECT_EQ(set.NameOf(set.Quantities()[4]), "MolaRity of D-glucose");
+    // Of two that one would take for the same the second is numbered.
+    const auto both = set.Copy();
+    both->Add({BioRole::Variable, "J", "mol/dm3", "", "50997", "", ""});
+    EXPECT_EQ(both->NameOf(both->Quantities()[4]), "MolaRity of D-glucose");
+    EXPECT_EQ(both->NameOf(both->Quantities()[5]), "MolaRity of D-glucose (2)");
+    EXPECT_EQ(set.UnitOf(set.Quantities()[0]) + "|" + set.UnitOf(set.Quantities()[2]), "|C");
+    EXPECT_EQ(set.UnitOf({BioRole::Variable, "M", "", "", "", "", ""}), "mol/kg");
     EXPECT_NEAR(set.ConversionOf(set.Quantities()[2]).Absolute(25), 298.15, 1e-9);
     EXPECT_EQ(Property().State2, "partly unfolded");
     EXPECT_EQ(Property(2).PHASE4, "G");
