@@ -128,6 +128,7 @@ void Player::Settle() {
 
 void Player::RunModal(ui::Form& form) {
     ++modalDepth_;
+    actor_.Settle(); // it is seen before anything in it is touched
     while (form.IsVisible() && PlayNext()) {
     }
     --modalDepth_;
