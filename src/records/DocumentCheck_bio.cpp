@@ -63,9 +63,17 @@ void CheckPhase(const std::string& phase, Remarks& remarks) {
     if (!IsBlankField(phase) && !PhaseValid(phase)) remarks.Error("Unknown phase " + phase);
 }
 
-void CheckComponents(const BioSet& set, const std::string& name, Remarks& remarks) {
+/// What a compound is for in a complex is put in free words.
+bool IsFunctionKnown(const BioSet& set, const std::string& function) {
+    const auto* const property = dynamic_cast<const clsBP*>(&set);
+    if (property && property->PrpType == "G") return true;
     constexpr std::size_t ofProperties = 3; // the first functions hold for all sets
     const std::size_t functions = set.IsReaction() ? BioFunctions.size() : ofProperties;
+    return std::any_of(BioFunctions.begin(), BioFunctions.begin() + functions,
+                       [&](const CodeText& one) { return one.text == function; });
+}
+
+void CheckComponents(const BioSet& set, const std::string& name, Remarks& remarks) {
     for (std::size_t n = 0; n < set.Components.size(); ++n) {
         const BioComponent& component = set.Components[n];
         const std::string key = set.KeyOf(n);
@@ -73,10 +81,7 @@ void CheckComponents(const BioSet& set, const std::string& name, Remarks& remark
         if (!compound) remarks.Error(name + ": component not described: " + component.RN);
         CheckSampleOf(compound, component.SMPNM, name, remarks);
         CheckPhase(component.phase, remarks);
-        const bool isKnown =
-            std::any_of(BioFunctions.begin(), BioFunctions.begin() + functions,
-                        [&](const CodeText& one) { return one.text == component.function; });
-        if (!isKnown)
+        if (!IsFunctionKnown(set, component.function))
             remarks.Error(name + ": unknown function of " + set.CompoundName(key) + ": " +
                           OrPlaceholder(component.function));
         if (component.function == "Cofactor" && !StatesContent(set, component.RN))
