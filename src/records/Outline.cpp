@@ -5,6 +5,7 @@
 #include "records/LineNames.h"
 #include "records/LineWriter.h"
 #include "records/PropertyChain.h"
+#include "records/RegistryNumbers.h"
 #include "records/Walk.h"
 #include "records/clsBR.h"
 #include "records/clsL.h"
@@ -19,6 +20,7 @@
 #include <map>
 #include <string_view>
 #include <typeinfo>
+#include <utility>
 
 namespace vexora {
 
@@ -73,7 +75,11 @@ public:
     }
 
 private:
-    static std::string NameOfKey(const std::string& key) { return NameOfRN(BioSet::RNOfKey(key)); }
+    /// The name of a complex follows from what may have been changed; its number stays.
+    static std::string NameOfKey(const std::string& key) {
+        const std::string rn = BioSet::RNOfKey(key);
+        return NamesComplex(rn) ? "complex " + rn.substr(1) : NameOfRN(rn);
+    }
     using Fields = std::vector<std::pair<std::string, std::string>>;
     std::string SubjectOf(std::string_view kind, const Fields& fields) {
         if (kind == "BV" && bioSet_ && quantity_ < bioSet_->Quantities().size())
@@ -213,15 +219,23 @@ Outline OutlineOf(Record& record) {
     return outline;
 }
 
+/// Names are those of the source itself, whatever is in hand.
+Outline OutlineOfSource(const std::shared_ptr<clsR>& source) {
+    const auto inHand = std::exchange(Globals().CurrentR, source);
+    Outline outline = OutlineOf(*source);
+    Globals().CurrentR = inHand;
+    return outline;
+}
+
 } // namespace
 
 Outline OutlineOfDocument() {
     const auto& sources = Globals().recR;
     for (const auto& source : sources)
         source->MarkCompounds(); // those that are named have lines
-    Outline document = OutlineOf(*sources.Item(std::size_t{1}));
+    Outline document = OutlineOfSource(sources.Item(std::size_t{1}));
     for (std::size_t place = 2; place <= sources.Count(); ++place) {
-        document.children.push_back(OutlineOf(*sources.Item(place)));
+        document.children.push_back(OutlineOfSource(sources.Item(place)));
         document.children.back().identity = IdentityOfSource(place);
     }
     return document;
