@@ -162,6 +162,7 @@ private:
     // frmMain_edit.cpp
     void mnuEditNode_Click();
     void EditNode();
+    void RefreshEdited(std::string_view nodeKey);
     bool HasMouseSelection();
     void mnuNewLike_Click();
     bool MayRepeat() const;

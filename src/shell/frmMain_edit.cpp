@@ -6,6 +6,7 @@
 
 #include "globals/KVOGlobal.h"
 #include "records/BioSet.h"
+#include "records/RecordReader.h"
 #include "records/TiedSets.h"
 #include "records/clsBP.h"
 #include "records/clsMV.h"
@@ -125,11 +126,16 @@ void frmMain::EditNode() {
         if (rule->prepare == nullptr || rule->prepare())
             ui::Forms::Current().Get(rule->dialog).ShowModal();
     }
-    ui::TreeNode* node = tvwTree.SelectedNode();
-    if (globals.DialogAccepted && node != nullptr) {
-        if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock())) record->Refresh();
-    }
+    if (globals.DialogAccepted) RefreshEdited(rule->nodeKey);
     Activate();
+}
+
+/// Mixtures, reactions and complexes bear the names of what they consist of.
+void frmMain::RefreshEdited(std::string_view nodeKey) {
+    if (nodeKey == "RL" || nodeKey == "RX") return RefreshLabels();
+    ui::TreeNode* node = tvwTree.SelectedNode();
+    if (node == nullptr) return;
+    if (auto record = std::dynamic_pointer_cast<Record>(node->Tag.lock())) record->Refresh();
 }
 
 /// Only sets have rows to begin anew.
