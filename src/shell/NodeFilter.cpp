@@ -121,6 +121,13 @@ bool AnyValue(const Record* record, const std::function<bool(std::string_view)>&
     if (const auto* bio = dynamic_cast<const BioSet*>(record)) return AnyBioValue(*bio, holds);
     if (const auto* structure = dynamic_cast<const clsCrS*>(record))
         return std::ranges::any_of(FiguresOf(*structure), holds);
+    if (const auto* complex = dynamic_cast<const clsComplex*>(record))
+        return std::ranges::any_of(complex->Components,
+                                   [&](const auto& one) { return holds(one.content.value); });
+    if (const auto* sample = dynamic_cast<const clsComplexSample*>(record))
+        return holds(sample->PrepT) || holds(sample->PrepP) ||
+               std::ranges::any_of(sample->Components,
+                                   [&](const auto& one) { return holds(one.content.value); });
     const auto* set = dynamic_cast<const DataSet*>(record);
     if (set == nullptr) return false;
     return std::any_of(set->recData.begin(), set->recData.end(), [&](const clsData& row) {
