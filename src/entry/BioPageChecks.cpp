@@ -74,7 +74,8 @@ void BioQuantityPage::CheckNumbers(BioFaults& faults) {
         ui::TextBox& uncertainty = on_.uncertainties(i);
         uncertainty.Text(NormalizedUncertainty(uncertainty.Text()));
         const std::string stated = StatedUncertainty(i);
-        const bool isByNoRow = on_.values && stated == "*"; // a constant stands in none
+        // A constant stands in no row; what a file says of one is left to the check.
+        const bool isByNoRow = on_.values && stated == "*" && At(i).before.uncertainty != stated;
         if (isByNoRow || !IsUncertainty(stated)) faults.push_back({&uncertainty, NoNumber});
     }
 }
