@@ -24,7 +24,8 @@ constexpr const char* FirstRunText =
 
 } // namespace
 
-frmBioData::frmBioData() : Form("frmBioData", "Bio data table") {
+frmBioData::frmBioData()
+    : Form("frmBioData", "Bio data table"), TableMenu(static_cast<ui::Form&>(*this)) {
     using namespace ui;
     Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings,
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});

@@ -7,6 +7,7 @@
 #include "chem/clsProperty.h"
 #include "entry/TableColumns.h"
 #include "grid/TableEditor.h"
+#include "grid/TableMenu.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
@@ -19,26 +20,11 @@ struct ColumnsToPlot;
 /// The table of the rows of a bio set (BioSetInHand of the globals): any number of properties
 /// against any number of variables. Rows and statements go into the set when the table is accepted;
 /// one that is cancelled leaves the set as it was.
-class frmBioData : public ui::Form, private TableRules {
+class frmBioData : public ui::Form, public TableMenu, private TableRules {
 public:
     frmBioData();
     ~frmBioData() override;
 
-    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
-    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
-    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
-    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
-    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
-    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
-    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
-                               "Ctrl+Shift+V"};
-    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
-    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
-    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
@@ -112,11 +98,7 @@ private:
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
     TableColumns columns_;
-    TableEditor table_{*this,
-                       {tblData, txtCell, lblNotice, lstFindings},
-                       {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
-                        mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
-                        mnuLastFinding}};
+    TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };
 
 } // namespace vexora

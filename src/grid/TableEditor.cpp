@@ -22,8 +22,7 @@ bool IsArrow(const std::string& name) {
 
 } // namespace
 
-TableEditor::TableEditor(const TableRules& rules, const TableControls& controls,
-                         const TableMenu& menu)
+TableEditor::TableEditor(const TableRules& rules, const TableControls& controls, TableMenu& menu)
     : rules_(rules), grid_(controls.grid), cell_(controls.cell), menu_(menu), history_(grid_),
       blocks_(rules, history_, controls.notice), findings_(rules, grid_, controls.findings) {
     grid_.Editor = &cell_;
@@ -66,18 +65,18 @@ void TableEditor::WireTable() {
 }
 
 void TableEditor::WireMenu() {
-    Wire(menu_.open, [this] { blocks_.OpenFile(); });
-    Wire(menu_.save, [this] { blocks_.SaveFile(); });
-    Wire(menu_.undo, [this] { blocks_.Undo(); });
-    Wire(menu_.redo, [this] { blocks_.Redo(); });
-    Wire(menu_.copy, [this] { blocks_.Copy(); });
-    Wire(menu_.cut, [this] { blocks_.Cut(); });
-    Wire(menu_.paste, [this] { blocks_.Paste(); });
-    Wire(menu_.pasteShown, [this] { blocks_.PasteShown(); });
-    Wire(menu_.insertRows, [this] { blocks_.InsertRows(); });
-    Wire(menu_.removeRows, [this] { blocks_.RemoveRows(); });
-    Wire(menu_.nextFinding, [this] { findings_.Step(1); });
-    Wire(menu_.lastFinding, [this] { findings_.Step(-1); });
+    Wire(menu_.mnuFileOpen, [this] { blocks_.OpenFile(); });
+    Wire(menu_.mnuFileSave, [this] { blocks_.SaveFile(); });
+    Wire(menu_.mnuUndo, [this] { blocks_.Undo(); });
+    Wire(menu_.mnuRedo, [this] { blocks_.Redo(); });
+    Wire(menu_.mnuCopy, [this] { blocks_.Copy(); });
+    Wire(menu_.mnuCut, [this] { blocks_.Cut(); });
+    Wire(menu_.mnuPaste, [this] { blocks_.Paste(); });
+    Wire(menu_.mnuPasteShown, [this] { blocks_.PasteShown(); });
+    Wire(menu_.mnuInsertRows, [this] { blocks_.InsertRows(); });
+    Wire(menu_.mnuRemoveRows, [this] { blocks_.RemoveRows(); });
+    Wire(menu_.mnuNextFinding, [this] { findings_.Step(1); });
+    Wire(menu_.mnuLastFinding, [this] { findings_.Step(-1); });
 }
 
 void TableEditor::Wire(ui::MenuItem& item, std::function<void()> action) {
@@ -142,15 +141,15 @@ bool TableEditor::UseOtherKey(const std::string& name) {
     if (name == "Backspace")
         blocks_.Empty();
     else if (name == "Ctrl+Y")
-        menu_.redo.UserClick();
+        menu_.mnuRedo.UserClick();
     else if (name == "Shift+Insert")
-        menu_.paste.UserClick();
+        menu_.mnuPaste.UserClick();
     else if (name == "Ctrl+Insert")
-        menu_.copy.UserClick();
+        menu_.mnuCopy.UserClick();
     else if (name == "Shift+Delete")
-        menu_.cut.UserClick();
+        menu_.mnuCut.UserClick();
     else if (name == "Ctrl+Shift++" || name == "Ctrl+=") // where "+" stands on other keyboards
-        menu_.insertRows.UserClick();
+        menu_.mnuInsertRows.UserClick();
     else
         return false;
     return true;
@@ -164,9 +163,9 @@ void TableEditor::CellKeys(ui::Key& key) {
         cell_.Visible(false);
         grid_.SetFocus();
     } else if (name == "Ctrl+Z") {
-        menu_.undo.UserClick();
+        menu_.mnuUndo.UserClick();
     } else if (name == "Ctrl+Shift+Z" || name == "Ctrl+Y") {
-        menu_.redo.UserClick();
+        menu_.mnuRedo.UserClick();
     } else if (name == "Ctrl+V") {
         PasteInCell();
     } else if (name == "Tab" || name == "Shift+Tab" || name == "Enter" || name == "Shift+Enter" ||

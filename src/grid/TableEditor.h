@@ -6,6 +6,7 @@
 #include "grid/FindingList.h"
 #include "grid/GridKey.h"
 #include "grid/TableBlocks.h"
+#include "grid/TableMenu.h"
 #include "grid/TableRules.h"
 #include "grid/TableUndo.h"
 #include "ui/Form.h"
@@ -22,22 +23,13 @@ struct TableControls {
     ui::ListBox& findings;
 };
 
-/// The menu entries of a form for the work in its table.
-struct TableMenu {
-    ui::MenuItem &open, &save;
-    ui::MenuItem &undo, &redo;
-    ui::MenuItem &cut, &copy, &paste, &pasteShown;
-    ui::MenuItem &insertRows, &removeRows;
-    ui::MenuItem &nextFinding, &lastFinding;
-};
-
 /// The work in the table of a form: typing into cells, keys, blocks, history and findings, all
 /// wired to the controls, which stay the form's. What the columns mean, the form says by its rules.
 /// A form declares the editor behind its controls and so owns it; one of several tables has an
 /// editor for each. These share the menu, whose entries work on the table that was entered last.
 class TableEditor {
 public:
-    TableEditor(const TableRules& rules, const TableControls& controls, const TableMenu& menu);
+    TableEditor(const TableRules& rules, const TableControls& controls, TableMenu& menu);
     ~TableEditor();
     TableEditor(const TableEditor&) = delete;
     TableEditor& operator=(const TableEditor&) = delete;
@@ -74,7 +66,7 @@ private:
     const TableRules& rules_;
     ui::Grid& grid_;
     ui::TextBox& cell_;
-    TableMenu menu_;
+    TableMenu& menu_;
     TableUndo history_;
     TableBlocks blocks_;
     FindingList findings_;

@@ -24,7 +24,8 @@ constexpr const char* FirstRunText =
 
 } // namespace
 
-frmCrStruct::frmCrStruct() : ChainForm("frmCrStruct", "Crystal Structure") {
+frmCrStruct::frmCrStruct()
+    : ChainForm("frmCrStruct", "Crystal Structure"), TableMenu(static_cast<ui::Form&>(*this)) {
     ArrangeControls();
     FillLists();
     WireEvents();

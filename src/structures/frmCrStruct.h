@@ -7,6 +7,7 @@
 #include "chem/UnitCell.h"
 #include "globals/FormChain.h"
 #include "grid/TableEditor.h"
+#include "grid/TableMenu.h"
 #include "records/clsCrS.h"
 #include "structures/CellPicture.h"
 #include "structures/CrystalTables.h"
@@ -18,27 +19,12 @@ struct CifStructure;
 
 /// The crystal structure of a complex sample: space group, cell, atoms and distances. What follows
 /// from them is shown while they are typed, and a CIF fills the form for review.
-class frmCrStruct : public ChainForm {
+class frmCrStruct : public ChainForm, public TableMenu {
 public:
     frmCrStruct();
 
-    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
     ui::MenuItem mnuOpenCif{*this, "mnuOpenCif", "Open &CIF...", &mnuFile, "Ctrl+O"};
     ui::MenuItem mnuSavePicture{*this, "mnuSavePicture", "Save the &picture...", &mnuFile};
-    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
-    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
-    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
-    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
-    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
-    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
-                               "Ctrl+Shift+V"};
-    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
-    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
-    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
     ui::MenuItem mnuUnc{*this, "mnuUnc", "&Uncertainty Definitions", &mnuHelp};
@@ -128,16 +114,8 @@ private:
                                               {txtGamma, txtDgamma}}};
     AtomTable atoms_{tblFinal};
     DistanceTable distances_{tblRaw};
-    TableEditor atomEditor_{atoms_,
-                            {tblFinal, txtCellF, lblNoticeF, lstFindingsF},
-                            {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
-                             mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
-                             mnuLastFinding}};
-    TableEditor distanceEditor_{distances_,
-                                {tblRaw, txtCellR, lblNoticeR, lstFindingsR},
-                                {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy,
-                                 mnuPaste, mnuPasteShown, mnuInsertRows, mnuRemoveRows,
-                                 mnuNextFinding, mnuLastFinding}};
+    TableEditor atomEditor_{atoms_, {tblFinal, txtCellF, lblNoticeF, lstFindingsF}, *this};
+    TableEditor distanceEditor_{distances_, {tblRaw, txtCellR, lblNoticeR, lstFindingsR}, *this};
 };
 
 } // namespace vexora

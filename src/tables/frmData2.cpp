@@ -25,7 +25,7 @@ constexpr const char* FirstRunText =
 
 } // namespace
 
-frmData2::frmData2() : Form("frmData2", "Data table") {
+frmData2::frmData2() : Form("frmData2", "Data table"), TableMenu(static_cast<ui::Form&>(*this)) {
     ArrangeControls();
     WireEvents();
     WireMenus();

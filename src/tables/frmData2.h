@@ -10,6 +10,7 @@
 #include "entry/FractionSums.h"
 #include "entry/RowChecks.h"
 #include "grid/TableEditor.h"
+#include "grid/TableMenu.h"
 #include "records/DataSet.h"
 #include "records/RowMasses.h"
 #include "ui/Form.h"
@@ -21,26 +22,11 @@ struct PlotTable;
 /// The table of the rows of a data set: typed, pasted or read from a file, checked while it is
 /// filled, stored when it is accepted. It works on the current set; a table that is cancelled
 /// leaves the set as it was.
-class frmData2 : public ui::Form, private TableRules {
+class frmData2 : public ui::Form, public TableMenu, private TableRules {
 public:
     frmData2();
     ~frmData2() override;
 
-    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
-    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
-    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
-    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
-    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
-    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
-    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
-                               "Ctrl+Shift+V"};
-    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
-    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
-    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
@@ -191,11 +177,7 @@ private:
     OwnSigns ownSigns_;         // columns whose cells are not all per cent, though the
                                 // set says so
     TableColumns firstColumns_; // those that the table began with
-    TableEditor table_{*this,
-                       {tblData, txtCell, lblNotice, lstFindings},
-                       {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
-                        mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
-                        mnuLastFinding}};
+    TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };
 
 } // namespace vexora

@@ -38,7 +38,7 @@ int FixedRows() {
 } // namespace
 
 frmProcess::frmProcess()
-    : Form("frmProcess", "Table to process"),
+    : Form("frmProcess", "Table to process"), TableMenu(static_cast<ui::Form&>(*this)),
       tblData(*this, "tblData", FixedRows() + FirstRows, FirstColumns + 1, FixedRows(), 1) {
     ArrangeControls();
     WireEvents();

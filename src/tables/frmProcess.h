@@ -8,6 +8,7 @@
 
 #include "entry/ValueQuestions.h"
 #include "grid/TableEditor.h"
+#include "grid/TableMenu.h"
 #include "tables/HeadingGuess.h"
 #include "tables/ProcessHeads.h"
 #include "ui/Form.h"
@@ -21,26 +22,11 @@ class Record;
 /// A whole table of a paper, pasted once: its columns are named, and all its data sets are made in
 /// one step. A pane beside it tells at any time what these would be. frmSelect says before what the
 /// table is about, or stored sets come to be shown in it.
-class frmProcess : public ui::Form, private TableRules {
+class frmProcess : public ui::Form, public TableMenu, private TableRules {
 public:
     frmProcess();
     ~frmProcess() override;
 
-    ui::MenuItem mnuFile{*this, "mnuFile", "&File"};
-    ui::MenuItem mnuFileOpen{*this, "mnuFileOpen", "&Open a table...", &mnuFile};
-    ui::MenuItem mnuFileSave{*this, "mnuFileSave", "&Save the table...", &mnuFile};
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem mnuUndo{*this, "mnuUndo", "&Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem mnuRedo{*this, "mnuRedo", "&Redo", &mnuEdit, "Ctrl+Shift+Z"};
-    ui::MenuItem mnuCut{*this, "mnuCut", "Cu&t", &mnuEdit, "Ctrl+X"};
-    ui::MenuItem mnuCopy{*this, "mnuCopy", "&Copy", &mnuEdit, "Ctrl+C"};
-    ui::MenuItem mnuPaste{*this, "mnuPaste", "&Paste", &mnuEdit, "Ctrl+V"};
-    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Paste after a &look...", &mnuEdit,
-                               "Ctrl+Shift+V"};
-    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "&Insert rows", &mnuEdit, "Ctrl++"};
-    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Re&move rows", &mnuEdit, "Ctrl+-"};
-    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "&Next finding", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Pre&vious finding", &mnuEdit, "Shift+F8"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
 
@@ -154,11 +140,7 @@ private:
     bool isTyped_ = false;                  // something was typed into it
     bool stored_ = false;
     mutable std::unique_ptr<Outlook> outlook_;
-    TableEditor table_{*this,
-                       {tblData, txtCell, lblNotice, lstFindings},
-                       {mnuFileOpen, mnuFileSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste,
-                        mnuPasteShown, mnuInsertRows, mnuRemoveRows, mnuNextFinding,
-                        mnuLastFinding}};
+    TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };
 
 } // namespace vexora

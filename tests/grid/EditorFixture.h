@@ -20,23 +20,10 @@ namespace vexora::test {
 /// Two values with a note between them and a figure that is not typed into: x, n, y, f. The note
 /// says what x was before it was entered anew; a value that is no number is a fault, a note of "?"
 /// a doubt; rows with the same x are hinted at.
-class BareTable : public ui::Form, public TableRules {
+class BareTable : public ui::Form, public TableMenu, public TableRules {
 public:
-    BareTable() : Form("frmTable", "Table") {}
+    BareTable() : Form("frmTable", "Table"), TableMenu(static_cast<ui::Form&>(*this)) {}
 
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem mnuOpen{*this, "mnuOpen", "Open", &mnuEdit};
-    ui::MenuItem mnuSave{*this, "mnuSave", "Save", &mnuEdit};
-    ui::MenuItem mnuUndo{*this, "mnuUndo", "Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem mnuRedo{*this, "mnuRedo", "Redo", &mnuEdit, "Ctrl+Shift+Z"};
-    ui::MenuItem mnuCut{*this, "mnuCut", "Cut", &mnuEdit};
-    ui::MenuItem mnuCopy{*this, "mnuCopy", "Copy", &mnuEdit, "Ctrl+C"};
-    ui::MenuItem mnuPaste{*this, "mnuPaste", "Paste", &mnuEdit, "Ctrl+V"};
-    ui::MenuItem mnuPasteShown{*this, "mnuPasteShown", "Look", &mnuEdit, "Ctrl+Shift+V"};
-    ui::MenuItem mnuInsertRows{*this, "mnuInsertRows", "Insert", &mnuEdit, "Ctrl++"};
-    ui::MenuItem mnuRemoveRows{*this, "mnuRemoveRows", "Remove", &mnuEdit, "Ctrl+-"};
-    ui::MenuItem mnuNextFinding{*this, "mnuNextFinding", "Next", &mnuEdit, "F8"};
-    ui::MenuItem mnuLastFinding{*this, "mnuLastFinding", "Previous", &mnuEdit, "Shift+F8"};
     ui::Grid tblData{*this, "tblData", 2, 4};
     ui::TextBox txtCell{*this, "txtCell"};
     ui::Label lblNotice{*this, "lblNotice"};
@@ -85,10 +72,7 @@ public:
     mutable int looked = 0;        // times that hints were asked for
     mutable std::size_t shown = 0; // rows of the block that was shown
     bool wanted = true;
-    TableEditor table{*this,
-                      {tblData, txtCell, lblNotice, lstFindings},
-                      {mnuOpen, mnuSave, mnuUndo, mnuRedo, mnuCut, mnuCopy, mnuPaste, mnuPasteShown,
-                       mnuInsertRows, mnuRemoveRows, mnuNextFinding, mnuLastFinding}};
+    TableEditor table{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };
 
 class EditorFixture : public testing::Test {

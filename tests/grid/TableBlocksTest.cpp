@@ -135,14 +135,14 @@ TEST_F(TableBlocksTest, TableOfAFileReplacesWhatStoodHereInOneStep) {
     std::ofstream(*desktop.chosen) << "275 5 999.8\n";
     Paste("1 2 3\n3 4 5\n5 6 7");
     Select(3, 1, 3, 1);
-    form.mnuOpen.UserClick();
+    form.mnuFileOpen.UserClick();
     EXPECT_EQ(Cells(), "275|5|999.8|;|||;");
     EXPECT_EQ(form.lblNotice.Caption(),
               "The table of the file replaced 3 rows; Ctrl+Z brings back what stood here");
     form.mnuUndo.UserClick();
     EXPECT_EQ(Cells(), "1|2|3|;3|4|5|;5|6|7|;|||;");
     desktop.Expect(*desktop.chosen + " exists already\nReplace it?", ui::Answer::No);
-    form.mnuSave.UserClick();
+    form.mnuFileSave.UserClick();
     std::string error;
     EXPECT_EQ(desktop.disk.Read(*desktop.chosen, error), "275 5 999.8\n");
 }
@@ -156,14 +156,14 @@ TEST_F(TableBlocksTest, FullDiskLeavesTheOldFileOfATable) {
     desktop.disk.FailAt("Write");
     desktop.Expect(path + " exists already\nReplace it?", ui::Answer::Yes);
     desktop.Expect("The file " + path + " cannot be written.\nNo space left on device");
-    form.mnuSave.UserClick();
+    form.mnuFileSave.UserClick();
     std::string error;
     EXPECT_EQ(desktop.disk.Read(path, error), "1\t2\n");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scratch.Path()), {}), 1);
     desktop.chosen = scratch.Path("none.txt");
     desktop.disk.FailAt("Read", desktop.disk.Calls("Read") + 1, "No such file");
     desktop.Expect("No such file");
-    form.mnuOpen.UserClick();
+    form.mnuFileOpen.UserClick();
     EXPECT_EQ(form.tblData.Cell(1, 2), "999.80");
 }
 

@@ -104,12 +104,9 @@ struct SilentTalk : ReadTalk {
 };
 
 /// A form with nothing but a table.
-class TableForm : public ui::Form, public TableRules {
+class TableForm : public ui::Form, public TableMenu, public TableRules {
 public:
-    TableForm() : Form("frmTable", "Table") {}
-    ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
-    ui::MenuItem undo{*this, "undo", "Undo", &mnuEdit, "Ctrl+Z"};
-    ui::MenuItem other{*this, "other", "Other", &mnuEdit};
+    TableForm() : Form("frmTable", "Table"), TableMenu(static_cast<ui::Form&>(*this)) {}
     ui::Grid tblData{*this, "tblData", 2, 1};
     ui::TextBox txtCell{*this, "txtCell"};
     ui::Label lblNotice{*this, "lblNotice"};
@@ -140,10 +137,7 @@ public:
             text += (column > 0 ? "|" : "") + tblData.Cell(row, column);
         return text;
     }
-    TableEditor table{
-        *this,
-        {tblData, txtCell, lblNotice, lstFindings},
-        {other, other, undo, other, other, other, other, other, other, other, other, other}};
+    TableEditor table{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };
 
 class AnotherSet : public test::DocumentFixture {
