@@ -29,6 +29,13 @@ bool IsOfSolvent(const BioQuantity& quantity) {
     return quantity.role != BioRole::Property && IsOneOf(quantity.code, {"Xs", "Ws", "Vs", "Js"});
 }
 
+/// The record of the selected node, null for none.
+std::shared_ptr<ui::TreeTag> Selected() {
+    const auto* const tree = Globals().tvwTree;
+    const ui::TreeNode* const node = tree ? tree->SelectedNode() : nullptr;
+    return node ? node->Tag.lock() : nullptr;
+}
+
 } // namespace
 
 int frmBioProp::ComponentCount() {
@@ -98,11 +105,17 @@ std::shared_ptr<clsBP> frmBioProp::NewSet() const {
     set->PHASE1 = Solution;
     set->PHASE2 = set->PrpType == Solubility ? Crystal : Solution;
     set->Add(AtmosphericPressure());
-    // Whoever comes from a compound means it.
-    if (!globals.CurrentKey.starts_with("RL") || !globals.CurrentL) return set;
-    set->RN = globals.CurrentL->RN;
-    const auto compound = globals.CurrentR->FindL(set->RN);
-    if (compound && compound->recS.Count() == 1) set->SMPNM = compound->recS.Item(1)->SMPNM;
+    // Whoever comes from a compound or a sample means it.
+    const auto selected = Selected();
+    const auto* const sample = dynamic_cast<const clsS*>(selected.get());
+    const auto* const compound =
+        sample ? sample->Parent : dynamic_cast<const clsL*>(selected.get());
+    if (!compound) return set;
+    set->RN = compound->RN;
+    if (sample)
+        set->SMPNM = sample->SMPNM;
+    else if (compound->recS.Count() == 1)
+        set->SMPNM = compound->recS.Item(1)->SMPNM;
     return set;
 }
 
