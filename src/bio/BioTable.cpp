@@ -33,10 +33,10 @@ std::string_view LimitsOf(std::string_view code) {
     return {};
 }
 
-/// A figure, absolute or per cent of the value beside it.
+/// A figure of no less than 0, absolute or per cent of the value beside it.
 bool IsUncertainty(std::string text) {
     if (text.ends_with('%')) text.pop_back();
-    return IsNumeric(text);
+    return IsNumeric(text) && Val(text) >= 0;
 }
 
 std::shared_ptr<clsProperty> ItemOf(const BioSet& set, const BioQuantity& quantity,
