@@ -1,4 +1,5 @@
 #include "records/DocumentCheck.h"
+#include "records/clsBP.h"
 #include "records/clsComplex.h"
 #include "records/clsComplexSample.h"
 #include "records/clsCrS.h"
@@ -13,19 +14,18 @@ namespace vexora::test {
 
 class ComplexViews : public ShellFixture {
 protected:
-    ComplexViews() {
-        std::filesystem::copy_file(VEXORA_SOURCE_DIR "/tests/sessions/shell/bio_and_hydrate.txt",
-                                   path_);
-    }
+    ComplexViews() { WriteText(path_, HydrateDocument()); }
     static clsComplex& Hydrate() {
         return *Globals().recR.Item(std::size_t{1})->recComplex.Item(std::size_t{1});
     }
     static clsComplexSample& Sample() { return *Hydrate().recS.Item(std::size_t{1}); }
+    static clsBP& Equilibrium() { return *Sample().recBP.Item(std::size_t{1}); }
     /// What the check says of the complex and of all below it.
     static std::string Checked() {
         std::string found;
         for (const DocumentFinding& one : CheckDocument()) {
             const bool isOfComplex = one.record == &Hydrate() || one.record == &Sample() ||
+                                     one.record == &Equilibrium() ||
                                      dynamic_cast<const clsCrS*>(one.record);
             if (isOfComplex)
                 found += std::string(SeverityWord(one.severity)) + ": " + one.text + "\n";
@@ -48,7 +48,15 @@ TEST_F(ComplexViews, ThePaneReadsComplexesSamplesAndStructures) {
               "methane: mole fraction 0.148\nwater: mole fraction 0.852, sample 1\n"
               "Formula: (CH4)0.148(H2O)0.852\nMolar mass: 17.723144 g/mol\n"
               "Prepared at: 275 K, 5000 kPa\nPrepared by: Bubbling\nEntered: 1/15/2026\n"
-              "Holds: 0 single values, 0 data sets, 0 phase equilibria, 1 crystal structure\n");
+              "Holds: 0 single values, 1 data set, 1 phase equilibrium, 1 crystal structure\n"
+              "Density: 2 rows\n");
+    EXPECT_EQ(LinesOf(ReadingHtml(&Equilibrium())),
+              "Gas Hydrate Data Set # 1: Phase Equilibrium\nPhases: Liquid, Crystal sI, Gas\n"
+              "Gas: methane, CH4\nWater: water, H2O, sample 1\n"
+              "Pressure (Gas): 2.76 to 2.90 MPa \u00B1 1%\n"
+              "Against temperature (Liquid): 273.7 to 274.3 K \u00B1 0.1\nRows: 2\n"
+              "Method: Last crystal\nPurpose: Principal objective of the work\n"
+              "Entered: 1/15/2026\n");
     EXPECT_EQ(
         LinesOf(ReadingHtml(Sample().recCrS.Item(std::size_t{1}).get())),
         "Crystal Structure # 1\nSpace group: Pm-3n, cubic, no. 223\na: 11.877 \u00B1 0.003 \u00C5\n"
@@ -94,6 +102,27 @@ TEST_F(ComplexViews, TheCheckNamesWhatDoesNotFit) {
                              ": no method is stated\n");
 }
 
+TEST_F(ComplexViews, TheCheckKnowsThePhasesAndQuantitiesOfAHydrate) {
+    const std::string phases = "BH G 1 & & L CS1 G &",
+                      name = "Gas Hydrate Data Set # 1: Phase Equilibrium";
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {phases, "BH G 1 & & L CS1 L &", "error: " + name + ": a phase stands twice: Liquid\n"},
+        {phases, "BH G 1 & & & & & &", "error: No phase is given\n"},
+        {phases, "BH G 1 & & Q9 CS1 G &", "error: Unknown phase Q9\n"},
+        {"BV P MPa G", "BV KM 1 G", "error: " + name + ": unknown property KM\n"},
+        {"BD 2.90 274.3", "BD 2.90 -3",
+         "error: " + name + ", temperature (Liquid): row 2: value -3 is not valid\n"},
+        {"BM Last crystal\n", "", "warning: " + name + ": no method is stated\n"}};
+    ASSERT_TRUE(Start(path_));
+    for (const auto& [from, to, told] : cases) {
+        std::string text = HydrateDocument();
+        WriteText(path_, text.replace(text.find(from), from.size(), to));
+        Globals().Saved = true;
+        Shell().tvwTree.UserDrop(path_);
+        EXPECT_EQ(Checked(), told) << to;
+    }
+}
+
 TEST_F(ComplexViews, GroupAndCellOfAStructureAreHeldAgainstEachOther) {
     ASSERT_TRUE(Start(path_));
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
@@ -135,9 +164,9 @@ TEST_F(ComplexViews, ASampleWithAForeignComponentIsShownInsteadOfSaved) {
 TEST_F(ComplexViews, TheSearchKnowsComponentsAndStructures) {
     ASSERT_TRUE(Start(path_));
     const std::pair<const char*, std::string> cases[] = {
-        {"enclathrated", "Gas Hydrat|"}, {"74-82-8 bubbling", "Sample 1|"},
+        {"enclathrated", "Gas Hydrat|"}, {"74-82-8 bubbling", "Gas Hydrat|"},
         {"pm-3n", "Crystal St|"},        {"11.877", "Crystal St|"},
-        {"neutron", "Crystal St|"},      {"2.7..2.8", "Crystal St|"}};
+        {"neutron", "Crystal St|"},      {"2.7..2.8", "Gas Hydrat|Crystal St|"}};
     for (const auto& [words, found] : cases)
         EXPECT_EQ(Found(words), found) << words;
 }
