@@ -192,6 +192,32 @@ TEST_F(BioDeletionTest, BioSetsKeepTheirCompoundsAndSamplesAndComeBack) {
     Delete("D-fructose", {Sure});
 }
 
+TEST_F(ReactionDeletionTest, AHydrateGoesFromItsDataUpAndComesBack) {
+    const std::string path = folder.Path("hydrate.txt");
+    WriteText(path, HydrateDocument());
+    ASSERT_TRUE(Start(path));
+    Shell().Save();
+    Delete("Gas Hydrate (methane + water)", {Blocked});
+    const std::pair<const char*, std::vector<std::string>> goes[] = {
+        {"Gas Hydrate Data Set # 1: Phase Equilibrium", {Sure, DataToo}},
+        {"^1: Density (CS1,kg/m3), Set 1, ::Method NS ", {Sure, DataToo}},
+        {"Crystal Structure # 1", {Sure}},
+        {"Sample 1", {Sure}},
+        {"Gas Hydrate (methane + water)", {Sure}}};
+    for (const auto& [node, boxes] : goes) {
+        Shell().Save();
+        const std::string saved = FileText(path);
+        Delete(node, boxes);
+        EXPECT_FALSE(Globals().Saved) << node;
+        Shell().mnuUndoDelete.UserClick();
+        EXPECT_TRUE(Globals().Saved) << node;
+        Shell().Save();
+        EXPECT_EQ(FileText(path), saved) << node;
+        Delete(node, boxes);
+    }
+    EXPECT_TRUE(Globals().CurrentR->recComplex.IsEmpty());
+}
+
 TEST_F(DeletionTest, FromTheLeavesUpToAnEmptyWorkbenchAndTheSourceBackWithItsFile) {
     while (!Sample().Children().empty())
         Delete(*Sample().Children().back(), HasRows(*Sample().Children().back()));

@@ -1,5 +1,8 @@
+#include "records/clsBP.h"
+#include "records/clsComplexSample.h"
 #include "records/clsR.h"
-#include "shell/ShellFixture.h"
+#include "records/clsTwo.h"
+#include "shell/BioShellFixture.h"
 
 namespace vexora::test {
 
@@ -25,7 +28,7 @@ protected:
         for (const char* name :
              {"frmDocument", "frmSubst", "frmComplex", "frmSample", "frmComplexSample", "frmMixt",
               "frmReact", "frmProperty", "frmSingle", "frmProcess", "frmMixtSingle", "frmChanged",
-              "frmCrStruct", "frmBioProp", "frmBioReact", "frmGH"})
+              "frmCrStruct", "frmTwo", "frmBioProp", "frmBioReact", "frmGH"})
             Fake(name);
         Fake("frmSelect", false);
     }
@@ -182,6 +185,60 @@ TEST_F(ToolbarTest, TheChosenKindOfBioDataOpensItsDialogAndNoChoiceLeavesTheSele
         EXPECT_EQ(Globals().CurrentKey, "RL") << "the selection stays";
         EXPECT_TRUE(Globals().Saved);
     }
+}
+
+TEST_F(ToolbarTest, TheChosenKindOfDataOfAHydrateOpensItsDialog) {
+    FakeAll();
+    const std::string path = folder.Path("hydrate.txt");
+    WriteText(path, HydrateDocument());
+    ASSERT_TRUE(Start(path));
+    auto& sample = *Globals().CurrentR->recComplex.Item(std::size_t{1})->recS.Item(1);
+    ui::TreeNode& node = *sample.tNode;
+    std::string kind;
+    desktop.InModal = [&](ui::Form& form) {
+        Globals().DialogAccepted = true;
+        Globals().TableKind = kind;
+        form.Close();
+    };
+    const std::tuple<const char*, const char*, const char*> opened[] = {
+        {"Bulk property", "frmProperty", ""},
+        {"Phase equilibrium", "frmGH", "G"},
+        {"Crystal structure", "frmCrStruct", ""},
+        {"Decomposition thermodynamics", "frmReact", ""}};
+    for (const auto& [chosen, dialog, type] : opened) {
+        kind = chosen;
+        Shell().tvwTree.UserNodeClick(node);
+        Shell().AddProp.UserClick();
+        ASSERT_TRUE(IsOpen(dialog)) << chosen;
+        EXPECT_EQ(Globals().BioType + " " + Globals().DataContext, std::string(type) + " Complex");
+        workbench.Forms().Get(dialog).Close();
+        EXPECT_EQ(Globals().CurrentKey, "RXS");
+    }
+    sample.Components[0].content.value.clear();
+    desktop.Expect("Please set the composition");
+    Shell().AddProp.UserClick();
+    EXPECT_FALSE(IsOpen("frmReact") || Globals().ShellLocked);
+    EXPECT_EQ(Globals().CurrentKey, "RXS");
+}
+
+TEST_F(ToolbarTest, ASetOfAHydrateIsBegunAnewInItsDialog) {
+    FakeAll();
+    const std::string path = folder.Path("hydrate.txt");
+    WriteText(path, HydrateDocument());
+    ASSERT_TRUE(Start(path));
+    auto& sample = *Globals().CurrentR->recComplex.Item(std::size_t{1})->recS.Item(1);
+    Shell().tvwTree.UserNodeClick(*sample.recTwo.Item(std::size_t{1})->tNode);
+    Shell().mnuNewLike.UserClick();
+    EXPECT_TRUE(IsOpen("frmTwo"));
+    EXPECT_EQ(Globals().SetToRepeat, sample.recTwo.Item(std::size_t{1}));
+    EXPECT_EQ(Globals().BioSetToRepeat, nullptr);
+    workbench.Forms().Get("frmTwo").Close();
+    Globals().BioType.clear();
+    Shell().tvwTree.UserNodeClick(*sample.recBP.Item(std::size_t{1})->tNode);
+    Shell().mnuNewLike.UserClick();
+    EXPECT_TRUE(IsOpen("frmGH"));
+    EXPECT_EQ(Globals().BioSetToRepeat, sample.recBP.Item(std::size_t{1}));
+    EXPECT_EQ(Globals().BioType, "G");
 }
 
 TEST_F(ToolbarTest, AnEditRunsModallyUnderItsFlagAndRefreshesTheNode) {
