@@ -111,6 +111,21 @@ void TakeOutJoined(clsR& source, const BioCompaction& result) {
             TakeOut(sample->recBP, leaving);
 }
 
+/// The sets that are left when all that agree have become one.
+Sets JoinOnce(const Sets& sets, BioCompaction& result) {
+    result.apart.clear();
+    Joiner joiner(result);
+    for (const auto& set : sets) {
+        set->Clean();
+        set->Expand();
+    }
+    for (const auto& set : sets)
+        joiner.Take(set);
+    for (const auto& set : joiner.Left())
+        set->Compact();
+    return joiner.Left();
+}
+
 } // namespace
 
 BioCompaction CompactBioSets(clsR& source) {
@@ -122,17 +137,17 @@ BioCompaction CompactBioSets(clsR& source) {
     if (!result.invalid.empty()) return result;
     std::ranges::stable_sort(sets, {}, [](const auto& set) { return set->SetNo; });
     std::unordered_map<const BioSet*, std::string> before;
-    Joiner joiner(result);
-    for (const auto& set : sets) {
-        before[set.get()] = LinesOf(*set);
-        set->Clean();
-        set->Expand();
-    }
     for (const auto& set : sets)
-        joiner.Take(set);
+        before[set.get()] = LinesOf(*set);
+    // What has become constant in one may agree with another one only then: once more at least.
+    sets = JoinOnce(sets, result);
+    std::size_t joined = 0;
+    do {
+        joined = result.joined.size();
+        sets = JoinOnce(sets, result);
+    } while (result.joined.size() != joined);
     TakeOutJoined(source, result);
-    for (const auto& set : joiner.Left()) {
-        set->Compact();
+    for (const auto& set : sets) {
         if (LinesOf(*set) == before[set.get()]) continue;
         result.changed.push_back(set);
         set->Refresh();

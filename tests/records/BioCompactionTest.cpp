@@ -239,6 +239,17 @@ TEST_F(BioCompactionOf, WhatIsTheSameInAllRowsIsHeldConstantAsItWasTyped) {
     }
 }
 
+TEST_F(BioCompactionOf, WhatAgreesOnceItIsConstantIsJoinedAtTheFirstRun) {
+    SetLines constant, byRow, all;
+    constant.quantities = "BV KM 1 & & 2% P &\nBV T K & & 0.1 C 298.15\n";
+    byRow.number = "2";
+    byRow.quantities = "BV KM 1 & & 2% P &\nBV T K & & * V &\n";
+    byRow.rows = "B0 0 0\nBD 0.9 300 0.1\n";
+    all.quantities = "BV KM 1 & & 2% P &\nBV T K & & 0.1 V &\n";
+    all.rows = "B0 0 0\nBD 0.865 298.15\nBD 0.9 300\n";
+    EXPECT_EQ(Compacted(constant.Text() + byRow.Text()), all.Text());
+}
+
 TEST_F(BioCompactionOf, RepeatedComponentsGoAndTheirKeysFollow) {
     const std::string line = "BP 0 7732185 0 2 7732185 water H2O 18.015 0 0 & 0 & &\n";
     SetLines before, after;
