@@ -34,6 +34,8 @@ protected:
         Read(BioHead + lines);
         EXPECT_TRUE(lost.empty()) << LostLines();
         result = CompactBioSets(Source());
+        // The sets that were left out name compounds of the document, which is read anew below.
+        told = result.Sentences();
         const std::string once = BioLines();
         const BioCompaction again = CompactBioSets(Source());
         EXPECT_TRUE(again.changed.empty() && again.joined.empty());
@@ -43,11 +45,12 @@ protected:
     }
     std::string Told() const {
         std::string text;
-        for (const std::string& sentence : result.Sentences())
+        for (const std::string& sentence : told)
             text += sentence + "\n";
         return text;
     }
     BioCompaction result;
+    std::vector<std::string> told;
 };
 
 TEST_F(BioCompactionOf, SixSetsOfOneTemperatureEachBecomeOneInTheOrderOfTheirNumbers) {
