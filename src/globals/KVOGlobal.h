@@ -33,6 +33,7 @@ class clsX;
 class clsZ;
 class DataSet;
 class ProcessedSets;
+class StatementMemory;
 class Substance;
 class SubstanceSample;
 struct ColumnsToPlot;
@@ -122,6 +123,9 @@ struct KVOGlobal {
     int PropertiesInUX = 1;                 // so many of them are of properties, the first ones
     std::shared_ptr<PlotTable> Plot;        // the points that frmGraph is to show
     std::shared_ptr<ColumnsToPlot> BioPlot; // the table that frmBioPlot is to show
+    // Statements of uncertainty accepted in this sitting, by property and method; null before the
+    // first one.
+    std::shared_ptr<StatementMemory> Statements;
     std::string KeyRest; // tags of a comment that no dialog interprets; kept over read and write
 
     // What the property dialog hands to the entry dialog.

@@ -31,8 +31,13 @@ void View::Refresh() {
     const bool usable = control_.IsUsable() || (!control_.Visible() && control_.Enabled());
     if (widget_->isEnabledTo(widget_->parentWidget()) != usable) widget_->setEnabled(usable);
     if (widget_->isHidden() == control_.Visible()) widget_->setVisible(control_.Visible());
-    const QString tip = ToQt(control_.ToolTip());
+    const bool saysWhy = !usable && !control_.WhyDisabled().empty();
+    const QString tip = ToQt(saysWhy ? control_.WhyDisabled() : control_.ToolTip());
     if (widget_->toolTip() != tip) widget_->setToolTip(tip);
+    const QString called = ToQt(control_.AccessibleName());
+    if (!called.isEmpty() && widget_->accessibleName() != called) {
+        widget_->setAccessibleName(called);
+    }
     Draw();
     drawing_ = false;
 }

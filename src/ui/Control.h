@@ -58,6 +58,19 @@ public:
 
     const std::string& ToolTip() const { return toolTip_; }
     void ToolTip(std::string text) { Alter(toolTip_, std::move(text)); }
+    /// Why it cannot be used now, in a person's words: the tip that it shows while it is disabled.
+    const std::string& WhyDisabled() const { return whyDisabled_; }
+    void WhyDisabled(std::string text) { Alter(whyDisabled_, std::move(text)); }
+    /// What a screen reader calls it; empty where its caption or label says enough.
+    const std::string& AccessibleName() const { return accessibleName_; }
+    void AccessibleName(std::string text) { Alter(accessibleName_, std::move(text)); }
+    /// What a person reads in its place while nobody types into it: a citation without its marks.
+    /// Empty for the content itself. Scripts and records know the content alone.
+    const std::string& Readable() const { return readable_; }
+    void Readable(std::string text) { Alter(readable_, std::move(text)); }
+    /// Shown grey while the field is empty: what belongs in it.
+    const std::string& Hint() const { return hint_; }
+    void Hint(std::string text) { Alter(hint_, std::move(text)); }
 
     /// Moves the focus of the form here; nothing happens when the control cannot take it.
     void SetFocus();
@@ -107,6 +120,10 @@ private:
     ControlKind kind_;
     std::string name_;
     std::string toolTip_;
+    std::string whyDisabled_;
+    std::string accessibleName_;
+    std::string readable_;
+    std::string hint_;
     Frame* container_ = nullptr;
     bool enabled_ = true;
     bool visible_ = true;

@@ -4,6 +4,19 @@
 
 namespace vexora::ui {
 
+namespace {
+
+class QuietProgress : public Progress {
+public:
+    bool Reached(double) override { return true; }
+};
+
+} // namespace
+
+std::unique_ptr<Progress> Desktop::Begin(const LongWork&) {
+    return std::make_unique<QuietProgress>();
+}
+
 Desktop& TheDesktop() {
     return Forms::Current().TheDesktop();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -41,6 +42,20 @@ struct Date {
     int day = 0;   // 1 to 31
 };
 
+/// Long work, as a person sees it.
+struct LongWork {
+    std::string what;     // "Reading 2002wagpru1.txt"
+    bool mayStop = false; // it can be stopped with nothing lost
+};
+
+/// How far a long work is; the work holds it as long as it goes on.
+class Progress {
+public:
+    virtual ~Progress() = default;
+    /// The work has come to this share, from 0 to 1. False: the person wants it stopped.
+    virtual bool Reached(double share) = 0;
+};
+
 /// What the workbench asks of the world. The fronts and the tests bring their own; nothing else
 /// touches the screen, the clock, the disk or the user.
 class Desktop {
@@ -57,6 +72,9 @@ public:
     virtual std::string ClipboardText() = 0;
     virtual void ClipboardText(const std::string& text) = 0;
     virtual void Hourglass(bool on) = 0;
+    /// Shows how far the work is, once it takes long enough to be noticed. Without a screen it is
+    /// quiet and never stopped.
+    virtual std::unique_ptr<Progress> Begin(const LongWork& work);
     /// Shows the page of help with this context number.
     virtual void ShowHelp(int context) = 0;
     virtual void Print(const std::string& title, const std::string& text) = 0;

@@ -75,6 +75,14 @@ public:
     /// Texts that cells of heads would get, shown in the empty ones; they change nothing.
     const Proposals& Proposed() const { return proposals_; }
     void Propose(Proposals proposals) { Alter(proposals_, std::move(proposals)); }
+    /// What stands for the empty cells of a column, by column: shown grey in those of filled rows.
+    /// It is no content: scripts and records never see it.
+    using ColumnTexts = std::map<int, std::string>;
+    const ColumnTexts& Stated() const { return stated_; }
+    void Stated(ColumnTexts texts) { Alter(stated_, std::move(texts)); }
+    /// A second line of the heads, by column: quantity and unit. It is only drawn.
+    const ColumnTexts& HeadNotes() const { return headNotes_; }
+    void HeadNotes(ColumnTexts texts) { Alter(headNotes_, std::move(texts)); }
     /// Rows are numbered at their head, the first one behind the fixed rows by 1.
     bool ShowsRowNumbers = false;
 
@@ -133,6 +141,8 @@ private:
     std::pair<int, int> anchor_, cursor_; // corners of the selection, by row and column
     Marks marks_;
     Proposals proposals_;
+    ColumnTexts stated_;
+    ColumnTexts headNotes_;
     int timesShown_ = 0;
     int batches_ = 0;
     int changesInBatch_ = 0;

@@ -33,6 +33,8 @@ public:
     void Index(int index);
     /// Text of the chosen entry, empty for none.
     const std::string& Chosen() const { return Item(index_); }
+    /// The first entry says what is to be chosen and is no datum; it is drawn grey.
+    bool FirstIsPrompt = false;
     /// Chooses the entry with this exact text, or none; false when it is not there.
     bool Choose(std::string_view text);
 

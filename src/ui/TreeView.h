@@ -111,6 +111,11 @@ public:
     /// buttons and menu entries, with null for a line between them. No menu without it.
     std::function<std::vector<Captioned*>()> Offers;
 
+    /// The tip of a node, in a person's words; asked when it is to be shown. None without it.
+    std::function<std::string(const TreeNode&)> TipOf;
+    /// The name of the icon of a node, by the kind of its record. None without it.
+    std::function<std::string(const TreeNode&)> IconOf;
+
     void UserNodeClick(TreeNode& node);
     void UserNodeDoubleClick(TreeNode& node);
     /// The selection reaches the node by the keyboard: no mouse events.
