@@ -77,8 +77,9 @@ SaveOutcome Exchange(ui::FileSystem& files, const TemporaryFile& finished,
     // What stood there comes back, and the save has failed.
     files.Rename(present.Path(), target);
     if (!files.Exists(present.Path())) return {false, error};
+    error += "\nThe version before is " + present.Path();
     present.Keep();
-    return {true, error + "\nThe version before is " + present.Path()};
+    return {true, error};
 }
 
 /// A rename lives in the folder; without this a power cut may bring back the old file.
