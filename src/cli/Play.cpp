@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* PlayHelp =
     "Play session scripts: [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--keep-going] "
-    "FILE...";
+    "[--recovery] FILE...";
 
 } // namespace
 

@@ -118,6 +118,7 @@ bool frmSample::Store() {
     changed_ = false;
     Globals().Saved = false;
     Globals().DialogAccepted = true;
+    NoteAccepted();
     return true;
 }
 

@@ -164,6 +164,7 @@ void frmSubst::Store() {
     compound->AttachTo(*globals.CurrentR);
     globals.Saved = false;
     globals.DialogAccepted = true;
+    NoteAccepted();
 }
 
 /// Only the line of a bio compound has room for what these boxes hold.

@@ -128,24 +128,31 @@ std::string IsoDate(std::string_view recordDate) {
     return date.ok() ? std::to_string(*year) + "-" + Padded(*month) + "-" + Padded(*day) : "";
 }
 
-ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers) {
+ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers, const WorkHeard& heard) {
     ExportedDocument exported;
     std::string& text = exported.xml;
-    exported.findings = ExportDocument(today, readers, [&](std::string_view part) {
+    const auto gather = [&](std::string_view part) {
         // Room that is not written to costs nothing, but a copy does.
         constexpr std::size_t growth = 4;
         if (text.capacity() < text.size() + part.size())
             text.reserve(growth * (text.size() + part.size()));
         text += part;
-    });
+    };
+    exported.findings = ExportDocument(today, readers, gather, heard);
     return exported;
 }
 
 std::vector<ExportFinding> ExportDocument(const ui::Date& today, ExportFor readers,
-                                          const std::function<void(std::string_view)>& taker) {
+                                          const std::function<void(std::string_view)>& taker,
+                                          const WorkHeard& heard) {
+    const auto all = static_cast<double>(CountRecords());
     std::unique_ptr<ClosingCheck> check;
     // What was just written is still at hand, the file as well as its records.
     XmlWriter xml(readers == ExportFor::StrictReaders, [&](std::string_view part) {
+        if (heard && !heard(std::min(1.0, static_cast<double>(xml.Marks().size()) / all))) {
+            Globals().LineInHand = 0;
+            throw WorkStopped();
+        }
         check->Read(part);
         taker(part);
     });

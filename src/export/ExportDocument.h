@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "export/ClosingCheck.h"
+#include "records/Walk.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -23,11 +24,13 @@ enum class ExportFor { House, StrictReaders };
 /// The open document as ThermoML. It may ask for the source of the document (see clsR::PrintR), and
 /// tells which data it had to leave out. today is the day that the citation bears.
 /// Nothing is written to disk here. Text beyond ASCII leaves as character references.
-ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers = ExportFor::House);
+ExportedDocument ExportDocument(const ui::Date& today, ExportFor readers = ExportFor::House,
+                                const WorkHeard& heard = {});
 /// The same in parts of whole lines, for a file that need not stand in memory; what the closing
-/// check found.
+/// check found. Tells heard how far it is; throws WorkStopped when that wants no more.
 std::vector<ExportFinding> ExportDocument(const ui::Date& today, ExportFor readers,
-                                          const std::function<void(std::string_view)>& taker);
+                                          const std::function<void(std::string_view)>& taker,
+                                          const WorkHeard& heard = {});
 
 /// yyyy-mm-dd.
 /// ISO 8601, the date type of XML schemas.

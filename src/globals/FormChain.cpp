@@ -33,12 +33,19 @@ void CloseForm() {
     if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;
     const std::string opener = globals.OpenForms.back();
     globals.OpenForms.pop_back();
+    NoteAccepted(); // or it is not, then nothing is done
     if (opener != "frmMain") {
         ui::Form* form = ui::Forms::Current().Find(opener);
         if (form && (globals.AdvancedMode || !form->IsVisible())) form->Show();
     }
     if (!globals.OpenForms.empty()) return;
     if (ui::Form* shell = ui::Forms::Current().Find("frmMain")) shell->Activate();
+}
+
+void NoteAccepted() {
+    const KVOGlobal& globals = Globals();
+    if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;
+    if (ui::Form* const shell = ui::Forms::Current().Find("frmMain")) shell->Activate();
 }
 
 bool ChainForm::IsGuided() const {

@@ -24,6 +24,9 @@ void LeadOnAndWait(std::string_view opener, std::string_view next);
 /// empty the main form runs its activation step.
 void CloseForm();
 
+/// A dialog of the chain has been accepted and stays open; the main form hears of it.
+void NoteAccepted();
+
 /// A dialog that is always a link of the chain.
 class ChainForm : public ui::Form {
 public:

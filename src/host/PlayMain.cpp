@@ -7,6 +7,7 @@
 #include "host/HostClock.h"
 #include "host/Player.h"
 #include "host/PosixFileSystem.h"
+#include "host/PosixRecoveryFolder.h"
 #include "shell/Places.h"
 
 namespace vexora::host {
@@ -16,13 +17,14 @@ namespace {
 enum Status { allHeld = 0, notHeld = 1, malformed = 2 };
 
 constexpr const char* Usage = "play [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
-                              "[--keep-going] [--shots DIR] FILE...";
+                              "[--keep-going] [--recovery] [--shots DIR] FILE...";
 
 struct Request {
     std::optional<std::string> home;
     ScriptVariables variables{{"OUT", "."}};
     PlayOptions options;
     std::vector<std::string> files;
+    bool recovery = false; // copies are written and offered as to a person
 };
 
 /// Takes the command line apart; throws ScriptError with what is wrong.
@@ -46,6 +48,8 @@ private:
         const std::string name = argument.substr(0, argument.find('='));
         if (argument == "--keep-going")
             request_.options.keepGoing = true;
+        else if (argument == "--recovery")
+            request_.recovery = true;
         else if (name == "--home")
             request_.home = Value(argument);
         else if (name == "--shots")
@@ -115,8 +119,13 @@ int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) 
     }
     bool held = true;
     for (const Script& script : scripts) {
-        Player player(front.actor, files, front.program(places), request.options, front.out,
-                      front.err);
+        // Each program that a script starts is one of its own, whatever became of the one before.
+        const MakeProgram make = [&](ui::Desktop& desktop) {
+            Places own = places;
+            if (request.recovery) own.Recovery = RecoveryBelow(places.Home);
+            return front.program(own)(desktop);
+        };
+        Player player(front.actor, files, make, request.options, front.out, front.err);
         held = player.Play(script) && held;
     }
     return held ? allHeld : notHeld;

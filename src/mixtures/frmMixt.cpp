@@ -197,6 +197,7 @@ void frmMixt::Store() {
     globals.CurrentMixType = mixture->MixType;
     globals.Saved = false;
     globals.DialogAccepted = true;
+    NoteAccepted();
 }
 
 } // namespace vexora

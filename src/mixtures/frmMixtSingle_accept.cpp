@@ -120,6 +120,7 @@ void frmMixtSingle::Store() {
     globals.CurrentMZ = record;
     globals.Saved = false;
     globals.DialogAccepted = true;
+    NoteAccepted();
 }
 
 void frmMixtSingle::StoreValues(clsMZ& record) const {

@@ -302,6 +302,7 @@ void frmSingle::Store() {
     globals.CurrentZ = record;
     globals.Saved = false;
     globals.DialogAccepted = true;
+    NoteAccepted();
 }
 
 void frmSingle::StoreHeader(clsZ& record) const {

@@ -14,6 +14,7 @@
 #include "qt/Dialogs.h"
 #include "qt/HelpWindow.h"
 #include "qt/PicturePainter.h"
+#include "qt/ProgressWindow.h"
 #include "qt/Text.h"
 #include "ui/OneLine.h"
 
@@ -31,6 +32,7 @@ QWidget* QtDesktop::Parent() const {
 ui::Answer QtDesktop::Show(const ui::Message& message) {
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
     if (waiting) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    ProgressWindow::HideAll();
     const auto box = MakeMessageBox(message, Parent());
     box->exec();
     if (waiting) QGuiApplication::restoreOverrideCursor();
@@ -38,6 +40,7 @@ ui::Answer QtDesktop::Show(const ui::Message& message) {
 }
 
 std::optional<std::string> QtDesktop::Ask(const ui::Input& input) {
+    ProgressWindow::HideAll();
     const auto box = MakeInputBox(input, Parent());
     if (box->exec() != QDialog::Accepted) return {};
     return ui::OneLine(FromQt(box->textValue()));
@@ -74,6 +77,10 @@ void QtDesktop::Hourglass(bool on) {
         QGuiApplication::restoreOverrideCursor();
 }
 
+std::unique_ptr<ui::Progress> QtDesktop::Begin(const ui::LongWork& work) {
+    return std::make_unique<ProgressWindow>(work, Parent());
+}
+
 void QtDesktop::ShowHelp(int context) {
     for (const std::string& folder : helpFolders_) {
         if (HelpWindow::Show(folder + "/help", context, files_, Parent())) return;
@@ -107,6 +114,7 @@ std::optional<std::string> QtDesktop::PngOf(const ui::Picture& picture) {
 void QtDesktop::RunModal(ui::Form& form) {
     const bool waiting = QGuiApplication::overrideCursor() != nullptr;
     if (waiting) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    ProgressWindow::HideAll();
     QEventLoop loop;
     const auto leave = [&] {
         if (!form.IsVisible()) loop.quit();

@@ -24,6 +24,7 @@ public:
     std::string ClipboardText() override;
     void ClipboardText(const std::string& text) override;
     void Hourglass(bool on) override;
+    std::unique_ptr<ui::Progress> Begin(const ui::LongWork& work) override;
     void ShowHelp(int context) override;
     void Print(const std::string& title, const std::string& text) override;
     void PrintPicture(const std::string& title, const ui::Picture& picture) override;

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "host/PosixFileSystem.h"
+#include "host/PosixRecoveryFolder.h"
 #include "qt/QtDesktop.h"
 #include "qt/RecentFiles.h"
 #include "qt/Text.h"
@@ -78,7 +79,9 @@ int RunInteractive(Application& application, const Places& places, const std::st
     }
     BringIntroduction(places, files);
     QApplication::setQuitOnLastWindowClosed(false);
-    Run run(application, places);
+    Places kept = places;
+    kept.Recovery = host::RecoveryBelow(places.Home);
+    Run run(application, kept);
     QTimer::singleShot(0, &application, [&] { run.Start(document); });
     return QApplication::exec();
 }

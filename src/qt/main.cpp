@@ -19,7 +19,8 @@ namespace {
 
 constexpr const char* Usage =
     "vexora [--home DIR] [--look dark|light] [DOCUMENT]\n"
-    "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--shots DIR]\n"
+    "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--recovery]\n"
+    "            [--shots DIR]\n"
     "vexora --help | --version\n";
 
 struct Request {

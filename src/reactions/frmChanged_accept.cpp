@@ -188,6 +188,7 @@ void frmChanged::Store() {
     globals.CurrentC = record;
     globals.Saved = false;
     globals.DialogAccepted = true;
+    NoteAccepted();
 }
 
 void frmChanged::StoreSolvent() {

@@ -99,12 +99,12 @@ const Record* SampleBesideSystem() {
     return found;
 }
 
-std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver) {
+std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver, const WorkHeard& heard) {
     Findings findings;
     TellPassedOver(passedOver, findings);
     for (const auto& source : Globals().recR)
         source->MarkCompounds();
-    WalkDocument([&findings](const Record& record) { Checks()(record, findings); });
+    WalkDocument([&findings](const Record& record) { Checks()(record, findings); }, heard);
     return findings;
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "records/Notice.h"
+#include "records/Walk.h"
 
 namespace vexora {
 
@@ -48,7 +49,9 @@ inline constexpr const char* BesideSystemText =
 /// apart, codes that the tables do not hold, numbers that are none, values that are impossible or
 /// suspicious, states and uncertainties that nobody stated, points that stand twice, and advice on
 /// mixtures. What is said of the rows of a set names the first of them. In the order of the record
-/// file, what was passed over first.
-std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver = {});
+/// file, what was passed over first. Tells heard how far it is; throws WorkStopped when that wants
+/// no more.
+std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver = {},
+                                           const WorkHeard& heard = {});
 
 } // namespace vexora

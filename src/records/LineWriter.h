@@ -22,6 +22,9 @@ public:
     /// What a record has to say to the user about its lines; writing goes on.
     void Tell(std::string notice) { notices_.push_back(std::move(notice)); }
 
+    /// Also what the record file leaves out: compounds and mixtures that nothing hangs on yet.
+    bool WritesAll = false;
+
     const std::string& Text() const { return text_; }
     const std::vector<std::string>& Notices() const { return notices_; }
 

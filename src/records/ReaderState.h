@@ -68,6 +68,7 @@ struct ReaderState {
     int structureLines = 0;                 // its lines as long as it has not joined its sample
 
     bool isAbandoned = false;
+    bool isStopped = false; // because nobody wants it any more
     /// A registry number that is no number: nothing behind it can be told to a compound.
     bool endsProgram = false;
     std::string fault;

@@ -61,10 +61,17 @@ void Finish(ReadPurpose purpose, ReadTalk& talk) {
 void ReadLines(std::string_view text, ReaderState& state) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    constexpr int linesATime = 1000; // between two words on how far it is
+    const auto all = static_cast<double>(text.size());
     std::string decoded;
     while (!text.empty() && !state.isAbandoned) {
         std::string_view line = TakeLine(text);
         Globals().LineInHand = ++state.lineNumber;
+        if (state.lineNumber % linesATime == 0 &&
+            !state.talk.Heard(1 - static_cast<double>(text.size()) / all)) {
+            state.isAbandoned = state.isStopped = true;
+            return;
+        }
         if (Trim(line).empty()) continue;
         // By line, for old files hold some lines of each encoding.
         if (!IsValidUtf8(line)) {
@@ -101,20 +108,27 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
     std::ranges::stable_sort(result.lost, {}, &LineLost::line);
     if (result.whole) return result;
     EmptyDocument();
+    result.stopped = state.isStopped;
     result.fault = state.fault;
     result.faultLine = state.lineNumber;
     result.endsProgram = state.endsProgram;
     return result;
 }
 
-PrintedDocument PrintDocument() {
+PrintedDocument PrintDocument(const WorkHeard& heard) {
     LineWriter out;
-    for (const auto& source : Globals().recR) {
+    for (const auto& source : Globals().recR)
         for (std::string& fault : source->PrepareOutput())
             out.Tell(std::move(fault));
-        Walk(*source, [&out](const Record& record) { record.Print(out); });
-    }
+    WalkDocument([&out](const Record& record) { record.Print(out); }, heard);
     return {out.Text(), out.Notices()};
+}
+
+std::string DocumentInMemory() {
+    LineWriter out;
+    out.WritesAll = true;
+    WalkDocument([&out](const Record& record) { record.Print(out); });
+    return out.Text();
 }
 
 void RefreshLabels() {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "records/Notice.h"
+#include "records/Walk.h"
 
 namespace vexora {
 
@@ -16,6 +17,7 @@ struct ReadResult {
     /// the ones whose tag nobody knows, and what has no record to belong to.
     std::vector<LineLost> lost;
     std::vector<LineLost> told; // what was said of other lines, as of an author whom nobody knows
+    bool stopped = false;       // whoever heard how far the read was wanted no more of it
     std::string fault;          // the message that was shown when the read was abandoned
     int faultLine = 0;          // line of the file, from 1
     bool endsProgram = false;   // the read found what this program cannot go on with
@@ -29,6 +31,8 @@ public:
     virtual void Say(const Notice& notice) = 0;
     /// The answer to a question of Yes or No.
     virtual bool Confirm(const std::string& question) = 0;
+    /// Such a share of the text is read, from 0 to 1. False drops the read without a word.
+    virtual bool Heard(double) { return true; }
 };
 
 /// Work adds sources that the reference database lacks to it and settles their texts there; Look
@@ -51,7 +55,12 @@ struct PrintedDocument {
 };
 /// Throws SaveRefused (LineWriter.h), whose text is for the user, for a record that cannot be
 /// written truly. Nothing in memory changes but the letters of compounds and source.
-PrintedDocument PrintDocument();
+/// Tells heard how far it is; throws WorkStopped when that wants no more.
+PrintedDocument PrintDocument(const WorkHeard& heard = {});
+
+/// The document with all that is in memory, also what a record file leaves out. ReadRecords gives
+/// it back. Throws SaveRefused. Nothing in memory changes.
+std::string DocumentInMemory();
 
 /// Rewrites the text of every node from its record.
 void RefreshLabels();

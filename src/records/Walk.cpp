@@ -15,4 +15,20 @@ void WalkDocument(const std::function<void(Record&)>& visit) {
         Walk(*source, visit);
 }
 
+std::size_t CountRecords() {
+    std::size_t count = 0;
+    WalkDocument([&count](Record&) { ++count; });
+    return count;
+}
+
+void WalkDocument(const std::function<void(Record&)>& visit, const WorkHeard& heard) {
+    if (!heard) return WalkDocument(visit);
+    const auto all = static_cast<double>(CountRecords());
+    double done = 0;
+    WalkDocument([&](Record& record) {
+        if (!heard(done++ / all)) throw WorkStopped();
+        visit(record);
+    });
+}
+
 } // namespace vexora

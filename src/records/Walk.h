@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <typeindex>
 #include <typeinfo>
@@ -16,6 +17,15 @@ namespace vexora {
 void Walk(Record& root, const std::function<void(Record&)>& visit);
 /// The same for the whole document.
 void WalkDocument(const std::function<void(Record&)>& visit);
+/// The number of all records of the document.
+std::size_t CountRecords();
+
+/// Hears which share of a long work is done, from 0 to 1. False: it is to stop where it is.
+using WorkHeard = std::function<bool(double share)>;
+/// Comes up through a work that was stopped on the way.
+struct WorkStopped {};
+/// The same with each record told; throws WorkStopped.
+void WalkDocument(const std::function<void(Record&)>& visit, const WorkHeard& heard);
 
 /// What is to be done with a record, by its class. A class that is not named gets Result().
 template <class Result, class... Args>

@@ -161,7 +161,7 @@ void clsL::PrintL(LineWriter& out) const {
 }
 
 void clsL::Print(LineWriter& out) const {
-    if (isNew || isUsed || !recS.IsEmpty()) PrintL(out);
+    if (isNew || isUsed || !recS.IsEmpty() || out.WritesAll) PrintL(out);
 }
 
 void clsL::EachChild(const std::function<void(Record&)>& visit) const {

@@ -163,7 +163,7 @@ bool clsM::HasData() const {
 }
 
 void clsM::Print(LineWriter& out) const {
-    if (HasData()) PrintM(out);
+    if (HasData() || out.WritesAll) PrintM(out);
 }
 
 void clsM::EachChild(const std::function<void(Record&)>& visit) const {

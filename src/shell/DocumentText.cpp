@@ -14,8 +14,13 @@ namespace {
 
 class DesktopTalk : public ReadTalk {
 public:
+    explicit DesktopTalk(ui::Progress& progress) : progress_(progress) {}
     void Say(const Notice& notice) override { ui::Say(notice.text, notice.title); }
     bool Confirm(const std::string& question) override { return ui::AskYesNo(question); }
+    bool Heard(double share) override { return progress_.Reached(share); }
+
+private:
+    ui::Progress& progress_;
 };
 
 /// Both files say where the data were taken from.
@@ -77,9 +82,11 @@ Notice NoticeOfReading(const ReadResult& result) {
             "Read only"};
 }
 
-ReadResult ReadDocument(std::string_view text, ReadPurpose purpose) {
+ReadResult ReadDocument(std::string_view text, ReadPurpose purpose, const std::string& name) {
     const ui::HourglassScope hourglass;
-    DesktopTalk talk;
+    const auto progress =
+        ui::TheDesktop().Begin({"Reading " + (name.empty() ? "the document" : name), true});
+    DesktopTalk talk(*progress);
     ReadResult result = ReadRecords(text, talk, purpose);
     if (result.endsProgram && purpose == ReadPurpose::Work) ui::TheDesktop().EndProgram();
     return result;
@@ -87,7 +94,10 @@ ReadResult ReadDocument(std::string_view text, ReadPurpose purpose) {
 
 std::string DocumentAsRecords() {
     AskSourcesOfDocument();
-    PrintedDocument printed = PrintDocument();
+    PrintedDocument printed = [] {
+        const auto progress = ui::TheDesktop().Begin({"Saving the document", true});
+        return PrintDocument([&](double share) { return progress->Reached(share); });
+    }();
     for (const std::string& notice : printed.notices)
         ui::Say(notice);
     return std::move(printed.text);
@@ -105,7 +115,12 @@ std::vector<ExportFinding> DocumentForExport(const ui::Date& today, ExportFor re
 }
 
 std::string DocumentAsXml(const ui::Date& today, ExportFor readers) {
-    ExportedDocument exported = DocumentForExport(today, readers);
+    AskSourcesOfDocument();
+    ExportedDocument exported = [&] {
+        const auto progress = ui::TheDesktop().Begin({"Exporting the document", true});
+        return ExportDocument(today, readers,
+                              [&](double share) { return progress->Reached(share); });
+    }();
     if (!exported.findings.empty()) ui::Say(TextOf(exported.findings), "Please review the export");
     return std::move(exported.xml);
 }

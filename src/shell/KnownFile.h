@@ -28,6 +28,11 @@ public:
     /// The content decides: size and time can be those of before all the same.
     bool IsChanged(ui::FileSystem& files, const std::string& path) const;
 
+    /// What is known as one line for another run of the program, empty for nothing; and back,
+    /// without Lines. What is no such line is nothing known.
+    std::string ToText() const;
+    static KnownFile FromText(std::string_view text);
+
 private:
     std::string path_;
     std::size_t size_ = 0;

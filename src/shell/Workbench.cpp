@@ -27,7 +27,10 @@ bool Workbench::Start(const std::string& commandLine) {
     }
     auto& shell = forms_->Get<frmMain>("frmMain");
     shell.Show();
-    shell.OpenFromCommandLine(DocumentOfCommandLine(commandLine));
+    shell.KeepRecovery(places_.Recovery);
+    // What was not saved goes first; the document of the command line is there another time too.
+    if (!shell.RestoreDocument())
+        shell.OpenFromCommandLine(DocumentOfCommandLine(commandLine));
     return shell.IsOpen();
 }
 

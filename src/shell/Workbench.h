@@ -8,12 +8,14 @@
 
 namespace vexora {
 
+class RecoveryFolder;
 struct KVOGlobal;
 
 /// Where the workbench finds its things.
 struct Places {
     std::string Home;      // application folder: VXR.ini, the two databases, intro.rtf, scope.rtf
     std::string Installed; // what was installed: databases to copy from, help pages; may be empty
+    std::shared_ptr<RecoveryFolder> Recovery = {}; // copies of what is not saved; null keeps none
 };
 
 /// The whole program without its front: the registry of forms, the globals, the main form. One at a

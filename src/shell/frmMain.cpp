@@ -9,6 +9,7 @@
 #include "shell/DocumentAside.h"
 #include "shell/ReadingPane.h"
 #include "shell/ReadingPlot.h"
+#include "shell/Recovery.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -20,7 +21,7 @@ constexpr const char* MainCaption = "Vexora - Thermophysical and Thermochemical 
 
 } // namespace
 
-frmMain::frmMain() : Form("frmMain", MainCaption) {
+frmMain::frmMain() : Form("frmMain", MainCaption), recovery_(std::make_unique<Recovery>()) {
     Arrangement = ui::Column({Toolbar1,
                               ui::Split(ui::Column({ui::Field("Find", txtFind), tvwTree}),
                                         ui::Column({rtfReading, picReading})),
@@ -102,11 +103,13 @@ void frmMain::WireTree() {
 
 void frmMain::Activate() {
     KVOGlobal& globals = Globals();
-    if (!globals.OpenForms.empty()) return;
+    // A dialog of the chain may have been accepted and another one be open still.
+    if (!globals.OpenForms.empty()) return globals.DialogAccepted ? FollowDocument() : void();
     SettleAside();
     const bool isEmpty = globals.recR.IsEmpty();
     if (!isEmpty && globals.CurrentKey.empty() && !HasClickedNode()) SelectRoot();
     if (globals.DialogAccepted) globals.Saved = false;
+    if (globals.DialogAccepted) FollowDocument();
     globals.DialogAccepted = false;
     if (!tvwTree.IsEmpty()) MouseSelected = true;
     SelectNode();
@@ -172,6 +175,7 @@ std::string frmMain::StatusText() const {
     std::string text = FileName.empty() ? "New document" : FileTitle();
     text += globals.ReadOnly ? " - read only" : globals.Saved ? " - saved" : " - not saved";
     if (globals.recR.IsEmpty()) text = "No document";
+    if (!recovery_->Trouble().empty()) text += " - " + recovery_->Trouble();
     if (globals.ShellLocked) return text + " - a dialog is open";
     if (tvwTree.IsFiltered()) text += " - not all nodes are shown";
     std::string before = " - next: ";
@@ -186,7 +190,9 @@ bool frmMain::QueryUnload() {
         ui::Say("Please close all other windows before exiting the main form");
         return false;
     }
-    return MayDiscard();
+    const bool closes = MayDiscard();
+    if (closes) recovery_->Discard();
+    return closes;
 }
 
 } // namespace vexora

@@ -15,6 +15,9 @@
 namespace vexora {
 
 class DocumentAside;
+class Recovery;
+class RecoveryFolder;
+struct RecoveryCopy;
 struct Outline;
 struct ReadResult;
 class DeletedRecords;
@@ -116,6 +119,10 @@ public:
     /// True when the document stands under the chosen name.
     bool SaveAs();
     void ExportDocument(ExportFor readers = ExportFor::House);
+    /// Keeps a recovery copy of the document there from now on; null keeps none.
+    void KeepRecovery(std::shared_ptr<RecoveryFolder> folder);
+    /// Offers the copies that programs before have left; true when the document is one of them now.
+    bool RestoreDocument();
 
 private:
     // frmMain.cpp
@@ -137,7 +144,7 @@ private:
     bool MayDiscard();
     void DropFile(const std::string& path);
     void OpenFile(const std::string& path, bool moveOutDir);
-    ReadResult ReadAside(const std::string& text);
+    ReadResult ReadAside(const std::string& text, const std::string& name);
     bool TakeFile(const std::string& path);
     bool RefuseReadOnly();
     bool RefuseComplexes();
@@ -150,6 +157,11 @@ private:
     KnownFile known_; // the file of the document as this program left it
     /// The document before, while it is open whether another one takes its place.
     std::unique_ptr<DocumentAside> aside_;
+
+    // frmMain_recovery.cpp
+    std::string Restore(const RecoveryCopy& copy);
+    void FollowDocument();
+    std::unique_ptr<Recovery> recovery_;
 
     // frmMain_toolbar.cpp
     void WireToolbar();

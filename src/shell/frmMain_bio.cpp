@@ -63,6 +63,7 @@ void frmMain::mnuBio_Click() {
         return ui::Say("Invalid data set found\nPlease edit that data set and repeat the action");
     }
     if (!result.joined.empty() || !result.changed.empty()) globals.Saved = false;
+    FollowDocument();
     if (tvwTree.SelectedNode() == nullptr) SelectRoot(); // its set is part of another one now
     SelectNode();
     ui::Say(Told(before, result));

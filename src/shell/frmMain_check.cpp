@@ -14,13 +14,16 @@ namespace vexora {
 
 namespace {
 
-/// Nothing, and the reason has been told, when a table cannot be read.
+/// Nothing when a table cannot be read, which has been told then, or when the person has stopped it.
 std::optional<std::vector<DocumentFinding>> Findings(const PassedOver& passedOver) {
     try {
         const ui::HourglassScope hourglass;
-        return CheckDocument(passedOver);
+        const auto progress = ui::TheDesktop().Begin({"Checking the document", true});
+        return CheckDocument(passedOver, [&](double share) { return progress->Reached(share); });
     } catch (const DatabaseError& damaged) {
         ui::Say(damaged.what());
+        return std::nullopt;
+    } catch (const WorkStopped&) {
         return std::nullopt;
     }
 }

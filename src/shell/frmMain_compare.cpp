@@ -59,7 +59,7 @@ std::optional<Outline> frmMain::ReadOutline(const std::string& path) {
     ReadResult result;
     {
         const ReadingScope reading(FileName, known_);
-        result = ReadDocument(*text, ReadPurpose::Look);
+        result = ReadDocument(*text, ReadPurpose::Look, SplitPath(path).Title);
         if (!Globals().recR.IsEmpty()) outline = OutlineOfDocument();
     }
     if (!outline && result.whole) ui::Say("The file " + path + " holds no source record.");

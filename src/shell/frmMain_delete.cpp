@@ -63,6 +63,7 @@ void frmMain::DeleteNode() {
     globals.Saved = deleted->WasDocument;
     globals.CurrentKey.clear();
     deleted_ = std::move(deleted);
+    FollowDocument();
     Enable();
 }
 
@@ -81,6 +82,7 @@ void frmMain::mnuUndoDelete_Click() {
         known_ = deleted_->Known;
     }
     deleted_.reset();
+    FollowDocument();
     tvwTree.Select(node);
     SelectBy(true);
 }
@@ -95,6 +97,7 @@ void frmMain::mnuUndoProcess_Click() {
                        "been changed or deleted since.");
     globals.Processed.reset();
     globals.Saved = false;
+    FollowDocument();
     tvwTree.Select(owner.tNode);
     SelectBy(true);
 }

@@ -67,6 +67,7 @@ void frmMain::mnuDetect_Click() {
         isNew = true; // some may have been made before
     }
     if (isNew) globals.Saved = false;
+    if (isNew) FollowDocument();
     tvwTree.Select(selected);
     SelectNode();
     for (const std::string& text : told)

@@ -18,6 +18,7 @@
 #include "shell/Deletion.h"
 #include "shell/DocumentAside.h"
 #include "shell/DocumentText.h"
+#include "shell/Recovery.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
@@ -47,8 +48,9 @@ bool LosesMixtures(const clsR& source) {
                                [](const auto& mixture) { return !mixture->HasData(); });
 }
 
-/// Prints what is to be written; nothing with the reason in error when that fails. Printing looks
-/// into the databases, and may ask the user, so it goes without the hourglass.
+/// Prints what is to be written; nothing with the reason in error when that fails, or without one
+/// when the person has stopped it. Printing looks into the databases, and may ask the user, so it
+/// goes without the hourglass.
 std::optional<std::string> Printed(const std::function<std::string()>& print, std::string& error) {
     try {
         return print();
@@ -56,6 +58,7 @@ std::optional<std::string> Printed(const std::function<std::string()>& print, st
         error = refused.what();
     } catch (const DatabaseError& damaged) {
         error = damaged.what();
+    } catch (const WorkStopped&) { // nothing has been touched
     }
     return {};
 }
@@ -104,6 +107,7 @@ bool frmMain::NewProc() {
     if (!MayDiscard()) return false;
     const ui::HourglassScope hourglass;
     EmptyDocument();
+    recovery_->Discard();
     txtFind.Text({});
     return true;
 }
@@ -185,16 +189,17 @@ void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     const std::string whole = AbsolutePath(path);
     if (!TakeFile(whole)) return;
     FileName = whole;
+    recovery_->Discard();
     if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
     SelectRoot();
     SelectBy(true);
 }
 
 /// Reads while the present document is put aside. Of a read that cannot go on nothing stays.
-ReadResult frmMain::ReadAside(const std::string& text) {
+ReadResult frmMain::ReadAside(const std::string& text, const std::string& name) {
     PutAside();
     try {
-        return ReadDocument(text);
+        return ReadDocument(text, ReadPurpose::Work, name);
     } catch (...) {
         EmptyDocument();
         SettleAside();
@@ -210,7 +215,7 @@ bool frmMain::TakeFile(const std::string& path) {
         ui::Say("The file " + path + " cannot be read.\n" + error);
         return false;
     }
-    const ReadResult result = ReadAside(*text);
+    const ReadResult result = ReadAside(*text, SplitPath(path).Title);
     globals.DialogAccepted = false;
     const bool isEmpty = globals.recR.IsEmpty();
     if (isEmpty && result.whole) ui::Say("The file " + path + " holds no source record.");
@@ -261,7 +266,7 @@ bool frmMain::WriteDocument() {
             ui::Say("Some mixtures do not have data.\nThey will not be saved!");
     }
     SaveOutcome outcome;
-    const auto text = Printed(DocumentAsRecords, outcome.fault);
+    const auto text = Printed(DocumentAsRecords, outcome.fault); // may be stopped, but no later
     // Printing may ask, and meanwhile the file may change; so it is looked at last of all.
     if (text && known_.IsChanged(ui::TheDesktop().Files(), FileName)) {
         const ui::Answer answer = AskAboutChange();
@@ -272,6 +277,7 @@ bool frmMain::WriteDocument() {
         known_.Note(FileName, *text);
         globals.Saved = true;
         globals.DialogAccepted = false;
+        recovery_->Discard();
         RegisterSaved();
         deleted_.reset();
         globals.Processed.reset();

@@ -13,6 +13,7 @@
 #include "records/clsMZ.h"
 #include "records/clsR.h"
 #include "shell/EditScope.h"
+#include "shell/EditedRecord.h"
 #include "shell/ReactionReview.h"
 #include "shell/frmMain.h"
 #include "ui/Desktop.h"
@@ -121,12 +122,22 @@ void frmMain::EditNode() {
     if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
     RenewCurrentMethod();
     globals.DialogAccepted = false;
+    const bool wasSaved = globals.Saved;
+    const ui::TreeNode* const node = tvwTree.SelectedNode();
+    const EditedRecord before(node ? std::dynamic_pointer_cast<Record>(node->Tag.lock()) : nullptr);
+    bool isOne = true; // record that the dialog works on
     {
         const EditScope editing(globals.*rule->flag);
-        if (rule->prepare == nullptr || rule->prepare())
-            ui::Forms::Current().Get(rule->dialog).ShowModal();
+        const bool isReady = rule->prepare == nullptr || rule->prepare();
+        isOne = globals.SetsToShow.empty();
+        if (isReady) ui::Forms::Current().Get(rule->dialog).ShowModal();
     }
     if (globals.DialogAccepted) RefreshEdited(rule->nodeKey);
+    // What was only looked at needs no saving.
+    if (wasSaved && isOne && before.IsUnchanged()) {
+        globals.DialogAccepted = false;
+        globals.Saved = true;
+    }
     Activate();
 }
 

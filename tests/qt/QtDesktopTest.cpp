@@ -6,15 +6,20 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPrinter>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include <chrono>
+#include <thread>
 
 #include <gtest/gtest.h>
 
 #include "host/PosixFileSystem.h"
 #include "qt/EveryKind.h"
 #include "qt/PicturePainter.h"
+#include "qt/ProgressWindow.h"
 #include "qt/Text.h"
 
 namespace vexora::qt::test {
@@ -67,6 +72,52 @@ TEST_F(OnTheScreen, ButtonsWithWordsOfTheirOwnGiveTheUsualAnswers) {
                              "&Save anyway",
                              "Save &as..."}),
               ui::Answer::No);
+}
+
+TEST_F(OnTheScreen, LongWorkShowsHowFarItIsAndIsStoppedByCancel) {
+    const auto wait = [](int milliseconds) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    };
+    const auto shown = [] { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); };
+    forms_.Register<EveryKind>("frmEveryKind");
+    forms_.Get("frmEveryKind").Show();
+    {
+        const auto work = desktop_.Begin({"Reading a.txt", true});
+        EXPECT_TRUE(work->Reached(0.1));
+        wait(ProgressWindow::Between + 20);
+        EXPECT_TRUE(work->Reached(0.2));
+        EXPECT_EQ(shown(), nullptr); // short work flashes no window
+        wait(ProgressWindow::BeforeShown);
+        EXPECT_TRUE(work->Reached(0.4));
+        QDialog* const window = shown();
+        ASSERT_NE(window, nullptr);
+        EXPECT_EQ(window->windowModality(), Qt::ApplicationModal);
+        EXPECT_EQ(window->findChild<QLabel*>()->text(), "Reading a.txt");
+        EXPECT_EQ(window->findChild<QProgressBar*>()->value(), 400);
+        // A question stands alone.
+        WhenAsked([window](QMessageBox& box) {
+            EXPECT_FALSE(window->isVisible());
+            box.accept();
+        });
+        desktop_.Show({"Told on the way.", {}});
+        wait(ProgressWindow::Between + 20);
+        EXPECT_TRUE(work->Reached(0.5));
+        ASSERT_EQ(shown(), window);
+        QTimer::singleShot(0, window, [window] { window->findChild<QPushButton*>()->click(); });
+        wait(ProgressWindow::Between + 20);
+        EXPECT_FALSE(work->Reached(0.6));
+        EXPECT_FALSE(work->Reached(0.61));
+    }
+    EXPECT_EQ(shown(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+
+    const auto whole = desktop_.Begin({"Putting things in order", false});
+    wait(ProgressWindow::BeforeShown + 20);
+    EXPECT_TRUE(whole->Reached(0.5));
+    ASSERT_NE(shown(), nullptr);
+    EXPECT_EQ(shown()->findChild<QPushButton*>(), nullptr);
+    shown()->reject();
+    EXPECT_NE(shown(), nullptr);
 }
 
 TEST_F(OnTheScreen, AMissingPageOfHelpIsOneMessage) {

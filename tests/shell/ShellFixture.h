@@ -50,6 +50,21 @@ public:
         if (!Choices.empty()) ADD_FAILURE() << "a chooser was never shown";
     }
 
+    /// Long works that a person stops at once begin with this; none when empty.
+    std::string Stops;
+    std::vector<std::string> Works; // all that have begun
+
+    std::unique_ptr<ui::Progress> Begin(const ui::LongWork& work) override {
+        class Stopping : public ui::Progress {
+        public:
+            bool Reached(double) override { return false; }
+        };
+        Works.push_back(work.what + (work.mayStop ? "" : " to its end"));
+        if (Stops.empty() || !work.what.starts_with(Stops)) return StrictDesktop::Begin(work);
+        EXPECT_TRUE(work.mayStop);
+        return std::make_unique<Stopping>();
+    }
+
     std::deque<std::optional<std::string>> Choices;
     std::string Proposed; // what the last chooser proposed
     std::function<void(ui::Form&)> InModal;
