@@ -1,7 +1,10 @@
 #include "qt/BasicViews.h"
 
+#include <utility>
+
 #include <QAction>
 #include <QEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QTextBrowser>
 
@@ -9,8 +12,38 @@
 #include "qt/Icons.h"
 #include "qt/Mnemonics.h"
 #include "qt/Text.h"
+#include "ui/StepButton.h"
 
 namespace vexora::qt {
+
+namespace {
+
+/// A tool button with a line below when it is the step that comes next.
+class StepToolButton : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+    void MarkAsNext(bool on) {
+        if (on == next_) return;
+        next_ = on;
+        setAccessibleDescription(on ? tr("comes next") : QString());
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        if (!next_) return;
+        constexpr int inset = 5;
+        constexpr int thick = 3;
+        const QRect line(inset, height() - inset - thick + 2, width() - 2 * inset, thick);
+        QPainter(this).fillRect(line, palette().brush(QPalette::Active, QPalette::Highlight));
+    }
+
+private:
+    bool next_ = false;
+};
+
+} // namespace
 
 LabelView::LabelView(FormWindow& window, ui::Label& label)
     : ViewOf(window, label, new QLabel(&window)) {
@@ -84,16 +117,18 @@ bool RichTextView::Wants(const ui::Key& key) const {
 
 // A text is set only when it is another, so that the place being read does not jump.
 void RichTextView::Draw() {
-    if (shown_ == model_.Html()) return;
-    shown_ = model_.Html();
+    std::string page = Page();
+    if (shown_ == page) return;
+    shown_ = std::move(page);
     own_->setHtml(ToQt(shown_));
 }
 
 ToolButtonView::ToolButtonView(FormWindow& window, ui::ToolButton& button)
-    : ViewOf(window, button, new QToolButton(&window)) {
+    : ViewOf(window, button, new StepToolButton(&window)) {
     own_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     own_->setAutoRaise(true);
-    own_->setFocusPolicy(Qt::NoFocus);
+    const bool isStep = dynamic_cast<ui::StepButton*>(&button) != nullptr;
+    own_->setFocusPolicy(isStep ? Qt::TabFocus : Qt::NoFocus);
     QObject::connect(own_, &QToolButton::clicked, this,
                      [this] { Act([this] { model_.UserClick(); }); });
 }
@@ -102,6 +137,8 @@ void ToolButtonView::Draw() {
     const std::string& caption = model_.Caption();
     own_->setText(Literal(caption.empty() ? model_.Name() : caption));
     own_->setIcon(IconFor(model_.Name(), own_->palette()));
+    const auto* step = dynamic_cast<const ui::StepButton*>(&model_);
+    static_cast<StepToolButton*>(own_)->MarkAsNext(step && step->IsNext());
     // In a bar it is the action around the button that shows or hides it.
     if (auto* bar = qobject_cast<QToolBar*>(own_->parentWidget())) {
         for (QAction* action : bar->actions()) {

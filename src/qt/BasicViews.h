@@ -56,6 +56,8 @@ public:
 
 protected:
     void Draw() override;
+    /// What is to be shown, as HTML.
+    virtual std::string Page() const { return model_.Html(); }
 
 private:
     std::string shown_;

@@ -30,7 +30,7 @@ Qt::WindowFlags FlagsFor(const ui::Form& form, const QWidget* parent) {
 FormWindow::FormWindow(Windows& windows, ui::Form& form, QWidget* parent)
     : QMainWindow(parent, FlagsFor(form, parent)), windows_(windows), form_(form), builder_(*this) {
     setObjectName(ToQt(form.Name()));
-    setWindowTitle(ToQt(form.Caption()));
+    DrawTitle();
     setContextMenuPolicy(Qt::NoContextMenu);
     MakeViews();
     MakeMenus();
@@ -92,11 +92,12 @@ void FormWindow::TakeFirstSize() {
 void FormWindow::Listen() {
     const QPointer<FormWindow> self(this);
     form_.CaptionChanged.Connect([self] {
-        if (self && !self->detached_) self->setWindowTitle(ToQt(self->form_.Caption()));
+        if (self && !self->detached_) self->DrawTitle();
     });
     form_.FocusChanged.Connect([self] {
         if (self && !self->detached_) self->FollowFocus();
     });
+    ListenToDocument();
 }
 
 void FormWindow::TakeFiles() {

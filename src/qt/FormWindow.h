@@ -38,6 +38,8 @@ public:
     const Windows& All() const { return windows_; }
     /// Runs an action of a person; an exception of a handler ends here and is handed on to Windows.
     void Perform(const std::function<void()>& action);
+    /// Opens a file as if it had been dropped on the tree.
+    void OpenDropped(const std::string& path);
     /// Puts the keyboard where the form has its focus.
     void FollowFocus();
 
@@ -53,6 +55,11 @@ private:
     void AddMenuItem(ui::MenuItem& item);
     void DrawMenuItem(ui::MenuItem& item);
     void AddRecentMenu();
+    /// The form's tree that takes dropped files, or null.
+    ui::TreeView* DropTarget() const;
+    /// Caption and, where the form holds the document, its name with a mark while it is not saved.
+    void DrawTitle();
+    void ListenToDocument();
     void Place(QWidget& content);
     void TakeFirstSize();
     void Listen();

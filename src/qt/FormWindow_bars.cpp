@@ -10,6 +10,7 @@
 #include "qt/RecentFiles.h"
 #include "qt/Text.h"
 #include "qt/Windows.h"
+#include "ui/DocumentForm.h"
 
 namespace vexora::qt {
 
@@ -23,23 +24,55 @@ void FormWindow::MakeMenus() {
 
 // A document picked here is opened as if its file had been dropped on the tree.
 void FormWindow::AddRecentMenu() {
-    const auto& controls = form_.Controls();
-    const auto tree = std::ranges::find(controls, ui::ControlKind::TreeView, &ui::Control::Kind);
-    if (!windows_.Recent || tree == controls.end() || menuBar()->actions().isEmpty()) return;
+    if (!windows_.Recent || !DropTarget() || menuBar()->actions().isEmpty()) return;
     QMenu* first = menuBar()->actions().constFirst()->menu();
-    auto& target = static_cast<ui::TreeView&>(**tree);
-    if (!first || !target.OnDrop) return;
+    if (!first) return;
     auto* menu = new QMenu(tr("Open &recent"), this);
     const QList<QAction*> entries = first->actions();
     first->insertMenu(entries.isEmpty() ? nullptr : entries.constLast(), menu);
-    connect(menu, &QMenu::aboutToShow, this, [this, menu, &target] {
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
         menu->clear();
-        for (const QString& file : windows_.Recent->Present()) {
-            menu->addAction(Literal(FromQt(file)), this, [this, file, &target] {
-                Perform([&] { target.UserDrop(FromQt(file)); });
-            });
-        }
+        for (const std::string& file : windows_.RecentDocuments())
+            menu->addAction(Literal(file), this, [this, file] { OpenDropped(file); });
         if (menu->isEmpty()) menu->addAction(tr("None"))->setEnabled(false);
+    });
+}
+
+ui::TreeView* FormWindow::DropTarget() const {
+    const auto& controls = form_.Controls();
+    const auto tree = std::ranges::find(controls, ui::ControlKind::TreeView, &ui::Control::Kind);
+    if (tree == controls.end()) return nullptr;
+    auto* target = static_cast<ui::TreeView*>(*tree);
+    return target->OnDrop ? target : nullptr;
+}
+
+void FormWindow::OpenDropped(const std::string& path) {
+    if (ui::TreeView* target = DropTarget()) Perform([&] { target->UserDrop(path); });
+}
+
+void FormWindow::DrawTitle() {
+    QString title = ToQt(form_.Caption());
+    const auto* document = dynamic_cast<const ui::DocumentForm*>(&form_);
+    if (document && !document->DocumentName().empty()) {
+        const QString name = ToQt(document->DocumentName()).replace("[*]", "[*][*]");
+        title = name + QStringLiteral("[*] - ") + title;
+    }
+    setWindowTitle(title);
+    setWindowModified(document && document->IsChanged());
+}
+
+void FormWindow::ListenToDocument() {
+    auto* document = dynamic_cast<ui::DocumentForm*>(&form_);
+    if (!document) return;
+    const QPointer<FormWindow> self(this);
+    document->DocumentAltered.Connect([self] {
+        if (self && !self->detached_) self->DrawTitle();
+    });
+    document->Taken.Connect([self](const std::string& path) {
+        if (self && self->windows_.Recent) self->windows_.Recent->Add(path);
+    });
+    document->Refused.Connect([self](const std::string& path) {
+        if (self && self->windows_.Recent) self->windows_.Recent->Drop(path);
     });
 }
 
@@ -47,7 +80,10 @@ void FormWindow::AddRecentMenu() {
 void FormWindow::AddMenuItem(ui::MenuItem& item) {
     auto* action = new QAction(this);
     actions_[&item] = action;
-    if (!item.Children().empty()) action->setMenu(new QMenu(this));
+    if (!item.Children().empty()) {
+        action->setMenu(new QMenu(this));
+        action->menu()->setToolTipsVisible(true);
+    }
     if (item.Parent()) {
         QMenu* menu = MenuFor(*item.Parent());
         if (item.BeginsGroup) menu->addSeparator();
@@ -72,10 +108,12 @@ void FormWindow::DrawMenuItem(ui::MenuItem& item) {
     if (!item.Shortcut().empty()) text += '\t' + ToQt(item.Shortcut());
     action->setText(text);
     action->setEnabled(item.Enabled());
-    action->setVisible(item.Visible());
+    // What has no handler can never be pressed: a person need not see it.
+    const bool isDead = !item.OnClick && item.Children().empty();
+    action->setVisible(item.Visible() && !isDead);
     action->setCheckable(item.Checked());
     action->setChecked(item.Checked());
-    if (!item.ToolTip().empty()) action->setStatusTip(ToQt(item.ToolTip()));
+    action->setToolTip(ToQt(item.Enabled() ? item.ToolTip() : item.WhyDisabled()));
 }
 
 QAction* FormWindow::ActionFor(const ui::Control& control) const {

@@ -101,6 +101,15 @@ void Table(Brush& brush) {
     brush.painter.drawLine(4, 19, 28, 19);
 }
 
+/// One point with its bar of uncertainty.
+void Point(Brush& brush) {
+    brush.painter.drawLine(16, 5, 16, 27);
+    brush.painter.drawLine(11, 5, 21, 5);
+    brush.painter.drawLine(11, 27, 21, 27);
+    brush.Fill(true);
+    brush.painter.drawEllipse(QPointF(16, 16), 5, 5);
+}
+
 void Cage(Brush& brush) {
     brush.painter.drawPolygon(QPolygonF{{16, 3}, {28, 12}, {24, 27}, {8, 27}, {4, 12}});
     brush.painter.drawPolygon(QPolygonF{{16, 29}, {11, 12}, {21, 12}});
@@ -118,7 +127,7 @@ struct Known {
     void (*draw)(Brush&);
 };
 
-constexpr std::array<Known, 16> KnownIcons{{{"start", Triangle},
+constexpr std::array<Known, 19> KnownIcons{{{"start", Triangle},
                                             {"author", Person},
                                             {"complex", Cage},
                                             {"comp", Ring},
@@ -133,6 +142,9 @@ constexpr std::array<Known, 16> KnownIcons{{{"start", Triangle},
                                             {"prop", Curve},
                                             {"del", Cross},
                                             {"doc", Page},
+                                            {"source", Page},
+                                            {"value", Point},
+                                            {"set", Curve},
                                             {"ref", Page}}};
 
 void Letter(Brush& brush, std::string_view key) {
@@ -176,11 +188,15 @@ QIcon ApplicationIcon() {
 }
 
 QIcon IconFor(std::string_view key, const QPalette& palette) {
+    constexpr int faint = 120; // of 255
     QIcon icon(Drawn(key, palette.color(QPalette::Active, QPalette::ButtonText),
                      palette.color(QPalette::Active, QPalette::Highlight)));
     icon.addPixmap(Drawn(key, palette.color(QPalette::Disabled, QPalette::ButtonText),
                          palette.color(QPalette::Active, QPalette::Mid)),
                    QIcon::Disabled);
+    const QColor onMark = palette.color(QPalette::Active, QPalette::HighlightedText);
+    icon.addPixmap(Drawn(key, onMark, QColor(onMark.red(), onMark.green(), onMark.blue(), faint)),
+                   QIcon::Selected);
     return icon;
 }
 

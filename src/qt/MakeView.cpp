@@ -7,8 +7,10 @@
 #include "qt/GridView.h"
 #include "qt/ListViews.h"
 #include "qt/PictureView.h"
+#include "qt/ReadingView.h"
 #include "qt/TextView.h"
 #include "qt/TreeWidget.h"
+#include "ui/DocumentForm.h"
 
 namespace vexora::qt {
 
@@ -30,6 +32,13 @@ std::unique_ptr<View> Text(FormWindow& window, ui::Control& control) {
     return isMultiLine ? As<LinesView>(window, control) : As<LineView>(window, control);
 }
 
+std::unique_ptr<View> Reading(FormWindow& window, ui::Control& control) {
+    auto& text = static_cast<ui::RichText&>(control);
+    if (auto* document = dynamic_cast<ui::DocumentForm*>(&control.Owner()))
+        return std::make_unique<ReadingView>(window, text, *document);
+    return std::make_unique<RichTextView>(window, text);
+}
+
 using Maker = std::unique_ptr<View> (*)(FormWindow&, ui::Control&);
 
 // In the order of ui::ControlKind; the entries of menus have no view.
@@ -40,7 +49,7 @@ constexpr Maker Makers[] = {As<LabelView>,        Text,
                             As<GridView>,         As<TreeWidgetView>,
                             As<ToolbarView>,      As<ToolButtonView>,
                             As<TabView>,          nullptr,
-                            As<PictureView>,      As<RichTextView>};
+                            As<PictureView>,      Reading};
 static_assert(std::size(Makers) == static_cast<std::size_t>(ui::ControlKind::RichText) + 1);
 
 } // namespace

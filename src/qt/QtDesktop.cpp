@@ -16,9 +16,23 @@
 #include "qt/PicturePainter.h"
 #include "qt/ProgressWindow.h"
 #include "qt/Text.h"
+#include "ui/DocumentForm.h"
 #include "ui/OneLine.h"
 
 namespace vexora::qt {
+
+namespace {
+
+/// The document that is asked about; empty for none.
+QString AskedAbout() {
+    if (!ui::Forms::IsPresent()) return {};
+    for (const ui::Form* form : ui::Forms::Current().OpenForms())
+        if (const auto* document = dynamic_cast<const ui::DocumentForm*>(form))
+            return ToQt(document->AskedAbout());
+    return {};
+}
+
+} // namespace
 
 QtDesktop::QtDesktop(Windows& windows, ui::FileSystem& files, std::vector<std::string> helpFolders)
     : windows_(windows), files_(files), helpFolders_(std::move(helpFolders)) {}
@@ -34,6 +48,8 @@ ui::Answer QtDesktop::Show(const ui::Message& message) {
     if (waiting) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
     ProgressWindow::HideAll();
     const auto box = MakeMessageBox(message, Parent());
+    if (const QString name = AskedAbout(); message.title.empty() && !name.isEmpty())
+        box->setWindowTitle(name + QStringLiteral(" - Vexora"));
     box->exec();
     if (waiting) QGuiApplication::restoreOverrideCursor();
     return AnswerOf(*box, message);
@@ -57,9 +73,7 @@ std::optional<std::string> QtDesktop::Choose(const ui::FileChoice& choice) {
     }
     if (!choice.proposed.empty()) dialog.selectFile(ToQt(choice.proposed));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    std::string path = FromQt(dialog.selectedFiles().constFirst());
-    if (OnChosen) OnChosen(path);
-    return path;
+    return FromQt(dialog.selectedFiles().constFirst());
 }
 
 std::string QtDesktop::ClipboardText() {

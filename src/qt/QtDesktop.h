@@ -34,9 +34,6 @@ public:
     void RunModal(ui::Form& form) override;
     void EndProgram() override;
 
-    /// Called with a path that a person has chosen to open or to save.
-    std::function<void(const std::string& path)> OnChosen;
-
 private:
     QWidget* Parent() const;
 

@@ -34,15 +34,13 @@ public:
         windows_.Recent = &recent_;
         windows_.OnFault = application.OnFault = Tell;
         windows_.Follow();
-        desktop_.OnChosen = [this](const std::string& path) { recent_.Add(path); };
         workbench_.Forms().Closed.Connect([this](ui::Form&) { TidyLater(); });
     }
 
     ~Run() { application_.OnFault = nullptr; }
 
     void Start(const std::string& document) {
-        if (!workbench_.Start(document)) return QCoreApplication::quit();
-        if (!document.empty()) recent_.Add(document);
+        if (!workbench_.Start(document)) QCoreApplication::quit();
     }
 
 private:

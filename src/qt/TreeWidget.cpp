@@ -1,17 +1,22 @@
 #include "qt/TreeWidget.h"
 
-#include <QCoreApplication>
+#include <utility>
+
+#include <QApplication>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 
 #include "qt/FileDrop.h"
 #include "qt/FormWindow.h"
 #include "qt/Icons.h"
 #include "qt/Text.h"
+#include "qt/TreeRows.h"
+#include "ui/DocumentForm.h"
 
 namespace vexora::qt {
 
@@ -19,17 +24,47 @@ namespace {
 
 constexpr int NodeRole = Qt::UserRole;
 
-/// Labels are long and alike; with air between the rows the eye keeps its line.
-class RoomyRows : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) +
-               QSize(0, option.fontMetrics.descent());
-    }
-};
+/// A pale ground, with a bar at its left.
+void MarkAsNew(QPainter& painter, const QRect& row, const QPalette& palette) {
+    constexpr int pale = 50; // of 255
+    constexpr int bar = 4;   // [pixels]
+    QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    painter.fillRect(QRect(row.topLeft(), QSize(bar, row.height())), accent);
+    accent.setAlpha(pale);
+    painter.fillRect(row, accent);
+}
 
 } // namespace
+
+void DropTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const {
+    const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
+    const auto group = isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+    if (selectionModel()->isSelected(index))
+        painter->fillRect(row, palette().brush(group, QPalette::Highlight));
+    else if (IsMarked && IsMarked(index))
+        MarkAsNew(*painter, row, palette());
+    QTreeWidget::drawRow(painter, option, index);
+}
+
+void DropTree::keyboardSearch(const QString& typed) {
+    const bool soon = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+    typed_.start();
+    const bool again = soon && typed == sought_; // the same letter goes on to the next one
+    sought_ = soon && !again ? sought_ + typed : typed;
+    const QRegularExpression word("\\b" + QRegularExpression::escape(sought_),
+                                  QRegularExpression::CaseInsensitiveOption |
+                                      QRegularExpression::UseUnicodePropertiesOption);
+    const auto next = [this](QTreeWidgetItem* item) {
+        QTreeWidgetItem* below = item ? itemBelow(item) : nullptr;
+        return below ? below : topLevelItem(0);
+    };
+    QTreeWidgetItem* const from = currentItem();
+    QTreeWidgetItem* item = from && sought_.size() > 1 ? from : next(from);
+    for (QTreeWidgetItem* const first = item; item && !item->text(0).contains(word);)
+        if ((item = next(item)) == first) return;
+    if (item && !item->isHidden()) setCurrentItem(item);
+}
 
 void DropTree::keyPressEvent(QKeyEvent* event) {
     QPointer<DropTree> self(this);
@@ -65,7 +100,8 @@ TreeWidgetView::TreeWidgetView(FormWindow& window, ui::TreeView& tree)
     own_->setExpandsOnDoubleClick(false); // a double click opens the record
     own_->setAcceptDrops(true);
     own_->setUniformRowHeights(true);
-    own_->setItemDelegate(new RoomyRows(own_));
+    document_ = dynamic_cast<const ui::DocumentForm*>(&tree.Owner());
+    DressRows();
     own_->setMinimumWidth(own_->fontMetrics().averageCharWidth() * 32);
     own_->header()->setStretchLastSection(false);
     own_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -73,8 +109,45 @@ TreeWidgetView::TreeWidgetView(FormWindow& window, ui::TreeView& tree)
     Listen();
 }
 
+void TreeWidgetView::DressRows() {
+    auto* rows = new TreeRows(own_);
+    rows->IconOf = [this](const QModelIndex& index) { return IconOf(index); };
+    rows->TipOf = [this](const QModelIndex& index) { return TipOf(index); };
+    own_->setItemDelegate(rows);
+    const int high = own_->fontMetrics().height();
+    own_->setIconSize({high, high});
+    own_->IsMarked = [this](const QModelIndex& index) {
+        return new_ && !Window().IsDetached() && NodeOf(own_->ItemAt(index)) == new_;
+    };
+    // A line is drawn beyond its label, which is all that the toolkit renews.
+    QObject::connect(own_, &QTreeWidget::currentItemChanged, own_->viewport(),
+                     qOverload<>(&QWidget::update));
+}
+
+QIcon TreeWidgetView::IconOf(const QModelIndex& index) {
+    const ui::TreeNode* node = Window().IsDetached() ? nullptr : NodeOf(own_->ItemAt(index));
+    if (!node || !model_.IconOf) return {};
+    const std::string name = model_.IconOf(*node);
+    if (name.empty()) return {};
+    if (std::exchange(paletteOfIcons_, own_->palette().cacheKey()) != own_->palette().cacheKey())
+        icons_.clear();
+    QIcon& icon = icons_[name];
+    if (icon.isNull()) icon = IconFor(name, own_->palette());
+    return icon;
+}
+
+QString TreeWidgetView::TipOf(const QModelIndex& index) const {
+    const ui::TreeNode* node = Window().IsDetached() ? nullptr : NodeOf(own_->ItemAt(index));
+    return node && model_.TipOf ? ToQt(model_.TipOf(*node)) : QString();
+}
+
 void TreeWidgetView::Listen() {
     const QPointer<TreeWidgetView> self(this);
+    if (auto* document = dynamic_cast<ui::DocumentForm*>(&model_.Owner())) {
+        document->DocumentAltered.Connect([self] {
+            if (self && !self->Window().IsDetached()) self->DrawNewNode();
+        });
+    }
     model_.NodeAdded.Connect([self](ui::TreeNode* node) {
         if (self && !self->Window().IsDetached()) self->Add(*node, self->model_.PlaceOf(*node));
     });
@@ -82,6 +155,7 @@ void TreeWidgetView::Listen() {
         if (!self || self->Window().IsDetached()) return;
         QScopedValueRollback guard(self->following_, true);
         self->pressed_ = nullptr;
+        self->new_ = nullptr;
         delete self->ItemOf(*node);
         self->Forget(*node);
     });
@@ -252,11 +326,21 @@ void TreeWidgetView::Expanded(QTreeWidgetItem* item, bool expanded) {
     if (!following_ && !IsDrawing() && node) node->Expanded(expanded);
 }
 
+/// The node that came last is in sight, though another one stays selected.
+void TreeWidgetView::DrawNewNode() {
+    const ui::TreeNode* node = document_ ? document_->NewNode() : nullptr;
+    if (node == new_) return;
+    new_ = node;
+    own_->viewport()->update();
+    if (node && ItemOf(*node)) Window().MarkDirty(*this);
+}
+
 void TreeWidgetView::Draw() {
     const ui::TreeNode* selected = model_.SelectedNode();
     QTreeWidgetItem* item = selected && !selected->Hidden() ? ItemOf(*selected) : nullptr;
     if (own_->currentItem() != item) own_->setCurrentItem(item);
     if (item) own_->scrollToItem(item);
+    if (QTreeWidgetItem* added = new_ ? ItemOf(*new_) : nullptr) own_->scrollToItem(added);
 }
 
 // The second press of a double click repeats no single click.

@@ -3,7 +3,11 @@
 #include <algorithm>
 
 #include <QSettings>
+#include <QSplitter>
 #include <QWindow>
+
+#include "qt/RecentFiles.h"
+#include "qt/Text.h"
 
 namespace vexora::qt {
 
@@ -158,14 +162,27 @@ void Windows::DropAll() {
     }
 }
 
+std::vector<std::string> Windows::RecentDocuments() const {
+    std::vector<std::string> files;
+    for (const QString& file : Recent ? Recent->Present() : QStringList())
+        files.push_back(FromQt(file));
+    return files;
+}
+
 void Windows::Remember(const FormWindow& window) const {
     if (!Settings || !window.isVisible()) return;
-    Settings->setValue("windows/" + window.objectName(), window.saveGeometry());
+    const QString key = "windows/" + window.objectName();
+    Settings->setValue(key, window.saveGeometry());
+    if (const auto* splitter = window.findChild<QSplitter*>())
+        Settings->setValue(key + "/split", splitter->saveState());
 }
 
 void Windows::Restore(FormWindow& window, const ui::Form& form) const {
     if (!Settings) return;
-    const auto last = Settings->value("windows/" + window.objectName()).toByteArray();
+    const QString key = "windows/" + window.objectName();
+    const auto last = Settings->value(key).toByteArray();
+    if (auto* splitter = window.findChild<QSplitter*>())
+        splitter->restoreState(Settings->value(key + "/split").toByteArray());
     // The workbench takes the screen until somebody has given it another size.
     if (!window.restoreGeometry(last) && !window.parentWidget() && !form.IsModal())
         window.setWindowState(Qt::WindowMaximized);

@@ -45,6 +45,8 @@ public:
     QSettings* Settings = nullptr;
     /// The documents opened last, for a menu; null for none.
     RecentFiles* Recent = nullptr;
+    /// Their full paths, the latest first.
+    std::vector<std::string> RecentDocuments() const;
 
     /// Keys go as far in a table as they do without a screen, so that scripts find the same cells.
     bool PlaysScripts = false;

@@ -1,5 +1,7 @@
 #include "shell/Paths.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 
@@ -29,6 +31,20 @@ std::string AbsolutePath(std::string_view path) {
     std::error_code failed;
     const std::filesystem::path whole = std::filesystem::absolute(text, failed);
     return failed ? text : whole.lexically_normal().string();
+}
+
+std::string WithEnding(std::string path, std::string_view ending) {
+    const std::string title = SplitPath(path).Title;
+    if (title.empty()) return path;
+    const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
+    const auto isPart = [](unsigned char c) { return std::isalnum(c) != 0; };
+    const std::size_t point = title.rfind('.');
+    const std::string_view present = point == title.npos || point == 0
+                                         ? std::string_view()
+                                         : std::string_view(title).substr(point + 1);
+    if (std::ranges::all_of(present, isPart) && std::ranges::any_of(present, isLetter)) return path;
+    if (path.back() == '.') path.pop_back();
+    return path.append(ending);
 }
 
 std::string JoinPath(std::string_view folder, std::string_view name) {

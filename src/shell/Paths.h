@@ -19,6 +19,9 @@ std::string WithSlashes(std::string_view path);
 bool IsFullPath(std::string_view path);
 /// The path as it stands when it is full, else below the current folder.
 std::string AbsolutePath(std::string_view path);
+/// The path with an ending (".txt") behind a name that has none. An ending has letters: that of
+/// "2002 v1.2" is none.
+std::string WithEnding(std::string path, std::string_view ending);
 std::string JoinPath(std::string_view folder, std::string_view name);
 /// The user's own folder, where choosers start that have no other place.
 std::string UserHomeFolder();

@@ -37,6 +37,7 @@ frmMain::frmMain() : Form("frmMain", MainCaption), recovery_(std::make_unique<Re
     WireToolbar();
     WireTree();
     WireFind();
+    WireDesk();
 }
 
 frmMain::~frmMain() = default;
@@ -114,6 +115,9 @@ void frmMain::Activate() {
     if (!tvwTree.IsEmpty()) MouseSelected = true;
     SelectNode();
     Enable();
+    // A button that has opened a dialog may be dead now.
+    if (ActiveControl() != nullptr && !ActiveControl()->IsUsable()) tvwTree.SetFocus();
+    FocusChanged.Emit();
 }
 
 /// A node that counts is selected, though a dialog may have been about something else.
@@ -142,6 +146,8 @@ void frmMain::SelectNode() {
 void frmMain::SelectBy(bool mouse) {
     if (Globals().ShellLocked) return;
     MouseSelected = mouse;
+    ForgetAdded();
+    lastDone_.clear();
     SelectNode();
 }
 
@@ -166,18 +172,23 @@ void frmMain::RefreshTexts() {
     const auto record = isShown ? node->Tag.lock() : nullptr;
     rtfReading.Html(ReadingHtml(record.get()));
     ShowReadingPlot(picReading, record.get());
+    if (!globals.Saved && lastDone_.starts_with(LastSaved)) lastDone_.clear();
     lblStatus.Caption(StatusText());
+    TellWhy();
+    DocumentAltered.Emit();
 }
 
 /// Which document is open, whether it is saved, and which toolbar buttons can be pressed now.
 std::string frmMain::StatusText() const {
     const KVOGlobal& globals = Globals();
-    std::string text = FileName.empty() ? "New document" : FileTitle();
-    text += globals.ReadOnly ? " - read only" : globals.Saved ? " - saved" : " - not saved";
+    std::string text = lastDone_ + DocumentName();
+    const char* const saved = copyOf_.empty() ? " - saved" : " - not changed";
+    text += globals.ReadOnly ? " - read only" : globals.Saved ? saved : " - not saved";
     if (globals.recR.IsEmpty()) text = "No document";
     if (!recovery_->Trouble().empty()) text += " - " + recovery_->Trouble();
     if (globals.ShellLocked) return text + " - a dialog is open";
     if (tvwTree.IsFiltered()) text += " - not all nodes are shown";
+    text += NewNodeText();
     std::string before = " - next: ";
     for (const ui::ToolButton* button : Toolbar1.Buttons())
         if (button->IsUsable()) text += std::exchange(before, ", ") + button->Caption();

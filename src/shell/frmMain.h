@@ -10,7 +10,9 @@
 #include "plot/PlotPicture.h"
 #include "shell/KnownFile.h"
 #include "shell/Paths.h"
+#include "ui/DocumentForm.h"
 #include "ui/Form.h"
+#include "ui/StepButton.h"
 
 namespace vexora {
 
@@ -26,7 +28,7 @@ class Record;
 /// The main form: the open document as a tree, the toolbar that offers what the selected node
 /// allows, the selected record in plain words, and a line that says how things stand. It opens and
 /// saves the document and opens every dialog. It is open as long as the program runs.
-class frmMain : public ui::Form {
+class frmMain : public ui::Form, public ui::DocumentForm {
 public:
     frmMain();
     ~frmMain() override;
@@ -43,6 +45,8 @@ public:
     ui::MenuItem mnuFileExit{*this, "mnuFileExit", "E&xit", &mnuFile, "Ctrl+Q"};
     ui::MenuItem mnuEdit{*this, "mnuEdit", "&Edit"};
     ui::MenuItem mnuFind{*this, "mnuFind", "&Find in the tree", &mnuEdit, "Ctrl+F"};
+    ui::MenuItem mnuNextPane{*this, "mnuNextPane", "Next pane", &mnuEdit, "F6"};
+    ui::MenuItem mnuLastPane{*this, "mnuLastPane", "Previous pane", &mnuEdit, "Shift+F6"};
     ui::MenuItem mnuExpandNode{*this, "mnuExpandNode", "Expand Node", &mnuEdit};
     ui::MenuItem mnuEditNode{*this, "mnuEditNode", "Edit Node (Double Click)", &mnuEdit, "F2"};
     ui::MenuItem mnuNewLike{*this, "mnuNewLike", "New set like this", &mnuEdit, "Ctrl+L"};
@@ -73,16 +77,16 @@ public:
     ui::MenuItem mnuHelpBio{*this, "mnuHelpBio", "Biothermodynamic Data Capture", &mnuHelp};
     ui::MenuItem mnuAbout{*this, "mnuAbout", "About", &mnuHelp};
 
-    ui::Toolbar Toolbar1{*this, "Toolbar1"};
-    ui::ToolButton AddRef{*this, "AddRef", "Start", "New reference"};
-    ui::ToolButton AddComp{*this, "AddComp", "Compound", "New compound"};
-    ui::ToolButton AddComplex{*this, "AddComplex", "Complex", "Define Gas Hydrate, etc"};
-    ui::ToolButton AddSample{*this, "AddSample", "Sample", "New sample"};
-    ui::ToolButton AddMixt{*this, "AddMixt", "Mixture", "New mixture"};
-    ui::ToolButton AddReact{*this, "AddReact", "Reaction", "Reaction"};
-    ui::ToolButton AddProp{*this, "AddProp", "Property", ""};
-    ui::ToolButton AddTable{*this, "AddTable", "Data Tables", "Process a table of data"};
-    ui::ToolButton AddBio{*this, "AddBio", "Bio", "Biothermodynamic properties"};
+    ui::StepBar Toolbar1{*this, "Toolbar1"};
+    ui::StepButton AddRef{*this, "AddRef", "Start", "New reference"};
+    ui::StepButton AddComp{*this, "AddComp", "Compound", "New compound"};
+    ui::StepButton AddComplex{*this, "AddComplex", "Complex", "Define Gas Hydrate, etc"};
+    ui::StepButton AddSample{*this, "AddSample", "Sample", "New sample"};
+    ui::StepButton AddMixt{*this, "AddMixt", "Mixture", "New mixture"};
+    ui::StepButton AddReact{*this, "AddReact", "Reaction", "Reaction"};
+    ui::StepButton AddProp{*this, "AddProp", "Property", ""};
+    ui::StepButton AddTable{*this, "AddTable", "Data Tables", "Process a table of data"};
+    ui::StepButton AddBio{*this, "AddBio", "Bio", "Biothermodynamic properties"};
 
     ui::TextBox txtFind{*this, "txtFind"}; // words that the nodes shown have to hold
     ui::TreeView tvwTree{*this, "tvwTree"};
@@ -102,6 +106,13 @@ public:
 
     /// File name with its ending.
     std::string FileTitle() const { return SplitPath(FileName).Title; }
+
+    std::string DocumentName() const override;
+    bool IsChanged() const override;
+    std::string AskedAbout() const override { return askedAbout_; }
+    const ui::TreeNode* NewNode() const override;
+    std::string WelcomePage(const std::vector<std::string>& recent) const override;
+    void FollowLink(const std::string& link) override;
 
     /// Makes toolbar and menus match the selection; the shell is live then.
     void Enable() { SetLocked(false); }
@@ -137,6 +148,19 @@ private:
     void RefreshTexts();
     std::string StatusText() const;
 
+    // frmMain_desk.cpp
+    void WireDesk();
+    std::string NewNodeText() const;
+    void ForgetAdded() { added_ = nullptr; }
+    void OpenCopy(const std::string& path);
+    void GoToPane(bool backwards);
+    void TellWhy();
+    const ui::TreeNode* added_ = nullptr; // by the chain that is open or was the last one
+    std::string copyOf_;                  // the example that the document began as
+    std::string askedAbout_;              // the document, while it is asked whether to save it
+    std::string lastDone_; // a save or an export, told in front of the name until the next action
+    static constexpr const char* LastSaved = "Saved to ";
+
     // frmMain_document.cpp
     void FindReference();
     void PutAside();
@@ -153,7 +177,8 @@ private:
     bool MayExport();
     void WriteExport(const std::string& target, ExportFor readers);
     std::string StartFolder() const;
-    std::string ChooseTarget(const std::string& proposed, const std::string& filter);
+    std::string ChooseTarget(const std::string& proposed, const std::string& filter,
+                             const char* ending);
     KnownFile known_; // the file of the document as this program left it
     /// The document before, while it is open whether another one takes its place.
     std::unique_ptr<DocumentAside> aside_;
@@ -166,6 +191,7 @@ private:
     // frmMain_toolbar.cpp
     void WireToolbar();
     static void RenewCurrentMethod();
+    std::vector<ui::StepButton*> Steps();
     void ToolbarClick(const ui::ToolButton& button);
     bool OpenFromToolbar(std::string_view button);
     void SetLocked(bool locked);

@@ -98,7 +98,9 @@ void RegisterSaved() {
 bool frmMain::MayDiscard() {
     const KVOGlobal& globals = Globals();
     if (globals.recR.IsEmpty() || globals.Saved) return true;
+    askedAbout_ = DocumentName();
     const ui::Answer answer = ui::AskYesNoCancel("Do you want to save your work?");
+    askedAbout_.clear();
     if (answer == ui::Answer::Yes) Save();
     return answer == ui::Answer::No || (answer == ui::Answer::Yes && globals.Saved);
 }
@@ -124,6 +126,8 @@ void frmMain::EmptyDocument() {
     globals.DialogAccepted = false;
     MouseSelected = false;
     FileName.clear();
+    copyOf_.clear();
+    lastDone_.clear();
     known_.Forget();
     if (!globals.ShellLocked) Enable();
 }
@@ -140,7 +144,9 @@ void frmMain::PutAside() {
     // They may come back with the document.
     auto deleted = std::move(deleted_);
     auto processed = std::move(Globals().Processed);
+    std::string copyOf = copyOf_;
     EmptyDocument();
+    copyOf_ = std::move(copyOf);
     deleted_ = std::move(deleted);
     Globals().Processed = std::move(processed);
 }
@@ -151,6 +157,7 @@ void frmMain::SettleAside() {
     if (!before) return;
     if (!Globals().recR.IsEmpty()) {
         txtFind.Text({});
+        copyOf_.clear();
         Globals().Processed.reset();
         return deleted_.reset();
     }
@@ -187,9 +194,10 @@ void frmMain::DropFile(const std::string& path) {
 /// Opens a document in place of the present one, which goes only when the read left a source.
 void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     const std::string whole = AbsolutePath(path);
-    if (!TakeFile(whole)) return;
+    if (!TakeFile(whole)) return Refused.Emit(whole);
     FileName = whole;
     recovery_->Discard();
+    Taken.Emit(whole);
     if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
     SelectRoot();
     SelectBy(true);
@@ -276,6 +284,8 @@ bool frmMain::WriteDocument() {
     if (outcome.isSaved) {
         known_.Note(FileName, *text);
         globals.Saved = true;
+        copyOf_.clear();
+        lastDone_ = LastSaved;
         globals.DialogAccepted = false;
         recovery_->Discard();
         RegisterSaved();
@@ -286,6 +296,7 @@ bool frmMain::WriteDocument() {
     }
     Tell(outcome, FileName);
     RefreshTexts();
+    if (outcome.isSaved) Taken.Emit(FileName);
     return outcome.isSaved;
 }
 
@@ -297,12 +308,13 @@ bool frmMain::LeaveFile(bool saveElsewhere) {
 }
 
 /// The full path of a file to be written, after the question about an existing one; empty on
-/// Cancel.
-std::string frmMain::ChooseTarget(const std::string& proposed, const std::string& filter) {
+/// Cancel. A name typed without an ending gets the given one.
+std::string frmMain::ChooseTarget(const std::string& proposed, const std::string& filter,
+                                  const char* ending) {
     for (;;) {
         const auto path = ui::TheDesktop().Choose({true, StartFolder(), proposed, filter});
         if (!path || path->empty()) return {};
-        std::string whole = AbsolutePath(*path);
+        std::string whole = WithEnding(AbsolutePath(*path), ending);
         const std::string title = SplitPath(whole).Title;
         if (!FileOrFolderExists(whole) ||
             ui::AskYesNo("File " + title + " exists\nDo you want to re-write " + title + "?"))
@@ -314,7 +326,7 @@ std::string frmMain::ChooseTarget(const std::string& proposed, const std::string
 bool frmMain::SaveAs() {
     if (Globals().recR.IsEmpty() || RefuseReadOnly()) return false;
     const std::string target = ChooseTarget(
-        FileName.empty() ? Source().ProposedName() + ".txt" : FileTitle(), RecordFiles);
+        FileName.empty() ? Source().ProposedName() + ".txt" : FileTitle(), RecordFiles, ".txt");
     if (target.empty()) return false;
     const std::string presentName = std::exchange(FileName, target);
     if (!WriteDocument()) {
@@ -339,7 +351,7 @@ bool frmMain::MayExport() {
 void frmMain::ExportDocument(ExportFor readers) {
     if (!MayExport()) return;
     DisableShell();
-    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles);
+    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles, ".xml");
     if (!target.empty()) WriteExport(target, readers);
     Enable();
 }
@@ -353,6 +365,7 @@ void frmMain::WriteExport(const std::string& target, ExportFor readers) {
     const auto text = Printed(
         [readers] { return DocumentAsXml(ui::TheDesktop().Today(), readers); }, outcome.fault);
     if (text) outcome = WriteText(target, *text, false);
+    if (outcome.isSaved) lastDone_ = "Exported to " + SplitPath(target).Title + " - ";
     Tell(outcome, target);
 }
 

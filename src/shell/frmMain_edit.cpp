@@ -120,6 +120,7 @@ void frmMain::EditNode() {
     if (globals.ShellLocked) return;
     const EditRule* rule = RuleOf(globals.CurrentKey);
     if (rule == nullptr || !MayBeEdited(*rule) || RefuseReadOnly()) return;
+    lastDone_.clear();
     RenewCurrentMethod();
     globals.DialogAccepted = false;
     const bool wasSaved = globals.Saved;

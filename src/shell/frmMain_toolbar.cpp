@@ -20,9 +20,13 @@ void frmMain::RenewCurrentMethod() {
     globals.CurrentMethod->Year = static_cast<std::int32_t>(year.value_or(0));
 }
 
+std::vector<ui::StepButton*> frmMain::Steps() {
+    return {&AddRef,   &AddComp, &AddComplex, &AddSample, &AddMixt,
+            &AddReact, &AddProp, &AddTable,   &AddBio};
+}
+
 void frmMain::WireToolbar() {
-    for (ui::ToolButton* button : {&AddRef, &AddComp, &AddComplex, &AddSample, &AddMixt, &AddReact,
-                                   &AddProp, &AddTable, &AddBio}) {
+    for (ui::StepButton* button : Steps()) {
         Toolbar1.Add(*button);
         button->OnClick = [this, button] { ToolbarClick(*button); };
     }
@@ -30,6 +34,7 @@ void frmMain::WireToolbar() {
 
 void frmMain::SetLocked(bool locked) {
     Globals().ShellLocked = locked;
+    if (locked) lastDone_.clear();
     const bool mayChange = !Globals().ReadOnly || Globals().recR.IsEmpty();
     if (!locked) AddRef.Caption(Globals().recR.IsEmpty() ? "Start" : "Reference");
     for (ui::ToolButton* button : Toolbar1.Buttons())
@@ -51,6 +56,7 @@ void frmMain::SetLocked(bool locked) {
 
 /// Whatever a button ends in, the shell is live again unless a dialog is open.
 void frmMain::ToolbarClick(const ui::ToolButton& button) {
+    ForgetAdded();
     DisableShell();
     RenewCurrentMethod();
     if (OpenFromToolbar(button.Name())) return;

@@ -101,6 +101,16 @@ TEST_F(TreeMenu, EnterAndSpaceClickTheNodeThatTheArrowsReached) {
     EXPECT_EQ(form_->tvwTree.SelectedNode(), &Node("S1"));
 }
 
+TEST_F(TreeMenu, LettersGoOnToAWordOfALabel) {
+    form_->tvwTree.UserNodeClick(Node("L1")); // below "2004 smith": water, sample 1, ethanol
+    std::string reached;
+    for (const char* letter : {"s", "s", "a", "x"}) {
+        Press(letter);
+        reached += form_->tvwTree.SelectedNode()->Text() + "; ";
+    }
+    EXPECT_EQ(reached, "sample 1; 2004 smith; sample 1; sample 1; ");
+}
+
 TEST_F(TreeMenu, TheFilterHidesLinesAndTheArrowsPassThemOver) {
     Node("L1").Expanded(false);
     form_->tvwTree.UserNodeClick(Node("R"));
