@@ -2,6 +2,7 @@
 
 #include "entry/CodeLists.h"
 #include "globals/KVOGlobal.h"
+#include "records/SampleWords.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsS.h"
@@ -38,6 +39,9 @@ frmSample::frmSample() : ChainForm("frmSample", "Sample") {
     HelpContext = HelpSample;
     txtSampleNo.Locked(true);
     txtSmplDescription.Locked(true);
+    txtSmplDescription.OnChange = [this] {
+        txtSmplDescription.Readable(SampleInWords(txtSmplDescription.Text()));
+    };
     txtPurifySteps.Locked(true);
 }
 

@@ -90,6 +90,8 @@ void frmSubst::WireEvents() {
     txtName.OnChange = [this] { NameChanged(); };
     txtName.OnDropDown = [this] { OfferNames(); };
     txtName.OnClick = [this] { NamePicked(); };
+    txtName.OnKey = [this](const ui::Key& key) { NameKey(key); };
+    txtName.OnLostFocus = [this] { DefaultButton = &cmdAccept; };
     txtRN2.OnChange = [this] { FrontChanged(); };
     txtRN1.OnChange = [this] { RegistryNumberChanged(); };
     txtCASD.OnChange = [this] { CheckDigitChanged(); };

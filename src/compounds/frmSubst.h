@@ -73,6 +73,7 @@ private:
     void OfferNames();
     void UnfoldNames();
     void NamePicked();
+    void NameKey(const ui::Key& key);
 
     // The search (frmSubst_search.cpp).
     void FindSubstance();

@@ -23,4 +23,12 @@ void frmSubst::NamePicked() {
     if (!rows.empty()) TakeRow(rows.front());
 }
 
+/// While no row is picked Enter behind a name looks for it: there is nothing to accept yet.
+void frmSubst::NameKey(const ui::Key& key) {
+    const std::string name = txtName.Text();
+    const bool isPicked = row_ && row_->NAME == name;
+    const bool finds = key.name == "Enter" && !name.empty() && !isPicked && cmdFind.IsUsable();
+    DefaultButton = finds ? &cmdFind : &cmdAccept;
+}
+
 } // namespace vexora

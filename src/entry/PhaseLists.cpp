@@ -24,6 +24,7 @@ void FillPhaseList(ui::ComboBox& list, const std::vector<std::string>& codes) {
     const std::string chosen = list.Chosen();
     std::vector<std::string> names = PhaseNames(codes);
     list.Enabled(!names.empty());
+    list.FirstIsPrompt = false;
     // An equal list is left alone: to assign it would fire its event and lose the choice.
     if (names != list.Items()) {
         list.Assign(std::move(names));
@@ -39,6 +40,7 @@ void FillPromptedPhaseList(ui::ComboBox& list, const std::vector<std::string>& c
     std::vector<std::string> names = PhaseNames(codes);
     names.insert(names.begin(), SelectPhase);
     if (keep && std::ranges::find(names, chosen) == names.end()) names.push_back(chosen);
+    list.FirstIsPrompt = true;
     if (names != list.Items()) list.Assign(std::move(names));
     // Two entries are the prompt and the only phase.
     list.Index(keep ? list.Find(chosen) : list.Count() == 2 ? 1 : 0);

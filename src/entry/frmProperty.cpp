@@ -106,6 +106,7 @@ void frmProperty::GroupClick() {
     if (group > 0) rows_ = OfferedIn(groups_[static_cast<std::size_t>(group - 1)]);
     for (const PropertyRow& row : rows_)
         names.push_back(row.Property);
+    lstProp.FirstIsPrompt = true;
     lstProp.Assign(std::move(names));
     lstProp.Index(0);
 }

@@ -42,6 +42,7 @@ void frmProperty::FillGroups() {
     groups_ = PropertyGroups(Globals().DataContext);
     // A group whose properties cannot be entered would be a dead end.
     std::erase_if(groups_, [this](const auto& group) { return OfferedIn(group).empty(); });
+    lstPropGroup.FirstIsPrompt = true;
     lstPropGroup.Assign({"SELECT PROPERTY GROUP"});
     for (const PropertyGroupRow& group : groups_)
         lstPropGroup.Add(group.GroupName);
@@ -159,9 +160,9 @@ void frmProperty::ShowEntries() {
     fraInvariant.Visible(!IsModal() && (cmdSingle.Visible() || cmdFixed.Visible()));
     fraVariable.Visible(!IsModal() && (cmdOne.Visible() || cmdTwo.Visible() || cmdThree.Visible()));
     // Enter needs one meaning.
-    const bool clear = IsModal() || !row || OnlyEntry() != nullptr;
-    cmdOK.Enabled(clear);
-    cmdOK.ToolTip(clear ? "" : "Press one of the buttons above to say what you are entering");
+    cmdOK.Enabled(row && (IsModal() || OnlyEntry() != nullptr));
+    cmdOK.WhyDisabled(row ? "Press one of the buttons above to say what you are entering"
+                          : "Choose a property first");
 }
 
 /// A button is offered by the columns of the property and lives when its form exists.
@@ -170,10 +171,9 @@ void frmProperty::OfferEntry(const Entry& entry, bool offered) {
     const bool exists = ui::Forms::Current().Knows(form);
     entry.button.Visible(offered);
     entry.button.Enabled(exists);
-    const char* why = entry.variableCount > 2 && !IsMixtureContext(Globals().DataContext)
-                          ? "A pure compound has no more than two state variables"
-                          : "Data tables come with a later edition";
-    entry.button.ToolTip(exists ? "" : why);
+    entry.button.WhyDisabled(entry.variableCount > 2 && !IsMixtureContext(Globals().DataContext)
+                                 ? "A pure compound has no more than two state variables"
+                                 : "Data of this kind have no form of their own");
 }
 
 /// The one button that leads on, or null when there is none or a choice of several.

@@ -21,6 +21,7 @@ void Enable(bool on, std::initializer_list<ui::Control*> controls) {
 
 /// A prompt is the first entry of its list and goes as soon as the list is used.
 void DropPrompt(ui::ComboBox& list) {
+    list.FirstIsPrompt = false;
     if (list.Item(0).starts_with("SELECT ")) list.Remove(0);
 }
 

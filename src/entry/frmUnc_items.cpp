@@ -81,6 +81,7 @@ void frmUnc::ClearFrame(int i) {
         box->Text("");
     cboDSEvaluator(i).Index(-1);
     cboDSEvaluator(i).Text("");
+    cboRType(i).FirstIsPrompt = true;
     cboRType(i).Assign({"SELECT REPRESENTATION OF REPEATABILITY", OfTheMean, OfSingleMeasurement});
     cboRType(i).Index(0);
     if (i > 0) return;
@@ -88,6 +89,7 @@ void frmUnc::ClearFrame(int i) {
         box->Value(false);
     for (ui::TextBox* box : {&txtCalibrError, &txtCUValue, &txtCULevel, &txtEq, &txtRMS, &txtKVOU})
         box->Text("");
+    cboCUType.FirstIsPrompt = true;
     cboCUType.Assign({"SELECT TYPE OF EVALUATION", Propagation, Comparison});
     cboCUType.Index(0);
 }

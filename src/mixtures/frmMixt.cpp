@@ -86,6 +86,7 @@ void frmMixt::Click(std::size_t n) {
 /// Whoever comes to the third list has read its prompt.
 void frmMixt::PromptLeaves() {
     const ui::FillingScope filling(*this);
+    cmbComp3.FirstIsPrompt = false;
     if (cmbComp3.Item(0) == ThirdPrompt) cmbComp3.Remove(0);
 }
 
@@ -112,6 +113,7 @@ void frmMixt::Fill(std::size_t n) {
     ui::ComboBox& list = *lists_[n];
     list.Clear();
     if (n == Third && !chosen_[1]) return;
+    list.FirstIsPrompt = n == Third;
     if (n == Third) list.Assign({ThirdPrompt, NoThird});
     const int lead = list.Count();
     const Compounds offered = OfferedIn(n);

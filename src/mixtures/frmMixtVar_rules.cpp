@@ -99,6 +99,7 @@ void frmMixtVar::FillConstraints() {
 /// One that is chosen and not offered any more stays: it must not vanish silently.
 void frmMixtVar::OfferQuantities(ui::ComboBox& list, const std::string& prompt,
                                  const std::vector<VariableRow>& rows) {
+    list.FirstIsPrompt = true;
     const std::string chosen = list.Index() > 0 ? list.Chosen() : std::string();
     std::vector<std::string> names = {prompt};
     for (const VariableRow& row : rows)

@@ -72,6 +72,7 @@ void frmTwo::OfferVariables(ui::ComboBox& list) const {
     std::vector<std::string> names = {SelectVariable};
     for (const VariableRow& row : variables_)
         names.push_back(row.IndVariable);
+    list.FirstIsPrompt = true;
     list.Assign(std::move(names));
     list.Index(0);
 }

@@ -98,10 +98,10 @@ void ToggleView::Draw() {
 }
 
 FrameView::FrameView(FormWindow& window, ui::Frame& frame)
-    : ViewOf(window, frame, new QGroupBox(&window)) {}
+    : ViewOf(window, frame, new FoldBox(&window)) {}
 
 void FrameView::Draw() {
-    own_->setTitle(Literal(model_.Caption()));
+    own_->Caption(Literal(model_.Caption()));
 }
 
 RichTextView::RichTextView(FormWindow& window, ui::RichText& text)

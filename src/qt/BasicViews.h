@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
+#include "qt/FoldBox.h"
 #include "qt/View.h"
 
 class QTextBrowser;
@@ -41,7 +41,7 @@ protected:
     void Draw() override;
 };
 
-class FrameView : public ViewOf<ui::Frame, QGroupBox> {
+class FrameView : public ViewOf<ui::Frame, FoldBox> {
 public:
     FrameView(FormWindow& window, ui::Frame& frame);
 

@@ -8,7 +8,9 @@
 #include <QTimer>
 
 #include "qt/FileDrop.h"
+#include "qt/FoldBox.h"
 #include "qt/Keys.h"
+#include "qt/LayoutGrowth.h"
 #include "qt/Text.h"
 #include "qt/Windows.h"
 #include "ui/FileTarget.h"
@@ -117,8 +119,12 @@ View* FormWindow::ViewFor(const ui::Control& control) const {
 
 void FormWindow::FollowFocus() {
     const ui::Control* active = form_.ActiveControl();
+    for (const auto& view : views_)
+        if (!view->Model().Readable().empty()) MarkDirty(*view); // shown otherwise while edited
     View* view = active ? ViewFor(*active) : nullptr;
-    if (!view || !view->Widget() || view->Widget()->hasFocus()) return;
+    if (!view || !view->Widget()) return;
+    FoldBox::Reveal(*view->Widget());
+    if (view->Widget()->hasFocus()) return;
     Flush();
     view->Widget()->setFocus(Qt::OtherFocusReason);
 }

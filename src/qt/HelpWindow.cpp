@@ -1,10 +1,13 @@
 #include "qt/HelpWindow.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -50,7 +53,7 @@ HelpWindow::HelpWindow(const std::string& folder, HelpPages pages, QWidget* pare
     const int letter = fontMetrics().averageCharWidth();
     split->setSizes({letter * ListColumns, letter * (WindowColumns - ListColumns)});
     setCentralWidget(split);
-    resize(letter * WindowColumns, fontMetrics().lineSpacing() * WindowRows);
+    PlaceOnScreen({letter * WindowColumns, fontMetrics().lineSpacing() * WindowRows});
     connect(browser_, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& page) { FollowPage(page); });
     connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
@@ -59,6 +62,19 @@ HelpWindow::HelpWindow(const std::string& folder, HelpPages pages, QWidget* pare
         if (!topic.isEmpty()) Open(FromQt(topic));
     });
     ShowContents();
+}
+
+// In the middle of what it was asked from, and no part of it beyond the edge of the screen.
+void HelpWindow::PlaceOnScreen(const QSize& wanted) {
+    constexpr int title = 40; // of the frame around it [pixels]
+    const QScreen* screen = parentWidget() ? parentWidget()->screen() : this->screen();
+    const QRect room = screen->availableGeometry().adjusted(0, title, 0, 0);
+    resize(wanted.boundedTo(room.size()));
+    const QRect around = parentWidget() ? parentWidget()->frameGeometry() : room;
+    QPoint corner = around.center() - rect().center();
+    corner.setX(std::clamp(corner.x(), room.left(), room.right() - width() + 1));
+    corner.setY(std::clamp(corner.y(), room.top(), room.bottom() - height() + 1));
+    move(corner);
 }
 
 void HelpWindow::AddTools() {

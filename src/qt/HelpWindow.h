@@ -31,6 +31,7 @@ public:
 
 private:
     HelpWindow(const std::string& folder, HelpPages pages, QWidget* parent);
+    void PlaceOnScreen(const QSize& wanted);
     void AddTools();
     void AddNavigation(QToolBar& bar);
 

@@ -2,15 +2,19 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QSplitter>
 #include <QStackedWidget>
 
+#include "qt/AccessibleNames.h"
+#include "qt/FoldBox.h"
 #include "qt/FormWindow.h"
+#include "qt/LabelEdges.h"
+#include "qt/LayoutGrowth.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
@@ -47,35 +51,6 @@ bool IsRowOfButtons(const ui::Layout& layout) {
            std::ranges::all_of(layout.parts, IsButton);
 }
 
-bool AnyPart(const ui::Layout& layout, bool (*test)(const ui::Layout&)) {
-    return std::ranges::any_of(layout.parts, test);
-}
-
-constexpr int ShortList = 8; // so many entries are shown without scrolling
-
-bool ItemGrowsDown(const ui::Control& control) {
-    switch (control.Kind()) {
-    case ControlKind::ListBox: {
-        const int entries = static_cast<const ui::ListBox&>(control).Count();
-        return entries == 0 || entries > ShortList;
-    }
-    case ControlKind::Grid:
-    case ControlKind::TreeView:
-    case ControlKind::Picture:
-    case ControlKind::RichText:
-        return true;
-    case ControlKind::TextBox:
-        return static_cast<const ui::TextBox&>(control).IsMultiLine();
-    default:
-        return false;
-    }
-}
-
-bool ItemGrowsAcross(const ui::Control& control) {
-    return ItemGrowsDown(control) || control.Kind() == ControlKind::ListBox ||
-           control.Kind() == ControlKind::TextBox || control.Kind() == ControlKind::ComboBox;
-}
-
 template <class TLayout>
 TLayout* Bare(QWidget* owner) {
     auto* layout = new TLayout(owner);
@@ -83,50 +58,18 @@ TLayout* Bare(QWidget* owner) {
     return layout;
 }
 
-int WidestLabel(const QGridLayout& grid) {
-    int widest = 0;
-    for (int row = 0; row < grid.rowCount(); ++row) {
-        const QLayoutItem* item = grid.itemAtPosition(row, 0);
-        if (!item || !item->widget() || item == grid.itemAtPosition(row, 1)) continue;
-        widest = std::max(widest, item->widget()->sizeHint().width()); // also of one not yet shown
+/// The marks of a group in which each block of fields is opened by one; empty for other groups.
+std::vector<const ui::CheckBox*> MarksOf(const ui::Layout& group) {
+    std::vector<const ui::CheckBox*> marks;
+    for (const ui::Layout& part : group.parts) {
+        if (part.kind != Kind::Field || !part.label || part.label->Kind() != ControlKind::CheckBox)
+            return {};
+        marks.push_back(static_cast<const ui::CheckBox*>(part.label));
     }
-    return widest;
-}
-
-// Labels in the groups of a column stand on the edge of those around them.
-void ShareLabelEdge(const QGridLayout& grid) {
-    const int edge = WidestLabel(grid);
-    for (int i = 0; i < grid.count(); ++i) {
-        const auto* box = qobject_cast<QGroupBox*>(grid.itemAt(i)->widget());
-        if (!box || !box->layout() || box->layout()->count() != 1) continue;
-        const QWidget* content = box->layout()->itemAt(0)->widget();
-        auto* inner = content ? qobject_cast<QGridLayout*>(content->layout()) : nullptr;
-        if (!inner || WidestLabel(*inner) == 0) continue;
-        const int inset = box->contentsMargins().left() + box->layout()->contentsMargins().left();
-        inner->setColumnMinimumWidth(0, std::max(edge - inset, 0));
-    }
+    return marks;
 }
 
 } // namespace
-
-bool GrowsDown(const ui::Layout& layout) {
-    // Empty room in a row keeps things apart; it makes the row no taller.
-    if (layout.kind == Kind::Row || layout.kind == Kind::Buttons) {
-        return AnyPart(layout, [](const ui::Layout& part) {
-            return part.kind != Kind::Stretch && GrowsDown(part);
-        });
-    }
-    if (layout.kind == Kind::Item) return ItemGrowsDown(*layout.control);
-    return layout.kind == Kind::Stretch || layout.kind == Kind::Split || AnyPart(layout, GrowsDown);
-}
-
-bool GrowsAcross(const ui::Layout& layout) {
-    if (layout.kind == Kind::Item) {
-        return layout.columns == 0 && ItemGrowsAcross(*layout.control);
-    }
-    return layout.kind == Kind::Stretch || layout.kind == Kind::Split ||
-           layout.kind == Kind::Pages || layout.kind == Kind::Note || AnyPart(layout, GrowsAcross);
-}
 
 QWidget* LayoutBuilder::Build(const ui::Form& form) {
     const ui::Layout& wanted = form.Arrangement;
@@ -139,7 +82,20 @@ QWidget* LayoutBuilder::Build(const ui::Form& form) {
     auto* column = new QVBoxLayout(content);
     if (made) column->addWidget(made, 1);
     if (!rest.empty()) column->addWidget(MakeColumn(ui::Column(rest)), empty ? 1 : 0);
+    if (folds_.size() > 1) // one alone has nothing to make room for
+        for (const Fold& fold : folds_)
+            fold.box->FoldAround(*fold.content);
     return content;
+}
+
+/// A group folds while none of its blocks is in use, and opens when one comes into use.
+void LayoutBuilder::FollowFolds() {
+    for (Fold& fold : folds_) {
+        const bool used =
+            std::ranges::any_of(fold.marks, [](const ui::CheckBox* mark) { return mark->Value(); });
+        if (std::exchange(fold.used, used) != used || !fold.begun) fold.box->Fold(!used);
+        fold.begun = true;
+    }
 }
 
 // A control that the layout forgot still has to be within reach.
@@ -213,7 +169,7 @@ QWidget* LayoutBuilder::MakeColumn(const ui::Layout& layout) {
         ++row;
     }
     if (!grows && !loose) grid->setRowStretch(row, 1);
-    if (hasFields) columns_.push_back(grid);
+    columns_.push_back(grid);
     return owner;
 }
 
@@ -310,16 +266,20 @@ void LayoutBuilder::Accompany(QWidget* widget, const ui::Layout& layout, const u
 }
 
 QWidget* LayoutBuilder::MakeGroup(const ui::Layout& layout) {
-    QGroupBox* box = nullptr;
+    FoldBox* box = nullptr;
     if (layout.control) {
-        box = qobject_cast<QGroupBox*>(MakeItem(*layout.control));
+        box = dynamic_cast<FoldBox*>(MakeItem(*layout.control));
     } else {
-        box = new QGroupBox(Literal(layout.text), &window_);
+        box = new FoldBox(&window_);
+        box->Caption(Literal(layout.text));
         Accompany(box, layout);
     }
     if (!box) return MakeColumn(layout);
     auto* inside = new QVBoxLayout(box);
-    inside->addWidget(MakeColumn(layout));
+    QWidget* content = MakeColumn(layout);
+    inside->addWidget(content);
+    if (std::vector<const ui::CheckBox*> marks = MarksOf(layout); !marks.empty())
+        folds_.push_back({box, content, std::move(marks)});
     return box;
 }
 
@@ -403,8 +363,10 @@ void LayoutBuilder::ShareRooms() {
 }
 
 void LayoutBuilder::Follow() {
-    for (const QGridLayout* column : columns_)
+    FollowFolds();
+    for (QGridLayout* column : columns_)
         ShareLabelEdge(*column);
+    NameFields(window_);
     for (const Companion& companion : companions_) {
         const auto& of = companion.controls;
         const auto isVisible = [](const ui::Control* control) { return control->Visible(); };

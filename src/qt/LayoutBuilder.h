@@ -15,6 +15,7 @@ class QStackedWidget;
 
 namespace vexora::qt {
 
+class FoldBox;
 class FormWindow;
 
 /// Turns the layout tree of a form into widgets: fields with a common label edge, groups, pages,
@@ -40,6 +41,14 @@ private:
         QStackedWidget* stack;
     };
 
+    struct Fold { // a group that shows its content while one of its marks is on
+        FoldBox* box;
+        QWidget* content;
+        std::vector<const ui::CheckBox*> marks;
+        bool used = false;
+        bool begun = false;
+    };
+
     struct Room { // what a part that grows may take of a column
         QGridLayout* column;
         int row;
@@ -50,6 +59,7 @@ private:
     QWidget* Make(const ui::Layout& layout);
     void KeepRoom(QGridLayout& column, int row, int share);
     void ShareRooms();
+    void FollowFolds();
     QWidget* MakeColumn(const ui::Layout& layout);
     void AddToColumn(QGridLayout& grid, int row, const ui::Layout& part, bool hasFields);
     void AddField(QGridLayout& grid, int row, const ui::Layout& part);
@@ -74,12 +84,9 @@ private:
     std::unordered_set<const ui::Control*> placed_;
     std::vector<Companion> companions_;
     std::vector<Book> books_;
-    std::vector<QGridLayout*> columns_; // those with fields
+    std::vector<QGridLayout*> columns_;
+    std::vector<Fold> folds_;
     std::vector<Room> rooms_;
 };
-
-/// True when the part can use more height (or width) than its content asks for.
-bool GrowsDown(const ui::Layout& layout);
-bool GrowsAcross(const ui::Layout& layout);
 
 } // namespace vexora::qt

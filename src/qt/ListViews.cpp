@@ -1,14 +1,31 @@
 #include "qt/ListViews.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QEvent>
 #include <QLineEdit>
 #include <QStyle>
-#include <QStyleOptionViewItem>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 
 #include "qt/FormWindow.h"
+#include "qt/Prompts.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
+
+// The closed field of a list draws its text as that of a button.
+void DropBox::paintEvent(QPaintEvent* event) {
+    if (!IsPrompted || isEditable() || !isEnabled()) return QComboBox::paintEvent(event);
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    for (const auto role : {QPalette::ButtonText, QPalette::Text, QPalette::WindowText})
+        option.palette.setColor(role, palette().color(QPalette::PlaceholderText));
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
 
 void DropBox::showPopup() {
     QPointer<DropBox> self(this);
@@ -27,7 +44,8 @@ ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)
     // What an editable one asks for is no entry; it is to be read as well.
     constexpr std::size_t shortest = 12;
     constexpr std::size_t longest = 40;
-    const std::size_t first = combo.IsEditable() ? combo.Text().size() : 0;
+    const std::size_t first =
+        combo.IsEditable() ? std::max(combo.Text().size(), combo.Hint().size()) : 0;
     own_->setMinimumContentsLength(static_cast<int>(std::clamp(first, shortest, longest)));
     own_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     own_->setFocusPolicy(Qt::StrongFocus); // the wheel must not change a value in passing
@@ -62,11 +80,19 @@ void ComboView::Draw() {
         QStringList texts;
         for (const std::string& item : shown_)
             texts << ToQt(item);
+        if (model_.FirstIsPrompt && !texts.isEmpty()) texts.front() = PromptInWords(texts.front());
         own_->clear();
         own_->addItems(texts);
+        if (model_.FirstIsPrompt && !texts.isEmpty())
+            own_->setItemData(0, own_->palette().brush(QPalette::PlaceholderText),
+                              Qt::ForegroundRole);
     }
     if (own_->currentIndex() != model_.Index()) own_->setCurrentIndex(model_.Index());
-    const QString text = ToQt(model_.Text());
+    const bool prompted = model_.FirstIsPrompt && model_.Index() == 0;
+    if (std::exchange(own_->IsPrompted, prompted) != prompted) own_->update();
+    const QString text = ShownText(model_);
+    if (model_.IsEditable())
+        own_->lineEdit()->setPlaceholderText(PromptInWords(ToQt(model_.Hint())));
     if (model_.IsEditable() && own_->currentText() != text) {
         own_->setEditText(text);
         if (!own_->hasFocus() && !model_.HasFocus())
@@ -130,7 +156,7 @@ void ComboView::PlaceEntries() {
 }
 
 void ComboView::DrawSelection(const QString& text) {
-    if (!model_.IsEditable() || !model_.SelectedFrom()) return;
+    if (!model_.IsEditable() || !model_.SelectedFrom() || text.isEmpty()) return;
     const int start = PositionAfter(text, *model_.SelectedFrom());
     QLineEdit* line = own_->lineEdit();
     const int length = static_cast<int>(text.size()) - start;
@@ -214,6 +240,10 @@ void ListView::Fill() {
     own_->clear();
     for (const std::string& text : shown_) {
         auto* item = new QListWidgetItem(ToQt(text), own_);
+        if (model_.FirstIsPrompt && own_->count() == 1) {
+            item->setText(PromptInWords(item->text()));
+            item->setForeground(own_->palette().brush(QPalette::PlaceholderText));
+        }
         if (!HasChecks()) continue;
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);

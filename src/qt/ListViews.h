@@ -14,6 +14,11 @@ public:
     using QComboBox::QComboBox;
     std::function<void()> OnPopup;
     void showPopup() override;
+    /// The chosen entry only says what is to be chosen: it is drawn grey.
+    bool IsPrompted = false;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 class ComboView : public ViewOf<ui::ComboBox, DropBox> {

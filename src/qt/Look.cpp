@@ -96,12 +96,23 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
         MarkedStyle::drawPrimitive(element, option, painter, widget);
-        if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) return;
+        const bool isRound = element == PE_IndicatorRadioButton;
+        const bool isMark =
+            isRound || element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+        const bool isBox = element == PE_FrameGroupBox;
+        const bool isField = element == PE_FrameLineEdit || element == PE_PanelLineEdit;
+        if (!isMark && !isBox && !isField) return;
+        if (isField && option->state.testFlag(State_HasFocus)) return; // it has its mark
         painter->save();
-        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->setRenderHint(QPainter::Antialiasing, isRound);
         painter->setBrush(Qt::NoBrush);
-        painter->setPen(option->palette.color(QPalette::PlaceholderText));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        QColor edge = option->palette.color(QPalette::PlaceholderText);
+        if (!isMark) edge = Between(edge, option->palette.color(QPalette::Window));
+        painter->setPen(edge);
+        if (isRound)
+            painter->drawEllipse(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        else
+            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
         painter->restore();
     }
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -110,14 +121,32 @@ public:
             return static_cast<int>(option->palette.color(QPalette::Button).lighter(115).rgb());
         return MarkedStyle::styleHint(hint, option, widget, data);
     }
+
+private:
+    static QColor Between(const QColor& one, const QColor& other) {
+        return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+                (one.blue() + other.blue()) / 2};
+    }
 };
+
+/// The palette that the desktop has given, before any of ours is taken.
+const QPalette& OfDesktop() {
+    static const QPalette palette = QApplication::palette();
+    return palette;
+}
 
 } // namespace
 
 void TakeLook(const std::string& look) {
     const QString plain = QStringLiteral("Fusion");
+    constexpr int half = 128;
+    const bool darkDesktop = OfDesktop().color(QPalette::Window).lightness() < half;
     if (look != "dark" && look != "light") {
-        QApplication::setStyle(new MarkedStyle);
+        QApplication::setPalette(QPalette()); // that of the desktop again
+        if (darkDesktop)
+            QApplication::setStyle(new EdgedStyle);
+        else
+            QApplication::setStyle(new MarkedStyle);
         return;
     }
     if (look == "dark")

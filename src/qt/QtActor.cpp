@@ -6,6 +6,7 @@
 #include <QTabBar>
 
 #include "qt/Events.h"
+#include "qt/FoldBox.h"
 #include "qt/GridView.h"
 #include "qt/ListViews.h"
 #include "qt/PicturePainter.h"
@@ -41,6 +42,7 @@ template <class TView>
 TView& QtActor::ViewOf(const ui::Control& control) {
     auto* view = dynamic_cast<TView*>(WindowOf(control).ViewFor(control));
     if (!view || !view->Widget()) throw host::ActorError(control.Name() + " is not on the screen");
+    FoldBox::Reveal(*view->Widget());
     return *view;
 }
 

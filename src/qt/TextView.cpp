@@ -47,17 +47,26 @@ bool TextView::Wants(const ui::Key& key) const {
 }
 
 void TextView::Draw() {
-    const QString text = ToQt(model_.Text());
-    if (WidgetText() != text) PutText(text);
+    const QString text = ShownText(model_);
+    const bool isOwn = text == ToQt(model_.Text());
+    if (WidgetText() != text) {
+        PutText(text);
+        if (!isOwn) PutSelection(0, 0); // what is only read shows its beginning
+    }
+    if (isOwn) DrawSelection();
+    Shade(*Widget(), !model_.Enabled() || (model_.Locked() && !model_.OnClick));
+    Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
+                                                          : Qt::IBeamCursor);
+}
+
+void TextView::DrawSelection() {
+    const QString text = WidgetText();
     const int start = PositionAfter(text, model_.SelectionStart());
     const int end = PositionAfter(text, model_.Caret());
     const bool same =
         end > start ? WidgetSelectionStart() == start && WidgetSelectionLength() == end - start
                     : WidgetCaret() == start && WidgetSelectionLength() == 0;
     if (!same) PutSelection(start, end - start);
-    Shade(*Widget(), !model_.Enabled() || (model_.Locked() && !model_.OnClick));
-    Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
-                                                          : Qt::IBeamCursor);
 }
 
 void TextView::Edited() {

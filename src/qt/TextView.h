@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+#include "qt/Prompts.h"
+#include "qt/Text.h"
 #include "qt/View.h"
 
 namespace vexora::qt {
@@ -26,6 +28,7 @@ protected:
     virtual void PutSelection(int start, int length) = 0;
 
     void Draw() override;
+    void DrawSelection();
     bool MouseEvent(QEvent& event) override;
     void Edited();
     void Moved();
@@ -48,6 +51,8 @@ public:
 protected:
     void Draw() override {
         own_->setReadOnly(model_.Locked());
+        const QString hint = PromptInWords(ToQt(model_.Hint()));
+        if (own_->placeholderText() != hint) own_->setPlaceholderText(hint);
         TextView::Draw();
     }
 

@@ -110,8 +110,10 @@ void frmEquil::FillLists() {
     for (const auto& list : cboConst)
         list->Assign(names);
     names.front() = "SELECT VARIABLE";
-    for (const auto& list : cboVar)
+    for (const auto& list : cboVar) {
+        list->FirstIsPrompt = true;
         list->Assign(names);
+    }
     for (int row = 0; row < Places; ++row)
         cboConst(row).Index(0);
     for (int row = 0; row < MostVariables; ++row) {

@@ -40,6 +40,12 @@ std::string PublicationName(std::string_view source) {
     return name.empty() ? std::string(Trim(source.substr(0, source.find(',')))) : name;
 }
 
+std::string PublicationInWords(std::string_view source) {
+    std::string words(source);
+    std::erase_if(words, [](char c) { return c == '@' || c == '$'; });
+    return words;
+}
+
 std::string VolumeOf(std::string_view source) {
     return Between(source, '$');
 }

@@ -13,4 +13,7 @@ std::string VolumeOf(std::string_view source);
 /// type is the kind of document (TYPDOC), which says how pages are marked.
 std::string PagesOf(std::string_view source, std::string_view type);
 
+/// The publication as a person reads it, without the marks that part its name and its volume.
+std::string PublicationInWords(std::string_view source);
+
 } // namespace vexora

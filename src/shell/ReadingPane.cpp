@@ -8,6 +8,7 @@
 #include "records/MixtureWords.h"
 #include "records/PropertyLabels.h"
 #include "records/SampleDescription.h"
+#include "records/SampleWords.h"
 #include "records/StatedUncertainty.h"
 #include "records/Walk.h"
 #include "records/clsAuthor.h"
@@ -81,13 +82,6 @@ std::string VariableText(const clsZ& value) {
     const std::string unit = DefaultUnit(VariableName(value.Variable(), value.DataContext()));
     const std::string& code = value.VARIABLE_UNIT;
     return NumberWithUnit(value.INDVARIABLE, UnitText(unit, code, 0));
-}
-
-std::string PurityInWords(const PurityStatement& statement) {
-    const PurityUnit* unit = PurityUnitByCode(statement.Unit);
-    if (statement.Value.empty() || unit == nullptr) return {};
-    const std::string method = DeterminationName(statement.Method);
-    return statement.Value + " " + std::string(unit->text) + (method.empty() ? "" : ", " + method);
 }
 
 std::string ReadingOf(const clsR& source) {

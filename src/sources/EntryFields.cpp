@@ -97,6 +97,7 @@ void PlainTextBox::MakePlain() {
 
 PromptedTextBox::PromptedTextBox(ui::Form& form, std::string name, std::string prompt, Lines lines)
     : PlainTextBox(form, std::move(name), lines), prompt_(std::move(prompt)) {
+    Hint(prompt_);
     Text(prompt_);
     OnGotFocus = [this] {
         if (Text() == prompt_) Text("");
@@ -116,6 +117,7 @@ CompletingCombo::CompletingCombo(ui::Form& form, std::string name, std::string p
                                  std::string table, std::string column)
     : ComboBox(form, std::move(name), Style::Editable), prompt_(std::move(prompt)),
       table_(std::move(table)), column_(std::move(column)) {
+    Hint(prompt_);
     OnChange = [this] { Complete(); };
     OnGotFocus = [this] {
         typed_ = onEntry_ = Entered();

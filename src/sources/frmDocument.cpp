@@ -1,6 +1,7 @@
 #include "sources/frmDocument.h"
 
 #include "globals/KVOGlobal.h"
+#include "records/SourceText.h"
 #include "records/clsAuthor.h"
 #include "records/clsR.h"
 #include "reference/KVODefinitions.h"
@@ -50,6 +51,9 @@ frmDocument::frmDocument() : ChainForm("frmDocument", "Literature source descrip
     txtAuthors.OnClick = [this] { txtAuthors_Click(); };
     cmdPasteCitation.OnClick = [this] { cmdPasteCitation_Click(); };
     cmdPasteCitation.ToolTip("Fill the form from a citation on the clipboard, or drop a file here");
+    txtSource.Hint(SourcePrompt);
+    txtAuthors.Hint(AuthorsPrompt);
+    txtSource.OnChange = [this] { txtSource.Readable(PublicationInWords(txtSource.Text())); };
     ClickBySpace(txtSource);
     ClickBySpace(txtAuthors);
 }
@@ -64,6 +68,7 @@ void frmDocument::Load() {
 }
 
 void frmDocument::FillLists() {
+    cboTypeDoc.FirstIsPrompt = lstSourceDoc.FirstIsPrompt = true;
     cboTypeDoc.Add("SELECT TYPE OF DOCUMENT HERE");
     for (const DocumentType& type : DocumentTypes)
         cboTypeDoc.Add(std::string(type.text));

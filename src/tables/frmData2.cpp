@@ -31,6 +31,7 @@ frmData2::frmData2() : Form("frmData2", "Data table"), TableMenu(static_cast<ui:
     WireMenus();
     CancelButton = &cmdFinish;
     HelpContext = HelpAbout;
+    chkSup.ToolTip("No derivatives are calculated in this edition: there is nothing to suppress");
 }
 
 frmData2::~frmData2() = default;
@@ -69,9 +70,7 @@ void frmData2::WireMenus() {
 void frmData2::Load() {
     Globals().DialogAccepted = false;
     TakeSet();
-    const bool canPlot = ui::Forms::Current().Knows("frmGraph");
-    cmdView.Enabled(set_ != nullptr && canPlot);
-    cmdView.ToolTip(canPlot ? "" : "Plots come with a later edition");
+    cmdView.Enabled(set_ != nullptr);
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr && !isMixed_);
     if (!set_) mnuSystemUnits.Enabled(false);

@@ -17,6 +17,45 @@ void Gather(const Layout& layout, std::vector<Control*>& controls) {
         Gather(part, controls);
 }
 
+/// Takes keys that do nothing.
+bool IsLocked(const Control& control) {
+    return control.Kind() == ControlKind::TextBox && static_cast<const TextBox&>(control).Locked();
+}
+
+/// A box that holds something already, so that whoever comes goes on to the next: a choice that is
+/// made, an option, a text that another form fills.
+bool IsPassedBy(const Control& control) {
+    if (control.Kind() == ControlKind::CheckBox || control.Kind() == ControlKind::OptionButton)
+        return true;
+    if (control.Kind() != ControlKind::ComboBox) return IsLocked(control);
+    const auto& list = static_cast<const ComboBox&>(control);
+    return !list.Text().empty() && list.Text() != list.Hint() &&
+           !(list.FirstIsPrompt && list.Index() == 0);
+}
+
+/// A box of one line that waits for its text, or a list for its choice.
+bool IsToBeFilled(const Control& control) {
+    if (control.Kind() == ControlKind::ComboBox) return !IsPassedBy(control);
+    if (control.Kind() != ControlKind::TextBox) return false;
+    const auto& box = static_cast<const TextBox&>(control);
+    return !box.IsMultiLine() && (box.IsEmpty() || box.Text() == box.Hint());
+}
+
+/// Where a person begins: behind the boxes at the head that are settled already, if one to be
+/// filled stands there; else at the first that takes keys.
+Control* FirstToFill(const Form& form) {
+    Control* first = nullptr;
+    for (Control* control : form.Controls()) {
+        const bool reachable = control->TakesFocus() && control->IsUsable() &&
+                               IsOnTurnedPage(form.Arrangement, *control);
+        if (!reachable) continue;
+        if (IsToBeFilled(*control)) return control;
+        if (first == nullptr && !IsLocked(*control)) first = control;
+        if (!IsPassedBy(*control)) break;
+    }
+    return first != nullptr ? first : form.NextInTabOrder(false);
+}
+
 } // namespace
 
 Form::Form(std::string name, std::string caption)
@@ -66,7 +105,7 @@ void Form::Open(bool modal) {
         }
         if (!open_) return;
         forms.NoteOpened(*this);
-        if (active_ == nullptr) FocusTo(NextInTabOrder(false));
+        if (active_ == nullptr) FocusTo(FirstToFill(*this));
     }
     ShownChanged.Emit();
     forms.Shown.Emit(*this);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+#include "ui/Lists.h"
+#include "ui/TextBox.h"
+
+namespace vexora::qt {
+
+/// What a person reads of a prompt: one that is written in capitals as a sentence, the words that a
+/// button or the trade writes in capitals excepted.
+QString PromptInWords(const QString& prompt);
+
+/// The prompt stands in the field as its text: nothing has been entered.
+bool IsPrompted(const ui::Control& field, const std::string& text);
+
+/// What the widget of a text field holds: the text, nothing where it is the prompt, what is
+/// readable of a text that is stored with marks while nobody edits it.
+QString ShownText(const ui::TextBox& box);
+QString ShownText(const ui::ComboBox& box);
+
+} // namespace vexora::qt
