@@ -28,6 +28,7 @@ frmBioData::frmBioData()
     : Form("frmBioData", "Bio data table"), TableMenu(static_cast<ui::Form&>(*this)) {
     using namespace ui;
     Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings,
+                          Field("Stated for the set:", Row({lblStated, cmdLastUnc, Stretch()})),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
     PreferredColumns = 130;
     PreferredRows = 40;

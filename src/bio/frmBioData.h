@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "chem/clsProperty.h"
+#include "entry/StatementMemory.h"
 #include "entry/TableColumns.h"
 #include "grid/TableEditor.h"
 #include "grid/TableMenu.h"
@@ -38,6 +39,8 @@ public:
     ui::TextBox txtCell{*this, "txtCell"};
     ui::Label lblNotice{*this, "lblNotice"};
     ui::ListBox lstFindings{*this, "lstFindings"};
+    ui::Label lblStated{*this, "lblStated"};
+    ui::CommandButton cmdLastUnc{*this, "cmdLastUnc", "Use &last"};
     ui::CommandButton cmdView{*this, "cmdView", "View plot"};
     ui::CommandButton cmdAssign{*this, "cmdAssign", "Evaluate Uncertainties"};
     ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
@@ -76,6 +79,7 @@ private:
     // Statements, checks and storing (frmBioData_accept.cpp).
     void Assign();
     bool AssignAccepted();
+    void AssignTo(const std::vector<clsX>& after);
     void UseStatements(const std::vector<clsX>& statements);
     void TakeRow(int row);
     bool Check();
@@ -97,6 +101,12 @@ private:
     std::shared_ptr<clsProperty> chain_;
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
+    StatementOffer offer_{lblStated, cmdLastUnc, [this] { return statements_; },
+                          [this](const std::vector<clsX>& items) {
+                              table_.EndTyping();
+                              AssignTo(items);
+                              tblData.SetFocus();
+                          }};
     TableColumns columns_;
     TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
 };

@@ -33,19 +33,24 @@ bool frmBioData::AssignAccepted() {
     Globals().CurrentProperty = chain_;
     std::vector<clsX> after = statements_;
     if (!EditStatements(after, CountOfProperties())) return false;
+    AssignTo(after);
+    return true;
+}
+
+void frmBioData::AssignTo(const std::vector<clsX>& after) {
     const bool assignedBefore = std::exchange(assigned_, true);
-    if (after == statements_) return true;
+    if (after == statements_) return;
     table_.History().Do([](TableEdit&) {},
                         [this, before = statements_, after, assignedBefore](bool done) {
                             UseStatements(done ? after : before);
                             assigned_ = done || assignedBefore;
                         });
-    return true;
 }
 
 void frmBioData::UseStatements(const std::vector<clsX>& statements) {
     statements_ = statements;
     chain_ = ChainOf(*set_, statements_);
+    offer_.Show();
 }
 
 /// The values of a row, and what it states of them.
@@ -118,6 +123,7 @@ void frmBioData::Save() {
     if (!Check()) return;
     if (!assigned_ && !AssignAccepted()) return;
     if (!CheckUnc()) return;
+    offer_.Keep();
     Store();
     Close();
 }

@@ -36,13 +36,16 @@ bool AverageEntry::Ask(clsX& statement, const std::string& remark) {
         State(statement, givenUncertainty_, givenCount_);
     }
     // A single value has no scatter; that of an earlier average is not its own.
-    const bool isOfBefore = count == 1 && !givenCount_.empty() &&
-                            statement.RValue == givenUncertainty_ &&
-                            statement.Repetitions == givenCount_;
-    if (isOfBefore) State(statement, {}, {});
+    if (count == 1) TakeOut(statement);
     average.Close();
     value_.SetFocus();
     return count > 0;
+}
+
+void AverageEntry::TakeOut(clsX& statement) const {
+    if (!givenCount_.empty() && statement.RValue == givenUncertainty_ &&
+        statement.Repetitions == givenCount_)
+        State(statement, {}, {});
 }
 
 } // namespace vexora

@@ -38,6 +38,8 @@ public:
     /// mean and their number become the repeatability that the statement tells. The focus comes
     /// back to the field. False, and nothing has changed, when nothing was averaged.
     bool Ask(clsX& statement, const std::string& remark = {});
+    /// Takes the repeatability out that an average gave: it is of no other value.
+    void TakeOut(clsX& statement) const;
 
 private:
     ui::Form& form_;

@@ -41,6 +41,7 @@ void frmMixtSingle::ArrangeControls() {
                 Group("Phases", {lblReminder, Row({phase(0), phase(1), phase(2)}),
                                  Row({phase(3), phase(4)})}),
                 Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
+                Field("Uncertainty:", Row({lblStated, cmdLastUnc, Stretch()})),
                 Group(fraState, {Field(lblT, Row({Narrow(txtT, 24), Narrow(cboTUnit, 20)})),
                                  Field(lblP, Row({Narrow(txtP, 24), Narrow(cboPUnit, 20)}))}),
                 Field("Comment to this record:", txtComment),
@@ -82,6 +83,7 @@ void frmMixtSingle::Load() {
     cmdCheck.Enabled(CanAverage());
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
+    offer_.Show();
     if (!record_) return;
     cmdAccept.Caption("Accept");
     cboSample(0).SetFocus(); // its mixture is closed
@@ -130,20 +132,36 @@ void frmMixtSingle::Method() {
 
 /// Statements about the value in hand; they go with it when it is stored.
 void frmMixtSingle::Uncertainty() {
-    const KVOGlobal& globals = Globals();
-    if (!globals.CurrentProperty || !mixture_) return;
+    std::vector<clsX> items = Statements();
+    if (items.empty()) return;
     value_.TakeText();
+    // What a mixture states stands in the unit of its value, in the file too.
+    if (EditStatementsOfValue(items, "RMZ", false)) TakeStatement(items);
+}
+
+/// The statement as it stands, with name and unit of its quantity.
+std::vector<clsX> frmMixtSingle::Statements() const {
+    const auto& head = Globals().CurrentProperty;
+    if (!head || !mixture_) return {};
     clsMZ named;
     named.MixType = mixture_->MixType;
     named.PRPCODE = row_.Code;
-    named.PROPERTY_UNIT = globals.CurrentProperty->ConversionCode;
-    named.Factor = globals.CurrentProperty->Factor;
+    named.PROPERTY_UNIT = head->ConversionCode;
+    named.Factor = head->Factor;
     StoreStatement(named);
-    std::vector<clsX> items = NamedStatements(named);
-    // What a mixture states stands in the unit of its value, in the file too.
-    if (!EditStatementsOfValue(items, "RMZ", false)) return;
+    return NamedStatements(named);
+}
+
+void frmMixtSingle::TakeStatement(const std::vector<clsX>& items) {
     statement_ = items.front();
     Touch();
+}
+
+/// The scatter of an average is of that value alone.
+void frmMixtSingle::KeepStatement() const {
+    std::vector<clsX> items = Statements();
+    if (!items.empty()) average_.TakeOut(items.front());
+    StatementOffer::Keep(items);
 }
 
 /// The average of repeated values. It tells the purity of the mixed sample besides, weighted by the
@@ -168,6 +186,7 @@ void frmMixtSingle::Touch() {
     if (Filling) return;
     stored_ = false;
     cmdAccept.Caption(record_ ? "Accept" : "Next");
+    offer_.Show();
 }
 
 } // namespace vexora

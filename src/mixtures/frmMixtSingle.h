@@ -6,6 +6,7 @@
 
 #include "entry/AverageForm.h"
 #include "entry/SampleList.h"
+#include "entry/StatementMemory.h"
 #include "entry/ValueEntry.h"
 #include "globals/FormChain.h"
 #include "mixtures/MixtValueRules.h"
@@ -34,6 +35,8 @@ public:
     ui::ControlArray<ui::ComboBox> lstPhase{*this, "lstPhase", MostMixturePhases};
     ui::TextBox txtValue{*this, "txtValue"};
     ui::Label lblUnit{*this, "lblUnit"};
+    ui::Label lblStated{*this, "lblStated"};
+    ui::CommandButton cmdLastUnc{*this, "cmdLastUnc", "Use &last"};
     ui::Frame fraState{*this, "fraState", "The value holds at (optional)"};
     ui::Label lblT{*this, "lblT", "Temperature:"};
     ui::TextBox txtT{*this, "txtT"};
@@ -97,6 +100,9 @@ private:
     void StoreStates(CommentTags& tags) const;
     std::string TagOf(const State& state) const;
     void StoreStatement(clsMZ& record) const;
+    std::vector<clsX> Statements() const;
+    void TakeStatement(const std::vector<clsX>& items);
+    void KeepStatement() const;
 
     std::array<SampleList, 3> samples_{SampleList{*this, cboSample(0)},
                                        SampleList{*this, cboSample(1)},
@@ -111,7 +117,12 @@ private:
     std::string phasesOf_;          // context and property that the phases are offered for
     clsX statement_;                // of the value in hand
     std::string stateTag_;          // of the record: "FP" or "PB", which are not asked here
-    bool stored_ = false;           // nothing has changed since the last store
+    StatementOffer offer_{lblStated, cmdLastUnc, [this] { return Statements(); },
+                          [this](const std::vector<clsX>& items) {
+                              TakeStatement(items);
+                              txtValue.SetFocus();
+                          }};
+    bool stored_ = false; // nothing has changed since the last store
 };
 
 } // namespace vexora

@@ -35,6 +35,7 @@ void frmMixtSingle::Accept() {
     }
     if (!Check()) return;
     Store();
+    KeepStatement();
     if (record_) {
         Close();
         return;
@@ -42,6 +43,7 @@ void frmMixtSingle::Accept() {
     const ui::FillingScope filling(*this);
     txtValue.Text("");
     statement_ = clsX(); // it was of the value that has been stored
+    offer_.Show();
     ProposeSetNumber();
     cmdAccept.Caption("Done");
     stored_ = true;

@@ -41,6 +41,7 @@ void frmSingle::ArrangeControls() {
                           Group(frmIndVar, {Row({Field("Value:", Narrow(txtIndVariable, 24)),
                                                  Field("Units:", lstVariable_Unit)})}),
                           Field("Property value:", Row({Narrow(txtValue, 24), lblUnit})),
+                          Field("Uncertainty:", Row({lblStated, cmdLastUnc, Stretch()})),
                           Group(frmConstraint, {Row({optPB, optFP})}),
                           Field("Comment to this record:", txtComment),
                           ButtonRow({cmdMethod, cmdUnc, cmdCheck, cmdAccept, cmdFinish})});
@@ -78,6 +79,7 @@ void frmSingle::Load() {
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     cmdCheck.Enabled(CanAverage());
     if (editing_) cmdAccept.Caption("Accept");
+    offer_.Show();
 }
 
 void frmSingle::Phase1Click() {
@@ -105,16 +107,26 @@ void frmSingle::Uncertainty() {
     const KVOGlobal& globals = Globals();
     if (!globals.CurrentProperty) return;
     TakeTexts();
-    clsZ named;
-    named.nVar = globals.VariableCount;
-    named.PRPCODE = row_.Code;
-    named.PROPERTY_UNIT = globals.CurrentProperty->ConversionCode;
-    named.Factor = globals.CurrentProperty->Factor;
-    if (IsFixed()) named.VARIABLE_UNIT = globals.CurrentProperty->NextItem->ConversionCode;
-    StoreStatements(named);
-    std::vector<clsX> items = NamedStatements(named);
+    std::vector<clsX> items = Statements();
     const bool inSystemUnits = editing_ && globals.CurrentZ->commentInSystemUnits;
-    if (!EditStatementsOfValue(items, "RLSZ", inSystemUnits)) return;
+    if (EditStatementsOfValue(items, "RLSZ", inSystemUnits)) TakeStatements(items);
+}
+
+/// The statements as they stand, with the names and units of their quantities.
+std::vector<clsX> frmSingle::Statements() const {
+    const auto& head = Globals().CurrentProperty;
+    if (!head) return {};
+    clsZ named;
+    named.nVar = Globals().VariableCount;
+    named.PRPCODE = row_.Code;
+    named.PROPERTY_UNIT = head->ConversionCode;
+    named.Factor = head->Factor;
+    if (IsFixed() && head->NextItem) named.VARIABLE_UNIT = UnitOfVariable();
+    StoreStatements(named);
+    return NamedStatements(named);
+}
+
+void frmSingle::TakeStatements(const std::vector<clsX>& items) {
     std::ranges::copy(items, statements_.begin());
     Touch();
 }
@@ -127,6 +139,7 @@ void frmSingle::Touch() {
     if (Filling) return;
     stored_ = false;
     cmdAccept.Caption(editing_ ? "Accept" : "Next");
+    offer_.Show();
 }
 
 void frmSingle::UseSample() {
@@ -244,6 +257,7 @@ void frmSingle::Accept() {
     }
     if (!Check()) return;
     Store();
+    KeepStatements();
     if (editing_) {
         Close();
         return;
@@ -251,6 +265,7 @@ void frmSingle::Accept() {
     const ui::FillingScope filling(*this);
     txtValue.Text("");
     statements_ = {}; // they were of the value that has been stored
+    offer_.Show();
     ProposeSetNumber();
     cmdAccept.Caption("Done");
     stored_ = true;
@@ -358,8 +373,19 @@ void frmSingle::TakeTexts() {
     if (!IsFixed() || !head.NextItem) return;
     clsProperty& item = *head.NextItem;
     item.Text = NormalizeNumber(txtIndVariable.Text());
-    item.ConversionCode =
-        Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_) : "S";
+    item.ConversionCode = UnitOfVariable();
+}
+
+std::string frmSingle::UnitOfVariable() const {
+    return Globals().OriginalUnits ? ConversionCodeOf(lstVariable_Unit.Chosen(), variableUnit_)
+                                   : "S";
+}
+
+/// The scatter of an average is of that value alone.
+void frmSingle::KeepStatements() const {
+    std::vector<clsX> items = Statements();
+    if (!items.empty()) average_.TakeOut(items.front());
+    StatementOffer::Keep(items);
 }
 
 } // namespace vexora

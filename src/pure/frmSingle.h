@@ -7,6 +7,7 @@
 #include "entry/AverageForm.h"
 #include "entry/PropertyRules.h"
 #include "entry/SampleChoice.h"
+#include "entry/StatementMemory.h"
 #include "entry/ValueEntry.h"
 #include "globals/FormChain.h"
 #include "records/clsX.h"
@@ -33,6 +34,8 @@ public:
     ui::ComboBox lstVariable_Unit{*this, "lstVariable_Unit"};
     ui::TextBox txtValue{*this, "txtValue"};
     ui::Label lblUnit{*this, "lblUnit"};
+    ui::Label lblStated{*this, "lblStated"};
+    ui::CommandButton cmdLastUnc{*this, "cmdLastUnc", "Use &last"};
     ui::Frame frmConstraint{*this, "frmConstraint", "The value was obtained:"};
     ui::OptionButton optPB{*this, "optPB", "In equilibrium with gas"};
     ui::OptionButton optFP{*this, "optFP", "At fixed pressure 1 atm"};
@@ -77,6 +80,10 @@ private:
     std::string StateTag() const;
     void StoreValues(clsZ& record) const;
     void StoreStatements(clsZ& record) const;
+    std::vector<clsX> Statements() const;
+    void TakeStatements(const std::vector<clsX>& items);
+    void KeepStatements() const;
+    std::string UnitOfVariable() const;
     void TakeTexts();
 
     SampleChoice choice_{*this, cboSubst, cboSample, [this] { UseSample(); }};
@@ -86,6 +93,11 @@ private:
     std::string variable_;           // code of the fixed variable
     std::string variableUnit_;       // system unit of it
     std::array<clsX, 2> statements_; // of the property and of the fixed variable
+    StatementOffer offer_{lblStated, cmdLastUnc, [this] { return Statements(); },
+                          [this](const std::vector<clsX>& items) {
+                              TakeStatements(items);
+                              txtValue.SetFocus();
+                          }};
     bool editing_ = false;
     bool stored_ = false; // nothing has changed since the last store
 };

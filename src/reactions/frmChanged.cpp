@@ -52,6 +52,7 @@ void frmChanged::ArrangeControls() {
                 Field("Property value:",
                       Row({Narrow(txtValue, 20), Narrow(cboUnit, 20), Field(lblMassOf, cboMassOf),
                            Field("Property set #", Narrow(txtPrpSetNo, 4))})),
+                Field("Uncertainty:", Row({lblStated, cmdLastUnc, Stretch()})),
                 Field("Comment to this record:", txtComment),
                 ButtonRow({cmdMethod, cmdUnc, cmdAccept, cmdFinish})});
     TabAlongArrangement();
@@ -97,6 +98,7 @@ void frmChanged::Load() {
     cmdUnc.Enabled(ui::Forms::Current().Knows("frmUnc"));
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     if (record_) cmdAccept.Caption("Accept");
+    offer_.Show();
     cboPhase(0).SetFocus();
 }
 
@@ -184,13 +186,22 @@ void frmChanged::Uncertainty() {
     const KVOGlobal& globals = Globals();
     if (!globals.CurrentProperty) return;
     globals.CurrentProperty->Text = NormalizeNumber(txtValue.Text());
+    std::vector<clsX> items = Statements();
+    const bool inSystemUnits = record_ && record_->commentInSystemUnits;
+    if (EditStatementsOfValue(items, "RQC", inSystemUnits)) TakeStatement(items);
+}
+
+/// The statement as it stands, with name and unit of its quantity.
+std::vector<clsX> frmChanged::Statements() const {
+    if (!Globals().CurrentProperty) return {};
     clsC named;
     named.Parent = reaction_.get();
     StoreUnit(named);
     StoreStatement(named);
-    std::vector<clsX> items = NamedStatements(named);
-    const bool inSystemUnits = record_ && record_->commentInSystemUnits;
-    if (!EditStatementsOfValue(items, "RQC", inSystemUnits)) return;
+    return NamedStatements(named);
+}
+
+void frmChanged::TakeStatement(const std::vector<clsX>& items) {
     statement_ = items.front();
     Touch();
 }
@@ -199,6 +210,7 @@ void frmChanged::Touch() {
     if (Filling) return;
     stored_ = false;
     cmdAccept.Caption(record_ ? "Accept" : "Next");
+    offer_.Show();
 }
 
 } // namespace vexora

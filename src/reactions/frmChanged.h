@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "entry/SampleList.h"
+#include "entry/StatementMemory.h"
 #include "globals/FormChain.h"
 #include "records/clsQ.h"
 #include "records/clsX.h"
@@ -39,6 +40,8 @@ public:
     ui::ComboBox cboUnit{*this, "cboUnit"};
     ui::Label lblMassOf{*this, "lblMassOf", "per mass of:"};
     ui::ComboBox cboMassOf{*this, "cboMassOf"};
+    ui::Label lblStated{*this, "lblStated"};
+    ui::CommandButton cmdLastUnc{*this, "cmdLastUnc", "Use &last"};
     ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
     ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
     ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainty..."};
@@ -107,6 +110,8 @@ private:
     void StoreValue(clsC& record) const;
     void StoreUnit(clsC& record) const;
     void StoreStatement(clsC& record) const;
+    std::vector<clsX> Statements() const;
+    void TakeStatement(const std::vector<clsX>& items);
 
     std::vector<SampleList> samples_;
     /// Initial ones first.
@@ -121,7 +126,12 @@ private:
     std::string massOf_;           // registry number, "" where it is not said
     std::string solvent_;          // the same of the solvent
     clsX statement_;               // of the value in hand
-    bool stored_ = false;          // nothing has changed since the last store
+    StatementOffer offer_{lblStated, cmdLastUnc, [this] { return Statements(); },
+                          [this](const std::vector<clsX>& items) {
+                              TakeStatement(items);
+                              txtValue.SetFocus();
+                          }};
+    bool stored_ = false; // nothing has changed since the last store
 };
 
 } // namespace vexora

@@ -50,6 +50,7 @@ void frmChanged::Accept() {
     }
     if (!Check()) return;
     Store();
+    offer_.Keep();
     if (record_) {
         Close();
         return;
@@ -57,6 +58,7 @@ void frmChanged::Accept() {
     const ui::FillingScope filling(*this);
     txtValue.Text("");
     statement_ = clsX(); // it was of the value that has been stored
+    offer_.Show();
     SetSet();
     cmdAccept.Caption("Done");
     stored_ = true;

@@ -39,6 +39,7 @@ frmData2::~frmData2() = default;
 void frmData2::ArrangeControls() {
     using namespace ui;
     Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings, Row({chkSup, Stretch()}),
+                          Field("Stated for the set:", Row({lblStated, cmdLastUnc, Stretch()})),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
     PreferredColumns = 130;
     PreferredRows = 40;
@@ -74,6 +75,7 @@ void frmData2::Load() {
     cmdAssign.Enabled(set_ != nullptr && ui::Forms::Current().Knows("frmUnc"));
     cmdSave.Enabled(set_ != nullptr && !isMixed_);
     if (!set_) mnuSystemUnits.Enabled(false);
+    offer_.Show();
     ExplainOnce(FirstRunText);
 }
 

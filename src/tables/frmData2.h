@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "chem/clsProperty.h"
 #include "entry/FractionSums.h"
 #include "entry/RowChecks.h"
+#include "entry/StatementMemory.h"
 #include "grid/TableEditor.h"
 #include "grid/TableMenu.h"
 #include "records/DataSet.h"
@@ -44,6 +46,8 @@ public:
     ui::Label lblNotice{*this, "lblNotice"};
     ui::ListBox lstFindings{*this, "lstFindings"};
     ui::CheckBox chkSup{*this, "chkSup", "Suppress calculation of derivatives"};
+    ui::Label lblStated{*this, "lblStated"};
+    ui::CommandButton cmdLastUnc{*this, "cmdLastUnc", "Use &last"};
     ui::CommandButton cmdView{*this, "cmdView", "View plot"};
     ui::CommandButton cmdAssign{*this, "cmdAssign", "Evaluate Uncertainties"};
     ui::CommandButton cmdClear{*this, "cmdClear", "Clear the Table"};
@@ -114,6 +118,9 @@ private:
     // The statements of the set beside the entries of its rows (frmData2_statements.cpp).
     void Assign();
     bool AssignAccepted();
+    bool AssignBy(const std::function<bool()>& change);
+    void TakeLast(const std::vector<clsX>& items);
+    std::vector<clsX> Statements() const;
     bool MayLoseColumns() const;
     struct Signs {
         OwnSigns own;
@@ -173,6 +180,8 @@ private:
     bool isMixed_ = false;  // rows in units of both kinds, of which those of the paper stay
     bool assigned_ = false; // uncertainties have been looked at
     bool stored_ = false;
+    StatementOffer offer_{lblStated, cmdLastUnc, [this] { return Statements(); },
+                          [this](const std::vector<clsX>& items) { TakeLast(items); }};
     TableColumns columns_;
     OwnSigns ownSigns_;         // columns whose cells are not all per cent, though the
                                 // set says so

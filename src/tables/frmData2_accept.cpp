@@ -177,6 +177,7 @@ void frmData2::Save() {
     TellOfMolarMass();
     if (!assigned_ && !AssignAccepted()) return;
     if (!CheckUnc()) return;
+    offer_.Keep();
     Store();
     Close();
 }

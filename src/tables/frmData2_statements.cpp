@@ -43,11 +43,30 @@ bool frmData2::AssignAccepted() {
     TakeSelectedRow();
     globals.CurrentProperty = chain_;
     const std::string key = std::exchange(globals.CurrentKey, "RLS1");
-    const StatementsOfSet before = set_->UX;
-    const bool accepted = EditStatements(set_->UX);
+    const bool accepted = AssignBy([this] { return EditStatements(set_->UX); });
     globals.CurrentKey = key;
     globals.CurrentMethod = method;
-    if (!accepted) return false;
+    return accepted;
+}
+
+std::vector<clsX> frmData2::Statements() const {
+    return set_ ? std::vector<clsX>(set_->UX.begin(), set_->UX.end()) : std::vector<clsX>();
+}
+
+/// What was last stated for the property, as if it had been entered again.
+void frmData2::TakeLast(const std::vector<clsX>& items) {
+    table_.EndTyping();
+    AssignBy([&] {
+        std::ranges::copy(items, set_->UX.begin());
+        return true;
+    });
+    tblData.SetFocus();
+}
+
+/// `change` works on the statements of the set; false when it was cancelled.
+bool frmData2::AssignBy(const std::function<bool()>& change) {
+    const StatementsOfSet before = set_->UX;
+    if (!change()) return false;
     if (!MayLoseColumns()) {
         set_->UX = before;
         return false;
@@ -82,6 +101,7 @@ void frmData2::UseStatements(const StatementsOfSet& statements) {
     AnalyseCurrentProperty();
     FillHeader();
     table_.Findings().FindAgain();
+    offer_.Show();
 }
 
 /// Entries of rows whose column goes with its statement are not thrown away
