@@ -63,7 +63,7 @@ void frmSample::ArrangeControls() {
                {Field("Source of sample:", lstSmpSrc),
                 Field("Initial purity (if reported)", Row({Narrow(txtSrcPurity, 8), lstSrcPurity})),
                 Field("Determined by", lstSrsDetBy)}),
-         Group(fraFinal, after), ButtonRow({cmdNext, cmdAccept, cmdCancel})});
+         Group(fraFinal, after), ButtonRow({cmdNext, cmdProperty, cmdAccept, cmdCancel})});
     PreferredColumns = 124;
 }
 
@@ -78,6 +78,7 @@ void frmSample::WireEvents() {
         boxes.method.OnClick = [this, &method = boxes.method] { MethodClick(method); };
     }
     cmdNext.OnClick = [this] { Next(); };
+    cmdProperty.OnClick = [this] { GoOnToProperty(); };
     mnuHelpSample.OnClick = [] { ui::TheDesktop().ShowHelp(HelpSample); };
 }
 
@@ -89,6 +90,7 @@ void frmSample::Load() {
     FillCompounds();
     cboSubst.Enabled(!editing_);
     cmdNext.Visible(!editing_);
+    cmdProperty.Visible(!editing_ && !IsGuided() && ui::Forms::Current().Knows("frmProperty"));
     if (editing_) {
         stored_ = CurrentCompoundSample();
         const ui::FillingScope filling(*this);

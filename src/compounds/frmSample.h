@@ -39,6 +39,7 @@ public:
     ui::ControlArray<ui::ComboBox> lstFinalPurity{*this, "lstFinalPurity", finalRows};
     ui::ControlArray<ui::ComboBox> lstFinalDetBy{*this, "lstFinalDetBy", finalRows};
     ui::CommandButton cmdNext{*this, "cmdNext", "Next sample"};
+    ui::CommandButton cmdProperty{*this, "cmdProperty", "Accept, then a property"};
     ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
@@ -88,6 +89,8 @@ private:
     // Accepting (frmSample_accept.cpp).
     void Accept();
     void Next();
+    bool AcceptChanges();
+    void GoOnToProperty();
     void NormalizeNumbers();
     bool Check();
     bool CheckChoices();

@@ -26,12 +26,21 @@ void frmSample::Accept() {
 }
 
 void frmSample::Next() {
-    if (changed_) {
-        NormalizeNumbers();
-        if (!Check() || !Store()) return;
-    }
+    if (!AcceptChanges()) return;
     NewSample();
     lstDescAvail.SetFocus();
+}
+
+bool frmSample::AcceptChanges() {
+    if (!changed_) return true;
+    NormalizeNumbers();
+    return Check() && Store();
+}
+
+void frmSample::GoOnToProperty() {
+    if (!AcceptChanges() || !stored_ || !stored_->tNode) return;
+    const auto sample = stored_; // this form is gone behind its closing
+    GoOn(*this, *sample->tNode, "AddProp");
 }
 
 void frmSample::NormalizeNumbers() {

@@ -10,6 +10,7 @@
 #include "reference/Numbers.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"
+#include "ui/Forms.h"
 
 #include <algorithm>
 #include <utility>
@@ -82,7 +83,7 @@ void frmSubst::ArrangeControls() {
                         Field("PDB Number:", Row({Narrow(txtPDB, 14), lblPDB}))}),
          Field("Search results:", lstNames),
          Field("CAS Registry Number of the entry:", Row({lblRN, cmdUseRN})),
-         ButtonRow({cmdAccept, cmdCancel})});
+         ButtonRow({cmdSample, cmdAccept, cmdCancel})});
     PreferredColumns = 76;
 }
 
@@ -110,6 +111,7 @@ void frmSubst::WireEvents() {
     lstNames.OnGotFocus = [this] { byKey_ = false; };
     lstNames.OnKey = [this](ui::Key& key) { NamesKey(key); };
     cmdUseRN.OnClick = [this] { UseRegistryNumber(); };
+    cmdSample.OnClick = [this] { GoOnToSample(); };
     mnuHelpEnter.OnClick = [] { ui::TheDesktop().ShowHelp(HelpEnter); };
     mnuHelpDisplay.OnClick = [] { ui::TheDesktop().ShowHelp(HelpDisplay); };
     mnuHelpBio.OnClick = [] { ui::TheDesktop().ShowHelp(HelpBio); };
@@ -121,6 +123,7 @@ void frmSubst::Load() {
     editing_ = globals.EditCompound && CurrentCompound() != nullptr;
     forBioData_ = !editing_ && OpenedByBioDialog();
     fraBio.Visible(globals.BioEnabled || forBioData_);
+    cmdSample.Visible(!editing_ && !IsGuided() && ui::Forms::Current().Knows("frmSample"));
     if (editing_) PrepareEdit();
 }
 

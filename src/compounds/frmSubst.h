@@ -37,6 +37,7 @@ public:
     ui::ListBox lstNames{*this, "lstNames"};
     ui::Label lblRN{*this, "lblRN"};
     ui::CommandButton cmdUseRN{*this, "cmdUseRN", "Use this registry number"};
+    ui::CommandButton cmdSample{*this, "cmdSample", "Accept, then its sample"};
     ui::CommandButton cmdAccept{*this, "cmdAccept", "Accept"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
     ui::Label lblDash1{*this, "lblDash1", "-"};
@@ -92,6 +93,7 @@ private:
     // Accepting (frmSubst_accept.cpp).
     void Accept();
     void AcceptNew();
+    void GoOnToSample();
     void OfferItsNumber();
     void AcceptEdit();
     bool IsMended(const clsL& compound) const;
@@ -109,6 +111,7 @@ private:
     void Finish();
     void ClearBoxes();
 
+    std::weak_ptr<clsL> stored_; // the compound accepted last
     bool editing_ = false;
     bool mendable_ = false;   // of the edited compound name and formula are not the database's
     bool forBioData_ = false; // opened by a dialog for bio data

@@ -46,6 +46,14 @@ void frmSubst::AcceptNew() {
     Finish();
 }
 
+/// What stands in the boxes is accepted first; with nothing in them the sample is that of the
+/// compound accepted last.
+void frmSubst::GoOnToSample() {
+    if (changed_) AcceptNew();
+    const auto compound = stored_.lock();
+    if (!changed_ && compound && compound->tNode) GoOn(*this, *compound->tNode, "AddSample");
+}
+
 /// A compound that is as the database gives it should not go under a made-up number by oversight.
 void frmSubst::OfferItsNumber() {
     if (!row_ || offered_ || !HasMadeUpNumber()) return;
@@ -162,6 +170,7 @@ void frmSubst::Store() {
     compound->isNamed = !isNew_ && !known.empty() && known.front().NAME != compound->Name;
     StoreBio(*compound);
     compound->AttachTo(*globals.CurrentR);
+    stored_ = compound;
     globals.Saved = false;
     globals.DialogAccepted = true;
     NoteAccepted();

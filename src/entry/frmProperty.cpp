@@ -1,5 +1,8 @@
 #include "entry/frmProperty.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "chem/clsMethod.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
@@ -103,7 +106,11 @@ void frmProperty::GroupClick() {
     std::vector<std::string> names = {"SELECT THE PROPERTY"};
     // Entry 0 is the prompt.
     const int group = lstPropGroup.Index();
-    if (group > 0) rows_ = OfferedIn(groups_[static_cast<std::size_t>(group - 1)]);
+    if (group > 0)
+        rows_ = OfferedIn(groups_[static_cast<std::size_t>(group - 1)]);
+    else
+        for (const PropertyGroupRow& each : groups_) // who knows the name needs no group
+            std::ranges::move(OfferedIn(each), std::back_inserter(rows_));
     for (const PropertyRow& row : rows_)
         names.push_back(row.Property);
     lstProp.FirstIsPrompt = true;
@@ -112,12 +119,15 @@ void frmProperty::GroupClick() {
 }
 
 void frmProperty::PropertyClick() {
+    if (lstMethod.Index() >= 0) methodBefore_ = lstMethod.Chosen();
     lstConv.Clear();
     lstMethod.Clear();
     methods_.clear();
     if (const PropertyRow* row = Chosen()) {
         FillUnits(*row);
         FillMethods(*row);
+        // One method of a paper mostly gave several properties.
+        if (!Filling) lstMethod.Choose(methodBefore_);
     }
     NoteList();
     MethodClick();

@@ -115,6 +115,7 @@ private:
     double factor_ = 0;                     // of the own unit in lstConv, 0 when there is none
     int unitBefore_ = -1;                   // the unit to go back to when no factor is given
     std::string tagsProperty_, tagsMethod_; // property and method that KeyRest belongs to
+    std::string methodBefore_;              // that was chosen for the property before
     bool inChain_ = false;
     bool accepted_ = false;
     Before before_;

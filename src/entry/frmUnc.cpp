@@ -97,6 +97,8 @@ void frmUnc::WireEvents() {
         WireFrame(i);
     for (ui::CheckBox* box : {&chkComb, &chkCD})
         box->OnClick = [this] { UseBlocks(); };
+    for (ui::TextBox* box : {&txtCUValue, &txtRMS})
+        box->OnLostFocus = [this] { TakeSigns(); };
     WirePrompt(cboCUType);
     cmdLast.OnClick = [this] { GoToPage(page_ - 1); };
     cmdNext.OnClick = [this] { GoToPage(page_ + 1); };
@@ -108,6 +110,8 @@ void frmUnc::WireEvents() {
 void frmUnc::WireFrame(int i) {
     for (ui::CheckBox* box : {&chkDS(i), &chkRep(i), &chkUnc(i), &chkDSPerCent(i)})
         box->OnClick = [this] { UseBlocks(); };
+    for (ui::TextBox* box : {&txtDSValue(i), &txtRValue(i), &txtUValue(i)})
+        box->OnLostFocus = [this] { TakeSigns(); };
     WirePrompt(cboRType(i));
 }
 

@@ -103,6 +103,7 @@ private:
     bool IsCalibrated(int i) const;
 
     // Evaluating and accepting (frmUnc_accept.cpp).
+    void TakeSigns();
     bool CheckEntries();
     bool CheckFrame(int i);
     bool CheckPage();

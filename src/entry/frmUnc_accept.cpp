@@ -7,6 +7,7 @@
 #include "entry/ValueQuestions.h"
 #include "globals/KVOGlobal.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 
@@ -51,7 +52,30 @@ bool frmUnc::CheckRepetitions(ui::TextBox& box) {
     return true;
 }
 
+namespace {
+
+/// The sign of per cent may be typed behind the figure.
+void TakeSign(ui::TextBox& box, ui::CheckBox& perCent) {
+    const std::string_view text = TrimBlanks(box.Text());
+    if (!box.Enabled() || !text.ends_with('%')) return;
+    box.Text(std::string(TrimBlanks(text.substr(0, text.size() - 1))));
+    perCent.Value(true);
+}
+
+} // namespace
+
+void frmUnc::TakeSigns() {
+    for (int i = 0; i < frameCount; ++i) {
+        TakeSign(txtUValue(i), chkUPerCent(i));
+        TakeSign(txtDSValue(i), chkDSPerCent(i));
+        TakeSign(txtRValue(i), chkRPerCent(i));
+    }
+    TakeSign(txtCUValue, chkCUPerCent);
+    TakeSign(txtRMS, chkRMSPerCent);
+}
+
 bool frmUnc::CheckEntries() {
+    TakeSigns();
     if (!CheckValue(txtCUValue) || !CheckLevel(txtCULevel) || !CheckValue(txtRMS)) return false;
     if (txtCalibrError.Enabled()) {
         txtCalibrError.Text(NormalizeNumber(txtCalibrError.Text()));

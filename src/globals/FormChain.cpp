@@ -28,6 +28,14 @@ void LeadOnAndWait(std::string_view opener, std::string_view next) {
     if (ui::Form* form = ui::Forms::Current().Find(opener)) form->Hide();
 }
 
+void GoOn(ui::Form& dialog, ui::TreeNode& node, std::string_view button) {
+    if (!dialog.Close()) return;
+    ui::Form* const shell = ui::Forms::Current().Find("frmMain");
+    if (!shell || !Globals().tvwTree) return;
+    Globals().tvwTree->UserNodeClick(node);
+    if (ui::Control* const next = shell->Find(button)) next->UserClick();
+}
+
 void CloseForm() {
     KVOGlobal& globals = Globals();
     if (globals.OpenForms.empty() || globals.IsEditingInPlace()) return;

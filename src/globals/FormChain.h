@@ -19,6 +19,10 @@ void LeadOn(std::string_view opener, std::string_view next);
 /// The same from a form that the user may want to come back to: it hides in both modes.
 void LeadOnAndWait(std::string_view opener, std::string_view next);
 
+/// A dialog whose record is in the document makes room for the next one on the road: it closes, the
+/// node is selected and the button of the main form pressed, as a person would.
+void GoOn(ui::Form& dialog, ui::TreeNode& node, std::string_view button);
+
 /// The closing step of a dialog in the chain; called from its Unload. It does nothing while a
 /// record is edited in place. An opener that has hidden is shown again. When the chain becomes
 /// empty the main form runs its activation step.

@@ -3,9 +3,12 @@
 #include <utility>
 
 #include "chem/clsMethod.h"
+#include "entry/CodeLists.h"
 #include "entry/PropertyContext.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsTwo.h"
+#include "reference/KVODefinitions.h"
+#include "reference/Vocabulary.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -35,7 +38,8 @@ void frmTwo::ArrangeControls() {
                      Field("Reference phase:", lstREF_PHASE)})}),
          Group(fraPresentation,
                {Field("Numerical:", lstNumerical), Row({chkCalc, chkEqu, chkGraph})}),
-         chkIncludeDigit, Field("Comment:", txtComment), ButtonRow({cmdMethod, cmdOK, cmdFinish})});
+         chkIncludeDigit, Field("Comment:", txtComment),
+         ButtonRow({cmdMethod, cmdAsLast, cmdOK, cmdFinish})});
     PreferredColumns = 100;
 }
 
@@ -50,6 +54,7 @@ void frmTwo::WireEvents() {
     lstNumerical.OnClick = [this] { NumericalClick(); };
     chkIncludeDigit.OnClick = [this] { ShowDigits(); };
     cmdMethod.OnClick = [this] { Method(); };
+    cmdAsLast.OnClick = [this] { AsLast(); };
 }
 
 void frmTwo::Load() {
@@ -78,6 +83,7 @@ void frmTwo::Load() {
     }
     cmdMethod.Enabled(ui::Forms::Current().Knows("frmProperty"));
     ShowCaption();
+    OfferLast();
     if (record_) cboVar1.SetFocus(); // compound and sample are closed, the number is no input
     if (row_.Property == row_.Code) ui::Say("Property Code Error");
 }
@@ -124,7 +130,31 @@ void frmTwo::Method() {
     } else {
         ShowProperty();
     }
+    OfferLast();
     ShowCaption();
+}
+
+/// What sets of one paper mostly have in common, taken over to be looked at.
+void frmTwo::AsLast() {
+    const auto last = LastSet();
+    if (!last) return;
+    {
+        const ui::FillingScope filling(*this);
+        ShowVariables(*last);
+        ChooseCode(lstCONSTRAINT, ConstraintKinds, last->CONSTRAINT);
+        for (ui::ComboBox* list : {&lstPhase1, &lstPhase2}) {
+            list->Index(0);
+            ShowPhases(); // of those that this property may have
+            list->Choose(PhaseName(list == &lstPhase1 ? last->PHASE1 : last->PHASE2));
+        }
+        ShowPhases();
+        ShowPresentation(*last);
+    }
+    NumericalClick();
+    ShowVar3();
+    ShowCaption();
+    ProposeSetNumber();
+    cmdOK.SetFocus();
 }
 
 } // namespace vexora

@@ -53,6 +53,7 @@ public:
     ui::CheckBox chkIncludeDigit{*this, "chkIncludeDigit", "Store number of significant digits"};
     ui::TextBox txtComment{*this, "txtComment", ui::TextBox::Lines::Many};
     ui::CommandButton cmdMethod{*this, "cmdMethod", "Property and method"};
+    ui::CommandButton cmdAsLast{*this, "cmdAsLast", "As the last set"};
     ui::CommandButton cmdOK{*this, "cmdOK", "Numerical Data"};
     ui::CommandButton cmdFinish{*this, "cmdFinish", "Cancel"};
 
@@ -67,6 +68,7 @@ private:
     void PhaseClick();
     void NumericalClick();
     void Method();
+    void AsLast();
 
     // What stands on the form (frmTwo_fill.cpp).
     void FillLists();
@@ -81,6 +83,8 @@ private:
     void ShowDefinition();
     void PreSet();
     void ProposeSetNumber();
+    void OfferLast();
+    std::shared_ptr<const clsTwo> LastSet() const;
     void ShowRecord(const clsTwo& record);
     void ShowVariables(const clsTwo& record);
     std::string UnitShown(const clsTwo& record, int n) const;

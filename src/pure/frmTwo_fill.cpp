@@ -56,6 +56,7 @@ void frmTwo::ShowProperty() {
     OfferVariables(cboVar2);
     PreSet();
     ProposeSetNumber();
+    OfferLast();
 }
 
 void frmTwo::ShowCaption() {
@@ -155,6 +156,10 @@ void frmTwo::PreSet() {
     ShowDefinition();
     ShowVar3();
     ShowDigits();
+    // The method has said already how the numbers came about.
+    const auto& method = Globals().CurrentMethod;
+    if (lstNumerical.Index() < 0 && method && method->Method == "CALCEOS")
+        ChooseCode(lstNumerical, Presentation::Kinds(), "C");
 }
 
 /// The number of a set that keeps its property does not change.
@@ -168,6 +173,29 @@ void frmTwo::ProposeSetNumber() {
         txtPrpSetNo.Text(record_->PRPSETNO);
     else
         txtPrpSetNo.Text(std::to_string(sample->NextTwoNumber(code, draft.nVar)));
+}
+
+/// The set of the sample that was entered last with as many variables, when all its variables can
+/// be variables here.
+std::shared_ptr<const clsTwo> frmTwo::LastSet() const {
+    const auto sample = choice_.Sample();
+    if (!sample || as_) return nullptr;
+    std::shared_ptr<const clsTwo> last;
+    for (const auto& set : sample->recTwo)
+        if (set->nVar == Globals().VariableCount) last = set;
+    for (int n = 1; last && n <= last->nVar; ++n)
+        if (std::ranges::find(variables_, last->VARIABLE(n), &VariableRow::IndVarCode) ==
+            variables_.end())
+            return nullptr;
+    return last;
+}
+
+void frmTwo::OfferLast() {
+    const auto last = LastSet();
+    cmdAsLast.Visible(last != nullptr);
+    if (last)
+        cmdAsLast.ToolTip("Variables, constraint, phases and presentation as in " +
+                          last->ShowKey());
 }
 
 void frmTwo::ShowRecord(const clsTwo& record) {

@@ -64,6 +64,40 @@ TEST(Examples, LeaveTheFilesThatAreExpected) {
     }
 }
 
+/// What a person does of a script: presses, clicks, choices, entries, answers and chosen files.
+/// What is copied elsewhere, and what is only looked at, is none of it.
+std::size_t ActionsIn(const std::string& script) {
+    static const std::set<std::string> actions = {
+        "click", "dblclick", "set",     "type",    "key",   "choose", "select", "check",
+        "tab",   "node",     "dblnode", "keynode", "cell",  "cells",  "block",  "drag",
+        "hover", "drop",     "close",   "answer",  "input", "file",   "quit"};
+    std::istringstream lines(script);
+    std::size_t count = 0;
+    std::string end; // of a block that is passed over
+    for (std::string line; std::getline(lines, line);) {
+        if (!end.empty()) {
+            if (line == end) end.clear();
+            continue;
+        }
+        count += actions.count(line.substr(0, line.find(' ')));
+        if (const auto at = line.rfind(" <<"); at != line.npos) end = line.substr(at + 3);
+    }
+    return count;
+}
+
+// The first count stands for how it was done before forms led on and remembered.
+TEST(Examples, OfWaterIsMadeWithHalfTheHands) {
+    const std::string folder = VEXORA_SOURCE_DIR "/examples/water/";
+    const SessionPlay play = PlaySession(folder + "water_short.vxs");
+    ASSERT_EQ(play.status, 0) << play.errors;
+    EXPECT_EQ(play.files.at(Water.records + ".txt"), RecordsOf(Water));
+    const std::size_t all = ActionsIn(Content("/examples/water/water.vxs"));
+    const std::size_t few = ActionsIn(Content("/examples/water/water_short.vxs"));
+    std::cout << "The example of water takes " << few << " actions, step by step " << all << "\n";
+    EXPECT_GT(all, 160U);
+    EXPECT_LE(few, 90U);
+}
+
 TEST(Examples, OfMixturesDoNotChangeByAnotherLoadAndSave) {
     const SessionPlay play =
         PlaySession(VEXORA_SOURCE_DIR "/tests/sessions/mixtures/from_papers_to_file.vxs");
