@@ -47,7 +47,9 @@ ui::TreeView* FormWindow::DropTarget() const {
 }
 
 void FormWindow::OpenDropped(const std::string& path) {
-    if (ui::TreeView* target = DropTarget()) Perform([&] { target->UserDrop(path); });
+    Perform([&] {
+        if (ui::TreeView* target = DropTarget()) target->UserDrop(path);
+    });
 }
 
 void FormWindow::DrawTitle() {

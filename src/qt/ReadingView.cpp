@@ -51,7 +51,8 @@ bool ReadingView::HasLinkAhead(bool backwards) const {
 
 /// Who comes back begins with the first link again.
 bool ReadingView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut && watched == own_) {
+    const bool isLeft = event->type() == QEvent::FocusOut && watched == own_;
+    if (isLeft && !Window().IsDetached()) { // the document may have gone before its window
         QTextCursor cursor = own_->textCursor();
         cursor.clearSelection();
         const bool isGreeting = !document_.WelcomePage({}).empty();

@@ -19,8 +19,8 @@ void TreeRows::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& 
         option->features |= QStyleOptionViewItem::HasDecoration;
     }
     if (!isSelected) return;
-    // The tree has drawn the ground of the whole line already.
-    option->state.setFlag(QStyle::State_Selected, false);
+    // The tree has drawn the ground of the whole line already, and a frame around itself.
+    option->state &= ~(QStyle::State_Selected | QStyle::State_HasFocus);
     option->palette.setColor(QPalette::Text, option->palette.color(QPalette::HighlightedText));
 }
 

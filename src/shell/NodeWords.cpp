@@ -110,23 +110,26 @@ const ByClass<Looks>& LooksOfKinds() {
     static const auto as = [](const Looks& looks) {
         return [looks](const Record&) { return looks; };
     };
-    static const auto kinds = ByClass<Looks>()
-                                  .On<clsR>(as({"source", NoTip}))
-                                  .On<clsL>(as({"compound", TipAs<clsL, TipOfCompound>}))
-                                  .On<clsS>(as({"sample", NoTip}))
-                                  .On<clsZ>(as({"value", TipAs<clsZ, TipOfZ>}))
-                                  .On<clsTwo>(as({"set", TipAs<DataSet, TipOfSet>}))
-                                  .On<clsM>(as({"mixture", NoTip}))
-                                  .On<clsMZ>(as({"value", TipAs<clsMZ, TipOfMZ>}))
-                                  .On<clsMV>(as({"set", TipAs<DataSet, TipOfSet>}))
-                                  .On<clsQ>(as({"reaction", NoTip}))
-                                  .On<clsC>(as({"value", TipAs<clsC, TipOfC>}))
-                                  .On<clsE>(as({"set", TipAs<DataSet, TipOfSet>}))
-                                  .On<clsBR>(as({"bio", TipAs<BioSet, TipOfBioSet>}))
-                                  .On<clsBP>(as({"bio", TipAs<BioSet, TipOfBioSet>}))
-                                  .On<clsComplex>(as({"complex", NoTip}))
-                                  .On<clsComplexSample>(as({"sample", NoTip}))
-                                  .On<clsCrS>(as({"structure", NoTip}));
+    static const auto kinds =
+        ByClass<Looks>()
+            .On<clsR>(as({"source", NoTip}))
+            .On<clsL>(as({"compound", TipAs<clsL, TipOfCompound>}))
+            .On<clsS>(as({"sample", NoTip}))
+            .On<clsZ>(as({"value", TipAs<clsZ, TipOfZ>}))
+            .On<clsTwo>(as({"set", TipAs<DataSet, TipOfSet>}))
+            .On<clsM>(as({"mixture", NoTip}))
+            .On<clsMZ>(as({"value", TipAs<clsMZ, TipOfMZ>}))
+            .On<clsMV>(as({"set", TipAs<DataSet, TipOfSet>}))
+            .On<clsQ>(as({"reaction", NoTip}))
+            .On<clsC>(as({"value", TipAs<clsC, TipOfC>}))
+            .On<clsE>(as({"set", TipAs<DataSet, TipOfSet>}))
+            .On<clsBR>(as({"bio", TipAs<BioSet, TipOfBioSet>}))
+            .On<clsBP>([](const clsBP& one) {
+                return Looks{one.PrpType == "G" ? "set" : "bio", TipAs<BioSet, TipOfBioSet>};
+            })
+            .On<clsComplex>(as({"complex", NoTip}))
+            .On<clsComplexSample>(as({"sample", NoTip}))
+            .On<clsCrS>(as({"structure", NoTip}));
     return kinds;
 }
 

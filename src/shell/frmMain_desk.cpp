@@ -55,7 +55,7 @@ std::string frmMain::NewNodeText() const {
     std::u32string label = ui::ToPoints(node->Text());
     if (label.size() > most) label.replace(most, label.npos, U"...");
     const std::string text = " - new: " + ui::FromPoints(label);
-    return next.empty() ? text : text + ", next " + next;
+    return next.empty() ? text : text + ", then " + next;
 }
 
 std::string frmMain::WelcomePage(const std::vector<std::string>& recent) const {
@@ -84,6 +84,7 @@ void frmMain::OpenCopy(const std::string& path) {
         copyOf_ = SplitPath(path).Title;
         SelectRoot();
         SelectBy(true);
+        tvwTree.SetFocus();
     }
     Activate();
 }
@@ -102,7 +103,8 @@ void frmMain::GoToPane(bool backwards) {
 
 /// A dead control says why; the tip of a live one says what it does.
 void frmMain::TellWhy() {
-    const bool reachedByKey = tvwTree.SelectedNode() != nullptr && !HasClickedNode();
+    const ui::TreeNode* node = tvwTree.SelectedNode();
+    const bool reachedByKey = node != nullptr && !node->Hidden() && !MouseSelected;
     for (ui::ToolButton* button : Toolbar1.Buttons())
         button->WhyDisabled(WhyNotOffered(button->Name(), reachedByKey));
     const std::string next(NextButton());

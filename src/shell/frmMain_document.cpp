@@ -201,6 +201,7 @@ void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
     SelectRoot();
     SelectBy(true);
+    tvwTree.SetFocus();
 }
 
 /// Reads while the present document is put aside. Of a read that cannot go on nothing stays.
@@ -277,7 +278,9 @@ bool frmMain::WriteDocument() {
     const auto text = Printed(DocumentAsRecords, outcome.fault); // may be stopped, but no later
     // Printing may ask, and meanwhile the file may change; so it is looked at last of all.
     if (text && known_.IsChanged(ui::TheDesktop().Files(), FileName)) {
+        askedAbout_ = DocumentName();
         const ui::Answer answer = AskAboutChange();
+        askedAbout_.clear();
         if (answer != ui::Answer::Yes) return LeaveFile(answer == ui::Answer::No);
     }
     if (text) outcome = WriteText(FileName, *text, true);

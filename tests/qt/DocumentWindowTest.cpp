@@ -140,6 +140,22 @@ TEST_F(DocumentWindow, TabAndEnterFollowTheLinksOfTheGreeting) {
     EXPECT_EQ(Page(), "Start or Help");
 }
 
+TEST_F(DocumentWindow, TheReadingPaneOutlivesItsForm) {
+    auto other = std::make_unique<ui::Forms>(desktop_);
+    other->Register<frmDesk>("frmDesk");
+    Windows windows;
+    windows.Follow();
+    auto& form = other->Get<frmDesk>("frmDesk");
+    form.Show();
+    form.rtfReading.SetFocus();
+    windows.Flush();
+    QCoreApplication::processEvents();
+    const QPointer<QWidget> pane(windows.WindowOf(form)->ViewFor(form.rtfReading)->Widget());
+    ASSERT_TRUE(pane->hasFocus());
+    other.reset();
+    EXPECT_TRUE(pane.isNull() || !pane->isVisible());
+}
+
 TEST_F(DocumentWindow, RecentDocumentsAreThoseOpenedOrSavedThatCanBeRead) {
     QStringList paths;
     for (const char* name : {"a.txt", "b.txt", "c.txt"}) {

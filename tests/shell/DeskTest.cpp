@@ -3,8 +3,11 @@
 #include "shell/NextStep.h"
 #include "shell/NodeWords.h"
 #include "shell/ShellFixture.h"
+#include "shell/WelcomePage.h"
 
 #include "records/Walk.h"
+
+#include <set>
 
 namespace vexora::test {
 
@@ -80,6 +83,19 @@ TEST_F(DeskTest, AnExampleOpensAsACopyThatNeverGoesOverIt) {
     Shell().tvwTree.UserDrop("/none.txt");
     Shell().tvwTree.UserDrop(own);
     EXPECT_EQ(taken, "mine.txt; not /none.txt; paper.txt; ");
+}
+
+TEST_F(DeskTest, TheListOfExamplesNamesEachDocument) {
+    ASSERT_TRUE(Start());
+    Globals().InstalledFolder = VEXORA_SOURCE_DIR;
+    std::set<std::string> listed, present{VEXORA_SOURCE_DIR "/examples/contents.txt"};
+    for (const ExampleDocument& example : InstalledExamples())
+        listed.insert(example.path);
+    listed.insert(VEXORA_SOURCE_DIR "/examples/contents.txt");
+    for (const auto& entry :
+         std::filesystem::recursive_directory_iterator(VEXORA_SOURCE_DIR "/examples"))
+        if (entry.path().extension() == ".txt") present.insert(entry.path().string());
+    EXPECT_EQ(listed, present);
 }
 
 TEST_F(DeskTest, TipsSayInWordsWhatLabelsSayInShort) {
