@@ -8,6 +8,7 @@
 #include "records/PropertyChain.h"
 #include "records/RowMasses.h"
 #include "reference/Numbers.h"
+#include "reference/Text.h"
 
 namespace vexora {
 
@@ -85,6 +86,13 @@ void NameColumns(PlotTable& table, const std::vector<Quantity>& quantities) {
         const std::string name = one.name + (one.unit.empty() ? "" : " (" + one.unit + ")");
         (one.isProperty ? table.YName : table.VarNames[static_cast<std::size_t>(one.item - 1)]) =
             name;
+    }
+}
+
+void NameSystem(PlotTable& first, const std::string& system, const std::string& setNumber) {
+    for (PlotTable* one = &first; one != nullptr; one = one->Next.get()) {
+        one->System = system;
+        one->SetNumber = IsBlankField(setNumber) ? std::string() : setNumber;
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "entry/PhasePlot.h"
@@ -9,6 +10,9 @@ namespace vexora {
 
 /// Names and units of the quantities as captions. A table without variables counts its points.
 void NameColumns(PlotTable& table, const std::vector<Quantity>& quantities);
+
+/// Tells each picture from here on what it is of.
+void NameSystem(PlotTable& first, const std::string& system, const std::string& setNumber);
 
 /// The pictures of a table, one leading to the next: what a mixture shows with the other sets of
 /// its system comes before `own`, the plot of its own columns. The hand's table is `own`, which

@@ -2,16 +2,20 @@
 
 #include <stdexcept>
 
+#include "globals/Sitting.h"
+
 namespace vexora {
 
 namespace {
 
 KVOGlobal* present = nullptr;
+Sitting sitting;
 
 } // namespace
 
 KVOGlobal::KVOGlobal() {
     present = this;
+    sitting = {};
     UseDatabases(&Databases);
 }
 
@@ -45,6 +49,10 @@ bool KVOGlobal::IsEditingInPlace() const {
     return EditCompound || EditSample || EditSingle || EditTwo || EditMixtSingle || EditMixtVar ||
            EditReaction || EditChanged || EditEquilibrium || EditBioReact || EditBioProp ||
            EditCrystal || EditComplex || EditComplexSample;
+}
+
+Sitting& TheSitting() {
+    return sitting;
 }
 
 KVOGlobal& Globals() {

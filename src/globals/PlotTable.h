@@ -33,6 +33,9 @@ struct PlotTable {
     std::array<double, 9> Whole{};      // of a column of fractions: 1, 100 for per cent; 0 for none
     std::array<std::string, 3> Corners; // names of the components, for a triangle
     std::string Title;                  // what a triangle shows: "Mass fraction, 291.15 K"
+    // What the picture is of, for its heading and its file: "Ethanol + Water", and the number of
+    // the set; empty where it is of none.
+    std::string System, SetNumber;
     /// A value of a pure component, as a row of its own with the component's name.
     struct End {
         Row at{};
@@ -92,8 +95,9 @@ struct ColumnsToPlot {
         std::vector<double> uncertainties; // likewise, 0 for none
     };
     std::vector<Column> columns;
-    std::vector<int> rows;   // of the dialog's table
-    std::vector<bool> isFar; // to be looked at again
+    std::string System, SetNumber; // as in PlotTable
+    std::vector<int> rows;         // of the dialog's table
+    std::vector<bool> isFar;       // to be looked at again
     // Set by the plot, as in PlotTable.
     int ChosenRow = 0, ChosenColumn = -1;
 };

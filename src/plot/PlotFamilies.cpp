@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "plot/PlotScale.h"
+#include "reference/Text.h"
 
 namespace vexora {
 
@@ -19,16 +20,36 @@ bool IsOnAxis(const PlotTable& table, int column, int xVar) {
     return table.IsTriangle() ? column <= 2 : column == xVar;
 }
 
-bool Agree(const PlotTable& table, const PlotTable::Row& point, const PlotTable::Row& other,
-           int xVar, double tolerance) {
+/// A variable that tells curves apart, and by how much.
+struct Divider {
+    std::size_t column;
+    double tolerance;
+    double shift; // to an absolute value
+};
+
+std::vector<Divider> DividersOf(const PlotTable& table, int xVar,
+                                const CurveTolerances& tolerances) {
+    std::vector<Divider> dividers;
     for (int n = 1; n <= table.nVar; ++n) {
         if (IsOnAxis(table, n, xVar)) continue;
-        const double a = point[static_cast<std::size_t>(n)];
-        const double b = other[static_cast<std::size_t>(n)];
-        const double difference = b == 0 ? std::abs(a) / 2 : std::abs(a - b) / std::abs(b);
-        if (difference >= tolerance) return false;
+        const std::string name = LowerAscii(table.NameOf(n));
+        const bool isPressure = name.find("pressure") != name.npos;
+        const bool isTemperature = name.find("temperature") != name.npos;
+        dividers.push_back({static_cast<std::size_t>(n),
+                            isPressure ? tolerances.pressure : tolerances.other,
+                            isTemperature ? ShiftOf(table.NameOf(n)) : 0});
     }
-    return true;
+    return dividers;
+}
+
+bool Agree(const std::vector<Divider>& dividers, const PlotTable::Row& point,
+           const PlotTable::Row& other) {
+    return std::ranges::all_of(dividers, [&](const Divider& one) {
+        const double a = point[one.column] + one.shift;
+        const double b = other[one.column] + one.shift;
+        const double difference = b == 0 ? std::abs(a) / 2 : std::abs(a - b) / std::abs(b);
+        return difference < one.tolerance;
+    });
 }
 
 } // namespace
@@ -106,8 +127,9 @@ std::vector<double> ClassBounds(const PlotTable& table) {
     return table.PointTable.empty() ? std::vector<double>() : Ticks(min, max);
 }
 
-PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance) {
+PlotFamilies FamiliesOf(const PlotTable& table, int xVar, const CurveTolerances& tolerances) {
     if (table.IsTriangle() && !table.YName.empty()) return Classes(table);
+    const std::vector<Divider> dividers = DividersOf(table, xVar, tolerances);
     PlotFamilies families;
     families.GroupOf.resize(table.PointTable.size());
     for (const int point : BySeries(table)) {
@@ -116,7 +138,7 @@ PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance) {
             const auto other =
                 static_cast<std::size_t>(families.GroupRows[static_cast<std::size_t>(group)]);
             return table.PointSeries[at] == table.PointSeries[other] &&
-                   Agree(table, table.PointTable[at], table.PointTable[other], xVar, tolerance);
+                   Agree(dividers, table.PointTable[at], table.PointTable[other]);
         };
         int group = static_cast<int>(families.GroupRows.size()) - 1;
         while (group >= 0 && !agrees(group))
@@ -126,6 +148,28 @@ PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance) {
         families.GroupOf[at] = group >= 0 ? group : static_cast<int>(families.GroupRows.size()) - 1;
     }
     return families;
+}
+
+std::vector<int> FamiliesByValue(const PlotTable& table, int xVar, const PlotFamilies& families) {
+    std::vector<int> order(families.GroupRows.size());
+    std::iota(order.begin(), order.end(), 0);
+    const bool areClasses = table.IsTriangle() && !table.YName.empty();
+    const auto before = [&](int one, int other) {
+        const auto a = static_cast<std::size_t>(families.GroupRows[static_cast<std::size_t>(one)]);
+        const auto b =
+            static_cast<std::size_t>(families.GroupRows[static_cast<std::size_t>(other)]);
+        const PlotTable::Row &first = table.PointTable[a], &second = table.PointTable[b];
+        if (areClasses) return first[0] < second[0];
+        if (table.PointSeries[a] != table.PointSeries[b])
+            return table.PointSeries[a] < table.PointSeries[b];
+        for (int n = 1; n <= table.nVar; ++n) {
+            const auto at = static_cast<std::size_t>(n);
+            if (!IsOnAxis(table, n, xVar) && first[at] != second[at]) return first[at] < second[at];
+        }
+        return false;
+    };
+    std::stable_sort(order.begin(), order.end(), before);
+    return order;
 }
 
 } // namespace vexora

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "globals/PlotTable.h"
+#include "globals/Sitting.h"
 
 namespace vexora {
 
@@ -20,13 +21,14 @@ struct PlotFamilies {
     std::vector<int> GroupRows; // the point that stands for each group
 };
 
-/// The part by which families are told apart at first.
-inline constexpr double UsualTolerance = 0.001;
+/// Two values agree when they differ by less than the part of the value already there that is
+/// allowed for its quantity, which the caption of the variable tells; against 0, half of the value
+/// counts as the difference. Temperatures of any unit are compared as absolute ones. Points of
+/// different series never agree. After 1000 groups all others share the last one.
+PlotFamilies FamiliesOf(const PlotTable& table, int xVar, const CurveTolerances& tolerances);
 
-/// Two values agree when they differ by less than this part of the value already there; against 0,
-/// half of the value counts as the difference. Points of different series never do. After 1000
-/// groups all others share the last one.
-PlotFamilies FamiliesOf(const PlotTable& table, int xVar, double tolerance);
+/// The families by series, then by the values that they share, as a legend lists them.
+std::vector<int> FamiliesByValue(const PlotTable& table, int xVar, const PlotFamilies& families);
 
 /// The round values between the classes of column 0, in rising order.
 std::vector<double> ClassBounds(const PlotTable& table);

@@ -40,8 +40,9 @@ std::string ClassText(const Plot& plot, double value) {
     return above == bounds.end() ? "from " + from : from + " to " + NumberText(*above);
 }
 
-std::string LegendText(const Plot& plot, std::size_t group) {
-    const auto point = static_cast<std::size_t>(plot.families.GroupRows[group]);
+std::string LegendText(const Plot& plot, int group) {
+    const auto point =
+        static_cast<std::size_t>(plot.families.GroupRows[static_cast<std::size_t>(group)]);
     const PlotTable::Row& row = plot.table.PointTable[point];
     if (plot.table.IsTriangle() && !plot.table.YName.empty()) return ClassText(plot, row[0]);
     std::string text;
@@ -63,28 +64,29 @@ bool HasLegend(const Plot& plot) {
 
 double LegendWidth(const Plot& plot) {
     if (!HasLegend(plot)) return 0;
-    const std::size_t groups = plot.families.GroupRows.size();
-    std::size_t longest = MoreText(groups - std::min(groups, MostLines)).size();
-    for (std::size_t group = 0; group < std::min(groups, MostLines); ++group)
-        longest = std::max(longest, LegendText(plot, group).size());
+    const std::vector<int> order = FamiliesByValue(plot.table, plot.xVar, plot.families);
+    const std::size_t shown = std::min(order.size(), MostLines);
+    std::size_t longest = MoreText(order.size() - shown).size();
+    for (std::size_t line = 0; line < shown; ++line)
+        longest = std::max(longest, LegendText(plot, order[line]).size());
     return std::min({45 + CharacterWidth * static_cast<double>(longest), Widest,
                      LargestShare * plot.size.width});
 }
 
 void DrawLegend(PlotStrokes& strokes, const Plot& plot, PlotPlace place, double bottom) {
-    const std::size_t groups = plot.families.GroupRows.size();
+    const std::vector<int> order = FamiliesByValue(plot.table, plot.xVar, plot.families);
     const auto room = static_cast<std::size_t>((bottom - place.y) / LegendLine) - 1;
-    const std::size_t shown = std::min({groups, MostLines, room});
+    const std::size_t shown = std::min({order.size(), MostLines, room});
     const std::string head = OthersText(plot, nullptr);
     if (!head.empty())
         strokes.push_back(
             PlotLabel({plot.size.width - 10, place.y - LineHeight - 6}, head, Align::Right));
-    for (std::size_t group = 0; group < shown; ++group, place.y += LegendLine) {
-        strokes.push_back(PlotMarker({place.x, place.y + TextMiddle}, static_cast<int>(group)));
+    for (std::size_t line = 0; line < shown; ++line, place.y += LegendLine) {
+        strokes.push_back(PlotMarker({place.x, place.y + TextMiddle}, order[line]));
         strokes.push_back(
-            PlotLabel({place.x + TextIndent, place.y}, LegendText(plot, group), Align::Left));
+            PlotLabel({place.x + TextIndent, place.y}, LegendText(plot, order[line]), Align::Left));
     }
-    const std::string more = MoreText(groups - shown);
+    const std::string more = MoreText(order.size() - shown);
     if (!more.empty())
         strokes.push_back(PlotLabel({place.x + TextIndent, place.y}, more, Align::Left));
 }

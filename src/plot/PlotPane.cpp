@@ -3,8 +3,11 @@
 #include <cmath>
 #include <utility>
 
-#include "entry/PictureSvg.h"
+#include "plot/PictureSvg.h"
+#include "plot/PlotName.h"
 #include "plot/PlotPoint.h"
+#include "reference/Numbers.h"
+#include "reference/Text.h"
 #include "ui/Desktop.h"
 
 namespace vexora {
@@ -19,6 +22,11 @@ constexpr const char* NoPoints = "There are no points to draw";
 constexpr const char* NoLogarithm =
     "Nothing to draw: 1/X and ln Y need an absolute temperature and "
     "a value above 0";
+constexpr double PerCent = 100;
+
+std::string PartText(double part) {
+    return NumberText(part * PerCent);
+}
 
 } // namespace
 
@@ -26,6 +34,8 @@ PlotPane::PlotPane(ui::Form& form, const PlotControls& controls, const PlotMenu&
     : form_(form), controls_(controls), table_(std::make_shared<PlotTable>()) {
     WirePicture();
     WireMenu(menu);
+    for (ui::TextBox* field : {&controls_.pressures, &controls_.others})
+        field->OnLostFocus = [this] { TakeTolerances(); };
 }
 
 void PlotPane::WirePicture() {
@@ -42,8 +52,8 @@ void PlotPane::WireMenu(const PlotMenu& menu) {
     menu.print.OnClick = [this] {
         ui::TheDesktop().PrintPicture(form_.Caption(), controls_.picture);
     };
-    menu.merge.OnClick = [this] { ChangeTolerance(2); };
-    menu.split.OnClick = [this] { ChangeTolerance(0.5); };
+    menu.merge.OnClick = [this] { ScaleTolerances(2); };
+    menu.split.OnClick = [this] { ScaleTolerances(0.5); };
     menu.identify.Checked(identifies_);
     menu.identify.OnClick = [this, &identify = menu.identify] {
         identifies_ = !identifies_;
@@ -63,7 +73,8 @@ void PlotPane::Show(std::shared_ptr<PlotTable> table, int xVar, bool hasLog) {
     controls_.picture.KeepsShape(table_->IsTriangle());
     Arrange(*table_, xVar_);
     scale_.Ranges(*table_, xVar_);
-    ChangeTolerance(1);
+    ShowTolerances();
+    FindFamilies();
 }
 
 void PlotPane::ToggleLog() {
@@ -127,12 +138,41 @@ void PlotPane::UseKey(ui::Key& key) {
 }
 
 void PlotPane::Save() {
-    SavePicture(controls_.picture, form_.Caption(), "plot.svg");
+    SavePicture(controls_.picture, form_.Caption(), ProposedName(*table_));
 }
 
-void PlotPane::ChangeTolerance(double factor) {
-    groupTolerance_ *= factor;
-    families_ = FamiliesOf(*table_, xVar_, groupTolerance_);
+void PlotPane::ScaleTolerances(double factor) {
+    CurveTolerances& curves = TheSitting().Curves;
+    curves.pressure *= factor;
+    curves.other *= factor;
+    ShowTolerances();
+    FindFamilies();
+}
+
+/// What is no part of a value is put back as it was.
+void PlotPane::TakeTolerances() {
+    CurveTolerances& curves = TheSitting().Curves;
+    const CurveTolerances before = curves;
+    const auto take = [](const ui::TextBox& field, double& tolerance) {
+        std::string_view typed = TrimBlanks(field.Text());
+        if (typed.ends_with('%')) typed.remove_suffix(1);
+        const double part = Val(typed) / PerCent;
+        if (IsNumeric(typed) && part > 0 && part < 1 && field.Text() != PartText(tolerance))
+            tolerance = part;
+    };
+    take(controls_.pressures, curves.pressure);
+    take(controls_.others, curves.other);
+    ShowTolerances();
+    if (curves != before) FindFamilies();
+}
+
+void PlotPane::ShowTolerances() {
+    controls_.pressures.Text(PartText(TheSitting().Curves.pressure));
+    controls_.others.Text(PartText(TheSitting().Curves.other));
+}
+
+void PlotPane::FindFamilies() {
+    families_ = FamiliesOf(*table_, xVar_, TheSitting().Curves);
     Redraw();
 }
 

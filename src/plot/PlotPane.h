@@ -9,11 +9,13 @@
 
 namespace vexora {
 
-/// The controls of a form that show a plot: the surface, and what is told below it of the point in
-/// hand. References only: the form owns them, and they must outlive the pane.
+/// The controls of a form that show a plot: the surface, what is told below it of the point in
+/// hand, and how far the values of one curve may lie apart, in per cent.
+/// References only: the form owns them, and they must outlive the pane.
 struct PlotControls {
     ui::Picture& picture;
     ui::Label &point, &row;
+    ui::TextBox &pressures, &others;
 };
 
 /// The menu entries of a form for the work in its plot.
@@ -24,7 +26,8 @@ struct PlotMenu {
 };
 
 /// The work in the plot of a form: a part enlarged, points told and stepped through, curves merged
-/// and split, the picture saved and printed, all wired to the controls, which stay the form's.
+/// and split, the picture saved and printed, all wired to the controls, which stay the form's. How
+/// far the values of a curve may lie apart is remembered in the sitting.
 /// Which table is drawn against which of its variables, the form says. It declares the pane behind
 /// its controls and so owns it.
 class PlotPane {
@@ -57,7 +60,10 @@ private:
     void Release(PlotPlace place);
     void UseKey(ui::Key& key);
     void Save();
-    void ChangeTolerance(double factor);
+    void ScaleTolerances(double factor);
+    void TakeTolerances();
+    void ShowTolerances();
+    void FindFamilies();
 
     Plot ThePlot() const;
     void Redraw();
@@ -74,7 +80,6 @@ private:
     PlotScale scale_; // its Log is the mode
     PlotFamilies families_;
     int xVar_ = 1;
-    double groupTolerance_ = UsualTolerance;
     bool showUnc_ = true;
     bool showTies_ = true;
     bool identifies_ = true;         // the point under the mouse is told

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "plot/PlotLegend.h"
+#include "plot/PlotName.h"
 #include "plot/PlotTriangle.h"
 #include "reference/Numbers.h"
 #include "reference/Text.h"
@@ -83,13 +84,22 @@ void DrawTicksY(PlotStrokes& strokes, const Plot& plot) {
     }
 }
 
+/// In the middle of the surface, cut where it is too long for it.
+void DrawHeading(PlotStrokes& strokes, const Plot& plot) {
+    const std::string heading = plot.Heading();
+    if (heading.empty()) return;
+    const auto most = static_cast<std::size_t>(plot.size.width / CharacterWidth);
+    strokes.push_back(
+        PlotLabel({plot.size.width / 2, HeadLine}, Shortened(heading, most), Align::Centre));
+}
+
 void DrawFrame(PlotStrokes& strokes, const Plot& plot) {
     strokes.push_back({Shape::Rectangle, plot.left, plot.top, plot.right, plot.bottom, 0, {}});
     const std::string& xName = plot.table.NameOf(plot.xVar);
     strokes.push_back(PlotLabel({(plot.left + plot.right) / 2, plot.bottom + 45},
                                 plot.scale.Log ? xName + ", scale of 1/X" : xName, Align::Centre));
     strokes.push_back(PlotLabel(
-        {plot.left, HeadLine},
+        {plot.left, plot.head},
         plot.scale.Log ? plot.table.YName + ", scale of ln Y" : plot.table.YName, Align::Left));
     DrawRingLegend(strokes, plot, {plot.left, plot.top - LineHeight - 6});
 }
@@ -251,7 +261,8 @@ Plot::Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
         bottom = size.height;
         return;
     }
-    top = HasLegend(*this) || HasRings(*this) ? 76 : 45;
+    if (!Heading().empty()) head += LineHeight + 6;
+    top = head + (HasLegend(*this) || HasRings(*this) ? 68 : 37);
     bottom = size.height - 90;
     left = std::clamp(25 + LongestLabel(scale.TicksY()), 80.0, 220.0);
     right = size.width - 25 - LegendWidth(*this);
@@ -259,6 +270,12 @@ Plot::Plot(const PlotTable& plotTable, const PlotScale& plotScale, int x,
 
 const PlotTable::Row& Plot::RowOf(int point) const {
     return table.PointTable[At(point)];
+}
+
+std::string Plot::Heading() const {
+    if (IsSmall() || table.System.empty()) return {};
+    // The corners of a triangle bear the names of its components.
+    return table.IsTriangle() ? std::string() : table.System + ": " + WithoutUnit(table.YName);
 }
 
 bool Plot::ShowsValues() const {
@@ -271,6 +288,7 @@ PlotStrokes PlotPicture(const Plot& plot) {
     if (plot.table.IsTriangle()) {
         DrawTriangle(strokes, plot);
     } else {
+        DrawHeading(strokes, plot);
         DrawTicksX(strokes, plot);
         DrawTicksY(strokes, plot);
         DrawFrame(strokes, plot);

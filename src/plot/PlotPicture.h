@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "plot/PlotFamilies.h"
 #include "plot/PlotScale.h"
@@ -24,6 +25,8 @@ struct Plot {
     /// A property of a triangle, which has no axis of its own.
     bool ShowsValues() const;
     bool IsSmall() const { return size.width < PlotSize().width; }
+    /// What the picture is of: compounds and property. Empty on a small surface.
+    std::string Heading() const;
 
     const PlotTable& table;
     const PlotScale& scale;
@@ -33,13 +36,14 @@ struct Plot {
     bool showTies = true; // join points that coexist
     PlotSize size;
     double left = 0, right = 0, top = 0, bottom = 0; // of the frame
+    double head = HeadLine;                          // of the first line below the heading
 };
 
-/// The whole plot: frame, labelled ticks, bars of uncertainty, lines that join coexisting points, a
-/// marker for each point in the colour and shape of its family, a ring around one to be looked at
-/// again, hollow markers with the names of the pure components, and the families' legend. Points
-/// just outside the frame are faint. Nothing for empty axes. A triangle has no bars; few points of
-/// a property bear their values, but not on a small surface.
+/// The whole plot: its heading, frame, labelled ticks, bars of uncertainty, lines that join
+/// coexisting points, a marker for each point in the colour and shape of its family, a ring around
+/// one to be looked at again, hollow markers with the names of the pure components, and the
+/// families' legend. Points just outside the frame are faint. Nothing for empty axes. A triangle
+/// has no bars; few points of a property bear their values, but not on a small surface.
 PlotStrokes PlotPicture(const Plot& plot);
 
 /// Where a point is drawn; nothing for one that is not.

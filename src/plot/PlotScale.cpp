@@ -11,7 +11,9 @@ namespace {
 constexpr double Padding = 0.02;
 constexpr double LeastOfLog = 0.0001; // of the largest Y, where the smallest has no logarithm
 constexpr double SameLimits = 1e-9;
-constexpr double WideEnough = 0.1; // of the whole
+constexpr double WideEnough = 0.1;   // of the whole
+constexpr double RoomOfLabel = 0.12; // of an axis
+constexpr double RoomOfTick = 0.02;
 
 std::optional<double> Position(double value, double from, double to) {
     if (from == to) return 0.5;
@@ -116,7 +118,32 @@ double PlotScale::ValueY(double position) const {
 }
 
 std::vector<double> PlotScale::TicksX() const {
-    return HasTicks() ? Ticks(XMin, XMax) : std::vector<double>();
+    if (!HasTicks()) return {};
+    std::vector<double> ticks = Ticks(XMin, XMax);
+    if (!Log) return ticks;
+    constexpr std::size_t enough = 3;
+    bool isRefined = false;
+    while (!ticks.empty() && Apart(ticks, RoomOfLabel).size() < enough) {
+        std::vector<double> finer = Ticks(XMin, ticks.front());
+        std::erase_if(finer, [&](double tick) { return tick >= ticks.front(); });
+        if (finer.empty()) break;
+        ticks.insert(ticks.begin(), finer.begin(), finer.end());
+        isRefined = true;
+    }
+    return isRefined ? Apart(ticks, RoomOfTick) : ticks;
+}
+
+/// Those that stand at least so far from the one before them.
+std::vector<double> PlotScale::Apart(const std::vector<double>& ticks, double least) const {
+    std::vector<double> apart;
+    double last = -1;
+    for (const double tick : ticks) {
+        const auto position = PositionX(tick);
+        if (!position || *position - last < least) continue;
+        apart.push_back(tick);
+        last = *position;
+    }
+    return apart;
 }
 
 std::vector<double> PlotScale::TicksY() const {
@@ -154,12 +181,17 @@ std::vector<double> Ticks(double min, double max) {
     return ticks;
 }
 
+double ShiftOf(std::string_view caption) {
+    constexpr auto none = std::string_view::npos;
+    return caption.find("(C)") != none ? 273.15 : caption.find("(F)") != none ? 459.6696 : 0;
+}
+
 double ShiftOf(const PlotTable& table) {
-    const auto anyHolds = [&](const char* unit) {
-        return std::any_of(table.VarNames.begin(), table.VarNames.end(),
-                           [&](const std::string& name) { return name.find(unit) != name.npos; });
-    };
-    return anyHolds("(C)") ? 273.15 : anyHolds("(F)") ? 459.6696 : 0;
+    constexpr double celsius = 273.15;
+    double shift = 0;
+    for (const std::string& name : table.VarNames)
+        if (const double own = ShiftOf(name); own == celsius || shift == 0) shift = own;
+    return shift;
 }
 
 } // namespace vexora

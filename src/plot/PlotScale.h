@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "globals/PlotTable.h"
@@ -33,13 +34,15 @@ public:
 
     /// Values to be labelled, at equal steps of the value in either mode; none on either axis when
     /// one of them has equal limits. The logarithmic mode squeezes small Y together below the first
-    /// step: there the powers of ten are labelled.
+    /// step: there the powers of ten are labelled. The reciprocal stretches small X: where fewer
+    /// than three ticks stand apart, smaller steps lie before the first one.
     std::vector<double> TicksX() const;
     std::vector<double> TicksY() const;
 
 private:
     void PadLog();
     bool HasTicks() const;
+    std::vector<double> Apart(const std::vector<double>& ticks, double least) const;
 };
 
 /// Round values from min to max: steps of 1, 2 or 5 times a power of ten. None when the limits are
@@ -49,5 +52,7 @@ std::vector<double> Ticks(double min, double max);
 /// What makes a temperature absolute, as the captions of the variables tell its unit: 273.15 for
 /// "(C)", 459.6696 for "(F)", else 0.
 double ShiftOf(const PlotTable& table);
+/// The same of one caption.
+double ShiftOf(std::string_view caption);
 
 } // namespace vexora

@@ -9,7 +9,7 @@ PlotStrokes SmallPlot(PlotTable& table) {
     Arrange(table, xVar);
     PlotScale scale;
     scale.Ranges(table, xVar);
-    const PlotFamilies families = FamiliesOf(table, xVar, UsualTolerance);
+    const PlotFamilies families = FamiliesOf(table, xVar, TheSitting().Curves);
     return PlotPicture({table, scale, xVar, families, false, true, SmallPlotSize});
 }
 

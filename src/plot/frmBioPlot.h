@@ -33,6 +33,10 @@ public:
     ui::Picture picPIC{*this, "picPIC", PlotSize().width, PlotSize().height};
     ui::Label lblPoint{*this, "lblPoint"};
     ui::Label lblRow{*this, "lblRow"};
+    ui::Label lblPressures{*this, "lblPressures", "One curve: pressures within (%)"};
+    ui::TextBox txtPressures{*this, "txtPressures"};
+    ui::Label lblOthers{*this, "lblOthers", "all else within (%)"};
+    ui::TextBox txtOthers{*this, "txtOthers"};
     ui::CommandButton cmdUnc{*this, "cmdUnc", "Uncertainties"};
     ui::CommandButton cmdOK{*this, "cmdOK", "OK"};
 
@@ -43,12 +47,10 @@ private:
     void WireEvents();
     void FillLists();
     void ShowColumns();
-    std::vector<std::size_t> OtherVariables(std::size_t y, std::size_t x) const;
-    PlotTable PointsOf(std::size_t y, std::size_t x) const;
 
     std::shared_ptr<ColumnsToPlot> table_;
     PlotPane pane_{*this,
-                   {picPIC, lblPoint, lblRow},
+                   {picPIC, lblPoint, lblRow, txtPressures, txtOthers},
                    {mnuFileSave, mnuFilePrint, mnuToolsIncrease, mnuToolsDecrease, mnuHide,
                     mnuNextFar, mnuLastFar}};
 };

@@ -1,6 +1,7 @@
 #include "plot/frmGraph.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
@@ -11,6 +12,8 @@ namespace vexora {
 frmGraph::frmGraph() : Form("frmGraph", "Plot") {
     using namespace ui;
     Arrangement = Column({picPIC, lblPoint, lblRow,
+                          Row({Field(lblPressures, Narrow(txtPressures, 8)),
+                               Field(lblOthers, Narrow(txtOthers, 8)), Stretch()}),
                           ButtonRow({cmdPicture, cmdTies, cmdMode, cmdVar, cmdUnc, cmdOK})});
     PreferredColumns = 150;
     PreferredRows = 46;
@@ -52,7 +55,14 @@ void frmGraph::ShowPicture(std::shared_ptr<PlotTable> table) {
     const bool hasBars = std::ranges::any_of(table_->PointUnc, [](double u) { return u != 0; });
     cmdUnc.Visible(!isTriangle && (hasBars || table_->SeriesNames.empty()));
     cmdTies.Visible(table_->HasTies());
+    OfferTolerances(table_->nVar > 1 && !isTriangle);
     ShowAgainst(1);
+}
+
+void frmGraph::OfferTolerances(bool hasFamilies) {
+    for (ui::Control* one :
+         std::initializer_list<ui::Control*>{&lblPressures, &txtPressures, &lblOthers, &txtOthers})
+        one->Visible(hasFamilies);
 }
 
 /// The keys of the plot serve at once.

@@ -32,6 +32,10 @@ public:
     ui::Picture picPIC{*this, "picPIC", PlotSize().width, PlotSize().height};
     ui::Label lblPoint{*this, "lblPoint"};
     ui::Label lblRow{*this, "lblRow"};
+    ui::Label lblPressures{*this, "lblPressures", "One curve: pressures within (%)"};
+    ui::TextBox txtPressures{*this, "txtPressures"};
+    ui::Label lblOthers{*this, "lblOthers", "all else within (%)"};
+    ui::TextBox txtOthers{*this, "txtOthers"};
     ui::CommandButton cmdPicture{*this, "cmdPicture", "Next picture"};
     ui::CommandButton cmdTies{*this, "cmdTies", "Tie lines"};
     ui::CommandButton cmdMode{*this, "cmdMode", "ln Y vs 1/X"};
@@ -44,6 +48,7 @@ public:
 
 private:
     void WireEvents();
+    void OfferTolerances(bool hasFamilies);
     void ShowPicture(std::shared_ptr<PlotTable> table);
     void cmdPicture_Click();
     void cmdMode_Click();
@@ -55,7 +60,7 @@ private:
 
     std::shared_ptr<PlotTable> table_;
     PlotPane pane_{*this,
-                   {picPIC, lblPoint, lblRow},
+                   {picPIC, lblPoint, lblRow, txtPressures, txtOthers},
                    {mnuFileSave, mnuFilePrint, mnuToolsIncrease, mnuToolsDecrease, mnuHide,
                     mnuNextFar, mnuLastFar}};
 };

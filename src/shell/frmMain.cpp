@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "globals/KVOGlobal.h"
+#include "globals/Sitting.h"
 #include "records/Record.h"
 #include "shell/About.h"
 #include "shell/Deletion.h"
@@ -174,6 +175,7 @@ void frmMain::RefreshTexts() {
     ShowReadingPlot(picReading, record.get());
     if (!globals.Saved && lastDone_.starts_with(LastSaved)) lastDone_.clear();
     lblStatus.Caption(StatusText());
+    TheSitting().DocumentPath = FileName;
     TellWhy();
     DocumentAltered.Emit();
 }

@@ -1,8 +1,8 @@
 #include "structures/frmCrStruct.h"
 
 #include "entry/Explanations.h"
-#include "entry/PictureSvg.h"
 #include "globals/KVOGlobal.h"
+#include "plot/PictureSvg.h"
 #include "records/clsComplexSample.h"
 #include "reference/Text.h"
 #include "ui/Desktop.h"

@@ -7,8 +7,10 @@
 #include <string>
 #include <utility>
 
+#include "entry/SetPictures.h"
 #include "globals/KVOGlobal.h"
 #include "records/clsM.h"
+#include "records/clsS.h"
 #include "tables/ProcessPictures.h"
 #include "tables/frmProcess_outlook.h"
 #include "ui/Desktop.h"
@@ -68,6 +70,8 @@ void frmProcess::ShowPictures(const std::shared_ptr<PlotTable>& pictures) {
                 " points of a table");
     KVOGlobal& globals = Globals();
     globals.Plot = pictures;
+    const auto& mixture = system_.mixture;
+    NameSystem(*pictures, mixture ? mixture->ShowKey() : system_.sample->SystemName(), {});
     ui::Forms::Current().Get("frmGraph").ShowModal();
     const auto shown = std::exchange(globals.Plot, nullptr);
     if (shown->ChosenRow == 0) return;

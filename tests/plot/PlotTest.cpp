@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "plot/PlotName.h"
 #include "reference/Numbers.h"
 
 namespace vexora::test {
@@ -126,10 +127,78 @@ TEST(Plot, RectanglesBecomeTheRangesInTheScaleOfTheMode) {
 TEST(Plot, FamiliesAgreeInAllVariablesButTheOneOnTheAxis) {
     const PlotTable table =
         TableOf({{1, 300, 100}, {2, 300, 200}, {3, 310, 100.05}, {4, 310, 0}, {5, 320, 0.001}}, 2);
-    EXPECT_EQ(FamiliesOf(table, 1, 0.001).GroupOf, (std::vector<int>{0, 1, 0, 2, 2}));
-    EXPECT_EQ(FamiliesOf(table, 1, 0.0001).GroupOf, (std::vector<int>{0, 1, 2, 3, 4}));
-    EXPECT_EQ(FamiliesOf(table, 2, 0.001).GroupRows, (std::vector<int>{0, 2, 4}));
-    EXPECT_EQ(FamiliesOf(water, 1, 0.001).GroupOf, (std::vector<int>{0, 0, 0}));
+    EXPECT_EQ(FamiliesOf(table, 1, {}).GroupOf, (std::vector<int>{0, 1, 0, 2, 2}));
+    EXPECT_EQ(FamiliesOf(table, 1, {0.0001, 0.0001}).GroupOf, (std::vector<int>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(FamiliesOf(table, 2, {}).GroupRows, (std::vector<int>{0, 2, 4}));
+    EXPECT_EQ(FamiliesOf(water, 1, {}).GroupOf, (std::vector<int>{0, 0, 0}));
+}
+
+// The value that came first stands for its curve: a chain of near values ends where it is too far.
+TEST(Plot, NearValuesOfAFamilyAreOneCurveByTheirQuantity) {
+    const struct {
+        const char* quantity;
+        std::vector<double> values;
+        std::vector<int> groups;
+    } cases[] = {
+        {"Pressure (MPa)", {0.09924, 0.09997, 0.10006}, {0, 0, 0}},
+        {"Vapor pressure (kPa)", {1, 1.009, 1.018, 1.005}, {0, 0, 1, 0}},
+        {"Temperature (K)", {300, 300.2, 300.4}, {0, 0, 1}},
+        {"Temperature (C)", {0, 0.2, 0.4}, {0, 0, 1}},
+        {"Mole fraction", {0.5, 0.5004, 0.506}, {0, 0, 1}},
+    };
+    for (const auto& one : cases) {
+        PlotTable table;
+        table.nVar = 2;
+        table.VarNames = {"Density (kg/m3)", one.quantity};
+        for (const double value : one.values)
+            table.Add({1, 2, value});
+        EXPECT_EQ(FamiliesOf(table, 1, {}).GroupOf, one.groups) << one.quantity;
+    }
+}
+
+TEST(Plot, TheLegendRisesByValue) {
+    const PlotTable table = TableOf({{1, 300, 20}, {2, 300, 700}, {3, 300, 0.1}}, 2);
+    const PlotScale scale = ScaleOf(table, false);
+    const PlotFamilies families = FamiliesOf(table, 1, {});
+    std::string legend;
+    for (const auto& one : PlotPicture({table, scale, 1, families, true}))
+        if (one.shape == ui::Picture::Shape::Marker)
+            legend += std::to_string(one.colour) + " ";
+        else if (one.align == ui::Picture::Align::Left && !one.text.empty())
+            legend += one.text + " ";
+    EXPECT_EQ(legend, "1 2 3 3 0.1 1 20 2 700 "); // behind the points, with their colours
+}
+
+TEST(Plot, TheReciprocalAxisHasThreeTicksApart) {
+    for (const double least : {0.5, 4.2, 20.0, 275.0, 990.0}) {
+        for (const double times : {1.001, 1.5, 3.0, 20.0, 900.0}) {
+            const PlotScale scale = ScaleOf(TableOf({{1, least}, {2, least * times}}), true);
+            int apart = 0;
+            double last = -1;
+            for (const double tick : scale.TicksX())
+                if (const double at = *scale.PositionX(tick); at >= 0 && at - last > 0.11) {
+                    ++apart;
+                    last = at;
+                }
+            EXPECT_GE(apart, 3) << least << " times " << times;
+        }
+    }
+}
+
+TEST(Plot, APictureIsHeadedAndNamedAfterWhatItShows) {
+    PlotTable table = TableOf({{1, 300}, {2, 310}});
+    table.YName = "Density (kg/m3)";
+    table.System = "D/L-alanine";
+    table.SetNumber = "2";
+    EXPECT_EQ(ProposedName(table), "D-L-alanine Density set 2.svg");
+    TheSitting().DocumentPath = "/papers/2019.kag.txt";
+    EXPECT_EQ(ProposedName(table), "/papers/2019.kag D-L-alanine Density set 2.svg");
+    TheSitting() = {};
+    const PlotFamilies families = FamiliesOf(table, 1, {});
+    const PlotScale scale = ScaleOf(table, false);
+    const auto strokes = PlotPicture({table, scale, 1, families, true});
+    const auto isHeading = [](const auto& one) { return one.text == "D/L-alanine: Density"; };
+    EXPECT_EQ(std::ranges::count_if(strokes, isHeading), 1);
 }
 
 TEST(Plot, FamiliesBeyondTheThousandthShareIt) {
@@ -137,7 +206,7 @@ TEST(Plot, FamiliesBeyondTheThousandthShareIt) {
     table.nVar = 2;
     for (int i = 0; i < 1002; ++i)
         table.Add({1, 300, 1.0 + i});
-    const PlotFamilies families = FamiliesOf(table, 1, 1e-6);
+    const PlotFamilies families = FamiliesOf(table, 1, {1e-6, 1e-6});
     EXPECT_EQ(families.GroupRows.size(), 1000U);
     EXPECT_EQ(families.GroupOf.back(), 999);
 }
@@ -159,7 +228,7 @@ TEST(Plot, ArrangedRowsKeepWhatBelongsToThem) {
 TEST(Plot, TheNearestDrawnPointIsTold) {
     for (const bool log : {false, true}) {
         const PlotScale scale = ScaleOf(water, log);
-        const PlotFamilies families = FamiliesOf(water, 1, 0.001);
+        const PlotFamilies families = FamiliesOf(water, 1, {});
         const Plot plot{water, scale, 1, families, true};
         const PlotPlace place = PlaceOf(plot, 1).value();
         EXPECT_EQ(NearestPoint(plot, {place.x + 9, place.y - 9}), 1);
@@ -175,7 +244,7 @@ TEST(Plot, WhatIsToldOfAPointStandsBesideItsNeighbours) {
         for (int point = 0; point < 100; ++point)
             table.Add({1000.0 + slope * 10 * point, 300.0 + point}, 0, point + 1);
         const PlotScale scale = ScaleOf(table, false);
-        const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+        const PlotFamilies families = FamiliesOf(table, 1, {});
         const Plot plot{table, scale, 1, families, true};
         for (const int point : {30, 50, 70}) {
             const PlotPlace place = PlaceOf(plot, point).value();
@@ -192,7 +261,7 @@ TEST(Plot, MarkersAndBarsShowWhatIsThere) {
     PlotTable table = TableOf({{1, 300, 100}, {2, 310, 100}, {3, 300, 200}, {-4, 310, 200}}, 2);
     table.PointUnc = {0.5, 0, 0, 0};
     table.VarNames = {"Temperature (K)", "Pressure (kPa)"};
-    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const PlotFamilies families = FamiliesOf(table, 1, {});
     const auto count = [&](bool log, bool showUnc, Shape shape) {
         const PlotScale scale = ScaleOf(table, log);
         const auto strokes = PlotPicture({table, scale, 1, families, showUnc});
@@ -215,7 +284,7 @@ TEST(Plot, MarkersAndBarsShowWhatIsThere) {
 TEST(Plot, LongLabelsLeaveRoomForEachOther) {
     PlotTable table = TableOf({{1, 1234567890, 0}, {2, 1234567899.5, 0}});
     const PlotScale scale = ScaleOf(table, false);
-    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const PlotFamilies families = FamiliesOf(table, 1, {});
     const Plot plot{table, scale, 1, families, true};
     std::vector<double> places;
     for (const auto& one : PlotPicture(plot))

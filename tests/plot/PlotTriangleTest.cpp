@@ -45,7 +45,7 @@ PlotTable TriangleOf(std::vector<PlotTable::Row> points) {
 PlotStrokes Drawn(const PlotTable& table, bool ties = true) {
     PlotScale scale;
     scale.Ranges(table, 1);
-    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const PlotFamilies families = FamiliesOf(table, 1, {});
     return PlotPicture({table, scale, 1, families, true, ties});
 }
 
@@ -168,7 +168,7 @@ TEST(PlotAxes, TiesEndAtTheFrameOfAnEnlargedPart) {
     table.Add({350, 0.8}, 0, 1, false, 1, 1);
     table.Add({360, 0.1}, 0, 2, false, 0, 2);
     table.Add({360, 0.6}, 0, 2, false, 1, 2);
-    const PlotFamilies families = FamiliesOf(table, 1, 0.001);
+    const PlotFamilies families = FamiliesOf(table, 1, {});
     PlotScale scale;
     scale.Ranges(table, 1);
     const auto ties = [&] {

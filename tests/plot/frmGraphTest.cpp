@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "entry/PictureSvg.h"
+#include "plot/PictureSvg.h"
 #include "globals/KVOGlobal.h"
 #include "support/StrictDesktop.h"
 #include "ui/Forms.h"

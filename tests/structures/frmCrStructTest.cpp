@@ -1,6 +1,6 @@
 #include "structures/frmCrStruct.h"
 
-#include "entry/PictureSvg.h"
+#include "plot/PictureSvg.h"
 #include "records/LineWriter.h"
 #include "records/clsComplex.h"
 #include "records/clsComplexSample.h"

@@ -1,4 +1,4 @@
-#include "entry/PictureSvg.h"
+#include "plot/PictureSvg.h"
 
 #include "reference/Numbers.h"
 #include "reference/SafeFile.h"
