@@ -1,5 +1,7 @@
 #include "bio/frmBioData.h"
 
+#include <algorithm>
+
 #include "bio/BioTable.h"
 #include "entry/Explanations.h"
 #include "globals/FormChain.h"
@@ -27,7 +29,7 @@ constexpr const char* FirstRunText =
 frmBioData::frmBioData()
     : Form("frmBioData", "Bio data table"), TableMenu(static_cast<ui::Form&>(*this)) {
     using namespace ui;
-    Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings,
+    Arrangement = Column({lblColumns, ui::Split(tblData, picBeside), lblNotice, lstFindings,
                           Field("Stated for the set:", Row({lblStated, cmdLastUnc, Stretch()})),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
     PreferredColumns = 130;
@@ -41,6 +43,13 @@ frmBioData::frmBioData()
 frmBioData::~frmBioData() = default;
 
 void frmBioData::WireEvents() {
+    table_.OnChanged = [this] { beside_.Follow(); };
+    beside_.Points = [this] { return PointsBeside(); };
+    beside_.OnGoTo = [this](int row, int column) {
+        table_.EndTyping();
+        table_.MoveTo(row, std::max(column, 0));
+        tblData.SetFocus();
+    };
     cmdView.OnClick = [this] { View(); };
     cmdAssign.OnClick = [this] { Assign(); };
     cmdClear.OnClick = [this] { table_.Blocks().Clear(); };
@@ -66,9 +75,11 @@ void frmBioData::Load() {
     for (ui::Control* button :
          std::initializer_list<ui::Control*>{&cmdView, &cmdAssign, &cmdClear, &cmdSave})
         button->Enabled(hasColumns);
+    mnuPlotBeside.Enabled(hasColumns);
     if (!hasColumns) return;
     TakeSet();
     FillRows();
+    beside_.Follow();
     ExplainOnce(FirstRunText);
 }
 

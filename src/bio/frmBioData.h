@@ -9,6 +9,7 @@
 #include "entry/TableColumns.h"
 #include "grid/TableEditor.h"
 #include "grid/TableMenu.h"
+#include "plot/PlotBeside.h"
 #include "records/clsX.h"
 #include "ui/Form.h"
 
@@ -29,6 +30,7 @@ public:
     ui::MenuItem mnuTable{*this, "mnuTable", "&Table"};
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
+    ui::MenuItem mnuPlotBeside{*this, "mnuPlotBeside", "Plot &beside the table", &mnuTable, "F9"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
     ui::MenuItem mnuHelpList{*this, "mnuHelpList", "&Keys of the table", &mnuHelp};
@@ -37,6 +39,7 @@ public:
     ui::Label lblColumns{*this, "lblColumns"};
     ui::Grid tblData{*this, "tblData", 2, 1};
     ui::TextBox txtCell{*this, "txtCell"};
+    ui::Picture picBeside{*this, "picBeside", BesideSize.width, BesideSize.height};
     ui::Label lblNotice{*this, "lblNotice"};
     ui::ListBox lstFindings{*this, "lstFindings"};
     ui::Label lblStated{*this, "lblStated"};
@@ -94,6 +97,7 @@ private:
     // The plot (frmBioData_plot.cpp).
     void View();
     ColumnsToPlot PlotOfTable();
+    std::shared_ptr<PlotTable> PointsBeside();
 
     std::shared_ptr<BioSet> set_;
     std::vector<clsX> statements_, firstStatements_; // with the names of their quantities
@@ -109,6 +113,7 @@ private:
                           }};
     TableColumns columns_;
     TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
+    PlotBeside beside_{picBeside, mnuPlotBeside};
 };
 
 } // namespace vexora

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "bio/BioTable.h"
+#include "entry/ColumnNotes.h"
 #include "entry/EditStatements.h"
 #include "entry/RowChecks.h"
 #include "entry/ValueQuestions.h"
@@ -51,6 +52,7 @@ void frmBioData::UseStatements(const std::vector<clsX>& statements) {
     statements_ = statements;
     chain_ = ChainOf(*set_, statements_);
     offer_.Show();
+    tblData.Stated(StatedTexts(columns_, statements_));
 }
 
 /// The values of a row, and what it states of them.

@@ -8,6 +8,7 @@
 #include "entry/RowChecks.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
+#include "plot/ColumnPoints.h"
 #include "records/BioSet.h"
 #include "reference/Numbers.h"
 #include "ui/Desktop.h"
@@ -37,6 +38,7 @@ void frmBioData::View() {
     if (!Check()) return;
     KVOGlobal& globals = Globals();
     const auto plot = std::make_shared<ColumnsToPlot>(PlotOfTable());
+    plot->System = set_->ShowKey();
     if (plot->rows.size() > PlotTable::MostPoints)
         ui::Say("The table holds " + std::to_string(plot->rows.size()) +
                 " points; the plot shows the first " + std::to_string(PlotTable::MostPoints));
@@ -45,6 +47,13 @@ void frmBioData::View() {
     globals.BioPlot = nullptr;
     tblData.SetFocus();
     if (plot->ChosenRow > 0) table_.MoveTo(plot->ChosenRow, std::max(plot->ChosenColumn, 0));
+}
+
+/// The first property against the first variable, as the plot begins.
+std::shared_ptr<PlotTable> frmBioData::PointsBeside() {
+    const ColumnsToPlot table = PlotOfTable();
+    const auto [y, x] = FirstColumns(table);
+    return std::make_shared<PlotTable>(PointsOf(table, y, x));
 }
 
 /// A table without variables is seen against the number of the row.

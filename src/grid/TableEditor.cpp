@@ -61,6 +61,7 @@ void TableEditor::WireTable() {
             rules_.HintColumns(), [this](int column) { return history_.Concerns(column); });
         findings_.FindAgain(history_.FirstRow(), history_.LastRow(), valuesChanged);
         blocks_.TellAgain();
+        if (OnChanged) OnChanged();
     };
 }
 

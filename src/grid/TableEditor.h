@@ -42,6 +42,9 @@ public:
     FindingList& Findings() { return findings_; }
     const FindingList& Findings() const { return findings_; }
 
+    /// Follows every step of the history, behind the findings.
+    std::function<void()> OnChanged;
+
     /// What is being typed into a cell becomes the text of the cell.
     /// To be called before the cells are read. Nothing is typed: nothing happens.
     void EndTyping();

@@ -9,6 +9,7 @@
 
 #include "qt/FileDrop.h"
 #include "qt/FoldBox.h"
+#include "qt/GridView.h"
 #include "qt/Keys.h"
 #include "qt/LayoutGrowth.h"
 #include "qt/Text.h"
@@ -84,6 +85,14 @@ void FormWindow::TakeFirstSize() {
         std::max(form_.PreferredColumns, GrowsAcross(form_.Arrangement) ? leastColumns : 0);
     size = size.expandedTo(
         {metrics.averageCharWidth() * columns, metrics.lineSpacing() * form_.PreferredRows});
+    const int widest = screen()->availableSize().width() - 20;
+    for (const auto& view : views_) {
+        const auto* grid = dynamic_cast<const GridView*>(view.get());
+        if (!grid || grid->Widget()->isHidden()) continue;
+        const int beside = style()->pixelMetric(QStyle::PM_LayoutLeftMargin) +
+                           style()->pixelMetric(QStyle::PM_LayoutRightMargin);
+        size.setWidth(std::max(size.width(), std::min(grid->WidthOfAll() + beside, widest)));
+    }
     if (QGuiApplication::platformName() != "offscreen") {
         size = size.boundedTo(screen()->availableSize() - QSize(20, 60));
     }

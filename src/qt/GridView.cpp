@@ -4,12 +4,10 @@
 
 #include <QEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QStyle>
-#include <QStyledItemDelegate>
 
+#include "qt/CellDelegate.h"
 #include "qt/Events.h"
 #include "qt/FormWindow.h"
 #include "qt/HeadView.h"
@@ -18,146 +16,11 @@
 
 namespace vexora::qt {
 
-namespace {
-
-/// The editor of a cell keeps Enter, which else would go on to the default button of the form.
-class CellEditor : public QLineEdit {
-public:
-    using QLineEdit::QLineEdit;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        QLineEdit::keyPressEvent(event);
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
-    }
-};
-
-class CellDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex&) const override {
-        auto* editor = new CellEditor(parent);
-        editor->setFrame(false);
-        return editor;
-    }
-};
-
-} // namespace
-
-GridModel::GridModel(GridView& view, ui::Grid& grid) : view_(view), grid_(grid) {
-    rows_ = grid.Rows();
-    columns_ = grid.Columns();
-}
-
-int GridModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() || view_.HasLostGrid() ? 0 : std::max(rows_ - grid_.FixedRows(), 0);
-}
-
-int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() || view_.HasLostGrid() ? 0
-                                                   : std::max(columns_ - grid_.FixedColumns(), 0);
-}
-
-QVariant GridModel::data(const QModelIndex& index, int role) const {
-    if (view_.HasLostGrid()) return {};
-    const int row = index.row() + grid_.FixedRows();
-    const int column = index.column() + grid_.FixedColumns();
-    if (role == Qt::DisplayRole || role == Qt::EditRole) return ToQt(grid_.Cell(row, column));
-    const ui::Grid::Mark* mark = grid_.MarkOf(row, column);
-    return mark ? MarkData(*mark, role) : QVariant();
-}
-
-// Told apart by weight and slant as well as by colour; a tint of the ground fits light and dark.
-QVariant GridModel::MarkData(const ui::Grid::Mark& mark, int role) const {
-    const QPalette palette = view_.Table().palette();
-    if (role == Qt::ToolTipRole) return ToQt(mark.tip);
-    if (role == Qt::BackgroundRole) {
-        const QColor base = palette.color(QPalette::Base);
-        const QColor tint = mark.isFault ? QColor(213, 94, 0) : QColor(240, 228, 66);
-        const auto mix = [](int a, int b) { return (7 * a + 3 * b) / 10; };
-        return QColor(mix(base.red(), tint.red()), mix(base.green(), tint.green()),
-                      mix(base.blue(), tint.blue()));
-    }
-    if (role != Qt::FontRole) return {};
-    QFont font = view_.Table().font();
-    font.setBold(mark.isFault);
-    font.setItalic(!mark.isFault);
-    return font;
-}
-
-// Several fixed rows stand as several lines in the header, several fixed columns side by side.
-QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole || view_.HasLostGrid()) return {};
-    QStringList texts;
-    if (orientation == Qt::Horizontal) {
-        for (int row = 0; row < grid_.FixedRows(); ++row)
-            texts << ToQt(grid_.Cell(row, section + grid_.FixedColumns()));
-        return texts.join('\n');
-    }
-    if (grid_.ShowsRowNumbers) texts << QString::number(section + 1);
-    for (int column = 0; column < grid_.FixedColumns(); ++column)
-        texts << ToQt(grid_.Cell(section + grid_.FixedRows(), column));
-    return texts.join(QStringLiteral("  "));
-}
-
-Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return !view_.HasLostGrid() && grid_.IsEditable() ? flags | Qt::ItemIsEditable : flags;
-}
-
-bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::EditRole) return false;
-    view_.Edit(index.row() + grid_.FixedRows(), index.column() + grid_.FixedColumns(),
-               FromQt(value.toString()));
-    return true;
-}
-
-// Rows come and go at the end, so that the table stays where a person has scrolled it.
-void GridModel::FollowRows() {
-    const int before = rowCount();
-    const int after = std::max(grid_.Rows() - grid_.FixedRows(), 0);
-    if (after > before) {
-        beginInsertRows({}, before, after - 1);
-        rows_ = grid_.Rows();
-        endInsertRows();
-    } else if (after < before) {
-        beginRemoveRows({}, after, before - 1);
-        rows_ = grid_.Rows();
-        endRemoveRows();
-    }
-}
-
-void GridModel::CellChanged(int row, int column) {
-    if (columns_ != grid_.Columns()) {
-        beginResetModel();
-        rows_ = grid_.Rows();
-        columns_ = grid_.Columns();
-        endResetModel();
-        return;
-    }
-    FollowRows();
-    if (row < 0) {
-        if (rowCount() > 0 && columnCount() > 0)
-            emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-        if (columnCount() > 0) emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-    } else if (row < grid_.FixedRows()) {
-        const int section = column - grid_.FixedColumns();
-        if (section >= 0) emit headerDataChanged(Qt::Horizontal, section, section);
-    } else if (column < grid_.FixedColumns()) {
-        const int section = row - grid_.FixedRows();
-        emit headerDataChanged(Qt::Vertical, section, section);
-    } else {
-        const QModelIndex at = index(row - grid_.FixedRows(), column - grid_.FixedColumns());
-        emit dataChanged(at, at);
-    }
-}
-
 GridView::GridView(FormWindow& window, ui::Grid& grid)
     : ViewOf(window, grid, new QTableView(&window)), cells_(*this, grid) {
     Watch(own_->viewport());
     own_->setModel(&cells_);
-    own_->setItemDelegate(new CellDelegate(own_));
+    own_->setItemDelegate(new CellDelegate(*this, own_));
     own_->setSelectionMode(QAbstractItemView::ContiguousSelection);
     own_->setTabKeyNavigation(false);
     own_->horizontalHeader()->setVisible(grid.FixedRows() > 0);
@@ -222,6 +85,11 @@ void GridView::FollowCells(int row, int column) {
     if (cells_.columnCount() != model_.Columns() - model_.FixedColumns()) fresh_ = true;
     cells_.CellChanged(row, column);
     following_ = false;
+    const bool isOne = row >= model_.FixedRows() && column >= model_.FixedColumns();
+    if (!isOne || static_cast<std::size_t>(column) >= shapes_.size())
+        shapes_.clear();
+    else
+        shapes_[static_cast<std::size_t>(column)].reset();
     fitted_ = false;
     Window().MarkDirty(*this);
 }
@@ -261,6 +129,12 @@ void GridView::HandOverSelection() {
 }
 
 void GridView::Draw() {
+    if (notes_ != model_.HeadNotes()) {
+        notes_ = model_.HeadNotes();
+        fitted_ = false;
+        if (cells_.columnCount() > 0)
+            emit cells_.headerDataChanged(Qt::Horizontal, 0, cells_.columnCount() - 1);
+    }
     if (!fitted_) FitColumns();
     if (!Window().All().PlaysScripts) {
         const int page = own_->viewport()->height() / own_->verticalHeader()->defaultSectionSize();
@@ -347,18 +221,57 @@ void GridView::DrawSelection() {
     own_->scrollTo(IndexOf(model_.Cursor().first, model_.Cursor().second));
 }
 
+/// Found once, until a cell of the column changes.
+const ColumnShape& GridView::Shape(int column) const {
+    const auto at = static_cast<std::size_t>(column);
+    if (shapes_.size() != static_cast<std::size_t>(model_.Columns()))
+        shapes_.assign(static_cast<std::size_t>(model_.Columns()), std::nullopt);
+    if (!shapes_[at]) shapes_[at] = ShapeOf(model_, column);
+    return *shapes_[at];
+}
+
 // The longest text decides, wherever it stands: digits are never cut off.
 int GridView::WidthOfTexts(int column) const {
-    const std::string* longest = nullptr;
-    for (int row = model_.FixedRows(); row < model_.Rows(); ++row) {
-        const std::string& text = model_.Cell(row, column + model_.FixedColumns());
-        if (!longest || text.size() > longest->size()) longest = &text;
-    }
-    if (!longest) return 0;
+    const ColumnShape& shape = Shape(column + model_.FixedColumns());
+    if (shape.longestRow < 0) return 0;
     QFont font = own_->font();
     font.setBold(true); // as marked cells are
-    const int margin = 2 * own_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 6;
-    return QFontMetrics(font).horizontalAdvance(ToQt(*longest)) + margin;
+    const QFontMetrics metrics(font);
+    const std::string& longest = model_.Cell(shape.longestRow, column + model_.FixedColumns());
+    const auto inLine = static_cast<int>(shape.hasPointsInLine ? shape.before + shape.behind : 0);
+    const int wide = std::max(metrics.horizontalAdvance(ToQt(longest)),
+                              inLine * metrics.horizontalAdvance(QLatin1Char('0')));
+    return wide + 2 * own_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 6;
+}
+
+int GridView::RoomBehind(int column, const NumberShape& number) const {
+    if (HasLostGrid() || !number.isNumber) return 0;
+    const std::size_t free = Shape(column + model_.FixedColumns()).FreeBehind(number);
+    if (free == 0) return 0;
+    const QFontMetrics metrics(own_->font());
+    const int digit = metrics.horizontalAdvance(QLatin1Char('0'));
+    // A point is narrower than a digit.
+    const int point = metrics.horizontalAdvance(QLatin1Char('.'));
+    const auto whole = static_cast<int>(free);
+    return number.behind == 0 ? (whole - 1) * digit + point : whole * digit;
+}
+
+QString GridView::StatedIn(const QModelIndex& index) const {
+    if (HasLostGrid()) return {};
+    const auto found = model_.Stated().find(index.column() + model_.FixedColumns());
+    if (found == model_.Stated().end()) return {};
+    const int row = index.row() + model_.FixedRows();
+    for (int column = model_.FixedColumns(); column < model_.Columns(); ++column)
+        if (!model_.Cell(row, column).empty()) return ToQt(found->second);
+    return {};
+}
+
+int GridView::WidthOfAll() const {
+    const int frame = 2 * own_->frameWidth();
+    const int bar = own_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int numbers =
+        own_->verticalHeader()->isHidden() ? 0 : own_->verticalHeader()->sizeHint().width();
+    return own_->horizontalHeader()->length() + numbers + frame + bar;
 }
 
 // Never narrower than a number, never wider than a third of a page; columns that a person has made

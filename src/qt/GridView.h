@@ -1,41 +1,18 @@
 #pragma once
 
-#include <QAbstractTableModel>
+#include <optional>
+#include <vector>
+
 #include <QTableView>
 
+#include "grid/ColumnShape.h"
+#include "qt/GridModel.h"
 #include "qt/View.h"
 
 namespace vexora::qt {
 
 class CornerView;
-class GridView;
 class HeadView;
-
-/// The cells of a grid behind its fixed rows and columns, which become the headers. It reads the
-/// model on demand, so that a grid of many thousand rows opens at once.
-class GridModel : public QAbstractTableModel {
-public:
-    GridModel(GridView& view, ui::Grid& grid);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-
-    /// Follows a change of one cell, or of the whole table for a row of -1.
-    void CellChanged(int row, int column);
-
-private:
-    void FollowRows();
-    QVariant MarkData(const ui::Grid::Mark& mark, int role) const;
-
-    GridView& view_;
-    ui::Grid& grid_;
-    int rows_ = 0;
-    int columns_ = 0;
-};
 
 /// A table whose selection and edits go to the grid.
 class GridView : public ViewOf<ui::Grid, QTableView> {
@@ -53,6 +30,13 @@ public:
     /// Selects as a drag from corner to corner does; false for a block that holds fixed cells.
     bool SelectAsDragged(const ui::Grid::Block& block);
     void Edit(int row, int column, const std::string& text);
+    /// What is stated for the whole set and stands grey in this empty cell; empty for nothing, and
+    /// in a row that holds nothing.
+    QString StatedIn(const QModelIndex& index) const;
+    /// Free behind a number, so that the points of its column stand in line [px].
+    int RoomBehind(int column, const NumberShape& number) const;
+    /// Of all columns with what stands beside them [px].
+    int WidthOfAll() const;
 
 protected:
     void Draw() override;
@@ -63,6 +47,7 @@ private:
     void FollowCells(int row, int column);
     void FitColumns();
     int WidthOfTexts(int column) const;
+    const ColumnShape& Shape(int column) const;
     void DrawSelection();
     void ShowMenu(const QPoint& place);
     void PlaceEditor();
@@ -78,7 +63,9 @@ private:
     bool fitted_ = false;
     bool fresh_ = true; // columns have not got their first widths
     bool following_ = false;
-    int shown_ = 0; // TimesShown of the grid
+    int shown_ = 0;                                          // TimesShown of the grid
+    mutable std::vector<std::optional<ColumnShape>> shapes_; // by column of the grid
+    ui::Grid::ColumnTexts notes_;                            // as drawn
 };
 
 } // namespace vexora::qt

@@ -35,6 +35,12 @@ bool IsItem(const ui::Layout& layout, std::initializer_list<ControlKind> kinds) 
            std::ranges::find(kinds, layout.control->Kind()) != kinds.end();
 }
 
+/// A table, alone or beside something else.
+bool BearsTable(const ui::Layout& layout) {
+    return IsItem(layout, {ControlKind::Grid}) ||
+           (layout.kind == Kind::Split && std::ranges::any_of(layout.parts, BearsTable));
+}
+
 bool BeginsWithField(const ui::Layout& layout) {
     return layout.kind == Kind::Row && !layout.parts.empty() &&
            layout.parts.front().kind == Kind::Field;
@@ -164,7 +170,7 @@ QWidget* LayoutBuilder::MakeColumn(const ui::Layout& layout) {
         }
         AddToColumn(*grid, row, part, hasFields);
         // A table gets more of the room than the lists beside it.
-        if (GrowsDown(part)) KeepRoom(*grid, row, IsItem(part, {ControlKind::Grid}) ? 3 : 1);
+        if (GrowsDown(part)) KeepRoom(*grid, row, BearsTable(part) ? 3 : 1);
         grows = grows || GrowsDown(part);
         ++row;
     }

@@ -38,7 +38,8 @@ frmData2::~frmData2() = default;
 
 void frmData2::ArrangeControls() {
     using namespace ui;
-    Arrangement = Column({lblColumns, tblData, lblNotice, lstFindings, Row({chkSup, Stretch()}),
+    Arrangement = Column({lblColumns, ui::Split(tblData, picBeside), lblNotice, lstFindings,
+                          Row({chkSup, Stretch()}),
                           Field("Stated for the set:", Row({lblStated, cmdLastUnc, Stretch()})),
                           ButtonRow({cmdView, cmdAssign, cmdClear, cmdSave, cmdFinish})});
     PreferredColumns = 130;
@@ -47,6 +48,9 @@ void frmData2::ArrangeControls() {
 
 void frmData2::WireEvents() {
     table_.Blocks().OnPut = [this](BlockToPut& put) { return MakeRoom(put); };
+    table_.OnChanged = [this] { beside_.Follow(); };
+    beside_.Points = [this] { return PointsBeside(); };
+    beside_.OnGoTo = [this](int row, int) { GoToRow(row); };
     cmdView.OnClick = [this] { View(); };
     cmdAssign.OnClick = [this] { Assign(); };
     cmdClear.OnClick = [this] { table_.Blocks().Clear(); };
@@ -76,6 +80,8 @@ void frmData2::Load() {
     cmdSave.Enabled(set_ != nullptr && !isMixed_);
     if (!set_) mnuSystemUnits.Enabled(false);
     offer_.Show();
+    mnuPlotBeside.Enabled(set_ != nullptr);
+    if (set_) beside_.Follow();
     ExplainOnce(FirstRunText);
 }
 

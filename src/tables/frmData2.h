@@ -13,6 +13,7 @@
 #include "entry/StatementMemory.h"
 #include "grid/TableEditor.h"
 #include "grid/TableMenu.h"
+#include "plot/PlotBeside.h"
 #include "records/DataSet.h"
 #include "records/RowMasses.h"
 #include "ui/Form.h"
@@ -33,6 +34,7 @@ public:
     ui::MenuItem mnuAction2D{*this, "mnuAction2D", "2D to 1D", &mnuTable};
     ui::MenuItem mnuSplit{*this, "mnuSplit", "Split", &mnuTable};
     ui::MenuItem mnuSystemUnits{*this, "mnuSystemUnits", "To &system units", &mnuTable};
+    ui::MenuItem mnuPlotBeside{*this, "mnuPlotBeside", "Plot &beside the table", &mnuTable, "F9"};
     ui::MenuItem mnuHelp{*this, "mnuHelp", "&Help"};
     ui::MenuItem mnuHelpAbout{*this, "mnuHelpAbout", "&About this form", &mnuHelp};
     ui::MenuItem mnuHelpSeq{*this, "mnuHelpSeq", "&Sequence of work", &mnuHelp};
@@ -43,6 +45,7 @@ public:
     ui::Label lblColumns{*this, "lblColumns"};
     ui::Grid tblData{*this, "tblData", 2, 1};
     ui::TextBox txtCell{*this, "txtCell"};
+    ui::Picture picBeside{*this, "picBeside", BesideSize.width, BesideSize.height};
     ui::Label lblNotice{*this, "lblNotice"};
     ui::ListBox lstFindings{*this, "lstFindings"};
     ui::CheckBox chkSup{*this, "chkSup", "Suppress calculation of derivatives"};
@@ -93,6 +96,7 @@ private:
     void AnalyseCurrentProperty();
     TableColumns ColumnsOfSet() const;
     void FillHeader();
+    void ShowStatements();
     void FillRows();
     bool IsChanged() const;
     std::string CaptionText() const;
@@ -158,7 +162,9 @@ private:
 
     // The plot (frmData2_plot.cpp); its names stand with the other texts of the set.
     void View();
-    PlotTable PointsOfTable() const;
+    void GoToRow(int row);
+    PlotTable PointsOfTable(bool withUncertainties = true) const;
+    std::shared_ptr<PlotTable> PointsBeside() const;
     std::shared_ptr<PlotTable> FirstPicture(const std::shared_ptr<PlotTable>& own) const;
     double UncertaintyOf(int row) const;
     double CombinedOf(int row, double value) const;
@@ -187,6 +193,7 @@ private:
                                 // set says so
     TableColumns firstColumns_; // those that the table began with
     TableEditor table_{*this, {tblData, txtCell, lblNotice, lstFindings}, *this};
+    PlotBeside beside_{picBeside, mnuPlotBeside};
 };
 
 } // namespace vexora

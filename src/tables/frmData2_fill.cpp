@@ -4,6 +4,7 @@
 #include <span>
 
 #include "chem/clsProperty.h"
+#include "entry/ColumnNotes.h"
 #include "globals/KVOGlobal.h"
 #include "globals/PlotTable.h"
 #include "records/DataSet.h"
@@ -116,12 +117,24 @@ TableColumns frmData2::ColumnsOfSet() const {
     return TableColumns(set_->Quantities(), Globals().IncludeDigits, set_->HasTies(), ownSigns_);
 }
 
+/// What is stated for the whole set is seen beside the rows, and is no part of them.
+void frmData2::ShowStatements() {
+    StatementsOfSet stated = set_->UX;
+    for (int n = 1; n <= set_->nVar; ++n) {
+        clsX& item = stated[static_cast<std::size_t>(n)];
+        item = InEnteredUnit(item, original_ ? set_->VAR_UNIT(n) : "S");
+    }
+    tblData.Stated(StatedTexts(columns_, stated));
+    tblData.HeadNotes(HeadNotes(columns_, set_->UX));
+}
+
 /// Lays the columns out anew; cells keep their texts, and the empty columns of a printed table that
 /// stood beside the others stay beside them.
 void frmData2::FillHeader() {
     const TableColumns before = columns_;
     const ui::Grid::Block selected = tblData.Selection();
     columns_ = ColumnsOfSet();
+    ShowStatements();
     if (before.All() == columns_.All()) return;
     const ui::Grid::Batch batch(tblData);
     std::vector<int> places = before.PlacesIn(columns_);

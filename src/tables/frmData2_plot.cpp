@@ -29,11 +29,24 @@ void frmData2::View() {
         own->Cut();
     }
     globals.Plot = FirstPicture(own);
+    NameSystem(*globals.Plot, set_->SystemName(), set_->PRPSETNO);
     ui::Forms::Current().Get("frmGraph").ShowModal();
     const int row = std::exchange(globals.Plot, nullptr)->ChosenRow;
-    if (row == 0) return;
+    if (row > 0) GoToRow(row);
+}
+
+void frmData2::GoToRow(int row) {
+    table_.EndTyping();
     table_.MoveTo(row, columns_.Find(Kind::Value, 0));
     tblData.SetFocus();
+}
+
+/// Drawn after each edit: bars, which take an evaluation of each row, only while rows are few.
+std::shared_ptr<PlotTable> frmData2::PointsBeside() const {
+    constexpr int fewRows = 1000;
+    auto points = std::make_shared<PlotTable>(PointsOfTable(tblData.Rows() < fewRows));
+    points->Cut();
+    return points;
 }
 
 /// What a mixture shows with its other sets comes before the plot of the table's own columns.
@@ -48,20 +61,23 @@ std::shared_ptr<PlotTable> frmData2::FirstPicture(const std::shared_ptr<PlotTabl
 }
 
 /// A table without variables is plotted against the number of the row.
-PlotTable frmData2::PointsOfTable() const {
+PlotTable frmData2::PointsOfTable(bool withUncertainties) const {
     PlotTable table;
+    const std::vector<int> values = ValueColumns();
     if (set_->nVar > 0) table.nVar = set_->nVar;
     NameColumns(table, set_->Quantities());
     const int property = columns_.Find(Kind::Value, 0);
     for (int row = tblData.FixedRows(); row < tblData.Rows(); ++row) {
-        if (!IsNumeric(tblData.Cell(row, property))) continue;
+        const auto isNumber = [&](int column) { return IsNumeric(tblData.Cell(row, column)); };
+        if (!std::ranges::all_of(values, isNumber)) continue;
         PlotTable::Row point{};
         point[0] = Val(tblData.Cell(row, property));
         point[1] = row - tblData.FixedRows() + 1;
         for (int n = 1; n <= set_->nVar; ++n)
             point[static_cast<std::size_t>(n)] =
                 Val(tblData.Cell(row, columns_.Find(Kind::Value, n)));
-        table.Add(point, UncertaintyOf(row), row, table_.Findings().HasHint(row));
+        table.Add(point, withUncertainties ? UncertaintyOf(row) : 0, row,
+                  table_.Findings().HasHint(row));
     }
     return table;
 }

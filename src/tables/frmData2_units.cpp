@@ -100,6 +100,7 @@ void frmData2::TakeUnits(const std::shared_ptr<DataSet>& adjusted,
 void frmData2::ShowUnits() {
     Caption(CaptionText());
     lblColumns.Caption(ColumnsText());
+    ShowStatements();
     mnuSystemUnits.Enabled(original_ && AnyUnitChanges(*set_));
 }
 

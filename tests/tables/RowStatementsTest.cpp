@@ -63,6 +63,56 @@ TEST_F(RowStatementsTest, AnAbsoluteEntryBesidePerCentStaysAbsolute) {
     EXPECT_EQ(Uncertainties(), "0.25;2%;");
 }
 
+TEST_F(RowStatementsTest, WhatTheSetStatesIsSeenAndIsNoText) {
+    TwoVariables();
+    set->isOriginalUnit = true;
+    set->VAR1_UNIT = "K";
+    set->VAR2_UNIT = "MPa";
+    set->UX[0].iUnc = true;
+    set->UX[0].UValue = "1%";
+    set->UX[2].N = 2;
+    set->UX[2].iUnc = set->UX[2].inSystemUnits = true;
+    set->UX[2].UValue = "250"; // kPa
+    OpenTable();
+    Paste("275 1 \t999.80");
+    const auto text = [](const ui::Grid::ColumnTexts& texts) {
+        std::string all;
+        for (const auto& [column, one] : texts)
+            all += std::to_string(column) + " " + one + ";";
+        return all;
+    };
+    EXPECT_EQ(text(form_->tblData.Stated()), "3 0.25;5 1;");
+    EXPECT_EQ(text(form_->tblData.HeadNotes()),
+              "0 Temperature, K;1 Pressure, MPa;3 MPa;4 Density, kg/m3;");
+    EXPECT_EQ(form_->tblData.Cell(1, 3) + form_->tblData.Cell(1, 5), "");
+    Discard();
+    form_->Close();
+}
+
+TEST_F(RowStatementsTest, ThePlotBesideFollowsTheTable) {
+    const auto points = [this] {
+        return std::ranges::count(form_->picBeside.Strokes(), ui::Picture::Shape::Marker,
+                                  &ui::Picture::Stroke::shape);
+    };
+    OpenTable();
+    Paste("275 999.8\n280 999.7\n285 999.6");
+    EXPECT_FALSE(form_->picBeside.Visible());
+    form_->mnuPlotBeside.UserClick();
+    EXPECT_EQ(points(), 3);
+    form_->tblData.UserCell(4, 0, "290"); // no whole row yet
+    EXPECT_EQ(points(), 3);
+    form_->tblData.UserCell(4, 1, "999.5");
+    EXPECT_EQ(points(), 4);
+    form_->mnuUndo.UserClick();
+    EXPECT_EQ(points(), 3);
+    form_->picBeside.OnPress(BesideSize.width - 30, BesideSize.height - 100);
+    EXPECT_EQ(form_->tblData.Display(), "999.6");
+    Discard();
+    form_->Close();
+    OpenTable(); // as the last one was left
+    EXPECT_TRUE(form_->picBeside.Visible() && form_->mnuPlotBeside.Checked());
+}
+
 TEST_F(RowStatementsTest, EntriesBecomePerCentOnlyWhenThatIsMeant) {
     set->UX[0].iUnc = true;
     set->UX[0].UValue = "0.1";
