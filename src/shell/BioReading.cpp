@@ -12,6 +12,7 @@
 #include "reference/Text.h"
 #include "reference/UnitText.h"
 #include "shell/ReadingPage.h"
+#include "shell/SetRows.h"
 
 namespace vexora {
 
@@ -79,6 +80,7 @@ void DescribeRest(ReadingPage& page, const BioSet& set) {
     for (std::size_t place = 0; place < set.Quantities().size(); ++place)
         DescribeQuantity(page, set, place);
     page.Line("Rows:", std::to_string(set.recD.size()));
+    ShowRows(page, set);
     page.Line("Method:", set.Method);
     page.Line("Purpose:", TextOfCode(ExperimentPurposes, set.Header.EXPPURPOSE));
     page.Line("Comment:", CommentTags(set.Header.DATACOMMENT).Text());

@@ -21,6 +21,26 @@ void ReadingPage::Item(std::string_view text) {
     html_ += "<p>" + HtmlOfText(text) + "</p>\n";
 }
 
+void ReadingPage::Table(const std::vector<std::string>& heads,
+                        const std::vector<std::vector<std::string>>& rows) {
+    // The blank between cells parts them where only the text is read.
+    const auto row = [this](const std::vector<std::string>& cells, const std::string& begin,
+                            const std::string& end) {
+        html_ += "<tr>";
+        for (std::size_t n = 0; n < cells.size(); ++n)
+            html_ += (n > 0 ? " " : "") + begin + HtmlOfText(cells[n]) + end;
+        html_ += "</tr>\n";
+    };
+    html_ += "<table cellpadding=\"3\">";
+    row(heads, "<th align=\"right\">", "</th>");
+    const std::string across =
+        "<td align=\"center\" colspan=\"" + std::to_string(heads.size()) + "\">";
+    for (const auto& cells : rows)
+        row(cells, cells.size() == 1 && heads.size() > 1 ? across : "<td align=\"right\">",
+            "</td>");
+    html_ += "</table>";
+}
+
 std::string ReadingPage::Html() const {
     if (missing_.empty()) return html_;
     std::string html = html_ + "<h4>Still missing</h4>\n";

@@ -19,6 +19,9 @@ public:
     /// Does nothing for an empty value.
     void Line(std::string_view what, std::string_view value);
     void Item(std::string_view text);
+    /// A table with numbers to the right; a row of one cell goes across it.
+    void Table(const std::vector<std::string>& heads,
+               const std::vector<std::vector<std::string>>& rows);
     void Need(bool missing, std::string text) {
         if (missing) missing_.push_back(std::move(text));
     }

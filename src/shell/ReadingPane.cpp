@@ -104,6 +104,17 @@ std::string ReadingOf(const clsR& source) {
     return page.Html();
 }
 
+std::string HoldingsOf(const SubstanceSample& sample) {
+    return Counted(sample.recZ.Count(), "single value", "single values") + ", " +
+           Counted(sample.recTwo.Count(), "data set", "data sets");
+}
+
+void ListSets(ReadingPage& page, const SubstanceSample& sample) {
+    for (const auto& set : sample.recTwo)
+        page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
+                  Counted(set->recData.Count(), "row", "rows"));
+}
+
 std::string ReadingOf(const clsL& compound) {
     ReadingPage page(compound.ShowKey());
     page.Line("Formula:", compound.Formula);
@@ -116,6 +127,10 @@ std::string ReadingOf(const clsL& compound) {
     if (compound.Charge != 0)
         page.Line("Charge:", (compound.Charge > 0 ? "+" : "") + std::to_string(compound.Charge));
     page.Line("Samples:", std::to_string(compound.recS.Count()));
+    for (const auto& sample : compound.recS) {
+        page.Line("Sample " + sample->SMPNM + ":", HoldingsOf(*sample));
+        ListSets(page, *sample);
+    }
     page.Need(compound.Formula.empty(), "The formula");
     const auto* source = compound.Parent;
     const bool isNamed = source != nullptr && source->Names(compound.RN);
@@ -144,13 +159,10 @@ void DescribeSample(ReadingPage& page, const clsS& sample) {
 
 /// The data of a sample of a compound or a complex.
 void DescribeData(ReadingPage& page, const SubstanceSample& sample, const std::string& more = {}) {
-    page.Line("Holds:", Counted(sample.recZ.Count(), "single value", "single values") + ", " +
-                            Counted(sample.recTwo.Count(), "data set", "data sets") + more);
+    page.Line("Holds:", HoldingsOf(sample) + more);
     for (const auto& value : sample.recZ)
         page.Line(PropertyName(value->PRPCODE, value->DataContext()) + ":", ValueText(*value));
-    for (const auto& set : sample.recTwo)
-        page.Line(PropertyName(set->PRPCODE, set->DataContext()) + ":",
-                  Counted(set->recData.Count(), "row", "rows"));
+    ListSets(page, sample);
 }
 
 std::string ReadingOf(const clsComplexSample& sample) {

@@ -1,10 +1,11 @@
 #include "shell/SetReading.h"
 
 #include "chem/CommentTags.h"
+#include "entry/TableColumns.h"
 #include "records/MixtureWords.h"
 #include "records/Presentation.h"
+#include "records/PropertyChain.h"
 #include "records/PropertyLabels.h"
-#include "records/RowMasses.h"
 #include "records/StateRules.h"
 #include "records/StatedUncertainty.h"
 #include "records/clsE.h"
@@ -18,6 +19,7 @@
 #include "reference/UnitText.h"
 #include "reference/Vocabulary.h"
 #include "shell/ReadingPage.h"
+#include "shell/SetRows.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -29,19 +31,13 @@ namespace {
 // The least and the greatest value of quantity n (0 the property) as typed. A set that holds rows
 // of both kinds is read in system units.
 std::string RangeOf(const DataSet& set, int n) {
-    const bool inSystem = set.HasBothKinds();
-    UnitConversion entered = set.Conversion(n);
-    const bool byRow = n == 0 && set.ConvertsByRow();
-    RowMasses masses(set);
+    ShownValues values(set);
     std::string least, greatest;
     double low = 0, high = 0;
     for (const clsData& row : set.recData) {
-        const std::string typed = row.Values[static_cast<std::size_t>(n)];
-        if (!IsNumeric(typed)) continue;
-        const bool converts = inSystem && row.inOriginalUnits;
-        if (converts && byRow) entered.molarMass = masses.Of(row);
-        const double value = converts ? entered.Absolute(Val(typed)) : Val(typed);
-        const std::string text = converts ? entered.Converted(typed).text : typed;
+        const std::string text = values.Of(row, n);
+        if (!IsNumeric(text)) continue;
+        const double value = Val(text);
         if (least.empty() || value < low) {
             low = value;
             least = text;
@@ -95,6 +91,23 @@ std::string VariableInWords(const DataSet& set, int n) {
     return LowerAscii(name.empty() ? set.VARIABLE(n) : name);
 }
 
+/// Of each quantity what is stated for all rows.
+void DescribeUncertainty(ReadingPage& page, const DataSet& set) {
+    StatementsOfSet ofRows;
+    MarkStatementsOfRows(set.recData, ofRows);
+    const bool original = set.isOriginalUnit && !set.HasBothKinds();
+    DescribeStatements(page, "the values", PropertyUnitText(set), set.UX[0], ofRows[0]);
+    for (int n = 1; n <= set.nVar; ++n) {
+        const auto at = static_cast<std::size_t>(n);
+        DescribeStatements(page, VariableInWords(set, n), VariableUnitText(set, n),
+                           InEnteredUnit(set.UX[at], original ? set.VAR_UNIT(n) : "S"), ofRows[at]);
+    }
+}
+
+std::string WithUnitBehind(const std::string& name, const std::string& unit) {
+    return FirstCapital(name) + (unit.empty() || unit == "1" ? "" : ", " + unit);
+}
+
 void DescribeRows(ReadingPage& page, const DataSet& set) {
     for (int n = 1; n <= set.nVar; ++n) {
         const std::string unit = VariableUnitText(set, n);
@@ -105,7 +118,13 @@ void DescribeRows(ReadingPage& page, const DataSet& set) {
     const std::string unit = PropertyUnitText(set);
     const std::string range = WithUnitIfAny(RangeOf(set, 0), unit);
     page.Line("Values:", range.empty() && unit != "1" ? unit : range);
+    DescribeUncertainty(page, set);
     page.Line("Rows:", std::to_string(set.recData.Count()));
+    std::vector<std::string> heads;
+    for (int n = 1; n <= set.nVar; ++n)
+        heads.push_back(WithUnitBehind(VariableInWords(set, n), VariableUnitText(set, n)));
+    heads.push_back(WithUnitBehind("value", unit));
+    ShowRows(page, set, heads);
     if (set.HasBothKinds()) page.Item("Some rows stand in the units of the paper, some do not.");
 }
 

@@ -5,6 +5,7 @@
 #include "records/RoundTripFixture.h"
 #include "shell/ReadingPane.h"
 #include "support/Xml.h"
+#include "ui/Html.h"
 
 namespace vexora {
 namespace {
@@ -211,6 +212,28 @@ TEST_F(SetExport, SetsAreCheckedAndReadInWords) {
           "<p><b>Rows:</b> 4</p>", "<p><b>Constraint:</b> Derived property</p>",
           "<p>A statement of uncertainty</p>"})
         EXPECT_NE(page.find(line), std::string::npos) << line << "\n" << page;
+}
+
+TEST_F(SetExport, ThePageOfASetTellsItsStatementsAndItsEnds) {
+    std::string rows;
+    for (int t = 10; t < 20; ++t)
+        rows += "\n^d " + std::to_string(t) + " 100 99" + std::to_string(t) + " &";
+    Read(test::kHead + "^A & O & & & & & &\n" + kDensity + rows + "\n^M 0\n");
+    DataSet& set = Set();
+    set.UX[0].iUnc = set.UX[1].iRep = true;
+    set.UX[0].UValue = "0.5";
+    set.UX[0].ULevel = "95";
+    set.UX[1].RValue = "2%";
+    set.UX[1].Repetitions = "3";
+    set.recData.Item(std::size_t{9})->Statements(0).Unc = "0.8";
+    const std::string page = ui::TextOfHtml(ReadingHtml(&Set()));
+    const std::size_t from = page.find("Uncertainty");
+    EXPECT_EQ(page.substr(from, page.find("Constraint") - from),
+              "Uncertainty of the values: 0.5 kg/m3 (95 % confidence), some rows with their own\n"
+              "Repeatability of temperature: 2% (3 repetitions)\nRows: 10\n"
+              "Temperature, C Pressure, kPa Value, kg/m3\n"
+              "10 100 9910\n11 100 9911\n12 100 9912\n\u2026 4 rows \u2026\n17 100 9917\n"
+              "18 100 9918 \u00B1 0.8\n19 100 9919\n");
 }
 
 } // namespace

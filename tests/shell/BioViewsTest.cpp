@@ -30,14 +30,17 @@ protected:
 
 TEST_F(BioViews, ThePaneReadsBioSetsInWords) {
     ASSERT_TRUE(Start(WriteBio()));
-    EXPECT_EQ(LinesOf(ReadingHtml(&TheReaction())),
-              std::string(Reaction) +
-                  "\nNotation: biochemical\nD-glucose: C6H12O6, sample 1, Solution\n"
-                  "D-fructose: C6H12O6, Solution\nSolvent: water, H2O, sample 1, Solution\n"
-                  "Apparent equilibrium constant (molaLity): 0.92 to 1.10 \u00B1 0.01\n"
-                  "Against temperature: 298.15 to 313.15 K, each row with its uncertainty\n"
-                  "Constant pH (Solution): 7.0\nRows: 2\nMethod: Liquid chromatography\n"
-                  "Purpose: Principal objective of the work\n");
+    EXPECT_EQ(
+        LinesOf(ReadingHtml(&TheReaction())),
+        std::string(Reaction) +
+            "\nNotation: biochemical\nD-glucose: C6H12O6, sample 1, Solution\n"
+            "D-fructose: C6H12O6, Solution\nSolvent: water, H2O, sample 1, Solution\n"
+            "Apparent equilibrium constant (molaLity): 0.92 to 1.10 \u00B1 0.01\n"
+            "Against temperature: 298.15 to 313.15 K, each row with its uncertainty\n"
+            "Constant pH (Solution): 7.0\nRows: 2\n"
+            "Apparent equilibrium constant (molaLity) Temperature, K\n"
+            "0.92 298.15 \u00B1 0.05\n1.10 313.15 \u00B1 0.05\nMethod: Liquid chromatography\n"
+            "Purpose: Principal objective of the work\n");
     EXPECT_EQ(LinesOf(ReadingHtml(&TheTransition())),
               std::string(Transition) +
                   "\nSubstance: lysozyme, C613H959N193O185S10, EC 3.2.1.17, PDB 1LYZ, sample 1\n"
@@ -47,6 +50,8 @@ TEST_F(BioViews, ThePaneReadsBioSetsInWords) {
                   "Temperature of 1/2 conversion: 340 to 348.6 K\n"
                   "Against pH (Solution): 3 to 4.5\n"
                   "Constant ionic strength (molaRity basis) (Solution): 0.1 mol/dm3\nRows: 2\n"
+                  "Enthalpy of transition, kJ/mol Temperature of 1/2 conversion, K pH (Solution)\n"
+                  "509 348.6 4.5\n430 340 3\n"
                   "Method: Differential scanning calorimetry\n"
                   "Purpose: Principal objective of the work\n");
     TheReaction().recD.clear();

@@ -55,6 +55,7 @@ TEST_F(ComplexViews, ThePaneReadsComplexesSamplesAndStructures) {
               "Gas: methane, CH4\nWater: water, H2O, sample 1\n"
               "Pressure (Gas): 2.76 to 2.90 MPa \u00B1 1%\n"
               "Against temperature (Liquid): 273.7 to 274.3 K \u00B1 0.1\nRows: 2\n"
+              "Pressure (Gas), MPa Temperature (Liquid), K\n2.76 273.7\n2.90 274.3\n"
               "Method: Last crystal\nPurpose: Principal objective of the work\n"
               "Entered: 1/15/2026\n");
     EXPECT_EQ(

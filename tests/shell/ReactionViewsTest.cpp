@@ -57,7 +57,9 @@ TEST_F(ReactionViews, ThePaneReadsReactionsAndTheirDataInWords) {
               "Reaction: dinitrogen tetroxide = 2 nitrogen dioxide\n"
               "Against temperature: 25 to 35 C\n"
               "Against initial mole fraction of dinitrogen tetroxide: 0.5\n"
-              "Values: 0.146 to 0.32\nRows: 2\nData are: Experimental values\n"
+              "Values: 0.146 to 0.32\nRows: 2\n"
+              "Temperature, C Initial mole fraction of dinitrogen tetroxide Value\n"
+              "25 0.5 0.146\n35 0.5 0.32\nData are: Experimental values\n"
               "Constant pressure: 101.325 kPa\n"
               "Gas: dinitrogen tetroxide, nitrogen dioxide\nSet: 1\n"
               "Still missing\nA statement of uncertainty\n");
