@@ -4,11 +4,9 @@
 #include <iterator>
 
 #include "chem/clsMethod.h"
+#include "entry/SystemInHand.h"
 #include "globals/FormChain.h"
 #include "globals/KVOGlobal.h"
-#include "records/clsL.h"
-#include "records/clsM.h"
-#include "records/clsQ.h"
 #include "ui/Desktop.h"
 #include "ui/Forms.h"
 
@@ -18,16 +16,6 @@ namespace {
 
 const std::string Title = "Property and experimental method";
 constexpr int HelpPropertyList = 30;
-
-/// The mixture, reaction or compound that the data are of.
-std::string SystemInHand() {
-    const KVOGlobal& globals = Globals();
-    if (globals.DataContext == "React")
-        return globals.CurrentQ ? globals.CurrentQ->ShowKey() : std::string();
-    if (IsMixtureContext(globals.DataContext))
-        return globals.CurrentM ? globals.CurrentM->ShowKey() : std::string();
-    return globals.CurrentL ? globals.CurrentL->ShowKey() : std::string();
-}
 
 } // namespace
 

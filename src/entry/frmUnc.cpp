@@ -1,5 +1,7 @@
 #include "entry/frmUnc.h"
 
+#include <algorithm>
+
 #include "globals/KVOGlobal.h"
 #include "ui/Desktop.h"
 
@@ -125,6 +127,12 @@ void frmUnc::Load() {
          std::initializer_list<ui::Control*>{&lblKVOU, &txtKVOU, &lblKVOunit})
         control->Visible(false);
     txtKVOU.Enabled(false);
+    const auto isOn = [](const ui::Control* control) {
+        const auto* mark = dynamic_cast<const ui::CheckBox*>(control);
+        return mark && mark->Value() && mark->IsUsable();
+    };
+    if (const auto used = std::ranges::find_if(Controls(), isOn); used != Controls().end())
+        (*used)->SetFocus();
 }
 
 /// The check box of a block opens its fields.

@@ -8,6 +8,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "qt/FormWindow.h"
+#include "qt/Prompts.h"
 #include "qt/Text.h"
 
 namespace vexora::qt {
@@ -30,9 +32,13 @@ Box::StandardButton StandardOf(ui::Answer answer) {
 
 std::unique_ptr<QMessageBox> MakeMessageBox(const ui::Message& message, QWidget* parent) {
     const bool question = message.buttons != ui::MessageButtons::Ok;
+    const auto* window = dynamic_cast<const FormWindow*>(parent);
+    const QString text = window && !window->IsDetached()
+                             ? WithCaptions(ToQt(message.text), window->Model())
+                             : ToQt(message.text);
     const QString title = message.title.empty() ? QStringLiteral("Vexora") : ToQt(message.title);
     auto box = std::make_unique<QMessageBox>(
-        question ? QMessageBox::Question : QMessageBox::Information, title, ToQt(message.text),
+        question ? QMessageBox::Question : QMessageBox::Information, title, text,
         ButtonsOf[static_cast<std::size_t>(message.buttons)], parent);
     box->setTextFormat(Qt::PlainText);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse);

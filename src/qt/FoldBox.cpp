@@ -1,6 +1,7 @@
 #include "qt/FoldBox.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QMouseEvent>
 
 namespace vexora::qt {
@@ -21,6 +22,9 @@ void FoldBox::Fold(bool folded) {
     if (!content_ || folded_ == folded) return;
     folded_ = folded;
     content_->setVisible(!folded);
+    setFlat(folded);
+    if (folded) margins_ = layout()->contentsMargins();
+    layout()->setContentsMargins(folded ? QMargins() : margins_);
     ShowCaption();
 }
 

@@ -28,6 +28,7 @@ private:
 
     QString caption_;
     QWidget* content_ = nullptr;
+    QMargins margins_; // around the content
     bool folded_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+#include "entry/SystemInHand.h"
 #include "qt/RecentFiles.h"
 #include "qt/Text.h"
 #include "qt/Windows.h"
@@ -53,7 +54,7 @@ void FormWindow::OpenDropped(const std::string& path) {
 }
 
 void FormWindow::DrawTitle() {
-    QString title = ToQt(form_.Caption());
+    QString title = ToQt(TitleOf(form_)).replace("[*]", "[*][*]");
     const auto* document = dynamic_cast<const ui::DocumentForm*>(&form_);
     if (document && !document->DocumentName().empty()) {
         const QString name = ToQt(document->DocumentName()).replace("[*]", "[*][*]");

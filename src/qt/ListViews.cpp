@@ -80,7 +80,8 @@ void ComboView::Draw() {
         QStringList texts;
         for (const std::string& item : shown_)
             texts << ToQt(item);
-        if (model_.FirstIsPrompt && !texts.isEmpty()) texts.front() = PromptInWords(texts.front());
+        if (model_.FirstIsPrompt && !texts.isEmpty())
+            texts.front() = PromptInWords(WithCaptions(texts.front(), model_.Owner()));
         own_->clear();
         own_->addItems(texts);
         if (model_.FirstIsPrompt && !texts.isEmpty())
@@ -241,7 +242,7 @@ void ListView::Fill() {
     for (const std::string& text : shown_) {
         auto* item = new QListWidgetItem(ToQt(text), own_);
         if (model_.FirstIsPrompt && own_->count() == 1) {
-            item->setText(PromptInWords(item->text()));
+            item->setText(PromptInWords(WithCaptions(item->text(), model_.Owner())));
             item->setForeground(own_->palette().brush(QPalette::PlaceholderText));
         }
         if (!HasChecks()) continue;

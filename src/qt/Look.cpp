@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -16,7 +17,8 @@ QPalette Palette(bool dark) {
     const QColor button = dark ? QColor(0x4A, 0x4E, 0x54) : QColor(0xF8, 0xF8, 0xF8);
     const QColor base = dark ? QColor(0x2A, 0x2C, 0x30) : QColor(0xFF, 0xFF, 0xFF);
     const QColor text = dark ? QColor(0xEC, 0xEC, 0xEC) : QColor(0x1B, 0x1B, 0x1B);
-    const QColor faint = dark ? QColor(0x9A, 0x9A, 0x9A) : QColor(0x8A, 0x8A, 0x8A);
+    const QColor faint = dark ? QColor(0x90, 0x90, 0x90) : QColor(0x8A, 0x8A, 0x8A);
+    const QColor hint = dark ? QColor(0xB6, 0xB6, 0xB6) : QColor(0x70, 0x70, 0x70);
     const QColor accent = dark ? QColor(0x3D, 0x7E, 0xC4) : QColor(0x2F, 0x6F, 0xB5);
     QPalette palette(button, window);
     palette.setColor(QPalette::Base, base);
@@ -26,7 +28,7 @@ QPalette Palette(bool dark) {
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, dark ? accent.lighter(150) : accent);
-    palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::PlaceholderText, hint);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, text);
         palette.setColor(QPalette::Disabled, role, faint);
@@ -112,7 +114,7 @@ public:
         if (isRound)
             painter->drawEllipse(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
         else
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->drawRect(option->rect.adjusted(0, isBox ? BelowTitle(widget) : 0, -1, -1));
         painter->restore();
     }
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -123,6 +125,10 @@ public:
     }
 
 private:
+    static int BelowTitle(const QWidget* widget) {
+        const auto* group = qobject_cast<const QGroupBox*>(widget);
+        return group && !group->title().isEmpty() ? group->fontMetrics().height() + 2 : 0;
+    }
     static QColor Between(const QColor& one, const QColor& other) {
         return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
                 (one.blue() + other.blue()) / 2};

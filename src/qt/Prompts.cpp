@@ -17,6 +17,17 @@ QString PromptInWords(const QString& prompt) {
     return words + prompt.mid(quote, behind - quote) + prompt.mid(behind).toLower();
 }
 
+QString WithCaptions(QString text, const ui::Form& form) {
+    for (const ui::Control* control : form.Controls()) {
+        if (control->Kind() != ui::ControlKind::CommandButton) continue;
+        const QString caption = ToQt(control->Display()).simplified();
+        const QString first = caption.section(u' ', 0, 0);
+        if (first != caption)
+            text.replace(u'"' + first + u'"', u'"' + caption + u'"', Qt::CaseSensitive);
+    }
+    return text;
+}
+
 bool IsPrompted(const ui::Control& field, const std::string& text) {
     return !field.Hint().empty() && text == field.Hint();
 }

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "ui/Lists.h"
+#include "ui/Form.h"
 #include "ui/TextBox.h"
 
 namespace vexora::qt {
@@ -18,5 +18,9 @@ bool IsPrompted(const ui::Control& field, const std::string& text);
 /// readable of a text that is stored with marks while nobody edits it.
 QString ShownText(const ui::TextBox& box);
 QString ShownText(const ui::ComboBox& box);
+
+/// The text with each quoted first word of a button of the form ("Create") in its full caption, as
+/// a person sees it there.
+QString WithCaptions(QString text, const ui::Form& form);
 
 } // namespace vexora::qt

@@ -99,5 +99,5 @@ int main(int count, char** arguments) {
     QApplication::setWindowIcon(vexora::qt::ApplicationIcon());
     if (request.plays) return Play(request, arguments[0]);
     const auto places = vexora::host::FindPlaces(request.home, arguments[0]);
-    return vexora::qt::RunInteractive(application, places, request.document);
+    return vexora::qt::RunInteractive(application, places, request.document, request.look);
 }

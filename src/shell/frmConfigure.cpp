@@ -35,8 +35,9 @@ frmConfigure::frmConfigure() : Form("frmConfigure", "Vexora Input: Configuration
                      ui::Field("VXR local database:", txtLocalDB),
                      ui::Field("Configuration database:", txtCompoundDB),
                      ui::Field("Output folder:", txtOutDir)}),
-         ui::Group(fraMode, {ui::Row({optSimple, optAdvanced})}), chkBio, chkGH, ui::Stretch(),
-         ui::ButtonRow({cmdHelp, cmdAccept, cmdCancel})});
+         ui::Group(fraMode, {ui::Row({optSimple, optAdvanced})}),
+         ui::Group(fraLook, {ui::Row({optLookDesktop, optLookLight, optLookDark})}), chkBio, chkGH,
+         ui::Stretch(), ui::ButtonRow({cmdHelp, cmdAccept, cmdCancel})});
     UseButtons(cmdAccept, cmdCancel, [this] { cmdAccept_Click(); });
     HelpContext = 610;
     PreferredColumns = 70;
@@ -65,6 +66,20 @@ void frmConfigure::Load() {
     (globals.AdvancedMode ? optAdvanced : optSimple).Value(true);
     chkBio.Value(globals.BioEnabled);
     chkGH.Value(globals.GHEnabled);
+    ShowLook();
+}
+
+void frmConfigure::ShowLook() {
+    const Look look = TheLook().Chosen;
+    (look == Look::Dark    ? optLookDark
+     : look == Look::Light ? optLookLight
+                           : optLookDesktop)
+        .Value(true);
+}
+
+Look frmConfigure::ChosenLook() const {
+    if (optLookDark.Value()) return Look::Dark;
+    return optLookLight.Value() ? Look::Light : Look::OfDesktop;
 }
 
 void frmConfigure::LettersOnly(ui::TextBox& box) {
@@ -141,6 +156,7 @@ void frmConfigure::Store() {
     globals.AdvancedMode = optAdvanced.Value();
     globals.BioEnabled = chkBio.Value();
     globals.GHEnabled = chkGH.Value();
+    TheLook().Take(ChosenLook());
 }
 
 /// A folder that came with a document holds for this run; only one that was typed is written.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "shell/LookChoice.h"
 #include "ui/Form.h"
 #include "ui/TextBox.h"
 
@@ -24,6 +25,10 @@ public:
     ui::Frame fraMode{*this, "fraMode", "Mode"};
     ui::OptionButton optSimple{*this, "optSimple", "Standard"};
     ui::OptionButton optAdvanced{*this, "optAdvanced", "Advanced"};
+    ui::Frame fraLook{*this, "fraLook", "Look"};
+    ui::OptionButton optLookDesktop{*this, "optLookDesktop", "As the desktop", 1};
+    ui::OptionButton optLookLight{*this, "optLookLight", "Light", 1};
+    ui::OptionButton optLookDark{*this, "optLookDark", "Dark", 1};
     ui::CheckBox chkBio{*this, "chkBio", "Support Bio properties"};
     ui::CheckBox chkGH{*this, "chkGH", "Support Gas hydrate data"};
     ui::CommandButton cmdHelp{*this, "cmdHelp", "&Help"};
@@ -43,6 +48,8 @@ private:
     bool OpenBothDatabases();
     bool CheckUser();
     void Store();
+    void ShowLook();
+    Look ChosenLook() const;
     void WriteDown() const;
     bool HasConfiguredDatabases() const;
 

@@ -148,6 +148,7 @@ void frmAuthor::cmdVerify_Click() {
     if (known_.empty())
         return ui::Say("Author not found\n\n"
                        "Please complete the Last Name and First Name, then CLICK \"Add\"");
+    cboAuthor.FirstIsPrompt = true;
     cboAuthor.Add("CLICK selection, then CLICK \"Add\"");
     for (const auto& author : known_)
         cboAuthor.Add(author->FULLNM);

@@ -34,8 +34,8 @@ frmRef::frmRef() : ChainForm("frmRef", "Add reference") {
         {ui::Note("(1) Enter the year of publication and the first 3 letters of the 1st and\n"
                   "    2nd (if present) authors' names, then click \"Search\""),
          ui::Note("(2) If the desired reference appears in \"Search Results\", select it and\n"
-                  "    click \"Accept\""),
-         ui::Note("(3) If not found, click \"Create new document description\""),
+                  "    CLICK \"Accept\""),
+         ui::Note("(3) If not found, CLICK \"Create new document description\""),
          ui::Field("Year of publication:", ui::Narrow(txtYear, 6)),
          ui::Field("Author 1:", ui::Narrow(txtAut1, 6)),
          ui::Field("Author 2:", ui::Narrow(txtAut2, 6)), ui::Row({cmdVerify, ui::Stretch()}),

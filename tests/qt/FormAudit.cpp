@@ -1,11 +1,15 @@
 #include "qt/FormAudit.h"
 
+#include <algorithm>
+
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionComboBox>
@@ -42,6 +46,12 @@ QSize NeededBy(QWidget& widget) {
     return qobject_cast<QAbstractButton*>(&widget) ? widget.sizeHint() : widget.minimumSizeHint();
 }
 
+bool Stands(const ui::Control& control, const ui::Layout& layout) {
+    return layout.control == &control || layout.label == &control ||
+           std::ranges::any_of(layout.parts,
+                               [&](const auto& part) { return Stands(control, part); });
+}
+
 bool CutsItsEntry(const QComboBox& box) {
     QStyleOptionComboBox option;
     option.initFrom(&box);
@@ -76,6 +86,9 @@ void FormAudit::LookAt(FormWindow& window) {
     if (window.isActiveWindow() && !QApplication::focusWidget())
         Fault(window, window, "has the keyboard nowhere");
     LookForCuts(window);
+    LookForLetters(window);
+    LookForNames(window);
+    LookForStrays(window);
     WalkByTab(window);
     AskForHelp(window);
     if (Marked.insert({window.Model().Name(), 0}).second) LookForMarks(window);
@@ -104,6 +117,49 @@ void FormAudit::LookForCuts(FormWindow& window) {
             Fault(window, *widget, "reaches out of the window");
         const auto* box = qobject_cast<QComboBox*>(widget);
         if (box && CutsItsEntry(*box)) Fault(window, *widget, "cuts its entry");
+    }
+}
+
+// The letter behind the mark of a menu, a button or a label.
+void FormAudit::LookForLetters(FormWindow& window) {
+    std::map<QString, const QWidget*> owners;
+    const auto claim = [&](const QString& text, const QWidget& widget) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        if (letter.isEmpty()) return;
+        if (!owners.emplace(letter, &widget).second)
+            Fault(window, widget, "shares " + FromQt(letter));
+    };
+    for (const QAction* action : window.menuBar()->actions())
+        if (action->isVisible()) claim(action->text(), *window.menuBar());
+    for (const QAbstractButton* button : window.centralWidget()->findChildren<QAbstractButton*>())
+        if (button->isVisible()) claim(button->text(), *button);
+    for (const QLabel* label : window.centralWidget()->findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy()) claim(label->text(), *label);
+}
+
+void FormAudit::LookForNames(FormWindow& window) {
+    for (const ui::Control* control : window.Model().Controls()) {
+        QWidget* widget = WidgetOf(window, *control);
+        const bool isSeen = control->TakesFocus() ||
+                            control->Kind() == ui::ControlKind::ToolButton ||
+                            control->Kind() == ui::ControlKind::Picture;
+        if (!widget || !isSeen || !widget->isVisible()) continue;
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+        if (!spoken || spoken->text(QAccessible::Name).trimmed().isEmpty())
+            Fault(window, *widget, "has no name to be spoken");
+    }
+}
+
+// What the layout forgot comes up all the same, below everything else.
+void FormAudit::LookForStrays(FormWindow& window) {
+    const ui::Layout& layout = window.Model().Arrangement;
+    if (layout.kind == ui::Layout::Kind::Column && layout.parts.empty()) return;
+    for (const ui::Control* control : window.Model().Controls()) {
+        const QWidget* widget = WidgetOf(window, *control);
+        const bool inBar = control->Kind() == ui::ControlKind::Toolbar ||
+                           control->Kind() == ui::ControlKind::ToolButton;
+        if (!inBar && widget && widget->isVisible() && !Stands(*control, layout))
+            Fault(window, *widget, "stands outside of the layout");
     }
 }
 

@@ -9,7 +9,9 @@
 namespace vexora::qt::test {
 
 /// Plays sessions, and looks at each form as it comes up: whether texts are cut off, whether Tab
-/// goes down and to the right, and whether the control with the keyboard shows it.
+/// goes down and to the right, whether the control with the keyboard shows it, whether two things
+/// answer to one letter, whether a screen reader has a name for each field, and whether all of them
+/// stand in the layout.
 class FormAudit : public QtActor {
 public:
     void Settle() override;
@@ -28,6 +30,9 @@ private:
     void LookForCuts(FormWindow& window);
     void WalkByTab(FormWindow& window);
     void LookForMarks(FormWindow& window);
+    void LookForLetters(FormWindow& window);
+    void LookForNames(FormWindow& window);
+    void LookForStrays(FormWindow& window);
     void AskForHelp(FormWindow& window);
     void Fault(const FormWindow& window, const QWidget& widget, const std::string& what);
 
