@@ -77,11 +77,7 @@ void ComboView::Draw() {
     const int caret = model_.IsEditable() ? own_->lineEdit()->cursorPosition() : 0;
     if (shown_ != model_.Items()) {
         shown_ = model_.Items();
-        QStringList texts;
-        for (const std::string& item : shown_)
-            texts << ToQt(item);
-        if (model_.FirstIsPrompt && !texts.isEmpty())
-            texts.front() = PromptInWords(WithCaptions(texts.front(), model_.Owner()));
+        const QStringList texts = ShownEntries(model_);
         own_->clear();
         own_->addItems(texts);
         if (model_.FirstIsPrompt && !texts.isEmpty())
@@ -238,13 +234,12 @@ void ListView::HandOver() {
 
 void ListView::Fill() {
     shown_ = model_.Items();
+    readable_ = model_.Readable();
     own_->clear();
-    for (const std::string& text : shown_) {
-        auto* item = new QListWidgetItem(ToQt(text), own_);
-        if (model_.FirstIsPrompt && own_->count() == 1) {
-            item->setText(PromptInWords(WithCaptions(item->text(), model_.Owner())));
+    for (const QString& text : ShownEntries(model_)) {
+        auto* item = new QListWidgetItem(text, own_);
+        if (model_.FirstIsPrompt && own_->count() == 1)
             item->setForeground(own_->palette().brush(QPalette::PlaceholderText));
-        }
         if (!HasChecks()) continue;
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
@@ -262,7 +257,7 @@ void ListView::Fill() {
 }
 
 void ListView::Draw() {
-    if (shown_ != model_.Items()) Fill();
+    if (shown_ != model_.Items() || readable_ != model_.Readable()) Fill();
     if (IsSingle()) {
         if (own_->currentRow() != model_.Index()) own_->setCurrentRow(model_.Index());
         return;

@@ -84,6 +84,7 @@ private:
     void HandOver();
 
     std::vector<std::string> shown_;
+    std::string readable_;
 };
 
 class TabView : public ViewOf<ui::TabStrip, Keyed<QTabBar>> {

@@ -42,4 +42,15 @@ QString ShownText(const ui::ComboBox& box) {
     return IsPrompted(box, box.Text()) ? QString() : ToQt(box.Text());
 }
 
+QStringList ShownEntries(const ui::ItemList& list) {
+    QStringList texts;
+    for (const std::string& item : list.Items())
+        texts << ToQt(item);
+    const QStringList lines = ToQt(list.Readable()).split(u'\n');
+    if (!list.Readable().empty() && lines.size() == texts.size()) texts = lines;
+    if (list.FirstIsPrompt && !texts.isEmpty())
+        texts.front() = PromptInWords(WithCaptions(texts.front(), list.Owner()));
+    return texts;
+}
+
 } // namespace vexora::qt

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include "ui/Form.h"
 #include "ui/TextBox.h"
@@ -18,6 +18,10 @@ bool IsPrompted(const ui::Control& field, const std::string& text);
 /// readable of a text that is stored with marks while nobody edits it.
 QString ShownText(const ui::TextBox& box);
 QString ShownText(const ui::ComboBox& box);
+
+/// The entries of a list as they are drawn: its prompt in words, and in place of entries that are
+/// stored with marks the lines of what is readable of it, one an entry.
+QStringList ShownEntries(const ui::ItemList& list);
 
 /// The text with each quoted first word of a button of the form ("Create") in its full caption, as
 /// a person sees it there.

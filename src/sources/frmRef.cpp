@@ -1,6 +1,7 @@
 #include "sources/frmRef.h"
 
 #include "globals/KVOGlobal.h"
+#include "records/SourceText.h"
 #include "records/clsR.h"
 #include "reference/KVODefinitions.h"
 #include "reference/Numbers.h"
@@ -89,8 +90,12 @@ void frmRef::cmdVerify_Click() {
     if (rows_.empty())
         return ui::Say("Reference not found\nClick \"Create\" button to describe a new source");
     lstSourceDoc.Add("SELECT A DOCUMENT HERE OR CLICK \"Create\" BUTTON");
-    for (const Row& row : rows_)
+    std::string readable = lstSourceDoc.Item(0);
+    for (const Row& row : rows_) {
         lstSourceDoc.Add(row.SOURCE);
+        readable += '\n' + PublicationInWords(row.SOURCE);
+    }
+    lstSourceDoc.Readable(std::move(readable));
     lstSourceDoc.Index(0);
     lstSourceDoc.SetFocus();
 }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 
 #include <gtest/gtest.h>
@@ -23,7 +24,7 @@ public:
     frmFields() : Form("frmFields", "Fields") {
         using namespace ui;
         Arrangement = Column({Field("Journal:", cboJournal), Field("Title:", txtTitle),
-                              Field("Source:", txtSource), Field("Type:", lstType),
+                              Field("Source:", txtSource), Field("Type:", lstType), lstFound,
                               Group(fraOne, {Field(chkOne, txtOne)}),
                               Group(fraTwo, {Field(chkTwo, txtTwo)}), ButtonRow({cmdCreate})});
         cboJournal.Hint("SELECT OR TYPE JOURNAL TITLE HERE");
@@ -36,12 +37,16 @@ public:
         lstType.FirstIsPrompt = true;
         lstType.Assign({"CLICK \"Create\" BUTTON", "Article"});
         lstType.Index(0);
+        lstFound.Assign({"SELECT ONE", "@Fluid@ $2$"});
+        lstFound.FirstIsPrompt = true;
+        lstFound.Readable("SELECT ONE\nFluid 2");
         chkTwo.Value(true);
     }
     ui::ComboBox cboJournal{*this, "cboJournal", ui::ComboBox::Style::Editable};
     ui::TextBox txtTitle{*this, "txtTitle"};
     ui::TextBox txtSource{*this, "txtSource"};
     ui::ComboBox lstType{*this, "lstType"};
+    ui::ListBox lstFound{*this, "lstFound"};
     ui::Frame fraOne{*this, "fraOne", "One"};
     ui::CheckBox chkOne{*this, "chkOne", "Device"};
     ui::TextBox txtOne{*this, "txtOne"};
@@ -87,11 +92,12 @@ TEST_F(FieldsTest, PromptsAreHintsAndMarksAreNotRead) {
                                    title.text(),
                                    title.placeholderText(),
                                    Widget<QLineEdit>(form_.txtSource).text(),
-                                   Widget<QComboBox>(form_.lstType).currentText()};
+                                   Widget<QComboBox>(form_.lstType).currentText(),
+                                   Widget<QListWidget>(form_.lstFound).item(1)->text()};
         return FromQt(texts.join(u'|'));
     };
     EXPECT_EQ(shown(), "|Select or type journal title here||Enter or paste title here|"
-                       "J. Phys. 31, 7|Click \"Create new description\" button");
+                       "J. Phys. 31, 7|Click \"Create new description\" button|Fluid 2");
     EXPECT_TRUE(form_.cboJournal.HasFocus()) << "nothing has been entered there";
     PressAndRelease(&Widget<QComboBox>(form_.cboJournal), {Qt::Key_A, Qt::NoModifier, "a"});
     form_.txtTitle.Text("Densities");
@@ -100,7 +106,7 @@ TEST_F(FieldsTest, PromptsAreHintsAndMarksAreNotRead) {
     windows_.Flush();
     EXPECT_EQ(form_.cboJournal.Text(), "a");
     EXPECT_EQ(shown(), "a|Select or type journal title here|Densities|Enter or paste title here|"
-                       "@J. Phys.@ $31$, 7|Article");
+                       "@J. Phys.@ $31$, 7|Article|Fluid 2");
     const auto box = MakeMessageBox({"Click \"Create\" button", ""}, windows_.WindowOf(form_));
     EXPECT_EQ(FromQt(box->text()), "Click \"Create new description\" button");
 }
