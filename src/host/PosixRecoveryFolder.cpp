@@ -42,7 +42,8 @@ int Lock(const std::string& copy, std::string& error) {
             return -1;
         }
         // The program before may have removed it between the two calls.
-        struct stat locked {}, present {};
+        struct stat locked {
+        }, present{};
         if (::fstat(file, &locked) == 0 && ::stat(path.c_str(), &present) == 0 &&
             locked.st_ino == present.st_ino && locked.st_dev == present.st_dev)
             return file;
@@ -127,9 +128,8 @@ std::vector<std::string> PosixRecoveryFolder::Orphans() {
         RemoveHalfWritten(copy);
         orphans_.push_back({copy, lock});
     }
-    std::ranges::sort(orphans_, [](const Held& a, const Held& b) {
-        return TimeOf(a.copy) > TimeOf(b.copy);
-    });
+    std::ranges::sort(orphans_,
+                      [](const Held& a, const Held& b) { return TimeOf(a.copy) > TimeOf(b.copy); });
     std::vector<std::string> copies;
     for (const Held& one : orphans_)
         if (Exists(one.copy)) copies.push_back(one.copy);

@@ -1,6 +1,7 @@
 #include "shell/Recovery.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 #include "globals/KVOGlobal.h"
@@ -8,6 +9,7 @@
 #include "records/RecordReader.h"
 #include "records/clsR.h"
 #include "reference/Database.h"
+#include "reference/Numbers.h"
 #include "reference/SafeFile.h"
 #include "reference/Text.h"
 #include "shell/Paths.h"
@@ -34,6 +36,77 @@ std::string_view TakeLine(std::string_view& text) {
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(end == text.npos ? text.size() : end + 1);
     return line;
+}
+
+void GatherNodes(const std::vector<std::unique_ptr<ui::TreeNode>>& nodes,
+                 std::vector<ui::TreeNode*>& into) {
+    for (const auto& node : nodes) {
+        into.push_back(node.get());
+        GatherNodes(node->Children(), into);
+    }
+}
+
+/// The nodes of the records in the order of the file.
+std::vector<ui::TreeNode*> NodesOfRecords() {
+    std::vector<ui::TreeNode*> nodes;
+    WalkDocument([&nodes](const Record& record) { nodes.push_back(record.tNode); });
+    return nodes;
+}
+
+using Places = std::unordered_map<const ui::TreeNode*, std::size_t>;
+
+Places PlacesOf(const std::vector<ui::TreeNode*>& nodes) {
+    Places places;
+    for (std::size_t n = 0; n < nodes.size(); ++n)
+        places.emplace(nodes[n], n);
+    return places;
+}
+
+/// What was added by a person stands behind what was there, whatever its kind.
+std::string OrderOfNodes() {
+    if (Globals().tvwTree == nullptr) return {};
+    std::vector<ui::TreeNode*> shown;
+    GatherNodes(Globals().tvwTree->Roots(), shown);
+    const auto ofRecords = NodesOfRecords();
+    if (shown == ofRecords) return {};
+    const Places places = PlacesOf(ofRecords);
+    std::string order;
+    for (const ui::TreeNode* node : shown) {
+        const auto place = places.find(node);
+        if (place != places.end()) order += " " + std::to_string(place->second);
+    }
+    return order;
+}
+
+/// Brings the nodes below one, and those below them, into the order of their places.
+void ArrangeBelow(ui::TreeView& tree, ui::TreeNode& above, const Places& places) {
+    const auto placeOf = [&places](const auto& node) {
+        const auto place = places.find(&*node);
+        return place == places.end() ? places.size() : place->second;
+    };
+    if (!std::ranges::is_sorted(above.Children(), {}, placeOf)) {
+        std::vector<std::unique_ptr<ui::TreeNode>> nodes;
+        while (!above.Children().empty()) // from behind, where taking costs nothing
+            nodes.push_back(tree.Take(*above.Children().back()));
+        std::ranges::reverse(nodes);
+        std::ranges::stable_sort(nodes, {}, placeOf);
+        for (std::size_t n = 0; n < nodes.size(); ++n)
+            tree.Put(std::move(nodes[n]), n);
+    }
+    for (const auto& node : above.Children())
+        ArrangeBelow(tree, *node, places);
+}
+
+void ArrangeNodes(const std::vector<std::size_t>& order) {
+    ui::TreeView* const tree = Globals().tvwTree;
+    if (order.empty() || tree == nullptr) return;
+    const auto nodes = NodesOfRecords();
+    std::vector<ui::TreeNode*> arranged;
+    for (const std::size_t place : order)
+        if (place < nodes.size()) arranged.push_back(nodes[place]);
+    const Places places = PlacesOf(arranged);
+    for (const auto& root : tree->Roots())
+        ArrangeBelow(*tree, *root, places);
 }
 
 /// Hears what was heard already when the document was read or made.
@@ -68,6 +141,7 @@ std::string RecoveryTextOf(const std::string& fileName, const KnownFile& known) 
                        OneLine(known.ToText()) + "\n";
     for (const auto& source : Globals().recR)
         text += "registered " + source->RegisteredAs + "\n";
+    if (const std::string order = OrderOfNodes(); !order.empty()) text += "nodes" + order + "\n";
     return text + "records\n" + DocumentInMemory() + std::string(LastLine) + "\n";
 }
 
@@ -85,6 +159,9 @@ std::optional<RecoveryCopy> RecoveryCopyOf(std::string_view text) {
             copy.Known = KnownFile::FromText(FromOneLine(value));
         else if (line.starts_with("registered "))
             copy.RegisteredAs.emplace_back(value);
+        else if (line.starts_with("nodes "))
+            for (const std::string& place : Split(value, ' '))
+                copy.Nodes.push_back(static_cast<std::size_t>(ToInteger(Val(place))));
         else if (line == "records")
             break;
     }
@@ -103,6 +180,7 @@ std::string ReadRecoveryCopy(const RecoveryCopy& copy) {
         source->toRegister = source->toSettle = false; // a save does that
         if (n < copy.RegisteredAs.size()) source->RegisteredAs = copy.RegisteredAs[n++];
     }
+    ArrangeNodes(copy.Nodes);
     globals.Saved = false;
     globals.DialogAccepted = false;
     return {};
@@ -134,8 +212,7 @@ void Recovery::Write(const std::string& text) {
         }
         fault = outcome.fault;
     }
-    if (!std::exchange(hasTrouble_, true))
-        trouble_ = "no recovery copy can be written: " + fault;
+    if (!std::exchange(hasTrouble_, true)) trouble_ = "no recovery copy can be written: " + fault;
 }
 
 void Recovery::Discard() {

@@ -19,6 +19,9 @@ struct RecoveryCopy {
     KnownFile Known;      // what that program knew of the file
     /// Of each source, its identity in the reference database, "" while it stands not there.
     std::vector<std::string> RegisteredAs;
+    /// The nodes of the tree as they stood, each by its place in the record file, from 0; empty
+    /// when they stood in that order.
+    std::vector<std::size_t> Nodes;
     std::string Records; // as DocumentInMemory prints them
 };
 

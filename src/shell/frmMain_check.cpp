@@ -14,7 +14,8 @@ namespace vexora {
 
 namespace {
 
-/// Nothing when a table cannot be read, which has been told then, or when the person has stopped it.
+/// Nothing when a table cannot be read, which has been told then, or when the person has stopped
+/// it.
 std::optional<std::vector<DocumentFinding>> Findings(const PassedOver& passedOver) {
     try {
         const ui::HourglassScope hourglass;

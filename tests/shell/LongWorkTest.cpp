@@ -27,8 +27,7 @@ TEST_F(LongWorkTest, AReadThatIsStoppedLeavesTheDocumentThatWasOpen) {
     EXPECT_EQ(Shell().FileTitle(), "paper.txt");
     EXPECT_FALSE(Globals().Saved);
     EXPECT_EQ(Shell().tvwTree.Roots().front()->Children().front()->Children().size(), 1200U);
-    EXPECT_EQ(desktop.Works,
-              (std::vector<std::string>{"Reading paper.txt", "Reading other.txt"}));
+    EXPECT_EQ(desktop.Works, (std::vector<std::string>{"Reading paper.txt", "Reading other.txt"}));
 }
 
 TEST_F(LongWorkTest, WhatIsStoppedWritesNothing) {
