@@ -29,8 +29,7 @@ bool Workbench::Start(const std::string& commandLine) {
     shell.Show();
     shell.KeepRecovery(places_.Recovery);
     // What was not saved goes first; the document of the command line is there another time too.
-    if (!shell.RestoreDocument())
-        shell.OpenFromCommandLine(DocumentOfCommandLine(commandLine));
+    if (!shell.RestoreDocument()) shell.OpenFromCommandLine(DocumentOfCommandLine(commandLine));
     return shell.IsOpen();
 }
 
