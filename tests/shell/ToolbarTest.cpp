@@ -1,5 +1,6 @@
 #include "records/clsBP.h"
 #include "records/clsComplexSample.h"
+#include "records/clsL.h"
 #include "records/clsR.h"
 #include "records/clsTwo.h"
 #include "shell/BioShellFixture.h"
@@ -248,6 +249,7 @@ TEST_F(ToolbarTest, AnEditRunsModallyUnderItsFlagAndRefreshesTheNode) {
     std::string seen;
     desktop.InModal = [&seen](ui::Form& form) {
         seen = form.Name() + (Globals().EditCompound ? " editing" : "");
+        CurrentCompound()->Name = "ice"; // accepted unchanged it would stay saved
         Globals().DialogAccepted = true;
         form.Close();
     };
