@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -31,6 +34,29 @@ void DropBox::showPopup() {
     QPointer<DropBox> self(this);
     if (OnPopup) OnPopup();
     if (self && self->isEnabled() && self->isVisible()) QComboBox::showPopup();
+}
+
+void DropBox::keyPressEvent(QKeyEvent* event) {
+    const bool isBlank = event->key() == Qt::Key_Space;
+    const bool isSearch =
+        typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+    const QString text = event->text();
+    if (!isEditable() && !text.isEmpty() && text.front().isPrint() && (!isBlank || isSearch))
+        typed_.start();
+    else
+        typed_.invalidate();
+    if (isBlank && typed_.isValid()) return FindBehindBlank();
+    QComboBox::keyPressEvent(event);
+}
+
+/// What the combo box does itself with letters.
+void DropBox::FindBehindBlank() {
+    view()->setCurrentIndex(model()->index(currentIndex(), modelColumn(), rootModelIndex()));
+    view()->keyboardSearch(QStringLiteral(" "));
+    const int row = view()->currentIndex().row();
+    if (row < 0 || row == currentIndex()) return;
+    setCurrentIndex(row);
+    emit activated(row);
 }
 
 ComboView::ComboView(FormWindow& window, ui::ComboBox& combo)

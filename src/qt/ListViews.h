@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <QTabBar>
 
@@ -8,7 +9,8 @@
 
 namespace vexora::qt {
 
-/// A combo box that tells its view before it drops down, so that the form can fill it.
+/// A combo box that tells its view before it drops down, so that the form can fill it. Typing finds
+/// an entry by its words; a blank between them does not drop the list down.
 class DropBox : public QComboBox {
 public:
     using QComboBox::QComboBox;
@@ -19,6 +21,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void FindBehindBlank();
+    QElapsedTimer typed_; // since the last letter of words by which an entry is looked for
 };
 
 class ComboView : public ViewOf<ui::ComboBox, DropBox> {
