@@ -97,6 +97,12 @@ std::string WordsOf(const clsX& item) {
     return words;
 }
 
+/// What a line of a form has room for; a tip has it all.
+std::string Shortened(const std::string& words) {
+    constexpr std::size_t most = 70; // characters
+    return CodePointCount(words) <= most ? words : Substring(words, 1, most) + "...";
+}
+
 } // namespace
 
 void StatementMemory::Keep(std::span<const clsX> items) {
@@ -148,7 +154,8 @@ StatementOffer::StatementOffer(ui::Label& stated, ui::CommandButton& last,
 void StatementOffer::Show() {
     const Items items = read_();
     const std::string words = StatementWords(items);
-    stated_.Caption(words.empty() ? "none stated" : words);
+    stated_.Caption(words.empty() ? "none stated" : Shortened(words));
+    stated_.ToolTip(words);
     const auto offer = RememberedStatements().Offer(items);
     last_.Visible(offer.has_value());
     if (!offer) return;
@@ -156,8 +163,9 @@ void StatementOffer::Show() {
     Items taken = *offer;
     for (std::size_t i = 0; i < taken.size(); ++i)
         if (taken[i] == items[i]) taken[i] = About(taken[i], {});
-    last_.Caption("&Use last: " + StatementWords(taken));
-    last_.ToolTip("Takes what was last stated for this property and method");
+    const std::string last = StatementWords(taken);
+    last_.Caption("Use &last: " + Shortened(last));
+    last_.ToolTip("Takes what was last stated for this property and method: " + last);
 }
 
 void StatementOffer::Keep(const Items& items) {
