@@ -5,7 +5,7 @@ _vexora_cli_options() { # command, sub-command
         export) echo "--format --help --home --out --strict" ;;
         diff) echo "--help --home" ;;
         table) echo "--format --help --home --list --no-head --system" ;;
-        play) echo "--date --home --keep-going --var" ;;
+        play) echo "--date --home --keep-going --recovery --var" ;;
         refdb)
             case $2 in
                 build) echo "--data --help --out" ;;
