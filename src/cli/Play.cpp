@@ -13,8 +13,10 @@ namespace vexora {
 namespace {
 
 constexpr const char* PlayHelp =
-    "Play session scripts: [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--keep-going] "
-    "[--recovery] FILE...";
+    "Play session scripts: [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
+    "[--allow-files DIR]... [--keep-going] [--recovery] FILE...; a script changes files only in "
+    "the home, in its own folder, in folders that a variable names, beside the documents that it "
+    "opens, and in those that --allow-files names";
 
 } // namespace
 

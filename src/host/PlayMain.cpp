@@ -17,14 +17,16 @@ namespace {
 enum Status { allHeld = 0, notHeld = 1, malformed = 2 };
 
 constexpr const char* Usage = "play [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... "
-                              "[--keep-going] [--recovery] [--shots DIR] FILE...";
+                              "[--allow-files DIR]... [--keep-going] [--recovery] [--shots DIR] "
+                              "FILE...";
 
 struct Request {
     std::optional<std::string> home;
     ScriptVariables variables{{"OUT", "."}};
     PlayOptions options;
     std::vector<std::string> files;
-    bool recovery = false; // copies are written and offered as to a person
+    bool recovery = false;            // copies are written and offered as to a person
+    std::vector<std::string> allowed; // folders
 };
 
 /// Takes the command line apart; throws ScriptError with what is wrong.
@@ -56,6 +58,8 @@ private:
             request_.options.shots = Value(argument);
         else if (name == "--date")
             TakeDate(Value(argument));
+        else if (name == "--allow-files")
+            request_.allowed.push_back(Value(argument));
         else if (name == "--var")
             TakeVariable(Value(argument));
         else
@@ -91,6 +95,22 @@ bool MakeShotsFolder(const std::string& folder) {
     return !error;
 }
 
+/// Where all of the scripts may change files: what the command line names, and the home.
+std::vector<std::string> Reach(const Request& request, const Places& places) {
+    std::vector<std::string> folders = request.allowed;
+    folders.push_back(places.Home);
+    folders.push_back(request.variables.at("OUT"));
+    if (!request.options.shots.empty()) folders.push_back(request.options.shots);
+    std::error_code unknown;
+    for (const auto& [name, text] : request.variables)
+        if (std::filesystem::is_directory(text, unknown)) folders.push_back(text);
+    return folders;
+}
+
+std::string FolderOf(const std::string& file) {
+    return std::filesystem::absolute(file).parent_path().string();
+}
+
 } // namespace
 
 int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) {
@@ -118,15 +138,19 @@ int PlayMain(const std::vector<std::string>& arguments, const PlayFront& front) 
         return notHeld;
     }
     bool held = true;
-    for (const Script& script : scripts) {
+    const std::vector<std::string> reach = Reach(request, places);
+    for (std::size_t i = 0; i < scripts.size(); ++i) {
         // Each program that a script starts is one of its own, whatever became of the one before.
         const MakeProgram make = [&](ui::Desktop& desktop) {
             Places own = places;
             if (request.recovery) own.Recovery = RecoveryBelow(places.Home);
             return front.program(own)(desktop);
         };
-        Player player(front.actor, files, make, request.options, front.out, front.err);
-        held = player.Play(script) && held;
+        PlayOptions options = request.options;
+        options.reach = reach;
+        options.reach->push_back(FolderOf(request.files[i]));
+        Player player(front.actor, files, make, options, front.out, front.err);
+        held = player.Play(scripts[i]) && held;
     }
     return held ? allHeld : notHeld;
 }

@@ -63,8 +63,12 @@ const Player::Row Player::commands[] = {
 
 Player::Player(Actor& actor, ui::FileSystem& files, MakeProgram make, PlayOptions options,
                std::ostream& out, std::ostream& err)
-    : actor_(actor), files_(files), goneFiles_(files), make_(std::move(make)),
-      options_(std::move(options)), out_(out), err_(err) {}
+    : actor_(actor), files_(files), goneFiles_(files), reach_(files), reachedFiles_(files, reach_),
+      make_(std::move(make)), options_(std::move(options)), out_(out), err_(err) {
+    if (!options_.reach) reach_.AllowAll();
+    for (const std::string& folder : options_.reach.value_or(std::vector<std::string>()))
+        reach_.AllowFolder(folder);
+}
 
 Player::~Player() {
     DropProgram();
@@ -137,7 +141,7 @@ void Player::RunModal(ui::Form& form) {
 
 ui::FileSystem& Player::Files() {
     if (quiet_) return goneFiles_;
-    return files_;
+    return reachedFiles_;
 }
 
 void Player::LeaveModal() {

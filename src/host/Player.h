@@ -10,6 +10,7 @@
 #include "host/GoneFileSystem.h"
 #include "host/Program.h"
 #include "host/ScriptParser.h"
+#include "host/WriteReach.h"
 #include "ui/Desktop.h"
 
 namespace vexora::host {
@@ -18,6 +19,9 @@ struct PlayOptions {
     std::optional<ui::Date> today; // the clock's date when absent
     bool keepGoing = false;        // go on behind a failed expectation
     std::string shots;             // folder for pictures, empty for none
+    /// The folders in which the script may change files, beside those of the documents that it
+    /// opens; absent where it may do so anywhere.
+    std::optional<std::vector<std::string>> reach = {};
 };
 
 /// Plays one script on one program: finds what a line speaks of, makes sure that a person could do
@@ -47,7 +51,8 @@ public:
         return actor_.PngOf(picture);
     }
     ui::Date Today() override;
-    /// Refuses every change once the script has left the program below a modal form.
+    /// Refuses every change beyond the reach of the script, and every one once it has left the
+    /// program below a modal form.
     ui::FileSystem& Files() override;
     void RunModal(ui::Form& form) override;
     void EndProgram() override { ending_ = true; }
@@ -110,6 +115,8 @@ private:
     void ExpectXml(const ScriptLine& line);
     void PrintState(const ScriptLine& line);
 
+    /// Throws when the script may not change the file.
+    static void NeedsReach(const std::string& whyNot);
     ui::Forms& OpenForms() const;
     /// The control that a word names, of an open form; throws when there is none.
     ui::Control& Named(const std::string& word) const;
@@ -125,6 +132,8 @@ private:
     Actor& actor_;
     ui::FileSystem& files_;
     GoneFileSystem goneFiles_;
+    WriteReach reach_;
+    ReachedFileSystem reachedFiles_;
     MakeProgram make_;
     PlayOptions options_;
     std::ostream& out_;

@@ -129,7 +129,9 @@ void Player::Start(const ScriptLine& line) {
     program_ = make_(*this);
     Follow(program_->Forms());
     actor_.Attach(program_->Forms());
-    program_->Start(line.Has(1) ? line.Text(1) : std::string());
+    const std::string document = line.Has(1) ? line.Text(1) : std::string();
+    if (!document.empty()) reach_.AllowFolderOf(document);
+    program_->Start(document);
 }
 
 void Player::Quit(const ScriptLine&) {
@@ -242,6 +244,7 @@ void Player::Hover(const ScriptLine& line) {
 }
 
 void Player::Drop(const ScriptLine& line) {
+    reach_.AllowFolderOf(line.Text(1));
     ui::Form* front = program_ ? program_->Forms().Front() : nullptr;
     if (dynamic_cast<ui::FileTarget*>(front) != nullptr)
         actor_.Drop(*front, line.Text(1));
@@ -259,11 +262,18 @@ void Player::StrayAnswer(const ScriptLine& line) {
 
 void Player::Shot(const ScriptLine& line) {
     if (options_.shots.empty()) return;
-    actor_.Shot((std::filesystem::path(options_.shots) / line.Text(1)).string());
+    const std::string path = (std::filesystem::path(options_.shots) / line.Text(1)).string();
+    NeedsReach(reach_.WhyNot(path));
+    actor_.Shot(path);
+}
+
+void Player::NeedsReach(const std::string& whyNot) {
+    if (!whyNot.empty()) CannotDo("a file in reach of the script", whyNot);
 }
 
 void Player::CopyFile(const ScriptLine& line) {
     namespace fs = std::filesystem;
+    NeedsReach(reach_.WhyNot(line.Text(2)));
     std::error_code error;
     const fs::path to(line.Text(2));
     if (to.has_parent_path()) fs::create_directories(to.parent_path(), error);
@@ -272,6 +282,7 @@ void Player::CopyFile(const ScriptLine& line) {
 }
 
 void Player::DeleteFile(const ScriptLine& line) {
+    NeedsReach(reach_.WhyNotName(line.Text(1)));
     std::error_code error;
     std::filesystem::remove(line.Text(1), error);
     if (error) CannotDo("no file " + line.Text(1), error.message());

@@ -98,8 +98,11 @@ std::optional<std::string> Player::Ask(const ui::Input& input) {
 }
 
 std::optional<std::string> Player::Choose(const ui::FileChoice& choice) {
-    return AnswerNext(choice, "file", (choice.save ? "save " : "open ") + Quoted(choice.proposed),
-                      "no question, or a file for it");
+    auto path =
+        AnswerNext(choice, "file", (choice.save ? "save " : "open ") + Quoted(choice.proposed),
+                   "no question, or a file for it");
+    if (path && !choice.save) reach_.AllowFolderOf(*path);
+    return path;
 }
 
 void Player::Hourglass(bool on) {

@@ -19,8 +19,8 @@ namespace {
 
 constexpr const char* Usage =
     "vexora [--home DIR] [--look dark|light] [DOCUMENT]\n"
-    "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]... [--recovery]\n"
-    "            [--shots DIR]\n"
+    "vexora --play FILE [--home DIR] [--date YYYY-MM-DD] [--var NAME=TEXT]...\n"
+    "       [--allow-files DIR]... [--keep-going] [--recovery] [--shots DIR]\n"
     "vexora --help | --version\n";
 
 struct Request {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -68,6 +69,64 @@ TEST_F(PlayMain, WhatIsMalformedPlaysNothing) {
         EXPECT_EQ(out_.str(), "");
         EXPECT_NE(err_.str(), "");
     }
+}
+
+TEST_F(PlayMain, AScriptChangesFilesOnlyWhereItWasSent) {
+    namespace fs = std::filesystem;
+    for (const char* name : {"scripts", "out", "outside", "papers", "named", "home"})
+        fs::create_directory(folder_.Path(name));
+    File("outside/kept.txt", "kept");
+    File("papers/paper.txt", "paper");
+    fs::create_symlink(folder_.Path("outside"), folder_.Path("out/door"));
+    fs::create_symlink(folder_.Path("outside/kept.txt"), folder_.Path("out/link.txt"));
+    const std::string top = "\"" + folder_.Path() + "/";
+    const std::string copy = "copyfile " + top + "papers/paper.txt\" " + top;
+    const std::string remove = "deletefile " + top;
+    const std::string refused =
+        "A script may write there only when it is played with --allow-files ";
+    const std::string outside = refused + fs::canonical(folder_.Path("outside")).string();
+    const struct {
+        std::string line, told; // empty where it is done
+    } cases[] = {
+        {copy + "out/a.txt\"", ""},
+        {copy + "out/new/a.txt\"", ""},
+        {copy + "home/a.txt\"", ""},
+        {copy + "scripts/a.txt\"", ""},
+        {copy + "named/a.txt\"", ""},
+        {remove + "out/link.txt\"\ncopyfile " + top + "papers/paper.txt\" " + top +
+             "out/link.txt\"",
+         ""},
+        {copy + "outside/kept.txt\"", outside},
+        {copy + "out/../outside/kept.txt\"", outside},
+        {copy + "out\\\\..\\\\outside\\\\kept.txt\"", outside},
+        {copy + "out/door/kept.txt\"", outside},
+        {copy + "out/link.txt\"", outside},
+        {copy + "outsider.txt\"", refused + fs::canonical(folder_.Path()).string()},
+        {remove + "outside/kept.txt\"", outside},
+        {remove + "out/door/kept.txt\"", outside},
+        {remove + "papers/paper.txt\"", refused + fs::canonical(folder_.Path("papers")).string()},
+        {"start " + top + "papers/paper.txt\"\n" + remove + "papers/paper.txt\"", ""},
+    };
+    for (const auto& sample : cases) {
+        std::error_code none;
+        fs::remove(folder_.Path("out/link.txt"), none);
+        fs::create_symlink(folder_.Path("outside/kept.txt"), folder_.Path("out/link.txt"));
+        File("papers/paper.txt", "paper");
+        const std::string script = File("scripts/a.vxs", sample.line + "\n");
+        const std::vector<std::string> arguments = {"--home", Home(),
+                                                    "--var",  "OUT=" + folder_.Path("out"),
+                                                    "--var",  "MORE=" + folder_.Path("named"),
+                                                    script};
+        EXPECT_EQ(Run(arguments), sample.told.empty() ? 0 : 1) << sample.line << err_.str();
+        EXPECT_NE(err_.str().find(sample.told + (sample.told.empty() ? "" : "\n")),
+                  std::string::npos)
+            << sample.line << err_.str();
+        std::ifstream kept(folder_.Path("outside/kept.txt"));
+        EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "kept") << sample.line;
+    }
+    const std::string script = File("scripts/a.vxs", cases[6].line + "\n");
+    EXPECT_EQ(Run({"--home", Home(), "--allow-files", folder_.Path("outside"), script}), 0)
+        << err_.str();
 }
 
 } // namespace

@@ -47,6 +47,7 @@ protected:
         std::ostringstream err;
         host::PlayOptions options;
         options.today = ui::Date{2026, 1, 15};
+        options.reach = {Home(), Out()};
         host::Player player(Actor, Files, host::WorkbenchIn(places_), options, out, err);
         const bool held = player.Play(host::ParseScript(lines, "test.vxs", variables));
         return {held, out.str(), err.str()};
