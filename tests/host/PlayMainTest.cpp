@@ -124,6 +124,7 @@ TEST_F(PlayMain, AScriptChangesFilesOnlyWhereItWasSent) {
         std::ifstream kept(folder_.Path("outside/kept.txt"));
         EXPECT_EQ(std::string(std::istreambuf_iterator<char>(kept), {}), "kept") << sample.line;
     }
+    File("papers/paper.txt", "paper");
     const std::string script = File("scripts/a.vxs", cases[6].line + "\n");
     EXPECT_EQ(Run({"--home", Home(), "--allow-files", folder_.Path("outside"), script}), 0)
         << err_.str();
