@@ -1,5 +1,6 @@
 #include "host/PosixFileSystem.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,6 +52,10 @@ std::string FolderOf(const std::string& path) {
     const std::string folder = fs::path(path).parent_path().string();
     return folder.empty() ? "." : folder;
 }
+
+struct FolderCloser {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
 
 class PosixOutputFile : public ui::OutputFile {
 public:
@@ -145,13 +150,13 @@ std::string ReadOpened(int file, std::string& into, long long most) {
 } // namespace
 
 bool PosixFileSystem::Exists(const std::string& path) {
-    std::error_code error;
-    return fs::exists(path, error);
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0; // needs no memory: it is asked for when that is gone
 }
 
 bool PosixFileSystem::IsFolder(const std::string& path) {
-    std::error_code error;
-    return fs::is_directory(path, error);
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 std::optional<std::string> PosixFileSystem::Read(const std::string& path, std::string& error) {
@@ -219,15 +224,15 @@ std::unique_ptr<ui::OutputFile> PosixFileSystem::CreateBeside(const std::string&
 
 std::vector<std::string> PosixFileSystem::Leftovers(const std::string& target) {
     const std::string title = fs::path(target).filename().string();
+    const std::string folder = FolderOf(target);
     std::vector<std::string> found;
-    std::error_code error;
-    fs::directory_iterator entry(FolderOf(target), error);
-    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
-        if (!name.starts_with(title) ||
-            !IsTemporaryEnding(std::string_view(name).substr(title.size())))
-            continue;
-        if (IsLeftover(entry->path().string())) found.push_back(entry->path().string());
+    // An iterator of the standard library ends the program when there is no memory for it.
+    const std::unique_ptr<DIR, FolderCloser> entries(::opendir(folder.c_str()));
+    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
+        const std::string_view name = entry->d_name;
+        if (!name.starts_with(title) || !IsTemporaryEnding(name.substr(title.size()))) continue;
+        std::string path = folder + "/" + entry->d_name;
+        if (IsLeftover(path)) found.push_back(std::move(path));
     }
     return found;
 }

@@ -1,5 +1,6 @@
 #include "reference/SafeFile.h"
 
+#include <exception>
 #include <memory>
 
 namespace vexora {
@@ -14,7 +15,10 @@ public:
     TemporaryFile(ui::FileSystem& files, std::string path)
         : files_(files), path_(std::move(path)) {}
     ~TemporaryFile() {
-        if (!path_.empty() && files_.Exists(path_)) files_.Remove(path_);
+        try {
+            if (!path_.empty() && files_.Exists(path_)) files_.Remove(path_);
+        } catch (const std::exception&) { // the next save removes it
+        }
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;

@@ -165,6 +165,7 @@ private:
     void FindReference();
     void PutAside();
     void SettleAside();
+    void TakeBack();
     bool MayDiscard();
     void DropFile(const std::string& path);
     void OpenFile(const std::string& path, bool moveOutDir);

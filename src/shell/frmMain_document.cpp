@@ -153,14 +153,18 @@ void frmMain::PutAside() {
 
 /// A document that was put aside goes when there is another one, and else comes back.
 void frmMain::SettleAside() {
+    if (Globals().recR.IsEmpty()) return TakeBack();
+    if (!std::exchange(aside_, nullptr)) return;
+    Globals().Processed.reset();
+    deleted_.reset();
+    copyOf_.clear();
+    txtFind.Text({});
+}
+
+/// What stands in its place goes.
+void frmMain::TakeBack() {
     const auto before = std::move(aside_);
     if (!before) return;
-    if (!Globals().recR.IsEmpty()) {
-        txtFind.Text({});
-        copyOf_.clear();
-        Globals().Processed.reset();
-        return deleted_.reset();
-    }
     before->PutBack(FileName, known_);
     MouseSelected = true;
     SelectNode();
@@ -195,7 +199,6 @@ void frmMain::DropFile(const std::string& path) {
 void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
     const std::string whole = AbsolutePath(path);
     if (!TakeFile(whole)) return Refused.Emit(whole);
-    FileName = whole;
     recovery_->Discard();
     Taken.Emit(whole);
     if (moveOutDir) Globals().OutDir = SplitPath(whole).Folder;
@@ -206,12 +209,11 @@ void frmMain::OpenFile(const std::string& path, bool moveOutDir) {
 
 /// Reads while the present document is put aside. Of a read that cannot go on nothing stays.
 ReadResult frmMain::ReadAside(const std::string& text, const std::string& name) {
-    PutAside();
     try {
+        PutAside();
         return ReadDocument(text, ReadPurpose::Work, name);
     } catch (...) {
-        EmptyDocument();
-        SettleAside();
+        TakeBack();
         throw;
     }
 }
@@ -224,9 +226,11 @@ bool frmMain::TakeFile(const std::string& path) {
         ui::Say("The file " + path + " cannot be read.\n" + error);
         return false;
     }
+    std::string name = path; // by now, for a document is never without it
     const ReadResult result = ReadAside(*text, SplitPath(path).Title);
     globals.DialogAccepted = false;
     const bool isEmpty = globals.recR.IsEmpty();
+    if (!isEmpty) FileName = std::move(name);
     if (isEmpty && result.whole) ui::Say("The file " + path + " holds no source record.");
     SettleAside();
     if (isEmpty) return false;
@@ -353,9 +357,14 @@ bool frmMain::MayExport() {
 
 void frmMain::ExportDocument(ExportFor readers) {
     if (!MayExport()) return;
-    DisableShell();
-    const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles, ".xml");
-    if (!target.empty()) WriteExport(target, readers);
+    try {
+        DisableShell();
+        const std::string target = ChooseTarget(Source().IdentityName() + ".xml", XmlFiles, ".xml");
+        if (!target.empty()) WriteExport(target, readers);
+    } catch (...) { // nothing that fails leaves the shell dead
+        Enable();
+        throw;
+    }
     Enable();
 }
 

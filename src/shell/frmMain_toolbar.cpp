@@ -57,8 +57,8 @@ void frmMain::SetLocked(bool locked) {
 /// Whatever a button ends in, the shell is live again unless a dialog is open.
 void frmMain::ToolbarClick(const ui::ToolButton& button) {
     ForgetAdded();
-    DisableShell();
     RenewCurrentMethod();
+    DisableShell();
     if (OpenFromToolbar(button.Name())) return;
     Activate();
 }

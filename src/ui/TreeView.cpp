@@ -121,15 +121,24 @@ TreeView::Content TreeView::TakeOut() {
     content.roots_.swap(roots_);
     content.byKey_.swap(byKey_);
     content.selected_ = std::exchange(selected_, nullptr);
-    Changed();
+    try {
+        Changed();
+    } catch (...) { // the nodes are never lost on the way
+        roots_.swap(content.roots_);
+        byKey_.swap(content.byKey_);
+        selected_ = content.selected_;
+        throw;
+    }
     return content;
 }
 
 void TreeView::PutBack(Content content) {
-    Clear();
-    roots_ = std::move(content.roots_);
-    byKey_ = std::move(content.byKey_);
+    // First of all the nodes: who is told of them may fail.
+    roots_.swap(content.roots_);
+    byKey_.swap(content.byKey_);
     selected_ = content.selected_;
+    for (auto root = content.roots_.rbegin(); root != content.roots_.rend(); ++root)
+        NodeRemoved.Emit(root->get());
     for (const auto& root : roots_)
         NodeAdded.Emit(root.get());
     Changed();
