@@ -228,7 +228,7 @@ TEST_F(SetExport, ThePageOfASetTellsItsStatementsAndItsEnds) {
     set.recData.Item(std::size_t{9})->Statements(0).Unc = "0.8";
     const std::string page = ui::TextOfHtml(ReadingHtml(&Set()));
     const std::size_t from = page.find("Uncertainty");
-    EXPECT_EQ(page.substr(from, page.find("Constraint") - from),
+    EXPECT_EQ(page.substr(from, page.find("Data are") - from),
               "Uncertainty of the values: 0.5 kg/m3 (95 % confidence), some rows with their own\n"
               "Repeatability of temperature: 2% (3 repetitions)\nRows: 10\n"
               "Temperature, C Pressure, kPa Value, kg/m3\n"
