@@ -44,7 +44,7 @@ void SampleList::Fill(std::shared_ptr<Substance> system) {
     const ui::FillingScope filling(form_);
     system_ = std::move(system);
     list_.Clear();
-    list_.FirstIsPrompt = !prompt_.empty();
+    list_.FirstIsPrompt = prompt_.starts_with("SELECT "); // "None" is an answer
     if (!prompt_.empty()) list_.Add(prompt_);
     if (!system_) return ChoosePosition(0);
     const auto samples = system_->Samples();
