@@ -36,8 +36,7 @@ std::vector<double> StateValues(const ProcessTable& table, const std::vector<int
     for (const int row : rows)
         if (const auto value = values.Value(row)) distinct.push_back(*value);
     std::ranges::sort(distinct);
-    const auto tail = std::ranges::unique(distinct, Equal);
-    distinct.erase(tail.begin(), tail.end());
+    distinct.erase(std::unique(distinct.begin(), distinct.end(), Equal), distinct.end());
     return distinct;
 }
 
@@ -116,9 +115,10 @@ private:
         if (IsFull()) return;
         std::array<State*, 2> candidates = {&states_[1], &states_[0]};
         // What stored sets hold constant goes first: their property may be of equal values too.
-        std::ranges::stable_partition(candidates, [this](const State* state) {
+        const auto isConstant = [this](const State* state) {
             return state->varies && Head(state->column).role == Role::Constant;
-        });
+        };
+        std::stable_partition(candidates.begin(), candidates.end(), isConstant);
         for (State* const state : candidates)
             if (result_.nVar > 1) TakeConstant(*state);
     }

@@ -95,7 +95,10 @@ private:
     }
     PhaseColumns& PhaseOf(const std::string& code) {
         const auto at = std::ranges::find(heads_.phases, code, &PhaseColumns::phase);
-        return at == heads_.phases.end() ? heads_.phases.emplace_back(code) : *at;
+        if (at != heads_.phases.end()) return *at;
+        PhaseColumns& added = heads_.phases.emplace_back();
+        added.phase = code;
+        return added;
     }
 
     void CheckPhases() {
