@@ -71,8 +71,8 @@ TEST_F(RowStatementsTest, WhatTheSetStatesIsSeenAndIsNoText) {
     set->UX[0].iUnc = true;
     set->UX[0].UValue = "1%";
     set->UX[2].N = 2;
-    set->UX[2].iUnc = set->UX[2].inSystemUnits = true;
-    set->UX[2].UValue = "250"; // kPa
+    set->UX[2].iUnc = true;
+    set->UX[2].UValue = "0.25";
     OpenTable();
     Paste("275 1 \t999.80");
     const auto text = [](const ui::Grid::ColumnTexts& texts) {
@@ -81,10 +81,10 @@ TEST_F(RowStatementsTest, WhatTheSetStatesIsSeenAndIsNoText) {
             all += std::to_string(column) + " " + one + ";";
         return all;
     };
-    EXPECT_EQ(text(form_->tblData.Stated()), "3 0.25;5 1;");
+    EXPECT_EQ(text(form_->tblData.Stated()), "2 0.25;4 1;");
     EXPECT_EQ(text(form_->tblData.HeadNotes()),
-              "0 Temperature, K;1 Pressure, MPa;3 MPa;4 Density, kg/m3;");
-    EXPECT_EQ(form_->tblData.Cell(1, 3) + form_->tblData.Cell(1, 5), "");
+              "0 Temperature, K;1 Pressure, MPa;2 MPa;3 Density, kg/m3;");
+    EXPECT_EQ(form_->tblData.Cell(1, 2) + form_->tblData.Cell(1, 4), "");
     Discard();
     form_->Close();
 }
