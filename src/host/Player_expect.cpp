@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <fstream>
 
 #include "host/PlayFailure.h"
 #include "host/Player.h"
@@ -160,7 +159,7 @@ void Player::ExpectNo(const ScriptLine& line) {
     if (line.Is(2, "message")) {
         if (lastMessage_) NotSeen("no message", Quoted(lastMessage_->text));
     } else if (line.Is(2, "file")) {
-        if (std::ifstream(line.Text(3))) NotSeen("no file " + line.Text(3), "it is there");
+        if (files_.Exists(line.Text(3))) NotSeen("no file " + line.Text(3), "it is there");
     } else {
         if (!NodesNamed(Tree(), line, 3).empty())
             NotSeen("no node " + Quoted(line.words.back().text), "it is there");

@@ -63,8 +63,11 @@ char SeparatorOf(std::string_view line) {
 
 TableReader::TableReader(const std::string& path, Kind kind)
     : quoted_(EqualNoCase(std::filesystem::path(path).extension().string(), ".csv")) {
+    // Opening a pipe would wait for its other end for ever.
+    std::error_code unknown;
+    if (!std::filesystem::is_regular_file(path, unknown)) return;
     std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path)) return;
+    if (!file) return;
     text_.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     isOpen_ = !file.bad();
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";

@@ -3,7 +3,7 @@
 #include "cli/CommandLineFixture.h"
 #include "reference/Transliteration.h"
 
-#include <functional>
+#include <sys/stat.h>
 
 namespace vexora::test {
 namespace {
@@ -61,13 +61,15 @@ TEST_F(HostileText, EveryToolEndsWithAnExitCode) {
     std::string everyByte;
     for (int byte = 0; byte < 256; ++byte)
         everyByte += static_cast<char>(byte);
-    const std::string set = "^A & O & & AB CD & &\n^1 1 VDN S DIR 1\tC L G PB S & & &\n";
+    std::string heads = kHead;
+    for (int set = 1; set <= 3'000; ++set)
+        heads += "^1 1 VDN S DIR " + std::to_string(set) + "\tC L G PB S & & &\n";
     const std::string deep = Repeated("(", 100'000) + "H" + Repeated(")", 100'000);
     const std::pair<const char*, std::string> texts[] = {
         {"nothing", ""},
         {"a line of 10 MB", kHead + "^A & O & & AB CD & & " + Repeated("x", 10'000'000)},
         {"a name of 1 MB", kHead + "^N x 7732185 & " + Repeated("n", 1'000'000) + "\n"},
-        {"set heads", kHead + Repeated(set, 3'000)},
+        {"set heads", heads},
         {"random bytes", Bytes(300'000)},
         {"random bytes in a document", kHead + Bytes(300'000)},
         {"zeros", kHead + std::string(100'000, '\0') + "\n" + kDocument},
@@ -89,6 +91,20 @@ TEST_F(HostileText, EveryToolEndsWithAnExitCode) {
     };
     for (const auto& [name, text] : texts)
         Try(name, text);
+}
+
+TEST_F(HostileText, WhatIsNoFileIsRefused) {
+    ASSERT_EQ(mkfifo(folder.File("pipe").c_str(), 0600), 0);
+    folder.Write("a.vxs", "expect no file \"" + folder.File("pipe") + "\"\n");
+    for (const char* command :
+         {"check pipe", "export pipe", "tree /dev/zero", "diff water.txt pipe", "table /dev/zero",
+          "refdb import --compounds pipe VXR.mdb", "refdb import --compounds /dev/zero VXR.mdb"}) {
+        const Outcome outcome = Run(command);
+        EXPECT_EQ(outcome.code, 3) << command;
+        EXPECT_NE(outcome.err.find("error: "), std::string::npos) << command;
+    }
+    EXPECT_EQ(Run("play pipe").code, 2);
+    EXPECT_EQ(Run("play a.vxs").code, 1);
 }
 
 TEST_F(HostileText, EveryCharacterGoesThroughTransliterationAndExport) {
