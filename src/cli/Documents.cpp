@@ -17,6 +17,7 @@
 #include "cli/OpenedDocument.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
+#include "records/LineWriter.h"
 #include "records/Record.h"
 #include "reference/SafeFile.h"
 #include "shell/DocumentText.h"
@@ -40,6 +41,7 @@ struct Product {
     std::string text;
     std::string file; // empty for standard output
     Printing print;   // of a text that need not stand in memory; its findings come with it
+    bool keepsBackup = false;
     ExportFor readers = ExportFor::House;
 };
 
@@ -85,6 +87,28 @@ int Export(OpenedDocument& document, Product& product) {
                           (record ? record->ShowKey() + ": " : "") + finding.text);
         }
     };
+    return kExitClean;
+}
+
+/// What a document lost by being written anew, somebody would have to mend by hand.
+bool TellWhatIsLost(OpenedDocument& document) {
+    const PassedOver& passedOver = document.LinesPassedOver();
+    if (const std::string text = NotKeptText(passedOver); !text.empty())
+        document.Tell(0, Severity::Error, text);
+    for (const LineLost& one : passedOver.lost)
+        document.Tell(one.line, Severity::Error, one.text);
+    return passedOver.linesNotKept > 0 || !passedOver.lost.empty();
+}
+
+int Save(OpenedDocument& document, Product& product) {
+    product.name = "file";
+    if (product.file.empty()) product.file = document.Path();
+    if (TellWhatIsLost(document)) {
+        document.Tell(0, Severity::Error, "the document is not written, for it would lack this");
+        return kExitCannotWrite;
+    }
+    product.keepsBackup = true;
+    product.print = [](const auto& taker) { DocumentAsRecords(taker); };
     return kExitClean;
 }
 
@@ -154,8 +178,13 @@ private:
         std::error_code made; // a folder that cannot be made shows when the file is written
         const auto folder = std::filesystem::path(product.file).parent_path();
         if (!arguments_.out.empty()) std::filesystem::create_directories(folder, made);
-        const SaveOutcome outcome =
-            WriteSafely(document_.Files(), product.file, product.print, false);
+        SaveOutcome outcome;
+        try {
+            outcome =
+                WriteSafely(document_.Files(), product.file, product.print, product.keepsBackup);
+        } catch (const SaveRefused& refused) {
+            outcome.fault = refused.what();
+        }
         const int exitCode = ExitCodeOfExport();
         if (outcome.fault.empty()) return exitCode;
         document_.Tell(0, outcome.isSaved ? Severity::Warning : Severity::Error,
@@ -181,7 +210,8 @@ int RunOnAll(Arguments arguments, Command* command) {
     std::set<std::string> files;
     for (const ListedDocument& listed : ListDocuments(arguments.documents)) {
         std::string file = single;
-        if (!arguments.out.empty()) file = arguments.out + "/" + listed.name + ".xml";
+        if (!arguments.out.empty())
+            file = arguments.out + "/" + listed.name + (command == Export ? ".xml" : ".txt");
         if (!file.empty() && !files.insert(file).second) {
             std::cerr << "error: two documents would be written to " << file << '\n';
             return kExitUsage;
@@ -192,7 +222,10 @@ int RunOnAll(Arguments arguments, Command* command) {
         std::cerr << "error: --out DIR says where the exports of several documents go\n";
         return kExitUsage;
     }
-    return Run(arguments, command).All(documents);
+    // The program ends with this: taking millions of records apart one by one would only cost time.
+    static Run* run = nullptr;
+    run = new Run(arguments, command);
+    return run->All(documents);
 }
 
 } // namespace
@@ -220,6 +253,10 @@ void AddDocumentCommands(CLI::App& app, const std::string& argv0, int& exitCode)
                   "For readers that go by the name space and by structures alone");
     xml->add_option("--out", arguments->out,
                     "Folder for the exports; without it one document goes to standard output");
+    CLI::App* save = add(
+        "save", "Write documents anew as a save in the workbench does; the version before is .bak",
+        Many, Save);
+    save->add_option("--out", arguments->out, "Folder for what is written, in place of the files");
     add("check",
         "Tell what is wrong, doubtful or missing in documents; ends with 1 for errors and "
         "warnings, and with 0 for hints alone",

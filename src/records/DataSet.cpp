@@ -11,9 +11,14 @@
 
 namespace vexora {
 
-DataSet::DataSet() {
-    for (std::size_t n = 0; n < UX.size(); ++n)
-        UX[n].N = static_cast<int>(n);
+const StatementsOfSet::Items& StatementsOfSet::Nothing() {
+    static const Items items = [] {
+        Items numbered;
+        for (std::size_t n = 0; n < Count; ++n)
+            numbered[n].N = static_cast<int>(n);
+        return numbered;
+    }();
+    return items;
 }
 
 std::string DataSet::VariableWords(int n) const {
@@ -88,17 +93,26 @@ Placement DataSet::AddX(const clsX& item) {
     return {added.N, replaces};
 }
 
+/// The first row decides for a set that had none; system values later do not turn it back.
+void DataSet::TakeUnitsOf(const clsData& added) {
+    isOriginalUnit = added.inOriginalUnits || (isOriginalUnit && recData.Count() > 1);
+}
+
 clsData& DataSet::AddRow(clsData row) {
-    // The first row decides for a set that had none; system values later do not turn it back.
-    isOriginalUnit = row.inOriginalUnits || (isOriginalUnit && !recData.IsEmpty());
-    return recData.Add(std::move(row));
+    clsData& added = recData.Add(std::move(row));
+    TakeUnitsOf(added);
+    return added;
 }
 
 OpenRecord::Taken DataSet::LoadRow(std::string_view line) {
-    clsData row;
+    // Where it is to stay: of a million rows none is moved.
+    clsData& row = recData.Add();
     WordReader words(line);
-    if (!row.Load(words, nVar)) return Taken::Incomplete;
-    AddRow(std::move(row));
+    if (!row.Load(words, nVar)) {
+        recData.DropLast();
+        return Taken::Incomplete;
+    }
+    TakeUnitsOf(row);
     return words.AtEnd() ? Taken::Yes : Taken::InPart;
 }
 

@@ -21,8 +21,46 @@ class LineWriter;
 class XmlWriter;
 
 /// The statements of uncertainty about all rows: the property, the variables, and behind them what
-/// is constant.
-using StatementsOfSet = std::array<clsX, 5>;
+/// is constant. Places that nobody wrote to take no memory: most sets of a large document state
+/// nothing here.
+class StatementsOfSet {
+public:
+    static constexpr std::size_t Count = 5;
+
+    StatementsOfSet() = default;
+    StatementsOfSet(const StatementsOfSet& other)
+        : items_(other.items_ ? std::make_unique<Items>(*other.items_) : nullptr) {}
+    StatementsOfSet(StatementsOfSet&&) noexcept = default;
+    StatementsOfSet& operator=(StatementsOfSet other) noexcept {
+        items_.swap(other.items_);
+        return *this;
+    }
+
+    const clsX& operator[](std::size_t n) const { return Present()[n]; }
+    clsX& operator[](std::size_t n) { return Own()[n]; }
+    const clsX& at(std::size_t n) const { return Present().at(n); }
+    clsX& at(std::size_t n) { return Own().at(n); }
+    std::size_t size() const { return Count; }
+    const clsX* begin() const { return Present().data(); }
+    const clsX* end() const { return begin() + Count; }
+    clsX* begin() { return Own().data(); }
+    clsX* end() { return begin() + Count; }
+    bool operator==(const StatementsOfSet& other) const {
+        return items_ == other.items_ || Present() == other.Present();
+    }
+
+private:
+    using Items = std::array<clsX, Count>;
+    /// All places without a statement, each with its number.
+    static const Items& Nothing();
+    const Items& Present() const { return items_ ? *items_ : Nothing(); }
+    Items& Own() {
+        if (!items_) items_ = std::make_unique<Items>(Nothing());
+        return *items_;
+    }
+
+    std::unique_ptr<Items> items_;
+};
 
 /// A state variable that is the same in all rows of a set: its place among the statements (0 for
 /// one that has none of its own), its value as typed, with the conversion code of the unit, and the
@@ -42,7 +80,7 @@ struct HeldConstant {
 class DataSet : public OpenRecord {
 public:
     static constexpr int MostVariables = 3;
-    static constexpr int Items = std::tuple_size_v<StatementsOfSet>;
+    static constexpr int Items = static_cast<int>(StatementsOfSet::Count);
 
     int nVar = 1;
     /// Code of the property, conversion code of its unit, relation of results to it
@@ -60,7 +98,7 @@ public:
     RowList recData;
     double FallbackMolarMass = 0; // [g/mol] of the file, where the formula gives none
 
-    DataSet();
+    DataSet() = default;
 
     // What a kind of set says of itself.
 
@@ -180,6 +218,7 @@ protected:
 
 private:
     UnitConversion PropertyConversion(double molarMass) const;
+    void TakeUnitsOf(const clsData& added);
     bool NamesUnit() const;
     std::string CommentForRecord() const;
     std::string PrecisionForRecord(const std::string& code, const std::string& typed) const;

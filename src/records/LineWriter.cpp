@@ -2,37 +2,80 @@
 
 #include "reference/Text.h"
 
+#include <cstring>
+
 namespace vexora {
 
+namespace {
+
+/// Parts large enough that handing them on costs nothing beside making them.
+constexpr std::size_t PartSize = std::size_t{1} << 20U;
+
+bool HasLineEnd(std::string_view line) {
+    return !line.empty() && (std::memchr(line.data(), '\n', line.size()) != nullptr ||
+                             std::memchr(line.data(), '\r', line.size()) != nullptr);
+}
+
+/// One word: "&" for nothing, "_" for each blank inside.
+void AddWord(std::string& text, std::string_view field) {
+    field = Trim(field);
+    if (field.empty()) field = "&";
+    const std::size_t begin = text.size();
+    text += field;
+    for (std::size_t at = begin; at < text.size(); ++at) {
+        char& c = text[at];
+        if (c == ' ' || c == '\t' || c == '\r' || c == '\n') c = '_';
+    }
+}
+
+} // namespace
+
 void LineWriter::Line(std::string_view line) {
-    text_ += line.find_first_of("\r\n") == line.npos ? std::string(line) : SingleLine(line);
+    const std::size_t begin = text_.size();
+    text_ += line;
+    if (HasLineEnd(std::string_view(text_).substr(begin)))
+        text_.replace(begin, text_.npos, SingleLine(line));
+    End();
+}
+
+void LineWriter::Field(std::string_view field) {
+    if (text_.size() > lineBegin_) text_ += ' ';
+    AddWord(text_, field);
+}
+
+void LineWriter::End() {
     text_ += '\n';
+    lineBegin_ = text_.size();
+    if (taker_ && text_.size() >= PartSize) Flush();
+}
+
+void LineWriter::Flush() {
+    if (!taker_) return;
+    if (!text_.empty()) taker_(text_);
+    text_.clear();
+    lineBegin_ = 0;
 }
 
 void LineWriter::Fields(const std::vector<std::string>& fields) {
-    std::string line;
     for (const std::string& field : fields)
-        AppendField(line, field);
-    Line(line);
+        Field(field);
+    End();
 }
 
 void LineWriter::Fields(const std::vector<std::string>& fields, std::string_view rest) {
-    Fields(fields);
-    // The line that has just ended goes on.
-    text_.back() = ' ';
+    for (const std::string& field : fields)
+        Field(field);
+    text_ += ' ';
     Line(OrPlaceholder(Trim(rest)));
 }
 
 void LineWriter::Blank() {
-    text_ += '\n';
+    End();
 }
 
 void AppendField(std::string& line, std::string_view field) {
     if (!line.empty()) line += ' ';
-    field = Trim(field);
-    if (field.empty()) field = "&";
-    for (const char c : field)
-        line += c == ' ' || c == '\t' || c == '\r' || c == '\n' ? '_' : c;
+    AddWord(line, field);
 }
 
 std::string OrPlaceholder(std::string_view field) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -8,10 +10,20 @@
 
 namespace vexora {
 
-/// Collects the lines of a record file in memory. The framing is one for all classes: fields parted
-/// by blanks, "&" for an empty field, "\n" at the line's end.
+/// Takes the lines of a record file, into memory or, part by part, to whoever wants them. The
+/// framing is one for all classes: fields parted by blanks, "&" for an empty field, "\n" at the
+/// line's end.
 class LineWriter {
 public:
+    using Taker = std::function<void(std::string_view)>;
+    /// Collects the text.
+    LineWriter() = default;
+    /// Hands the text on in parts of some size, the last one with Flush.
+    explicit LineWriter(Taker taker) : taker_(std::move(taker)) {}
+
+    /// Writes one field of a line, a blank in front of all but the first; End ends the line.
+    void Field(std::string_view field);
+    void End();
     /// Writes one line as it stands; line breaks inside become blanks.
     void Line(std::string_view line);
     /// Writes the fields parted by one blank, "&" for each empty one.
@@ -25,11 +37,18 @@ public:
     /// Also what the record file leaves out: compounds and mixtures that nothing hangs on yet.
     bool WritesAll = false;
 
+    void Flush();
+
+    /// What has been collected.
     const std::string& Text() const { return text_; }
+    std::string TakeText() { return std::move(text_); }
     const std::vector<std::string>& Notices() const { return notices_; }
+    std::vector<std::string> TakeNotices() { return std::move(notices_); }
 
 private:
+    Taker taker_;
     std::string text_;
+    std::size_t lineBegin_ = 0; // of the line that is being written
     std::vector<std::string> notices_;
 };
 

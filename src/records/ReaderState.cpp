@@ -21,6 +21,8 @@
 #include "reference/Text.h"
 #include "reference/Vocabulary.h"
 
+#include <array>
+
 namespace vexora {
 
 namespace {
@@ -101,7 +103,10 @@ void ReadAuthor(ReaderState& state, std::string_view line) {
     // A source that comes twice brings its authors twice.
     const auto twin = source->recAuthor.Item(author->Key());
     if (twin && twin->LASTNM == author->LASTNM && twin->INITNM == author->INITNM) return;
-    source->recAuthor.Add(author, author->Key());
+    // Authors of one number are told apart without trying all numbers in between.
+    const int copies = ++state.authorKeys[source.get()][author->Key()];
+    source->recAuthor.Add(author, author->Key() +
+                                      (copies > 1 ? "~" + std::to_string(copies) : std::string()));
 }
 
 void ReadCompound(ReaderState& state, std::string_view line) {
@@ -286,6 +291,22 @@ const std::unordered_map<std::string_view, Handler>& Handlers() {
     return handlers;
 }
 
+/// The handler of the tag in front of the line, null when nobody knows it. Nearly all tags are "^"
+/// and a letter; these are found by the letter, without a look into the table.
+Handler HandlerOf(std::string_view line) {
+    constexpr std::size_t tagLength = 2;
+    static const auto ofLetters = [] {
+        std::array<Handler, 256> table{};
+        for (const auto& [tag, handler] : Handlers())
+            if (tag.front() == '^') table[static_cast<unsigned char>(tag.back())] = handler;
+        return table;
+    }();
+    if (line.size() >= tagLength && line.front() == '^')
+        return ofLetters[static_cast<unsigned char>(line[1])];
+    const auto handler = Handlers().find(line.substr(0, tagLength));
+    return handler == Handlers().end() ? nullptr : handler->second;
+}
+
 } // namespace
 
 std::string ReaderState::MendedRN(const std::string& rn) {
@@ -378,9 +399,7 @@ void ReaderState::AbandonSaid(const std::string& text) {
 }
 
 void ReadRecord(ReaderState& state, std::string_view line) {
-    constexpr std::size_t tagLength = 2;
-    const auto handler = Handlers().find(line.substr(0, tagLength));
-    if (handler != Handlers().end()) return handler->second(state, line);
+    if (const Handler handler = HandlerOf(line)) return handler(state, line);
     // Known to a later edition, perhaps: no fault, but it has to stay in the file. What begins like
     // a data record may have rows behind it, which are none of the record before.
     state.Lose(state.lineNumber, "nobody knows this tag: " + std::string(Trim(line)));

@@ -81,6 +81,8 @@ struct ReaderState {
         samples;
     std::unordered_map<const SubstanceSample*, std::unordered_set<std::string>> setKeys;
     std::unordered_map<const Record*, std::unordered_map<std::string, SetNumbers>> setNumbers;
+    /// How many authors of a source have one number.
+    std::unordered_map<const clsR*, std::unordered_map<std::string, int>> authorKeys;
     /// The highest number of a bio set, by the collection.
     std::unordered_map<const void*, int> highestBioSet;
     /// Mixtures whose components stand in another order than in the one that the source has

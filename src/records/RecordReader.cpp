@@ -15,17 +15,30 @@ namespace vexora {
 
 namespace {
 
-/// Takes the next line off the text; CR LF, LF and CR end a line.
-std::string_view TakeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(end);
-    if (text.starts_with("\r\n"))
-        text.remove_prefix(2);
-    else if (!text.empty())
-        text.remove_prefix(1);
-    return line;
-}
+/// Takes lines off a text; CR LF, LF and CR end a line.
+class LineTaker {
+public:
+    explicit LineTaker(std::string_view text) : text_(text) {}
+    bool AtEnd() const { return at_ == text_.size(); }
+    std::size_t Taken() const { return at_; }
+    std::string_view Next() {
+        // Each end is looked for once, however far away it is: a file may have one kind only.
+        if (feed_ < at_ || !isSought_) feed_ = Find('\n');
+        if (return_ < at_ || !isSought_) return_ = Find('\r');
+        isSought_ = true;
+        const std::size_t end = std::min(feed_, return_);
+        const std::string_view line = text_.substr(at_, end - at_);
+        at_ = std::min(end + (return_ + 1 == feed_ && end == return_ ? 2 : 1), text_.size());
+        return line;
+    }
+
+private:
+    std::size_t Find(char c) const { return std::min(text_.find(c, at_), text_.size()); }
+
+    std::string_view text_;
+    std::size_t at_ = 0, feed_ = 0, return_ = 0; // the next ends from here on
+    bool isSought_ = false;
+};
 
 void EmptyDocument() {
     KVOGlobal& globals = Globals();
@@ -61,25 +74,35 @@ void Finish(ReadPurpose purpose, ReadTalk& talk) {
 void ReadLines(std::string_view text, ReaderState& state) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    const bool isAllUtf8 = IsValidUtf8(text);
     constexpr int linesATime = 1000; // between two words on how far it is
     const auto all = static_cast<double>(text.size());
+    KVOGlobal& globals = Globals();
     std::string decoded;
-    while (!text.empty() && !state.isAbandoned) {
-        std::string_view line = TakeLine(text);
-        Globals().LineInHand = ++state.lineNumber;
+    LineTaker lines(text);
+    while (!lines.AtEnd() && !state.isAbandoned) {
+        std::string_view line = lines.Next();
+        globals.LineInHand = ++state.lineNumber;
         if (state.lineNumber % linesATime == 0 &&
-            !state.talk.Heard(1 - static_cast<double>(text.size()) / all)) {
+            !state.talk.Heard(static_cast<double>(lines.Taken()) / all)) {
             state.isAbandoned = state.isStopped = true;
             return;
         }
         if (Trim(line).empty()) continue;
         // By line, for old files hold some lines of each encoding.
-        if (!IsValidUtf8(line)) {
+        if (!isAllUtf8 && !IsValidUtf8(line)) {
             decoded = ToUtf8(line);
             line = decoded;
         }
         ReadRecord(state, line);
     }
+}
+
+void PrintSources(LineWriter& out, const WorkHeard& heard) {
+    for (const auto& source : Globals().recR)
+        for (std::string& fault : source->PrepareOutput())
+            out.Tell(std::move(fault));
+    WalkDocument([&out](const Record& record) { record.Print(out); }, heard);
 }
 
 } // namespace
@@ -117,11 +140,15 @@ ReadResult ReadRecords(std::string_view text, ReadTalk& talk, ReadPurpose purpos
 
 PrintedDocument PrintDocument(const WorkHeard& heard) {
     LineWriter out;
-    for (const auto& source : Globals().recR)
-        for (std::string& fault : source->PrepareOutput())
-            out.Tell(std::move(fault));
-    WalkDocument([&out](const Record& record) { record.Print(out); }, heard);
-    return {out.Text(), out.Notices()};
+    PrintSources(out, heard);
+    return {out.TakeText(), out.TakeNotices()};
+}
+
+std::vector<std::string> PrintDocument(const std::function<void(std::string_view)>& taker) {
+    LineWriter out(taker);
+    PrintSources(out, {});
+    out.Flush();
+    return out.TakeNotices();
 }
 
 std::string DocumentInMemory() {

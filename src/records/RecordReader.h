@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,9 @@ struct PrintedDocument {
 /// written truly. Nothing in memory changes but the letters of compounds and source.
 /// Tells heard how far it is; throws WorkStopped when that wants no more.
 PrintedDocument PrintDocument(const WorkHeard& heard = {});
+/// The same part by part, without the text standing in memory; the answer is the notices. A refusal
+/// may come when parts have been handed on.
+std::vector<std::string> PrintDocument(const std::function<void(std::string_view)>& taker);
 
 /// The document with all that is in memory, also what a record file leaves out. ReadRecords gives
 /// it back. Throws SaveRefused. Nothing in memory changes.

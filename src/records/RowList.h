@@ -31,10 +31,18 @@ public:
 
     /// Adds at the end.
     /// The reference holds until the rows are cleared or assigned.
-    clsData& Add(clsData row) {
+    clsData& Add(clsData row) { return Add() = std::move(row); }
+    /// Adds an empty row, which is to be filled where it stands.
+    clsData& Add() {
         if (blocks_.empty() || blocks_.back().size() == blocks_.back().capacity()) Grow();
         ++count_;
-        return blocks_.back().emplace_back(std::move(row));
+        return blocks_.back().emplace_back();
+    }
+    /// Takes back the row that was added last.
+    void DropLast() {
+        blocks_.back().pop_back();
+        if (blocks_.back().empty()) blocks_.pop_back();
+        --count_;
     }
     void Clear() {
         blocks_.clear();

@@ -28,6 +28,12 @@ std::array<std::size_t, MostVariables + 1> ItemOrder(int variables) {
     return order; // place `variables` holds 0, the property
 }
 
+/// The next word, "&" being none.
+std::string_view Field(WordReader& words) {
+    const std::string_view word = words.NextWord();
+    return word == "&" ? std::string_view() : word;
+}
+
 /// A count that cannot be meant is brought into what the field holds.
 int WrittenCount(std::string_view digits) {
     return static_cast<int>(std::clamp<std::int64_t>(ToInteger(Val(digits)), 0, MostDigits));
@@ -84,8 +90,8 @@ bool clsData::Load(WordReader& words, int variables) {
         LoadValue(text, isDigit ? words.NextWord() : std::string_view(), n);
         if (n == 0) break;
     }
-    PRPUNCERTY = NextField(words);
-    TIELINE = NextField(words);
+    PRPUNCERTY = Field(words);
+    TIELINE = Field(words);
     return true;
 }
 
@@ -112,15 +118,15 @@ void clsData::LoadExtras(WordReader& words) {
 
 void clsData::PrintData(LineWriter& out, bool hasTieWord) const {
     // Case tells the unit, the letter whether counts of digits go along.
-    std::string line = isDigit ? (inOriginalUnits ? "^g" : "^G") : (inOriginalUnits ? "^d" : "^D");
+    out.Field(isDigit ? (inOriginalUnits ? "^g" : "^G") : (inOriginalUnits ? "^d" : "^D"));
     for (const std::size_t n : ItemOrder(nVar)) {
-        AppendField(line, Values[n]);
-        if (isDigit) AppendField(line, std::to_string(DigitCount(static_cast<int>(n))));
+        out.Field(Values[n]);
+        if (isDigit) out.Field(std::to_string(DigitCount(static_cast<int>(n))));
         if (n == 0) break;
     }
-    AppendField(line, PRPUNCERTY);
-    if (hasTieWord || !IsBlankField(TIELINE)) AppendField(line, TIELINE);
-    out.Line(line);
+    out.Field(PRPUNCERTY);
+    if (hasTieWord || !IsBlankField(TIELINE)) out.Field(TIELINE);
+    out.End();
     PrintExtras(out);
 }
 

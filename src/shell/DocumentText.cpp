@@ -103,6 +103,12 @@ std::string DocumentAsRecords() {
     return std::move(printed.text);
 }
 
+void DocumentAsRecords(const std::function<void(std::string_view)>& taker) {
+    AskSourcesOfDocument();
+    for (const std::string& notice : PrintDocument(taker))
+        ui::Say(notice);
+}
+
 ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers) {
     AskSourcesOfDocument();
     return ExportDocument(today, readers);

@@ -26,6 +26,8 @@ Notice NoticeOfReading(const ReadResult& result);
 /// The document as a record file (see PrintDocument). A source that does not say where it was taken
 /// from is asked about first. Throws SaveRefused, and WorkStopped when the person has stopped it.
 std::string DocumentAsRecords();
+/// The same in parts. A refusal may come when parts have been handed on.
+void DocumentAsRecords(const std::function<void(std::string_view)>& taker);
 
 /// The document as ThermoML with what its closing check found, after the same question.
 ExportedDocument DocumentForExport(const ui::Date& today, ExportFor readers = ExportFor::House);

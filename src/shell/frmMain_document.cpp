@@ -279,7 +279,8 @@ bool frmMain::WriteDocument() {
             ui::Say("Some mixtures do not have data.\nThey will not be saved!");
     }
     SaveOutcome outcome;
-    const auto text = Printed(DocumentAsRecords, outcome.fault); // may be stopped, but no later
+    // It may be stopped, but no later.
+    const auto text = Printed([] { return DocumentAsRecords(); }, outcome.fault);
     // Printing may ask, and meanwhile the file may change; so it is looked at last of all.
     if (text && known_.IsChanged(ui::TheDesktop().Files(), FileName)) {
         askedAbout_ = DocumentName();

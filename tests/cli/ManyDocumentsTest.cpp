@@ -53,6 +53,22 @@ TEST_F(ManyDocuments, ExportsOfManyGoIntoAFolderAndNeverOnEachOther) {
     EXPECT_FALSE(std::filesystem::exists(folder.File("one")));
 }
 
+TEST_F(ManyDocuments, ADocumentIsWrittenAnewUnlessItWouldLackLines) {
+    EXPECT_EQ(Run("save papers/a.txt").code, 0);
+    const std::string saved = Read("papers/a.txt");
+    EXPECT_EQ(Read("papers/a.txt.bak"), "\n" + kDocument);
+    EXPECT_EQ(Run("save --out new papers/a.txt papers/b.txt").code, 3);
+    EXPECT_EQ(Read("new/a.txt"), saved) << "as it reads what it wrote";
+    EXPECT_FALSE(std::filesystem::exists(folder.File("new/b.txt")));
+    folder.Write("later.txt", kDocument + "^K of a later edition\n");
+    const Outcome lossy = Run("save later.txt");
+    EXPECT_EQ(lossy.code, 4);
+    EXPECT_NE(lossy.err.find("later.txt:8: error: nobody knows this tag"), std::string::npos)
+        << lossy.err;
+    EXPECT_EQ(Read("later.txt"), kDocument + "^K of a later edition\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.File("later.txt.bak")));
+}
+
 TEST_F(ManyDocuments, AReaderThatStopsIsTold) {
     const Outcome closed = Run("tree papers/a.txt >/dev/full");
     EXPECT_EQ(closed.code, 4);
