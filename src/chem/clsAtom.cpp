@@ -5,6 +5,7 @@
 #include "reference/Vocabulary.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -147,6 +148,26 @@ std::string SortKey(const std::string& symbol, bool hasCarbon) {
 
 } // namespace
 
+/// Where the symbols of a list stand. A formula may have any number of groups, and a walk for each
+/// of them would cost the square.
+struct clsAtom::SymbolPlaces {
+    /// The node with the symbol or null; first takes in what was put behind since the last call.
+    clsAtom* Of(clsAtom& list, const std::string& symbol) {
+        if (!last) Take(list);
+        while (last->nextAtom)
+            Take(*last->nextAtom);
+        const auto found = nodes.find(symbol);
+        return found == nodes.end() ? nullptr : found->second;
+    }
+    void Take(clsAtom& node) {
+        last = &node;
+        nodes.try_emplace(node.Symbol, &node);
+    }
+
+    clsAtom* last = nullptr;
+    std::unordered_map<std::string, clsAtom*> nodes;
+};
+
 clsAtom::clsAtom() = default;
 clsAtom::clsAtom(clsAtom&&) noexcept = default;
 clsAtom& clsAtom::operator=(clsAtom&&) noexcept = default;
@@ -168,6 +189,7 @@ void clsAtom::Build(std::string_view text) {
     *this = clsAtom();
     if (DepthOf(text) > DeepestBracket) return SetError();
     const std::vector<std::string_view> parts = PartsOf(text);
+    SymbolPlaces places;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         std::string_view part = parts[i];
         // A dot without a number may be a slip of the typist.
@@ -178,20 +200,25 @@ void clsAtom::Build(std::string_view text) {
         const bool isMissing = B.Symbol.empty() && parts.size() > 1;
         if (times == 0 || isMissing || B.Symbol == ErrorText) return SetError();
         B.Multiply(times);
-        AddB(B);
+        AddB(B, places);
     }
 }
 
 void clsAtom::BuildPart(std::string_view text) {
+    SymbolPlaces places;
+    const auto fail = [&] {
+        places = {};
+        SetError();
+    };
     for (std::string token = NextSymbol(text); !token.empty(); token = NextSymbol(text)) {
         if (token == ErrorText) {
-            SetError();
+            fail();
             continue;
         }
         clsAtom B;
         if (token == "(") {
             B.Build(TakeGroup(text));
-            if (B.Symbol == ErrorText || B.Symbol.empty()) SetError();
+            if (B.Symbol == ErrorText || B.Symbol.empty()) fail();
         } else {
             B.Symbol = token;
             B.Count = 1;
@@ -199,11 +226,11 @@ void clsAtom::BuildPart(std::string_view text) {
         const double number = NextNumber(text);
         // Nobody states an element in order to say that there is none of it.
         if (number == 0) {
-            SetError();
+            fail();
             continue;
         }
         B.Multiply(number);
-        AddB(B);
+        AddB(B, places);
     }
 }
 
@@ -214,15 +241,20 @@ void clsAtom::Multiply(double factor) {
 
 // Each symbol stands once, in the order in which they were typed; only Formula sorts.
 void clsAtom::AddB(clsAtom& B) {
+    SymbolPlaces places;
+    AddB(B, places);
+}
+
+void clsAtom::AddB(clsAtom& B, SymbolPlaces& places) {
     if (Symbol.empty()) {
+        places = {};
         *this = std::move(B);
         return;
     }
     for (const clsAtom* item = &B; item; item = item->nextAtom.get()) {
-        clsAtom* node = this;
-        while (node->Symbol != item->Symbol && !node->isLast)
-            node = node->nextAtom.get();
-        if (node->Symbol != item->Symbol) {
+        clsAtom* node = places.Of(*this, item->Symbol);
+        if (!node) {
+            node = places.last;
             node->nextAtom = std::make_unique<clsAtom>();
             node->isLast = false;
             node = node->nextAtom.get();

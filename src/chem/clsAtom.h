@@ -38,6 +38,8 @@ public:
     double MMass() const;
 
 private:
+    struct SymbolPlaces;
+    void AddB(clsAtom& B, SymbolPlaces& places);
     void BuildPart(std::string_view text);
     void SetError();
 };

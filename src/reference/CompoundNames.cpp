@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <numeric>
 
 namespace vexora {
 
@@ -22,26 +23,37 @@ bool HasWildcard(std::string_view pattern) {
     return pattern.find_first_of("*%?#[") != pattern.npos;
 }
 
-/// A pattern, with the two usual ones tested at once: no wildcard, and one fragment between stars.
+/// A pattern, with the usual ones tested at once: no wildcard, a beginning in front of a star, and
+/// one fragment between stars.
 class Pattern {
 public:
     Pattern(std::string_view pattern, bool caseCounts) : pattern_(pattern), case_(caseCounts) {
-        const bool stars = pattern.size() > 2 && IsStar(pattern.front()) && IsStar(pattern.back());
-        const std::string_view inner = stars ? pattern.substr(1, pattern.size() - 2) : pattern;
+        std::string_view inner = pattern;
+        const bool isOpen = inner.size() > 1 && IsStar(inner.back());
+        if (isOpen) inner.remove_suffix(1);
+        const bool isFragment = isOpen && inner.size() > 1 && IsStar(inner.front());
+        if (isFragment) inner.remove_prefix(1);
         if (HasWildcard(inner)) return;
-        kind_ = stars ? Kind::Fragment : Kind::Whole;
+        kind_ = isFragment ? Kind::Fragment : isOpen ? Kind::Beginning : Kind::Whole;
         fixed_ = inner;
     }
+    /// The text that all matches are, or begin with; empty when there is none such.
+    std::string_view Begin() const {
+        return IsWhole() || kind_ == Kind::Beginning ? std::string_view(fixed_)
+                                                     : std::string_view();
+    }
+    bool IsWhole() const { return kind_ == Kind::Whole; }
     /// The text has the case of the pattern already, or case counts.
     bool Matches(std::string_view text) const {
         if (pattern_.empty()) return true;
         if (kind_ == Kind::Whole) return text == fixed_;
+        if (kind_ == Kind::Beginning) return text.starts_with(fixed_);
         if (kind_ == Kind::Fragment) return text.find(fixed_) != text.npos;
         return Like(pattern_, text, case_);
     }
 
 private:
-    enum class Kind { Any, Whole, Fragment };
+    enum class Kind { Any, Whole, Beginning, Fragment };
     static bool IsStar(char c) { return c == '*' || c == '%'; }
 
     std::string pattern_;
@@ -109,10 +121,17 @@ std::vector<CompoundRow> CompoundNames::Matching(std::string_view namePattern,
     const Pattern elements(formula, true);
     const Ranks ranks(namePattern);
     std::array<std::vector<CompoundRow>, 3> found;
+    const auto take = [&](const Row& row) {
+        found[ranks.Of(Name(row), Key(row))].push_back(
+            {row.rn, std::string(Name(row)), std::string(Formula(row))});
+    };
+    if (!name.Begin().empty()) {
+        for (const std::uint32_t number : WithKey(name.Begin(), name.IsWhole(), rows_.size()))
+            if (elements.Matches(Formula(rows_[number]))) take(rows_[number]);
+        return Joined(std::move(found));
+    }
     for (const Row& row : rows_)
-        if (elements.Matches(Formula(row)) && name.Matches(Key(row)))
-            found[ranks.Of(Name(row), Key(row))].push_back(
-                {row.rn, std::string(Name(row)), std::string(Formula(row))});
+        if (elements.Matches(Formula(row)) && name.Matches(Key(row))) take(row);
     return Joined(std::move(found));
 }
 
@@ -122,14 +141,42 @@ std::vector<std::string> CompoundNames::BeginningWith(std::string_view text,
     if (key.empty()) return {};
     const Ranks ranks(text);
     std::array<std::vector<std::string>, 3> found;
-    for (const Row& row : rows_) {
-        if (!Key(row).starts_with(key)) continue;
+    const auto take = [&](std::uint32_t number) {
+        const Row& row = rows_[number];
         auto& names = found[ranks.Of(Name(row), Key(row))];
         if (names.size() < limit) names.emplace_back(Name(row));
-    }
+    };
+    // Of the very name all are looked at: the writing that was typed may stand far behind.
+    std::ranges::for_each(WithKey(key, true, rows_.size()), take);
+    for (const std::uint32_t number : WithKey(key, false, limit))
+        if (Key(rows_[number]) != key) take(number);
     std::vector<std::string> names = Joined(std::move(found));
     if (names.size() > limit) names.resize(limit);
     return names;
+}
+
+const CompoundNames::Numbers& CompoundNames::ByKey() const {
+    if (!byKey_.empty() || rows_.empty()) return byKey_;
+    byKey_.resize(rows_.size());
+    std::iota(byKey_.begin(), byKey_.end(), std::uint32_t{0});
+    // Rows of one key stay in table order.
+    std::ranges::stable_sort(byKey_, {}, [this](std::uint32_t n) { return Key(rows_[n]); });
+    return byKey_;
+}
+
+CompoundNames::Numbers CompoundNames::WithKey(std::string_view key, bool isWhole,
+                                              std::size_t limit) const {
+    const auto within = std::ranges::equal_range(ByKey(), key, {}, [&](std::uint32_t n) {
+        const std::string_view whole = Key(rows_[n]);
+        return isWhole ? whole : whole.substr(0, key.size());
+    });
+    Numbers found(within.begin(), within.end());
+    const std::size_t count = std::min(limit, found.size());
+    const auto end = found.begin() + static_cast<std::ptrdiff_t>(count);
+    if (count < found.size()) std::ranges::nth_element(found, end);
+    found.resize(count);
+    std::ranges::sort(found);
+    return found;
 }
 
 std::string_view CompoundNames::Key(const Row& row) const {

@@ -38,12 +38,19 @@ private:
         std::size_t start;
         std::uint32_t keyLength, nameLength, formulaLength;
     };
+    using Numbers = std::vector<std::uint32_t>;
+    /// The rows whose keys begin with a text, or are it, by their numbers in table order; no more
+    /// than so many of them.
+    Numbers WithKey(std::string_view key, bool isWhole, std::size_t limit) const;
+    /// All rows in the order of their keys.
+    const Numbers& ByKey() const;
     std::string_view Key(const Row& row) const;
     std::string_view Name(const Row& row) const;
     std::string_view Formula(const Row& row) const;
 
     std::string text_;
     std::vector<Row> rows_;
+    mutable Numbers byKey_; // empty until it is asked for
     std::uint64_t edition_ = 0;
     std::int64_t version_ = 0;
 };
