@@ -3,9 +3,10 @@ _vexora_cli_options() { # command, sub-command
     case $1 in
         check | tree) echo "--format --help --home" ;;
         export) echo "--format --help --home --out --strict" ;;
+        save) echo "--format --help --home --out" ;;
         diff) echo "--help --home" ;;
         table) echo "--format --help --home --list --no-head --system" ;;
-        play) echo "--date --home --keep-going --recovery --var" ;;
+        play) echo "--allow-files --date --home --keep-going --recovery --var" ;;
         refdb)
             case $2 in
                 build) echo "--data --help --out" ;;
@@ -24,7 +25,7 @@ _vexora_cli() {
     local command=${COMP_WORDS[1]} words=""
     COMPREPLY=()
     case $before in
-        --home | --out | --data) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
+        --home | --out | --data | --allow-files) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$current"); return ;;
         --format)
             words="text json jsonl"
             [[ $command == table ]] && words="tsv csv json"
@@ -37,7 +38,7 @@ _vexora_cli() {
         ((COMP_CWORD == 1)) && command=""
         words=$(_vexora_cli_options "$command" "${COMP_WORDS[2]}")
     elif ((COMP_CWORD == 1)); then
-        words="check diff export play refdb table tree"
+        words="check diff export play refdb save table tree"
     elif ((COMP_CWORD == 2)) && [[ $command == refdb ]]; then
         words="add added build check import"
     fi

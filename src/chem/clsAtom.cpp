@@ -202,6 +202,16 @@ void clsAtom::Build(std::string_view text) {
         B.Multiply(times);
         AddB(B, places);
     }
+    if (!HasPlainCounts()) SetError();
+}
+
+// The canonical text has to give each count back, which it writes plainly.
+bool clsAtom::HasPlainCounts() const {
+    constexpr double least = 1e-9;
+    constexpr double most = 1e12;
+    for (const clsAtom* node = this; node; node = node->nextAtom.get())
+        if (!node->Symbol.empty() && !(node->Count >= least && node->Count <= most)) return false;
+    return true;
 }
 
 void clsAtom::BuildPart(std::string_view text) {

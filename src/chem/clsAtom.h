@@ -42,6 +42,7 @@ private:
     void AddB(clsAtom& B, SymbolPlaces& places);
     void BuildPart(std::string_view text);
     void SetError();
+    bool HasPlainCounts() const;
 };
 
 /// The canonical text of a typed formula, empty when it is none.

@@ -34,10 +34,30 @@ TEST_F(Formulas, TypedTextBecomesTheCanonicalOne) {
 }
 
 TEST_F(Formulas, WhatIsNoFormulaGivesNoText) {
-    for (const char* text : {"",      "H2O0",    "H0O",        "Xx2",    "ch4",  "(CH3",
-                             "C()H4", "H2O!",    "H2(Xx)3O",   "(CH2)0", "H.O",  "CO2\xC2\xB7H2O",
-                             "Chbr3", "C2H5)OH", "CH3)2",      "H2O)",   "{R2O", "*",
-                             "*2H2O", "CuSO4*5", "CuSO4*0H2O", "C*2*3H"}) {
+    for (const char* text : {"",
+                             "H2O0",
+                             "H0O",
+                             "Xx2",
+                             "ch4",
+                             "(CH3",
+                             "C()H4",
+                             "H2O!",
+                             "H2(Xx)3O",
+                             "(CH2)0",
+                             "H.O",
+                             "CO2\xC2\xB7H2O",
+                             "Chbr3",
+                             "C2H5)OH",
+                             "CH3)2",
+                             "H2O)",
+                             "{R2O",
+                             "*",
+                             "*2H2O",
+                             "CuSO4*5",
+                             "CuSO4*0H2O",
+                             "C*2*3H",
+                             "C5H8444444444444444444",
+                             "CH0.0000000000000000004"}) {
         EXPECT_EQ(CanonicalFormula(text), "") << text;
         EXPECT_EQ(MolarMassOfFormula(text), 0) << text;
     }

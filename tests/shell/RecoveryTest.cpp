@@ -225,7 +225,7 @@ TEST_F(RecoveryTest, WhatCannotBeWrittenIsToldOnceAndStopsNothing) {
          "set frmSubst.txtFormula \"H2O\"\n"
          "click frmSubst.cmdAccept\n"
          "click frmSubst.cmdAccept\n"
-         "expect frmMain.lblStatus contains \"New document - not saved - next\"\n");
+         "expect frmMain.lblStatus contains \"New document - not saved - new\"\n");
 }
 
 } // namespace vexora::test
