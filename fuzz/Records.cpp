@@ -3,11 +3,13 @@
 
 #include "FuzzRoom.h"
 #include "Target.h"
+#include "cli/QuietDesktop.h"
 #include "export/ExportDocument.h"
 #include "records/DocumentCheck.h"
 #include "records/LineWriter.h"
 #include "records/RecordReader.h"
 #include "records/clsR.h"
+#include "ui/Forms.h"
 
 namespace vexora::fuzz {
 
@@ -41,6 +43,8 @@ std::optional<std::string> Printed() {
 } // namespace
 
 void Try(std::string_view text) {
+    static QuietDesktop desktop([](const ui::Message&) {});
+    static ui::Forms forms(desktop);
     static Room room;
     if (!Read(text)) return;
     CheckDocument();
