@@ -52,6 +52,7 @@ void frmDocument::TakePasted() {
         TakeAuthors(pasted_->authors, isOther ? frmAuthor::Authors() : authors_);
     if (replaces(citation.keyWords)) txtKeyWords.Enter(citation.keyWords);
     if (replaces(citation.abstract)) txtAbstract.Enter(citation.abstract);
+    cmdAccept.SetFocus(); // Enter at the button of pasting would paste again
 }
 
 /// Of authors who are new to the table, those whom the description of this paper has stay who they
