@@ -124,14 +124,14 @@ bool StandsInFile(const RecoveryCopy& copy) {
     return present && *present == copy.Records;
 }
 
-bool IsWanted(const RecoveryCopy& copy) {
+ui::Answer AskAbout(const RecoveryCopy& copy) {
     const std::string name =
         copy.FileName.empty() ? "a new document" : SplitPath(copy.FileName).Title;
     return ui::TheDesktop().Show({"The program ended without saving " + name +
                                       ".\nDo you want to restore the document as it was after the "
                                       "last accepted dialog?",
-                                  "Recovery", ui::MessageButtons::YesNo, ui::Answer::Yes,
-                                  "&Restore", "&Discard"}) == ui::Answer::Yes;
+                                  "Recovery", ui::MessageButtons::YesNoCancel, ui::Answer::Yes,
+                                  "&Restore", "&Discard"});
 }
 
 } // namespace
@@ -238,10 +238,11 @@ bool Recovery::OfferOne(const std::string& path,
     std::string fault;
     const auto text = files.Read(path, fault);
     const auto copy = text ? RecoveryCopyOf(*text) : std::nullopt;
-    if (copy && (StandsInFile(*copy) || !IsWanted(*copy))) {
-        files.Remove(path);
-        return false;
-    }
+    const ui::Answer answer = !copy                 ? ui::Answer::Yes
+                              : StandsInFile(*copy) ? ui::Answer::No
+                                                    : AskAbout(*copy);
+    if (answer == ui::Answer::No) files.Remove(path);
+    if (answer != ui::Answer::Yes) return false;
     if (copy) fault = restore(*copy);
     if (copy && fault.empty()) {
         folder_->Adopt(path);

@@ -45,7 +45,8 @@ public:
     void Follow(const std::string& fileName, const KnownFile& known);
     void Discard();
     /// Offers what programs before have left, the latest first, until restore has taken one; true
-    /// when it has. What is declined goes, and what cannot be read is put aside.
+    /// when it has. What is declined goes, what a person does not decide about stays for the next
+    /// time, and what cannot be read is put aside.
     bool Offer(const std::function<std::string(const RecoveryCopy&)>& restore);
     /// Why the copy could not be written just now; told once and not again until it could.
     const std::string& Trouble() const { return trouble_; }

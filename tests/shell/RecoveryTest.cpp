@@ -183,8 +183,8 @@ TEST_F(RecoveryTest, ARestoredDocumentIsSavedByTheUsualRules) {
     EXPECT_EQ(Content(Out("mine.txt")).find("^S 2"), std::string::npos);
 }
 
-// Programs that live keep their copies; one that was declined or cannot be read is not asked about
-// again.
+// Programs that live keep their copies; Escape decides nothing; one that was declined or cannot be
+// read is not asked about again.
 TEST_F(RecoveryTest, EachProgramHasItsOwnCopy) {
     const std::string place = folder_.Path("copies");
     std::string error;
@@ -205,6 +205,8 @@ TEST_F(RecoveryTest, EachProgramHasItsOwnCopy) {
     EXPECT_EQ(fourth.Orphans().size(), 1U);
 
     Play(Compounds);
+    Play(Asked("Cancel") + "expect caption frmMain "
+                           "\"Vexora - Thermophysical and Thermochemical Data\"\nquit\n");
     Play(Asked("No") + "quit\nstart\ninput cancel\nquit\n");
     EXPECT_EQ(Left(), "");
     std::ofstream(Home() + "/recovery/7-1.recovery") << "vexora recovery 1\nfile\nrecords\n";
@@ -225,7 +227,7 @@ TEST_F(RecoveryTest, WhatCannotBeWrittenIsToldOnceAndStopsNothing) {
          "set frmSubst.txtFormula \"H2O\"\n"
          "click frmSubst.cmdAccept\n"
          "click frmSubst.cmdAccept\n"
-         "expect frmMain.lblStatus contains \"New document - not saved - new\"\n");
+         "expect frmMain.lblStatus contains \"New document - not saved - new: water\"\n");
 }
 
 } // namespace vexora::test
