@@ -2,14 +2,18 @@
 // faster: each is measured at two sizes, and BigO tells what fits.
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 
 #include "BenchDesktop.h"
 #include "globals/KVOGlobal.h"
+#include "host/PosixFileSystem.h"
 #include "records/LineWriter.h"
 #include "records/clsL.h"
 #include "records/clsR.h"
+#include "reference/SafeFile.h"
 #include "shell/DocumentText.h"
 #include "ui/Form.h"
 #include "ui/Forms.h"
@@ -97,6 +101,26 @@ void ReadAndWriteMixtureRows(benchmark::State& state) {
     ReadAndWrite(state, ManyMixtureRows(static_cast<int>(state.range(0))));
 }
 
+/// A million rows to a file: as a save does, with its flush and .bak, or written and no more.
+void SaveRows(benchmark::State& state) {
+    Room room;
+    if (!room.Read(ManyRows(1000000))) state.SkipWithError("not read");
+    const std::string path = (std::filesystem::current_path() / "vexora-bench-rows.txt").string();
+    host::PosixFileSystem files;
+    const bool isSafe = state.range(0) != 0;
+    for (auto _ : state) {
+        if (isSafe) {
+            const auto print = [](const auto& taker) { DocumentAsRecords(taker); };
+            if (!WriteSafely(files, path, print, true).isSaved) state.SkipWithError("not saved");
+        } else {
+            std::ofstream file(path, std::ios::binary);
+            DocumentAsRecords([&file](std::string_view part) { file << part; });
+        }
+    }
+    std::filesystem::remove(path);
+    std::filesystem::remove(path + ".bak");
+}
+
 /// Single values with as many statements of uncertainty each, up to four: of the author, combined,
 /// repeatability, device.
 std::string StatedValues(int count, int statements) {
@@ -140,6 +164,7 @@ BENCHMARK(ReadAndWriteRows)->Arg(10000)->Arg(100000)->Complexity()->Unit(benchma
 BENCHMARK(ReadAndWriteRows)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadAndWriteMixtureRows)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
+BENCHMARK(SaveRows)->Arg(0)->Arg(1)->ArgName("safe")->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadStatedValues)
     ->ArgsProduct({{18000}, {0, 1, 4}})
     ->ArgNames({"values", "statements"})

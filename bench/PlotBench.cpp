@@ -2,42 +2,13 @@
 // searched for the point under the mouse.
 #include <benchmark/benchmark.h>
 
-#include <cmath>
-#include <memory>
+#include <algorithm>
+#include <vector>
 
-#include "BenchDesktop.h"
-#include "globals/KVOGlobal.h"
-#include "plot/frmGraph.h"
-#include "ui/Forms.h"
+#include "FullPlot.h"
 
 namespace vexora {
 namespace {
-
-struct FullPlot {
-    FullPlot() {
-        forms.Register<frmGraph>("frmGraph");
-        auto table = std::make_shared<PlotTable>();
-        table->YName = "Density (kg/m3)";
-        table->VarNames = {"Temperature (K)", "Pressure (kPa)"};
-        table->nVar = 2;
-        for (std::size_t i = 0; i < PlotTable::MostPoints; ++i) {
-            const auto at = static_cast<double>((i * 7919) % PlotTable::MostPoints);
-            table->Add({1000 - at / 50, 300 + at / 100, std::floor(at / 20)}, 0.1,
-                       static_cast<int>(i));
-        }
-        globals.Plot = table;
-    }
-    frmGraph& Open() {
-        auto& graph = forms.Get<frmGraph>("frmGraph");
-        graph.Show();
-        return graph;
-    }
-    ~FullPlot() { forms.CloseAll(); }
-
-    BenchDesktop desktop;
-    ui::Forms forms{desktop};
-    KVOGlobal globals;
-};
 
 void OpenPlot(benchmark::State& state) {
     FullPlot plot;
@@ -68,6 +39,19 @@ void FindPoint(benchmark::State& state) {
         graph.picPIC.UserHover(400 + ++moved % 2 * 100, 300);
 }
 
+/// What the arranging is held against.
+void SortDoubles(benchmark::State& state) {
+    std::vector<double> values;
+    for (std::size_t i = 0; i < PlotTable::MostPoints; ++i)
+        values.push_back(static_cast<double>((i * 7919) % PlotTable::MostPoints));
+    for (auto _ : state) {
+        std::vector<double> sorted = values;
+        std::sort(sorted.begin(), sorted.end());
+        benchmark::DoNotOptimize(sorted.data());
+    }
+}
+
+BENCHMARK(SortDoubles)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenPlot)->Unit(benchmark::kMillisecond);
 BENCHMARK(TurnPlot)->Unit(benchmark::kMillisecond);
 BENCHMARK(FindPoint)->Unit(benchmark::kMillisecond);

@@ -77,6 +77,24 @@ void Paste(benchmark::State& state) {
         form.tblData.UserPaste(text);
 }
 
+/// A table of nine columns from its text to checked cells; mawk sums the same one.
+void PasteOfNineColumns(benchmark::State& state) {
+    Table table;
+    table.set->UX[1].iUnc = true;
+    frmData2& form = table.Open();
+    std::string text;
+    for (int row = 0; row < rows; ++row) {
+        const std::string n = std::to_string(row);
+        text += std::to_string(275 + row % 300) + ".15\t0.02\t" + std::to_string(100 + row % 900) +
+                "\t" + std::to_string(900 + row % 99) + "." + n +
+                "\t0.010\t0.020\t5\t0.030\t0.5%\n";
+    }
+    for (auto _ : state)
+        form.tblData.UserPaste(text);
+    if (form.tblData.Rows() < rows || form.tblData.Columns() != 10)
+        state.SkipWithError("cells are missing");
+}
+
 /// All checks with the evaluation of every row, and storing.
 void Accept(benchmark::State& state) {
     Table table;
@@ -335,6 +353,7 @@ void WriteDocument(benchmark::State& state) {
 
 BENCHMARK(Load)->Unit(benchmark::kMillisecond);
 BENCHMARK(Paste)->Unit(benchmark::kMillisecond);
+BENCHMARK(PasteOfNineColumns)->Unit(benchmark::kMillisecond);
 BENCHMARK(Accept)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCell)->Unit(benchmark::kMillisecond);
 BENCHMARK(TypeCellOfACurve)->Unit(benchmark::kMillisecond);
