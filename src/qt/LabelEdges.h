@@ -8,4 +8,8 @@ namespace vexora::qt {
 /// neighbouring groups.
 void ShareLabelEdge(QGridLayout& column);
 
+/// Rows of fields below each other, each beside its own label: their first fields begin and end in
+/// line, and their second ones begin in line.
+void LineUpRows(const QGridLayout& column);
+
 } // namespace vexora::qt

@@ -101,6 +101,8 @@ void LayoutBuilder::FollowFolds() {
             std::ranges::any_of(fold.marks, [](const ui::CheckBox* mark) { return mark->Value(); });
         if (std::exchange(fold.used, used) != used || !fold.begun) fold.box->Fold(!used);
         fold.begun = true;
+        if (const auto* rows = qobject_cast<QGridLayout*>(fold.content->layout()))
+            LineUpRows(*rows);
     }
 }
 
