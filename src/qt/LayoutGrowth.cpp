@@ -20,8 +20,8 @@ constexpr int ShortList = 8; // so many entries are shown without scrolling
 bool ItemGrowsDown(const ui::Control& control) {
     switch (control.Kind()) {
     case ControlKind::ListBox: {
-        const int entries = static_cast<const ui::ListBox&>(control).Count();
-        return entries == 0 || entries > ShortList;
+        const auto& list = static_cast<const ui::ListBox&>(control);
+        return list.TakesRoom || list.Count() == 0 || list.Count() > ShortList;
     }
     case ControlKind::Grid:
     case ControlKind::TreeView:

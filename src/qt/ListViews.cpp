@@ -124,7 +124,7 @@ void ComboView::Draw() {
     // New entries take the caret to the end; a selection that nothing touched has to stay.
     if (model_.IsEditable() && before == text && own_->lineEdit()->cursorPosition() != caret)
         own_->lineEdit()->setCursorPosition(caret);
-    if (model_.IsEditable()) Shade(*own_, !model_.Enabled());
+    if (model_.IsEditable()) Shade(*own_, !model_.IsUsable());
     DrawSelection(text);
     DrawEntries();
 }
@@ -201,7 +201,7 @@ ListView::ListView(FormWindow& window, ui::ListBox& list)
     own_->setSelectionMode(list.SelectionMode() == ui::ListBox::Mode::Multi
                                ? QAbstractItemView::MultiSelection
                                : QAbstractItemView::SingleSelection);
-    filledLater_ = list.Count() == 0;
+    filledLater_ = list.TakesRoom || list.Count() == 0;
     own_->setMinimumHeight(own_->fontMetrics().lineSpacing() * 3);
     if (HasChecks()) {
         QObject::connect(own_, &QListWidget::itemChanged, this, [this] { HandOver(); });
@@ -210,7 +210,7 @@ ListView::ListView(FormWindow& window, ui::ListBox& list)
     } else {
         QObject::connect(own_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
             const int row = own_->row(item);
-            Act([this, row] { model_.UserChoose(row); });
+            ActAndRefresh([this, row] { model_.UserChoose(row); });
         });
         own_->OnKeyDone = [this] {
             const int row = own_->currentRow();
@@ -285,7 +285,10 @@ void ListView::Fill() {
 void ListView::Draw() {
     if (shown_ != model_.Items() || readable_ != model_.Readable()) Fill();
     if (IsSingle()) {
+        // What only says what is to be chosen must not look chosen.
+        const bool prompts = model_.FirstIsPrompt && model_.Index() == 0;
         if (own_->currentRow() != model_.Index()) own_->setCurrentRow(model_.Index());
+        if (prompts) own_->clearSelection();
         return;
     }
     for (int i = 0; i < own_->count(); ++i) {

@@ -50,6 +50,7 @@ frmCheck::frmCheck() : Form("frmCheck", "Check the document") {
     PreferredColumns = 110;
     PreferredRows = 26;
     HelpContext = 410;
+    lstFindings.TakesRoom = true;
     txtNode.Locked(true);
     lstFindings.OnClick = [this] { lstFindings_Click(); };
     lstFindings.OnDoubleClick = [this] { cmdGo_Click(); };

@@ -113,6 +113,8 @@ public:
     ListBox(Form& form, std::string name, Mode mode = Mode::Single)
         : ItemList(form, ControlKind::ListBox, std::move(name)), mode_(mode) {}
     ui::ListBox::Mode SelectionMode() const { return mode_; }
+    /// The list is what its form is for: it takes the room there is, however few its entries.
+    bool TakesRoom = false;
     bool Selected(int index) const;
     void Selected(int index, bool on);
     int SelectedCount() const;
