@@ -49,12 +49,14 @@ bool TextView::Wants(const ui::Key& key) const {
 void TextView::Draw() {
     const QString text = ShownText(model_);
     const bool isOwn = text == ToQt(model_.Text());
+    // What is only read, or not being typed in now, shows its beginning.
+    const bool isRead = !isOwn || (model_.Locked() && !model_.HasFocus());
     if (WidgetText() != text) {
         PutText(text);
-        if (!isOwn) PutSelection(0, 0); // what is only read shows its beginning
+        if (isRead) PutSelection(0, 0);
     }
-    if (isOwn) DrawSelection();
-    Shade(*Widget(), !model_.Enabled() || (model_.Locked() && !model_.OnClick));
+    if (!isRead) DrawSelection();
+    Shade(*Widget(), !model_.IsUsable() || (model_.Locked() && !model_.OnClick));
     Widget()->setCursor(model_.Locked() && model_.OnClick ? Qt::PointingHandCursor
                                                           : Qt::IBeamCursor);
 }
