@@ -1,5 +1,6 @@
 #include "sources/frmCitation.h"
 
+#include "records/SourceText.h"
 #include "records/clsAuthor.h"
 #include "sources/CitedSource.h"
 #include "sources/frmDocument.h"
@@ -48,6 +49,7 @@ void frmCitation::Fill(const CitedSource& cited) {
     txtYear.Text(cited.citation.year);
     lstDetails.Assign(cited.Details());
     txtSource.Text(cited.source);
+    txtSource.Readable(PublicationInWords(cited.source));
     txtKeyWords.Text(cited.citation.keyWords);
     txtAbstract.Text(cited.citation.abstract);
     lstRemarks.Assign(cited.remarks);
