@@ -26,7 +26,7 @@ class frmDocument : public ChainForm, public ui::FileTarget {
 public:
     frmDocument();
 
-    ui::MenuItem mnuHowTo{*this, "mnuHowTo", "How to use this form"};
+    ui::MenuItem mnuHowTo{*this, "mnuHowTo", "&How to use this form"};
     ui::ComboBox cboTypeDoc{*this, "cboTypeDoc"};
     PromptedTextBox txtTitle{*this, "txtTitle", "ENTER OR PASTE TITLE HERE",
                              ui::TextBox::Lines::Many};
