@@ -283,6 +283,7 @@ void TreeWidgetView::AddToMenu(ui::Captioned& entry) {
     QAction* action = menu_->addAction(icon, text);
     action->setObjectName(ToQt(entry.Name()));
     action->setEnabled(enabled);
+    if (!enabled) action->setToolTip(ToQt(entry.WhyDisabled()));
     QObject::connect(action, &QAction::triggered, this,
                      [this, &entry] { Act([&entry] { entry.UserClick(); }); });
 }
@@ -291,6 +292,7 @@ void TreeWidgetView::ShowMenu() {
     delete menu_;
     menu_ = new QMenu(own_);
     menu_->setAttribute(Qt::WA_DeleteOnClose);
+    menu_->setToolTipsVisible(true);
     for (ui::Captioned* entry : model_.Offers()) {
         if (entry)
             AddToMenu(*entry);
