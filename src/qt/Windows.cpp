@@ -11,6 +11,15 @@
 
 namespace vexora::qt {
 
+namespace {
+
+QString SplitKey(const QString& window, qsizetype splitter) {
+    const QString key = window + "/split";
+    return splitter == 0 ? key : key + QString::number(splitter + 1);
+}
+
+} // namespace
+
 struct Windows::Watch {
     explicit Watch(Windows& of) : owner(&of) {}
     ~Watch() {
@@ -173,16 +182,18 @@ void Windows::Remember(const FormWindow& window) const {
     if (!Settings || !window.isVisible()) return;
     const QString key = "windows/" + window.objectName();
     Settings->setValue(key, window.saveGeometry());
-    if (const auto* splitter = window.findChild<QSplitter*>())
-        Settings->setValue(key + "/split", splitter->saveState());
+    const auto splitters = window.findChildren<QSplitter*>();
+    for (qsizetype i = 0; i < splitters.size(); ++i)
+        Settings->setValue(SplitKey(key, i), splitters[i]->saveState());
 }
 
 void Windows::Restore(FormWindow& window, const ui::Form& form) const {
     if (!Settings) return;
     const QString key = "windows/" + window.objectName();
     const auto last = Settings->value(key).toByteArray();
-    if (auto* splitter = window.findChild<QSplitter*>())
-        splitter->restoreState(Settings->value(key + "/split").toByteArray());
+    const auto splitters = window.findChildren<QSplitter*>();
+    for (qsizetype i = 0; i < splitters.size(); ++i)
+        splitters[i]->restoreState(Settings->value(SplitKey(key, i)).toByteArray());
     // The workbench takes the screen until somebody has given it another size.
     if (!window.restoreGeometry(last) && !window.parentWidget() && !form.IsModal())
         window.setWindowState(Qt::WindowMaximized);
