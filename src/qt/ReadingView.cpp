@@ -22,7 +22,8 @@ ReadingView::ReadingView(FormWindow& window, ui::RichText& text, ui::DocumentFor
 }
 
 std::string ReadingView::Page() const {
-    const std::string page = document_.WelcomePage(Window().All().RecentDocuments());
+    recent_ = Window().All().RecentDocuments();
+    const std::string page = document_.WelcomePage(recent_);
     return page.empty() ? RichTextView::Page() : page;
 }
 
@@ -64,9 +65,10 @@ bool ReadingView::eventFilter(QObject* watched, QEvent* event) {
 void ReadingView::Follow(const std::string& link) {
     constexpr std::string_view recent = "recent:";
     if (!link.starts_with(recent)) return Act([&] { document_.FollowLink(link); });
-    const std::vector<std::string> files = Window().All().RecentDocuments();
     const auto place = static_cast<std::size_t>(ToQt(link.substr(recent.size())).toUInt());
-    if (place < files.size()) Window().OpenDropped(files[place]);
+    if (place >= recent_.size()) return;
+    const std::string file = recent_[place]; // the page changes when it is open
+    Window().OpenDropped(file);
 }
 
 } // namespace vexora::qt

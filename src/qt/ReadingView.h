@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "qt/BasicViews.h"
 
 namespace vexora::ui {
@@ -24,6 +27,7 @@ private:
     void Follow(const std::string& link);
 
     ui::DocumentForm& document_;
+    mutable std::vector<std::string> recent_; // on the page; some may be gone since
 };
 
 } // namespace vexora::qt

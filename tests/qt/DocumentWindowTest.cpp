@@ -173,6 +173,25 @@ TEST_F(DocumentWindow, RecentDocumentsAreThoseOpenedOrSavedThatCanBeRead) {
     EXPECT_EQ(windows_.RecentDocuments(), std::vector{FromQt(paths[1])});
 }
 
+// One that is gone by now is told as such, and no other is opened in its place.
+TEST_F(DocumentWindow, ALinkOfTheGreetingOpensTheFileThatItNames) {
+    const std::string first = FromQt(folder_.filePath("a.txt")),
+                      second = FromQt(folder_.filePath("b.txt"));
+    for (const std::string& path : {second, first}) {
+        ASSERT_TRUE(QFile(ToQt(path)).open(QIODevice::WriteOnly));
+        Form().Taken.Emit(path);
+    }
+    Alter("");
+    std::vector<std::string> opened;
+    Form().tvwTree.OnDrop = [&](const std::string& path) { opened.push_back(path); };
+    QFile::remove(ToQt(first));
+    auto& page = static_cast<QTextBrowser&>(*WidgetOf(Form().rtfReading));
+    for (const char* link : {"recent:0", "recent:1", "recent:2"})
+        emit page.anchorClicked(QUrl(link));
+    EXPECT_EQ(opened, (std::vector{first, second}));
+    Form().tvwTree.OnDrop = nullptr;
+}
+
 TEST_F(DocumentWindow, MenusLeaveOutWhatIsDeadAndSayWhyTheRestIsGrey) {
     const QMenu& menu = *Window().MenuFor(Form().mnuFile);
     EXPECT_TRUE(menu.toolTipsVisible());
