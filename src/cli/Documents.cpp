@@ -15,10 +15,12 @@
 #include "cli/ExitCodes.h"
 #include "cli/Json.h"
 #include "cli/OpenedDocument.h"
+#include "globals/KVOGlobal.h"
 #include "host/TreeText.h"
 #include "records/DocumentCheck.h"
 #include "records/LineWriter.h"
 #include "records/Record.h"
+#include "records/clsR.h"
 #include "reference/SafeFile.h"
 #include "shell/DocumentText.h"
 
@@ -107,6 +109,13 @@ int Save(OpenedDocument& document, Product& product) {
         document.Tell(0, Severity::Error, "the document is not written, for it would lack this");
         return kExitCannotWrite;
     }
+    if (const Record* sample = SampleBesideSystem()) {
+        document.Tell(sample->Line, Severity::Error, BesideSystemText);
+        return kExitCannotWrite;
+    }
+    for (const auto& source : Globals().recR)
+        for (const std::string& text : LeftOutOfSave(*source))
+            document.Tell(0, Severity::Warning, text);
     product.keepsBackup = true;
     product.print = [](const auto& taker) { DocumentAsRecords(taker); };
     return kExitClean;

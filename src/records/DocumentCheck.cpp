@@ -99,6 +99,21 @@ const Record* SampleBesideSystem() {
     return found;
 }
 
+std::vector<std::string> LeftOutOfSave(clsR& source) {
+    std::vector<std::string> told;
+    source.MarkCompounds();
+    const bool losesCompounds = std::ranges::any_of(source.recL, [](const auto& compound) {
+        return compound->recS.IsEmpty() && !compound->isNew && !compound->isUsed;
+    });
+    const bool losesMixtures =
+        std::ranges::any_of(source.recM, [](const auto& mixture) { return !mixture->HasData(); });
+    if (losesCompounds)
+        told.emplace_back("Some compounds do not have samples.\nThey will not be saved!");
+    if (losesMixtures)
+        told.emplace_back("Some mixtures do not have data.\nThey will not be saved!");
+    return told;
+}
+
 std::vector<DocumentFinding> CheckDocument(const PassedOver& passedOver, const WorkHeard& heard) {
     Findings findings;
     TellPassedOver(passedOver, findings);

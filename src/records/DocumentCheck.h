@@ -10,6 +10,7 @@
 namespace vexora {
 
 class Record;
+class clsR;
 
 /// What cannot be true or cannot be used, what is doubtful or will be asked about, and what a
 /// careful reader would still like to know.
@@ -43,6 +44,10 @@ const Record* SampleBesideSystem();
 /// What is said of it.
 inline constexpr const char* BesideSystemText =
     "Complex sample composition does not correspond to the system definition";
+
+/// What a save leaves out of the file, to be said before it: compounds that came from a file, have
+/// no sample and are named by no mixture or reaction; mixtures without data.
+std::vector<std::string> LeftOutOfSave(clsR& source);
 
 /// Goes through the open document without asking or changing anything: lines that were passed over,
 /// gaps in the citation, what a save would drop or ask about, descriptions that cannot be taken

@@ -1,6 +1,5 @@
 // Opening, saving and emptying the document.
 
-#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
@@ -9,10 +8,7 @@
 #include "globals/KVOGlobal.h"
 #include "records/DocumentCheck.h"
 #include "records/LineWriter.h"
-#include "records/clsL.h"
-#include "records/clsM.h"
 #include "records/clsR.h"
-#include "records/clsS.h"
 #include "reference/Database.h"
 #include "reference/SafeFile.h"
 #include "shell/Deletion.h"
@@ -32,20 +28,6 @@ constexpr const char* XmlFiles = "ThermoML files (*.xml)";
 
 const clsR& Source() {
     return *Globals().recR.Item(std::size_t{1});
-}
-
-/// Compounds that came from a file and have no sample are left out of the file, unless a mixture
-/// or reaction names them.
-bool LosesCompounds(clsR& source) {
-    source.MarkCompounds();
-    return std::ranges::any_of(source.recL, [](const auto& compound) {
-        return compound->recS.IsEmpty() && !compound->isNew && !compound->isUsed;
-    });
-}
-
-bool LosesMixtures(const clsR& source) {
-    return std::ranges::any_of(source.recM,
-                               [](const auto& mixture) { return !mixture->HasData(); });
 }
 
 /// Prints what is to be written; nothing with the reason in error when that fails, or without one
@@ -272,12 +254,9 @@ bool frmMain::RefuseComplexes() {
 bool frmMain::WriteDocument() {
     if (RefuseComplexes()) return false;
     KVOGlobal& globals = Globals();
-    for (const auto& source : globals.recR) {
-        if (LosesCompounds(*source))
-            ui::Say("Some compounds do not have samples.\nThey will not be saved!");
-        if (LosesMixtures(*source))
-            ui::Say("Some mixtures do not have data.\nThey will not be saved!");
-    }
+    for (const auto& source : globals.recR)
+        for (const std::string& text : LeftOutOfSave(*source))
+            ui::Say(text);
     SaveOutcome outcome;
     // It may be stopped, but no later.
     const auto text = Printed([] { return DocumentAsRecords(); }, outcome.fault);

@@ -1,5 +1,7 @@
 #include "cli/CommandLineFixture.h"
 
+#include "reference/Text.h"
+
 namespace vexora::test {
 
 /// A folder with two good documents, a bad one, and files of other kinds.
@@ -67,6 +69,12 @@ TEST_F(ManyDocuments, ADocumentIsWrittenAnewUnlessItWouldLackLines) {
         << lossy.err;
     EXPECT_EQ(Read("later.txt"), kDocument + "^K of a later edition\n");
     EXPECT_FALSE(std::filesystem::exists(folder.File("later.txt.bak")));
+    folder.Write("bare.txt", Replace(kDocument, "^L 7732185", "^L 64175 DNNNN S\n^L 7732185"));
+    const Outcome bare = Run("save bare.txt");
+    EXPECT_EQ(bare.code, 1);
+    EXPECT_EQ(bare.err,
+              "bare.txt: warning: Some compounds do not have samples. They will not be saved!\n");
+    EXPECT_EQ(Read("bare.txt"), saved);
 }
 
 TEST_F(ManyDocuments, AReaderThatStopsIsTold) {
