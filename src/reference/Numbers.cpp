@@ -159,7 +159,10 @@ std::optional<double> NumberIn(std::string_view text) {
 }
 
 bool IsNumeric(std::string_view text) {
-    return NumberIn(text).has_value();
+    text = TrimBlanks(text);
+    const Beginning number = BeginningOf(text);
+    if (number.length == 0 || number.length != text.size()) return false;
+    return number.isPlain || Parse(text, number).has_value(); // a plain one is in range
 }
 
 double Val(std::string_view text) {
