@@ -35,6 +35,7 @@ QPalette Palette(bool dark) {
         palette.setColor(role, text);
         palette.setColor(QPalette::Disabled, role, faint);
     }
+    palette.setColor(QPalette::Disabled, QPalette::PlaceholderText, faint);
     return palette;
 }
 
@@ -140,8 +141,9 @@ public:
 
 private:
     bool IsPlain() const { return baseStyle()->name() == QLatin1String("fusion"); }
+    /// Also of what draws its edge itself.
     static bool IsPanel(const QWidget* widget) {
-        return widget && widget->metaObject() == &QFrame::staticMetaObject;
+        return !widget || widget->metaObject() == &QFrame::staticMetaObject;
     }
     static int BelowTitle(const QWidget* widget) {
         const auto* group = qobject_cast<const QGroupBox*>(widget);

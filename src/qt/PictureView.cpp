@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
+#include <QStyleOptionFrame>
 
 #include "qt/FormWindow.h"
 #include "qt/PicturePainter.h"
@@ -79,8 +80,10 @@ void Canvas::paintEvent(QPaintEvent*) {
     painter.resetTransform();
     if (!picture_.TakesFocus()) {
         painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setPen(palette().color(QPalette::Mid));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        QStyleOptionFrame edge;
+        edge.initFrom(this);
+        edge.lineWidth = 1;
+        style()->drawPrimitive(QStyle::PE_Frame, &edge, &painter);
     }
     if (!hasFocus()) return;
     QStyleOptionFocusRect mark;
