@@ -1,7 +1,9 @@
 #include "qt/PicturePainter.h"
 
+#include <array>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <tuple>
 
 #include <QBuffer>
@@ -74,14 +76,18 @@ public:
                   const QPalette& palette, bool copiesMarkers)
         : painter_(painter), across_(size.width() / picture.Width()),
           down_(size.height() / picture.Height()), palette_(palette),
-          radius_(painter.fontMetrics().height() * 0.28), copiesMarkers_(copiesMarkers) {}
+          radius_(painter.fontMetrics().height() * 0.28), copiesMarkers_(copiesMarkers) {
+        for (std::size_t at = 0; at < colours_.size(); ++at)
+            colours_[at] = MakeColour(static_cast<int>(at) - 1);
+    }
 
     void Paint(const Stroke& stroke) {
         const QPointF from(stroke.x * across_, stroke.y * down_);
         const QPointF to(stroke.x2 * across_, stroke.y2 * down_);
-        const QColor colour = Colour(stroke.colour);
-        painter_.setPen(colour);
-        painter_.setBrush(Qt::NoBrush);
+        const std::size_t place = PlaceOf(stroke.colour);
+        const QColor& colour = colours_[place];
+        if (stroke.shape == Shape::Marker) return Marker(from, stroke, place);
+        Take(place);
         switch (stroke.shape) {
         case Shape::Line:
             return painter_.drawLine(from, to);
@@ -89,19 +95,34 @@ public:
             return painter_.drawRect(QRectF(from, to).normalized());
         case Shape::Disc:
             painter_.setBrush(colour);
+            inHand_.reset();
             return painter_.drawEllipse(QRectF(from, to).normalized());
         case Shape::Text:
             return Text(from, stroke);
         case Shape::Marker:
-            return Marker(from, stroke, colour);
+            return;
         case Shape::Ring:
+            inHand_.reset();
             painter_.setPen(QPen(colour, radius_ * 0.4));
             return painter_.drawEllipse(from, radius_ * 2.2, radius_ * 2.2);
         }
     }
 
 private:
-    QColor Colour(int index) const {
+    static constexpr std::size_t ColourCount = ui::PictureColours.size() + 2;
+    static std::size_t PlaceOf(int index) {
+        return index < 1 ? std::size_t{index == 0}
+                         : 2 + static_cast<std::size_t>(index - 1) % ui::PictureColours.size();
+    }
+    /// Pen of a colour and no brush. Setting them costs more than a short line, and most strokes
+    /// are drawn as the one before.
+    void Take(std::size_t place) {
+        if (inHand_ == place) return;
+        painter_.setPen(colours_[place]);
+        painter_.setBrush(Qt::NoBrush);
+        inHand_ = place;
+    }
+    QColor MakeColour(int index) const {
         const QColor text = palette_.color(QPalette::Text);
         if (index < 0) return Faint(text, palette_.color(QPalette::Base));
         if (index == 0) return text;
@@ -127,18 +148,23 @@ private:
         }
         if (stroke.boxed) {
             painter_.setBrush(palette_.base());
+            inHand_.reset();
             painter_.drawRect(place.adjusted(-radius_, -1, radius_, 1));
         }
         painter_.drawText(at + QPointF(0, metrics.ascent()), text);
     }
 
     /// Thousands of markers are copies of a few small pictures.
-    void Marker(QPointF at, const Stroke& stroke, const QColor& colour) {
+    void Marker(QPointF at, const Stroke& stroke, std::size_t place) {
+        const QColor& colour = colours_[place];
         const QColor edge = stroke.dense ? colour : palette_.color(QPalette::Base);
         const double radius = stroke.dense ? radius_ * 0.6 : radius_;
-        if (stroke.hollow) return DrawMarker(painter_, at, stroke.marker, edge, colour, radius);
-        if (!copiesMarkers_) return DrawMarker(painter_, at, stroke.marker, colour, edge, radius);
-        QPixmap& copy = copies_[{stroke.marker, stroke.dense, colour.rgba()}];
+        if (stroke.hollow || !copiesMarkers_) {
+            inHand_.reset();
+            return DrawMarker(painter_, at, stroke.marker, stroke.hollow ? edge : colour,
+                              stroke.hollow ? colour : edge, radius);
+        }
+        QPixmap& copy = copies_[{stroke.marker, stroke.dense, place}];
         const double half = std::ceil(radius * 1.5);
         if (copy.isNull()) {
             const double sharpness = painter_.device()->devicePixelRatio();
@@ -158,7 +184,9 @@ private:
     double radius_; // of a marker
     std::vector<QRectF> taken_;
     bool copiesMarkers_;
-    std::map<std::tuple<int, bool, QRgb>, QPixmap> copies_;
+    std::map<std::tuple<int, bool, std::size_t>, QPixmap> copies_;
+    std::array<QColor, ColourCount> colours_; // faint, of texts, and the others
+    std::optional<std::size_t> inHand_;       // the colour whose pen the painter has
 };
 
 QPalette PaperPalette() {
