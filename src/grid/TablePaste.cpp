@@ -83,6 +83,8 @@ bool IsInvisible(char32_t c) {
 
 /// Blanks and minus signs of typesetters become those of a keyboard.
 std::string PlainCharacters(std::string_view line, std::size_t row, Notices& notices) {
+    if (std::ranges::all_of(line, [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+        return std::string(line);
     std::string plain;
     plain.reserve(line.size());
     for (std::size_t at = 0; at < line.size();) {
@@ -105,13 +107,14 @@ std::string PlainCharacters(std::string_view line, std::size_t row, Notices& not
     return plain;
 }
 
-/// Texts aligned to the right begin with blanks, which part no columns.
-std::string WithoutEdges(std::string_view line) {
-    std::string kept;
-    for (const std::string& cell : Split(line, '\t'))
-        kept.append(TrimBlanks(cell)).append("\t");
-    kept.pop_back();
-    return kept;
+/// What stands between the tabs. Texts aligned to the right begin with blanks, which part no
+/// columns.
+std::vector<std::string> PartsOf(std::string_view line) {
+    std::vector<std::string> parts = Split(line, '\t');
+    for (std::string& part : parts)
+        if (const std::string_view inner = TrimBlanks(part); inner.size() < part.size())
+            part = std::string(inner);
+    return parts;
 }
 
 /// What a comma in a number may have meant besides the decimal point.
@@ -198,7 +201,7 @@ std::vector<std::string> PiecesOf(const std::string& part, std::size_t row, Noti
 std::vector<std::string> CellsBetweenTabs(const std::string& line, std::size_t row,
                                           Decimals& decimals, Notices& notices) {
     std::vector<std::string> cells;
-    for (const std::string& part : Split(WithoutEdges(line), '\t')) {
+    for (const std::string& part : PartsOf(line)) {
         if (StandsForNothing(part)) {
             NoteNothing(part, "", row, notices);
             cells.emplace_back();
@@ -215,7 +218,12 @@ std::vector<std::string> CellsBetweenTabs(const std::string& line, std::size_t r
 std::vector<std::string> CellsOf(const std::string& line, bool tabbed, std::size_t row,
                                  Decimals& decimals, Notices& notices) {
     std::vector<std::string> cells;
-    for (const std::string& part : Split(WithoutEdges(line), '\t')) {
+    for (std::string& part : PartsOf(line)) {
+        if (IsNumeric(part)) { // most are; nothing is to be said of them
+            decimals.point = decimals.point || part.find('.') != part.npos;
+            cells.push_back(std::move(part));
+            continue;
+        }
         const std::vector<std::string> pieces = PiecesOf(part, row, notices);
         const bool parted = part.find(PlusMinus) != part.npos;
         if (tabbed && pieces.size() > (parted ? 2u : 1u))
