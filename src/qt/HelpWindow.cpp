@@ -135,7 +135,8 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void HelpWindow::Open(const std::string& topic) {
     if (topic == topic_) return;
-    browser_->setSource(QUrl::fromLocalFile(ToQt(folder_ + "/" + topic + ".html")));
+    const HelpPage* page = pages_.Find(topic);
+    if (page) browser_->setSource(QUrl::fromLocalFile(ToQt(folder_ + "/" + page->file)));
 }
 
 // Told while the browser still names the page before as its source.

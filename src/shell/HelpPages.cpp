@@ -44,6 +44,21 @@ HelpPage PageOf(const std::string& html) {
     return page;
 }
 
+/// The same of a page in Markdown: pictures are left out, and the marks of headings and stress.
+HelpPage PageOfMarkdown(const std::string& text) {
+    HelpPage page;
+    std::string words;
+    for (const std::string& line : Split(text, '\n')) {
+        if (line.starts_with("![")) continue;
+        if (page.title.empty() && line.starts_with("# "))
+            page.title = OneBlankEach(line.substr(2));
+        else
+            words += line.substr(std::min(line.find_first_not_of('#'), line.size())) + " ";
+    }
+    page.text = OneBlankEach(Replace(Replace(words, "**", ""), "`", ""));
+    return page;
+}
+
 bool IsInsideLetter(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
@@ -91,9 +106,11 @@ HelpPages HelpPages::Read(const std::string& folder, ui::FileSystem& files) {
         if (line.starts_with("# ")) section = line.substr(2);
         if (line.empty() || line.starts_with('#')) continue;
         const auto html = files.Read(JoinPath(folder, line + ".html"), error);
-        if (!html) continue;
-        pages.pages_.push_back(PageOf(ToUtf8(*html)));
+        const auto text = html ? html : files.Read(JoinPath(folder, line + ".md"), error);
+        if (!text) continue;
+        pages.pages_.push_back(html ? PageOf(ToUtf8(*html)) : PageOfMarkdown(ToUtf8(*text)));
         pages.pages_.back().topic = line;
+        pages.pages_.back().file = line + (html ? ".html" : ".md");
         pages.pages_.back().section = section;
     }
     return pages;

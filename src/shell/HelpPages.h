@@ -13,6 +13,7 @@ class FileSystem;
 /// A page of help as its readers find it.
 struct HelpPage {
     std::string topic;   // the context number, which is the name of its file without the ending
+    std::string file;    // with the ending: .html, or .md for a page that is read elsewhere too
     std::string title;   // its first heading
     std::string section; // the part of the contents that it stands in
     std::string text;    // all its words in one line, the title left out

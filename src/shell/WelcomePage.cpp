@@ -36,6 +36,14 @@ std::string LinesOfExamples(const std::vector<ExampleDocument>& examples) {
     return html;
 }
 
+/// The tour goes along with an installed workbench.
+std::string LineOfTour() {
+    const std::string page = JoinPath(Globals().InstalledFolder, "help/150.md");
+    if (!ui::TheDesktop().Files().Exists(page)) return {};
+    return Line(Linked("help:150", "Ten minutes with Vexora"),
+                "a tour of the examples, in pictures");
+}
+
 } // namespace
 
 std::vector<ExampleDocument> InstalledExamples() {
@@ -66,7 +74,7 @@ std::string WelcomeHtml(const std::vector<std::string>& recent,
     if (!recent.empty()) html += "<h3>Recent documents</h3>\n" + LinesOfRecent(recent);
     if (!examples.empty())
         html += "<h3>Examples</h3>\n<p>Each opens as a copy.</p>\n" + LinesOfExamples(examples);
-    return html + "<h3>Help</h3>\n" +
+    return html + "<h3>Help</h3>\n" + LineOfTour() +
            Line(Linked("help:120", "The way through a document"), "step by step") +
            Line(Linked("help:110", "This window"), "what it shows, and its keys");
 }

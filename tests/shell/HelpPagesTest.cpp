@@ -68,10 +68,12 @@ TEST_F(HelpPagesTest, EveryFormHasAPageOfItsOwnInTheContents) {
 }
 
 TEST_F(HelpPagesTest, ASearchFindsPagesWithAllWords) {
-    WriteText(folder.Path("contents.txt"), "# One\n3\n\n# Two\r\n1\n2\n9\n");
+    WriteText(folder.Path("contents.txt"), "# One\n3\n\n# Two\r\n1\n2\n9\n4\n");
     WriteText(folder.Path("1.html"),
               "<h1>Units &amp; factors</h1>\n<p>A <b>sample</b>, it<br>has none.");
     WriteText(folder.Path("2.html"), "<p>No title</p><p>Plot of units</p>");
+    WriteText(folder.Path("4.md"),
+              "# The tour\n\nSome **steps**\n\n![A step](tour/a.png)\n## Or `more`\n");
     const std::string filler = "letters without end and number ";
     WriteText(folder.Path("3.html"), "<h1>Samples</h1><p>" + filler + filler +
                                          "then the Units of\na caf\xC3\xA9 " + filler + filler +
@@ -89,7 +91,9 @@ TEST_F(HelpPagesTest, ASearchFindsPagesWithAllWords) {
     EXPECT_EQ(found(" SAMPLE  unit "), third + "1: A sample, it has none.\n");
     EXPECT_EQ(found("plot samples"), "");
     EXPECT_EQ(found(" \t"), "");
-    ASSERT_EQ(pages.Pages().size(), 3U); // the fourth cannot be read
+    ASSERT_EQ(pages.Pages().size(), 4U); // 9 cannot be read
+    EXPECT_EQ(found("steps"), "4: Some steps Or more\n");
+    EXPECT_EQ(pages.Find("4")->title + pages.Find("4")->file, "The tour4.md");
     EXPECT_EQ(pages.Find("1")->title, "Units & factors");
     EXPECT_EQ(pages.Find("1")->section + pages.Find("3")->section, "TwoOne");
     EXPECT_EQ(pages.Find("9"), nullptr);
