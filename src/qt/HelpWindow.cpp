@@ -5,9 +5,11 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QImage>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -29,11 +31,32 @@ constexpr int IndentColumns = 2;
 constexpr int PageMargin = 12; // pixels
 constexpr const char* PageStyle = "td { padding: 1px 14px 1px 0px; }";
 
+/// Shows a page; a picture that is wider than the page is made to fit.
+class PageBrowser : public QTextBrowser {
+protected:
+    QVariant loadResource(int type, const QUrl& url) override {
+        const QVariant resource = QTextBrowser::loadResource(type, url);
+        if (type != QTextDocument::ImageResource) return resource;
+        QImage image;
+        if (resource.userType() == QMetaType::QByteArray)
+            image.loadFromData(resource.toByteArray());
+        else
+            image = resource.value<QImage>();
+        const int first = fontMetrics().averageCharWidth() * (WindowColumns - ListColumns);
+        const int edges = 4 * PageMargin + verticalScrollBar()->sizeHint().width();
+        const int most = std::max(viewport()->width(), first) - edges;
+        if (image.isNull() || image.width() <= most) return resource;
+        // Of a picture with few colours the smooth one has many.
+        return image.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+            .scaledToWidth(most, Qt::SmoothTransformation);
+    }
+};
+
 } // namespace
 
 HelpWindow::HelpWindow(const std::string& folder, HelpPages pages, QWidget* parent)
     : QMainWindow(parent, Qt::Window), folder_(folder), pages_(std::move(pages)),
-      search_(new QLineEdit), list_(new QTreeWidget), browser_(new QTextBrowser) {
+      search_(new QLineEdit), list_(new QTreeWidget), browser_(new PageBrowser) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("HelpWindow"));
     AddTools();

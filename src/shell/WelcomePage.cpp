@@ -38,9 +38,9 @@ std::string LinesOfExamples(const std::vector<ExampleDocument>& examples) {
 
 /// The tour goes along with an installed workbench.
 std::string LineOfTour() {
-    const std::string page = JoinPath(Globals().InstalledFolder, "help/150.md");
+    const std::string page = JoinPath(Globals().InstalledFolder, "help/50.md");
     if (!ui::TheDesktop().Files().Exists(page)) return {};
-    return Line(Linked("help:150", "Ten minutes with Vexora"),
+    return Line(Linked("help:50", "Ten minutes with Vexora"),
                 "a tour of the examples, in pictures");
 }
 
