@@ -35,7 +35,8 @@ QSize Canvas::InCharacters(int columns, int lines) const {
 
 /// What is only looked at stands beside other things.
 QSize Canvas::sizeHint() const {
-    return picture_.TakesFocus() ? InCharacters(90, 28) : InCharacters(50, 16);
+    // Not asked of the picture: a change of the style reaches windows whose form has gone.
+    return focusPolicy() != Qt::NoFocus ? InCharacters(90, 28) : InCharacters(50, 16);
 }
 
 /// The whole widget, or the largest part in its middle that has the shape of the picture.
