@@ -290,7 +290,9 @@ std::optional<std::string> QtActor::PngOf(const ui::Picture& picture) {
 
 bool QtActor::Shot(const std::string& path) {
     Settle();
-    FormWindow* window = windows_.Front();
+    // Of the form in front and not of the active window, which a window manager may tell late.
+    const ui::Form* form = ui::Forms::IsPresent() ? ui::Forms::Current().Front() : nullptr;
+    FormWindow* window = form ? windows_.WindowOf(*form) : nullptr;
     return window && window->grab().save(ToQt(path));
 }
 
